@@ -1,0 +1,29 @@
+# One interface target for the language and code generation, one for warnings.
+
+add_library(tarn_options INTERFACE)
+target_compile_features(tarn_options INTERFACE cxx_std_20)
+# Layouts must come out the same to the last bit on every build: no fused multiply-add.
+target_compile_options(tarn_options INTERFACE -ffp-contract=off)
+
+if(TARN_SANITIZE)
+  target_compile_options(
+    tarn_options INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all
+                           -fno-omit-frame-pointer)
+  target_link_options(tarn_options INTERFACE -fsanitize=address,undefined)
+endif()
+
+if(TARN_COVERAGE)
+  target_compile_options(tarn_options INTERFACE --coverage -O0)
+  target_link_options(tarn_options INTERFACE --coverage)
+endif()
+
+add_library(tarn_warnings INTERFACE)
+target_compile_options(tarn_warnings INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wshadow)
+if(TARN_WERROR)
+  target_compile_options(tarn_warnings INTERFACE -Werror)
+endif()
+
+find_program(TARN_CCACHE ccache)
+if(TARN_CCACHE)
+  set(CMAKE_CXX_COMPILER_LAUNCHER ${TARN_CCACHE})
+endif()

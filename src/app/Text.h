@@ -1,0 +1,31 @@
+#pragma once
+
+#include "app/Types.h"
+
+#include <string>
+#include <string_view>
+
+namespace tarn {
+
+/// Breaks lines in message boxes and reports.
+inline constexpr std::string_view CrLf = "\r\n";
+
+/// The application's title: product title of every screen, title of every box.
+inline constexpr std::string_view ApplicationTitle = "SOLVANE 2040";
+
+/// The decimal text of a whole number, without blanks.
+std::string TrimStr(long long value);
+/// `text` without the blanks at both ends.
+std::string TrimStr(std::string_view text);
+
+/// `count` blanks; none for a negative count.
+std::string Space(long long count);
+
+/// Number of characters (not bytes) of a UTF-8 text.
+long long Len(std::string_view utf8);
+
+/// A length in whole inches as feet-and-inches text: Int(inches / 12), an apostrophe, inches Mod 12
+/// (with the sign of the length), a double quote. 30 gives 2'6".
+std::string FtInStr(Long inches);
+
+} // namespace tarn

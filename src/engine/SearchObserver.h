@@ -1,0 +1,23 @@
+#pragma once
+
+#include "app/Types.h"
+
+namespace tarn {
+
+/// What a search tells its caller while it runs. The default does nothing and never stops.
+/// Nothing it calls may touch the engine's arrays before Finished.
+class SearchObserver {
+  public:
+    virtual ~SearchObserver() = default;
+
+    /// The cases are counted: `maximum` placements will be scored.
+    virtual void Started([[maybe_unused]] Long maximum) {}
+    /// `done` of `maximum` placements are scored. False stops the search.
+    virtual bool Scored([[maybe_unused]] Long done) { return true; }
+    /// The layout is final and back in the caller's orientation: draw it.
+    virtual void Finished() {}
+    /// The search is over, in whatever way, also by an error.
+    virtual void Ended() noexcept {}
+};
+
+} // namespace tarn
