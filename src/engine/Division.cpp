@@ -1,0 +1,102 @@
+#include "engine/Division.h"
+
+#include "app/Lengths.h"
+#include "app/Numbers.h"
+#include "engine/Pieces.h"
+#include "engine/Placement.h"
+
+#include <algorithm>
+#include <array>
+
+namespace tarn {
+
+namespace {
+
+/// An option has one digit for the parts of a piece, so no piece has more.
+constexpr Integer MostParts = 10;
+
+/// The edges along the roll of the parts of one piece; part p lies between edges p and p + 1.
+using PartEdges = std::array<Single, MostParts + 1>;
+
+/// Append a copy of piece `i`; returns its row.
+Integer AppendCopy(EngineArrays& engine, Integer i) {
+    const Integer row = engine.PieceCount;
+    if (row >= MaxPiece) {
+        RaiseSubscript("There are more than 3000 pieces: estimate the rooms in two projects.");
+    }
+    engine.PCX1[row] = engine.PCX1[i];
+    engine.PCX2[row] = engine.PCX2[i];
+    engine.PCY1[row] = engine.PCY1[i];
+    engine.PCY2[row] = engine.PCY2[i];
+    engine.OrgPC[row] = engine.OrgPC[i];
+    engine.PCDivide[row] = engine.PCDivide[i];
+    engine.PCTurn[row] = engine.PCTurn[i];
+    engine.PCOrder[row] = engine.PCOrder[i];
+    CountUp(engine.PieceCount);
+    return row;
+}
+
+/// Put the parts into the piece arrays in place of piece `i`.
+void SwitchFill(EngineArrays& engine, Integer i, Integer parts, const PartEdges& edges) {
+    for (Integer part = 0; part < parts; ++part) {
+        const Integer row = part == 0 ? i : AppendCopy(engine, i);
+        engine.PCY1[row] = edges[static_cast<std::size_t>(part)];
+        engine.PCY2[row] = edges[static_cast<std::size_t>(part) + 1];
+    }
+}
+
+} // namespace
+
+void CopyFillPC(EngineArrays& engine) {
+    CopyRows(engine, engine.Undivided, engine.PieceCount);
+    engine.OrgCount = engine.PieceCount;
+}
+
+void RestoreFillPC(EngineArrays& engine) {
+    CopyRows(engine.Undivided, engine, engine.OrgCount);
+    engine.PieceCount = engine.OrgCount;
+}
+
+void CheckLargePC(EngineArrays& engine, Double dimScale) {
+    const Single usable = UsableWidth(engine);
+    const Integer count = engine.PieceCount;
+    for (Integer i = 0; i < count; ++i) {
+        const Single across = engine.PCX2[i] - engine.PCX1[i];
+        const Single width = CSng(static_cast<Double>(across) * dimScale);
+        if (IsWithinTolerance(width - usable)) {
+            continue;
+        }
+        const Integer strip = AppendCopy(engine, i);
+        engine.PCX2[strip] =
+            CSng(static_cast<Double>(engine.PCX1[i]) + static_cast<Double>(usable) / dimScale);
+        engine.PCDivide[strip] = 0;
+        engine.PCX1[i] = engine.PCX2[strip];
+    }
+    engine.OrgCount = engine.PieceCount;
+}
+
+void DivPiece(EngineArrays& engine, Integer i, Integer parts) {
+    constexpr Double RoundingUp = 0.9; // per part; shares below a tenth of a unit are dropped
+    const Single length = engine.PCY2[i] - engine.PCY1[i];
+    const auto top = static_cast<Double>(engine.PCY1[i]);
+    const Double share = Int((static_cast<Double>(length) + parts * RoundingUp) / parts);
+    const Double partLength = std::max(share, static_cast<Double>(engine.MinCut));
+    PartEdges edges{};
+    for (Integer edge = 0; edge <= parts; ++edge) {
+        edges.at(static_cast<std::size_t>(edge)) = CSng(edge * partLength + top);
+    }
+    SwitchFill(engine, i, parts, edges);
+}
+
+void DivideAll(EngineArrays& engine, const BoundedArray<Integer>& digits) {
+    engine.CutCount = 0;
+    for (Integer k = 0; k < engine.OrgCount; ++k) {
+        const auto parts = static_cast<Integer>(digits[k] + 1);
+        if (parts > 1) {
+            DivPiece(engine, k, parts);
+        }
+        engine.CutCount = ToInteger(engine.CutCount + parts);
+    }
+}
+
+} // namespace tarn

@@ -1,0 +1,70 @@
+#include "engine/Geometry.h"
+
+#include "app/Lengths.h"
+
+namespace tarn {
+
+namespace {
+
+/// The box that a segment spans, whichever way it runs.
+Box Spanned(const Segment& s) {
+    return {SingMin(s.X1, s.X2), SingMin(s.Y1, s.Y2), SingMax(s.X1, s.X2), SingMax(s.Y1, s.Y2)};
+}
+
+} // namespace
+
+bool PTInbox(Single px, Single py, const Box& box) {
+    return box.X1 < px && px < box.X2 && box.Y1 < py && py < box.Y2;
+}
+
+bool ISLineInsect(const Segment& a, const Segment& b) {
+    const Box boxA = Spanned(a);
+    const Box boxB = Spanned(b);
+    return boxA.X2 > boxB.X1 && boxA.X1 < boxB.X2 && boxA.Y2 > boxB.Y1 && boxA.Y1 < boxB.Y2;
+}
+
+bool ISLineInsect2(const Segment& a, const Segment& b) {
+    const Box boxA = Spanned(a);
+    const Box boxB = Spanned(b);
+    return boxA.X2 >= boxB.X1 && boxA.X1 <= boxB.X2 && boxA.Y2 >= boxB.Y1 && boxA.Y1 <= boxB.Y2;
+}
+
+bool ISLinePass(const Segment& segment, const Box& box) {
+    const Segment top{box.X1, box.Y1, box.X2, box.Y1};
+    const Segment right{box.X2, box.Y1, box.X2, box.Y2};
+    const Segment bottom{box.X1, box.Y2, box.X2, box.Y2};
+    const Segment left{box.X1, box.Y1, box.X1, box.Y2};
+    if (ISLineInsect(segment, top) || ISLineInsect(segment, right) ||
+        ISLineInsect(segment, bottom) || ISLineInsect(segment, left)) {
+        return true;
+    }
+    const bool spansAcross =
+        segment.X1 == box.X1 && segment.X2 == box.X2 && box.Y1 < segment.Y1 && segment.Y1 < box.Y2;
+    const bool spansAlong =
+        segment.Y1 == box.Y1 && segment.Y2 == box.Y2 && box.X1 < segment.X1 && segment.X1 < box.X2;
+    return spansAcross || spansAlong;
+}
+
+bool ISInsect(const Box& a, const Box& b) {
+    return ISLinePass({a.X1, a.Y1, a.X2, a.Y1}, b) || ISLinePass({a.X1, a.Y1, a.X1, a.Y2}, b) ||
+           ISLinePass({a.X2, a.Y1, a.X2, a.Y2}, b) || ISLinePass({a.X1, a.Y2, a.X2, a.Y2}, b);
+}
+
+Single CommonWidth(const Box& a, const Box& b) {
+    return SingMin(a.X2, b.X2) - SingMax(a.X1, b.X1);
+}
+
+Single CommonLength(const Box& a, const Box& b) {
+    return SingMin(a.Y2, b.Y2) - SingMax(a.Y1, b.Y1);
+}
+
+bool Overlaps(const Box& a, const Box& b) {
+    if (IsWithinTolerance(CommonWidth(a, b)) || IsWithinTolerance(CommonLength(a, b))) {
+        return false;
+    }
+    const Single centreX = (SingMax(a.X1, b.X1) + SingMin(a.X2, b.X2)) / 2;
+    const Single centreY = (SingMax(a.Y1, b.Y1) + SingMin(a.Y2, b.Y2)) / 2;
+    return PTInbox(centreX, centreY, a) && PTInbox(centreX, centreY, b);
+}
+
+} // namespace tarn

@@ -1,0 +1,172 @@
+#include "engine/MultiEstimate.h"
+
+#include "app/Numbers.h"
+#include "engine/Cases.h"
+#include "engine/CleanUp.h"
+#include "engine/Division.h"
+#include "engine/Pieces.h"
+#include "engine/Placement.h"
+
+#include <array>
+
+namespace tarn {
+
+namespace {
+
+/// The powers of the piece order, in the order in which every case tries them: area, width, length
+/// squared times width.
+constexpr std::array<Integer, 3> Modes{1, 0, 2};
+constexpr Long ModeCount = 3;
+
+constexpr Long NoLength = 32767; ///< best length before the first case
+
+constexpr const char* TooLongAdvice =
+    "The fills need more than 32767 inches of roll: estimate the rooms in two projects.";
+
+/// One search: scores cases and keeps the record of the best.
+class Search {
+  public:
+    Search(const SharedState& state, EngineArrays& engine, SearchObserver& observer)
+        : dimScale_(state.DimScale)
+        , engine_(engine)
+        , observer_(observer) {}
+
+    void Prepare(const SharedState& state) {
+        if (engine_.LayDir == 1) {
+            SwitchXY(engine_);
+        }
+        SwitchXY2(engine_);
+        CheckLargePC(engine_, dimScale_);
+        GetPieceSZ(engine_, dimScale_);
+        constexpr Integer LongestFirst = 2;
+        QuickSortPiece(engine_, 0, engine_.OrgCount, LongestFirst);
+        CopyFillPC(engine_);
+        DecodeOptions(state, engine_);
+        engine_.BestLen = NoLength;
+        engine_.BestMode = 0;
+        engine_.BestCase.Fill(0);
+        observer_.Started(ModeCount * (GetTotalCase(engine_) + engine_.MaxParts));
+    }
+
+    /// Both passes over the cases. False when the observer stopped the search.
+    bool Run() {
+        for (Long number = 0; number < engine_.CaseCount; ++number) {
+            DecodeCase(engine_, number);
+            if (!ScoreCase()) {
+                return false;
+            }
+        }
+        for (Integer most = 0; most < engine_.MaxParts; ++most) {
+            const bool fits = DeriveCase(engine_, most) <= MaxPiece;
+            if (!(fits ? ScoreCase() : SkipCase())) {
+                return false;
+            }
+        }
+        return true;
+    }
+
+    /// Lay the best case out for good and hand it back in the caller's orientation.
+    void LayOutBest() {
+        RestoreFillPC(engine_);
+        DivideAll(engine_, engine_.BestCase);
+        ReorderPiece(engine_, engine_.BestMode, dimScale_);
+        QuickSortPCOrder(engine_, 0, engine_.PieceCount);
+        CheckFill(engine_);
+        CombinePiece(engine_, dimScale_);
+        ShiftLeft(engine_);
+        ShowResultPic();
+        if (engine_.LayDir == 1) {
+            SwitchXY(engine_);
+        }
+        QuickSortOrgpc(engine_, 0, engine_.PieceCount);
+        SwitchXY2(engine_);
+    }
+
+  private:
+    /// The roll length that the case in CaseDigit needs in one piece order, inches.
+    Single GetPCSize(Integer mode) {
+        RestoreFillPC(engine_);
+        DivideAll(engine_, engine_.CaseDigit);
+        ReorderPiece(engine_, mode, dimScale_);
+        return GetPCLen(engine_);
+    }
+
+    bool ScoreCase() {
+        for (const Integer mode : Modes) {
+            const Long score = CLng(static_cast<Double>(GetPCSize(mode)));
+            if (score < engine_.BestLen) {
+                engine_.BestLen = score;
+                engine_.BestMode = mode;
+                for (Integer k = 0; k < engine_.OrgCount; ++k) {
+                    engine_.BestCase[k] = engine_.CaseDigit[k];
+                }
+            }
+            if (!observer_.Scored(++done_)) {
+                return false;
+            }
+        }
+        return true;
+    }
+
+    /// A case with more parts than there is room for counts as done.
+    bool SkipCase() {
+        done_ += ModeCount;
+        return observer_.Scored(done_);
+    }
+
+    /// The reported length: the length in use raised to a multiple of 3, by whole inches.
+    void ShowResultPic() {
+        const Double length = static_cast<Double>(GetPCLen(engine_));
+        try {
+            engine_.ResultLen = CInt(3 * Int((length + 2) / 3));
+        } catch (const RunTimeError& error) {
+            throw error.WithAdvice(TooLongAdvice);
+        }
+    }
+
+    Double dimScale_;
+    EngineArrays& engine_;
+    SearchObserver& observer_;
+    Long done_ = 0;
+};
+
+/// Tells the observer that the search is over, in whatever way.
+class EndNotice {
+  public:
+    explicit EndNotice(SearchObserver& observer)
+        : observer_(observer) {}
+    ~EndNotice() { observer_.Ended(); }
+    EndNotice(const EndNotice&) = delete;
+    EndNotice& operator=(const EndNotice&) = delete;
+
+  private:
+    SearchObserver& observer_;
+};
+
+SearchOutcome SearchAndLayOut(const SharedState& state, EngineArrays& engine,
+                              SearchObserver& observer) {
+    const EndNotice notice(observer);
+    if (engine.PieceCount > MaxPiece) {
+        RaiseSubscript();
+    }
+    Search search(state, engine, observer);
+    search.Prepare(state);
+    if (!search.Run()) {
+        return SearchOutcome::Stopped;
+    }
+    search.LayOutBest();
+    return SearchOutcome::Done;
+}
+
+} // namespace
+
+SearchOutcome MultiEstimate(const SharedState& state, EngineArrays& engine,
+                            SearchObserver& observer) {
+    const SearchOutcome outcome = SearchAndLayOut(state, engine, observer);
+    if (outcome == SearchOutcome::Done) {
+        observer.Finished();
+    }
+    return outcome;
+}
+
+} // namespace tarn
