@@ -1,0 +1,66 @@
+#pragma once
+
+#include "app/Types.h"
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace tarn {
+
+/// The colours of a drawing, by their code.
+enum class QBColor { Black = 0, Green = 2, Red = 12 };
+
+/// One step of a drawing. Positions and sizes are twips (1/1440 inch), type sizes points.
+struct DrawingStep {
+    enum class Kind { Box, Text };
+
+    Kind What = Kind::Box;
+    QBColor Color = QBColor::Black;
+    Double X1 = 0; ///< box: left; text: left of its first letter
+    Double Y1 = 0; ///< box: top; text: top of its line
+    Double X2 = 0; ///< box: right
+    Double Y2 = 0; ///< box: bottom
+    Double FontSize = 0;
+    std::string Text;
+    std::string Tip; ///< box: what it stands for, for viewers that show it on request
+};
+
+/// A drawing kept as a list of steps instead of pixels, so that it can be repainted at any size,
+/// printed sharp and written to a file. Text is in the face "Arial".
+class Picture {
+  public:
+    /// Where Print writes next, twips.
+    Double CurrentX = 0;
+    Double CurrentY = 0;
+    Double FontSize = 9; ///< points
+    QBColor ForeColor = QBColor::Black;
+    bool Visible = false;
+
+    /// Remove everything drawn and go to (0, 0).
+    void Cls();
+    /// Draw the outline of a rectangle.
+    void Line(Double x1, Double y1, Double x2, Double y2, QBColor color, std::string tip = {});
+    /// Write one line at (CurrentX, CurrentY) in FontSize and ForeColor; then go to the left edge,
+    /// one line height further down.
+    void Print(std::string_view text);
+
+    /// The height of a line in FontSize, twips.
+    Double LineHeight() const;
+    /// The width of a text in FontSize, twips, by the face's own letter widths.
+    Double TextWidth(std::string_view utf8) const;
+
+    const std::vector<DrawingStep>& Steps() const { return steps_; }
+    /// The farthest point drawn to the right and down, twips; 0 when nothing is drawn.
+    Double FarthestX() const { return farthestX_; }
+    Double FarthestY() const { return farthestY_; }
+
+  private:
+    void Reach(Double x, Double y);
+
+    std::vector<DrawingStep> steps_;
+    Double farthestX_ = 0;
+    Double farthestY_ = 0;
+};
+
+} // namespace tarn

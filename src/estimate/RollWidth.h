@@ -1,0 +1,34 @@
+#pragma once
+
+#include "app/Types.h"
+
+#include <array>
+#include <string>
+#include <string_view>
+
+namespace tarn {
+
+/// The captions of the four standard roll widths, narrowest first, and the number of the one that
+/// is chosen at first. The figure in the caption is the width: it is read from there.
+inline constexpr std::array<std::string_view, 4> ImperialWidthCaptions{
+    "CARPET WIDTH 6 FT.", "CARPET WIDTH 12 FT.", "CARPET WIDTH 13.5 FT.", "CARPET WIDTH 15 FT."};
+inline constexpr std::array<std::string_view, 4> MetricWidthCaptions{
+    "CARPET WIDTH 183 CMS", "CARPET WIDTH 366 CMS", "CARPET WIDTH 411 CMS", "CARPET WIDTH 457 CMS"};
+inline constexpr std::size_t DefaultWidth = 1;
+
+/// The captions in the unit in force.
+const std::array<std::string_view, 4>& WidthCaptions(bool metric);
+
+/// The roll width, in inches, that a caption names: the number behind "CARPET WIDTH", in feet, or
+/// in centimetres when metric.
+Single CaptionRollWidth(std::string_view caption, bool metric);
+
+/// The roll width, in inches, of a free width typed as feet and inches; also in metric mode.
+Single OtherRollWidth(std::string_view feet, std::string_view inches);
+
+/// Read a roll width as the command line takes it: 12ft, 13.5ft, 12ft6in, 150in or 366cm, in
+/// inches. Raises std::invalid_argument, with a text for the user, for anything else and for a
+/// width of 0 or less.
+Single ReadRollWidth(const std::string& text);
+
+} // namespace tarn

@@ -1,0 +1,40 @@
+#include "estimate/RunEstimate.h"
+
+#include "app/Numbers.h"
+#include "engine/MultiEstimate.h"
+#include "estimate/MatchPattern.h"
+#include "rooms/RoomExtents.h"
+
+namespace tarn {
+
+Integer PackEstOption(Integer minCut, Integer pieces) {
+    return ToInteger(10 * minCut + pieces - 1);
+}
+
+ConvertResult RunEstimate(SharedState& state, EngineArrays& engine, CarpetEstimate& estimate,
+                          const EstimateRequest& request, SearchObserver& observer) {
+    EmptyEstimate(state, engine, estimate);
+    engine.LayDir = request.DownLay ? 0 : 1;
+    engine.RollWidth = request.RollWidth;
+    state.EstOption = request.EstOption;
+    estimate.CarpetNo = request.Carpet;
+    estimate.MatchFlag = false;
+    if (request.Match) {
+        SetMatchPattern(estimate, request.Match->Width, request.Match->Length, state.IsMetric());
+    }
+    try {
+        RebuildRoomExtents(state);
+        const ConvertResult result = ConvertData(state, engine, estimate, request.DownLay);
+        if (result == ConvertResult::Fills &&
+            MultiEstimate(state, engine, observer) == SearchOutcome::Stopped) {
+            EmptyEstimate(state, engine, estimate);
+            return ConvertResult::Nothing;
+        }
+        return result;
+    } catch (const RunTimeError&) {
+        EmptyEstimate(state, engine, estimate);
+        throw;
+    }
+}
+
+} // namespace tarn

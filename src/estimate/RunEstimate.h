@@ -1,0 +1,38 @@
+#pragma once
+
+#include "app/SharedState.h"
+#include "engine/EngineArrays.h"
+#include "engine/SearchObserver.h"
+#include "estimate/CarpetEstimate.h"
+
+#include <optional>
+#include <string>
+
+namespace tarn {
+
+/// What is chosen for one estimate.
+struct EstimateRequest {
+    Byte Carpet = 0;       ///< covering code 0..7
+    Single RollWidth = 0;  ///< inches
+    bool DownLay = true;   ///< else cross lay
+    Integer EstOption = 0; ///< see SharedState::EstOption
+
+    /// A pattern repeat, as typed.
+    struct Repeat {
+        std::string Width;
+        std::string Length;
+    };
+    std::optional<Repeat> Match;
+};
+
+/// The positions of the options screen as EstOption: `minCut` 0..2 (3 ft, 1 ft 6, 1/2 ft) and
+/// `pieces` 1..6 per fill.
+Integer PackEstOption(Integer minCut, Integer pieces);
+
+/// The whole estimate of one carpet of the open project, as the screens make it: rebuild the
+/// extents of the rooms, cut them, and search for a layout of the pieces if there are any. A search
+/// that the observer stops, and an error, leave an empty estimate.
+ConvertResult RunEstimate(SharedState& state, EngineArrays& engine, CarpetEstimate& estimate,
+                          const EstimateRequest& request, SearchObserver& observer);
+
+} // namespace tarn

@@ -1,0 +1,102 @@
+#include "estimate/Svg.h"
+
+#include "app/Format.h"
+
+#include <string_view>
+
+namespace tarn {
+
+namespace {
+
+constexpr Double TwipsPerPixel = 15;
+constexpr Double TwipsPerPoint = 20;
+constexpr Double Margin = 100;        ///< beyond the farthest point drawn, twips
+constexpr Double LineWidth = 15;      ///< twips
+constexpr Double ArialAscent = 0.905; ///< from a line's top to its baseline, of the type size
+
+std::string Number(Double value) {
+    return Format(value, "0.00");
+}
+
+std::string Escaped(std::string_view text) {
+    std::string result;
+    for (const char c : text) {
+        switch (c) {
+        case '&':
+            result += "&amp;";
+            break;
+        case '<':
+            result += "&lt;";
+            break;
+        case '>':
+            result += "&gt;";
+            break;
+        case '"':
+            result += "&quot;";
+            break;
+        default:
+            // A control character is not allowed in a document, whatever its spelling.
+            result += static_cast<unsigned char>(c) < 0x20 ? ' ' : c;
+        }
+    }
+    return result;
+}
+
+std::string_view ColorText(QBColor color) {
+    switch (color) {
+    case QBColor::Green:
+        return "#008000";
+    case QBColor::Red:
+        return "#FF0000";
+    case QBColor::Black:
+        break;
+    }
+    return "#000000";
+}
+
+std::string Attribute(std::string_view name, std::string_view value) {
+    return " " + std::string(name) + "=\"" + std::string(value) + "\"";
+}
+
+std::string BoxElement(const DrawingStep& step) {
+    const std::string open =
+        "<rect" + Attribute("x", Number(step.X1)) + Attribute("y", Number(step.Y1)) +
+        Attribute("width", Number(step.X2 - step.X1)) +
+        Attribute("height", Number(step.Y2 - step.Y1)) + Attribute("stroke", ColorText(step.Color));
+    if (step.Tip.empty()) {
+        return open + "/>\n";
+    }
+    return open + "><title>" + Escaped(step.Tip) + "</title></rect>\n";
+}
+
+std::string TextElement(const DrawingStep& step) {
+    const Double size = step.FontSize * TwipsPerPoint;
+    return "<text" + Attribute("x", Number(step.X1)) +
+           Attribute("y", Number(step.Y1 + ArialAscent * size)) +
+           Attribute("font-size", Number(size)) + Attribute("fill", ColorText(step.Color)) + ">" +
+           Escaped(step.Text) + "</text>\n";
+}
+
+} // namespace
+
+std::string SvgDocument(const Picture& picture, const std::string& title) {
+    const Double width = picture.FarthestX() + Margin;
+    const Double height = picture.FarthestY() + Margin;
+    std::string svg = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
+                      "<svg xmlns=\"http://www.w3.org/2000/svg\"" +
+                      Attribute("width", Number(width / TwipsPerPixel)) +
+                      Attribute("height", Number(height / TwipsPerPixel)) +
+                      Attribute("viewBox", "0 0 " + Number(width) + " " + Number(height)) + ">\n";
+    svg += "<title>" + Escaped(title) + "</title>\n";
+    svg += "<rect width=\"100%\" height=\"100%\" fill=\"#FFFFFF\"/>\n";
+    svg += "<g fill=\"none\"" + Attribute("stroke-width", Number(LineWidth)) +
+           " font-family=\"Arial, Liberation Sans, Helvetica, sans-serif\""
+           " xml:space=\"preserve\" pointer-events=\"all\">\n";
+    for (const DrawingStep& step : picture.Steps()) {
+        svg += step.What == DrawingStep::Kind::Box ? BoxElement(step) : TextElement(step);
+    }
+    svg += "</g>\n</svg>\n";
+    return svg;
+}
+
+} // namespace tarn

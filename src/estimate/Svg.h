@@ -1,0 +1,13 @@
+#pragma once
+
+#include "estimate/Picture.h"
+
+#include <string>
+
+namespace tarn {
+
+/// A drawing as an SVG document: the rectangle from (0, 0) to the farthest point drawn and a small
+/// margin, at 15 twips to one pixel, on white paper.
+std::string SvgDocument(const Picture& picture, const std::string& title);
+
+} // namespace tarn
