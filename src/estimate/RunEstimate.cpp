@@ -23,7 +23,7 @@ ConvertResult RunEstimate(SharedState& state, EngineArrays& engine, CarpetEstima
         SetMatchPattern(estimate, request.Match->Width, request.Match->Length, state.IsMetric());
     }
     try {
-        RebuildRoomExtents(state);
+        BuildAllRoomExtents(state);
         const ConvertResult result = ConvertData(state, engine, estimate, request.DownLay);
         if (result == ConvertResult::Fills &&
             MultiEstimate(state, engine, observer) == SearchOutcome::Stopped) {
