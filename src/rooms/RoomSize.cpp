@@ -1,0 +1,63 @@
+#include "rooms/RoomSize.h"
+
+#include "app/Numbers.h"
+#include "app/Text.h"
+
+#include <QList>
+#include <QString>
+
+#include <algorithm>
+
+namespace tarn {
+
+namespace {
+
+Integer SmallUnits(bool metric) {
+    return metric ? 100 : 12;
+}
+
+/// Digits of every script, and signs such as ½ that stand for digits: dropping one would shorten
+/// the room.
+bool HasDigit(std::string_view utf8) {
+    const auto characters =
+        QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size())).toUcs4();
+    return std::any_of(characters.begin(), characters.end(),
+                       [](char32_t character) { return QChar::isNumber(character); });
+}
+
+bool HasBlankBetweenDigits(std::string_view text) {
+    constexpr std::string_view Digits = "0123456789";
+    const std::size_t first = text.find_first_of(Digits);
+    if (first == std::string_view::npos) {
+        return false;
+    }
+    const std::size_t last = text.find_last_of(Digits);
+    return text.substr(first, last - first).find_first_of(" \t") != std::string_view::npos;
+}
+
+} // namespace
+
+SizeParts SplitSize(Integer size, bool metric) {
+    const Integer units = SmallUnits(metric);
+    const Double major = Int(static_cast<Double>(size) / units);
+    return {TrimStr(static_cast<long long>(major)), TrimStr(Mod(size, units))};
+}
+
+Integer JoinSize(std::string_view major, std::string_view minor, bool metric) {
+    return CInt(Val(major) * SmallUnits(metric) + Val(minor));
+}
+
+bool IsRefusedSizeText(std::string_view text) {
+    const std::size_t length = ReadVal(text).Length;
+    return HasDigit(text.substr(length)) || HasBlankBetweenDigits(text.substr(0, length));
+}
+
+std::optional<Integer> ReadSize(std::string_view major, std::string_view minor, bool metric) {
+    if (IsRefusedSizeText(major) || IsRefusedSizeText(minor)) {
+        return std::nullopt;
+    }
+    const Integer size = JoinSize(major, minor, metric);
+    return size < 0 ? std::nullopt : std::optional<Integer>(size);
+}
+
+} // namespace tarn

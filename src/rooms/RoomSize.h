@@ -1,0 +1,40 @@
+#pragma once
+
+#include "app/Types.h"
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace tarn {
+
+/// A room size as the entry screen shows and takes it, in two texts: feet and inches, or metres and
+/// centimetres when metric.
+struct SizeParts {
+    std::string Major; ///< feet or metres
+    std::string Minor; ///< inches or centimetres
+
+    bool operator==(const SizeParts&) const = default;
+};
+
+/// Split a stored size (whole inches, or whole centimetres when `metric`). 150 inches gives 12 and
+/// 6. A negative size gives a floored major part and a minor part with the sign of the size, so
+/// joining the two does not give it back unless the minor part is 0.
+SizeParts SplitSize(Integer size, bool metric);
+
+/// The stored size that two typed texts make: CInt(Val(major) × 12 + Val(minor)), or × 100 when
+/// `metric`. Fractions count (12.5 feet are 150 inches), and so do 13 inches or 120 centimetres.
+/// Raises "Overflow" outside -32768 .. 32767.
+Integer JoinSize(std::string_view major, std::string_view minor, bool metric);
+
+/// Whether Val would read a size text otherwise than it looks: a further digit follows what Val
+/// reads (12'6, 3,45, 6½), or a blank or tab stands between two digits that it reads together
+/// (6 1/2 reads as 61). Text without digits behind the number (12 ft) is not refused. Raises
+/// "Overflow" as Val does.
+bool IsRefusedSizeText(std::string_view text);
+
+/// JoinSize of two texts that may be stored; nothing when either text is refused or the size is
+/// negative. Raises as JoinSize.
+std::optional<Integer> ReadSize(std::string_view major, std::string_view minor, bool metric);
+
+} // namespace tarn

@@ -1,0 +1,59 @@
+#include "rooms/WallBase.h"
+
+#include "app/Numbers.h"
+
+#include <QString>
+
+#include <algorithm>
+#include <array>
+
+namespace tarn {
+
+namespace {
+
+std::string UpperCase(std::string_view utf8) {
+    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()))
+        .toUpper()
+        .toStdString();
+}
+
+/// The count behind the first `side` of an upper-case text.
+Integer CountOf(std::string_view text, char side) {
+    constexpr Double Most = 2;
+    const std::size_t position = text.find(side);
+    if (position == std::string_view::npos) {
+        return 0;
+    }
+    return CInt(std::min(Val(text.substr(position + 1)), Most));
+}
+
+} // namespace
+
+std::string GetBaseStr(Byte code) {
+    static constexpr std::array<std::string_view, 9> Texts{"",     "W1", "W2",   "L1",  "W1L1",
+                                                           "W2L1", "L2", "W1L2", "W2L2"};
+    return code < Texts.size() ? std::string(Texts[code]) : std::string();
+}
+
+Byte CalBaseID(std::string_view text) {
+    const std::string upper = UpperCase(text);
+    return ToByte(CountOf(upper, 'L') * 3 + CountOf(upper, 'W'));
+}
+
+bool CheckBaseStr(std::string& text) {
+    text = UpperCase(text);
+    if (text.empty()) {
+        return true;
+    }
+    const bool beginsWithSide = text.front() == 'L' || text.front() == 'W';
+    return beginsWithSide && text.find_first_not_of("LW 12") == std::string::npos;
+}
+
+Integer BaseLen(Integer width, Integer length, Byte code) {
+    const Integer lengths = ToInteger(static_cast<long long>(length) * BaseLengths(code));
+    const Integer widths = ToInteger(static_cast<long long>(width) * BaseWidths(code));
+    const Integer raw = ToInteger(lengths + widths);
+    return ToInteger(raw + 3 - Mod(raw, 3));
+}
+
+} // namespace tarn

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "app/Types.h"
+
+#include <string>
+#include <string_view>
+
+namespace tarn {
+
+/// The wall-base code of a room says how many of its widths and lengths take wall base: widths +
+/// 3 × lengths, each 0 .. 2. 0 is no base; a stored code above 8 is none that can be typed.
+constexpr Integer BaseWidths(Byte code) {
+    return static_cast<Integer>(code % 3);
+}
+constexpr Integer BaseLengths(Byte code) {
+    return static_cast<Integer>(code / 3);
+}
+
+/// The text of a wall-base code: "W2L1" for 5; empty for 0 and for codes above 8.
+std::string GetBaseStr(Byte code);
+
+/// The wall-base code of a text, whatever its letter case: the number behind the first W is the
+/// count of widths, the number behind the first L that of lengths; none counts 0, more than 2
+/// counts 2. Meant for texts that CheckBaseStr accepts; raises "Overflow" for a code below 0
+/// (W-1) and for a number too large for a Double.
+Byte CalBaseID(std::string_view text);
+
+/// Whether `text` is a valid wall base: empty, or beginning with L or W and made of L, W, blanks,
+/// 1 and 2 alone. Puts `text` into upper case.
+bool CheckBaseStr(std::string& text);
+
+/// The base length that the report lists, in the unit of the sides: the sides that take base,
+/// raised to the next multiple of 3 that is strictly greater (100 gives 102, and so does 99).
+/// Totals are plain sums and do not use it. The products and their sum are Integers; raises
+/// "Overflow" when one of them, or the result, does not fit.
+Integer BaseLen(Integer width, Integer length, Byte code);
+
+} // namespace tarn

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "app/RunTimeError.h"
+
+#include <random>
+#include <string>
+
+namespace tarn::testing {
+
+/// The number of the run-time error that `action` raises, or 0 for none.
+template <typename Action>
+int ErrorNumberOf(Action action) {
+    try {
+        action();
+    } catch (const RunTimeError& error) {
+        return error.Number();
+    }
+    return 0;
+}
+
+/// A whole number 0 .. `bound` - 1, the same for a seed with every standard library.
+inline int Below(std::mt19937& random, int bound) {
+    return static_cast<int>(random() % static_cast<unsigned>(bound));
+}
+
+/// Up to `most` characters of several scripts, with everything that a CSV file treats specially.
+std::string RandomText(std::mt19937& random, int most);
+
+} // namespace tarn::testing
