@@ -1,0 +1,292 @@
+#include "rooms/RoomCsv.h"
+
+#include "app/Lengths.h"
+#include "app/Text.h"
+#include "rooms/Coverings.h"
+#include "rooms/CsvText.h"
+#include "rooms/WallBase.h"
+
+#include <QString>
+#include <QStringDecoder>
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <limits>
+#include <optional>
+
+namespace tarn {
+
+namespace {
+
+enum class Column { Width, Length, Covering, Base, Room, Remark };
+
+constexpr std::array<std::string_view, 6> ColumnNames{"width", "length", "covering",
+                                                      "base",  "room",   "remark"};
+constexpr std::size_t RequiredColumns = 3;
+
+std::string_view NameOf(Column column) {
+    return ColumnNames[static_cast<std::size_t>(column)];
+}
+
+QString ToQString(std::string_view utf8) {
+    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
+}
+
+bool IsUtf8(std::string_view bytes) {
+    QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
+    const QString decoded =
+        decoder(QByteArrayView(bytes.data(), static_cast<qsizetype>(bytes.size())));
+    return !decoder.hasError();
+}
+
+std::optional<Column> ColumnOf(std::string_view headerField) {
+    const std::string name = ToQString(headerField).trimmed().toLower().toStdString();
+    const auto* const found = std::find(ColumnNames.begin(), ColumnNames.end(), name);
+    if (found == ColumnNames.end()) {
+        return std::nullopt;
+    }
+    return static_cast<Column>(found - ColumnNames.begin());
+}
+
+// Each of the following sets one field of a room and answers what is wrong with the text, or
+// nothing.
+
+using Problem = std::string;
+
+Problem TakeSize(std::string_view field, bool metric, Integer& size) {
+    constexpr long long Most = std::numeric_limits<Integer>::max();
+    const std::string trimmed = TrimStr(field);
+    std::string_view text = trimmed;
+    if (text.empty()) {
+        return "is missing";
+    }
+    const bool negative = text.front() == '-';
+    if (negative) {
+        text.remove_prefix(1);
+    }
+    long long value = 0;
+    if (!text.empty() && text.find_first_not_of("0123456789") == std::string_view::npos) {
+        const auto result = std::from_chars(text.data(), text.data() + text.size(), value);
+        if (result.ec != std::errc()) {
+            value = Most + 1;
+        }
+    } else if (const auto inches = metric ? std::nullopt : ReadFtIn(text)) {
+        value = *inches;
+    } else {
+        return metric ? "is not a size in whole centimetres"
+                      : "is not a size in whole inches, or in feet and inches such as 12'6\"";
+    }
+    if (negative) {
+        return "is negative";
+    }
+    if (value > Most) {
+        return "is an overflow: a size is at most " + TrimStr(Most);
+    }
+    size = static_cast<Integer>(value);
+    return {};
+}
+
+Problem TakeCovering(std::string_view field, Byte& covering) {
+    if (TrimStr(field).empty()) {
+        return "is missing";
+    }
+    const auto code = ReadCovering(field);
+    if (!code) {
+        return "is not a covering: " + CoveringCaption(0) + " to " +
+               CoveringCaption(FirstTileCode - 1) + ", " + CoveringCaption(FirstTileCode) + " to " +
+               CoveringCaption(LastTileCode) + ", or short as " + CoveringReportText(0) + " or " +
+               CoveringReportText(FirstTileCode);
+    }
+    covering = *code;
+    return {};
+}
+
+Problem CheckLength(std::string_view text, long long most) {
+    if (Len(text) > most) {
+        return "has more than " + TrimStr(most) + " characters";
+    }
+    return {};
+}
+
+Problem TakeBase(std::string_view field, Byte& base) {
+    std::string text = TrimStr(field);
+    if (Problem problem = CheckLength(text, MaxBaseTextLength); !problem.empty()) {
+        return problem;
+    }
+    if (!CheckBaseStr(text)) {
+        return "is not a wall base: L or W with 1 or 2, such as " + GetBaseStr(5);
+    }
+    base = CalBaseID(text);
+    return {};
+}
+
+Problem TakeText(std::string_view field, long long most, std::string& text) {
+    text = field;
+    return CheckLength(field, most);
+}
+
+Problem TakeField(Column column, std::string_view field, bool metric, RoomRecord& room) {
+    if (!IsUtf8(field)) {
+        return "is not valid UTF-8";
+    }
+    switch (column) {
+    case Column::Width:
+        return TakeSize(field, metric, room.Width);
+    case Column::Length:
+        return TakeSize(field, metric, room.Length);
+    case Column::Covering:
+        return TakeCovering(field, room.Covering);
+    case Column::Base:
+        return TakeBase(field, room.Base);
+    case Column::Room:
+        return TakeText(field, MaxRoomNoLength, room.RoomNo);
+    case Column::Remark:
+        return TakeText(field, MaxRemarkLength, room.Remark);
+    }
+    return {};
+}
+
+class RoomCsvReader {
+  public:
+    explicit RoomCsvReader(bool metric)
+        : metric_(metric) {}
+
+    RoomCsvReading Read(std::string_view text) && {
+        const std::vector<CsvRecord> records = SplitCsv(text);
+        if (records.empty()) {
+            AddError(1, "the file is empty");
+            return std::move(reading_);
+        }
+        ReadHeader(records.front());
+        for (std::size_t i = 1; i < records.size(); ++i) {
+            if (i == static_cast<std::size_t>(RoomCapacity) + 1) {
+                AddError(records[i].Line, std::string(ProjectFullText));
+            }
+            ReadRoom(records[i]);
+        }
+        if (!reading_.Succeeded()) {
+            reading_.Rooms.clear();
+        }
+        return std::move(reading_);
+    }
+
+  private:
+    void AddError(long long line, std::string problem) {
+        reading_.Errors.push_back({line, {}, {}, std::move(problem)});
+    }
+    void AddError(long long line, std::string_view field, std::string value, std::string problem) {
+        reading_.Errors.push_back({line, std::string(field), std::move(value), std::move(problem)});
+    }
+
+    /// Report the fault of a record, if it has one; whether it has.
+    bool ReportFault(const CsvRecord& record) {
+        if (record.Fault == CsvFault::None) {
+            return false;
+        }
+        const std::size_t faulty = record.FaultyField;
+        const bool known = faulty < columns_.size() && columns_[faulty].has_value();
+        AddError(record.Line, known ? NameOf(*columns_[faulty]) : "field", record.Fields[faulty],
+                 record.Fault == CsvFault::UnclosedQuote ? "has a quote that is never closed"
+                                                         : "has text behind its closing quote");
+        return true;
+    }
+
+    void ReadHeader(const CsvRecord& header) {
+        constexpr std::string_view HeaderField = "column";
+        if (ReportFault(header)) {
+            columns_.resize(header.Fields.size());
+            return;
+        }
+        for (const std::string& field : header.Fields) {
+            const auto column = ColumnOf(field);
+            if (!column) {
+                AddError(header.Line, HeaderField, field, "is unknown");
+            } else if (Has(*column)) {
+                AddError(header.Line, HeaderField, field, "appears twice");
+            }
+            columns_.push_back(column);
+        }
+        for (std::size_t i = 0; i < RequiredColumns; ++i) {
+            if (!Has(static_cast<Column>(i))) {
+                AddError(header.Line, HeaderField, std::string(ColumnNames[i]), "is missing");
+            }
+        }
+    }
+
+    bool Has(Column column) const {
+        return std::find(columns_.begin(), columns_.end(), column) != columns_.end();
+    }
+
+    void ReadRoom(const CsvRecord& record) {
+        if (ReportFault(record)) {
+            return;
+        }
+        if (record.Fields.size() != columns_.size()) {
+            AddError(record.Line, "the line has " +
+                                      TrimStr(static_cast<long long>(record.Fields.size())) +
+                                      " fields and the header " +
+                                      TrimStr(static_cast<long long>(columns_.size())));
+            return;
+        }
+        RoomRecord room;
+        for (std::size_t i = 0; i < columns_.size(); ++i) {
+            if (const auto column = columns_[i]) {
+                std::string problem = TakeField(*column, record.Fields[i], metric_, room);
+                if (!problem.empty()) {
+                    AddError(record.Line, NameOf(*column), record.Fields[i], std::move(problem));
+                }
+            }
+        }
+        reading_.Rooms.push_back(std::move(room));
+    }
+
+    bool metric_;
+    std::vector<std::optional<Column>> columns_; ///< by field; nothing for one that is left out
+    RoomCsvReading reading_;
+};
+
+/// A value for one line of text: control characters as blanks, invalid bytes as replacement
+/// characters, and not too long.
+std::string Shown(std::string_view value) {
+    constexpr qsizetype Most = 40;
+    QString text = ToQString(value);
+    std::replace_if(
+        text.begin(), text.end(), [](QChar c) { return c.category() == QChar::Other_Control; },
+        QLatin1Char(' '));
+    if (text.size() > Most) {
+        text.truncate(Most);
+        if (text.back().isHighSurrogate()) {
+            text.chop(1);
+        }
+        text += QStringLiteral("...");
+    }
+    return text.toStdString();
+}
+
+} // namespace
+
+std::string ErrorText(const RoomCsvError& error) {
+    const std::string line = "line " + TrimStr(error.Line) + ": ";
+    if (error.Field.empty()) {
+        return line + error.Problem;
+    }
+    return line + error.Field + " \"" + Shown(error.Value) + "\" " + error.Problem;
+}
+
+RoomCsvReading ReadRoomCsv(std::string_view text, bool metric) {
+    return RoomCsvReader(metric).Read(text);
+}
+
+std::string WriteRoomCsv(const std::vector<RoomRecord>& rooms) {
+    std::string text;
+    AppendCsvRecord(text, {ColumnNames.begin(), ColumnNames.end()});
+    for (const RoomRecord& room : rooms) {
+        AppendCsvRecord(text,
+                        {TrimStr(room.Width), TrimStr(room.Length), CoveringCaption(room.Covering),
+                         GetBaseStr(room.Base), room.RoomNo, room.Remark});
+    }
+    return text;
+}
+
+} // namespace tarn
