@@ -1,0 +1,132 @@
+#include "rooms/Report.h"
+
+#include "app/Format.h"
+#include "app/Numbers.h"
+#include "app/RunTimeError.h"
+#include "app/Text.h"
+#include "rooms/Coverings.h"
+#include "rooms/WallBase.h"
+
+#include <QDate>
+#include <QLocale>
+
+namespace tarn {
+
+namespace {
+
+/// `text` and the blanks that fill it up to `width` characters.
+std::string Padded(std::string_view text, long long width) {
+    return std::string(text) + Space(width - Len(text));
+}
+
+constexpr std::string_view FirstHeading =
+    " ITEM                                      SQ.     CARPET             BASE         ROOM";
+constexpr std::string_view MetricHeading =
+    "   No.      WIDTH   LENGTH     METERS    /TILE   BASE     LENGTH     No.       REMARK";
+constexpr std::string_view ImperialHeading =
+    "   No.      WIDTH   LENGTH      Yrds     /TILE   BASE     LENGTH     No.       REMARK";
+
+std::string Heading(const SharedState& state, std::string_view date) {
+    std::string text;
+    const auto addLine = [&text](std::string_view line) { text.append(line).append(CrLf); };
+    addLine("");
+    addLine(Space(55) + "ENTERED DATA REPORT");
+    addLine("");
+    addLine(Space(5).append(date));
+    addLine(Space(5) + "PROJECT NAME:   " + Padded(state.CurProjName, 30));
+    addLine("");
+    addLine(FirstHeading);
+    addLine(state.IsMetric() ? MetricHeading : ImperialHeading);
+    addLine(std::string(75, '='));
+    return text;
+}
+
+/// Width, X, length and the gap before the area.
+std::string SizeColumns(Integer width, Integer length, bool metric) {
+    const std::string plainWidth = TrimStr(width);
+    const std::string plainLength = TrimStr(length);
+    const std::string gap = Space(CInt(4 - static_cast<Double>(Len(plainWidth)) / 2));
+    if (metric) {
+        return plainWidth + gap + "X" + gap + Padded(plainLength, 7);
+    }
+    const std::string widthText = FtInStr(width);
+    const std::string lengthText = FtInStr(length);
+    // Nine characters, the shortest there are (0'0"X0'0"), get one blank less than the row of the
+    // others would give them.
+    const long long characters = Len(widthText + "X" + lengthText);
+    const long long behind = characters == 9 ? 14 : 33 - 2 * characters;
+    return widthText + gap + "X" + gap + lengthText + Space(behind);
+}
+
+/// Square metres or square yards, and the gap behind.
+std::string AreaColumn(Integer width, Integer length, bool metric) {
+    constexpr std::string_view Pattern = "###0.00";
+    const Double area = CSng(static_cast<Double>(width) * length);
+    const std::string metricText = Format(area / 10000, Pattern);
+    const std::string text = metric ? metricText : Format(area / 144 / 9, Pattern);
+    return text + Space(11 - Len(metricText));
+}
+
+Integer BaseLenOfRoom(const SharedState& state, Integer room) {
+    try {
+        return BaseLen(state.RoomWidth[room], state.RoomLength[room], state.RoomBase[room]);
+    } catch (const RunTimeError& error) {
+        throw error.WithAdvice(
+            "The wall base of room " + TrimStr(room + 1) + " is longer than 32767 " +
+            (state.IsMetric() ? "centimetres" : "inches") + ": correct its size or its base.");
+    }
+}
+
+/// Base text, base length and the gap before the room number. `numberLength` is that of the
+/// covering's number.
+std::string BaseColumns(const SharedState& state, Integer room, long long numberLength) {
+    const std::string base = GetBaseStr(state.RoomBase[room]);
+    if (state.RoomBase[room] == 0) {
+        return base + Space(12 - numberLength);
+    }
+    const Integer baseLen = BaseLenOfRoom(state, room);
+    if (state.IsMetric()) {
+        return Padded(base, 13) + Padded(TrimStr(baseLen), 12);
+    }
+    const std::string text = FtInStr(baseLen);
+    const long long characters = Len(text);
+    const long long counted = characters == 4 ? 4 : characters == 5 ? 6 : characters + 2;
+    return base + Space(9 - numberLength) + text + Space(12 - counted);
+}
+
+std::string Row(const SharedState& state, Integer room) {
+    const Integer width = state.RoomWidth[room];
+    const Integer length = state.RoomLength[room];
+    const Byte covering = state.RoomCarpet[room];
+    const long long numberLength = Len(TrimStr(CoveringNumber(covering)));
+
+    std::string row = Space(4) + Padded(TrimStr(room + 1), 10);
+    row += SizeColumns(width, length, state.IsMetric());
+    row += AreaColumn(width, length, state.IsMetric());
+    row += CoveringReportText(covering) + Space(5 - numberLength);
+    row += BaseColumns(state, room, numberLength);
+    row += Padded(state.RoomNoStr[room], 9);
+    row += state.RoomRemark[room] + Space(4);
+    return row.append(CrLf);
+}
+
+} // namespace
+
+std::string LoadReport(const SharedState& state, std::string_view date) {
+    std::string text = Heading(state, date);
+    for (Integer room = 0; room < state.ObjNum; ++room) {
+        text += Row(state, room);
+    }
+    return text;
+}
+
+std::string ShortDate(int year, int month, int day) {
+    return QLocale::system().toString(QDate(year, month, day), QLocale::ShortFormat).toStdString();
+}
+
+std::string ShortDateOfToday() {
+    const QDate today = QDate::currentDate();
+    return ShortDate(today.year(), today.month(), today.day());
+}
+
+} // namespace tarn

@@ -1,0 +1,321 @@
+#include "rooms/Report.h"
+#include "rooms/RoomRecord.h"
+#include "rooms/RoomTesting.h"
+
+#include <QDate>
+#include <QString>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <array>
+
+namespace tarn {
+namespace {
+
+using testing::Below;
+using testing::RandomText;
+
+SharedState StateWith(const std::vector<RoomRecord>& rooms, bool metric,
+                      const std::string& project = "MAPLE HOUSE") {
+    SharedState state;
+    state.MetricFlag = metric ? 1 : 0;
+    state.CurProjName = project;
+    PutRooms(state, rooms);
+    return state;
+}
+
+std::string WithCrLf(std::string_view text) {
+    std::string result;
+    for (const char c : text) {
+        result += c == '\n' ? "\r\n" : std::string(1, c);
+    }
+    return result;
+}
+
+/// The rows of a report, without its nine lines of heading.
+std::string RowsOf(const std::string& report) {
+    std::size_t begin = 0;
+    for (int line = 0; line < 9; ++line) {
+        begin = report.find("\r\n", begin) + 2;
+    }
+    return report.substr(begin);
+}
+
+std::string RowOf(const RoomRecord& room, bool metric) {
+    return RowsOf(LoadReport(StateWith({room}, metric), ""));
+}
+
+// clang-format off
+TEST(LoadReport, ListsAnImperialProjectToTheCharacter) {
+    const SharedState state = StateWith({{150, 168, 0, 0, "101", "Front room"},
+                                         {120, 144, 7, 5, "12", ""},
+                                         {9, 8, 9, 1, "", "Closet"},
+                                         {1211, 1319, 2, 6, "GROUND-7", "Hall, \"long\""},
+                                         {0, 150, 0, 0, "9", "not cut"}}, false);
+    EXPECT_EQ(LoadReport(state, "11/21/2031"), WithCrLf(
+"\n"
+"                                                       ENTERED DATA REPORT\n"
+"\n"
+"     11/21/2031\n"
+"     PROJECT NAME:   MAPLE HOUSE                   \n"
+"\n"
+" ITEM                                      SQ.     CARPET             BASE         ROOM\n"
+"   No.      WIDTH   LENGTH      Yrds     /TILE   BASE     LENGTH     No.       REMARK\n"
+"===========================================================================\n"
+"    1         12'6\"  X  14'0\"           19.44       C1               101      Front room    \n"
+"    2         10'0\"  X  12'0\"           13.33       C8    W2L1        32'3\"      12           \n"
+"    3         0'9\"    X    0'8\"              0.06       T2    W1        1'0\"                 Closet    \n"
+"    4         100'11\"  X  109'11\"   1232.49     C3    L2        220'0\"    GROUND-7 Hall, \"long\"    \n"
+"    5         0'0\"    X    12'6\"             0.00       C1               9        not cut    \n"));
+}
+
+TEST(LoadReport, ListsAMetricProjectToTheCharacter) {
+    const SharedState state = StateWith({{350, 420, 1, 5, "3", ""},
+                                         {95, 1250, 11, 0, "Zimmer 9", "Küche"},
+                                         {7, 12345, 7, 1, "A", "x"},
+                                         {32767, 32767, 0, 0, "", "Halle"}},
+                                        true, "EINFAMILIENHAUS MÜLLER, ERLENGRUND");
+    EXPECT_EQ(LoadReport(state, "21.11.31"), WithCrLf(
+"\n"
+"                                                       ENTERED DATA REPORT\n"
+"\n"
+"     21.11.31\n"
+"     PROJECT NAME:   EINFAMILIENHAUS MÜLLER, ERLENGRUND\n"
+"\n"
+" ITEM                                      SQ.     CARPET             BASE         ROOM\n"
+"   No.      WIDTH   LENGTH     METERS    /TILE   BASE     LENGTH     No.       REMARK\n"
+"===========================================================================\n"
+"    1         350  X  420    14.70      C2    W2L1         1122        3            \n"
+"    2         95   X   1250   11.88      T4               Zimmer 9 Küche    \n"
+"    3         7    X    12345  8.64       C8    W1           9           A        x    \n"
+"    4         32767  X  32767  107367.63  C1                        Halle    \n"));
+}
+
+TEST(LoadReport, EndsAfterTheRuleWhenThereAreNoRooms) {
+    EXPECT_EQ(LoadReport(StateWith({}, false, ""), ""), WithCrLf(
+"\n"
+"                                                       ENTERED DATA REPORT\n"
+"\n"
+"     \n"
+"     PROJECT NAME:                                 \n"
+"\n"
+" ITEM                                      SQ.     CARPET             BASE         ROOM\n"
+"   No.      WIDTH   LENGTH      Yrds     /TILE   BASE     LENGTH     No.       REMARK\n"
+"===========================================================================\n"));
+}
+
+TEST(LoadReport, OfAMetric350By420RoomWithW2L1ShowsItsSquareMetresAndRaisedBaseLength) {
+    EXPECT_EQ(RowOf({350, 420, 1, 5, "", ""}, true),
+              "    1         350  X  420    14.70      C2    W2L1         1122                     \r\n");
+}
+
+TEST(LoadReport, OfAnImperial150By168RoomHasElevenBlanksBeforeItsSquareYards) {
+    EXPECT_EQ(RowOf({150, 168, 0, 0, "", ""}, false),
+              "    1         12'6\"  X  14'0\"           19.44       C1                            \r\n");
+}
+
+TEST(LoadReport, ShowsT2ForTileCodeNine) {
+    EXPECT_EQ(RowOf({100, 100, 9, 0, "", ""}, true),
+              "    1         100  X  100    1.00       T2                            \r\n");
+}
+
+TEST(LoadReport, PutsTheRoomNumberUnderTheBaseLengthWhenThereIsNoBase) {
+    const std::string without = RowOf({100, 100, 0, 0, "no", ""}, true);
+    const std::string with = RowOf({100, 100, 0, 1, "no", ""}, true);
+    EXPECT_EQ(without, "    1         100  X  100    1.00       C1               no           \r\n");
+    EXPECT_EQ(with, "    1         100  X  100    1.00       C1    W1           102         no           \r\n");
+}
+
+TEST(LoadReport, ShowsTheBaseLengthOfAnUnknownBaseCodeWithoutItsText) {
+    EXPECT_EQ(RowOf({100, 100, 0, 9, "", ""}, true),
+              "    1         100  X  100    1.00       C1                 303                      \r\n");
+}
+
+TEST(LoadReport, HoldsTheAreaAsASingle) {
+    EXPECT_EQ(RowOf({30001, 30035, 0, 0, "", ""}, true), // 901080035 is rounded to 901080064
+              "    1         30001  X  30035  90108.01   C1                            \r\n");
+}
+
+TEST(LoadReport, PadsNothingWhereATextIsTooLong) {
+    EXPECT_EQ(RowOf({100, 100, 0, 0, "0123456789", "x"}, true),
+              "    1         100  X  100    1.00       C1               0123456789x    \r\n");
+    EXPECT_EQ(RowOf({32759, 32759, 0, 0, "", ""}, false), // 33 - 2 × 17 blanks behind the length
+              "    1         2729'11\"  X  2729'11\"828049.43  C1                            \r\n");
+}
+// clang-format on
+
+TEST(LoadReport, CountsCharactersNotBytes) {
+    EXPECT_EQ(RowOf({100, 100, 0, 0, "Büro", "x"}, true),
+              "    1         100  X  100    1.00       C1               Büro     x    \r\n");
+    const std::string report = LoadReport(StateWith({}, true, "浴室"), "");
+    EXPECT_NE(report.find("NAME:   浴室" + std::string(28, ' ') + "\r\n"), std::string::npos);
+}
+
+TEST(LoadReport, NamesTheRoomWhoseBaseLengthOverflows) {
+    for (const bool metric : {false, true}) {
+        const SharedState state =
+            StateWith({{100, 100, 0, 8, "", ""}, {20000, 20000, 0, 8, "", ""}}, metric);
+        try {
+            LoadReport(state, "");
+            FAIL() << "no overflow";
+        } catch (const RunTimeError& error) {
+            EXPECT_EQ(error.Number(), OverflowNumber);
+            EXPECT_EQ(error.Advice(), std::string("The wall base of room 2 is longer than 32767 ") +
+                                          (metric ? "centimetres" : "inches") +
+                                          ": correct its size or its base.");
+        }
+    }
+}
+
+TEST(LoadReport, EndsEveryLineWithBothCharacters) {
+    const std::string report = LoadReport(StateWith(std::vector<RoomRecord>(12), false), "x");
+    int lines = 0;
+    for (std::size_t i = 0; i < report.size(); ++i) {
+        if (report[i] == '\n') {
+            ASSERT_GT(i, 0U);
+            EXPECT_EQ(report[i - 1], '\r');
+            ++lines;
+        }
+    }
+    EXPECT_EQ(lines, 9 + 12);
+    EXPECT_EQ(report.substr(report.size() - 2), "\r\n");
+}
+
+// --- rows computed a second time, in whole numbers and one blank after the other ---
+
+std::string Blanks(long long count) {
+    std::string blanks;
+    for (; count > 0; --count) {
+        blanks += ' ';
+    }
+    return blanks;
+}
+
+long long Characters(std::string_view text) {
+    long long count = 0;
+    while (!text.empty()) {
+        const auto lead = static_cast<unsigned char>(text.front());
+        text.remove_prefix(lead < 0x80 ? 1 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : 4);
+        ++count;
+    }
+    return count;
+}
+
+std::string FeetAndInches(int inches) {
+    return std::to_string(inches / 12) + "'" + std::to_string(inches % 12) + "\"";
+}
+
+/// area / divisor with two places, halves away from zero.
+std::string TwoPlaces(long long area, long long divisor) {
+    const long long hundredths = (200 * area + divisor) / (2 * divisor);
+    const std::string places = std::to_string(hundredths % 100);
+    return std::to_string(hundredths / 100) + "." + (places.size() < 2 ? "0" : "") + places;
+}
+
+/// Blanks on either side of the X, by the number of digits of the width: 4 less half of it.
+int GapAroundX(std::size_t digits) {
+    constexpr std::array Gaps{4, 3, 2, 2, 2}; // 3.5, 3, 2.5, 2, 1.5
+    return Gaps.at(digits - 1);
+}
+
+std::string ExpectedRow(const RoomRecord& room, int number, bool metric) {
+    const std::string no = std::to_string(number);
+    const std::string ws = std::to_string(room.Width);
+    const std::string ls = std::to_string(room.Length);
+    const auto area = static_cast<long long>(static_cast<float>(room.Width * room.Length));
+    const std::string squareMetres = TwoPlaces(area, 10000);
+    const std::string gap = Blanks(GapAroundX(ws.size()));
+
+    std::string row = "    " + no + Blanks(10 - Characters(no));
+    if (metric) {
+        row += ws + gap + "X" + gap + ls + Blanks(7 - Characters(ls)) + squareMetres;
+    } else {
+        const std::string wide = FeetAndInches(room.Width);
+        const std::string along = FeetAndInches(room.Length);
+        long long n = Characters(wide) + 1 + Characters(along);
+        const long long k = n <= 8 ? 17 : 24 - n;
+        if (k + 9 - n == 15) {
+            ++n;
+        }
+        row += wide + gap + "X" + gap + along + Blanks(k + 9 - n) + TwoPlaces(area, 1296);
+    }
+    row += Blanks(11 - Characters(squareMetres));
+
+    const bool carpet = room.Covering < 8;
+    row += carpet ? "C" : "T";
+    row += std::to_string(carpet ? room.Covering + 1 : room.Covering - 7) + "    ";
+
+    const int widths = room.Base % 3;
+    const int lengths = room.Base / 3;
+    const std::string base = (widths > 0 ? "W" + std::to_string(widths) : "") +
+                             (lengths > 0 ? "L" + std::to_string(lengths) : "");
+    row += base;
+    const int raised = ((widths * room.Width + lengths * room.Length) / 3 + 1) * 3;
+    if (room.Base == 0) {
+        row += Blanks(11);
+    } else if (metric) {
+        row += Blanks(13 - Characters(base)) + std::to_string(raised) +
+               Blanks(12 - Characters(std::to_string(raised)));
+    } else {
+        const std::string text = FeetAndInches(raised);
+        const long long n = Characters(text);
+        row += Blanks(8) + text + Blanks(12 - (n == 4 ? 4 : n == 5 ? 6 : n + 2));
+    }
+    return row + room.RoomNo + Blanks(9 - Characters(room.RoomNo)) + room.Remark + "    \r\n";
+}
+
+RoomRecord RandomRoom(std::mt19937& random) {
+    // Few digits as often as many; with base, small enough for the base length to fit.
+    const auto size = [&random](int most) {
+        constexpr std::array Limits{10, 100, 1000, 10000, 32768};
+        const int limit = Limits[static_cast<std::size_t>(Below(random, Limits.size()))];
+        return static_cast<Integer>(Below(random, std::min(limit, most)));
+    };
+    RoomRecord room;
+    room.Base = static_cast<Byte>(Below(random, 9));
+    const int most = room.Base == 0 ? 32768 : 8190;
+    room.Width = size(most);
+    room.Length = size(most);
+    room.Covering = static_cast<Byte>(Below(random, 12));
+    room.RoomNo = RandomText(random, 12);
+    room.Remark = RandomText(random, 30);
+    return room;
+}
+
+TEST(LoadReport, ListsRandomRoomsByTheRules) {
+    for (unsigned seed = 1; seed <= 20; ++seed) {
+        for (const bool metric : {false, true}) {
+            SCOPED_TRACE("seed " + std::to_string(seed) + (metric ? " metric" : " imperial"));
+            std::mt19937 random(seed);
+            std::vector<RoomRecord> rooms;
+            for (int number = 1; number <= 120; ++number) {
+                rooms.push_back(RandomRoom(random));
+            }
+            const std::string rows = RowsOf(LoadReport(StateWith(rooms, metric), ""));
+            std::size_t begin = 0;
+            for (int number = 1; number <= 120; ++number) {
+                const std::string expected =
+                    ExpectedRow(rooms[static_cast<std::size_t>(number - 1)], number, metric);
+                ASSERT_EQ(rows.substr(begin, expected.size()), expected);
+                begin += expected.size();
+            }
+            EXPECT_EQ(begin, rows.size());
+        }
+    }
+}
+
+TEST(ShortDate, FollowsTheLocaleOfTheSystem) {
+    // The locale is read at its first use, which is here.
+    qputenv("LC_ALL", "de_DE.UTF-8");
+    EXPECT_EQ(ShortDate(2031, 3, 9), "09.03.31");
+    const QDate before = QDate::currentDate();
+    const std::string today = ShortDateOfToday();
+    const QDate after = QDate::currentDate();
+    EXPECT_TRUE(today == before.toString(QStringLiteral("dd.MM.yy")).toStdString() ||
+                today == after.toString(QStringLiteral("dd.MM.yy")).toStdString())
+        << today;
+}
+
+} // namespace
+} // namespace tarn
