@@ -6,23 +6,16 @@
 #include "engine/Placement.h"
 
 #include <algorithm>
-#include <array>
 
 namespace tarn {
 
 namespace {
 
-/// An option has one digit for the parts of a piece, so no piece has more.
-constexpr Integer MostParts = 10;
-
-/// The edges along the roll of the parts of one piece; part p lies between edges p and p + 1.
-using PartEdges = std::array<Single, MostParts + 1>;
-
 /// Append a copy of piece `i`; returns its row.
 Integer AppendCopy(EngineArrays& engine, Integer i) {
     const Integer row = engine.PieceCount;
     if (row >= MaxPiece) {
-        RaiseSubscript("There are more than 3000 pieces: estimate the rooms in two projects.");
+        RaiseTooManyPieces();
     }
     engine.PCX1[row] = engine.PCX1[i];
     engine.PCX2[row] = engine.PCX2[i];
@@ -75,17 +68,26 @@ void CheckLargePC(EngineArrays& engine, Double dimScale) {
     engine.OrgCount = engine.PieceCount;
 }
 
-void DivPiece(EngineArrays& engine, Integer i, Integer parts) {
+PartEdges EdgesOfParts(Single top, Single bottom, Integer parts, Integer minCut) {
     constexpr Double RoundingUp = 0.9; // per part; shares below a tenth of a unit are dropped
-    const Single length = engine.PCY2[i] - engine.PCY1[i];
-    const auto top = static_cast<Double>(engine.PCY1[i]);
+    const Single length = bottom - top;
     const Double share = Int((static_cast<Double>(length) + parts * RoundingUp) / parts);
-    const Double partLength = std::max(share, static_cast<Double>(engine.MinCut));
+    const Double partLength = std::max(share, static_cast<Double>(minCut));
     PartEdges edges{};
     for (Integer edge = 0; edge <= parts; ++edge) {
-        edges.at(static_cast<std::size_t>(edge)) = CSng(edge * partLength + top);
+        edges.at(static_cast<std::size_t>(edge)) =
+            CSng(edge * partLength + static_cast<Double>(top));
     }
-    SwitchFill(engine, i, parts, edges);
+    return edges;
+}
+
+void RaiseTooManyPieces() {
+    RaiseSubscript("There are more than 3000 pieces: estimate the rooms in two projects.");
+}
+
+void DivPiece(EngineArrays& engine, Integer i, Integer parts) {
+    SwitchFill(engine, i, parts,
+               EdgesOfParts(engine.PCY1[i], engine.PCY2[i], parts, engine.MinCut));
 }
 
 void DivideAll(EngineArrays& engine, const BoundedArray<Integer>& digits) {

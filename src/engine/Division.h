@@ -3,6 +3,8 @@
 #include "app/Types.h"
 #include "engine/EngineArrays.h"
 
+#include <array>
+
 namespace tarn {
 
 /// Save the pieces as they are, undivided: every case starts from them. Sets OrgCount.
@@ -18,11 +20,23 @@ void RestoreFillPC(EngineArrays& engine);
 /// pieces.
 void CheckLargePC(EngineArrays& engine, Double dimScale);
 
-/// Cut piece `i` into `parts` (2 .. 10) equal parts along the roll: each the share of the length
-/// rounded up to whole units unless its fraction is below 0.1, and not below MinCut, so that the
-/// last may run past the piece's end. The first part takes the piece's row, the others are appended
-/// in order and take over its OrgPC, PCTurn, PCDivide and PCOrder. Raises "Subscript out of range"
-/// beyond MaxPiece pieces.
+/// An option has one digit for the parts of a piece, so no piece has more.
+inline constexpr Integer MostParts = 10;
+
+/// The edges along the roll of the parts of one piece; part p lies between edges p and p + 1.
+using PartEdges = std::array<Single, MostParts + 1>;
+
+/// The edges of `parts` equal parts of a piece from `top` to `bottom` (coordinate units): each is
+/// the share of the length, rounded up to whole units unless its fraction is below 0.1, and not
+/// below `minCut`; so the last may run past the piece's end.
+PartEdges EdgesOfParts(Single top, Single bottom, Integer parts, Integer minCut);
+
+/// Raise "Subscript out of range" with a way out, for more than MaxPiece pieces.
+[[noreturn]] void RaiseTooManyPieces();
+
+/// Cut piece `i` into `parts` (2 .. MostParts) parts along the roll (EdgesOfParts). The first part
+/// takes the piece's row, the others are appended in order and take over its OrgPC, PCTurn,
+/// PCDivide and PCOrder. Raises "Subscript out of range" beyond MaxPiece pieces.
 void DivPiece(EngineArrays& engine, Integer i, Integer parts);
 
 /// Divide every undivided piece k into `digits`(k) + 1 parts; sets CutCount to the sum of the

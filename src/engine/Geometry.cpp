@@ -1,7 +1,5 @@
 #include "engine/Geometry.h"
 
-#include "app/Lengths.h"
-
 namespace tarn {
 
 namespace {
@@ -12,10 +10,6 @@ Box Spanned(const Segment& s) {
 }
 
 } // namespace
-
-bool PTInbox(Single px, Single py, const Box& box) {
-    return box.X1 < px && px < box.X2 && box.Y1 < py && py < box.Y2;
-}
 
 bool ISLineInsect(const Segment& a, const Segment& b) {
     const Box boxA = Spanned(a);
@@ -48,23 +42,6 @@ bool ISLinePass(const Segment& segment, const Box& box) {
 bool ISInsect(const Box& a, const Box& b) {
     return ISLinePass({a.X1, a.Y1, a.X2, a.Y1}, b) || ISLinePass({a.X1, a.Y1, a.X1, a.Y2}, b) ||
            ISLinePass({a.X2, a.Y1, a.X2, a.Y2}, b) || ISLinePass({a.X1, a.Y2, a.X2, a.Y2}, b);
-}
-
-Single CommonWidth(const Box& a, const Box& b) {
-    return SingMin(a.X2, b.X2) - SingMax(a.X1, b.X1);
-}
-
-Single CommonLength(const Box& a, const Box& b) {
-    return SingMin(a.Y2, b.Y2) - SingMax(a.Y1, b.Y1);
-}
-
-bool Overlaps(const Box& a, const Box& b) {
-    if (IsWithinTolerance(CommonWidth(a, b)) || IsWithinTolerance(CommonLength(a, b))) {
-        return false;
-    }
-    const Single centreX = (SingMax(a.X1, b.X1) + SingMin(a.X2, b.X2)) / 2;
-    const Single centreY = (SingMax(a.Y1, b.Y1) + SingMin(a.Y2, b.Y2)) / 2;
-    return PTInbox(centreX, centreY, a) && PTInbox(centreX, centreY, b);
 }
 
 } // namespace tarn

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/Lengths.h"
 #include "app/Types.h"
 
 namespace tarn {
@@ -24,7 +25,9 @@ constexpr Single SingMin(Single a, Single b) {
 }
 
 /// Whether a point lies strictly inside a box; a point on an edge or a corner is outside.
-bool PTInbox(Single px, Single py, const Box& box);
+constexpr bool PTInbox(Single px, Single py, const Box& box) {
+    return box.X1 < px && px < box.X2 && box.Y1 < py && py < box.Y2;
+}
 
 /// Whether the boxes that two segments span overlap by a positive amount on both axes. So two
 /// parallel segments never intersect, and boxes that only touch do not.
@@ -43,12 +46,23 @@ bool ISInsect(const Box& a, const Box& b);
 
 /// The side of the common box of `a` and `b` across and along (inches, rounded to Single);
 /// negative where they are apart.
-Single CommonWidth(const Box& a, const Box& b);
-Single CommonLength(const Box& a, const Box& b);
+constexpr Single CommonWidth(const Box& a, const Box& b) {
+    return SingMin(a.X2, b.X2) - SingMax(a.X1, b.X1);
+}
+constexpr Single CommonLength(const Box& a, const Box& b) {
+    return SingMin(a.Y2, b.Y2) - SingMax(a.Y1, b.Y1);
+}
 
 /// Whether two placed pieces (inches) share an area: the box common to both is at least the length
 /// tolerance wide and long, and its centre lies inside both. Pieces flush against each other do not
 /// overlap, and crossing pieces with no corner inside one another do.
-bool Overlaps(const Box& a, const Box& b);
+constexpr bool Overlaps(const Box& a, const Box& b) {
+    if (IsWithinTolerance(CommonWidth(a, b)) || IsWithinTolerance(CommonLength(a, b))) {
+        return false;
+    }
+    const Single centreX = (SingMax(a.X1, b.X1) + SingMin(a.X2, b.X2)) / 2;
+    const Single centreY = (SingMax(a.Y1, b.Y1) + SingMin(a.Y2, b.Y2)) / 2;
+    return PTInbox(centreX, centreY, a) && PTInbox(centreX, centreY, b);
+}
 
 } // namespace tarn

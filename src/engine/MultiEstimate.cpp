@@ -6,6 +6,8 @@
 #include "engine/Division.h"
 #include "engine/Pieces.h"
 #include "engine/Placement.h"
+#include "engine/TrialLayout.h"
+#include "engine/TrialPieces.h"
 
 #include <array>
 
@@ -29,7 +31,8 @@ class Search {
     Search(const SharedState& state, EngineArrays& engine, SearchObserver& observer)
         : dimScale_(state.DimScale)
         , engine_(engine)
-        , observer_(observer) {}
+        , observer_(observer)
+        , pieces_(engine, state.DimScale) {}
 
     void Prepare(const SharedState& state) {
         if (engine_.LayDir == 1) {
@@ -70,6 +73,7 @@ class Search {
         RestoreFillPC(engine_);
         DivideAll(engine_, engine_.BestCase);
         ReorderPiece(engine_, engine_.BestMode, dimScale_);
+        CheckScore();
         QuickSortPCOrder(engine_, 0, engine_.PieceCount);
         CheckFill(engine_);
         CombinePiece(engine_, dimScale_);
@@ -83,17 +87,13 @@ class Search {
     }
 
   private:
-    /// The roll length that the case in CaseDigit needs in one piece order, inches.
-    Single GetPCSize(Integer mode) {
-        RestoreFillPC(engine_);
-        DivideAll(engine_, engine_.CaseDigit);
-        ReorderPiece(engine_, mode, dimScale_);
-        return GetPCLen(engine_);
-    }
-
+    /// Score the case in CaseDigit in the three piece orders. False when the observer stopped the
+    /// search.
     bool ScoreCase() {
+        pieces_.Divide();
         for (const Integer mode : Modes) {
-            const Long score = CLng(static_cast<Double>(GetPCSize(mode)));
+            const Long score =
+                trial_.Length(pieces_.InOrder(mode), UsableWidth(engine_), engine_.BestLen);
             if (score < engine_.BestLen) {
                 engine_.BestLen = score;
                 engine_.BestMode = mode;
@@ -114,6 +114,15 @@ class Search {
         return observer_.Scored(done_);
     }
 
+    /// The layout must be as long as its trial said. (Without a trial below NoLength there is
+    /// none.)
+    void CheckScore() const {
+        const Long length = CLng(static_cast<Double>(GetPCLen(engine_)));
+        if (length != engine_.BestLen && engine_.BestLen != NoLength) {
+            RaiseInternal("The layout is not as long as its trial and was discarded.");
+        }
+    }
+
     /// The reported length: the length in use raised to a multiple of 3, by whole inches.
     void ShowResultPic() {
         const Double length = static_cast<Double>(GetPCLen(engine_));
@@ -127,6 +136,8 @@ class Search {
     Double dimScale_;
     EngineArrays& engine_;
     SearchObserver& observer_;
+    TrialPieces pieces_;
+    TrialLayout trial_;
     Long done_ = 0;
 };
 

@@ -50,11 +50,22 @@ void CountUp(Integer& counter) {
     counter = ToInteger(counter + 1);
 }
 
+Single SizeBetween(Single from, Single to, Double dimScale) {
+    const Single difference = to - from;
+    return CSng(static_cast<Double>(difference) * dimScale);
+}
+
+Double SizeKey(Single width, Single length, Integer power) {
+    const Double key = std::pow(static_cast<Double>(length), power) * static_cast<Double>(width);
+    if (!std::isfinite(key)) {
+        RaiseOverflow();
+    }
+    return key;
+}
+
 void GetPieceSZ(EngineArrays& engine, Integer i, Double dimScale) {
-    const Single length = engine.PCY2[i] - engine.PCY1[i];
-    const Single width = engine.PCX2[i] - engine.PCX1[i];
-    engine.PieceLen[i] = CSng(static_cast<Double>(length) * dimScale);
-    engine.PieceWid[i] = CSng(static_cast<Double>(width) * dimScale);
+    engine.PieceLen[i] = SizeBetween(engine.PCY1[i], engine.PCY2[i], dimScale);
+    engine.PieceWid[i] = SizeBetween(engine.PCX1[i], engine.PCX2[i], dimScale);
 }
 
 void GetPieceSZ(EngineArrays& engine, Double dimScale) {
@@ -111,12 +122,7 @@ void SwitchPCOrder(EngineArrays& engine, long long i, long long j) {
 
 void QuickSortPiece(EngineArrays& engine, Integer first, Integer last, Integer power) {
     const auto descending = [&](Integer i) {
-        const Double key = std::pow(static_cast<Double>(engine.PieceLen[i]), power) *
-                           static_cast<Double>(engine.PieceWid[i]);
-        if (!std::isfinite(key)) {
-            RaiseOverflow();
-        }
-        return -key;
+        return -SizeKey(engine.PieceWid[i], engine.PieceLen[i], power);
     };
     SortRows(engine, first, Keys(first, last, descending), SwitchPiece);
 }

@@ -9,9 +9,16 @@ namespace tarn {
 /// Advance a counter by one. Raises "Overflow" past 32767.
 void CountUp(Integer& counter);
 
-/// Fill PieceWid and PieceLen (inches) of pieces 0 .. PieceCount - 1 from their coordinates: the
-/// difference as a Single, times DimScale, rounded once. Raises "Overflow" for a size that is not
-/// finite.
+/// The size in inches between two edges: the difference as a Single, times DimScale, rounded once.
+/// Raises "Overflow" when it is not finite.
+Single SizeBetween(Single from, Single to, Double dimScale);
+
+/// The key by which pieces are ordered: length ^ power × width, in Double. Raises "Overflow" when
+/// it is not finite.
+Double SizeKey(Single width, Single length, Integer power);
+
+/// Fill PieceWid and PieceLen (inches) of pieces 0 .. PieceCount - 1 from their coordinates, by
+/// SizeBetween.
 void GetPieceSZ(EngineArrays& engine, Double dimScale);
 /// The same for piece `i` alone.
 void GetPieceSZ(EngineArrays& engine, Integer i, Double dimScale);
@@ -33,9 +40,9 @@ void SwitchFillPC(EngineArrays& engine, long long i, long long j);
 /// The same exchange, for the sort by placing order.
 void SwitchPCOrder(EngineArrays& engine, long long i, long long j);
 
-/// Order pieces first .. last - 1 by descending PieceLen ^ power × PieceWid (computed in Double).
+/// Order pieces first .. last - 1 by descending SizeKey.
 /// A power of 1 orders by area, 0 by width, 2 by length squared times width. Equal keys keep their
-/// order. Raises "Overflow" for a key that is not finite.
+/// order. Raises as SizeKey.
 void QuickSortPiece(EngineArrays& engine, Integer first, Integer last, Integer power);
 
 /// Order pieces first .. last - 1, with their placements, by ascending PCOrder; stable.

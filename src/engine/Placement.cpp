@@ -10,9 +10,8 @@ namespace {
 
 constexpr Single EdgeAllowance = 2.0F; ///< inches kept free at the roll's edge
 
-Single CornerKey(const EngineArrays& engine, long long k) {
-    return CSng(static_cast<Double>(engine.StartPY[k]) +
-                static_cast<Double>(engine.StartPX[k]) / 1000);
+Single KeyOf(const EngineArrays& engine, long long k) {
+    return CornerKey(engine.StartPX[k], engine.StartPY[k]);
 }
 
 bool SameCorner(const EngineArrays& engine, Integer i, Integer j) {
@@ -80,14 +79,18 @@ Single GetPCLen(const EngineArrays& engine) {
     return length;
 }
 
+Single CornerKey(Single x, Single y) {
+    return CSng(static_cast<Double>(y) + static_cast<Double>(x) / 1000);
+}
+
 void QuickSortStartPY(EngineArrays& engine, Integer first, Integer last) {
     // Insertion suits corners: all but two are in order already, and nothing is allocated.
     for (long long i = first + 1; i <= last; ++i) {
-        const Single key = CornerKey(engine, i);
+        const Single key = KeyOf(engine, i);
         const Single x = engine.StartPX[i];
         const Single y = engine.StartPY[i];
         long long place = i;
-        while (place > first && CornerKey(engine, place - 1) > key) {
+        while (place > first && KeyOf(engine, place - 1) > key) {
             engine.StartPX[place] = engine.StartPX[place - 1];
             engine.StartPY[place] = engine.StartPY[place - 1];
             --place;
@@ -112,6 +115,10 @@ void CheckStartPC(EngineArrays& engine) {
     }
 }
 
+bool StandsRight(const Box& placed, Single x, Single y, Single usable) {
+    return ISLinePass({x, y, usable, y}, placed) || (placed.Y1 == y && placed.X1 > x);
+}
+
 bool OverlapsPlaced(const EngineArrays& engine, Single x, Single y, Single w, Single l) {
     const Box piece{x, y, x + w, y + l};
     for (Integer i = 0; i < engine.PosCount; ++i) {
@@ -129,9 +136,9 @@ bool PCOverLap(const EngineArrays& engine, Integer k, Single w, Single l) {
 bool IsAnyRightSide(const EngineArrays& engine, Integer k) {
     const Single x = engine.StartPX[k];
     const Single y = engine.StartPY[k];
-    const Segment row{x, y, UsableWidth(engine), y};
+    const Single usable = UsableWidth(engine);
     for (Integer i = 0; i < engine.PosCount; ++i) {
-        if (ISLinePass(row, PlacedBox(engine, i)) || (engine.PosY[i] == y && engine.PosX[i] > x)) {
+        if (StandsRight(PlacedBox(engine, i), x, y, usable)) {
             return true;
         }
     }
@@ -141,7 +148,7 @@ bool IsAnyRightSide(const EngineArrays& engine, Integer k) {
 Single scanleftnew(const EngineArrays& engine, Single px, Single py, Single limit, Integer n) {
     for (long long i = n - 1; i >= 0; --i) {
         const Box placed = PlacedBox(engine, i);
-        if (placed.X2 >= limit && placed.X2 <= px && placed.Y1 <= py && py < placed.Y2) {
+        if (StopsLeft(placed, px, py, limit)) {
             limit = placed.X2;
         }
     }
@@ -151,7 +158,7 @@ Single scanleftnew(const EngineArrays& engine, Single px, Single py, Single limi
 Single scanupnew(const EngineArrays& engine, Single px, Single py, Single limit, Integer n) {
     for (long long i = n - 1; i >= 0; --i) {
         const Box placed = PlacedBox(engine, i);
-        if (placed.Y2 >= limit && placed.Y2 <= py && placed.X1 <= px && px < placed.X2) {
+        if (StopsUp(placed, px, py, limit)) {
             limit = placed.Y2;
         }
     }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "engine/EngineArrays.h"
+#include "engine/Geometry.h"
 
 namespace tarn {
 
@@ -10,30 +11,47 @@ Single UsableWidth(const EngineArrays& engine);
 /// The roll length in use, inches: the largest PosY + PosL over the placed pieces, 0 without any.
 Single GetPCLen(const EngineArrays& engine);
 
-/// Order corners first .. last (both included) by ascending StartPY + StartPX / 1000, computed in
-/// Double and rounded once to Single: the position along the roll decides, the position across
-/// breaks near-ties. Equal keys keep their order. Raises "Overflow" for a key that is not finite.
+/// The key by which corners are ordered: y + x / 1000, computed in Double and rounded once to
+/// Single. The position along the roll decides, the position across breaks near-ties. Raises
+/// "Overflow" when it is not finite.
+Single CornerKey(Single x, Single y);
+
+/// Order corners first .. last (both included) by ascending CornerKey. Equal keys keep their order.
 void QuickSortStartPY(EngineArrays& engine, Integer first, Integer last);
 
 /// Remove every corner among 0 .. StartCount that equals an earlier one exactly.
 void CheckStartPC(EngineArrays& engine);
+
+/// The one-piece tests of the scans below, for a placed piece.
+///
+/// Whether its right edge, not left of `limit` and not right of `px`, stops a point that moves left
+/// on the row `py`: the piece covers the row. One that ends exactly at `py` does not.
+constexpr bool StopsLeft(const Box& placed, Single px, Single py, Single limit) {
+    return placed.X2 >= limit && placed.X2 <= px && placed.Y1 <= py && py < placed.Y2;
+}
+/// Whether its end, not before `limit` and not beyond `py`, stops a point that moves up the column
+/// `px`.
+constexpr bool StopsUp(const Box& placed, Single px, Single py, Single limit) {
+    return placed.Y2 >= limit && placed.Y2 <= py && placed.X1 <= px && px < placed.X2;
+}
+/// Whether it stands to the right of a corner at (x, y): its rectangle meets the row from the
+/// corner to the usable edge, or it starts on the very same row further right.
+bool StandsRight(const Box& placed, Single x, Single y, Single usable);
 
 /// Whether a piece of `w` × `l` inches with its corner at (x, y) would overlap a placed piece.
 bool OverlapsPlaced(const EngineArrays& engine, Single x, Single y, Single w, Single l);
 /// The same at corner `k`.
 bool PCOverLap(const EngineArrays& engine, Integer k, Single w, Single l);
 
-/// Whether a placed piece stands to the right of corner `k` on its row: its rectangle meets the row
-/// from the corner to the usable edge, or it starts on the very same row further right.
+/// Whether a placed piece stands to the right of corner `k` (StandsRight).
 bool IsAnyRightSide(const EngineArrays& engine, Integer k);
 
-/// The rightmost right edge, not left of `limit` and not right of `px`, of the first `n` placed
-/// pieces that cover the row `py`; `limit` when there is none. A piece that ends exactly at `py`
-/// does not cover it.
+/// The rightmost right edge of the first `n` placed pieces that stops a point moving left from
+/// (px, py) (StopsLeft); `limit` when there is none.
 Single scanleftnew(const EngineArrays& engine, Single px, Single py, Single limit, Integer n);
 
-/// The furthest end, not before `limit` and not beyond `py`, of the first `n` placed pieces that
-/// cover the column `px`; `limit` when there is none.
+/// The furthest end of the first `n` placed pieces that stops a point moving up from (px, py)
+/// (StopsUp); `limit` when there is none.
 Single scanupnew(const EngineArrays& engine, Single px, Single py, Single limit, Integer n);
 
 /// Place a piece of `w` × `l` inches at the first free corner, in corner order, or, when it fits at
