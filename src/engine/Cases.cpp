@@ -54,13 +54,16 @@ Long GetTotalCase(EngineArrays& engine) {
     return engine.CaseCount;
 }
 
-void DecodeCase(EngineArrays& engine, Long number) {
+Long DecodeCase(EngineArrays& engine, Long number) {
     Long rest = number;
+    Long parts = 0;
     for (Integer k = 0; k < engine.OrgCount; ++k) {
         const Long digit = Mod(rest, engine.CaseRadix[k]);
         engine.CaseDigit[k] = ToInteger(digit);
         rest = (rest - digit) / engine.CaseRadix[k];
+        parts += digit + 1;
     }
+    return parts;
 }
 
 Long DeriveCase(EngineArrays& engine, Integer most) {

@@ -20,8 +20,9 @@ void DecodeOptions(const SharedState& state, EngineArrays& engine);
 Long GetTotalCase(EngineArrays& engine);
 
 /// Set CaseDigit of the undivided pieces to case `number` (0 .. cases - 1) of the first pass: the
-/// digits of the number, the radix of each being CaseRadix, the lowest digit first.
-void DecodeCase(EngineArrays& engine, Long number);
+/// digits of the number, the radix of each being CaseRadix, the lowest digit first. Returns the
+/// number of parts that makes in all.
+Long DecodeCase(EngineArrays& engine, Long number);
 
 /// Set CaseDigit of the undivided pieces to case `most` (0 .. MaxParts - 1) of the second pass: as
 /// many cuts as the saved length of each holds minimum cuts, but at most `most`. Returns the number

@@ -15,7 +15,7 @@ namespace {
 Integer AppendCopy(EngineArrays& engine, Integer i) {
     const Integer row = engine.PieceCount;
     if (row >= MaxPiece) {
-        RaiseTooManyPieces();
+        RaiseSubscript("There are more than 3000 pieces: estimate the rooms in two projects.");
     }
     engine.PCX1[row] = engine.PCX1[i];
     engine.PCX2[row] = engine.PCX2[i];
@@ -79,10 +79,6 @@ PartEdges EdgesOfParts(Single top, Single bottom, Integer parts, Integer minCut)
             CSng(edge * partLength + static_cast<Double>(top));
     }
     return edges;
-}
-
-void RaiseTooManyPieces() {
-    RaiseSubscript("There are more than 3000 pieces: estimate the rooms in two projects.");
 }
 
 void DivPiece(EngineArrays& engine, Integer i, Integer parts) {

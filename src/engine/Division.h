@@ -31,9 +31,6 @@ using PartEdges = std::array<Single, MostParts + 1>;
 /// below `minCut`; so the last may run past the piece's end.
 PartEdges EdgesOfParts(Single top, Single bottom, Integer parts, Integer minCut);
 
-/// Raise "Subscript out of range" with a way out, for more than MaxPiece pieces.
-[[noreturn]] void RaiseTooManyPieces();
-
 /// Cut piece `i` into `parts` (2 .. MostParts) parts along the roll (EdgesOfParts). The first part
 /// takes the piece's row, the others are appended in order and take over its OrgPC, PCTurn,
 /// PCDivide and PCOrder. Raises "Subscript out of range" beyond MaxPiece pieces.

@@ -54,14 +54,12 @@ class Search {
     /// Both passes over the cases. False when the observer stopped the search.
     bool Run() {
         for (Long number = 0; number < engine_.CaseCount; ++number) {
-            DecodeCase(engine_, number);
-            if (!ScoreCase()) {
+            if (!TryCase(DecodeCase(engine_, number))) {
                 return false;
             }
         }
         for (Integer most = 0; most < engine_.MaxParts; ++most) {
-            const bool fits = DeriveCase(engine_, most) <= MaxPiece;
-            if (!(fits ? ScoreCase() : SkipCase())) {
+            if (!TryCase(DeriveCase(engine_, most))) {
                 return false;
             }
         }
@@ -87,8 +85,16 @@ class Search {
     }
 
   private:
-    /// Score the case in CaseDigit in the three piece orders. False when the observer stopped the
-    /// search.
+    /// Try the case in CaseDigit, which makes that many parts. One with more parts than there is
+    /// room for is left out and counts as done. False when the observer stopped the search.
+    bool TryCase(Long parts) {
+        if (parts <= MaxPiece) {
+            return ScoreCase();
+        }
+        done_ += ModeCount;
+        return observer_.Scored(done_);
+    }
+
     bool ScoreCase() {
         pieces_.Divide();
         for (const Integer mode : Modes) {
@@ -106,12 +112,6 @@ class Search {
             }
         }
         return true;
-    }
-
-    /// A case with more parts than there is room for counts as done.
-    bool SkipCase() {
-        done_ += ModeCount;
-        return observer_.Scored(done_);
     }
 
     /// The layout must be as long as its trial said. (Without a trial below NoLength there is

@@ -26,10 +26,8 @@ void TrialPieces::Divide() {
             const PieceSize size = SizeOf(k, edges.at(part), edges.at(part + 1));
             if (part == 0) {
                 rows_[static_cast<std::size_t>(k)] = {0, size, static_cast<std::size_t>(k)};
-            } else if (rows_.size() < static_cast<std::size_t>(MaxPiece)) {
-                rows_.push_back({0, size, rows_.size()});
             } else {
-                RaiseTooManyPieces();
+                rows_.push_back({0, size, rows_.size()});
             }
         }
     }

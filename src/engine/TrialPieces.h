@@ -17,8 +17,7 @@ class TrialPieces {
         : engine_(engine)
         , dimScale_(dimScale) {}
 
-    /// Divide the pieces as CaseDigit says. Raises "Subscript out of range" beyond MaxPiece pieces,
-    /// "Overflow" as the sizes do.
+    /// Divide the pieces as CaseDigit says. Raises "Overflow" as the sizes do.
     void Divide();
 
     /// The pieces of the case, largest first by `power` (SizeKey). Raises as SizeKey.

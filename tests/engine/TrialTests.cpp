@@ -1,5 +1,4 @@
 #include "app/Numbers.h"
-#include "app/RunTimeError.h"
 #include "engine/Division.h"
 #include "engine/EngineTesting.h"
 #include "engine/Pieces.h"
@@ -124,20 +123,6 @@ TEST(TrialPieces, DividesAndOrdersAsTheArraysWould) {
             }
         }
     }
-}
-
-TEST(TrialPieces, MoreThanThreeThousandPartsIsASubscriptError) {
-    EngineArrays engine = MakeEngine(144);
-    for (int i = 0; i < 2999; ++i) {
-        testing::AddPiece(engine, {1, 10});
-    }
-    engine.MinCut = 100;
-    CopyFillPC(engine);
-    TrialPieces pieces(engine, 0.01);
-    engine.CaseDigit[7] = 1;
-    EXPECT_NO_THROW(pieces.Divide());
-    engine.CaseDigit[8] = 1;
-    EXPECT_THROW(pieces.Divide(), RunTimeError);
 }
 
 TEST(PlacedIndex, AnswersWhatTheLinearScansAnswer) {
