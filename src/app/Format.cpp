@@ -108,9 +108,6 @@ std::string FormatDigits(Double value, int significant, std::string_view pattern
     if (digits.size() < least) {
         digits.insert(0, least - digits.size(), '0');
     }
-    if (digits.size() < pattern.Places) {
-        digits.insert(0, pattern.Places - digits.size(), '0');
-    }
     std::string whole = digits.substr(0, digits.size() - pattern.Places);
     if (pattern.Grouped) {
         GroupThousands(whole);
