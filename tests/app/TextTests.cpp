@@ -1,0 +1,55 @@
+#include "app/Text.h"
+
+#include <gtest/gtest.h>
+
+#include <limits>
+
+namespace tarn {
+namespace {
+
+TEST(TrimStr, GivesAWholeNumberWithoutBlanks) {
+    EXPECT_EQ(TrimStr(0), "0");
+    EXPECT_EQ(TrimStr(-32768), "-32768");
+    EXPECT_EQ(TrimStr(std::numeric_limits<long long>::max()), "9223372036854775807");
+}
+
+TEST(TrimStr, TakesTheBlanksFromBothEndsAndNoOthers) {
+    EXPECT_EQ(TrimStr("  a b  "), "a b");
+    EXPECT_EQ(TrimStr("ab"), "ab");
+    EXPECT_EQ(TrimStr("   "), "");
+    EXPECT_EQ(TrimStr(""), "");
+    EXPECT_EQ(TrimStr(" \ta\t "), "\ta\t");
+}
+
+TEST(Space, GivesAsManyBlanksAsCounted) {
+    for (long long count = 0; count <= 300; ++count) {
+        ASSERT_EQ(Space(count).size(), static_cast<std::size_t>(count));
+        ASSERT_EQ(Space(count).find_first_not_of(' '), std::string::npos);
+    }
+}
+
+TEST(Space, GivesNoneForANegativeCount) {
+    EXPECT_EQ(Space(-1), "");
+    EXPECT_EQ(Space(-40000), "");
+    EXPECT_EQ(Space(std::numeric_limits<long long>::min()), "");
+}
+
+TEST(Len, CountsCharactersNotBytes) {
+    EXPECT_EQ(Len(""), 0);
+    EXPECT_EQ(Len("Hall"), 4);
+    EXPECT_EQ(Len("K\xC3\xBC"
+                  "che"),
+              5); // a two-byte letter
+    EXPECT_EQ(Len("\xE2\x82\xAC"
+                  "5"),
+              2);                                               // a three-byte sign
+    EXPECT_EQ(Len("\xF0\x9F\x8F\xA0"), 1);                      // a four-byte sign
+    EXPECT_EQ(Len("\xD0\x94\xD0\xBE\xD0\xBC \xE5\xAE\xB6"), 5); // three alphabets
+}
+
+TEST(CrLf, IsCarriageReturnAndLineFeed) {
+    EXPECT_EQ(CrLf, "\x0D\x0A");
+}
+
+} // namespace
+} // namespace tarn
