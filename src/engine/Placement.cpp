@@ -101,18 +101,21 @@ void QuickSortStartPY(EngineArrays& engine, Integer first, Integer last) {
 }
 
 void CheckStartPC(EngineArrays& engine) {
-    for (Integer i = 0; i <= engine.StartCount; ++i) {
-        auto kept = static_cast<Integer>(i + 1);
-        for (Integer j = kept; j <= engine.StartCount; ++j) {
-            if (SameCorner(engine, i, j)) {
-                continue;
-            }
+    Integer kept = 0; // corners 0 .. kept - 1 are kept
+    for (Integer j = 0; j <= engine.StartCount; ++j) {
+        const Single key = KeyOf(engine, j);
+        bool known = false;
+        // Equal corners have equal keys, so they stand in one run.
+        for (Integer i = kept; i > 0 && !known && KeyOf(engine, i - 1) == key; --i) {
+            known = SameCorner(engine, static_cast<Integer>(i - 1), j);
+        }
+        if (!known) {
             engine.StartPX[kept] = engine.StartPX[j];
             engine.StartPY[kept] = engine.StartPY[j];
             ++kept;
         }
-        engine.StartCount = static_cast<Integer>(kept - 1);
     }
+    engine.StartCount = static_cast<Integer>(kept - 1);
 }
 
 bool StandsRight(const Box& placed, Single x, Single y, Single usable) {

@@ -19,7 +19,8 @@ Single CornerKey(Single x, Single y);
 /// Order corners first .. last (both included) by ascending CornerKey. Equal keys keep their order.
 void QuickSortStartPY(EngineArrays& engine, Integer first, Integer last);
 
-/// Remove every corner among 0 .. StartCount that equals an earlier one exactly.
+/// Remove every corner among 0 .. StartCount that equals an earlier one exactly. The corners must be
+/// in order (QuickSortStartPY).
 void CheckStartPC(EngineArrays& engine);
 
 /// The one-piece tests of the scans below, for a placed piece.

@@ -84,14 +84,21 @@ TEST(QuickSortStartPY, IncludesBothBoundsAndNothingBeyond) {
 
 TEST(CheckStartPC, EqualCornersAreKeptOnceTheFirstOnes) {
     EngineArrays engine = MakeEngine(144);
-    SetCorners(engine, {{0, 1}, {2, 1}, {0, 1}, {0, 1}, {2, 1}, {5, 5}});
+    SetCorners(engine, {{0, 1}, {0, 1}, {0, 1}, {2, 1}, {2, 1}, {5, 5}});
     CheckStartPC(engine);
     EXPECT_EQ(Corners(engine), (std::vector<Corner>{{0, 1}, {2, 1}, {5, 5}}));
 }
 
+TEST(CheckStartPC, FindsEqualCornersApartWhereOthersHaveTheSameKey) {
+    EngineArrays engine = MakeEngine(144);
+    SetCorners(engine, {{0.1F, 20000}, {0, 20000}, {0.1F, 20000}});
+    CheckStartPC(engine);
+    EXPECT_EQ(Corners(engine), (std::vector<Corner>{{0.1F, 20000}, {0, 20000}}));
+}
+
 TEST(CheckStartPC, LooksAtTheCornersInUseAlone) {
     EngineArrays engine = MakeEngine(144);
-    SetCorners(engine, {{0, 1}, {2, 2}, {0, 1}});
+    SetCorners(engine, {{0, 1}, {2, 2}, {2, 2}});
     engine.StartCount = 1;
     CheckStartPC(engine);
     EXPECT_EQ(engine.StartCount, 1);
