@@ -1,6 +1,6 @@
 #include "engine/Pieces.h"
 #include "engine/Placement.h"
-#include "engine/TrialLayout.h"
+#include "engine/RollLayout.h"
 
 #include <benchmark/benchmark.h>
 
@@ -27,45 +27,25 @@ tarn::EngineArrays Parts(int count) {
     return engine;
 }
 
-/// One placement by the rule as it reads, on the shared arrays.
-void PlaceByRule(benchmark::State& bench) {
-    tarn::EngineArrays engine = Parts(static_cast<int>(bench.range(0)));
-    for (auto _ : bench) {
-        tarn::ReorderPiece(engine, 1, 0.01);
-    }
-    bench.SetComplexityN(bench.range(0));
-}
-
-/// The same on a trial layout.
-void PlaceOnTrial(benchmark::State& bench) {
+/// One placement of all parts.
+void PlaceAll(benchmark::State& bench) {
     tarn::EngineArrays engine = Parts(static_cast<int>(bench.range(0)));
     tarn::ReorderPiece(engine, 1, 0.01);
     std::vector<tarn::PieceSize> sizes;
     for (tarn::Integer i = 0; i < engine.PieceCount; ++i) {
         sizes.push_back({engine.PieceWid[i], engine.PieceLen[i]});
     }
-    tarn::TrialLayout trial;
+    tarn::RollLayout layout;
     for (auto _ : bench) {
         benchmark::DoNotOptimize(
-            trial.Length(sizes, engine.RollWidth, std::numeric_limits<tarn::Long>::max()));
+            layout.PlaceAll(sizes, engine.RollWidth, std::numeric_limits<tarn::Long>::max()));
     }
     bench.SetComplexityN(bench.range(0));
 }
 
 } // namespace
 
-BENCHMARK(PlaceByRule)
-    ->ArgName("parts")
-    ->Arg(50)
-    ->Arg(100)
-    ->Arg(200)
-    ->Arg(400)
-    ->Arg(800)
-    ->Arg(1600)
-    ->Arg(3000)
-    ->Unit(benchmark::kMicrosecond)
-    ->Complexity();
-BENCHMARK(PlaceOnTrial)
+BENCHMARK(PlaceAll)
     ->ArgName("parts")
     ->Arg(50)
     ->Arg(100)

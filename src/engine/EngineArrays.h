@@ -22,8 +22,8 @@ struct PieceRows {
 /// Copy rows 0 .. `count` - 1.
 void CopyRows(const PieceRows& from, PieceRows& to, Integer count);
 
-/// What the layout engine works on: the pieces of one carpet, the layout, the free corners, and the
-/// record of the search. One exists in the program. Sizes and positions on the roll are inches,
+/// What the layout engine works on: the pieces of one carpet, the layout, and the record of the
+/// search. One exists in the program. Sizes and positions on the roll are inches,
 /// piece coordinates hundredths of an inch. Counts are the numbers of rows in use; rows at and
 /// beyond a count hold leftovers.
 struct EngineArrays : PieceRows {
@@ -49,12 +49,6 @@ struct EngineArrays : PieceRows {
     BoundedArray<Single> PosY{MaxPiece}; ///< begin along the roll; 0 = the roll's start
     BoundedArray<Single> PosW{MaxPiece}; ///< extent across
     BoundedArray<Single> PosL{MaxPiece}; ///< extent along
-
-    // --- free corners, inches; 0 .. StartCount are in use (StartCount is the last one's number)
-    // ---
-    Integer StartCount = 0;
-    BoundedArray<Single> StartPX{MaxPiece};
-    BoundedArray<Single> StartPY{MaxPiece};
 
     // --- the search ---
     Integer MaxParts = 0; ///< most alternatives a piece has: it is cut into 1 .. MaxParts parts

@@ -6,7 +6,7 @@
 #include "engine/Division.h"
 #include "engine/Pieces.h"
 #include "engine/Placement.h"
-#include "engine/TrialLayout.h"
+#include "engine/RollLayout.h"
 #include "engine/TrialPieces.h"
 
 #include <array>
@@ -98,8 +98,7 @@ class Search {
     bool ScoreCase() {
         pieces_.Divide();
         for (const Integer mode : Modes) {
-            const Long score =
-                trial_.Length(pieces_.InOrder(mode), UsableWidth(engine_), engine_.BestLen);
+            const Long score = GetPCSize(mode);
             if (score < engine_.BestLen) {
                 engine_.BestLen = score;
                 engine_.BestMode = mode;
@@ -112,6 +111,12 @@ class Search {
             }
         }
         return true;
+    }
+
+    /// The roll length, in whole inches, that the case in hand needs in one piece order; or, when
+    /// it would not be shorter than the best, any length that is not.
+    Long GetPCSize(Integer mode) {
+        return trial_.PlaceAll(pieces_.InOrder(mode), UsableWidth(engine_), engine_.BestLen);
     }
 
     /// The layout must be as long as its trial said. (Without a trial below NoLength there is
@@ -137,7 +142,7 @@ class Search {
     EngineArrays& engine_;
     SearchObserver& observer_;
     TrialPieces pieces_;
-    TrialLayout trial_;
+    RollLayout trial_;
     Long done_ = 0;
 };
 

@@ -1,7 +1,5 @@
 #include "engine/PlacedIndex.h"
 
-#include "engine/Placement.h"
-
 #include <algorithm>
 
 namespace tarn {
@@ -10,11 +8,17 @@ namespace {
 
 /// Length of a band, inches. A power of two, so that dividing by it rounds nothing.
 constexpr Single BandLength = 32;
+/// The last band holds everything behind its beginning, well beyond the longest roll.
+constexpr std::size_t LastBand = 2047;
 
 } // namespace
 
 std::size_t PlacedIndex::BandOf(Single y) {
-    return y > 0 ? static_cast<std::size_t>(y / BandLength) : 0;
+    if (!(y > 0)) {
+        return 0;
+    }
+    const Single band = y / BandLength;
+    return band < static_cast<Single>(LastBand) ? static_cast<std::size_t>(band) : LastBand;
 }
 
 const PlacedIndex::Band& PlacedIndex::At(Single y) const {
@@ -42,7 +46,7 @@ void PlacedIndex::Add(const Box& piece) {
     }
 }
 
-std::optional<Box> PlacedIndex::Overlapping(const Box& piece) const {
+std::optional<Box> PlacedIndex::PCOverLap(const Box& piece) const {
     const std::size_t end = std::min(BandOf(piece.Y2) + 1, used_);
     for (std::size_t band = BandOf(piece.Y1); band < end; ++band) {
         for (const Box& placed : bands_[band]) {
@@ -54,36 +58,38 @@ std::optional<Box> PlacedIndex::Overlapping(const Box& piece) const {
     return std::nullopt;
 }
 
-Single PlacedIndex::ScanLeft(Single px, Single py) const {
-    Single edge = 0;
-    for (const Box& placed : At(py)) {
-        if (StopsLeft(placed, px, py, edge)) {
-            edge = placed.X2;
-        }
-    }
-    return edge;
+bool PlacedIndex::IsAnyRightSide(Single x, Single y, Single usableWidth) const {
+    const Segment row{x, y, usableWidth, y};
+    const Band& near = At(y);
+    return std::any_of(near.begin(), near.end(), [&](const Box& placed) {
+        return ISLinePass(row, placed) || (placed.Y1 == y && placed.X1 > x);
+    });
 }
 
-Single PlacedIndex::ScanUp(Single px, Single py) const {
-    Single end = 0;
+Single PlacedIndex::scanleftnew(Single px, Single py) const {
+    Single limit = 0;
+    for (const Box& placed : At(py)) {
+        if (placed.X2 >= limit && placed.X2 <= px && placed.Y1 <= py && py < placed.Y2) {
+            limit = placed.X2;
+        }
+    }
+    return limit;
+}
+
+Single PlacedIndex::scanupnew(Single px, Single py) const {
+    Single limit = 0;
     for (std::size_t band = std::min(BandOf(py) + 1, used_); band > 0; --band) {
         for (const Box& placed : bands_[band - 1]) {
-            if (StopsUp(placed, px, py, end)) {
-                end = placed.Y2;
+            if (placed.Y2 >= limit && placed.Y2 <= py && placed.X1 <= px && px < placed.X2) {
+                limit = placed.Y2;
             }
         }
         // Pieces that are not listed from this band on end before it.
-        if (end >= static_cast<Single>(band - 1) * BandLength) {
+        if (limit >= static_cast<Single>(band - 1) * BandLength) {
             break;
         }
     }
-    return end;
-}
-
-bool PlacedIndex::IsAnyRight(Single x, Single y, Single usable) const {
-    const Band& placed = At(y);
-    return std::any_of(placed.begin(), placed.end(),
-                       [&](const Box& piece) { return StandsRight(piece, x, y, usable); });
+    return limit;
 }
 
 } // namespace tarn

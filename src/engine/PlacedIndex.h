@@ -7,8 +7,8 @@
 
 namespace tarn {
 
-/// Placed pieces (inches), found by their position along the roll. Answers what the linear scans
-/// over PosX .. PosL answer, to the bit, but looks only at the pieces near the place asked about.
+/// The placed pieces (inches), found by their position along the roll: the questions that the rule
+/// of placement asks about all of them are answered by looking at those near the place asked about.
 ///
 /// The roll is divided into bands of equal length. A piece is listed in every band that it reaches,
 /// its end included, so whatever covers, begins at or ends at a position is listed in that
@@ -18,14 +18,23 @@ class PlacedIndex {
     void Clear();
     void Add(const Box& piece);
 
-    /// A placed piece that overlaps `piece`, if there is one.
-    std::optional<Box> Overlapping(const Box& piece) const;
-    /// scanleftnew over all pieces, from the left edge of the roll.
-    Single ScanLeft(Single px, Single py) const;
-    /// scanupnew over all pieces, from the start of the roll.
-    Single ScanUp(Single px, Single py) const;
-    /// IsAnyRightSide for a corner at (x, y) and the given usable width.
-    bool IsAnyRight(Single x, Single y, Single usable) const;
+    /// A placed piece that `piece` would overlap (see Overlaps), if there is one. Pieces that touch
+    /// do not overlap.
+    std::optional<Box> PCOverLap(const Box& piece) const;
+
+    /// Whether a placed piece stands to the right of a corner at (x, y): its rectangle meets the
+    /// row from the corner to the usable edge (see ISLinePass), or it starts on the very same row
+    /// further right.
+    bool IsAnyRightSide(Single x, Single y, Single usableWidth) const;
+
+    /// Where a point that moves left from (px, py) is stopped: the rightmost right edge, not right
+    /// of px, of a placed piece that covers the row py; the roll's left edge, 0, without one. A
+    /// piece that ends exactly at py does not cover it.
+    Single scanleftnew(Single px, Single py) const;
+
+    /// Where a point that moves up the roll from (px, py) is stopped: the furthest end, not beyond
+    /// py, of a placed piece that covers the column px; the roll's start, 0, without one.
+    Single scanupnew(Single px, Single py) const;
 
   private:
     using Band = std::vector<Box>;

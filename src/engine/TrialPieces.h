@@ -1,9 +1,8 @@
 #pragma once
 
 #include "engine/EngineArrays.h"
-#include "engine/TrialLayout.h"
+#include "engine/RollLayout.h"
 
-#include <array>
 #include <vector>
 
 namespace tarn {

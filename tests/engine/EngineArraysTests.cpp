@@ -37,8 +37,6 @@ TEST(EngineArrays, HasRoomFor3001PiecesInEveryArray) {
     ExpectPieceBound(engine.PosY, "PosY");
     ExpectPieceBound(engine.PosW, "PosW");
     ExpectPieceBound(engine.PosL, "PosL");
-    ExpectPieceBound(engine.StartPX, "StartPX");
-    ExpectPieceBound(engine.StartPY, "StartPY");
     ExpectPieceBound(engine.CaseRadix, "CaseRadix");
     ExpectPieceBound(engine.CaseDigit, "CaseDigit");
     ExpectPieceBound(engine.BestCase, "BestCase");
@@ -48,16 +46,14 @@ TEST(EngineArrays, DimAllArraysEmptiesThemAll) {
     EngineArrays engine;
     engine.RollWidth = 144;
     engine.PieceCount = engine.OrgCount = engine.CutCount = engine.PosCount = 3;
-    engine.StartCount = 2;
     engine.BestLen = engine.ResultLen = 120;
-    engine.PCX2[2] = engine.PosY[2] = engine.StartPX[3000] = engine.Undivided.PCY2[1] = 1;
+    engine.PCX2[2] = engine.PosY[2] = engine.Undivided.PCY2[1] = 1;
 
     engine.DimAllArrays();
     EXPECT_EQ(engine.RollWidth, 0);
     EXPECT_EQ(engine.PieceCount + engine.OrgCount + engine.CutCount + engine.PosCount, 0);
-    EXPECT_EQ(engine.StartCount, 0);
     EXPECT_EQ(engine.BestLen + engine.ResultLen, 0);
-    EXPECT_EQ(engine.PCX2[2] + engine.PosY[2] + engine.StartPX[3000] + engine.Undivided.PCY2[1], 0);
+    EXPECT_EQ(engine.PCX2[2] + engine.PosY[2] + engine.Undivided.PCY2[1], 0);
     ExpectRowBounds(engine);
 }
 

@@ -12,7 +12,6 @@ namespace tarn {
 namespace {
 
 using testing::MakeEngine;
-using testing::Size;
 
 class Recorder : public SearchObserver {
   public:
