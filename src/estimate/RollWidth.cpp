@@ -2,8 +2,10 @@
 
 #include "app/Lengths.h"
 #include "app/Numbers.h"
+#include "app/RunTimeError.h"
 
-#include <regex>
+#include <algorithm>
+#include <optional>
 #include <stdexcept>
 
 namespace tarn {
@@ -17,6 +19,61 @@ constexpr Double InchesPerFoot = 12;
 Single FromCentimetres(Double centimetres) {
     const Single asFeet = CSng(centimetres * InchesPerFoot);
     return CSng(static_cast<Double>(asFeet) / CentimetresPerInch / InchesPerFoot);
+}
+
+/// Take the first `count` characters off `text`.
+std::string_view Take(std::string_view& text, std::size_t count) {
+    const std::string_view taken = text.substr(0, count);
+    text.remove_prefix(taken.size());
+    return taken;
+}
+
+std::size_t DigitsAt(std::string_view text, std::size_t from) {
+    constexpr std::string_view Digits = "0123456789";
+    return std::min(text.find_first_not_of(Digits, from), text.size()) - from;
+}
+
+/// Take digits, or digits on both sides of a point, off `text`; empty where it begins otherwise.
+std::string_view TakeNumber(std::string_view& text) {
+    const std::size_t whole = DigitsAt(text, 0);
+    if (whole == 0 || whole == text.size() || text[whole] != '.') {
+        return Take(text, whole);
+    }
+    const std::size_t places = DigitsAt(text, whole + 1);
+    return Take(text, places == 0 ? 0 : whole + 1 + places);
+}
+
+/// Take `unit` (lower case) off `text`, where it begins with it in either case.
+bool TakeUnit(std::string_view& text, std::string_view unit) {
+    const auto same = [](char a, char b) {
+        return a == b || (a >= 'A' && a <= 'Z' && a + 32 == b);
+    };
+    const std::string_view front = text.substr(0, unit.size());
+    if (!std::equal(front.begin(), front.end(), unit.begin(), unit.end(), same)) {
+        return false;
+    }
+    text.remove_prefix(unit.size());
+    return true;
+}
+
+/// The width that a command line names, inches; nothing for an unreadable text. Raises "Overflow".
+std::optional<Single> WidthOf(std::string_view text) {
+    const std::string_view number = TakeNumber(text);
+    if (number.empty()) {
+        return std::nullopt;
+    }
+    std::optional<Single> width;
+    if (TakeUnit(text, "cm")) {
+        width = FromCentimetres(Val(number));
+    } else if (TakeUnit(text, "in")) {
+        width = OtherRollWidth("", number);
+    } else if (TakeUnit(text, "ft")) {
+        const std::string_view inches = TakeNumber(text);
+        if (inches.empty() || TakeUnit(text, "in")) {
+            width = OtherRollWidth(number, inches);
+        }
+    }
+    return text.empty() ? width : std::nullopt;
 }
 
 } // namespace
@@ -35,27 +92,21 @@ Single OtherRollWidth(std::string_view feet, std::string_view inches) {
 }
 
 Single ReadRollWidth(const std::string& text) {
-    static const std::regex Form(R"((\d+(?:\.\d+)?)(?:(cm)|(in)|ft(?:(\d+(?:\.\d+)?)in)?))",
-                                 std::regex::icase);
-    std::smatch match;
-    if (!std::regex_match(text, match, Form)) {
+    std::optional<Single> width;
+    try {
+        width = WidthOf(text);
+    } catch (const RunTimeError&) {
+        throw std::invalid_argument("The roll width \"" + text + "\" is too large.");
+    }
+    if (!width) {
         throw std::invalid_argument("The roll width \"" + text +
                                     "\" is not readable: write it as 12ft, 13.5ft, 12ft6in, 150in "
                                     "or 366cm.");
     }
-    const std::string number = match[1];
-    Single width = 0;
-    if (match[2].matched) {
-        width = FromCentimetres(Val(number));
-    } else if (match[3].matched) {
-        width = OtherRollWidth("", number);
-    } else {
-        width = OtherRollWidth(number, match[4].str());
-    }
-    if (width <= 0) {
+    if (*width <= 0) {
         throw std::invalid_argument("The roll width \"" + text + "\" must be more than 0.");
     }
-    return width;
+    return *width;
 }
 
 } // namespace tarn

@@ -26,9 +26,9 @@ Single CaptionRollWidth(std::string_view caption, bool metric);
 /// The roll width, in inches, of a free width typed as feet and inches; also in metric mode.
 Single OtherRollWidth(std::string_view feet, std::string_view inches);
 
-/// Read a roll width as the command line takes it: 12ft, 13.5ft, 12ft6in, 150in or 366cm, in
-/// inches. Raises std::invalid_argument, with a text for the user, for anything else and for a
-/// width of 0 or less.
+/// Read a roll width as the command line takes it: 12ft, 13.5ft, 12ft6in, 150in or 366cm, the units
+/// in either case, in inches. Raises std::invalid_argument, with a text for the user, for anything
+/// else, for a width of 0 and for one that no Single holds.
 Single ReadRollWidth(const std::string& text);
 
 } // namespace tarn
