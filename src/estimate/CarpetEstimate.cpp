@@ -2,6 +2,8 @@
 
 #include "app/Lengths.h"
 #include "app/Numbers.h"
+#include "app/RunTimeError.h"
+#include "app/Text.h"
 #include "engine/Geometry.h"
 #include "engine/Pieces.h"
 
@@ -20,6 +22,10 @@ Box RoomBox(const SharedState& state, Integer room) {
 
 void AppendCut(SharedState& state, const Box& cut) {
     const Integer row = state.ECutCount;
+    if (row > MaxPiece) {
+        RaiseSubscript("There are more than " + TrimStr(MaxPiece + 1) +
+                       " cuts: choose a wider roll or estimate the rooms in two projects.");
+    }
     state.ECutX1[row] = cut.X1;
     state.ECutX2[row] = cut.X2;
     state.ECutY1[row] = cut.Y1;

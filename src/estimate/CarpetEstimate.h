@@ -44,7 +44,8 @@ enum class ConvertResult {
 /// not cut.
 ///
 /// A width within half a coordinate unit of a multiple of the roll is that multiple: it leaves no
-/// sliver and loses no cut. Raises "Subscript out of range" past MaxPiece cuts or pieces.
+/// sliver and loses no cut. Raises "Subscript out of range" past MaxPiece + 1 cuts, and so for a
+/// RollWidth of 0 or less when there is a room to cut; the estimate is empty then.
 ConvertResult ConvertData(SharedState& state, EngineArrays& engine, CarpetEstimate& estimate,
                           bool downLay);
 
