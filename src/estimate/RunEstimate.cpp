@@ -31,7 +31,8 @@ ConvertResult RunEstimate(SharedState& state, EngineArrays& engine, CarpetEstima
             return ConvertResult::Nothing;
         }
         return result;
-    } catch (const RunTimeError&) {
+    } catch (...) {
+        // The observer is the caller's code: it may fail in any way.
         EmptyEstimate(state, engine, estimate);
         throw;
     }

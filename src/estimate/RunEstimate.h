@@ -31,7 +31,9 @@ Integer PackEstOption(Integer minCut, Integer pieces);
 
 /// The whole estimate of one carpet of the open project, as the screens make it: rebuild the
 /// extents of the rooms, cut them, and search for a layout of the pieces if there are any. A search
-/// that the observer stops, and an error, leave an empty estimate.
+/// that the observer stops, and an error, also one of the observer's own, leave an empty estimate.
+/// Raises as ConvertData and MultiEstimate do, and "Overflow" for a pattern repeat that does not
+/// fit.
 ConvertResult RunEstimate(SharedState& state, EngineArrays& engine, CarpetEstimate& estimate,
                           const EstimateRequest& request, SearchObserver& observer);
 
