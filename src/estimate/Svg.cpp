@@ -2,6 +2,8 @@
 
 #include "app/Format.h"
 
+#include <QString>
+
 #include <string_view>
 
 namespace tarn {
@@ -18,28 +20,23 @@ std::string Number(Double value) {
     return Format(value, "0.00");
 }
 
-std::string Escaped(std::string_view text) {
-    std::string result;
-    for (const char c : text) {
-        switch (c) {
-        case '&':
-            result += "&amp;";
-            break;
-        case '<':
-            result += "&lt;";
-            break;
-        case '>':
-            result += "&gt;";
-            break;
-        case '"':
-            result += "&quot;";
-            break;
-        default:
-            // A control character is not allowed in a document, whatever its spelling.
-            result += static_cast<unsigned char>(c) < 0x20 ? ' ' : c;
+/// A text as a document may hold it: blanks for control characters, which are not allowed whatever
+/// their spelling, and the replacement character for bytes and code points that are no character.
+QString Allowed(std::string_view text) {
+    constexpr char16_t FirstNonCharacter = 0xFFFE;
+    QString allowed = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+    for (QChar& c : allowed) {
+        if (c < QLatin1Char(' ')) {
+            c = QLatin1Char(' ');
+        } else if (c.unicode() >= FirstNonCharacter) {
+            c = QChar::ReplacementCharacter;
         }
     }
-    return result;
+    return allowed;
+}
+
+std::string Escaped(std::string_view text) {
+    return Allowed(text).toHtmlEscaped().toStdString();
 }
 
 std::string_view ColorText(QBColor color) {
