@@ -66,8 +66,8 @@ void CutRoom(SharedState& state, EngineArrays& engine, const Box& room, bool dow
         k = next;
     }
     if (!IsWithinTolerance(CSng(left))) {
-        const Single from = k == 0 ? turned.X1 : edge(k);
-        AppendPiece(engine, AcrossRoll({from, turned.Y1, turned.X2, turned.Y2}, downLay), downLay);
+        const Box piece{edge(k), turned.Y1, turned.X2, turned.Y2};
+        AppendPiece(engine, AcrossRoll(piece, downLay), downLay);
     }
 }
 
