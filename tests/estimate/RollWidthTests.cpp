@@ -1,0 +1,140 @@
+#include "app/Lengths.h"
+#include "app/RunTimeError.h"
+#include "estimate/RollWidth.h"
+
+#include <gtest/gtest.h>
+
+#include <stdexcept>
+
+namespace tarn {
+namespace {
+
+TEST(RollWidth, ImperialCaptionsAreFeet) {
+    EXPECT_EQ(CaptionRollWidth("CARPET WIDTH 6 FT.", false), 72);
+    EXPECT_EQ(CaptionRollWidth("CARPET WIDTH 12 FT.", false), 144);
+    EXPECT_EQ(CaptionRollWidth("CARPET WIDTH 13.5 FT.", false), 162);
+    EXPECT_EQ(CaptionRollWidth("CARPET WIDTH 15 FT.", false), 180);
+}
+
+TEST(RollWidth, MetricCaptionsAreCentimetres) {
+    EXPECT_NEAR(CaptionRollWidth("CARPET WIDTH 183 CMS", true), 72.0472, 5e-5);
+    EXPECT_NEAR(CaptionRollWidth("CARPET WIDTH 366 CMS", true), 144.0945, 5e-5);
+    EXPECT_NEAR(CaptionRollWidth("CARPET WIDTH 411 CMS", true), 161.8110, 5e-5);
+    EXPECT_NEAR(CaptionRollWidth("CARPET WIDTH 457 CMS", true), 179.9213, 5e-5);
+}
+
+TEST(RollWidth, AMetricWidthTurnsBackIntoItsCentimetres) {
+    for (const int figure : {183, 366, 411, 457}) {
+        const Single width =
+            CaptionRollWidth("CARPET WIDTH " + std::to_string(figure) + " CMS", true);
+        EXPECT_EQ(RoundedCentimetres(static_cast<double>(width)), figure);
+        EXPECT_NEAR(static_cast<double>(width) * 2.54, figure, 2e-5);
+    }
+}
+
+TEST(RollWidth, TheCaptionsOfBothUnitsAreTheFourStandardWidths) {
+    EXPECT_EQ(WidthCaptions(false)[0], "CARPET WIDTH 6 FT.");
+    EXPECT_EQ(WidthCaptions(false)[1], "CARPET WIDTH 12 FT.");
+    EXPECT_EQ(WidthCaptions(false)[2], "CARPET WIDTH 13.5 FT.");
+    EXPECT_EQ(WidthCaptions(false)[3], "CARPET WIDTH 15 FT.");
+    EXPECT_EQ(WidthCaptions(true)[0], "CARPET WIDTH 183 CMS");
+    EXPECT_EQ(WidthCaptions(true)[1], "CARPET WIDTH 366 CMS");
+    EXPECT_EQ(WidthCaptions(true)[2], "CARPET WIDTH 411 CMS");
+    EXPECT_EQ(WidthCaptions(true)[3], "CARPET WIDTH 457 CMS");
+}
+
+TEST(RollWidth, TwelveFeetOr366CentimetresIsTheDefault) {
+    EXPECT_EQ(CaptionRollWidth(WidthCaptions(false)[DefaultWidth], false), 144);
+    EXPECT_NEAR(CaptionRollWidth(WidthCaptions(true)[DefaultWidth], true), 144.09, 5e-3);
+}
+
+TEST(RollWidth, OtherTakesFeetAndInchesWhateverTheUnit) {
+    EXPECT_EQ(OtherRollWidth("12", "6"), 150);
+    EXPECT_EQ(OtherRollWidth("13", ""), 156);
+    EXPECT_EQ(OtherRollWidth("", "100.5"), 100.5F);
+    EXPECT_EQ(OtherRollWidth("1.5", "3"), 21);
+}
+
+TEST(RollWidth, OtherReadsTheLeadingNumberOfEachText) {
+    EXPECT_EQ(OtherRollWidth("12abc", "6 in"), 150);
+    EXPECT_EQ(OtherRollWidth("abc", "x"), 0);
+    EXPECT_EQ(OtherRollWidth("", ""), 0);
+    EXPECT_EQ(OtherRollWidth("-12", "6"), -138);
+}
+
+TEST(RollWidth, OtherBeyondASingleOverflows) {
+    EXPECT_THROW(OtherRollWidth("1e38", "0"), RunTimeError);
+}
+
+TEST(ReadRollWidth, ReadsEveryForm) {
+    EXPECT_EQ(ReadRollWidth("12ft"), 144);
+    EXPECT_EQ(ReadRollWidth("13.5ft"), 162);
+    EXPECT_EQ(ReadRollWidth("12ft6in"), 150);
+    EXPECT_EQ(ReadRollWidth("12ft6.5in"), 150.5F);
+    EXPECT_EQ(ReadRollWidth("0ft6in"), 6);
+    EXPECT_EQ(ReadRollWidth("150in"), 150);
+    EXPECT_EQ(ReadRollWidth("100.25in"), 100.25F);
+    EXPECT_EQ(ReadRollWidth("012ft"), 144);
+    EXPECT_NEAR(ReadRollWidth("259cm"), 259 / 2.54, 1e-5);
+    EXPECT_NEAR(ReadRollWidth("182.9cm"), 182.9 / 2.54, 1e-5);
+}
+
+TEST(ReadRollWidth, TakesTheUnitInEitherCase) {
+    EXPECT_EQ(ReadRollWidth("12FT6In"), 150);
+    EXPECT_EQ(ReadRollWidth("150IN"), 150);
+    EXPECT_EQ(ReadRollWidth("366CM"), ReadRollWidth("366cm"));
+}
+
+TEST(ReadRollWidth, AStandardMetricWidthIsTheCaptionsToTheLastBit) {
+    for (const std::string_view caption : MetricWidthCaptions) {
+        const std::string figure(caption.substr(13, 3));
+        EXPECT_EQ(ReadRollWidth(figure + "cm"), CaptionRollWidth(caption, true));
+    }
+}
+
+std::string Refusal(const std::string& text) {
+    try {
+        ReadRollWidth(text);
+    } catch (const std::invalid_argument& refusal) {
+        return refusal.what();
+    }
+    ADD_FAILURE() << "\"" << text << "\" was read";
+    return {};
+}
+
+TEST(ReadRollWidth, RefusesWhatItCannotReadAndNamesIt) {
+    for (const std::string text :
+         {"",           " ",      "12",       "ft",       "in",      "cm",      "12 ft",
+          " 12ft",      "12ft ",  "12ft 6in", "12ft6",    "12ft6ft", "12ft6cm", "6in12ft",
+          "12ft6in3in", "-12ft",  "+12ft",    "12ft-6in", ".5ft",    "12.ft",   "1.2.3ft",
+          "1e2in",      "12,5ft", "12'6\"",   "12m",      "366mm",   "0x90in",  "nancm",
+          "infin",      "12ftin", "12f",      "366c",     "366cmx",  "12ſt",    "１２ft"}) {
+        EXPECT_EQ(Refusal(text), "The roll width \"" + text +
+                                     "\" is not readable: write it as 12ft, 13.5ft, 12ft6in, 150in "
+                                     "or 366cm.");
+    }
+    EXPECT_NE(Refusal(std::string("12ft\0in", 7)), "");
+}
+
+TEST(ReadRollWidth, RefusesZero) {
+    for (const std::string text : {"0ft", "0in", "0cm", "0ft0in", "0.0ft", "000cm", "0.00cm"}) {
+        EXPECT_EQ(Refusal(text), "The roll width \"" + text + "\" must be more than 0.");
+    }
+}
+
+TEST(ReadRollWidth, RefusesAWidthTooSmallToHold) {
+    EXPECT_NE(Refusal("0." + std::string(400, '0') + "1in").find("must be more than 0"),
+              std::string::npos);
+}
+
+TEST(ReadRollWidth, RefusesAWidthTooLargeToHold) {
+    for (const std::string unit : {"ft", "in", "cm"}) {
+        for (const std::size_t digits : {39U, 400U, 1'000'000U}) {
+            const std::string text = std::string(digits, '9') + unit;
+            EXPECT_EQ(Refusal(text), "The roll width \"" + text + "\" is too large.");
+        }
+    }
+}
+
+} // namespace
+} // namespace tarn
