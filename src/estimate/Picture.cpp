@@ -57,10 +57,11 @@ void Picture::Print(std::string_view text) {
     step.Color = ForeColor;
     step.X1 = CurrentX;
     step.Y1 = CurrentY;
+    step.X2 = CurrentX + TextWidth(text);
     step.FontSize = FontSize;
     step.Text = text;
+    Reach(step.X2, CurrentY + LineHeight());
     steps_.push_back(std::move(step));
-    Reach(CurrentX + TextWidth(text), CurrentY + LineHeight());
     CurrentX = 0;
     CurrentY += LineHeight();
 }

@@ -19,7 +19,7 @@ struct DrawingStep {
     QBColor Color = QBColor::Black;
     Double X1 = 0; ///< box: left; text: left of its first letter
     Double Y1 = 0; ///< box: top; text: top of its line
-    Double X2 = 0; ///< box: right
+    Double X2 = 0; ///< right; of a text by the face's own letter widths
     Double Y2 = 0; ///< box: bottom
     Double FontSize = 0;
     std::string Text;

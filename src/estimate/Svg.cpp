@@ -66,11 +66,15 @@ std::string BoxElement(const DrawingStep& step) {
     return open + "><title>" + Escaped(step.Tip) + "</title></rect>\n";
 }
 
+/// The text keeps its width where the viewer has to take a wider face, so that a size stays inside
+/// its piece.
 std::string TextElement(const DrawingStep& step) {
     const Double size = step.FontSize * TwipsPerPoint;
     return "<text" + Attribute("x", Number(step.X1)) +
            Attribute("y", Number(step.Y1 + ArialAscent * size)) +
-           Attribute("font-size", Number(size)) + Attribute("fill", ColorText(step.Color)) + ">" +
+           Attribute("font-size", Number(size)) +
+           Attribute("textLength", Number(step.X2 - step.X1)) +
+           " lengthAdjust=\"spacingAndGlyphs\"" + Attribute("fill", ColorText(step.Color)) + ">" +
            Escaped(step.Text) + "</text>\n";
 }
 
