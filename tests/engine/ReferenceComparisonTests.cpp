@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include <cstdint>
+#include <vector>
 
 namespace tarn {
 namespace {
@@ -88,9 +89,13 @@ void Compare(const PlainJob& plain) {
     }
 }
 
-TEST(SearchAgainstThePlainOne, GivesTheSameOnThousandsOfRandomJobs) {
-    constexpr std::uint32_t Jobs = 4000;
-    for (std::uint32_t seed = 0; seed < Jobs; ++seed) {
+/// Blocks of seeds, so that they run beside each other.
+class SearchOfRandomJobs : public ::testing::TestWithParam<std::uint32_t> {};
+
+TEST_P(SearchOfRandomJobs, GivesTheSameAsThePlainOne) {
+    constexpr std::uint32_t JobsInBlock = 500;
+    const std::uint32_t first = GetParam() * JobsInBlock;
+    for (std::uint32_t seed = first; seed < first + JobsInBlock; ++seed) {
         SCOPED_TRACE(seed);
         Compare(reference::RandomJob(seed));
         if (HasFatalFailure()) {
@@ -98,6 +103,26 @@ TEST(SearchAgainstThePlainOne, GivesTheSameOnThousandsOfRandomJobs) {
         }
     }
 }
+
+INSTANTIATE_TEST_SUITE_P(Block, SearchOfRandomJobs, ::testing::Range(0U, 8U));
+
+/// Jobs far larger than a house, with so many parts that every band of the roll is crowded.
+class SearchOfLargeJobs : public ::testing::TestWithParam<int> {};
+
+TEST_P(SearchOfLargeJobs, GivesTheSameAsThePlainOne) {
+    const int fills = GetParam();
+    reference::RandomSource random(static_cast<std::uint32_t>(fills));
+    std::vector<reference::Extent> extents;
+    for (int i = 0; i < fills; ++i) {
+        extents.push_back({random.Whole(1, 143), random.Whole(12, 60)});
+    }
+    for (const int option : {0, 1, 25}) {
+        SCOPED_TRACE(option);
+        Compare(reference::DownLayJob(144, option, extents));
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Fills, SearchOfLargeJobs, ::testing::Values(60, 100, 150));
 
 TEST(SearchAgainstThePlainOne, GivesTheSameOnStoredJobs) {
     for (const auto& stored : reference::StoredJobs()) {
