@@ -1,0 +1,136 @@
+#include "store/Connection.h"
+
+#include "app/Database.h"
+
+#include <QFileInfo>
+#include <QSqlDatabase>
+#include <QSqlError>
+#include <QSqlField>
+#include <QSqlQuery>
+#include <QSqlRecord>
+#include <QUrl>
+
+#include <atomic>
+
+namespace tarn {
+
+namespace {
+
+/// SQLite's primary result codes, as far as they have a text of their own here.
+enum ResultCode {
+    Busy = 5,
+    Locked = 6,
+    ReadOnlyFile = 8,
+    DiskError = 10,
+    Corrupt = 11,
+    DiskFull = 13,
+    NotADatabase = 26,
+};
+
+QString UniqueName() {
+    static std::atomic<unsigned> count = 0;
+    return QStringLiteral("tarn-%1").arg(count++);
+}
+
+/// The file as SQLite's own address form: the one form in which opening never makes a file, and in
+/// which a path can hold any character.
+QString Address(const std::string& path, Connection::Access access) {
+    const QString absolute = QFileInfo(QString::fromStdString(path)).absoluteFilePath();
+    QByteArray encoded = QUrl::toPercentEncoding(absolute, "/");
+    if (!encoded.startsWith('/')) {
+        encoded.prepend('/'); // a drive letter
+    }
+    const char* mode = access == Connection::Access::ReadOnly    ? "ro"
+                       : access == Connection::Access::ReadWrite ? "rw"
+                                                                 : "rwc";
+    return QString::fromLatin1("file://" + encoded + "?mode=" + mode);
+}
+
+/// Why it failed and what to do about it, in words for the user.
+std::string Cause(const QSqlError& error) {
+    constexpr int PrimaryCode = 0xFF;
+    const std::string text = error.databaseText().toStdString();
+    switch (error.nativeErrorCode().toInt() & PrimaryCode) {
+    case Busy:
+    case Locked:
+        return "another program is using the database. Close that program and try again.";
+    case ReadOnlyFile:
+        return "the database is read-only. Allow writing to the file and to its folder.";
+    case DiskFull:
+        return "the disk is full. Free some space and try again.";
+    case DiskError:
+        return "the disk reports an error (" + text + ").";
+    case Corrupt:
+    case NotADatabase:
+        return "the database file is damaged (" + text + "). Put a backup in its place.";
+    default:
+        return text + ".";
+    }
+}
+
+[[noreturn]] void Raise(std::string_view failing, const QSqlError& error) {
+    throw DatabaseError(std::string(failing) + ": " + Cause(error));
+}
+
+} // namespace
+
+QVariant TextValue(std::string_view utf8) {
+    const QString text = QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
+    return text.isNull() ? QVariant(QStringLiteral("")) : QVariant(text);
+}
+
+Connection::Connection(const std::string& path, Access access, int busyWait)
+    : name_(UniqueName()) {
+    QSqlError error;
+    {
+        QSqlDatabase database = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), name_);
+        database.setConnectOptions(
+            QStringLiteral("QSQLITE_OPEN_URI;QSQLITE_BUSY_TIMEOUT=%1").arg(busyWait));
+        database.setDatabaseName(Address(path, access));
+        if (database.open()) {
+            return;
+        }
+        error = database.lastError();
+    }
+    QSqlDatabase::removeDatabase(name_);
+    Raise("The database file " + path + " cannot be opened", error);
+}
+
+Connection::~Connection() {
+    QSqlDatabase::removeDatabase(name_);
+}
+
+Result Connection::Run(std::string_view statement, std::string_view failing,
+                       const QVariantList& values) {
+    QSqlQuery query(QSqlDatabase::database(name_, false));
+    query.setForwardOnly(true);
+    if (!query.prepare(TextValue(statement).toString())) {
+        Raise(failing, query.lastError());
+    }
+    for (const QVariant& value : values) {
+        query.addBindValue(value);
+    }
+    if (!query.exec()) {
+        Raise(failing, query.lastError());
+    }
+
+    Result result;
+    const QSqlRecord columns = query.record();
+    for (int column = 0; column < columns.count(); ++column) {
+        result.Fields.push_back(columns.fieldName(column).toStdString());
+    }
+    while (query.next()) {
+        QVariantList row;
+        for (int column = 0; column < columns.count(); ++column) {
+            row.push_back(query.value(column));
+        }
+        result.Rows.push_back(std::move(row));
+    }
+    if (query.lastError().isValid()) {
+        Raise(failing, query.lastError());
+    }
+    result.Affected = query.numRowsAffected();
+    return result;
+}
+
+} // namespace tarn

@@ -1,0 +1,108 @@
+#include "store/DatabaseFile.h"
+
+#include "store/Connection.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+namespace tarn {
+
+namespace {
+
+[[noreturn]] void Refuse(const std::string& path, const std::string& cause) {
+    throw DatabaseError("The database file " + path + " " + cause);
+}
+
+bool TakesWriting(const QFileInfo& info) {
+    constexpr QFile::Permissions AnyWrite =
+        QFile::WriteOwner | QFile::WriteGroup | QFile::WriteOther;
+    return info.isWritable() && (info.permissions() & AnyWrite);
+}
+
+/// The folder in which SQLite keeps its journal: that of the file that a link leads to.
+QFileInfo FolderOf(const QFileInfo& file) {
+    return QFileInfo(QFileInfo(file.canonicalFilePath()).absolutePath());
+}
+
+void RequireSqliteFile(const std::string& path, const QFileInfo& info) {
+    constexpr qint64 HeaderSize = 100;
+    constexpr qsizetype JetNameAt = 4;
+    if (!info.exists()) {
+        Refuse(path, "is missing. Correct the data folder in TarnWin.INI, or make a new data "
+                     "folder with \"tarn-data create\".");
+    }
+    if (info.isDir()) {
+        Refuse(path, "is a folder. Correct the data folder in TarnWin.INI.");
+    }
+    QFile file(info.filePath());
+    if (!file.open(QIODevice::ReadOnly)) {
+        Refuse(path, "cannot be read: " + file.errorString().toStdString() + ".");
+    }
+    const QByteArray header = file.read(HeaderSize);
+    if (header.isEmpty()) {
+        Refuse(path, "is empty. Put a backup in its place.");
+    }
+    const QByteArray jetName = header.mid(JetNameAt);
+    if (jetName.startsWith("Standard Jet DB") || jetName.startsWith("Standard ACE DB")) {
+        Refuse(path, "is in the older Jet format, which cannot be read. Keep it, make a new data "
+                     "folder with \"tarn-data create\" and enter its projects there.");
+    }
+    if (!header.startsWith(QByteArray("SQLite format 3\0", 16))) {
+        Refuse(path, "is not a database of this program. Correct the data folder in TarnWin.INI, "
+                     "or put a backup in its place.");
+    }
+}
+
+void RequireWritable(const std::string& path, const QFileInfo& info) {
+    if (!TakesWriting(info)) {
+        Refuse(path, "is read-only. Allow writing to it.");
+    }
+    if (!TakesWriting(FolderOf(info))) {
+        Refuse(path, "lies in a read-only folder. Allow writing to the folder.");
+    }
+}
+
+} // namespace
+
+std::shared_ptr<Connection> ConnectToFile(const std::string& path, DatabaseAccess access,
+                                          int busyWait) {
+    const QFileInfo info(QString::fromStdString(path));
+    RequireSqliteFile(path, info);
+    if (access == DatabaseAccess::ReadWrite) {
+        RequireWritable(path, info);
+        return std::make_shared<Connection>(path, Connection::Access::ReadWrite, busyWait);
+    }
+    if (!TakesWriting(info) || !TakesWriting(FolderOf(info))) {
+        return std::make_shared<Connection>(path, Connection::Access::ReadOnly, busyWait);
+    }
+    // Able to write, so that SQLite can take back a change that a crash cut off; but refusing to.
+    auto connection = std::make_shared<Connection>(path, Connection::Access::ReadWrite, busyWait);
+    connection->Run("PRAGMA query_only = ON", "The database file " + path + " cannot be opened");
+    return connection;
+}
+
+void RequireSound(Connection& connection, const std::string& path) {
+    const std::string failing = "The database file " + path + " cannot be opened";
+    const auto ask = [&](const char* statement) {
+        return connection.Run(statement, failing).Rows.at(0).at(0);
+    };
+    connection.Run("BEGIN", failing); // from the first answer on the file stays as it is
+    QString finding = ask("PRAGMA quick_check(1)").toString();
+    const qint64 size =
+        ask("PRAGMA page_size").toLongLong() * ask("PRAGMA page_count").toLongLong();
+    // SQLite takes the missing end of the last page for zeros. (Another journal mode may keep whole
+    // pages elsewhere.)
+    const bool whole = QFileInfo(QString::fromStdString(path)).size() >= size ||
+                       ask("PRAGMA journal_mode").toString() == QStringLiteral("wal");
+    if (!whole) {
+        finding = QStringLiteral("a part of it is missing");
+    }
+    connection.Run("COMMIT", failing);
+    if (finding != QStringLiteral("ok")) {
+        throw DatabaseError("The database file " + path + " is damaged (" + finding.toStdString() +
+                            "). Put a backup in its place.");
+    }
+}
+
+} // namespace tarn

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "store/SqlDatabase.h"
+
+#include <array>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace tarn {
+
+/// The tables, each name written here alone.
+inline constexpr std::string_view DirTab = "DirTab";       ///< a row for each directory
+inline constexpr std::string_view ProjTab = "ProjTab";     ///< a row for each project
+inline constexpr std::string_view MainTab = "MainTab";     ///< a project's sheet
+inline constexpr std::string_view InputData = "InputData"; ///< the rooms of a sheet
+
+/// The tables that hold rows of a sheet, by its TabIndex, in the order in which they are emptied.
+inline constexpr std::array<std::string_view, 10> SheetTables = {
+    "AFillTab", "AngleMCut", "AInputData", "ESTTab",   "FillCut",
+    InputData,  "MasterCut", "SAFill",     "SFillCut", MainTab};
+
+/// Make an empty database file with every table. The folders on the way are made too. Raises
+/// DatabaseError, and leaves nothing behind, when it cannot, and when anything stands at `path`.
+void CreateDatabaseFile(const std::string& path);
+
+/// Look a database file over: whether it can be read, whether its content is sound, and whether
+/// every table is there with its fields. One line for each finding; none when all is well. Changes
+/// nothing.
+std::vector<std::string> CheckDatabaseFile(const std::string& path, int busyWait = DefaultBusyWait);
+
+/// Copy a database file as it stands between two changes, also while programs use it. Raises
+/// DatabaseError, and leaves nothing behind, when the source is refused or the copy cannot be made,
+/// and when anything stands at `target`.
+void BackUpDatabaseFile(const std::string& source, const std::string& target,
+                        int busyWait = DefaultBusyWait);
+
+} // namespace tarn

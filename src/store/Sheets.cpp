@@ -1,0 +1,141 @@
+#include "store/Sheets.h"
+
+#include "app/Numbers.h"
+#include "app/RunTimeError.h"
+#include "app/Text.h"
+#include "store/Deletions.h"
+#include "store/Failure.h"
+#include "store/Fields.h"
+#include "store/Schema.h"
+#include "store/SharedRows.h"
+
+#include <cmath>
+#include <limits>
+
+namespace tarn {
+
+namespace {
+
+constexpr std::string_view EnteredMetricField = "EnteredMetric";
+
+/// The current row's EnteredMetric.
+bool EnteredMetricOf(const Recordset& sheet) {
+    const auto entered =
+        sheet.HasField(EnteredMetricField) ? NumberIn(sheet, EnteredMetricField) : std::nullopt;
+    return entered.value_or(NumberIn(sheet, "TileLabelNUm").value_or(0)) == 1;
+}
+
+void StoreSheet(SharedState& state, Integer tabIndex) {
+    const auto sheet = OpenedDatabase(state).OpenDynaset(SheetQuery(MainTab, tabIndex));
+    const bool wasMetric = !sheet->AtEnd() && EnteredMetricOf(*sheet);
+    DeleteAllRows(*sheet);
+
+    sheet->AddNew();
+    sheet->SetField("ProjName", state.CurProjName);
+    sheet->SetField("ObjNum", std::int64_t{state.ObjNum});
+    sheet->SetField("TabIndex", std::int64_t{tabIndex});
+    sheet->SetField("PicScale", std::monostate());
+    sheet->SetField("DigScale", state.DimScale);
+    sheet->SetField("TileLabelNUm", std::int64_t{state.MetricFlag});
+    sheet->SetField("MagScale", std::int64_t{1});
+    sheet->SetField("ScaleTop", std::int64_t{-500});
+    sheet->SetField("ScaleLeft", std::int64_t{-500});
+    if (sheet->HasField(EnteredMetricField)) {
+        const bool metric = state.ObjNum > 0 && (state.IsMetric() || wasMetric);
+        sheet->SetField(EnteredMetricField, std::int64_t{metric ? 1 : 0});
+    }
+    sheet->Update();
+}
+
+/// A number of the sheet row that must be there.
+Double RequiredNumber(const Recordset& sheet, std::string_view field) {
+    const auto number = NumberIn(sheet, field);
+    if (!number) {
+        throw DatabaseError("The project's sheet has no value in its field " + std::string(field) +
+                            ".");
+    }
+    return *number;
+}
+
+void RequireGood(bool good, std::string_view field) {
+    if (!good) {
+        throw DatabaseError("The project's sheet holds a wrong value in its field " +
+                            std::string(field) + ".");
+    }
+}
+
+void LoadSheet(SharedState& state, Integer& tabIndex) {
+    const auto sheet = OpenedDatabase(state).OpenSnapshot(SheetQuery(MainTab, tabIndex));
+    if (sheet->AtEnd()) {
+        throw DatabaseError("The project's sheet, number " + TrimStr(tabIndex) + ", is missing.");
+    }
+    const Double rooms = RequiredNumber(*sheet, "ObjNum");
+    const Double number = RequiredNumber(*sheet, "TabIndex");
+    const Double scale = RequiredNumber(*sheet, "DigScale");
+    RequireGood(rooms >= 0 && rooms <= MaxRoom + 1, "ObjNum");
+    RequireGood(scale > 0 && std::isfinite(scale), "DigScale");
+    // Fields of older versions: they must be there, their values are not kept.
+    for (const char* field : {"PicScale", "MagScale", "ScaleTop", "ScaleLeft"}) {
+        sheet->Field(field);
+    }
+
+    state.ObjNum = CInt(rooms);
+    tabIndex = CInt(number);
+    state.DimScale = scale;
+}
+
+} // namespace
+
+std::string SheetQuery(std::string_view table, Long tabIndex) {
+    return "Select * from " + std::string(table) + " where TabIndex=" + TrimStr(tabIndex);
+}
+
+std::string TextQuery(std::string_view table, std::string_view field, std::string_view text) {
+    return "Select * from " + std::string(table) + " where " + std::string(field) + "=\"" +
+           std::string(text) + "\"";
+}
+
+bool SaveMainTab(SharedState& state, Integer tabIndex) {
+    return Succeeds(state, [&] { StoreSheet(state, tabIndex); });
+}
+
+bool LoadMainTab(SharedState& state, Integer& tabIndex) {
+    state.MetricFlag = 0;
+    return Succeeds(state, [&] { LoadSheet(state, tabIndex); });
+}
+
+bool WasEnteredInMetric(SharedState& state, Integer tabIndex) {
+    const auto sheet = OpenedDatabase(state).OpenSnapshot(SheetQuery(MainTab, tabIndex));
+    return !sheet->AtEnd() && EnteredMetricOf(*sheet);
+}
+
+Long NewTabIndex(SharedState& state) {
+    const auto rows =
+        OpenedDatabase(state).OpenSnapshot("Select Max(TabIndex) from " + std::string(MainTab));
+    const auto greatest = rows->AtEnd() ? std::nullopt : NumberIn(*rows, "Max(TabIndex)");
+    if (!greatest || *greatest + 1 < 0) {
+        return 0;
+    }
+    if (*greatest >= std::numeric_limits<Integer>::max()) {
+        RaiseOverflow("No sheet number is left: the greatest one, 32767, is in use.");
+    }
+    return CInt(*greatest + 1);
+}
+
+std::optional<Long> FindProjTabIndex(SharedState& state) {
+    const auto rows =
+        OpenedDatabase(state).OpenSnapshot("Select TabIndex from " + std::string(MainTab) +
+                                           " where ProjName = \"" + state.CurProjName + "\"");
+    if (rows->AtEnd()) {
+        return std::nullopt;
+    }
+    return CLng(RequiredNumber(*rows, "TabIndex"));
+}
+
+Long GetProjTabIndex(SharedState& state) {
+    Long number = NoSheet;
+    Succeeds(state, [&] { number = FindProjTabIndex(state).value_or(NoSheet); });
+    return number;
+}
+
+} // namespace tarn

@@ -1,0 +1,160 @@
+#include "store/SqlDatabase.h"
+#include "store/TestDatabase.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <functional>
+
+namespace tarn {
+namespace {
+
+namespace fs = std::filesystem;
+
+using testing::DatabaseErrorOf;
+using testing::RawDatabase;
+using testing::ReadFile;
+using testing::ShortWait;
+using testing::TestDatabase;
+using testing::WriteFile;
+
+constexpr auto EveryWrite =
+    fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write;
+
+void ForbidWriting(const std::string& path) {
+    fs::permissions(path, EveryWrite, fs::perm_options::remove);
+}
+
+void AllowWriting(const std::string& path) {
+    fs::permissions(path, fs::perms::owner_write, fs::perm_options::add);
+}
+
+struct BadFile {
+    const char* Name;
+    std::function<void(const std::string& path)> Make;
+    /// Part of the text that names the cause.
+    const char* Cause;
+};
+
+/// A database file put out of order in one way.
+class RefusedFile : public ::testing::TestWithParam<BadFile> {
+  protected:
+    RefusedFile() { GetParam().Make(file_.Path()); }
+
+    TestDatabase file_;
+};
+
+TEST_P(RefusedFile, IsRefusedWithItsPathTheCauseAndWhatToDo) {
+    for (const auto access : {DatabaseAccess::ReadWrite, DatabaseAccess::ReadOnly}) {
+        const std::string text =
+            DatabaseErrorOf([&] { OpenSqlDatabase(file_.Path(), access, ShortWait); });
+        EXPECT_NE(text.find("The database file " + file_.Path()), std::string::npos) << text;
+        EXPECT_NE(text.find(GetParam().Cause), std::string::npos) << text;
+        EXPECT_NE(text.find(". "), std::string::npos) << "no second sentence: " << text;
+    }
+}
+
+TEST_P(RefusedFile, IsLeftAsItIs) {
+    const bool isFile = fs::is_regular_file(file_.Path());
+    const std::string before = isFile ? ReadFile(file_.Path()) : std::string();
+    const auto content = file_.Folder().Content();
+    for (const auto access : {DatabaseAccess::ReadWrite, DatabaseAccess::ReadOnly}) {
+        EXPECT_THROW(OpenSqlDatabase(file_.Path(), access, ShortWait), DatabaseError);
+    }
+    EXPECT_EQ(file_.Folder().Content(), content);
+    if (isFile) {
+        EXPECT_EQ(ReadFile(file_.Path()), before);
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    SqlDatabase, RefusedFile,
+    ::testing::Values(
+        BadFile{"Missing", [](const std::string& path) { fs::remove(path); }, "is missing"},
+        BadFile{"Folder",
+                [](const std::string& path) {
+                    fs::remove(path);
+                    fs::create_directory(path);
+                },
+                "is a folder"},
+        BadFile{"Empty", [](const std::string& path) { WriteFile(path, ""); }, "is empty"},
+        BadFile{"OneByte", [](const std::string& path) { WriteFile(path, "S"); },
+                "is not a database"},
+        BadFile{"Foreign", [](const std::string& path) { WriteFile(path, std::string(5000, 'x')); },
+                "is not a database"},
+        BadFile{"OlderJet",
+                [](const std::string& path) {
+                    WriteFile(path, std::string("\0\1\0\0Standard Jet DB\0", 20) +
+                                        std::string(4076, '\0'));
+                },
+                "older Jet format"},
+        BadFile{"NewerJet",
+                [](const std::string& path) {
+                    WriteFile(path, std::string("\0\1\0\0Standard ACE DB\0", 20) +
+                                        std::string(4076, '\0'));
+                },
+                "older Jet format"},
+        BadFile{"DamagedInTheMiddle",
+                [](const std::string& path) {
+                    std::string bytes = ReadFile(path);
+                    std::fill(bytes.begin() + 5000, bytes.begin() + 12000, 'x');
+                    WriteFile(path, bytes);
+                },
+                "damaged"}),
+    [](const auto& bad) { return bad.param.Name; });
+
+TEST(SqlDatabase, RefusesAFileThatIsCutShortAnywhere) {
+    const TestDatabase file;
+    const std::string whole = ReadFile(file.Path());
+    for (std::size_t length = 0; length < whole.size(); length += 1499) {
+        WriteFile(file.Path(), whole.substr(0, length));
+        EXPECT_THROW(OpenSqlDatabase(file.Path()), DatabaseError) << length << " bytes";
+        EXPECT_EQ(ReadFile(file.Path()).size(), length);
+    }
+    WriteFile(file.Path(), whole.substr(0, whole.size() - 1));
+    EXPECT_THROW(OpenSqlDatabase(file.Path()), DatabaseError);
+}
+
+TEST(SqlDatabase, RefusesAReadOnlyFileForWritingAndOpensItForReading) {
+    const TestDatabase file;
+    ForbidWriting(file.Path());
+    const std::string text = DatabaseErrorOf([&] { OpenSqlDatabase(file.Path()); });
+    EXPECT_EQ(text, "The database file " + file.Path() + " is read-only. Allow writing to it.");
+    EXPECT_NO_THROW(OpenSqlDatabase(file.Path(), DatabaseAccess::ReadOnly));
+}
+
+TEST(SqlDatabase, RefusesAReadOnlyFolderForWritingAndOpensItForReading) {
+    const TestDatabase file;
+    ForbidWriting(file.Folder().Path());
+    const std::string text = DatabaseErrorOf([&] { OpenSqlDatabase(file.Path()); });
+    EXPECT_EQ(text, "The database file " + file.Path() +
+                        " lies in a read-only folder. Allow writing to the folder.");
+    EXPECT_NO_THROW(OpenSqlDatabase(file.Path(), DatabaseAccess::ReadOnly));
+    AllowWriting(file.Folder().Path());
+}
+
+TEST(SqlDatabase, LooksAtTheFolderThatALinkLeadsTo) {
+    const TestDatabase file;
+    const testing::TestFolder links;
+    fs::create_symlink(file.Path(), links.Path("Tarn.mdb"));
+    EXPECT_NO_THROW(OpenSqlDatabase(links.Path("Tarn.mdb")));
+    ForbidWriting(file.Folder().Path());
+    EXPECT_THROW(OpenSqlDatabase(links.Path("Tarn.mdb")), DatabaseError);
+    AllowWriting(file.Folder().Path());
+}
+
+TEST(SqlDatabase, RefusesAFileThatAnotherProgramHasLocked) {
+    const TestDatabase file;
+    RawDatabase other(file.Path());
+    other.Run("BEGIN EXCLUSIVE");
+    const std::string text = DatabaseErrorOf(
+        [&] { OpenSqlDatabase(file.Path(), DatabaseAccess::ReadWrite, ShortWait); });
+    EXPECT_EQ(text, "The database file " + file.Path() +
+                        " cannot be opened: another program is using the database. Close that "
+                        "program and try again.");
+    other.Run("COMMIT");
+    EXPECT_NO_THROW(OpenSqlDatabase(file.Path(), DatabaseAccess::ReadWrite, ShortWait));
+}
+
+} // namespace
+} // namespace tarn
