@@ -1,0 +1,164 @@
+#include "rooms/RoomStore.h"
+
+#include "app/Numbers.h"
+#include "app/RunTimeError.h"
+#include "rooms/RoomRows.h"
+#include "store/Deletions.h"
+#include "store/Failure.h"
+#include "store/Fields.h"
+#include "store/Names.h"
+#include "store/Schema.h"
+#include "store/SharedRows.h"
+#include "store/Sheets.h"
+
+namespace tarn {
+
+namespace {
+
+void FillSlot(SharedState& state, Integer slot, const RoomRecord& room) {
+    state.RoomWidth[slot] = room.Width;
+    state.RoomLength[slot] = room.Length;
+    state.RoomCarpet[slot] = room.Covering;
+    state.RoomBase[slot] = room.Base;
+    state.RoomNoStr[slot] = room.RoomNo;
+    state.RoomRemark[slot] = room.Remark;
+}
+
+void AddRoomRow(Recordset& rows, std::int64_t number, const RoomRecord& room, std::int64_t sheet) {
+    rows.AddNew();
+    rows.SetField("ObjNum", number);
+    rows.SetField("RoomW", std::int64_t{room.Width});
+    rows.SetField("RoomL", std::int64_t{room.Length});
+    rows.SetField("RoomNoStr", room.RoomNo);
+    rows.SetField("RoomRemark", room.Remark);
+    rows.SetField("CTType", std::int64_t{room.Covering});
+    rows.SetField("BaseSty", std::int64_t{room.Base});
+    rows.SetField("TabIndex", sheet);
+    rows.Update();
+}
+
+bool BelongsToAnother(SharedState& state, Integer sheet) {
+    const auto rows = OpenedDatabase(state).OpenSnapshot(SheetQuery(MainTab, sheet));
+    for (; !rows->AtEnd(); rows->MoveNext()) {
+        if (StoredName(TextIn(*rows, "ProjName")) != StoredName(state.CurProjName)) {
+            return true;
+        }
+    }
+    return false;
+}
+
+/// The number under which to save the open project; see SaveProject.
+Integer SheetToSave(SharedState& state) {
+    const auto own = FindProjTabIndex(state);
+    const Long sheet = own.value_or(state.CurTabIndex);
+    if (sheet != NoSheet && !BelongsToAnother(state, ToInteger(sheet))) {
+        return ToInteger(sheet);
+    }
+    if (own) { // under a number that two projects share
+        DeleteAllRows(
+            *OpenedDatabase(state).OpenDynaset(TextQuery(MainTab, "ProjName", state.CurProjName)));
+    }
+    return ToInteger(NewTabIndex(state));
+}
+
+std::string CauseOf(const RunTimeError& error) {
+    return error.Text() + ". " + error.Advice();
+}
+
+/// The project has no sheet: allocate a number for it.
+void PrepareNewSheet(SharedState& state) {
+    state.CurTabIndex = ToInteger(NewTabIndex(state));
+    state.NewSheetFlag = true;
+}
+
+void LoadSheetAndRooms(SharedState& state, Integer sheet, ProjectLoad& load) {
+    Integer number = sheet;
+    if (!LoadMainTab(state, number)) {
+        throw DatabaseError(state.DatabaseFailure);
+    }
+    const auto rows = ReadRoomRows(state, sheet);
+    load.EnteredMetric = WasEnteredInMetric(state, sheet);
+    for (const RoomRow& row : rows) {
+        if (row.Slot) {
+            FillSlot(state, *row.Slot, row.Room);
+        }
+    }
+    load.Findings = RoomFindings(rows, state.ObjNum);
+    state.CurTabIndex = number;
+    state.NewSheetFlag = false;
+}
+
+} // namespace
+
+void EmptyRooms(SharedState& state) {
+    state.RoomWidth.Fill(0);
+    state.RoomLength.Fill(0);
+    state.RoomCarpet.Fill(0);
+    state.RoomBase.Fill(0);
+    state.RoomNoStr.Fill({});
+    state.RoomRemark.Fill({});
+}
+
+bool SaveInputData(SharedState& state, Integer tid) {
+    const auto rooms = TakeRooms(state);
+    const auto rows = OpenedDatabase(state).OpenDynaset(SheetQuery(InputData, tid));
+    DeleteAllRows(*rows);
+    std::int64_t number = 0;
+    for (const RoomRecord& room : rooms) {
+        AddRoomRow(*rows, number++, room, tid);
+    }
+    rows->Close();
+    return true;
+}
+
+bool LoadInputData(SharedState& state, Integer tid) {
+    const auto rows = ReadRoomRows(state, tid);
+    for (const RoomRow& row : rows) {
+        if (!row.Slot) {
+            RaiseSubscript("A room row has the ObjNum " + row.ObjNumText + ".");
+        }
+    }
+    for (const RoomRow& row : rows) {
+        FillSlot(state, *row.Slot, row.Room);
+    }
+    return true;
+}
+
+bool SaveProject(SharedState& state) {
+    return Succeeds(state, [&] {
+        Transaction transaction(OpenedDatabase(state));
+        const Integer sheet = SheetToSave(state);
+        if (!SaveMainTab(state, sheet)) {
+            throw DatabaseError(state.DatabaseFailure);
+        }
+        SaveInputData(state, sheet);
+        transaction.Commit();
+        state.CurTabIndex = sheet;
+        state.NewSheetFlag = false;
+    });
+}
+
+ProjectLoad LoadProject(SharedState& state) {
+    ProjectLoad load;
+    EmptyRooms(state);
+    state.MetricFlag = 0;
+    state.ObjNum = 0;
+    try {
+        if (const auto sheet = FindProjTabIndex(state)) {
+            LoadSheetAndRooms(state, ToInteger(*sheet), load);
+            load.Result = ProjectLoad::Outcome::Loaded;
+        } else {
+            PrepareNewSheet(state);
+            load.Result = ProjectLoad::Outcome::NoSheet;
+        }
+        return load;
+    } catch (const DatabaseError& error) {
+        load.Cause = error.what();
+    } catch (const RunTimeError& error) {
+        load.Cause = CauseOf(error);
+    }
+    state.ObjNum = 0;
+    return load;
+}
+
+} // namespace tarn
