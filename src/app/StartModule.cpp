@@ -1,0 +1,90 @@
+#include "app/StartModule.h"
+
+#include "app/Configuration.h"
+#include "store/Failure.h"
+#include "store/Names.h"
+#include "store/SharedRows.h"
+#include "store/SqlDatabase.h"
+
+#include <array>
+
+namespace tarn {
+
+namespace {
+
+/// Where the database file lies below the data folder.
+constexpr std::string_view DatabaseFileBelowDataPath = "\\DATA\\Tarn.mdb";
+
+void OpenDatabaseFile(SharedState& state, const Configuration& configuration) {
+    try {
+        state.CurDB = OpenSqlDatabase(WithNativeSeparators(state.DBName));
+    } catch (const DatabaseError& error) {
+        state.DatabaseFailure = error.what();
+        if (state.DataPath.empty()) {
+            state.DatabaseFailure.append(" No data folder is named in ")
+                .append(configuration.File.string())
+                .append(".");
+        }
+    }
+}
+
+void OpenSharedRows(SharedState& state) {
+    for (const SharedRows rows :
+         {SharedRows::Directories, SharedRows::Projects, SharedRows::Sheets}) {
+        Succeeds(state, [&] { ReopenRows(state, rows); });
+    }
+}
+
+} // namespace
+
+bool InitSharedState(SharedState& state, EngineArrays& engine,
+                     const std::vector<std::filesystem::path>& configurationDirectories,
+                     const QDate& today, const QLocale& locale) {
+    state = SharedState(); // sets MinCutLen, DimScale, MetricFlag and every count
+    if (!OpenDataBase(state, configurationDirectories)) {
+        return false;
+    }
+    FillMonthStr(state);
+    DimAllArrays(state, engine);
+    state.CurDirName = MonthDirectoryName(today, locale);
+    state.CurProjName.clear();
+    return true;
+}
+
+bool OpenDataBase(SharedState& state,
+                  const std::vector<std::filesystem::path>& configurationDirectories) {
+    const Configuration configuration = ReadConfiguration(configurationDirectories);
+    if (configuration.Found != Configuration::Finding::Read) {
+        return false;
+    }
+    state.DataPath = configuration.DataPath;
+    state.DBName = state.DataPath;
+    state.DBName += DatabaseFileBelowDataPath;
+    OpenDatabaseFile(state, configuration);
+    if (state.CurDB) {
+        OpenSharedRows(state);
+    }
+    return true;
+}
+
+void FillMonthStr(SharedState& state) {
+    constexpr std::array<std::string_view, 12> Names = {
+        "JANUARY", "FEBRUARY", "MARCH",     "APRIL",   "MAY",      "JUNE",
+        "JULY",    "AUGUST",   "SEPTEMBER", "OCTOBER", "NOVEMBER", "DECEMBER"};
+    Integer month = 0;
+    for (const std::string_view name : Names) {
+        state.MonthStr[month++] = name;
+    }
+}
+
+void DimAllArrays(SharedState& state, EngineArrays& engine) {
+    state.DimAllArrays();
+    engine.DimAllArrays();
+}
+
+std::string MonthDirectoryName(const QDate& date, const QLocale& locale) {
+    const QString name = locale.standaloneMonthName(date.month(), QLocale::LongFormat);
+    return StoredName(name.toStdString());
+}
+
+} // namespace tarn
