@@ -1,0 +1,44 @@
+#pragma once
+
+#include <string>
+
+namespace tarn {
+
+/// The commands of tarn-data. Each prints what it did on standard output and raises Refusal,
+/// DatabaseError or RunTimeError when it cannot.
+
+/// Make FOLDER/DATA/Tarn.mdb with every table, and a configuration file that names the folder in
+/// `configDirectory` (the user's own when empty) unless one is in force already.
+void CreateData(const std::string& folder, const std::string& configDirectory);
+
+/// Look a database over. Raises Refusal with the findings when there are any.
+void CheckData(const std::string& database);
+
+/// Print every directory, its projects and their rooms.
+void ListData(const std::string& database);
+
+/// Print the entered-data report of a project, with today's date.
+void ReportProject(const std::string& database, const std::string& project, bool metric);
+
+/// What an import does.
+struct ImportRequest {
+    std::string Database;
+    std::string Project;
+    std::string Directory; ///< for a new project; empty = the current month
+    std::string Rooms;     ///< CSV file
+    bool Metric = false;
+    bool Replace = false; ///< allow the rooms of an existing project to be replaced
+};
+
+/// Make the rooms of a CSV file those of a project, which is made when it is not there. Raises
+/// Refusal, with nothing changed, for a project with rooms unless Replace is set.
+void ImportProject(const ImportRequest& request);
+
+/// Write a project's rooms as CSV to a file, or to standard output for "-".
+void ExportProject(const std::string& database, const std::string& project,
+                   const std::string& output);
+
+/// Copy a database consistently, also while it is in use.
+void BackUpData(const std::string& database, const std::string& target);
+
+} // namespace tarn

@@ -1,0 +1,136 @@
+#include "tools/DataOptions.h"
+
+#include "app/Version.h"
+#include "tools/DataCommands.h"
+#include "tools/Files.h"
+#include "tools/Refusal.h"
+
+#include <CLI/CLI.hpp>
+
+#include <string>
+
+namespace tarn {
+
+namespace {
+
+constexpr const char* Description = "Make and look after the data of the estimating program.";
+
+constexpr const char* Footer =
+    "tarn-data COMMAND --help tells the options of a command.\n\n"
+    "Exit status: 0 done, 1 refused or faults found (the reason is on standard error), 2 wrong "
+    "usage.\n\n"
+    "Example:\n"
+    "  tarn-data create ~/estimates\n"
+    "  tarn-data import --database ~/estimates/DATA/Tarn.mdb --project \"SMITH\" house.csv";
+
+/// What the arguments of any command give; each command uses its own part.
+struct Arguments {
+    std::string Folder;
+    std::string ConfigDirectory;
+    std::string Output = StandardOutput;
+    std::string Target;
+    ImportRequest Project;
+};
+
+using Command = std::function<void()>;
+
+void AddDatabase(CLI::App& command, Arguments& arguments) {
+    command.add_option("--database", arguments.Project.Database, "Database file")
+        ->required()
+        ->type_name("FILE");
+}
+
+void AddProject(CLI::App& command, Arguments& arguments) {
+    AddDatabase(command, arguments);
+    command.add_option("--project", arguments.Project.Project, "Name of the project")
+        ->required()
+        ->type_name("NAME");
+}
+
+CLI::App& AddCommand(CLI::App& app, const char* name, const char* text, Command& chosen,
+                     Command run) {
+    CLI::App* command = app.add_subcommand(name, text);
+    command->callback([&chosen, run = std::move(run)] { chosen = run; });
+    return *command;
+}
+
+void AddFileCommands(CLI::App& app, Arguments& arguments, Command& chosen) {
+    auto& create = AddCommand(
+        app, "create", "Make a data folder with an empty database", chosen,
+        [arguments = &arguments] { CreateData(arguments->Folder, arguments->ConfigDirectory); });
+    create.add_option("FOLDER", arguments.Folder, "Folder to be made; it will hold DATA/Tarn.mdb")
+        ->required();
+    create
+        .add_option("--config-dir", arguments.ConfigDirectory,
+                    "Directory of the configuration file TarnWin.INI")
+        ->type_name("DIR");
+
+    auto& check =
+        AddCommand(app, "check", "Check that a database is sound and has every table", chosen,
+                   [arguments = &arguments] { CheckData(arguments->Project.Database); });
+    AddDatabase(check, arguments);
+
+    auto& list = AddCommand(app, "list", "List directories, projects and rooms", chosen,
+                            [arguments = &arguments] { ListData(arguments->Project.Database); });
+    AddDatabase(list, arguments);
+
+    auto& backup = AddCommand(
+        app, "backup", "Copy a database, also while the program uses it", chosen,
+        [arguments = &arguments] { BackUpData(arguments->Project.Database, arguments->Target); });
+    AddDatabase(backup, arguments);
+    backup.add_option("TARGET", arguments.Target, "File to be made; must not exist")->required();
+}
+
+void AddProjectCommands(CLI::App& app, Arguments& arguments, Command& chosen) {
+    auto& report =
+        AddCommand(app, "report", "Print the entered-data report of a project", chosen,
+                   [project = &arguments.Project] {
+                       ReportProject(project->Database, project->Project, project->Metric);
+                   });
+    AddProject(report, arguments);
+    report.add_flag("--metric", arguments.Project.Metric, "The sizes are centimetres");
+
+    auto& import = AddCommand(app, "import", "Make the rooms of a CSV file those of a project",
+                              chosen, [project = &arguments.Project] { ImportProject(*project); });
+    AddProject(import, arguments);
+    import.add_option("FILE.csv", arguments.Project.Rooms, "The rooms; see tarn-estimate --help")
+        ->required();
+    import
+        .add_option("--directory", arguments.Project.Directory,
+                    "Directory of a new project (default: the current month)")
+        ->type_name("DIR");
+    import.add_flag("--metric", arguments.Project.Metric, "The sizes are centimetres");
+    import.add_flag("--replace", arguments.Project.Replace,
+                    "Replace the rooms that the project has");
+
+    auto& exporting = AddCommand(app, "export", "Write a project's rooms as CSV", chosen,
+                                 [arguments = &arguments] {
+                                     ExportProject(arguments->Project.Database,
+                                                   arguments->Project.Project, arguments->Output);
+                                 });
+    AddProject(exporting, arguments);
+    exporting.add_option("--output", arguments.Output, "File to write (default: standard output)")
+        ->type_name("FILE|-");
+}
+
+} // namespace
+
+std::function<void()> ReadDataCommand(int argc, const char* const* argv, int& status) {
+    CLI::App app(Description, "tarn-data");
+    app.footer(Footer);
+    app.set_version_flag("--version", std::string(Version));
+    app.require_subcommand(1);
+    const auto arguments = std::make_shared<Arguments>();
+    Command chosen;
+    AddFileCommands(app, *arguments, chosen);
+    AddProjectCommands(app, *arguments, chosen);
+    try {
+        app.parse(argc, argv);
+    } catch (const CLI::ParseError& error) {
+        status = app.exit(error) == 0 ? Done : WrongUsage;
+        return {};
+    }
+    return [arguments, chosen] { chosen(); };
+}
+
+} // namespace tarn

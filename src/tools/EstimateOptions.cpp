@@ -1,0 +1,139 @@
+#include "tools/EstimateOptions.h"
+
+#include "app/Version.h"
+#include "estimate/RollWidth.h"
+#include "tools/Refusal.h"
+
+#include <CLI/CLI.hpp>
+
+#include <regex>
+
+namespace tarn {
+
+namespace {
+
+constexpr const char* Description =
+    "Estimate one carpet of a project: how its rooms are cut from a roll.\n"
+    "The rooms come from a database (--database and --project) or from a CSV file (--rooms).";
+
+constexpr const char* Footer =
+    "A CSV file has a header line and the columns width,length,covering,base,room,remark in any\n"
+    "order; the first three are required. Sizes are whole inches or text such as 12'6\" (whole\n"
+    "centimetres with --metric), coverings CARPET-1 or C1, TILE-4 or T4, the base a text such as\n"
+    "W2L1. A size of 0 is read and not cut.\n\n"
+    "Exit status: 0 done, 1 refused (the reason is on standard error), 2 wrong usage.\n\n"
+    "Example:\n"
+    "  tarn-estimate --rooms house.csv --carpet 1 --roll-width 12ft --max-pieces 2 --svg house.svg";
+
+void AddInput(CLI::App& app, EstimateOptions& options) {
+    auto* database = app.add_option("--database", options.Database, "Database file of the project")
+                         ->type_name("FILE");
+    auto* project =
+        app.add_option("--project", options.Project, "Name of the project")->type_name("NAME");
+    auto* rooms =
+        app.add_option("--rooms", options.Rooms, "CSV file with the rooms")->type_name("FILE.csv");
+    database->needs(project);
+    project->needs(database);
+    rooms->excludes(database)->excludes(project);
+    app.add_flag("--metric", options.Metric,
+                 "The sizes are centimetres; lists and totals are metric");
+}
+
+void AddChoices(CLI::App& app, EstimateOptions& options, std::string& lay) {
+    app.add_option("--carpet", options.Carpet, "Number of the carpet, 1 to 8")
+        ->required()
+        ->check(CLI::Range(1, 8))
+        ->type_name("N");
+    app.add_option("--roll-width", options.RollWidth,
+                   "Width of the roll: 12ft, 13.5ft, 12ft6in, 150in or 366cm")
+        ->required()
+        ->type_name("WIDTH");
+    app.add_option("--lay", lay, "down: room widths across the roll; cross: room lengths")
+        ->check(CLI::IsMember({"down", "cross"}))
+        ->capture_default_str()
+        ->type_name("down|cross");
+    app.add_option("--match", options.Match,
+                   "Pattern repeat across x along, in inches (centimetres with --metric)")
+        ->type_name("18x24");
+    app.add_option("--min-cut", options.MinCut,
+                   "Minimum cut length: 0 = 3 FT, 1 = 1FT 6, 2 = 1/2FT")
+        ->check(CLI::Range(0, 2))
+        ->capture_default_str()
+        ->type_name("N");
+    app.add_option("--max-pieces", options.MaxPieces, "Maximum number of pieces per fill, 1 to 6")
+        ->check(CLI::Range(1, 6))
+        ->capture_default_str()
+        ->type_name("N");
+}
+
+void AddOutput(CLI::App& app, EstimateOptions& options) {
+    app.add_option("--text", options.Text,
+                   "Write the cut list to FILE, or to standard output for - (done when no other "
+                   "output is asked for)")
+        ->type_name("FILE|-");
+    app.add_option("--json", options.Json, "Write cuts, pieces and totals as JSON")
+        ->type_name("FILE|-");
+    app.add_option("--svg", options.Svg, "Write the drawing of the layout with the cut list")
+        ->type_name("FILE");
+}
+
+/// What the single options cannot tell. Raises CLI::ValidationError.
+void CheckTogether(EstimateOptions& options) {
+    if (options.Database.empty() && options.Rooms.empty()) {
+        throw CLI::ValidationError("either --database and --project, or --rooms is required");
+    }
+    if (options.Text == "-" && options.Json == "-") {
+        throw CLI::ValidationError("--text and --json cannot both go to standard output");
+    }
+    if (options.Text.empty() && options.Json.empty() && options.Svg.empty()) {
+        options.Text = "-";
+    }
+}
+
+} // namespace
+
+std::optional<EstimateOptions> ReadEstimateOptions(int argc, const char* const* argv, int& status) {
+    CLI::App app(Description, "tarn-estimate");
+    app.footer(Footer);
+    app.set_version_flag("--version", std::string(Version));
+    app.get_formatter()->column_width(28);
+    EstimateOptions options;
+    std::string lay = "down";
+    AddInput(app, options);
+    AddChoices(app, options, lay);
+    AddOutput(app, options);
+    try {
+        app.parse(argc, argv);
+        CheckTogether(options);
+    } catch (const CLI::ParseError& error) {
+        status = app.exit(error) == 0 ? Done : WrongUsage;
+        return std::nullopt;
+    }
+    options.CrossLay = lay == "cross";
+    return options;
+}
+
+EstimateRequest RequestOf(const EstimateOptions& options) {
+    EstimateRequest request;
+    request.Carpet = static_cast<Byte>(options.Carpet - 1);
+    request.DownLay = !options.CrossLay;
+    request.EstOption = PackEstOption(static_cast<Integer>(options.MinCut),
+                                      static_cast<Integer>(options.MaxPieces));
+    try {
+        request.RollWidth = ReadRollWidth(options.RollWidth);
+    } catch (const std::invalid_argument& error) {
+        throw Refusal(error.what());
+    }
+    if (!options.Match.empty()) {
+        static const std::regex Form(R"((\d+(?:\.\d+)?)[xX](\d+(?:\.\d+)?))");
+        std::smatch match;
+        if (!std::regex_match(options.Match, match, Form)) {
+            throw Refusal("The match pattern \"" + options.Match +
+                          "\" is not readable: write it as 18x24, the repeat across and along.");
+        }
+        request.Match = EstimateRequest::Repeat{match[1], match[2]};
+    }
+    return request;
+}
+
+} // namespace tarn

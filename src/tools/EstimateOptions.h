@@ -1,0 +1,35 @@
+#pragma once
+
+#include "estimate/RunEstimate.h"
+
+#include <optional>
+#include <string>
+
+namespace tarn {
+
+/// What tarn-estimate is asked to do.
+struct EstimateOptions {
+    std::string Database; ///< with Project, or else Rooms
+    std::string Project;
+    std::string Rooms; ///< a CSV file
+    bool Metric = false;
+    int Carpet = 0; ///< 1..8
+    std::string RollWidth;
+    bool CrossLay = false;
+    std::string Match; ///< WxL; empty without a pattern
+    int MinCut = 0;    ///< 0..2
+    int MaxPieces = 1; ///< 1..6
+    std::string Text;  ///< output files; empty = not wanted
+    std::string Json;
+    std::string Svg;
+};
+
+/// Read the arguments of tarn-estimate. When they ask for help or the version, or cannot be
+/// understood, prints that and gives nothing; `status` is then the exit status.
+std::optional<EstimateOptions> ReadEstimateOptions(int argc, const char* const* argv, int& status);
+
+/// The request that the options make. Raises Refusal for a roll width or a pattern repeat that
+/// cannot be read.
+EstimateRequest RequestOf(const EstimateOptions& options);
+
+} // namespace tarn

@@ -1,0 +1,52 @@
+#include "tools/Files.h"
+
+#include "tools/Refusal.h"
+
+#include <QFile>
+#include <QSaveFile>
+
+#include <cstdio>
+
+namespace tarn {
+
+namespace {
+
+std::string Reason(const QFileDevice& file) {
+    return file.errorString().toStdString();
+}
+
+void WriteStandardOutput(const std::string& content) {
+    const std::size_t written = std::fwrite(content.data(), 1, content.size(), stdout);
+    if (written != content.size() || std::fflush(stdout) != 0) {
+        throw Refusal("Standard output cannot be written.");
+    }
+}
+
+} // namespace
+
+std::string ReadWholeFile(const std::string& path) {
+    QFile file(QString::fromStdString(path));
+    if (!file.open(QIODevice::ReadOnly)) {
+        throw Refusal("The file " + path + " cannot be read: " + Reason(file) + ".");
+    }
+    const QByteArray content = file.readAll();
+    if (file.error() != QFileDevice::NoError) {
+        throw Refusal("The file " + path + " cannot be read: " + Reason(file) + ".");
+    }
+    return content.toStdString();
+}
+
+void WriteWholeFile(const std::string& path, const std::string& content) {
+    if (path == StandardOutput) {
+        WriteStandardOutput(content);
+        return;
+    }
+    QSaveFile file(QString::fromStdString(path));
+    const auto size = static_cast<qint64>(content.size());
+    if (!file.open(QIODevice::WriteOnly) || file.write(content.data(), size) != size ||
+        !file.commit()) {
+        throw Refusal("The file " + path + " cannot be written: " + Reason(file) + ".");
+    }
+}
+
+} // namespace tarn

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <string>
+
+namespace tarn {
+
+/// The name that stands for standard output.
+inline constexpr const char* StandardOutput = "-";
+
+/// The whole content of a file. Raises Refusal when it cannot be read.
+std::string ReadWholeFile(const std::string& path);
+
+/// Write `content` to a file, whole or not at all, or to standard output for "-". Raises Refusal
+/// when it cannot be written; a file that was there before is then still there.
+void WriteWholeFile(const std::string& path, const std::string& content);
+
+} // namespace tarn

@@ -1,0 +1,245 @@
+#include "tools/ToolTesting.h"
+
+#include <QDir>
+#include <QFile>
+#include <QSqlDatabase>
+#include <QSqlQuery>
+
+namespace tarn {
+namespace {
+
+using testing::ToolRun;
+using testing::ToolTest;
+using Args = QStringList;
+
+QString S(const char* text) {
+    return QString::fromUtf8(text);
+}
+
+constexpr const char* Rooms = "width,length,covering,base,room,remark\r\n"
+                              "150,168,CARPET-1,W2L1,101,bay window\r\n"
+                              "120,96,TILE-2,,,\"north, east\"\r\n";
+
+class DataTool : public ToolTest {
+  protected:
+    ToolRun On(const QString& database, const char* command, const Args& more = {}) const {
+        return Data(Args{S(command), S("--database"), database} + more);
+    }
+    ToolRun OnProject(const QString& database, const char* command, const char* project,
+                      const Args& more = {}) const {
+        return On(database, command, Args{S("--project"), S(project)} + more);
+    }
+    void ExpectRefused(const ToolRun& run, const char* reason) const {
+        EXPECT_EQ(run.Status, 1) << run.Out.toStdString();
+        EXPECT_TRUE(run.Error.contains(reason)) << run.Error.toStdString();
+    }
+    /// The one value that a query on the database gives, read apart from the programs.
+    QVariant Value(const QString& database, const char* query) const {
+        const QString name = S("independent");
+        QVariant value;
+        {
+            QSqlDatabase connection = QSqlDatabase::addDatabase(S("QSQLITE"), name);
+            connection.setDatabaseName(database);
+            EXPECT_TRUE(connection.open());
+            QSqlQuery rows(connection);
+            EXPECT_TRUE(rows.exec(S(query)) && rows.next()) << query;
+            value = rows.value(0);
+        }
+        QSqlDatabase::removeDatabase(name);
+        return value;
+    }
+};
+
+TEST_F(DataTool, CreateMakesADatabaseAndAConfigurationThatNamesTheFolder) {
+    const ToolRun run = Data({S("create"), S("my data")});
+    EXPECT_EQ(run.Status, 0) << run.Error.toStdString();
+    EXPECT_TRUE(Exists(S("my data/DATA/Tarn.mdb")));
+    EXPECT_EQ(Read(S("config/tarn/TarnWin.INI")),
+              QByteArray("[TarnWin Directory]\n" + Path(S("my data")).toUtf8() + "\n"));
+    EXPECT_TRUE(run.Out.contains(Path(S("my data")).toUtf8()));
+}
+
+TEST_F(DataTool, CreateLeavesAConfigurationInForceAndSaysWhichFolderItNames) {
+    Data({S("create"), S("first")});
+    const QByteArray before = Read(S("config/tarn/TarnWin.INI"));
+    const ToolRun run = Data({S("create"), S("second")});
+    EXPECT_EQ(run.Status, 0);
+    EXPECT_TRUE(Exists(S("second/DATA/Tarn.mdb")));
+    EXPECT_EQ(Read(S("config/tarn/TarnWin.INI")), before);
+    EXPECT_TRUE(run.Out.contains("is in force")) << run.Out.toStdString();
+    EXPECT_TRUE(run.Out.contains(Path(S("first")).toUtf8())) << run.Out.toStdString();
+}
+
+TEST_F(DataTool, CreateTakesTheConfigurationDirectoryItIsGivenAndNoOther) {
+    Data({S("create"), S("first")});
+    const ToolRun run = Data({S("create"), S("second"), S("--config-dir"), S("other")});
+    EXPECT_EQ(run.Status, 0) << run.Error.toStdString();
+    EXPECT_TRUE(Read(S("other/TarnWin.INI")).contains(Path(S("second")).toUtf8()));
+}
+
+TEST_F(DataTool, CreateRefusesToTouchAnExistingDatabase) {
+    const QString database = MakeDatabase(S("SMITH"), Rooms);
+    const ToolRun run = Data({S("create"), S("data")});
+    ExpectRefused(run, "Tarn.mdb");
+    EXPECT_EQ(Value(database, "SELECT count(*) FROM InputData").toInt(), 2);
+}
+
+TEST_F(DataTool, CheckFindsASoundDatabaseSound) {
+    const ToolRun run = On(MakeDatabase(S("SMITH"), Rooms), "check");
+    EXPECT_EQ(run.Status, 0) << run.Error.toStdString();
+    EXPECT_TRUE(run.Out.contains("sound"));
+}
+
+TEST_F(DataTool, CheckTellsFaults) {
+    const QString database = MakeDatabase();
+    {
+        QSqlDatabase connection = QSqlDatabase::addDatabase(S("QSQLITE"), S("spoil"));
+        connection.setDatabaseName(database);
+        ASSERT_TRUE(connection.open());
+        ASSERT_TRUE(QSqlQuery(connection).exec(S("DROP TABLE MainTab")));
+        ASSERT_TRUE(QSqlQuery(connection).exec(S("DROP TABLE FillCut")));
+    }
+    QSqlDatabase::removeDatabase(S("spoil"));
+    const ToolRun run = On(database, "check");
+    ExpectRefused(run, "MainTab");
+    EXPECT_TRUE(run.Error.contains("FillCut"));
+    ExpectRefused(On(Write(S("text.mdb"), "this is no database at all"), "check"), "text.mdb");
+    ExpectRefused(On(Path(S("none.mdb")), "check"), "none.mdb");
+}
+
+TEST_F(DataTool, ListShowsDirectoriesProjectsAndRooms) {
+    const QString database = MakeDatabase(S("smith"), Rooms, {S("--directory"), S("old town")});
+    Write(S("metric.csv"), "width,length,covering\n366,500,C3\n");
+    EXPECT_EQ(OnProject(database, "import", "zoë",
+                        {S("--metric"), S("--directory"), S("MARCH"), Path(S("metric.csv"))})
+                  .Status,
+              0);
+    const ToolRun run = On(database, "list");
+    EXPECT_EQ(run.Status, 0) << run.Error.toStdString();
+    EXPECT_EQ(run.Out.toStdString(), "MARCH\n"
+                                     "  ZOË (1 room)\n"
+                                     "    1: 366 X 500 CM  CARPET-3\n"
+                                     "OLD TOWN\n"
+                                     "  SMITH (2 rooms)\n"
+                                     "    1: 12'6\" X 14'0\"  CARPET-1  W2L1  101  bay window\n"
+                                     "    2: 10'0\" X 8'0\"  TILE-2  north, east\n");
+}
+
+TEST_F(DataTool, ImportMakesTheDirectoryOfANewProjectUnlessItIsAMonth) {
+    const QString database = MakeDatabase(S("SMITH"), Rooms, {S("--directory"), S("old town")});
+    EXPECT_EQ(Value(database, "SELECT Directory FROM DirTab").toString(), S("OLD TOWN"));
+    EXPECT_EQ(Value(database, "SELECT Dir FROM ProjTab").toString(), S("OLD TOWN"));
+    EXPECT_EQ(
+        OnProject(database, "import", "JONES", {S("--directory"), S("march"), Path(S("rooms.csv"))})
+            .Status,
+        0);
+    EXPECT_EQ(Value(database, "SELECT count(*) FROM DirTab").toInt(), 1);
+    EXPECT_EQ(Value(database, "SELECT Dir FROM ProjTab WHERE ProjName='JONES'").toString(),
+              S("MARCH"));
+}
+
+TEST_F(DataTool, ImportDoesNotReplaceRoomsUnlessItIsTold) {
+    const QString database = MakeDatabase(S("SMITH"), Rooms);
+    Write(S("other.csv"), "width,length,covering\n99,98,C2\n");
+    ExpectRefused(OnProject(database, "import", "smith", {Path(S("other.csv"))}), "--replace");
+    EXPECT_EQ(Value(database, "SELECT count(*) FROM InputData").toInt(), 2);
+    EXPECT_EQ(OnProject(database, "import", "smith", {S("--replace"), Path(S("other.csv"))}).Status,
+              0);
+    EXPECT_EQ(Value(database, "SELECT RoomW FROM InputData").toInt(), 99);
+    EXPECT_EQ(Value(database, "SELECT count(*) FROM ProjTab").toInt(), 1);
+}
+
+TEST_F(DataTool, ImportRemembersTheUnitOfTheRoomsInForce) {
+    const QString database = MakeDatabase(S("SMITH"), Rooms, {S("--metric")});
+    EXPECT_EQ(Value(database, "SELECT EnteredMetric FROM MainTab").toInt(), 1);
+    EXPECT_EQ(OnProject(database, "import", "SMITH", {S("--replace"), Path(S("rooms.csv"))}).Status,
+              0);
+    EXPECT_EQ(Value(database, "SELECT EnteredMetric FROM MainTab").toInt(), 0);
+}
+
+TEST_F(DataTool, AnImportOfABadFileChangesNothing) {
+    const QString database = MakeDatabase();
+    Write(S("bad.csv"), "width,length,covering\n99,98,C2\n99,x,C2\n");
+    ExpectRefused(OnProject(database, "import", "SMITH", {Path(S("bad.csv"))}), "line 3: length");
+    EXPECT_EQ(Value(database, "SELECT count(*) FROM ProjTab").toInt(), 0);
+    ExpectRefused(OnProject(database, "import", "SMITH", {Path(S("none.csv"))}), "none.csv");
+}
+
+TEST_F(DataTool, ImportRefusesNamesThatCannotBeStored) {
+    const QString database = MakeDatabase();
+    Write(S("rooms.csv"), Rooms);
+    for (const QString& name :
+         {S("a/b"), S("what?"), S("say \"so\""), S("  "), QString(65, u'x')}) {
+        const ToolRun run = On(database, "import", {S("--project"), name, Path(S("rooms.csv"))});
+        EXPECT_EQ(run.Status, 1) << name.toStdString() << run.Error.toStdString();
+    }
+    EXPECT_EQ(Value(database, "SELECT count(*) FROM ProjTab").toInt(), 0);
+}
+
+TEST_F(DataTool, ExportGivesBackWhatWasImported) {
+    const QString database = MakeDatabase(S("SMITH"), Rooms);
+    const ToolRun run = OnProject(database, "export", "Smith");
+    EXPECT_EQ(run.Status, 0) << run.Error.toStdString();
+    EXPECT_EQ(run.Out.toStdString(), Rooms);
+    EXPECT_EQ(OnProject(database, "export", "SMITH", {S("--output"), Path(S("out.csv"))}).Status,
+              0);
+    EXPECT_EQ(Read(S("out.csv")), run.Out);
+    ExpectRefused(OnProject(database, "export", "JONES"), "no project JONES");
+}
+
+TEST_F(DataTool, ReportPrintsTheEnteredData) {
+    const QString database = MakeDatabase(S("SMITH"), Rooms);
+    const ToolRun run = OnProject(database, "report", "smith");
+    EXPECT_EQ(run.Status, 0) << run.Error.toStdString();
+    EXPECT_FALSE(run.Out.contains('\r'));
+    EXPECT_TRUE(run.Out.contains("PROJECT NAME:   SMITH"));
+    EXPECT_TRUE(run.Out.contains("12'6\"")) << run.Out.toStdString();
+    EXPECT_TRUE(OnProject(database, "report", "smith", {S("--metric")}).Out.contains("METERS"));
+    ExpectRefused(OnProject(database, "report", "JONES"), "no project JONES");
+}
+
+TEST_F(DataTool, BackupCopiesADatabaseThatIsInUse) {
+    const QString database = MakeDatabase(S("SMITH"), Rooms);
+    QSqlDatabase writer = QSqlDatabase::addDatabase(S("QSQLITE"), S("writer"));
+    writer.setDatabaseName(database);
+    ASSERT_TRUE(writer.open());
+    ASSERT_TRUE(QSqlQuery(writer).exec(S("BEGIN IMMEDIATE")));
+    ASSERT_TRUE(QSqlQuery(writer).exec(S("DELETE FROM InputData")));
+    const ToolRun run = On(database, "backup", {Path(S("copy.mdb"))});
+    EXPECT_EQ(run.Status, 0) << run.Error.toStdString();
+    QSqlQuery(writer).exec(S("ROLLBACK"));
+    writer.close();
+    writer = QSqlDatabase();
+    QSqlDatabase::removeDatabase(S("writer"));
+    EXPECT_EQ(Value(Path(S("copy.mdb")), "SELECT count(*) FROM InputData").toInt(), 2);
+    EXPECT_EQ(On(Path(S("copy.mdb")), "check").Status, 0);
+}
+
+TEST_F(DataTool, BackupRefusesAnExistingTarget) {
+    const QString database = MakeDatabase(S("SMITH"), Rooms);
+    Write(S("copy.mdb"), "precious");
+    ExpectRefused(On(database, "backup", {Path(S("copy.mdb"))}), "copy.mdb");
+    EXPECT_EQ(Read(S("copy.mdb")), "precious");
+}
+
+TEST_F(DataTool, WrongUsageHasAStatusOfItsOwn) {
+    EXPECT_EQ(Data({}).Status, 2);
+    EXPECT_EQ(Data({S("destroy")}).Status, 2);
+    EXPECT_EQ(Data({S("create")}).Status, 2);
+    EXPECT_EQ(Data({S("list")}).Status, 2);
+    EXPECT_EQ(Data({S("report"), S("--database"), S("x")}).Status, 2);
+}
+
+TEST_F(DataTool, HelpTellsEveryCommand) {
+    const ToolRun run = Data({S("--help")});
+    EXPECT_EQ(run.Status, 0);
+    for (const char* command :
+         {"create", "check", "list", "report", "import", "export", "backup", "Exit status"}) {
+        EXPECT_TRUE(run.Out.contains(command)) << command;
+    }
+    EXPECT_TRUE(Data({S("import"), S("--help")}).Out.contains("--replace"));
+    EXPECT_EQ(Data({S("--version")}).Out.trimmed().toStdString(), TARN_VERSION);
+}
+
+} // namespace
+} // namespace tarn

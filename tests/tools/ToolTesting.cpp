@@ -1,0 +1,69 @@
+#include "tools/ToolTesting.h"
+
+#include <QFile>
+#include <QProcess>
+#include <QProcessEnvironment>
+
+namespace tarn::testing {
+
+ToolRun RunProgram(const QString& program, const QStringList& arguments,
+                   const QString& homeDirectory) {
+    QProcess process;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("HOME"), homeDirectory);
+    environment.insert(QStringLiteral("XDG_CONFIG_HOME"),
+                       homeDirectory + QStringLiteral("/config"));
+    environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
+    process.setProcessEnvironment(environment);
+    process.setWorkingDirectory(homeDirectory);
+    process.start(QStringLiteral(TARN_TOOLS_DIRECTORY "/") + program, arguments);
+    ToolRun run;
+    constexpr int PatienceMs = 120000;
+    if (!process.waitForFinished(PatienceMs) || process.exitStatus() != QProcess::NormalExit) {
+        ADD_FAILURE() << program.toStdString() << ": " << process.errorString().toStdString();
+        return run;
+    }
+    run.Status = process.exitCode();
+    run.Out = process.readAllStandardOutput();
+    run.Error = process.readAllStandardError();
+    return run;
+}
+
+QString ToolTest::Write(const QString& name, const QByteArray& content) const {
+    QFile file(Path(name));
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly)) << name.toStdString();
+    EXPECT_EQ(file.write(content), content.size());
+    return file.fileName();
+}
+
+QByteArray ToolTest::Read(const QString& name) const {
+    QFile file(Path(name));
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << name.toStdString();
+    return file.readAll();
+}
+
+bool ToolTest::Exists(const QString& name) const {
+    return QFile::exists(Path(name));
+}
+
+QString ToolTest::MakeDatabase() const {
+    const ToolRun run = Data({QStringLiteral("create"), QStringLiteral("data")});
+    EXPECT_EQ(run.Status, 0) << run.Error.toStdString();
+    return Path(QStringLiteral("data/DATA/Tarn.mdb"));
+}
+
+QString ToolTest::MakeDatabase(const QString& project, const QByteArray& csv,
+                               const QStringList& options) const {
+    const QString database = MakeDatabase();
+    const QStringList arguments{QStringLiteral("import"),
+                                QStringLiteral("--database"),
+                                database,
+                                QStringLiteral("--project"),
+                                project,
+                                Write(QStringLiteral("rooms.csv"), csv)};
+    const ToolRun run = Data(arguments + options);
+    EXPECT_EQ(run.Status, 0) << run.Error.toStdString();
+    return database;
+}
+
+} // namespace tarn::testing

@@ -1,0 +1,50 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <QStringList>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+namespace tarn::testing {
+
+/// What a program did.
+struct ToolRun {
+    int Status = -1;
+    QByteArray Out;
+    QByteArray Error;
+};
+
+/// Run a built program ("tarn-estimate" or "tarn-data") to its end. `homeDirectory` takes the place
+/// of the user's home, so that no test sees or makes a configuration of the user.
+ToolRun RunProgram(const QString& program, const QStringList& arguments,
+                   const QString& homeDirectory);
+
+/// A test with a directory of its own, which is also its home.
+class ToolTest : public ::testing::Test {
+  protected:
+    ToolRun Estimate(const QStringList& arguments) const {
+        return RunProgram(QStringLiteral("tarn-estimate"), arguments, directory_.path());
+    }
+    ToolRun Data(const QStringList& arguments) const {
+        return RunProgram(QStringLiteral("tarn-data"), arguments, directory_.path());
+    }
+
+    QString Path(const QString& name) const { return directory_.filePath(name); }
+    /// Write a file into the directory; returns its path.
+    QString Write(const QString& name, const QByteArray& content) const;
+    QByteArray Read(const QString& name) const;
+    bool Exists(const QString& name) const;
+
+    /// A data folder "data" with an empty database; returns the database's path.
+    QString MakeDatabase() const;
+    /// The same with one project.
+    QString MakeDatabase(const QString& project, const QByteArray& csv,
+                         const QStringList& options = {}) const;
+
+  private:
+    QTemporaryDir directory_;
+};
+
+} // namespace tarn::testing
