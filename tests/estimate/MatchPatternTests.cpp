@@ -10,7 +10,6 @@ using testing::BothLays;
 using testing::Centimetres;
 using testing::Cut;
 using testing::ErrorOf;
-using testing::Imperial;
 using testing::Job;
 using testing::Metric;
 
