@@ -30,6 +30,7 @@ TEST(Picture, PrintWritesAtThePenAndGoesToTheNextLine) {
     EXPECT_EQ(step.Text, "A line");
     EXPECT_EQ(step.X1, 300);
     EXPECT_EQ(step.Y1, 400);
+    EXPECT_EQ(step.X2, 300 + picture.TextWidth("A line"));
     EXPECT_EQ(step.FontSize, 10);
     EXPECT_EQ(step.Color, QBColor::Green);
     EXPECT_EQ(picture.CurrentX, 0);

@@ -93,6 +93,17 @@ TEST(Svg, WritesTextsOnTheirBaselineInTwips) {
     EXPECT_EQ(text.Attributes.at("fill"), "#008000");
 }
 
+// 9 points are 180 twips, and "some" is 500 + 556 + 833 + 556 thousandths wide.
+TEST(Svg, TextsKeepTheirWidthInAnotherFace) {
+    Picture picture;
+    picture.CurrentX = 300;
+    picture.Print("some");
+    const Document document = Read(SvgDocument(picture, ""));
+    ASSERT_EQ(document.Drawn.size(), 1U);
+    EXPECT_NEAR(document.Drawn[0].Number("textLength"), 2.445 * 180, 0.01);
+    EXPECT_EQ(document.Drawn[0].Attributes.at("lengthAdjust"), "spacingAndGlyphs");
+}
+
 TEST(Svg, TheViewIsTheFarthestPointAndAHundredTwipsAt15TwipsAPixel) {
     Picture picture;
     picture.Line(0, 0, 1400, 2900, QBColor::Black);
