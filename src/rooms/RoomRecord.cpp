@@ -5,19 +5,22 @@
 
 namespace tarn {
 
+void PutRoom(SharedState& state, long long slot, const RoomRecord& room) {
+    state.RoomWidth[slot] = room.Width;
+    state.RoomLength[slot] = room.Length;
+    state.RoomCarpet[slot] = room.Covering;
+    state.RoomBase[slot] = room.Base;
+    state.RoomNoStr[slot] = room.RoomNo;
+    state.RoomRemark[slot] = room.Remark;
+}
+
 void PutRooms(SharedState& state, const std::vector<RoomRecord>& rooms) {
     const auto count = static_cast<long long>(rooms.size());
     if (count > RoomCapacity) {
         RaiseSubscript(std::string(ProjectFullText));
     }
     for (long long i = 0; i < count; ++i) {
-        const RoomRecord& room = rooms[static_cast<std::size_t>(i)];
-        state.RoomWidth[i] = room.Width;
-        state.RoomLength[i] = room.Length;
-        state.RoomCarpet[i] = room.Covering;
-        state.RoomBase[i] = room.Base;
-        state.RoomNoStr[i] = room.RoomNo;
-        state.RoomRemark[i] = room.Remark;
+        PutRoom(state, i, rooms[static_cast<std::size_t>(i)]);
     }
     state.ObjNum = ToInteger(count);
 }

@@ -32,6 +32,9 @@ inline constexpr long long RoomCapacity = MaxRoom + 1LL;
 inline constexpr std::string_view ProjectFullText = "The project is full: it can hold 501 rooms.";
 static_assert(RoomCapacity == 501);
 
+/// Put one room into a slot. Raises "Subscript out of range" outside 0 .. MaxRoom.
+void PutRoom(SharedState& state, long long slot, const RoomRecord& room);
+
 /// Make `rooms` the rooms of the open project: sets ObjNum and rooms 0 .. ObjNum - 1; the slots
 /// behind keep what they held, and RoomX and RoomY are not rebuilt. Raises "Subscript out of range"
 /// with ProjectFullText for more rooms than the capacity; nothing is changed then.

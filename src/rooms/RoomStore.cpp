@@ -15,15 +15,6 @@ namespace tarn {
 
 namespace {
 
-void FillSlot(SharedState& state, Integer slot, const RoomRecord& room) {
-    state.RoomWidth[slot] = room.Width;
-    state.RoomLength[slot] = room.Length;
-    state.RoomCarpet[slot] = room.Covering;
-    state.RoomBase[slot] = room.Base;
-    state.RoomNoStr[slot] = room.RoomNo;
-    state.RoomRemark[slot] = room.Remark;
-}
-
 void AddRoomRow(Recordset& rows, std::int64_t number, const RoomRecord& room, std::int64_t sheet) {
     rows.AddNew();
     rows.SetField("ObjNum", number);
@@ -80,7 +71,7 @@ void LoadSheetAndRooms(SharedState& state, Integer sheet, ProjectLoad& load) {
     load.EnteredMetric = WasEnteredInMetric(state, sheet);
     for (const RoomRow& row : rows) {
         if (row.Slot) {
-            FillSlot(state, *row.Slot, row.Room);
+            PutRoom(state, *row.Slot, row.Room);
         }
     }
     load.Findings = RoomFindings(rows, state.ObjNum);
@@ -119,7 +110,7 @@ bool LoadInputData(SharedState& state, Integer tid) {
         }
     }
     for (const RoomRow& row : rows) {
-        FillSlot(state, *row.Slot, row.Room);
+        PutRoom(state, *row.Slot, row.Room);
     }
     return true;
 }

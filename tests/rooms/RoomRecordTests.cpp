@@ -17,6 +17,18 @@ std::vector<RoomRecord> NumberedRooms(int count) {
     return rooms;
 }
 
+TEST(PutRoom, FillsItsSlotAloneAndRefusesTheSlotsOutside) {
+    SharedState state;
+    const RoomRecord room{150, 168, 1, 5, "101", "bay window"};
+    PutRoom(state, 500, room);
+    EXPECT_EQ(state.RoomWidth[500], 150);
+    EXPECT_EQ(state.RoomRemark[500], "bay window");
+    EXPECT_EQ(state.RoomWidth[499], 0);
+    EXPECT_EQ(state.ObjNum, 0);
+    EXPECT_THROW(PutRoom(state, 501, room), RunTimeError);
+    EXPECT_THROW(PutRoom(state, -1, room), RunTimeError);
+}
+
 TEST(PutRooms, FillsTheArraysAndTheCount) {
     SharedState state;
     PutRooms(state, {{120, 144, 9, 5, "12", "hall"}, {1, 2, 3, 4, "x", "y"}});
