@@ -115,14 +115,19 @@ bool LoadInputData(SharedState& state, Integer tid) {
     return true;
 }
 
+Integer StoreProject(SharedState& state) {
+    const Integer sheet = SheetToSave(state);
+    if (!SaveMainTab(state, sheet)) {
+        throw DatabaseError(state.DatabaseFailure);
+    }
+    SaveInputData(state, sheet);
+    return sheet;
+}
+
 bool SaveProject(SharedState& state) {
     return Succeeds(state, [&] {
         Transaction transaction(OpenedDatabase(state));
-        const Integer sheet = SheetToSave(state);
-        if (!SaveMainTab(state, sheet)) {
-            throw DatabaseError(state.DatabaseFailure);
-        }
-        SaveInputData(state, sheet);
+        const Integer sheet = StoreProject(state);
         transaction.Commit();
         state.CurTabIndex = sheet;
         state.NewSheetFlag = false;

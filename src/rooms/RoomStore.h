@@ -31,6 +31,11 @@ bool LoadInputData(SharedState& state, Integer tid);
 /// range" for more than 501 rooms.
 bool SaveProject(SharedState& state);
 
+/// The steps of SaveProject for a caller that stores more with them: it begins the transaction and
+/// commits it. Answers the sheet number used; the shared state is not changed. Raises DatabaseError
+/// and as SaveProject.
+Integer StoreProject(SharedState& state);
+
 /// What LoadProject found.
 struct ProjectLoad {
     enum class Outcome {

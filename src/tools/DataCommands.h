@@ -30,8 +30,9 @@ struct ImportRequest {
     bool Replace = false; ///< allow the rooms of an existing project to be replaced
 };
 
-/// Make the rooms of a CSV file those of a project, which is made when it is not there. Raises
-/// Refusal, with nothing changed, for a project with rooms unless Replace is set.
+/// Make the rooms of a CSV file those of a project, which is made when it is not there, in one
+/// transaction: whatever fails, nothing is changed. Raises Refusal for a project with rooms unless
+/// Replace is set.
 void ImportProject(const ImportRequest& request);
 
 /// Write a project's rooms as CSV to a file, or to standard output for "-".

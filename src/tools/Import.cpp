@@ -1,6 +1,5 @@
 #include "app/StartModule.h"
 #include "rooms/RoomStore.h"
-#include "store/Deletions.h"
 #include "store/Names.h"
 #include "store/Projects.h"
 #include "store/SqlDatabase.h"
@@ -43,10 +42,22 @@ void AddNewProject(SharedState& state, const std::string& wantedDirectory) {
     Require(AddProject(state, directory, state.CurProjName), state);
 }
 
-void Save(SharedState& state, const std::vector<RoomRecord>& rooms, bool metric) {
+void Store(SharedState& state, const std::vector<RoomRecord>& rooms, bool metric) {
     PutRooms(state, rooms);
     state.MetricFlag = metric ? 1 : 0;
-    Require(SaveProject(state), state);
+    StoreProject(state);
+}
+
+void RequireReplaceable(const SharedState& state, const ProjectLoad& load, bool replace) {
+    if (load.Result == ProjectLoad::Outcome::Failed) {
+        throw Refusal("The project " + state.CurProjName + " cannot be loaded: " + load.Cause);
+    }
+    // A sheet that counts no room may have rows of rooms all the same: the findings name them.
+    const bool hasRooms = state.ObjNum > 0 || !load.Findings.empty();
+    if (hasRooms && !replace) {
+        throw Refusal("The project " + state.CurProjName +
+                      " has rooms already; --replace puts those of the file in their place.");
+    }
 }
 
 } // namespace
@@ -56,30 +67,16 @@ void ImportProject(const ImportRequest& request) {
     SharedState state;
     state.CurDB = OpenSqlDatabase(request.Database);
     state.CurProjName = StoredName(request.Project);
+    Transaction transaction(*state.CurDB);
     const bool isNew = CheckProjName(state, state.CurProjName);
-    const ProjectLoad load = LoadProject(state);
-    if (load.Result == ProjectLoad::Outcome::Failed) {
-        throw Refusal("The project " + state.CurProjName + " cannot be loaded: " + load.Cause);
-    }
-    if (state.ObjNum > 0 && !request.Replace) {
-        throw Refusal("The project " + state.CurProjName +
-                      " has rooms already; --replace puts those of the file in their place.");
-    }
+    RequireReplaceable(state, LoadProject(state), request.Replace);
     if (isNew) {
         AddNewProject(state, request.Directory);
     }
-    try {
-        if (load.EnteredMetric && !request.Metric) {
-            // A sheet remembers that it was entered in metric until it is saved without rooms.
-            Save(state, {}, false);
-        }
-        Save(state, rooms, request.Metric);
-    } catch (const std::exception&) {
-        if (isNew) {
-            DeleteProjectData(state, state.CurProjName);
-        }
-        throw;
-    }
+    // A sheet remembers that it was entered in metric until it is saved without rooms.
+    Store(state, {}, false);
+    Store(state, rooms, request.Metric);
+    transaction.Commit();
     std::cout << state.CurProjName << ": " << rooms.size()
               << (rooms.size() == 1 ? " room.\n" : " rooms.\n");
 }

@@ -48,6 +48,17 @@ class DataTool : public ToolTest {
         QSqlDatabase::removeDatabase(name);
         return value;
     }
+    /// Change the database, apart from the programs.
+    void Run(const QString& database, const char* statement) const {
+        const QString name = S("independent");
+        {
+            QSqlDatabase connection = QSqlDatabase::addDatabase(S("QSQLITE"), name);
+            connection.setDatabaseName(database);
+            EXPECT_TRUE(connection.open());
+            EXPECT_TRUE(QSqlQuery(connection).exec(S(statement))) << statement;
+        }
+        QSqlDatabase::removeDatabase(name);
+    }
 };
 
 TEST_F(DataTool, CreateMakesADatabaseAndAConfigurationThatNamesTheFolder) {
@@ -92,14 +103,8 @@ TEST_F(DataTool, CheckFindsASoundDatabaseSound) {
 
 TEST_F(DataTool, CheckTellsFaults) {
     const QString database = MakeDatabase();
-    {
-        QSqlDatabase connection = QSqlDatabase::addDatabase(S("QSQLITE"), S("spoil"));
-        connection.setDatabaseName(database);
-        ASSERT_TRUE(connection.open());
-        ASSERT_TRUE(QSqlQuery(connection).exec(S("DROP TABLE MainTab")));
-        ASSERT_TRUE(QSqlQuery(connection).exec(S("DROP TABLE FillCut")));
-    }
-    QSqlDatabase::removeDatabase(S("spoil"));
+    Run(database, "DROP TABLE MainTab");
+    Run(database, "DROP TABLE FillCut");
     const ToolRun run = On(database, "check");
     ExpectRefused(run, "MainTab");
     EXPECT_TRUE(run.Error.contains("FillCut"));
@@ -155,6 +160,55 @@ TEST_F(DataTool, ImportRemembersTheUnitOfTheRoomsInForce) {
     EXPECT_EQ(OnProject(database, "import", "SMITH", {S("--replace"), Path(S("rooms.csv"))}).Status,
               0);
     EXPECT_EQ(Value(database, "SELECT EnteredMetric FROM MainTab").toInt(), 0);
+}
+
+TEST_F(DataTool, AnImportThatFailsInTheMiddleKeepsTheOldRooms) {
+    const QString database = MakeDatabase(S("SMITH"), Rooms, {S("--metric")});
+    Run(database, "CREATE TRIGGER full BEFORE INSERT ON InputData WHEN NEW.RoomW = 99 "
+                  "BEGIN SELECT RAISE(ABORT, 'no place'); END");
+    Write(S("other.csv"), "width,length,covering\n120,130,C1\n99,98,C2\n");
+    ExpectRefused(OnProject(database, "import", "SMITH", {S("--replace"), Path(S("other.csv"))}),
+                  "no place");
+    EXPECT_EQ(Value(database, "SELECT count(*) FROM InputData").toInt(), 2);
+    EXPECT_EQ(Value(database, "SELECT RoomW FROM InputData WHERE ObjNum = 0").toInt(), 150);
+    EXPECT_EQ(Value(database, "SELECT ObjNum FROM MainTab").toInt(), 2);
+    EXPECT_EQ(Value(database, "SELECT EnteredMetric FROM MainTab").toInt(), 1);
+}
+
+TEST_F(DataTool, AnImportOfANewProjectThatFailsLeavesNeitherItNorItsDirectory) {
+    const QString database = MakeDatabase();
+    Write(S("rooms.csv"), Rooms);
+    const Args into = {S("--directory"), S("old town"), Path(S("rooms.csv"))};
+    ExpectRefused(OnProject(database, "import", "a/b", into), "A/B");
+    EXPECT_EQ(Value(database, "SELECT count(*) FROM DirTab").toInt(), 0);
+    Run(database, "DROP TABLE InputData");
+    ExpectRefused(OnProject(database, "import", "SMITH", into), "InputData");
+    for (const char* count : {"SELECT count(*) FROM DirTab", "SELECT count(*) FROM ProjTab",
+                              "SELECT count(*) FROM MainTab"}) {
+        EXPECT_EQ(Value(database, count).toInt(), 0) << count;
+    }
+}
+
+TEST_F(DataTool, ImportDoesNotReplaceRoomsThatTheSheetDoesNotCount) {
+    const QString database = MakeDatabase(S("SMITH"), Rooms);
+    Run(database, "UPDATE MainTab SET ObjNum = 0");
+    ExpectRefused(OnProject(database, "import", "SMITH", {Path(S("rooms.csv"))}), "--replace");
+    EXPECT_EQ(Value(database, "SELECT count(*) FROM InputData").toInt(), 2);
+}
+
+TEST_F(DataTool, ImportLeavesALockedDatabaseAlone) {
+    const QString database = MakeDatabase();
+    Write(S("rooms.csv"), Rooms);
+    QSqlDatabase writer = QSqlDatabase::addDatabase(S("QSQLITE"), S("writer"));
+    writer.setDatabaseName(database);
+    ASSERT_TRUE(writer.open());
+    ASSERT_TRUE(QSqlQuery(writer).exec(S("BEGIN IMMEDIATE")));
+    ExpectRefused(OnProject(database, "import", "SMITH", {Path(S("rooms.csv"))}),
+                  "another program");
+    writer.close();
+    writer = QSqlDatabase();
+    QSqlDatabase::removeDatabase(S("writer"));
+    EXPECT_EQ(Value(database, "SELECT count(*) FROM ProjTab").toInt(), 0);
 }
 
 TEST_F(DataTool, AnImportOfABadFileChangesNothing) {
