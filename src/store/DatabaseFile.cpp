@@ -25,9 +25,19 @@ QFileInfo FolderOf(const QFileInfo& file) {
     return QFileInfo(QFileInfo(file.canonicalFilePath()).absolutePath());
 }
 
-void RequireSqliteFile(const std::string& path, const QFileInfo& info) {
-    constexpr qint64 HeaderSize = 100;
+constexpr qint64 HeaderSize = 100;
+
+bool BeginsAsSqlite(const QByteArray& header) {
+    return header.startsWith(QByteArray("SQLite format 3\0", 16));
+}
+
+bool BeginsAsJet(const QByteArray& header) {
     constexpr qsizetype JetNameAt = 4;
+    const QByteArray name = header.mid(JetNameAt);
+    return name.startsWith("Standard Jet DB") || name.startsWith("Standard ACE DB");
+}
+
+void RequireSqliteFile(const std::string& path, const QFileInfo& info) {
     if (!info.exists()) {
         Refuse(path, "is missing. Correct the data folder in TarnWin.INI, or make a new data "
                      "folder with \"tarn-data create\".");
@@ -43,12 +53,11 @@ void RequireSqliteFile(const std::string& path, const QFileInfo& info) {
     if (header.isEmpty()) {
         Refuse(path, "is empty. Put a backup in its place.");
     }
-    const QByteArray jetName = header.mid(JetNameAt);
-    if (jetName.startsWith("Standard Jet DB") || jetName.startsWith("Standard ACE DB")) {
+    if (BeginsAsJet(header)) {
         Refuse(path, "is in the older Jet format, which cannot be read. Keep it, make a new data "
                      "folder with \"tarn-data create\" and enter its projects there.");
     }
-    if (!header.startsWith(QByteArray("SQLite format 3\0", 16))) {
+    if (!BeginsAsSqlite(header)) {
         Refuse(path, "is not a database of this program. Correct the data folder in TarnWin.INI, "
                      "or put a backup in its place.");
     }
@@ -64,6 +73,16 @@ void RequireWritable(const std::string& path, const QFileInfo& info) {
 }
 
 } // namespace
+
+bool IsDatabaseFile(const std::string& path) {
+    QFile file(QString::fromStdString(path));
+    // A device or a pipe must not be read from to be judged.
+    if (!QFileInfo(file).isFile() || !file.open(QIODevice::ReadOnly)) {
+        return false;
+    }
+    const QByteArray header = file.read(HeaderSize);
+    return BeginsAsSqlite(header) || BeginsAsJet(header);
+}
 
 std::shared_ptr<Connection> ConnectToFile(const std::string& path, DatabaseAccess access,
                                           int busyWait) {

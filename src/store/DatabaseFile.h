@@ -9,6 +9,10 @@ namespace tarn {
 
 class Connection;
 
+/// Whether a readable file stands at `path` that begins as a database does, of the older Jet format
+/// too. Such a file is never to be written over.
+bool IsDatabaseFile(const std::string& path);
+
 /// Connect to an existing database file; the checks of OpenSqlDatabase on the file itself, but not
 /// yet on the soundness of its content.
 ///

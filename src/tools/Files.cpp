@@ -1,5 +1,6 @@
 #include "tools/Files.h"
 
+#include "store/DatabaseFile.h"
 #include "tools/Refusal.h"
 
 #include <QFile>
@@ -40,6 +41,10 @@ void WriteWholeFile(const std::string& path, const std::string& content) {
     if (path == StandardOutput) {
         WriteStandardOutput(content);
         return;
+    }
+    if (IsDatabaseFile(path)) {
+        throw Refusal("The file " + path +
+                      " is a database and stays as it is. Name another file for the output.");
     }
     QSaveFile file(QString::fromStdString(path));
     const auto size = static_cast<qint64>(content.size());

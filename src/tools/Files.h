@@ -11,7 +11,8 @@ inline constexpr const char* StandardOutput = "-";
 std::string ReadWholeFile(const std::string& path);
 
 /// Write `content` to a file, whole or not at all, or to standard output for "-". Raises Refusal
-/// when it cannot be written; a file that was there before is then still there.
+/// when it cannot be written, and when a database stands there, so that a slip in the arguments
+/// never costs the projects; a file that was there before is then still there.
 void WriteWholeFile(const std::string& path, const std::string& content);
 
 } // namespace tarn

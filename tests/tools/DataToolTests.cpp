@@ -241,6 +241,19 @@ TEST_F(DataTool, ExportGivesBackWhatWasImported) {
     ExpectRefused(OnProject(database, "export", "JONES"), "no project JONES");
 }
 
+TEST_F(DataTool, ExportNeverWritesOverADatabase) {
+    const QString database = MakeDatabase(S("SMITH"), Rooms);
+    const QByteArray before = Read(S("data/DATA/Tarn.mdb"));
+    ExpectRefused(OnProject(database, "export", "SMITH", {S("--output"), database}),
+                  "is a database");
+    EXPECT_EQ(Read(S("data/DATA/Tarn.mdb")), before);
+    const QByteArray jet = QByteArray("\0\1\0\0Standard Jet DB", 19);
+    Write(S("old.mdb"), jet);
+    ExpectRefused(OnProject(database, "export", "SMITH", {S("--output"), Path(S("old.mdb"))}),
+                  "is a database");
+    EXPECT_EQ(Read(S("old.mdb")), jet);
+}
+
 TEST_F(DataTool, ReportPrintsTheEnteredData) {
     const QString database = MakeDatabase(S("SMITH"), Rooms);
     const ToolRun run = OnProject(database, "report", "smith");
