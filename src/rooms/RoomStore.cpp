@@ -53,7 +53,7 @@ Integer SheetToSave(SharedState& state) {
 }
 
 std::string CauseOf(const RunTimeError& error) {
-    return error.Text() + ". " + error.Advice();
+    return error.Text() + "." + (error.Advice().empty() ? "" : " " + error.Advice());
 }
 
 /// The project has no sheet: allocate a number for it.

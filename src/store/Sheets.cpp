@@ -129,7 +129,13 @@ std::optional<Long> FindProjTabIndex(SharedState& state) {
     if (rows->AtEnd()) {
         return std::nullopt;
     }
-    return CLng(RequiredNumber(*rows, "TabIndex"));
+    const Double number = RequiredNumber(*rows, "TabIndex");
+    if (std::abs(number) > std::numeric_limits<Integer>::max()) {
+        RaiseOverflow("The sheet of the project " + state.CurProjName + " has the number " +
+                      TextIn(*rows, "TabIndex") + "; the greatest is " +
+                      TrimStr(std::numeric_limits<Integer>::max()) + ".");
+    }
+    return CLng(number);
 }
 
 Long GetProjTabIndex(SharedState& state) {

@@ -31,11 +31,11 @@ bool WasEnteredInMetric(SharedState& state, Integer tabIndex);
 Long NewTabIndex(SharedState& state);
 
 /// Sheet number of the project CurProjName; nothing when it has no sheet. Raises DatabaseError when
-/// the database fails or the sheet row has no number.
+/// the database fails or the sheet row has no number, and "Overflow" for a number past 32767.
 std::optional<Long> FindProjTabIndex(SharedState& state);
 
-/// As FindProjTabIndex, but NoSheet for "no sheet" and for a failure, whose cause is then in
-/// DatabaseFailure.
+/// As FindProjTabIndex, but NoSheet for "no sheet" and for a database failure, whose cause is then
+/// in DatabaseFailure.
 Long GetProjTabIndex(SharedState& state);
 
 /// The query for the rows of `table` that belong to a sheet.

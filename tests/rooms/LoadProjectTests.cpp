@@ -106,7 +106,10 @@ TEST_F(LoadingAProject, FailsWhenNoNumberIsLeft) {
 
 TEST_F(LoadingAProject, FailsForASheetNumberThatDoesNotFit) {
     file_.AddProject("MARCH", "P", 32768);
-    ExpectFailure("Overflow");
+    ExpectFailure("Overflow. The sheet of the project P has the number 32768; the greatest is "
+                  "32767.");
+    file_.Run("UPDATE MainTab SET TabIndex = 99999999999999");
+    ExpectFailure("99999999999999");
 }
 
 TEST_F(LoadingAProject, FailsForABadSheet) {
