@@ -32,8 +32,9 @@ void SettleConfiguration(const std::filesystem::path& folder, const std::string&
                                  : std::vector<std::filesystem::path>{configDirectory};
     const Configuration inForce = ReadConfiguration(directories);
     if (inForce.Found == Configuration::Finding::Read) {
-        std::cout << "The configuration file " << inForce.File.string()
-                  << " is in force; it names the folder " << inForce.DataPath << ".\n";
+        std::cout << "The configuration file " << inForce.File.string() << " is in force; it names "
+                  << (inForce.DataPath.empty() ? "no folder" : "the folder " + inForce.DataPath)
+                  << ".\n";
         return;
     }
     if (directories.empty()) {
@@ -127,7 +128,10 @@ void ListData(const std::string& database) {
 void ReportProject(const std::string& database, const std::string& project, bool metric) {
     SharedState state;
     OpenForReading(state, database);
-    LoadProjectNamed(state, project);
+    if (LoadProjectNamed(state, project) && !metric) {
+        WarnOfMetric(state, "its sizes are listed in feet and inches. Use --metric for "
+                            "centimetres.");
+    }
     state.MetricFlag = metric ? 1 : 0;
     std::string report = LoadReport(state, ShortDateOfToday());
     report.erase(std::remove(report.begin(), report.end(), '\r'), report.end());
@@ -138,7 +142,9 @@ void ExportProject(const std::string& database, const std::string& project,
                    const std::string& output) {
     SharedState state;
     OpenForReading(state, database);
-    LoadProjectNamed(state, project);
+    if (LoadProjectNamed(state, project)) {
+        WarnOfMetric(state, "its sizes are written in centimetres. Use --metric to read them.");
+    }
     WriteWholeFile(output, WriteRoomCsv(TakeRooms(state)));
 }
 

@@ -17,7 +17,8 @@ void CheckData(const std::string& database);
 /// Print every directory, its projects and their rooms.
 void ListData(const std::string& database);
 
-/// Print the entered-data report of a project, with today's date.
+/// Print the entered-data report of a project, with today's date. Warns on standard error when the
+/// project was entered in metric and `metric` is not set.
 void ReportProject(const std::string& database, const std::string& project, bool metric);
 
 /// What an import does.
@@ -35,7 +36,8 @@ struct ImportRequest {
 /// Replace is set.
 void ImportProject(const ImportRequest& request);
 
-/// Write a project's rooms as CSV to a file, or to standard output for "-".
+/// Write a project's rooms as CSV to a file, or to standard output for "-". The file does not tell
+/// its unit: warns on standard error when it is metric.
 void ExportProject(const std::string& database, const std::string& project,
                    const std::string& output);
 

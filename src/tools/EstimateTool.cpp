@@ -25,9 +25,7 @@ void LoadRooms(SharedState& state, const EstimateOptions& options) {
     OpenForReading(state, options.Database);
     const bool enteredMetric = LoadProjectNamed(state, options.Project);
     if (enteredMetric && !options.Metric) {
-        std::cerr << "Warning: the project " << state.CurProjName
-                  << " was entered in metric; it is estimated in feet and inches. Use --metric for "
-                     "centimetres.\n";
+        WarnOfMetric(state, "it is estimated in feet and inches. Use --metric for centimetres.");
     }
 }
 

@@ -36,6 +36,11 @@ bool LoadProjectNamed(SharedState& state, const std::string& name) {
     return load.EnteredMetric;
 }
 
+void WarnOfMetric(const SharedState& state, const char* consequence) {
+    std::cerr << "Warning: the project " << state.CurProjName << " was entered in metric; "
+              << consequence << '\n';
+}
+
 std::vector<RoomRecord> ReadRoomFile(const std::string& path, bool metric) {
     RoomCsvReading reading = ReadRoomCsv(ReadWholeFile(path), metric);
     if (!reading.Succeeded()) {

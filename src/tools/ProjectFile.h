@@ -16,6 +16,9 @@ void OpenForReading(SharedState& state, const std::string& path);
 /// when there is no such project, when it has never been saved, or when it cannot be loaded whole.
 bool LoadProjectNamed(SharedState& state, const std::string& name);
 
+/// Tell on standard error that the open project was entered in metric, and what follows from it.
+void WarnOfMetric(const SharedState& state, const char* consequence);
+
 /// The rooms of a CSV file. Raises Refusal naming every bad line.
 std::vector<RoomRecord> ReadRoomFile(const std::string& path, bool metric);
 

@@ -81,6 +81,14 @@ TEST_F(DataTool, CreateLeavesAConfigurationInForceAndSaysWhichFolderItNames) {
     EXPECT_TRUE(run.Out.contains(Path(S("first")).toUtf8())) << run.Out.toStdString();
 }
 
+TEST_F(DataTool, CreateSaysWhenTheConfigurationInForceNamesNoFolder) {
+    QDir(Path(S("."))).mkdir(S("other"));
+    Write(S("other/TarnWin.INI"), "[Something else]\n/data\n");
+    const ToolRun run = Data({S("create"), S("data"), S("--config-dir"), S("other")});
+    EXPECT_EQ(run.Status, 0) << run.Error.toStdString();
+    EXPECT_TRUE(run.Out.contains("is in force; it names no folder.")) << run.Out.toStdString();
+}
+
 TEST_F(DataTool, CreateTakesTheConfigurationDirectoryItIsGivenAndNoOther) {
     Data({S("create"), S("first")});
     const ToolRun run = Data({S("create"), S("second"), S("--config-dir"), S("other")});
@@ -263,6 +271,21 @@ TEST_F(DataTool, ReportPrintsTheEnteredData) {
     EXPECT_TRUE(run.Out.contains("12'6\"")) << run.Out.toStdString();
     EXPECT_TRUE(OnProject(database, "report", "smith", {S("--metric")}).Out.contains("METERS"));
     ExpectRefused(OnProject(database, "report", "JONES"), "no project JONES");
+}
+
+TEST_F(DataTool, ReportAndExportWarnOfAProjectEnteredInMetric) {
+    const QString database = MakeDatabase(S("SMITH"), Rooms, {S("--metric")});
+    const QByteArray warning = "SMITH was entered in metric";
+    const ToolRun report = OnProject(database, "report", "SMITH");
+    EXPECT_EQ(report.Status, 0);
+    EXPECT_TRUE(report.Error.contains(warning)) << report.Error.toStdString();
+    EXPECT_EQ(OnProject(database, "report", "SMITH", {S("--metric")}).Error, "");
+    const ToolRun exported = OnProject(database, "export", "SMITH");
+    EXPECT_EQ(exported.Out.toStdString(), Rooms);
+    EXPECT_TRUE(exported.Error.contains(warning)) << exported.Error.toStdString();
+    Run(database, "UPDATE MainTab SET EnteredMetric = 0");
+    EXPECT_EQ(OnProject(database, "export", "SMITH").Error, "");
+    EXPECT_EQ(OnProject(database, "report", "SMITH").Error, "");
 }
 
 TEST_F(DataTool, BackupCopiesADatabaseThatIsInUse) {
