@@ -25,6 +25,12 @@ namespace tarn {
 
 namespace {
 
+/// `folder` as an absolute path without a separator at its end.
+std::filesystem::path FolderPath(const std::string& folder) {
+    const auto path = std::filesystem::absolute(folder).lexically_normal();
+    return path.has_filename() ? path : path.parent_path();
+}
+
 /// Tell which configuration file is in force, or write one.
 void SettleConfiguration(const std::filesystem::path& folder, const std::string& configDirectory) {
     const auto directories = configDirectory.empty()
@@ -94,11 +100,17 @@ void ListProject(SharedState& state, const std::string& project) {
 } // namespace
 
 void CreateData(const std::string& folder, const std::string& configDirectory) {
-    const auto path = std::filesystem::absolute(folder).lexically_normal();
+    const auto path = FolderPath(folder);
     const auto database = path / "DATA" / "Tarn.mdb";
     CreateDatabaseFile(database.string());
     std::cout << "Made " << database.string() << ".\n";
-    SettleConfiguration(path, configDirectory);
+    try {
+        SettleConfiguration(path, configDirectory);
+    } catch (const std::runtime_error& error) {
+        throw Refusal(std::string(error.what()) + " The database is made all the same. Write " +
+                      std::string(ConfigurationFileName) + " yourself: the line " +
+                      std::string(ConfigurationHeader) + ", and in the next one its folder.");
+    }
 }
 
 void CheckData(const std::string& database) {

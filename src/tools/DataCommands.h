@@ -8,7 +8,8 @@ namespace tarn {
 /// DatabaseError or RunTimeError when it cannot.
 
 /// Make FOLDER/DATA/Tarn.mdb with every table, and a configuration file that names the folder in
-/// `configDirectory` (the user's own when empty) unless one is in force already.
+/// `configDirectory` (the user's own when empty) unless one is in force already. When the
+/// configuration file cannot be written the database is there all the same, and the reason says so.
 void CreateData(const std::string& folder, const std::string& configDirectory);
 
 /// Look a database over. Raises Refusal with the findings when there are any.

@@ -89,6 +89,27 @@ TEST_F(DataTool, CreateSaysWhenTheConfigurationInForceNamesNoFolder) {
     EXPECT_TRUE(run.Out.contains("is in force; it names no folder.")) << run.Out.toStdString();
 }
 
+TEST_F(DataTool, CreateTakesAFolderWithASeparatorAtItsEndAndTheCurrentOne) {
+    for (const char* folder : {"data/", "."}) {
+        QFile::remove(Path(S("config/tarn/TarnWin.INI")));
+        const ToolRun run = Data({S("create"), S(folder)});
+        EXPECT_EQ(run.Status, 0) << folder << run.Error.toStdString();
+        const QString path = S(folder) == S(".") ? Path({}) : Path(S("data"));
+        EXPECT_EQ(Read(S("config/tarn/TarnWin.INI")),
+                  "[TarnWin Directory]\n" + QDir::cleanPath(path).toUtf8() + "\n");
+    }
+    EXPECT_TRUE(Exists(S("data/DATA/Tarn.mdb")));
+    EXPECT_TRUE(Exists(S("DATA/Tarn.mdb")));
+}
+
+TEST_F(DataTool, CreateSaysWhatToDoWhenTheConfigurationCannotBeWritten) {
+    Write(S("file"), "in the way");
+    const ToolRun run = Data({S("create"), S("data"), S("--config-dir"), S("file")});
+    ExpectRefused(run, "TarnWin.INI");
+    ExpectRefused(run, "The database is made all the same.");
+    EXPECT_TRUE(Exists(S("data/DATA/Tarn.mdb")));
+}
+
 TEST_F(DataTool, CreateTakesTheConfigurationDirectoryItIsGivenAndNoOther) {
     Data({S("create"), S("first")});
     const ToolRun run = Data({S("create"), S("second"), S("--config-dir"), S("other")});
@@ -202,21 +223,6 @@ TEST_F(DataTool, ImportDoesNotReplaceRoomsThatTheSheetDoesNotCount) {
     Run(database, "UPDATE MainTab SET ObjNum = 0");
     ExpectRefused(OnProject(database, "import", "SMITH", {Path(S("rooms.csv"))}), "--replace");
     EXPECT_EQ(Value(database, "SELECT count(*) FROM InputData").toInt(), 2);
-}
-
-TEST_F(DataTool, ImportLeavesALockedDatabaseAlone) {
-    const QString database = MakeDatabase();
-    Write(S("rooms.csv"), Rooms);
-    QSqlDatabase writer = QSqlDatabase::addDatabase(S("QSQLITE"), S("writer"));
-    writer.setDatabaseName(database);
-    ASSERT_TRUE(writer.open());
-    ASSERT_TRUE(QSqlQuery(writer).exec(S("BEGIN IMMEDIATE")));
-    ExpectRefused(OnProject(database, "import", "SMITH", {Path(S("rooms.csv"))}),
-                  "another program");
-    writer.close();
-    writer = QSqlDatabase();
-    QSqlDatabase::removeDatabase(S("writer"));
-    EXPECT_EQ(Value(database, "SELECT count(*) FROM ProjTab").toInt(), 0);
 }
 
 TEST_F(DataTool, AnImportOfABadFileChangesNothing) {
