@@ -129,6 +129,9 @@ std::vector<std::string> CheckDatabaseFile(const std::string& path, int busyWait
     try {
         const auto connection = ConnectToFile(path, DatabaseAccess::ReadOnly, busyWait);
         FindIntegrityFaults(*connection, path, findings);
+        if (findings.empty()) {
+            RequireSound(*connection, path); // finds a file cut short, which the above does not
+        }
         for (const Table& table : Tables()) {
             FindMissingFields(*connection, table, findings);
         }

@@ -172,6 +172,15 @@ TEST(CheckDatabaseFile, ReportsAFileThatCannotBeOpenedAsItsOneFinding) {
     }
 }
 
+TEST(CheckDatabaseFile, ReportsEveryFileThatCannotBeOpenedSinceItIsCutShort) {
+    const TestDatabase file;
+    const std::string whole = ReadFile(file.Path());
+    for (const std::size_t missing : {1U, 100U, 4095U, 4096U}) {
+        WriteFile(file.Path(), whole.substr(0, whole.size() - missing));
+        EXPECT_NE(CheckDatabaseFile(file.Path()), Lines{}) << missing << " bytes are missing";
+    }
+}
+
 TEST(CheckDatabaseFile, ReportsALock) {
     const TestDatabase file;
     RawDatabase other(file.Path());
