@@ -6,6 +6,8 @@
 #include "store/Names.h"
 #include "store/SharedRows.h"
 
+#include <algorithm>
+
 namespace tarn {
 
 namespace {
@@ -39,6 +41,12 @@ std::string NewName(std::string_view kind, std::string_view name) {
                             TrimStr(MaxNameLength) + " characters.");
     }
     return stored;
+}
+
+bool IsControlCharacter(char c) {
+    constexpr unsigned char Delete = 0x7F;
+    const auto code = static_cast<unsigned char>(c);
+    return code < ' ' || code == Delete;
 }
 
 } // namespace
@@ -94,6 +102,10 @@ bool AddProject(SharedState& state, std::string_view directory, std::string_view
         if (name.find_first_of(ForbiddenInProjectName) != std::string::npos) {
             throw DatabaseError("The project name " + name + " holds one of the characters " +
                                 std::string(ForbiddenInProjectName) + ".");
+        }
+        if (std::any_of(name.begin(), name.end(), IsControlCharacter)) {
+            throw DatabaseError("The project name holds a line break or another control "
+                                "character.");
         }
         Recordset& rows = RowsOf(state, SharedRows::Projects);
         rows.AddNew();

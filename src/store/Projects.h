@@ -34,7 +34,7 @@ std::vector<std::string> ListProjects(SharedState& state, std::string_view direc
 bool AddDirectory(SharedState& state, std::string_view name);
 
 /// Add a project row with the stored forms of the names. Fails as AddDirectory, for either name,
-/// and for a project name with a character of ForbiddenInProjectName.
+/// and for a project name with a character of ForbiddenInProjectName or a control character.
 bool AddProject(SharedState& state, std::string_view directory, std::string_view project);
 
 } // namespace tarn

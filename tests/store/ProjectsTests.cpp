@@ -123,6 +123,15 @@ TEST_F(Projects, NamesMayNotBeEmpty) {
     EXPECT_EQ(file_.Rows("SELECT * FROM ProjTab"), Lines{});
 }
 
+TEST_F(Projects, AProjectNameHoldsNoControlCharacter) {
+    for (const char c : {'\0', '\t', '\n', '\x1F', '\x7F'}) {
+        EXPECT_FALSE(AddProject(state_, "MARCH", std::string("A") + c + "B"));
+        EXPECT_NE(state_.DatabaseFailure.find("control character"), std::string::npos);
+    }
+    EXPECT_EQ(file_.Rows("SELECT * FROM ProjTab"), Lines{});
+    EXPECT_TRUE(AddProject(state_, "MARCH", "ÄÖ 浴室")) << state_.DatabaseFailure;
+}
+
 TEST_F(Projects, AProjectNameHoldsNoForbiddenCharacter) {
     EXPECT_EQ(ForbiddenInProjectName.size(), 9U);
     for (const char c : ForbiddenInProjectName) {
