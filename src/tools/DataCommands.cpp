@@ -20,6 +20,7 @@
 #include <filesystem>
 #include <iostream>
 #include <map>
+#include <sstream>
 
 namespace tarn {
 
@@ -27,6 +28,9 @@ namespace {
 
 /// `folder` as an absolute path without a separator at its end.
 std::filesystem::path FolderPath(const std::string& folder) {
+    if (folder.empty()) {
+        throw Refusal("Name the folder to be made.");
+    }
     const auto path = std::filesystem::absolute(folder).lexically_normal();
     return path.has_filename() ? path : path.parent_path();
 }
@@ -79,21 +83,21 @@ std::string RoomLine(const SharedState& state, Integer room) {
     return line;
 }
 
-void ListProject(SharedState& state, const std::string& project) {
+void ListProject(std::ostream& out, SharedState& state, const std::string& project) {
     state.CurProjName = project;
     const ProjectLoad load = LoadProject(state);
-    std::cout << "  " << project;
+    out << "  " << project;
     if (load.Result == ProjectLoad::Outcome::Failed) {
-        std::cout << " (cannot be loaded: " << load.Cause << ")\n";
+        out << " (cannot be loaded: " << load.Cause << ")\n";
         return;
     }
     state.MetricFlag = load.EnteredMetric ? 1 : 0;
-    std::cout << " (" << state.ObjNum << (state.ObjNum == 1 ? " room" : " rooms") << ")\n";
+    out << " (" << state.ObjNum << (state.ObjNum == 1 ? " room" : " rooms") << ")\n";
     for (const std::string& finding : load.Findings) {
-        std::cout << "    " << finding << '\n';
+        out << "    " << finding << '\n';
     }
     for (Integer room = 0; room < state.ObjNum; ++room) {
-        std::cout << RoomLine(state, room) << '\n';
+        out << RoomLine(state, room) << '\n';
     }
 }
 
@@ -129,12 +133,14 @@ void CheckData(const std::string& database) {
 void ListData(const std::string& database) {
     SharedState state;
     OpenForReading(state, database);
+    std::ostringstream out;
     for (const auto& [directory, projects] : AllProjects(state)) {
-        std::cout << directory << '\n';
+        out << directory << '\n';
         for (const std::string& project : projects) {
-            ListProject(state, project);
+            ListProject(out, state, project);
         }
     }
+    WriteWholeFile(StandardOutput, out.str());
 }
 
 void ReportProject(const std::string& database, const std::string& project, bool metric) {

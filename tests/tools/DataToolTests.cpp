@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QProcess>
 #include <QSqlDatabase>
 #include <QSqlQuery>
 
@@ -122,6 +123,20 @@ TEST_F(DataTool, CreateRefusesToTouchAnExistingDatabase) {
     const ToolRun run = Data({S("create"), S("data")});
     ExpectRefused(run, "Tarn.mdb");
     EXPECT_EQ(Value(database, "SELECT count(*) FROM InputData").toInt(), 2);
+}
+
+TEST_F(DataTool, CreateNeedsTheNameOfAFolder) {
+    ExpectRefused(Data({S("create"), S("")}), "Name the folder");
+}
+
+TEST_F(DataTool, ListTellsWhenItsOutputCannotBeWritten) {
+    const QString database = MakeDatabase(S("SMITH"), Rooms);
+    QProcess process;
+    process.setStandardOutputFile(S("/dev/full"));
+    process.start(S(TARN_TOOLS_DIRECTORY "/tarn-data"), {S("list"), S("--database"), database});
+    ASSERT_TRUE(process.waitForFinished());
+    EXPECT_EQ(process.exitCode(), 1);
+    EXPECT_TRUE(process.readAllStandardError().contains("cannot be written"));
 }
 
 TEST_F(DataTool, CheckFindsASoundDatabaseSound) {
