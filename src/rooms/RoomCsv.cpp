@@ -25,6 +25,8 @@ constexpr std::array<std::string_view, 6> ColumnNames{"width", "length", "coveri
                                                       "base",  "room",   "remark"};
 constexpr std::size_t RequiredColumns = 3;
 
+constexpr std::string_view SaveAsUtf8 = "; save it as UTF-8 (\"CSV UTF-8\" in a spreadsheet)";
+
 std::string_view NameOf(Column column) {
     return ColumnNames[static_cast<std::size_t>(column)];
 }
@@ -38,6 +40,26 @@ bool IsUtf8(std::string_view bytes) {
     const QString decoded =
         decoder(QByteArrayView(bytes.data(), static_cast<qsizetype>(bytes.size())));
     return !decoder.hasError();
+}
+
+/// What is wrong with a file as a whole, as spreadsheets save one, or nothing: every line of it
+/// would otherwise be a mistake.
+std::string FormProblem(std::string_view text, const CsvRecord& header) {
+    using namespace std::string_view_literals;
+    for (const std::string_view utf16Mark : {"\xFF\xFE"sv, "\xFE\xFF"sv}) {
+        if (text.starts_with(utf16Mark)) {
+            return "the file is not UTF-8" + std::string(SaveAsUtf8);
+        }
+    }
+    if (header.Fault == CsvFault::None && header.Fields.size() == 1) {
+        for (const auto& [separator, name] : {std::pair{';', "semicolons"}, {'\t', "tabs"}}) {
+            if (header.Fields.front().find(separator) != std::string::npos) {
+                return "the columns are separated by " + std::string(name) +
+                       "; save the file with commas between them";
+            }
+        }
+    }
+    return {};
 }
 
 std::optional<Column> ColumnOf(std::string_view headerField) {
@@ -81,7 +103,7 @@ Problem TakeSize(std::string_view field, bool metric, Integer& size) {
         return "is negative";
     }
     if (value > Most) {
-        return "is an overflow: a size is at most " + TrimStr(Most);
+        return "is too large: a size is at most " + TrimStr(Most);
     }
     size = static_cast<Integer>(value);
     return {};
@@ -128,7 +150,7 @@ Problem TakeText(std::string_view field, long long most, std::string& text) {
 
 Problem TakeField(Column column, std::string_view field, bool metric, RoomRecord& room) {
     if (!IsUtf8(field)) {
-        return "is not valid UTF-8";
+        return "is not valid UTF-8" + std::string(SaveAsUtf8);
     }
     switch (column) {
     case Column::Width:
@@ -156,6 +178,10 @@ class RoomCsvReader {
         const std::vector<CsvRecord> records = SplitCsv(text);
         if (records.empty()) {
             AddError(1, "the file is empty");
+            return std::move(reading_);
+        }
+        if (std::string problem = FormProblem(text, records.front()); !problem.empty()) {
+            AddError(1, std::move(problem));
             return std::move(reading_);
         }
         ReadHeader(records.front());
@@ -200,7 +226,9 @@ class RoomCsvReader {
         }
         for (const std::string& field : header.Fields) {
             const auto column = ColumnOf(field);
-            if (!column) {
+            if (TrimStr(field).empty()) {
+                AddError(header.Line, "a column has no name");
+            } else if (!column) {
                 AddError(header.Line, HeaderField, field, "is unknown");
             } else if (Has(*column)) {
                 AddError(header.Line, HeaderField, field, "appears twice");
@@ -270,6 +298,9 @@ std::string ErrorText(const RoomCsvError& error) {
     const std::string line = "line " + TrimStr(error.Line) + ": ";
     if (error.Field.empty()) {
         return line + error.Problem;
+    }
+    if (error.Value.empty()) {
+        return line + error.Field + " " + error.Problem;
     }
     return line + error.Field + " \"" + Shown(error.Value) + "\" " + error.Problem;
 }

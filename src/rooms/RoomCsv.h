@@ -18,7 +18,8 @@ struct RoomCsvError {
     bool operator==(const RoomCsvError&) const = default;
 };
 
-/// The error as one line for the user: line 7: width "-5" is negative. A long value is shortened.
+/// The error as one line for the user: line 7: width "-5" is negative. A long value is shortened,
+/// an empty one left out.
 std::string ErrorText(const RoomCsvError& error);
 
 /// The rooms of a file, or what is wrong with it: at most one of the two has elements.
@@ -37,7 +38,8 @@ struct RoomCsvReading {
 /// are mistakes. Coverings as ReadCovering takes them, the base as CheckBaseStr; room number, base
 /// and remark within their greatest lengths. Blanks around a field count only in room and remark.
 ///
-/// Every mistake of the file is reported, and none of its rooms is taken then. A file with a header
+/// Every mistake of the file is reported, and none of its rooms is taken then; in a UTF-16 file and
+/// one with semicolons or tabs between the columns that is the only one. A file with a header
 /// alone has no rooms and no mistake.
 RoomCsvReading ReadRoomCsv(std::string_view text, bool metric);
 

@@ -103,18 +103,17 @@ TEST(ReadRoomCsv, RefusesANegativeSize) {
               (Lines{"line 2: width \"-5\" is negative", "line 2: length \"-1'6\"\" is negative"}));
 }
 
-TEST(ReadRoomCsv, CallsASizeBeyond32767AnOverflow) {
+TEST(ReadRoomCsv, RefusesASizeBeyond32767) {
     for (const std::string size : {"32768", "99999999999999999999999", "2730'8\""}) {
-        EXPECT_EQ(
-            ErrorsOfRoom(size + ",1,C1,,,"),
-            (Lines{"line 2: width \"" + size + "\" is an overflow: a size is at most 32767"}));
+        EXPECT_EQ(ErrorsOfRoom(size + ",1,C1,,,"),
+                  (Lines{"line 2: width \"" + size + "\" is too large: a size is at most 32767"}));
     }
 }
 
 TEST(ReadRoomCsv, RefusesAMissingSizeOrCovering) {
     EXPECT_EQ(ErrorsOfRoom(", ,,,,"),
-              (Lines{"line 2: width \"\" is missing", "line 2: length \" \" is missing",
-                     "line 2: covering \"\" is missing"}));
+              (Lines{"line 2: width is missing", "line 2: length \" \" is missing",
+                     "line 2: covering is missing"}));
 }
 
 TEST(ReadRoomCsv, RefusesSizesThatAreNotWhole) {
@@ -177,7 +176,10 @@ TEST(ReadRoomCsv, RefusesInvalidUtf8) {
         const Lines errors = ErrorsOfRoom("1,2,C1,,,caf" + bytes);
         ASSERT_EQ(errors.size(), 1U);
         EXPECT_THAT(errors[0], ::testing::StartsWith("line 2: remark \"caf\uFFFD"));
-        EXPECT_THAT(errors[0], ::testing::EndsWith("\" is not valid UTF-8"));
+        EXPECT_THAT(
+            errors[0],
+            ::testing::EndsWith(
+                "\" is not valid UTF-8; save it as UTF-8 (\"CSV UTF-8\" in a spreadsheet)"));
     }
 }
 
@@ -192,11 +194,28 @@ TEST(ReadRoomCsv, RefusesAMissingRequiredColumn) {
                                                      "line 1: column \"covering\" is missing"}));
 }
 
-TEST(ReadRoomCsv, RefusesAnUnknownColumn) {
+TEST(ReadRoomCsv, RefusesAnUnknownColumnAndOneWithoutAName) {
     EXPECT_EQ(ErrorsOf("width,length,covering,colour\n1,2,C1,red"),
               (Lines{"line 1: column \"colour\" is unknown"}));
-    EXPECT_EQ(ErrorsOf("width,length,covering,\n1,2,C1,"),
-              (Lines{"line 1: column \"\" is unknown"}));
+    EXPECT_EQ(ErrorsOf("width,length,covering,\n1,2,C1,"), (Lines{"line 1: a column has no name"}));
+}
+
+TEST(ReadRoomCsv, TellsWhichSeparatorStandsInPlaceOfCommas) {
+    EXPECT_EQ(ErrorsOf("width;length;covering\n12,5;96;C1\n"),
+              (Lines{"line 1: the columns are separated by semicolons; save the file with commas "
+                     "between them"}));
+    EXPECT_EQ(ErrorsOf("\xEF\xBB\xBFwidth\tlength\tcovering\r\n120\t96\tC1\r\n"),
+              (Lines{"line 1: the columns are separated by tabs; save the file with commas between "
+                     "them"}));
+    EXPECT_EQ(ErrorsOf("width,length,covering,a;b\n1,2,C1,3"),
+              (Lines{"line 1: column \"a;b\" is unknown"}));
+}
+
+TEST(ReadRoomCsv, RefusesUtf16WithOneMistake) {
+    const Lines expected{"line 1: the file is not UTF-8; save it as UTF-8 (\"CSV UTF-8\" in a "
+                         "spreadsheet)"};
+    EXPECT_EQ(ErrorsOf(std::string("\xFF\xFEw\0,\0\n\0x\0", 10)), expected);
+    EXPECT_EQ(ErrorsOf(std::string("\xFE\xFF\0w\0,\0\n\0x", 10)), expected);
 }
 
 TEST(ReadRoomCsv, RefusesAColumnThatAppearsTwice) {
