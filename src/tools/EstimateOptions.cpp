@@ -19,8 +19,9 @@ constexpr const char* Description =
 constexpr const char* Footer =
     "A CSV file has a header line and the columns width,length,covering,base,room,remark in any\n"
     "order; the first three are required. Sizes are whole inches or text such as 12'6\" (whole\n"
-    "centimetres with --metric), coverings CARPET-1 or C1, TILE-4 or T4, the base a text such as\n"
-    "W2L1. A size of 0 is read and not cut.\n\n"
+    "centimetres with --metric), coverings CARPET-1 or C1, TILE-4 or T4. The base tells how many\n"
+    "widths and lengths of the room take wall base: W2L1 is two widths and one length. A size\n"
+    "of 0 is read and not cut.\n\n"
     "Exit status: 0 done, 1 refused (the reason is on standard error), 2 wrong usage.\n\n"
     "Example:\n"
     "  tarn-estimate --rooms house.csv --carpet 1 --roll-width 12ft --max-pieces 2 --svg house.svg";
@@ -55,12 +56,16 @@ void AddChoices(CLI::App& app, EstimateOptions& options, std::string& lay) {
     app.add_option("--match", options.Match,
                    "Pattern repeat across x along, in inches (centimetres with --metric)")
         ->type_name("18x24");
-    app.add_option("--min-cut", options.MinCut,
-                   "Minimum cut length: 0 = 3 FT, 1 = 1FT 6, 2 = 1/2FT")
+    app.add_option(
+           "--min-cut", options.MinCut,
+           "Minimum cut: 0 = 3 FT, 1 = 1FT 6, 2 = 1/2FT. Despite their names these keep the "
+           "parts of a divided fill at 3, 1.5 or 0.5 inch or more (7.62, 3.81 or 1.27 inch "
+           "with --metric)")
         ->check(CLI::Range(0, 2))
         ->capture_default_str()
         ->type_name("N");
-    app.add_option("--max-pieces", options.MaxPieces, "Maximum number of pieces per fill, 1 to 6")
+    app.add_option("--max-pieces", options.MaxPieces,
+                   "Maximum number of parts into which a fill is divided, 1 to 6")
         ->check(CLI::Range(1, 6))
         ->capture_default_str()
         ->type_name("N");
