@@ -158,6 +158,7 @@ void ReportProject(const std::string& database, const std::string& project, bool
 
 void ExportProject(const std::string& database, const std::string& project,
                    const std::string& output) {
+    RequireOtherFile(output, database);
     SharedState state;
     OpenForReading(state, database);
     if (LoadProjectNamed(state, project)) {

@@ -2,6 +2,7 @@
 
 #include "app/Version.h"
 #include "estimate/RollWidth.h"
+#include "tools/Files.h"
 #include "tools/Refusal.h"
 
 #include <CLI/CLI.hpp>
@@ -79,7 +80,17 @@ void AddOutput(CLI::App& app, EstimateOptions& options) {
     app.add_option("--json", options.Json, "Write cuts, pieces and totals as JSON")
         ->type_name("FILE|-");
     app.add_option("--svg", options.Svg, "Write the drawing of the layout with the cut list")
-        ->type_name("FILE");
+        ->type_name("FILE|-");
+}
+
+/// Raises CLI::ValidationError when two outputs would overwrite or mix with each other.
+void RequireDifferent(const char* option, const std::string& path, const char* otherOption,
+                      const std::string& otherPath) {
+    if (!path.empty() && !otherPath.empty() && IsSameFile(path, otherPath)) {
+        throw CLI::ValidationError(std::string(option) + " and " + otherOption +
+                                   " cannot both go to " +
+                                   (path == StandardOutput ? "standard output" : path));
+    }
 }
 
 /// What the single options cannot tell. Raises CLI::ValidationError.
@@ -87,11 +98,11 @@ void CheckTogether(EstimateOptions& options) {
     if (options.Database.empty() && options.Rooms.empty()) {
         throw CLI::ValidationError("either --database and --project, or --rooms is required");
     }
-    if (options.Text == "-" && options.Json == "-") {
-        throw CLI::ValidationError("--text and --json cannot both go to standard output");
-    }
+    RequireDifferent("--text", options.Text, "--json", options.Json);
+    RequireDifferent("--text", options.Text, "--svg", options.Svg);
+    RequireDifferent("--json", options.Json, "--svg", options.Svg);
     if (options.Text.empty() && options.Json.empty() && options.Svg.empty()) {
-        options.Text = "-";
+        options.Text = StandardOutput;
     }
 }
 

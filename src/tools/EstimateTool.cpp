@@ -48,6 +48,13 @@ std::string DrawingOf(const SharedState& state, const EngineArrays& engine,
                        state.CurProjName.empty() ? carpet : state.CurProjName + ", " + carpet);
 }
 
+void RequireOutputsBesideInput(const EstimateOptions& options) {
+    const std::string& input = options.Rooms.empty() ? options.Database : options.Rooms;
+    for (const std::string& output : {options.Svg, options.Json, options.Text}) {
+        RequireOtherFile(output, input);
+    }
+}
+
 void WriteOutputs(const EstimateOptions& options, const SharedState& state,
                   const EngineArrays& engine, const CarpetEstimate& estimate) {
     if (!options.Svg.empty()) {
@@ -65,6 +72,7 @@ void WriteOutputs(const EstimateOptions& options, const SharedState& state,
 
 void EstimateFor(const EstimateOptions& options) {
     const EstimateRequest request = RequestOf(options);
+    RequireOutputsBesideInput(options);
     SharedState state;
     EngineArrays engine;
     CarpetEstimate estimate;

@@ -3,7 +3,9 @@
 #include "store/DatabaseFile.h"
 #include "tools/Refusal.h"
 
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QSaveFile>
 
 #include <cstdio>
@@ -21,6 +23,13 @@ void WriteStandardOutput(const std::string& content) {
     if (written != content.size() || std::fflush(stdout) != 0) {
         throw Refusal("Standard output cannot be written.");
     }
+}
+
+/// A file's name without links and dots; that of a file that is not there without dots.
+QString PlainName(const std::string& path) {
+    const QFileInfo info(QString::fromStdString(path));
+    const QString canonical = info.canonicalFilePath();
+    return canonical.isEmpty() ? QDir::cleanPath(info.absoluteFilePath()) : canonical;
 }
 
 } // namespace
@@ -51,6 +60,17 @@ void WriteWholeFile(const std::string& path, const std::string& content) {
     if (!file.open(QIODevice::WriteOnly) || file.write(content.data(), size) != size ||
         !file.commit()) {
         throw Refusal("The file " + path + " cannot be written: " + Reason(file) + ".");
+    }
+}
+
+bool IsSameFile(const std::string& path, const std::string& other) {
+    return PlainName(path) == PlainName(other);
+}
+
+void RequireOtherFile(const std::string& output, const std::string& input) {
+    if (!output.empty() && output != StandardOutput && IsSameFile(output, input)) {
+        throw Refusal("The file " + output +
+                      " cannot be written: the rooms are read from it. Name another file.");
     }
 }
 

@@ -15,4 +15,11 @@ std::string ReadWholeFile(const std::string& path);
 /// never costs the projects; a file that was there before is then still there.
 void WriteWholeFile(const std::string& path, const std::string& content);
 
+/// Whether two names lead to the same file, be it there or not.
+bool IsSameFile(const std::string& path, const std::string& other);
+
+/// Raise Refusal when `output` is the file `input`, under whatever name: writing it would destroy
+/// what is read.
+void RequireOtherFile(const std::string& output, const std::string& input);
+
 } // namespace tarn

@@ -214,6 +214,23 @@ TEST_F(EstimateTool, AFailedOutputLeavesTheOldFile) {
     ExpectRefused(EstimateCsv(House, Words("--text taken")), "taken cannot be written");
 }
 
+TEST_F(EstimateTool, NeverWritesOverTheRoomsItReads) {
+    QFile::link(S("rooms.csv"), Path(S("link.csv")));
+    for (const char* output : {"--text", "--json", "--svg"}) {
+        for (const char* name : {"rooms.csv", "./rooms.csv", "link.csv"}) {
+            ExpectRefused(EstimateCsv(House, Args{S(output), S(name)}),
+                          "cannot be written: the rooms are read from it");
+            EXPECT_EQ(Read(S("rooms.csv")), House) << output << " " << name;
+        }
+    }
+    const QString database = MakeDatabase(S("SMITH"), House);
+    const QByteArray before = Read(database);
+    ExpectRefused(Estimate(Args{S("--database"), database, S("--svg"), database} +
+                           Words("--project SMITH --carpet 1 --roll-width 12ft")),
+                  "cannot be written: the rooms are read from it");
+    EXPECT_EQ(Read(database), before);
+}
+
 TEST_F(EstimateTool, NamesEveryBadLineOfACsvFile) {
     const ToolRun run = EstimateCsv("width,length,covering,base,room,remark\n"
                                     "120,96,C1,,,\n"
@@ -268,6 +285,8 @@ TEST_F(EstimateTool, WrongUsageHasAStatusOfItsOwn) {
           "--rooms rooms.csv --carpet 1 --roll-width 12ft --min-cut 3",
           "--rooms rooms.csv --carpet 1 --roll-width 12ft --max-pieces 7",
           "--rooms rooms.csv --carpet 1 --roll-width 12ft --text - --json -",
+          "--rooms rooms.csv --carpet 1 --roll-width 12ft --text - --svg -",
+          "--rooms rooms.csv --carpet 1 --roll-width 12ft --json a --svg ./a",
           "--rooms rooms.csv --database d --project p --carpet 1 --roll-width 12ft",
           "--database d --carpet 1 --roll-width 12ft", "--no-such-option"}) {
         const ToolRun run = Estimate(Words(arguments));
