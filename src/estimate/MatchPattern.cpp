@@ -2,7 +2,10 @@
 
 #include "app/Lengths.h"
 #include "app/Numbers.h"
+#include "app/RunTimeError.h"
 #include "app/Text.h"
+
+#include <limits>
 
 namespace tarn {
 
@@ -19,14 +22,25 @@ long long RaisedToMultiple(long long length, long long repeat) {
     return (length + repeat - 1) / repeat * repeat;
 }
 
+/// One size of a repeat, whole units. Raises "Overflow", and says which number it was.
+Integer WholeRepeat(std::string_view text) {
+    try {
+        return CInt(Val(text));
+    } catch (const RunTimeError& error) {
+        throw error.WithAdvice("The match pattern's " + std::string(text) +
+                               " is too large: a repeat is at most " +
+                               TrimStr(std::numeric_limits<Integer>::max()) + ".");
+    }
+}
+
 } // namespace
 
 void SetMatchPattern(CarpetEstimate& estimate, std::string_view width, std::string_view length,
                      bool metric) {
+    const Integer wholeAcross = WholeRepeat(width);
+    const Integer wholeAlong = WholeRepeat(length);
     const Double across = Val(width);
     const Double along = Val(length);
-    const Integer wholeAcross = CInt(across);
-    const Integer wholeAlong = CInt(along);
     estimate.MatchWidth = metric ? NearestInches(across) : wholeAcross;
     estimate.MatchLength = metric ? NearestInches(along) : wholeAlong;
     if (metric) {

@@ -39,11 +39,12 @@ bool BeginsAsJet(const QByteArray& header) {
 
 void RequireSqliteFile(const std::string& path, const QFileInfo& info) {
     if (!info.exists()) {
-        Refuse(path, "is missing. Correct the data folder in TarnWin.INI, or make a new data "
-                     "folder with \"tarn-data create\".");
+        Refuse(path,
+               "is missing. Correct its path or the data folder in TarnWin.INI, or make a new data "
+               "folder with \"tarn-data create\".");
     }
     if (info.isDir()) {
-        Refuse(path, "is a folder. Correct the data folder in TarnWin.INI.");
+        Refuse(path, "is a folder. Correct its path or the data folder in TarnWin.INI.");
     }
     QFile file(info.filePath());
     if (!file.open(QIODevice::ReadOnly)) {
@@ -58,7 +59,8 @@ void RequireSqliteFile(const std::string& path, const QFileInfo& info) {
                      "folder with \"tarn-data create\" and enter its projects there.");
     }
     if (!BeginsAsSqlite(header)) {
-        Refuse(path, "is not a database of this program. Correct the data folder in TarnWin.INI, "
+        Refuse(path, "is not a database of this program. Correct its path or the data folder in "
+                     "TarnWin.INI, "
                      "or put a backup in its place.");
     }
 }

@@ -1,5 +1,6 @@
 #include "tools/EstimateOptions.h"
 
+#include "app/RunTimeError.h"
 #include "app/Version.h"
 #include "estimate/RollWidth.h"
 #include "tools/Files.h"
@@ -139,6 +140,8 @@ EstimateRequest RequestOf(const EstimateOptions& options) {
         request.RollWidth = ReadRollWidth(options.RollWidth);
     } catch (const std::invalid_argument& error) {
         throw Refusal(error.what());
+    } catch (const RunTimeError& error) {
+        throw error.WithAdvice("The roll width \"" + options.RollWidth + "\" is too large.");
     }
     if (!options.Match.empty()) {
         static const std::regex Form(R"((\d+(?:\.\d+)?)[xX](\d+(?:\.\d+)?))");

@@ -18,8 +18,12 @@ void OpenForReading(SharedState& state, const std::string& path) {
 
 bool LoadProjectNamed(SharedState& state, const std::string& name) {
     state.CurProjName = StoredName(name);
+    if (state.CurProjName.empty()) {
+        throw Refusal("The project needs a name.");
+    }
     if (CheckProjName(state, state.CurProjName)) {
-        throw Refusal("There is no project " + state.CurProjName + ".");
+        throw Refusal("There is no project " + state.CurProjName +
+                      ". \"tarn-data list\" tells the projects that there are.");
     }
     const ProjectLoad load = LoadProject(state);
     for (const std::string& finding : load.Findings) {

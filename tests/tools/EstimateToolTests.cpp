@@ -37,7 +37,7 @@ class EstimateTool : public ToolTest {
         return Estimate(Words("--rooms rooms.csv --carpet 1 --roll-width 12ft") + more);
     }
 
-    void ExpectRefused(const ToolRun& run, const char* reason) const {
+    void ExpectRefused(const ToolRun& run, const QByteArray& reason) const {
         EXPECT_EQ(run.Status, 1);
         EXPECT_TRUE(run.Out.isEmpty()) << run.Out.toStdString();
         EXPECT_TRUE(run.Error.contains(reason)) << run.Error.toStdString();
@@ -144,13 +144,16 @@ TEST_F(EstimateTool, RefusesAnUnknownProject) {
     const QString database = MakeDatabase(S("SMITH"), House);
     ExpectRefused(Estimate(Args{S("--database"), database} +
                            Words("--project JONES --carpet 1 --roll-width 12ft")),
-                  "There is no project JONES.");
+                  "There is no project JONES. \"tarn-data list\" tells");
+    ExpectRefused(Estimate(Args{S("--database"), database, S("--project"), S(" ")} +
+                           Words("--carpet 1 --roll-width 12ft")),
+                  "The project needs a name.");
 }
 
 TEST_F(EstimateTool, RefusesADatabaseThatIsNotThere) {
     ExpectRefused(
         Estimate(Words("--database none.mdb --project SMITH --carpet 1 --roll-width 12ft")),
-        "none.mdb");
+        "The database file none.mdb is missing. Correct its path");
 }
 
 TEST_F(EstimateTool, RefusesACarpetWithoutRooms) {
@@ -180,6 +183,15 @@ TEST_F(EstimateTool, RefusesAnUnreadablePattern) {
     for (const char* match : {"18", "18x", "x24", "18x24x3", "-1x5", "axb"}) {
         ExpectRefused(EstimateCsv(House, Args{S("--match=") + S(match)}), "match pattern");
     }
+}
+
+TEST_F(EstimateTool, NamesTheWidthOrPatternThatOverflows) {
+    ExpectRefused(EstimateCsv(House, Words("--match 18x32768")),
+                  "Overflow. The match pattern's 32768 is too large: a repeat is at most 32767.");
+    const QByteArray width = "1" + QByteArray(40, '0') + "ft";
+    ExpectRefused(Estimate(Words("--rooms rooms.csv --carpet 1 --roll-width") +
+                           Args{QString::fromUtf8(width)}),
+                  "Overflow. The roll width \"" + width + "\" is too large.");
 }
 
 TEST_F(EstimateTool, RefusesASizeThatOverflows) {
