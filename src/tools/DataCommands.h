@@ -34,7 +34,7 @@ struct ImportRequest {
 
 /// Make the rooms of a CSV file those of a project, which is made when it is not there, in one
 /// transaction: whatever fails, nothing is changed. Raises Refusal for a project with rooms unless
-/// Replace is set.
+/// Replace is set and the file has rooms.
 void ImportProject(const ImportRequest& request);
 
 /// Write a project's rooms as CSV to a file, or to standard output for "-". The file does not tell

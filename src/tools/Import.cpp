@@ -48,15 +48,21 @@ void Store(SharedState& state, const std::vector<RoomRecord>& rooms, bool metric
     StoreProject(state);
 }
 
-void RequireReplaceable(const SharedState& state, const ProjectLoad& load, bool replace) {
+/// Raise Refusal unless `count` rooms of the file may take the place of what the project has.
+void RequireReplaceable(const SharedState& state, const ProjectLoad& load,
+                        const ImportRequest& request, std::size_t count) {
     if (load.Result == ProjectLoad::Outcome::Failed) {
         throw Refusal("The project " + state.CurProjName + " cannot be loaded: " + load.Cause);
     }
     // A sheet that counts no room may have rows of rooms all the same: the findings name them.
     const bool hasRooms = state.ObjNum > 0 || !load.Findings.empty();
-    if (hasRooms && !replace) {
+    if (hasRooms && !request.Replace) {
         throw Refusal("The project " + state.CurProjName +
                       " has rooms already; --replace puts those of the file in their place.");
+    }
+    if (hasRooms && count == 0) {
+        throw Refusal("The file " + request.Rooms + " has no rooms; the project " +
+                      state.CurProjName + " keeps those that it has.");
     }
 }
 
@@ -69,7 +75,7 @@ void ImportProject(const ImportRequest& request) {
     state.CurProjName = StoredName(request.Project);
     Transaction transaction(*state.CurDB);
     const bool isNew = CheckProjName(state, state.CurProjName);
-    RequireReplaceable(state, LoadProject(state), request.Replace);
+    RequireReplaceable(state, LoadProject(state), request, rooms.size());
     if (isNew) {
         AddNewProject(state, request.Directory);
     }

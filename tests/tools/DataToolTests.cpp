@@ -198,6 +198,14 @@ TEST_F(DataTool, ImportDoesNotReplaceRoomsUnlessItIsTold) {
     EXPECT_EQ(Value(database, "SELECT count(*) FROM ProjTab").toInt(), 1);
 }
 
+TEST_F(DataTool, AFileWithoutRoomsReplacesNone) {
+    const QString database = MakeDatabase(S("SMITH"), Rooms);
+    Write(S("empty.csv"), "width,length,covering\n");
+    ExpectRefused(OnProject(database, "import", "smith", {S("--replace"), Path(S("empty.csv"))}),
+                  "has no rooms; the project SMITH keeps those that it has");
+    EXPECT_EQ(Value(database, "SELECT count(*) FROM InputData").toInt(), 2);
+}
+
 TEST_F(DataTool, ImportRemembersTheUnitOfTheRoomsInForce) {
     const QString database = MakeDatabase(S("SMITH"), Rooms, {S("--metric")});
     EXPECT_EQ(Value(database, "SELECT EnteredMetric FROM MainTab").toInt(), 1);
