@@ -75,8 +75,7 @@ std::string Cause(const QSqlError& error) {
 } // namespace
 
 QVariant TextValue(std::string_view utf8) {
-    const QString text = QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
-    return text.isNull() ? QVariant(QStringLiteral("")) : QVariant(text);
+    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
 }
 
 Connection::Connection(const std::string& path, Access access, int busyWait)

@@ -9,7 +9,7 @@
 
 namespace tarn {
 
-/// Text as a value for a statement; an empty text is stored as such and not as null.
+/// Text as a value for a statement. An empty text is a text and no null.
 QVariant TextValue(std::string_view utf8);
 
 /// What a statement gave.

@@ -13,7 +13,8 @@ namespace tarn {
 /// Delete every row from the current one to the end. Answers True; raises DatabaseError.
 bool DeleteAllRows(Recordset& rows);
 
-/// Delete the rows of `table` that belong to the sheet. Errors are ignored; answers False always.
+/// Delete the rows of `table` that belong to the sheet. Errors are ignored but for DatabaseFailure,
+/// which names the last one. Answers False always.
 bool DeleteTabRows(SharedState& state, std::string_view table, Integer tabIndex);
 
 /// Delete the sheet's rows from every table of SheetTables. Answers False always.

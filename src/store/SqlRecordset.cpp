@@ -138,7 +138,6 @@ void SqlRecordset::MoveFirst() {
         Read();
     }
     position_ = 0;
-    pending_ = Pending::Nothing;
 }
 
 void SqlRecordset::MoveNext() {

@@ -268,7 +268,7 @@ TEST(ReadRoomCsv, ReportsEveryBadLineOfAFileAndTakesNoRoom) {
         (Lines{"line 3: the line has 1 fields and the header 4",
                Line("line 5: covering \"C9\"", NoCovering), "line 7: width \"-4\" is negative",
                Line("line 9: covering \"VINYL\"", NoCovering),
-               "line 9: width \"40000\" is an overflow: a size is at most 32767",
+               "line 9: width \"40000\" is too large: a size is at most 32767",
                Line("line 9: length \"12'6 1/2\"", NoInches)}));
 }
 

@@ -167,6 +167,21 @@ TEST_F(SavingAProject, KeepsTheNumberThatItCouldNotUseWhenItFails) {
     EXPECT_EQ(Sheets(), Lines{"5|OTHER|3"});
 }
 
+TEST_F(SavingAProject, KeepsEverythingWhenItFailsAtTheVeryEnd) {
+    file_.Run("UPDATE MainTab SET ProjName = 'OTHER'");
+    RawDatabase reader(file_.Path());
+    reader.Run("BEGIN");
+    reader.Rows("SELECT * FROM MainTab"); // keeps the change out of the file
+    state_.NewSheetFlag = true;
+    EXPECT_FALSE(SaveProject(state_));
+    EXPECT_NE(state_.DatabaseFailure.find("another program"), std::string::npos);
+    ExpectStateUnchanged();
+    reader.Run("COMMIT");
+    EXPECT_EQ(Sheets(), Lines{"5|OTHER|3"});
+    EXPECT_TRUE(SaveProject(state_));
+    EXPECT_EQ(Sheets(), (Lines{"5|OTHER|3", "6|P|4"}));
+}
+
 TEST_F(SavingAProject, RaisesOverflowWhenNoNumberIsFree) {
     file_.Run("UPDATE MainTab SET ProjName = 'OTHER'");
     file_.AddProject("MARCH", "LAST", 32767);

@@ -78,7 +78,8 @@ TEST(BackUpDatabaseFile, RefusesABadSourceAndLeavesNothingBehind) {
     const TestDatabase file;
     const TestFolder target;
     const std::string whole = ReadFile(file.Path());
-    for (const std::string& content : {std::string(), std::string("x"), whole.substr(0, 9000)}) {
+    for (const std::string& content : {std::string(), std::string("x"), whole.substr(0, 9000),
+                                       whole.substr(0, whole.size() - 1)}) {
         WriteFile(file.Path(), content);
         EXPECT_THROW(BackUpDatabaseFile(file.Path(), target.Path("new/Backup.mdb")), DatabaseError);
     }

@@ -74,6 +74,14 @@ TEST_F(RecordsetEditing, StoresNumbersExactly) {
     EXPECT_EQ(file_.Rows("SELECT TabIndex, DigScale = 0.1 FROM MainTab").back(), "-32768|1");
 }
 
+TEST_F(RecordsetEditing, StoresTheLastValueOfAFieldSetTwice) {
+    rows_->AddNew();
+    rows_->SetField("ProjName", std::string("P4"));
+    rows_->SetField("projname", std::string("P5"));
+    rows_->Update();
+    EXPECT_EQ(Stored().back(), "NULL|P5|NULL");
+}
+
 TEST_F(RecordsetEditing, ShowsANewRowFromMoveFirstOnAndStaysOnItsRowTillThen) {
     rows_->MoveNext();
     rows_->AddNew();

@@ -115,12 +115,34 @@ TEST(SqlDatabase, RefusesAFileThatIsCutShortAnywhere) {
     EXPECT_THROW(OpenSqlDatabase(file.Path()), DatabaseError);
 }
 
+TEST(SqlDatabase, AnErrorInTheMiddleOfTheRowsIsNotTheirEnd) {
+    constexpr std::size_t ChangeCounterAt = 27; // its lowest byte: SQLite reads its pages anew
+    const TestDatabase file;
+    file.Run("WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 3000) "
+             "INSERT INTO DirTab SELECT 'NAME ' || i FROM n");
+    const auto database = OpenSqlDatabase(file.Path());
+    std::string bytes = ReadFile(file.Path());
+    ++bytes.at(ChangeCounterAt);
+    const auto middle = static_cast<std::ptrdiff_t>(bytes.find("NAME 2000"));
+    std::fill(bytes.begin() + middle - 5000, bytes.begin() + middle + 5000, 'x');
+    WriteFile(file.Path(), bytes);
+    EXPECT_NE(DatabaseErrorOf([&] {
+                  database->OpenSnapshot("Select * from DirTab");
+              }).find("DirTab cannot be read: the database file is damaged"),
+              std::string::npos);
+}
+
 TEST(SqlDatabase, RefusesAReadOnlyFileForWritingAndOpensItForReading) {
     const TestDatabase file;
     ForbidWriting(file.Path());
     const std::string text = DatabaseErrorOf([&] { OpenSqlDatabase(file.Path()); });
     EXPECT_EQ(text, "The database file " + file.Path() + " is read-only. Allow writing to it.");
-    EXPECT_NO_THROW(OpenSqlDatabase(file.Path(), DatabaseAccess::ReadOnly));
+
+    file.AddDirectory("MARCH");
+    const auto database = OpenSqlDatabase(file.Path(), DatabaseAccess::ReadOnly);
+    const auto rows = database->OpenDynaset("Select * from DirTab");
+    EXPECT_EQ(rows->Field("Directory"), FieldValue(std::string("MARCH")));
+    EXPECT_THROW(rows->Delete(), DatabaseError);
 }
 
 TEST(SqlDatabase, RefusesAReadOnlyFolderForWritingAndOpensItForReading) {

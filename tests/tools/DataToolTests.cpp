@@ -282,7 +282,7 @@ TEST_F(DataTool, ExportNeverWritesOverADatabase) {
     const QString database = MakeDatabase(S("SMITH"), Rooms);
     const QByteArray before = Read(S("data/DATA/Tarn.mdb"));
     ExpectRefused(OnProject(database, "export", "SMITH", {S("--output"), database}),
-                  "is a database");
+                  "the rooms are read from it");
     EXPECT_EQ(Read(S("data/DATA/Tarn.mdb")), before);
     const QByteArray jet = QByteArray("\0\1\0\0Standard Jet DB", 19);
     Write(S("old.mdb"), jet);

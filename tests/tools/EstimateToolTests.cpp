@@ -191,7 +191,7 @@ TEST_F(EstimateTool, NamesTheWidthOrPatternThatOverflows) {
     const QByteArray width = "1" + QByteArray(40, '0') + "ft";
     ExpectRefused(Estimate(Words("--rooms rooms.csv --carpet 1 --roll-width") +
                            Args{QString::fromUtf8(width)}),
-                  "Overflow. The roll width \"" + width + "\" is too large.");
+                  "The roll width \"" + width + "\" is too large.");
 }
 
 TEST_F(EstimateTool, RefusesASizeThatOverflows) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QDir>
 #include <QString>
 #include <QStringList>
 #include <QTemporaryDir>
@@ -31,7 +32,8 @@ class ToolTest : public ::testing::Test {
         return RunProgram(QStringLiteral("tarn-data"), arguments, directory_.path());
     }
 
-    QString Path(const QString& name) const { return directory_.filePath(name); }
+    /// The path of a file in the directory; an absolute path stays.
+    QString Path(const QString& name) const { return QDir(directory_.path()).filePath(name); }
     /// Write a file into the directory; returns its path.
     QString Write(const QString& name, const QByteArray& content) const;
     QByteArray Read(const QString& name) const;
