@@ -1,0 +1,93 @@
+#include "tools/ToolTesting.h"
+
+#include <QDir>
+#include <QProcess>
+
+#include <array>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace tarn {
+namespace {
+
+using testing::ToolRun;
+using testing::ToolTest;
+
+QString S(const char* text) {
+    return QString::fromUtf8(text);
+}
+
+class EstimateOutput : public ToolTest {
+  protected:
+    QStringList Arguments(const char* output, const QString& file) const {
+        return {S("--rooms"),      Write(S("rooms.csv"), "width,length,covering\n60,96,C1\n"),
+                S("--carpet"),     S("1"),
+                S("--roll-width"), S("12ft"),
+                S(output),         file};
+    }
+    void ExpectCannotBeWritten(const char* output, const QString& file) const {
+        const ToolRun run = Estimate(Arguments(output, file));
+        EXPECT_EQ(run.Status, 1);
+        EXPECT_TRUE(run.Out.isEmpty()) << run.Out.toStdString();
+        EXPECT_TRUE(run.Error.contains(file.toUtf8() + " cannot be written: "))
+            << run.Error.toStdString();
+    }
+};
+
+TEST_F(EstimateOutput, AFolderThatIsNotThereIsRefused) {
+    for (const char* output : {"--text", "--json", "--svg"}) {
+        ExpectCannotBeWritten(output, S("no/such/folder/out"));
+    }
+}
+
+TEST_F(EstimateOutput, AFolderInPlaceOfTheFileIsRefused) {
+    ASSERT_TRUE(QDir(Path(S("."))).mkdir(S("taken")));
+    ExpectCannotBeWritten("--text", S("taken"));
+    EXPECT_TRUE(QDir(Path(S("taken"))).exists());
+}
+
+TEST_F(EstimateOutput, AFailureLeavesTheOldFile) {
+    // A name as long as names may be: there is no room for that of the file in the making.
+    const QString longest(255, u'n');
+    Write(longest, "the old list");
+    ExpectCannotBeWritten("--text", longest);
+    EXPECT_EQ(Read(longest), "the old list");
+}
+
+TEST_F(EstimateOutput, AnOldFileIsReplaced) {
+    Write(S("out.txt"), QByteArray(10000, 'x'));
+    EXPECT_EQ(Estimate(Arguments("--text", S("out.txt"))).Status, 0);
+    EXPECT_TRUE(Read(S("out.txt")).startsWith("Carpet-1  Width=12'0\"  DOWNLAY\n"));
+    EXPECT_FALSE(Read(S("out.txt")).contains('x'));
+}
+
+TEST_F(EstimateOutput, APipeIsWrittenToAndNotReplaced) {
+    const QByteArray pipe = Path(S("pipe")).toUtf8();
+    ASSERT_EQ(mkfifo(pipe.constData(), S_IRUSR | S_IWUSR), 0);
+    const int reader = open(pipe.constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    ASSERT_GE(reader, 0);
+    const ToolRun run = Estimate(Arguments("--text", S("pipe")));
+    std::array<char, 4096> buffer{};
+    const ssize_t count = read(reader, buffer.data(), buffer.size());
+    close(reader);
+    EXPECT_EQ(run.Status, 0) << run.Error.toStdString();
+    ASSERT_GT(count, 0) << "nothing came through the pipe";
+    EXPECT_TRUE(QByteArray(buffer.data(), count).startsWith("Carpet-1  Width=12'0\"  DOWNLAY\n"));
+    struct stat there {};
+    ASSERT_EQ(stat(pipe.constData(), &there), 0);
+    EXPECT_TRUE(S_ISFIFO(there.st_mode));
+}
+
+TEST_F(EstimateOutput, AFullStandardOutputIsRefused) {
+    QProcess process;
+    process.setStandardOutputFile(S("/dev/full"));
+    process.start(S(TARN_TOOLS_DIRECTORY "/tarn-estimate"), Arguments("--text", S("-")));
+    ASSERT_TRUE(process.waitForFinished());
+    EXPECT_EQ(process.exitCode(), 1);
+    EXPECT_EQ(process.readAllStandardError().toStdString(),
+              "tarn-estimate: Standard output cannot be written.\n");
+}
+
+} // namespace
+} // namespace tarn
