@@ -95,6 +95,9 @@ Single ReadRollWidth(const std::string& text) {
     std::optional<Single> width;
     try {
         width = WidthOf(text);
+        if (width) {
+            RoundedCentimetres(static_cast<Double>(*width)); // as every cut list shows it
+        }
     } catch (const RunTimeError&) {
         throw std::invalid_argument("The roll width \"" + text + "\" is too large.");
     }
@@ -103,7 +106,7 @@ Single ReadRollWidth(const std::string& text) {
                                     "\" is not readable: write it as 12ft, 13.5ft, 12ft6in, 150in "
                                     "or 366cm.");
     }
-    if (*width <= 0) {
+    if (IsWithinTolerance(*width)) {
         throw std::invalid_argument("The roll width \"" + text + "\" must be more than 0.");
     }
     return *width;

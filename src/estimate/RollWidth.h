@@ -28,7 +28,7 @@ Single OtherRollWidth(std::string_view feet, std::string_view inches);
 
 /// Read a roll width as the command line takes it: 12ft, 13.5ft, 12ft6in, 150in or 366cm, the units
 /// in either case, in inches. Raises std::invalid_argument, with a text for the user, for anything
-/// else, for a width of 0 and for one that no Single holds.
+/// else, for a width that is the same length as 0 and for one that is too large to be listed.
 Single ReadRollWidth(const std::string& text);
 
 } // namespace tarn

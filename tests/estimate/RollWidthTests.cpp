@@ -127,6 +127,20 @@ TEST(ReadRollWidth, RefusesAWidthTooSmallToHold) {
               std::string::npos);
 }
 
+TEST(ReadRollWidth, RefusesAWidthThatIsTheSameLengthAsZero) {
+    for (const std::string text : {"0.0049in", "0.0004ft", "0.01cm"}) {
+        EXPECT_EQ(Refusal(text), "The roll width \"" + text + "\" must be more than 0.");
+    }
+    EXPECT_EQ(ReadRollWidth("0.01in"), 0.01F);
+}
+
+TEST(ReadRollWidth, RefusesAWidthTooLargeToList) {
+    for (const std::string text : {"1000000000ft", "850000000in", "2200000000cm"}) {
+        EXPECT_EQ(Refusal(text), "The roll width \"" + text + "\" is too large.");
+    }
+    EXPECT_EQ(ReadRollWidth("800000000in"), 800000000.0F);
+}
+
 TEST(ReadRollWidth, RefusesAWidthTooLargeToHold) {
     for (const std::string unit : {"ft", "in", "cm"}) {
         for (const std::size_t digits : {39U, 400U, 1'000'000U}) {

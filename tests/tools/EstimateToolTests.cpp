@@ -197,6 +197,18 @@ TEST_F(EstimateTool, NamesTheWidthOrPatternThatOverflows) {
                   "The roll width \"" + width + "\" is too large.");
 }
 
+TEST_F(EstimateTool, RefusesAWidthTooLargeToList) {
+    Write(S("rooms.csv"), House);
+    for (const char* width : {"1000000000ft", "9999999999999in", "9999999999cm"}) {
+        ExpectRefused(Estimate(Words("--rooms rooms.csv --carpet 1 --roll-width") + Args{S(width)}),
+                      "is too large");
+    }
+}
+
+TEST_F(EstimateTool, RefusesAPatternOfAnyLength) {
+    ExpectRefused(EstimateCsv(House, {S("--match"), QString(120000, u'1')}), "match pattern");
+}
+
 TEST_F(EstimateTool, RefusesASizeThatOverflows) {
     ExpectRefused(EstimateCsv("width,length,covering\n32768,100,C1\n"), "line 2: width");
     ExpectRefused(EstimateCsv("width,length,covering\n9999999999999,100,C1\n"), "line 2: width");
