@@ -3,6 +3,7 @@
 #include "app/Lengths.h"
 #include "app/Numbers.h"
 #include "app/RunTimeError.h"
+#include "estimate/TakeNumber.h"
 
 #include <algorithm>
 #include <optional>
@@ -19,28 +20,6 @@ constexpr Double InchesPerFoot = 12;
 Single FromCentimetres(Double centimetres) {
     const Single asFeet = CSng(centimetres * InchesPerFoot);
     return CSng(static_cast<Double>(asFeet) / CentimetresPerInch / InchesPerFoot);
-}
-
-/// Take the first `count` characters off `text`.
-std::string_view Take(std::string_view& text, std::size_t count) {
-    const std::string_view taken = text.substr(0, count);
-    text.remove_prefix(taken.size());
-    return taken;
-}
-
-std::size_t DigitsAt(std::string_view text, std::size_t from) {
-    constexpr std::string_view Digits = "0123456789";
-    return std::min(text.find_first_not_of(Digits, from), text.size()) - from;
-}
-
-/// Take digits, or digits on both sides of a point, off `text`; empty where it begins otherwise.
-std::string_view TakeNumber(std::string_view& text) {
-    const std::size_t whole = DigitsAt(text, 0);
-    if (whole == 0 || whole == text.size() || text[whole] != '.') {
-        return Take(text, whole);
-    }
-    const std::size_t places = DigitsAt(text, whole + 1);
-    return Take(text, places == 0 ? 0 : whole + 1 + places);
 }
 
 /// Take `unit` (lower case) off `text`, where it begins with it in either case.

@@ -1,14 +1,12 @@
 #include "tools/EstimateOptions.h"
 
-#include "app/RunTimeError.h"
 #include "app/Version.h"
 #include "estimate/RollWidth.h"
+#include "estimate/TakeNumber.h"
 #include "tools/Files.h"
 #include "tools/Refusal.h"
 
 #include <CLI/CLI.hpp>
-
-#include <regex>
 
 namespace tarn {
 
@@ -107,6 +105,19 @@ void CheckTogether(EstimateOptions& options) {
     }
 }
 
+EstimateRequest::Repeat RepeatOf(const std::string& text) {
+    std::string_view rest = text;
+    const std::string_view width = TakeNumber(rest);
+    const bool separated = rest.starts_with('x') || rest.starts_with('X');
+    rest.remove_prefix(separated ? 1 : 0);
+    const std::string_view length = TakeNumber(rest);
+    if (width.empty() || !separated || length.empty() || !rest.empty()) {
+        throw Refusal("The match pattern \"" + text +
+                      "\" is not readable: write it as 18x24, the repeat across and along.");
+    }
+    return {std::string(width), std::string(length)};
+}
+
 } // namespace
 
 std::optional<EstimateOptions> ReadEstimateOptions(int argc, const char* const* argv, int& status) {
@@ -140,17 +151,9 @@ EstimateRequest RequestOf(const EstimateOptions& options) {
         request.RollWidth = ReadRollWidth(options.RollWidth);
     } catch (const std::invalid_argument& error) {
         throw Refusal(error.what());
-    } catch (const RunTimeError& error) {
-        throw error.WithAdvice("The roll width \"" + options.RollWidth + "\" is too large.");
     }
     if (!options.Match.empty()) {
-        static const std::regex Form(R"((\d+(?:\.\d+)?)[xX](\d+(?:\.\d+)?))");
-        std::smatch match;
-        if (!std::regex_match(options.Match, match, Form)) {
-            throw Refusal("The match pattern \"" + options.Match +
-                          "\" is not readable: write it as 18x24, the repeat across and along.");
-        }
-        request.Match = EstimateRequest::Repeat{match[1], match[2]};
+        request.Match = RepeatOf(options.Match);
     }
     return request;
 }
