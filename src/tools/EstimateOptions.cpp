@@ -26,6 +26,11 @@ constexpr const char* Footer =
     "Example:\n"
     "  tarn-estimate --rooms house.csv --carpet 1 --roll-width 12ft --max-pieces 2 --svg house.svg";
 
+/// Refuses an option that is given without its value ("--match=").
+std::string NotEmpty(const std::string& value) {
+    return value.empty() ? "the value is empty" : "";
+}
+
 void AddInput(CLI::App& app, EstimateOptions& options) {
     auto* database = app.add_option("--database", options.Database, "Database file of the project")
                          ->type_name("FILE");
@@ -55,6 +60,7 @@ void AddChoices(CLI::App& app, EstimateOptions& options, std::string& lay) {
         ->type_name("down|cross");
     app.add_option("--match", options.Match,
                    "Pattern repeat across x along, in inches (centimetres with --metric)")
+        ->check(NotEmpty)
         ->type_name("18x24");
     app.add_option(
            "--min-cut", options.MinCut,
@@ -75,10 +81,13 @@ void AddOutput(CLI::App& app, EstimateOptions& options) {
     app.add_option("--text", options.Text,
                    "Write the cut list to FILE, or to standard output for - (done when no other "
                    "output is asked for)")
+        ->check(NotEmpty)
         ->type_name("FILE|-");
     app.add_option("--json", options.Json, "Write cuts, pieces and totals as JSON")
+        ->check(NotEmpty)
         ->type_name("FILE|-");
     app.add_option("--svg", options.Svg, "Write the drawing of the layout with the cut list")
+        ->check(NotEmpty)
         ->type_name("FILE|-");
 }
 

@@ -303,7 +303,11 @@ TEST_F(EstimateTool, WrongUsageHasAStatusOfItsOwn) {
           "--rooms rooms.csv --carpet 1 --roll-width 12ft --text - --svg -",
           "--rooms rooms.csv --carpet 1 --roll-width 12ft --json a --svg ./a",
           "--rooms rooms.csv --database d --project p --carpet 1 --roll-width 12ft",
-          "--database d --carpet 1 --roll-width 12ft", "--no-such-option"}) {
+          "--database d --carpet 1 --roll-width 12ft", "--no-such-option",
+          "--rooms rooms.csv --carpet 1 --roll-width 12ft --match=",
+          "--rooms rooms.csv --carpet 1 --roll-width 12ft --text=",
+          "--rooms rooms.csv --carpet 1 --roll-width 12ft --json=",
+          "--rooms rooms.csv --carpet 1 --roll-width 12ft --svg="}) {
         const ToolRun run = Estimate(Words(arguments));
         EXPECT_EQ(run.Status, 2) << arguments;
         EXPECT_FALSE(run.Error.isEmpty()) << arguments;
