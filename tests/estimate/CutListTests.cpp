@@ -194,6 +194,13 @@ TEST(CutList, TilesWithoutRoomsHaveNoLine) {
               2);
 }
 
+TEST(CutList, ALengthBeyondALongOverflows) {
+    Job job = Imperial({{144, 144}});
+    MakeEstimate(job, Request(144));
+    job.State.ECutY2[0] = 1e12F;
+    EXPECT_EQ(testing::ErrorOf([&] { Listing(job); }).Number(), OverflowNumber);
+}
+
 TEST(CarpetHeading, NamesCarpetRollAndLay) {
     Job job = Imperial({});
     job.Engine.RollWidth = 150.5F;

@@ -65,6 +65,15 @@ TEST(TotalCutLength, OfNoCutsIsZero) {
     EXPECT_EQ(TotalCutLength(Imperial({}).State, 0), 0);
 }
 
+TEST(TotalCutLength, BeyondASingleOverflows) {
+    Job job = Imperial({});
+    job.State.ECutCount = 2;
+    for (Integer i = 0; i < job.State.ECutCount; ++i) {
+        job.State.ECutY2[i] = 3e38F;
+    }
+    EXPECT_EQ(ErrorOf([&] { TotalCutLength(job.State, 0); }).Number(), OverflowNumber);
+}
+
 TEST(CarpetArea, SumsTheRoomsOfThatCoveringInSquareInches) {
     Job job = Imperial({{100, 50, 8}, {20, 30, 9}, {10, 10, 8}});
     BuildAllRoomExtents(job.State);
@@ -92,6 +101,12 @@ TEST(CarpetArea, BeyondASingleOverflows) {
     job.State.RoomX(0, 1) = 1e30F;
     job.State.RoomY(0, 1) = 1e30F;
     EXPECT_EQ(ErrorOf([&] { CarpetArea(job.State, 8); }).Number(), OverflowNumber);
+}
+
+TEST(CarpetPerimeter, BeyondASingleOverflows) {
+    Job job = Imperial({{100, 50, 8}});
+    job.State.RoomX(0, 1) = 3e38F;
+    EXPECT_EQ(ErrorOf([&] { CarpetPerimeter(job.State, 8); }).Number(), OverflowNumber);
 }
 
 TEST(CarpetPerimeter, SumsTheRoomsOfThatCoveringInInches) {

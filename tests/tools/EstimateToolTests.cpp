@@ -4,6 +4,8 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QSqlDatabase>
+#include <QSqlQuery>
 #include <QXmlStreamReader>
 
 namespace tarn {
@@ -42,6 +44,21 @@ class EstimateTool : public ToolTest {
                Words("--project SMITH --carpet 1 --roll-width 12ft");
     }
     void ExpectRefused(const ToolRun& run, const QByteArray& reason) const {
+}
+
+    /// Change a database apart from the programs.
+    void Change(const QString& database, const char* statement) const {
+        const QString name = S("independent");
+        {
+            QSqlDatabase connection = QSqlDatabase::addDatabase(S("QSQLITE"), name);
+            connection.setDatabaseName(database);
+            EXPECT_TRUE(connection.open());
+            EXPECT_TRUE(QSqlQuery(connection).exec(S(statement))) << statement;
+        }
+        QSqlDatabase::removeDatabase(name);
+    }
+
+    void ExpectRefused(const ToolRun& run, const char* reason) const {
         EXPECT_EQ(run.Status, 1);
         EXPECT_TRUE(run.Out.isEmpty()) << run.Out.toStdString();
         EXPECT_TRUE(run.Error.contains(reason)) << run.Error.toStdString();
@@ -157,6 +174,34 @@ TEST_F(EstimateTool, RefusesADatabaseThatIsNotThere) {
     ExpectRefused(
         Estimate(Words("--database none.mdb --project SMITH --carpet 1 --roll-width 12ft")),
         "The database file none.mdb is missing. Correct its path");
+}
+
+TEST_F(EstimateTool, RefusesAProjectThatWasNeverSaved) {
+    const QString database = MakeDatabase(S("SMITH"), House);
+    Change(database, "DELETE FROM MainTab");
+    ExpectRefused(Estimate(OfSmith(database)), "The project SMITH has no saved rooms.");
+}
+
+TEST_F(EstimateTool, RefusesAProjectThatCannotBeLoaded) {
+    const QString database = MakeDatabase(S("SMITH"), House);
+    Change(database, "UPDATE MainTab SET ObjNum=NULL");
+    ExpectRefused(Estimate(OfSmith(database)), "The project SMITH cannot be loaded: ");
+}
+
+TEST_F(EstimateTool, WarnsOfRoomsThatAreMissing) {
+    const QString database = MakeDatabase(S("SMITH"), House);
+    Change(database, "DELETE FROM InputData WHERE ObjNum=2");
+    const ToolRun run = Estimate(OfSmith(database));
+    EXPECT_EQ(run.Status, 0);
+    EXPECT_EQ(run.Error.toStdString(), "Warning: Missing, read as empty: room 3.\n");
+    EXPECT_TRUE(run.Out.contains("Total Fills:2 ")) << run.Out.toStdString();
+}
+
+TEST_F(EstimateTool, RefusesAFileThatCannotBeRead) {
+    for (const char* file : {"none.csv", "."}) {
+        ExpectRefused(Estimate(Words("--carpet 1 --roll-width 12ft --rooms") + Args{S(file)}),
+                      "cannot be read: ");
+    }
 }
 
 TEST_F(EstimateTool, RefusesACarpetWithoutRooms) {
