@@ -7,6 +7,7 @@
 #include "engine/Placement.h"
 #include "estimate/MatchPattern.h"
 #include "estimate/Totals.h"
+#include "rooms/Coverings.h"
 
 namespace tarn {
 
@@ -120,7 +121,7 @@ class CutList {
                     : Format(AreaOf(area).SquareFeet, " ##0.00 SQ. FT.  ");
         const std::string base = metric_ ? TrimStr(RoundedCentimetres(perimeter)) + " CM"
                                          : Format(perimeter / 12, BasePattern) + " FEET";
-        return "Tile-" + TrimStr(code - FirstTileCode + 1) + ": " + size + "Tile Base: " + base;
+        return "Tile-" + TrimStr(CoveringNumber(code)) + ": " + size + "Tile Base: " + base;
     }
 
     const SharedState& state_;

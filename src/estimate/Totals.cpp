@@ -2,6 +2,7 @@
 
 #include "app/Lengths.h"
 #include "app/Numbers.h"
+#include "rooms/WallBase.h"
 
 #include <cmath>
 
@@ -39,9 +40,9 @@ bool HasRooms(const SharedState& state, Integer code) {
 Single TotalBase(const SharedState& state) {
     Single sum = 0;
     for (Integer room = 0; room < state.ObjNum; ++room) {
-        const Long widths = state.RoomBase[room] % 3;
-        const Long lengths = state.RoomBase[room] / 3;
-        const Long base = widths * state.RoomWidth[room] + lengths * state.RoomLength[room];
+        const Byte code = state.RoomBase[room];
+        const Long base =
+            BaseWidths(code) * state.RoomWidth[room] + BaseLengths(code) * state.RoomLength[room];
         sum += static_cast<Single>(base);
     }
     return sum;

@@ -43,8 +43,6 @@ class EstimateTool : public ToolTest {
         return Args{S("--database"), database} +
                Words("--project SMITH --carpet 1 --roll-width 12ft");
     }
-    void ExpectRefused(const ToolRun& run, const QByteArray& reason) const {
-}
 
     /// Change a database apart from the programs.
     void Change(const QString& database, const char* statement) const {
@@ -58,7 +56,7 @@ class EstimateTool : public ToolTest {
         QSqlDatabase::removeDatabase(name);
     }
 
-    void ExpectRefused(const ToolRun& run, const char* reason) const {
+    void ExpectRefused(const ToolRun& run, const QByteArray& reason) const {
         EXPECT_EQ(run.Status, 1);
         EXPECT_TRUE(run.Out.isEmpty()) << run.Out.toStdString();
         EXPECT_TRUE(run.Error.contains(reason)) << run.Error.toStdString();
