@@ -31,5 +31,7 @@ endif()
 
 find_program(TARN_CCACHE ccache)
 if(TARN_CCACHE)
-  set(CMAKE_CXX_COMPILER_LAUNCHER ${TARN_CCACHE})
+  # Paths are made relative, so that another clone or work tree finds what this one has compiled.
+  set(CMAKE_CXX_COMPILER_LAUNCHER ${CMAKE_COMMAND} -E env CCACHE_BASEDIR=${PROJECT_SOURCE_DIR}
+                                  CCACHE_NOHASHDIR=true ${TARN_CCACHE})
 endif()

@@ -1,0 +1,77 @@
+#include "app/Controls.h"
+
+#include "app/QtText.h"
+
+#include <QAbstractButton>
+#include <QLabel>
+#include <QPushButton>
+
+namespace tarn {
+
+namespace {
+
+QString WithMnemonic(std::string_view caption, char mnemonic) {
+    QString text = ToQt(caption);
+    text.replace(QLatin1String("&"), QLatin1String("&&"));
+    if (mnemonic != 0) {
+        const auto at = text.indexOf(QLatin1Char(mnemonic));
+        Q_ASSERT(at >= 0);
+        text.insert(at, QLatin1Char('&'));
+    }
+    return text;
+}
+
+} // namespace
+
+QString IndexedName(std::string_view name, int index) {
+    return ToQt(name) + QLatin1Char('(') + QString::number(index) + QLatin1Char(')');
+}
+
+void NameControl(QWidget& control, const QString& name, const QString& accessibleName) {
+    control.setObjectName(name);
+    control.setAccessibleName(accessibleName);
+}
+
+void SetCaption(QAbstractButton& button, std::string_view caption, char mnemonic) {
+    button.setText(WithMnemonic(caption, mnemonic));
+    button.setAccessibleName(ToQt(caption));
+}
+
+QString CaptionOf(const QAbstractButton& button) {
+    QString text;
+    const QString marked = button.text();
+    for (qsizetype i = 0; i < marked.size(); ++i) {
+        if (marked[i] == QLatin1Char('&') && ++i == marked.size()) {
+            break;
+        }
+        text += marked[i];
+    }
+    return text;
+}
+
+QPushButton* NewButton(QWidget* parent, const QString& name, std::string_view caption,
+                       char mnemonic) {
+    auto* button = new QPushButton(parent);
+    button->setObjectName(name);
+    SetCaption(*button, caption, mnemonic);
+    return button;
+}
+
+QLabel* NewLabel(QWidget* parent, const QString& name, std::string_view caption) {
+    auto* label = new QLabel(parent);
+    label->setTextFormat(Qt::PlainText);
+    label->setText(ToQt(caption));
+    NameControl(*label, name, ToQt(caption));
+    return label;
+}
+
+QLabel* NewLabelFor(QWidget& control, QWidget* parent, const QString& name,
+                    std::string_view caption, char mnemonic) {
+    QLabel* label = NewLabel(parent, name, caption);
+    label->setText(WithMnemonic(caption, mnemonic));
+    label->setBuddy(&control);
+    control.setAccessibleName(ToQt(caption));
+    return label;
+}
+
+} // namespace tarn

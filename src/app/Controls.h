@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QString>
+
+#include <string_view>
+
+class QAbstractButton;
+class QLabel;
+class QPushButton;
+class QWidget;
+
+namespace tarn {
+
+/// Making controls. Each has its name as objectName, and as accessible name its caption or that of
+/// its label.
+
+/// The name of a control in an array: "Option1(12)".
+QString IndexedName(std::string_view name, int index);
+
+/// Give any control its names.
+void NameControl(QWidget& control, const QString& name, const QString& accessibleName);
+
+/// Set a button's caption and accessible name. `mnemonic`, a letter of the caption, is underlined
+/// and presses the button together with Alt; 0 for none.
+void SetCaption(QAbstractButton& button, std::string_view caption, char mnemonic = 0);
+/// A button's caption without the mark of its mnemonic.
+QString CaptionOf(const QAbstractButton& button);
+
+QPushButton* NewButton(QWidget* parent, const QString& name, std::string_view caption,
+                       char mnemonic = 0);
+QLabel* NewLabel(QWidget* parent, const QString& name, std::string_view caption);
+
+/// A label for `control`: gives the control its accessible name, and takes Alt and `mnemonic` to
+/// it.
+QLabel* NewLabelFor(QWidget& control, QWidget* parent, const QString& name,
+                    std::string_view caption, char mnemonic = 0);
+
+} // namespace tarn

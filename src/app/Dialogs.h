@@ -1,0 +1,27 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+namespace tarn {
+
+/// The boxes that ask or tell the user something; each carries the application's title. Texts are
+/// UTF-8, their lines are broken by CrLf. Each call returns when the user has closed the box.
+class Dialogs {
+  public:
+    virtual ~Dialogs() = default;
+
+    /// A message with an OK button.
+    virtual void Message(const std::string& text) = 0;
+    /// A question with Yes and No. No is the default; Escape and closing the box count as No.
+    virtual bool AskYesNo(const std::string& text) = 0;
+    /// An input box. Nothing when it was cancelled.
+    virtual std::optional<std::string> Input(const std::string& prompt) = 0;
+    /// Where to write a file: a box that begins with `suggestedName` and shows files that end in
+    /// `.suffix`, and asks before a file is replaced. The path ends in the suffix. Nothing when it
+    /// was cancelled.
+    virtual std::optional<std::string> SaveFileName(const std::string& suggestedName,
+                                                    const std::string& suffix) = 0;
+};
+
+} // namespace tarn

@@ -1,0 +1,63 @@
+#include "app/MessageBoxes.h"
+
+#include "app/QtText.h"
+#include "app/Text.h"
+
+#include <QDir>
+#include <QFileDialog>
+#include <QInputDialog>
+#include <QMessageBox>
+
+namespace tarn {
+
+namespace {
+
+/// Shown as typed: a project may be named like a piece of rich text.
+void Prepare(QMessageBox& box, const std::string& text) {
+    box.setWindowTitle(ToQt(ApplicationTitle));
+    box.setTextFormat(Qt::PlainText);
+    box.setText(ToQtLines(text));
+}
+
+} // namespace
+
+void MessageBoxes::Message(const std::string& text) {
+    QMessageBox box(parent_);
+    Prepare(box, text);
+    box.setStandardButtons(QMessageBox::Ok);
+    box.exec();
+}
+
+bool MessageBoxes::AskYesNo(const std::string& text) {
+    QMessageBox box(parent_);
+    Prepare(box, text);
+    box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
+    box.setDefaultButton(QMessageBox::No);
+    box.setEscapeButton(QMessageBox::No);
+    return box.exec() == QMessageBox::Yes;
+}
+
+std::optional<std::string> MessageBoxes::Input(const std::string& prompt) {
+    QInputDialog box(parent_);
+    box.setWindowTitle(ToQt(ApplicationTitle));
+    box.setLabelText(ToQt(prompt));
+    box.setInputMode(QInputDialog::TextInput);
+    if (box.exec() != QDialog::Accepted) {
+        return std::nullopt;
+    }
+    return FromQt(box.textValue());
+}
+
+std::optional<std::string> MessageBoxes::SaveFileName(const std::string& suggestedName,
+                                                      const std::string& suffix) {
+    QFileDialog box(parent_, ToQt(ApplicationTitle), QDir::homePath(), ToQt("*." + suffix));
+    box.setAcceptMode(QFileDialog::AcceptSave);
+    box.setDefaultSuffix(ToQt(suffix));
+    box.selectFile(ToQt(suggestedName));
+    if (box.exec() != QDialog::Accepted || box.selectedFiles().isEmpty()) {
+        return std::nullopt;
+    }
+    return FromQt(box.selectedFiles().constFirst());
+}
+
+} // namespace tarn

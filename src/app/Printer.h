@@ -1,0 +1,41 @@
+#pragma once
+
+#include "app/Types.h"
+
+#include <stdexcept>
+#include <string>
+
+namespace tarn {
+
+struct EstimatePage;
+
+/// The printer cannot be used, or refused the job; what() says why.
+class PrinterError : public std::runtime_error {
+  public:
+    using std::runtime_error::runtime_error;
+};
+
+/// Shown when printing failed.
+inline constexpr const char* PrinterNotReadyMessage =
+    "Warning: Your printer is not ready!\r\n\r\nYou couldn't print in the program";
+
+/// The system's default printer. Every member raises PrinterError when there is none, when it takes
+/// no jobs, and when it refuses the job; a job that failed leaves no page.
+class Printer {
+  public:
+    virtual ~Printer() = default;
+
+    /// A sheet of paper in landscape, twips.
+    struct PageSize {
+        Double Width = 0;
+        Double Height = 0;
+    };
+    virtual PageSize Page() = 0;
+
+    /// Print the entered-data report (lines ended by CrLf) as one job, landscape.
+    virtual void PrintReport(const std::string& text) = 0;
+    /// Print an estimate as one job of one landscape page.
+    virtual void PrintEstimate(const EstimatePage& page) = 0;
+};
+
+} // namespace tarn

@@ -1,0 +1,88 @@
+#include "app/ScreenWindow.h"
+
+#include "app/Display.h"
+
+#include <QCloseEvent>
+#include <QStackedLayout>
+#include <QTimer>
+
+namespace tarn {
+
+ScreenWindow::ScreenWindow()
+    : screens_(new QStackedLayout(this)) {
+    setObjectName(QStringLiteral("Window"));
+    screens_->setContentsMargins(0, 0, 0, 0);
+    FitFormToScreen(*this);
+}
+
+ScreenWindow::~ScreenWindow() = default;
+
+void ScreenWindow::Replace(std::unique_ptr<Screen> screen) {
+    Screen* replaced = Front();
+    Add(std::move(screen));
+    if (replaced != nullptr) {
+        Unload(*replaced);
+    }
+    ShowFront();
+}
+
+void ScreenWindow::Cover(std::unique_ptr<Screen> screen) {
+    if (Screen* covered = Front()) {
+        covered->setEnabled(false);
+    }
+    Add(std::move(screen));
+    ShowFront();
+}
+
+void ScreenWindow::Uncover() {
+    if (Screen* top = Front()) {
+        Unload(*top);
+    }
+    ShowFront();
+    if (Screen* uncovered = Front()) {
+        uncovered->Uncover();
+    }
+}
+
+Screen* ScreenWindow::Front() const {
+    const int count = screens_->count();
+    return count == 0 ? nullptr : static_cast<Screen*>(screens_->widget(count - 1));
+}
+
+int ScreenWindow::Loaded() const {
+    return screens_->count();
+}
+
+void ScreenWindow::Add(std::unique_ptr<Screen> screen) {
+    screens_->addWidget(screen.release());
+}
+
+void ScreenWindow::Unload(Screen& screen) {
+    // It may be in the middle of one of its own handlers.
+    screen.setEnabled(false);
+    screens_->removeWidget(&screen);
+    screen.hide();
+    screen.deleteLater();
+}
+
+void ScreenWindow::ShowFront() {
+    if (Screen* front = Front()) {
+        screens_->setCurrentWidget(front);
+        setWindowTitle(front->Caption());
+    }
+}
+
+void ScreenWindow::closeEvent(QCloseEvent* event) {
+    event->ignore();
+    if (Screen* front = Front()) {
+        front->CloseByFrame();
+    }
+}
+
+void ScreenWindow::showEvent(QShowEvent* event) {
+    QWidget::showEvent(event);
+    // The window system tells the size of the frame only once it has drawn it.
+    QTimer::singleShot(0, this, [this] { FitFormToScreen(*this); });
+}
+
+} // namespace tarn

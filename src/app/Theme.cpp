@@ -1,0 +1,220 @@
+#include "app/Theme.h"
+
+#include "app/Display.h"
+
+#include <QApplication>
+#include <QEvent>
+#include <QPalette>
+#include <QStyle>
+#include <QVariant>
+#include <QWidget>
+
+#include <array>
+#include <utility>
+
+namespace tarn {
+
+namespace {
+
+constexpr const char* RoleProperty = "textRole";
+constexpr const char* PrimaryProperty = "primary";
+constexpr const char* ForeColorProperty = "foreColor";
+
+bool IsDark() {
+    const QPalette palette = QGuiApplication::palette();
+    return palette.color(QPalette::Window).lightness() <
+           palette.color(QPalette::WindowText).lightness();
+}
+
+void SetStyled(QWidget& widget, const char* property, const QVariant& value) {
+    widget.setProperty(property, value);
+    widget.style()->unpolish(&widget);
+    widget.style()->polish(&widget);
+}
+
+// @NAME stands for a colour, a number before tw for twips.
+constexpr const char* SheetTemplate = R"(
+QWidget { font-size: @BaseFontpt; color: @Text; }
+QWidget#Window, QWidget#Body, QMessageBox, QInputDialog { background: @Window; }
+QMenuBar { background: @Surface; color: @Text; border-bottom: 1px solid @Border; }
+QMenuBar::item { padding: 60tw 150tw; background: transparent; }
+QMenuBar::item:selected, QMenu::item:selected { background: @Accent; color: @AccentText; }
+QMenu { background: @Surface; color: @Text; border: 1px solid @Border; }
+QMenu::item { padding: 75tw 360tw; }
+QMenu::item:disabled { color: @Disabled; }
+QMenu::separator { height: 1px; background: @Border; margin: 60tw 120tw; }
+
+QLabel { background: transparent; }
+QLabel[textRole="Heading"] { font-size: @HeadingFontpt; font-weight: 600; }
+QLabel[textRole="FormTitle"] { font-size: @FormTitleFontpt; color: @Muted; }
+QLabel[textRole="ProductTitle"] { font-size: @ProductTitleFontpt; font-weight: 600; color: @Accent; }
+QLabel[textRole="Hint"] { color: @Muted; }
+QLabel[textRole="Warning"] { color: @Warning; font-weight: 600; }
+QLabel:disabled { color: @Disabled; }
+
+QFrame[panel="true"] { background: @Surface; border: 1px solid @Border; border-radius: 90tw; }
+QGroupBox { background: @Surface; border: 1px solid @Border; border-radius: 90tw;
+    margin-top: 165tw; padding-top: 165tw; font-weight: 600; color: @Muted; }
+QGroupBox::title { subcontrol-origin: margin; subcontrol-position: top left; left: 150tw;
+    padding: 0 75tw; background: @Surface; }
+
+QPushButton { background: @Field; border: 2px solid @Border; border-radius: 75tw;
+    padding: 45tw 210tw; min-height: 345tw; }
+QPushButton:hover { border-color: @Accent; }
+QPushButton:pressed { background: @Border; }
+QPushButton:disabled { color: @Disabled; background: @Surface; }
+QPushButton[primary="true"] { background: @Accent; color: @AccentText; border-color: @Accent;
+    font-weight: 600; }
+QPushButton[primary="true"]:disabled { background: @Surface; color: @Disabled;
+    border-color: @Border; }
+QPushButton:focus { border-color: @Text; }
+
+QLineEdit, QComboBox, QPlainTextEdit, QListWidget { background: @Field; color: @Text;
+    border: 2px solid @Border; border-radius: 60tw; selection-background-color: @Accent;
+    selection-color: @AccentText; }
+QLineEdit, QComboBox { padding: 30tw 90tw; min-height: 345tw; }
+QLineEdit:focus, QComboBox:focus, QPlainTextEdit:focus, QListWidget:focus {
+    border-color: @Accent; }
+QLineEdit:disabled, QComboBox:disabled { color: @Disabled; background: @Surface; }
+QLineEdit[readOnly="true"] { background: @Surface; }
+QListWidget::item { padding: 45tw 75tw; color: @Text; }
+QListWidget::item:selected { background: @Accent; color: @AccentText; }
+QComboBox QAbstractItemView { background: @Field; color: @Text;
+    selection-background-color: @Accent; selection-color: @AccentText; }
+
+QRadioButton, QCheckBox { background: transparent; border: 2px solid transparent;
+    border-radius: 60tw; padding: 15tw 45tw; spacing: 120tw; min-height: 330tw; }
+QRadioButton:focus, QCheckBox:focus { border-color: @Accent; }
+QRadioButton[foreColor="2"], QCheckBox[foreColor="2"] { color: @Green; }
+QRadioButton:disabled, QCheckBox:disabled { color: @Disabled; }
+
+QProgressBar { background: @Field; border: 1px solid @Border; border-radius: 60tw;
+    min-height: 240tw; text-align: center; }
+QProgressBar::chunk { background: @Accent; border-radius: 45tw; }
+QToolTip { background: @Surface; color: @Text; border: 1px solid @Border; padding: 45tw; }
+QScrollArea { border: none; background: @Window; }
+)";
+
+/// Replace every number before "tw" by pixels.
+QString WithPixels(const QString& sheet) {
+    QString result;
+    QString number;
+    for (qsizetype i = 0; i < sheet.size(); ++i) {
+        if (sheet[i].isDigit()) {
+            number += sheet[i];
+        } else if (!number.isEmpty() && sheet.mid(i, 2) == QLatin1String("tw")) {
+            result += QString::number(Pixels(number.toDouble())) + QLatin1String("px");
+            number.clear();
+            ++i;
+        } else {
+            result += number + sheet[i];
+            number.clear();
+        }
+    }
+    return result;
+}
+
+QString StyleSheet(const Colours& colours) {
+    QString sheet = QString::fromLatin1(SheetTemplate);
+    // A name that begins with another one stands before it.
+    const std::array<std::pair<const char*, QColor>, 11> names{{{"@Window", colours.Window},
+                                                                {"@Surface", colours.Surface},
+                                                                {"@Field", colours.Field},
+                                                                {"@Text", colours.Text},
+                                                                {"@Muted", colours.MutedText},
+                                                                {"@Disabled", colours.DisabledText},
+                                                                {"@Border", colours.Border},
+                                                                {"@AccentText", colours.AccentText},
+                                                                {"@Accent", colours.Accent},
+                                                                {"@Green", colours.Green},
+                                                                {"@Warning", colours.Warning}}};
+    for (const auto& [name, colour] : names) {
+        sheet.replace(QLatin1String(name), colour.name());
+    }
+    const std::array<std::pair<const char*, double>, 4> sizes{
+        {{"@BaseFont", Metrics::BaseFont},
+         {"@HeadingFont", Metrics::HeadingFont},
+         {"@FormTitleFont", Metrics::FormTitleFont},
+         {"@ProductTitleFont", Metrics::ProductTitleFont}}};
+    for (const auto& [name, size] : sizes) {
+        sheet.replace(QLatin1String(name), QString::number(size));
+    }
+    return WithPixels(sheet);
+}
+
+const char* RoleName(TextRole role) {
+    switch (role) {
+    case TextRole::Label:
+        return "Label";
+    case TextRole::Heading:
+        return "Heading";
+    case TextRole::FormTitle:
+        return "FormTitle";
+    case TextRole::ProductTitle:
+        return "ProductTitle";
+    case TextRole::Hint:
+        return "Hint";
+    case TextRole::Warning:
+        return "Warning";
+    }
+    return "";
+}
+
+} // namespace
+
+const Colours& LightColours() {
+    static const Colours colours{0xECF0EF, 0xFAFBFB, 0xFFFFFF, 0x17242A, 0x4A5A60, 0x7C898D,
+                                 0xB4C0C1, 0x17655F, 0xFFFFFF, 0x1B6E2F, 0x9A3412};
+    return colours;
+}
+
+const Colours& DarkColours() {
+    static const Colours colours{0x161C1F, 0x20282B, 0x12181A, 0xECF1F1, 0xB2BFC1, 0x7A878A,
+                                 0x4A5A5F, 0x5CC4B6, 0x0A1615, 0x86D993, 0xF5A97A};
+    return colours;
+}
+
+void SetRole(QWidget& widget, TextRole role) {
+    SetStyled(widget, RoleProperty, QString::fromLatin1(RoleName(role)));
+}
+
+void SetPrimary(QWidget& button) {
+    SetStyled(button, PrimaryProperty, true);
+}
+
+void SetForeColor(QWidget& control, int qbColor) {
+    SetStyled(control, ForeColorProperty, qbColor);
+}
+
+int ForeColor(const QWidget& control) {
+    return control.property(ForeColorProperty).toInt();
+}
+
+const Colours& CurrentColours() {
+    return IsDark() ? DarkColours() : LightColours();
+}
+
+Theme::Theme(QApplication& application)
+    : application_(application) {
+    Apply();
+    application_.installEventFilter(this);
+}
+
+void Theme::Apply() {
+    const bool dark = IsDark();
+    if (applied_ && dark == dark_) {
+        return;
+    }
+    dark_ = dark;
+    applied_ = true;
+    application_.setStyleSheet(StyleSheet(CurrentColours()));
+}
+
+bool Theme::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == &application_ && event->type() == QEvent::ApplicationPaletteChange) {
+        Apply();
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+} // namespace tarn

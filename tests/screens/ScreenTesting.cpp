@@ -1,0 +1,144 @@
+#include "screens/ScreenTesting.h"
+
+#include "app/Display.h"
+
+#include <QAbstractButton>
+#include <QCheckBox>
+#include <QRadioButton>
+
+namespace tarn::testing {
+
+void FakeBoxes::Message(const std::string& text) {
+    Messages.push_back(text);
+    if (OnMessage) {
+        OnMessage();
+    }
+}
+
+bool FakeBoxes::AskYesNo(const std::string& text) {
+    Questions.push_back(text);
+    if (YesNo.empty()) {
+        ADD_FAILURE() << "asked without an answer: " << text;
+        return false;
+    }
+    const bool answer = YesNo.front();
+    YesNo.pop_front();
+    return answer;
+}
+
+std::optional<std::string> FakeBoxes::Input(const std::string& prompt) {
+    Prompts.push_back(prompt);
+    if (Inputs.empty()) {
+        ADD_FAILURE() << "asked without an answer: " << prompt;
+        return std::nullopt;
+    }
+    const auto answer = Inputs.front();
+    Inputs.pop_front();
+    return answer;
+}
+
+std::optional<std::string> FakeBoxes::SaveFileName(const std::string& suggestedName,
+                                                   const std::string& suffix) {
+    SuggestedFiles.push_back(suggestedName + "." + suffix);
+    if (Files.empty()) {
+        ADD_FAILURE() << "asked without an answer: " << suggestedName;
+        return std::nullopt;
+    }
+    const auto answer = Files.front();
+    Files.pop_front();
+    return answer;
+}
+
+Printer::PageSize FakePrinter::Page() {
+    if (!Failure.empty()) {
+        throw PrinterError(Failure);
+    }
+    return Size;
+}
+
+void FakePrinter::PrintReport(const std::string& text) {
+    Page();
+    Reports.push_back(text);
+}
+
+void FakePrinter::PrintEstimate(const EstimatePage& page) {
+    Page();
+    Estimates.push_back(page);
+}
+
+void FakeScreens::ShowMenu(MenuEntry entry) {
+    switch (entry) {
+    case MenuEntry::ExistingProject:
+        Record("menu existing");
+        break;
+    case MenuEntry::NewProject:
+        Record("menu new");
+        break;
+    case MenuEntry::Returning:
+        Record("menu returning");
+        break;
+    }
+}
+
+void FakeScreens::Record(const std::string& call) {
+    Calls.push_back(call);
+    if (OnCall) {
+        OnCall();
+    }
+}
+
+void ShowOnDisplay(QWidget& screen, int width, int height) {
+    screen.resize(width, height - Pixels(FreeStrip));
+    screen.show();
+    screen.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&screen));
+}
+
+namespace {
+
+QPoint ClickPoint(QWidget& widget) {
+    const bool hasIndicator = qobject_cast<QRadioButton*>(&widget) != nullptr ||
+                              qobject_cast<QCheckBox*>(&widget) != nullptr;
+    return hasIndicator ? QPoint(widget.height() / 2, widget.height() / 2) : widget.rect().center();
+}
+
+void ExpectUsable(const QWidget& widget) {
+    EXPECT_TRUE(widget.isVisible()) << FromQt(widget.objectName()) << " is hidden";
+    EXPECT_TRUE(widget.isEnabled()) << FromQt(widget.objectName()) << " is disabled";
+}
+
+} // namespace
+
+void Click(QWidget& widget) {
+    ExpectUsable(widget);
+    QTest::mouseClick(&widget, Qt::LeftButton, {}, ClickPoint(widget));
+}
+
+void DoubleClick(QWidget& widget) {
+    ExpectUsable(widget);
+    QTest::mouseDClick(&widget, Qt::LeftButton, {}, ClickPoint(widget));
+}
+
+void Type(QWidget& widget, const std::string& text) {
+    QTest::keyClicks(&widget, ToQt(text));
+}
+
+void Press(QWidget& screen, Qt::Key key, Qt::KeyboardModifiers modifiers) {
+    QWidget* focused = QApplication::focusWidget();
+    QTest::keyClick(focused != nullptr ? focused : &screen, key, modifiers);
+}
+
+void Focus(QWidget& widget) {
+    ExpectUsable(widget);
+    widget.setFocus(Qt::MouseFocusReason);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return widget.hasFocus(); }))
+        << FromQt(widget.objectName()) << " does not take the focus";
+}
+
+ScreenTest::ScreenTest() {
+    FillMonthStr(state);
+    DimAllArrays(state, engine);
+    state.CurDirName = "MARCH";
+}
+
+} // namespace tarn::testing

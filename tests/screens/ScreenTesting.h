@@ -1,0 +1,120 @@
+#pragma once
+
+// What every test of a screen needs: recorders for the boxes, the printer and the other screens,
+// and real mouse and key events.
+
+#include "app/QtText.h"
+#include "app/Session.h"
+#include "app/StartModule.h"
+#include "estimate/EstimatePage.h"
+
+#include <QApplication>
+#include <QTest>
+#include <QWidget>
+
+#include <gtest/gtest.h>
+
+#include <deque>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace tarn::testing {
+
+/// Records what is told and asked, and answers from the queues. A question without an answer in its
+/// queue fails the test.
+struct FakeBoxes : Dialogs {
+    std::vector<std::string> Messages;
+    std::vector<std::string> Questions;
+    std::vector<std::string> Prompts;
+    std::vector<std::string> SuggestedFiles;
+    std::deque<bool> YesNo;
+    std::deque<std::optional<std::string>> Inputs;
+    std::deque<std::optional<std::string>> Files;
+    /// Called while a message stands, such as to look at the screen behind it.
+    std::function<void()> OnMessage;
+
+    void Message(const std::string& text) override;
+    bool AskYesNo(const std::string& text) override;
+    std::optional<std::string> Input(const std::string& prompt) override;
+    std::optional<std::string> SaveFileName(const std::string& suggestedName,
+                                            const std::string& suffix) override;
+};
+
+/// Records the printed jobs; with Failure set it refuses them.
+struct FakePrinter : Printer {
+    std::string Failure;
+    PageSize Size{16838, 11906};
+    std::vector<std::string> Reports;
+    std::vector<EstimatePage> Estimates;
+
+    PageSize Page() override;
+    void PrintReport(const std::string& text) override;
+    void PrintEstimate(const EstimatePage& page) override;
+};
+
+/// Records the way between the screens: "projects", "menu existing", "menu new", "menu returning",
+/// "rooms", "estimate from menu", "estimate from rooms", "options", "return", "end".
+struct FakeScreens : Screens {
+    std::vector<std::string> Calls;
+    FillsClient* Client = nullptr; ///< of the options shown last
+    std::function<void()> OnCall;  ///< called after each is recorded; may raise
+
+    void ShowProjects() override { Record("projects"); }
+    void ShowMenu(MenuEntry entry) override;
+    void ShowRooms() override { Record("rooms"); }
+    void ShowEstimate(bool fromMenu) override {
+        Record(fromMenu ? "estimate from menu" : "estimate from rooms");
+    }
+    void ShowOptions(FillsClient& client) override {
+        Client = &client;
+        Record("options");
+    }
+    void Return() override { Record("return"); }
+    void End() override { Record("end"); }
+
+  private:
+    void Record(const std::string& call);
+};
+
+/// The widget of type W with that objectName below `root`. Throws std::runtime_error, and so fails
+/// the test, when there is none.
+template <class W = QWidget>
+W& Find(const QWidget& root, const char* name) {
+    W* widget = root.findChild<W*>(QString::fromLatin1(name));
+    if (widget == nullptr) {
+        throw std::runtime_error(std::string("there is no control ") + name);
+    }
+    return *widget;
+}
+
+/// Show a screen as large as on a display of that size, and wait until it can take events.
+void ShowOnDisplay(QWidget& screen, int width = 800, int height = 600);
+
+/// Click the middle of a widget, of its indicator for option buttons and check boxes. Fails the
+/// test when it is hidden or disabled.
+void Click(QWidget& widget);
+void DoubleClick(QWidget& widget);
+/// Type a text into the widget, key by key, without moving the focus first.
+void Type(QWidget& widget, const std::string& text);
+/// Press a key wherever the focus is.
+void Press(QWidget& screen, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+/// Move the focus there as a click would, and wait until it is there.
+void Focus(QWidget& widget);
+
+/// A session with everything recorded: no database, arrays at their bounds, no project.
+struct ScreenTest : ::testing::Test {
+    ScreenTest();
+
+    SharedState state;
+    EngineArrays engine;
+    OpenProject project;
+    FakeBoxes boxes;
+    FakePrinter printer;
+    FakeScreens screens;
+    Session session{
+        state, engine, project, boxes, printer, screens, [] { return QDate(2026, 3, 14); }};
+};
+
+} // namespace tarn::testing
