@@ -1,7 +1,7 @@
 #include "engine/Cases.h"
 
-#include "app/Lengths.h"
 #include "app/Numbers.h"
+#include "engine/EstOptions.h"
 
 #include <algorithm>
 #include <cmath>
@@ -35,9 +35,7 @@ void DecodeOptions(const SharedState& state, EngineArrays& engine) {
     const Long option = state.EstOption;
     engine.MaxParts = ToInteger(Mod(option, 10) + 1);
     const auto choice = static_cast<long long>(Int(static_cast<Double>(option) / 10));
-    const auto shortest = static_cast<Double>(state.MinCutLen[choice]);
-    engine.MinCut = state.IsMetric() ? CInt(shortest * CentimetresPerInch / state.DimScale)
-                                     : CInt(Int(shortest / state.DimScale));
+    engine.MinCut = MinCutUnits(state, choice);
     if (engine.MinCut == 0) {
         RaiseDivisionByZero();
     }

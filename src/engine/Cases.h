@@ -7,10 +7,8 @@ namespace tarn {
 
 /// Set MaxParts and MinCut from the estimate options.
 ///
-/// MaxParts is the units digit of EstOption + 1. MinCut is MinCutLen at the tens of EstOption,
-/// divided by DimScale and truncated; in metric mode times 2.54 first and rounded, halves to even.
-/// Coordinates are hundredths of an inch, so the option's feet count as inches: "3 FT" limits parts
-/// to 300 units. Raises "Subscript out of range" for tens beyond MinCutLen, "Division by zero" for
+/// MaxParts is the units digit of EstOption + 1. MinCut is MinCutUnits of the tens of EstOption.
+/// Raises "Subscript out of range" for tens beyond MinCutLen, "Division by zero" for
 /// a minimum cut of 0.
 void DecodeOptions(const SharedState& state, EngineArrays& engine);
 

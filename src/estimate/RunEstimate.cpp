@@ -1,15 +1,10 @@
 #include "estimate/RunEstimate.h"
 
-#include "app/Numbers.h"
 #include "engine/MultiEstimate.h"
 #include "estimate/MatchPattern.h"
 #include "rooms/RoomExtents.h"
 
 namespace tarn {
-
-Integer PackEstOption(Integer minCut, Integer pieces) {
-    return ToInteger(10 * minCut + pieces - 1);
-}
 
 ConvertResult RunEstimate(SharedState& state, EngineArrays& engine, CarpetEstimate& estimate,
                           const EstimateRequest& request, SearchObserver& observer) {

@@ -25,10 +25,6 @@ struct EstimateRequest {
     std::optional<Repeat> Match;
 };
 
-/// The positions of the options screen as EstOption: `minCut` 0..2 (3 ft, 1 ft 6, 1/2 ft) and
-/// `pieces` 1..6 per fill.
-Integer PackEstOption(Integer minCut, Integer pieces);
-
 /// The whole estimate of one carpet of the open project, as the screens make it: rebuild the
 /// extents of the rooms, cut them, and search for a layout of the pieces if there are any. A search
 /// that the observer stops, and an error, also one of the observer's own, leave an empty estimate.

@@ -1,6 +1,7 @@
 #include "tools/EstimateOptions.h"
 
 #include "app/Version.h"
+#include "engine/EstOptions.h"
 #include "estimate/RollWidth.h"
 #include "estimate/TakeNumber.h"
 #include "tools/Files.h"

@@ -3,6 +3,7 @@
 #include "app/RunTimeError.h"
 #include "app/SharedState.h"
 #include "engine/EngineArrays.h"
+#include "engine/EstOptions.h"
 #include "engine/SearchObserver.h"
 #include "estimate/CarpetEstimate.h"
 #include "estimate/RollWidth.h"

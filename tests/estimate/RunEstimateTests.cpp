@@ -26,19 +26,6 @@ ConvertResult RunWith(Job& job, const EstimateRequest& request, SearchObserver& 
     return RunEstimate(job.State, job.Engine, job.Estimate, request, observer);
 }
 
-TEST(PackEstOption, PacksEveryChoice) {
-    for (Integer minCut = 0; minCut <= 2; ++minCut) {
-        for (Integer pieces = 1; pieces <= 6; ++pieces) {
-            EXPECT_EQ(PackEstOption(minCut, pieces), 10 * minCut + (pieces - 1));
-        }
-    }
-}
-
-TEST(PackEstOption, TheFirstChoicesAreZeroAndTheLastTwentyFive) {
-    EXPECT_EQ(PackEstOption(0, 1), 0);
-    EXPECT_EQ(PackEstOption(2, 6), 25);
-}
-
 //      0     36                144
 //    0 +-----+-----------------+
 //      |  A  |        B        |

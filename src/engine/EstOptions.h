@@ -1,0 +1,31 @@
+#pragma once
+
+#include "app/SharedState.h"
+#include "app/Types.h"
+
+#include <array>
+#include <string>
+#include <string_view>
+
+namespace tarn {
+
+/// What the estimation options screen offers: minimum cuts by position 0..2, and 1 to MostPieces
+/// pieces per fill.
+inline constexpr std::array<std::string_view, 3> ImperialMinCutCaptions{"3 FT", "1FT 6\"", "1/2FT"};
+inline constexpr std::array<std::string_view, 3> MetricMinCutCaptions{"91 cm", "46 cm", "15 cm"};
+inline constexpr Integer MostPieces = 6;
+
+/// The positions of the two choices as EstOption: `minCut` 0..2 and `pieces` 1..6 per fill.
+Integer PackEstOption(Integer minCut, Integer pieces);
+
+/// The minimum cut at position `minCut` of MinCutLen in coordinate units: MinCutLen divided by
+/// DimScale and truncated; in metric mode times 2.54 first and rounded, halves to even.
+/// Coordinates are hundredths of an inch, so the option's feet count as inches: "3 FT" limits parts
+/// to 300 units. Raises "Subscript out of range" beyond MinCutLen.
+Integer MinCutUnits(const SharedState& state, long long minCut);
+
+/// The length in force behind an option's caption, which names another one: "3 inches", "0.5 inch",
+/// or when metric "19.4 cm".
+std::string MinCutInForce(const SharedState& state, Integer minCut);
+
+} // namespace tarn

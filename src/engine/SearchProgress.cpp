@@ -1,0 +1,59 @@
+#include "engine/SearchProgress.h"
+
+#include "app/Numbers.h"
+
+#include <QCoreApplication>
+#include <QLabel>
+#include <QProgressBar>
+
+namespace tarn {
+
+namespace {
+
+/// Long enough that thousands of placements do not wait for the window system after each, short
+/// enough that nobody notices, milliseconds.
+constexpr qint64 YieldInterval = 10;
+
+} // namespace
+
+SearchProgress::SearchProgress(QProgressBar& bar, QLabel& percentage,
+                               std::function<void()> finished)
+    : bar_(bar)
+    , percentage_(percentage)
+    , finished_(std::move(finished)) {}
+
+void SearchProgress::Started(Long maximum) {
+    bar_.setRange(0, maximum);
+    bar_.setValue(0);
+    percentage_.setText(QStringLiteral("0%"));
+    bar_.show();
+    percentage_.show();
+    Yield();
+}
+
+bool SearchProgress::Scored(Long done) {
+    bar_.setValue(done);
+    const Double share = static_cast<Double>(done) / bar_.maximum();
+    percentage_.setText(QString::number(Int(share * 100)) + QLatin1Char('%'));
+    if (sinceYield_.elapsed() >= YieldInterval) {
+        Yield();
+    }
+    return !stopped_;
+}
+
+void SearchProgress::Finished() {
+    Ended();
+    finished_();
+}
+
+void SearchProgress::Ended() noexcept {
+    bar_.hide();
+    percentage_.hide();
+}
+
+void SearchProgress::Yield() {
+    QCoreApplication::processEvents();
+    sinceYield_.start();
+}
+
+} // namespace tarn

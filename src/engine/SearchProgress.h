@@ -1,0 +1,39 @@
+#pragma once
+
+#include "engine/SearchObserver.h"
+
+#include <QElapsedTimer>
+
+#include <functional>
+
+class QLabel;
+class QProgressBar;
+
+namespace tarn {
+
+/// Shows how far a search is, and lets the window system work while it runs: so the screen stays
+/// alive, and closing it can stop the search.
+class SearchProgress : public SearchObserver {
+  public:
+    /// `finished` is run when the layout is final; it may raise.
+    SearchProgress(QProgressBar& bar, QLabel& percentage, std::function<void()> finished);
+
+    /// Stop the search after the placement in hand.
+    void Stop() { stopped_ = true; }
+
+    void Started(Long maximum) override;
+    bool Scored(Long done) override;
+    void Finished() override;
+    void Ended() noexcept override;
+
+  private:
+    void Yield();
+
+    QProgressBar& bar_;
+    QLabel& percentage_;
+    std::function<void()> finished_;
+    QElapsedTimer sinceYield_;
+    bool stopped_ = false;
+};
+
+} // namespace tarn
