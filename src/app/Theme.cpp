@@ -1,6 +1,7 @@
 #include "app/Theme.h"
 
 #include "app/Display.h"
+#include "app/IndicatorStyle.h"
 
 #include <QApplication>
 #include <QEvent>
@@ -82,7 +83,7 @@ QListWidget::item:selected { background: @Accent; color: @AccentText; }
 QComboBox QAbstractItemView { background: @Field; color: @Text;
     selection-background-color: @Accent; selection-color: @AccentText; }
 
-QRadioButton, QCheckBox { background: transparent; border: 2px solid transparent;
+QRadioButton, QCheckBox { border: 2px solid transparent;
     border-radius: 60tw; padding: 15tw 45tw; spacing: 120tw; min-height: 330tw; }
 QRadioButton:focus, QCheckBox:focus { border-color: @Accent; }
 QRadioButton[foreColor="2"], QCheckBox[foreColor="2"] { color: @Green; }
@@ -196,6 +197,7 @@ const Colours& CurrentColours() {
 
 Theme::Theme(QApplication& application)
     : application_(application) {
+    QApplication::setStyle(new IndicatorStyle);
     Apply();
     application_.installEventFilter(this);
 }
