@@ -17,14 +17,7 @@ Integer AppendCopy(EngineArrays& engine, Integer i) {
     if (row >= MaxPiece) {
         RaiseSubscript("There are more than 3000 pieces: estimate the rooms in two projects.");
     }
-    engine.PCX1[row] = engine.PCX1[i];
-    engine.PCX2[row] = engine.PCX2[i];
-    engine.PCY1[row] = engine.PCY1[i];
-    engine.PCY2[row] = engine.PCY2[i];
-    engine.OrgPC[row] = engine.OrgPC[i];
-    engine.PCDivide[row] = engine.PCDivide[i];
-    engine.PCTurn[row] = engine.PCTurn[i];
-    engine.PCOrder[row] = engine.PCOrder[i];
+    CopyRow(engine, i, engine, row);
     CountUp(engine.PieceCount);
     return row;
 }

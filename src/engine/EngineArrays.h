@@ -19,6 +19,9 @@ struct PieceRows {
     BoundedArray<Integer> PCOrder{MaxPiece};  ///< place in the placing order
 };
 
+/// Copy row `i` of `from` to row `row` of `to`, which may be the same.
+void CopyRow(const PieceRows& from, Integer i, PieceRows& to, Integer row);
+
 /// Copy rows 0 .. `count` - 1.
 void CopyRows(const PieceRows& from, PieceRows& to, Integer count);
 
