@@ -15,17 +15,9 @@ namespace {
 /// Where the database file lies below the data folder.
 constexpr std::string_view DatabaseFileBelowDataPath = "\\DATA\\Tarn.mdb";
 
-void OpenDatabaseFile(SharedState& state, const Configuration& configuration) {
-    try {
-        state.CurDB = OpenSqlDatabase(WithNativeSeparators(state.DBName));
-    } catch (const DatabaseError& error) {
-        state.DatabaseFailure = error.what();
-        if (state.DataPath.empty()) {
-            state.DatabaseFailure.append(" No data folder is named in ")
-                .append(configuration.File.string())
-                .append(".");
-        }
-    }
+bool OpenDatabaseFile(SharedState& state) {
+    return Succeeds(state,
+                    [&] { state.CurDB = OpenSqlDatabase(WithNativeSeparators(state.DBName)); });
 }
 
 void OpenSharedRows(SharedState& state) {
@@ -60,11 +52,29 @@ bool OpenDataBase(SharedState& state,
     state.DataPath = configuration.DataPath;
     state.DBName = state.DataPath;
     state.DBName += DatabaseFileBelowDataPath;
-    OpenDatabaseFile(state, configuration);
-    if (state.CurDB) {
+    if (OpenDatabaseFile(state)) {
         OpenSharedRows(state);
+    } else if (state.DataPath.empty()) {
+        state.DatabaseFailure.append(" No data folder is named in ")
+            .append(configuration.File.string())
+            .append(".");
     }
     return true;
+}
+
+bool RetryDataBase(SharedState& state) {
+    if (state.CurDB) {
+        return true;
+    }
+    const std::string atStart = state.DatabaseFailure;
+    if (OpenDatabaseFile(state)) {
+        OpenSharedRows(state);
+        return true;
+    }
+    if (state.DataPath.empty() && !atStart.empty()) {
+        state.DatabaseFailure = atStart; // it names the configuration file
+    }
+    return false;
 }
 
 void FillMonthStr(SharedState& state) {

@@ -31,6 +31,10 @@ bool InitSharedState(SharedState& state, EngineArrays& engine,
 bool OpenDataBase(SharedState& state,
                   const std::vector<std::filesystem::path>& configurationDirectories);
 
+/// Open CurDB and DBRS 1 to 3 once more from DBName where OpenDataBase left CurDB unset, such as a
+/// file that was locked then. Answers whether CurDB is set; DatabaseFailure says why not.
+bool RetryDataBase(SharedState& state);
+
 /// Set MonthStr 0 .. 11 to the twelve month names.
 void FillMonthStr(SharedState& state);
 

@@ -136,6 +136,43 @@ TEST_F(Start, AMissingTableLeavesItsRecordsetAloneUnset) {
     EXPECT_NE(state_.DatabaseFailure.find("ProjTab"), std::string::npos);
 }
 
+TEST_F(Start, ADatabaseThatCouldNotBeOpenedIsTriedAgain) {
+    const std::string away = folder_.Path("away.mdb");
+    fs::rename(Database(), away);
+    EXPECT_TRUE(Init());
+    ASSERT_EQ(state_.CurDB, nullptr);
+    EXPECT_FALSE(RetryDataBase(state_));
+    EXPECT_NE(state_.DatabaseFailure.find("is missing"), std::string::npos);
+    EXPECT_FALSE(fs::exists(Database())) << "it is not made";
+
+    fs::rename(away, Database());
+    EXPECT_TRUE(RetryDataBase(state_));
+    ASSERT_NE(state_.CurDB, nullptr);
+    for (int i = 1; i <= 3; ++i) {
+        EXPECT_NE(state_.DBRS[i], nullptr) << i;
+    }
+    const auto* opened = state_.CurDB.get();
+    EXPECT_TRUE(RetryDataBase(state_));
+    EXPECT_EQ(state_.CurDB.get(), opened) << "what is open stays open";
+}
+
+TEST_F(Start, EachTryNamesItsOwnCause) {
+    fs::remove(Database());
+    EXPECT_TRUE(Init());
+    WriteFile(Database(), "something else");
+    EXPECT_FALSE(RetryDataBase(state_));
+    EXPECT_NE(state_.DatabaseFailure.find("is not a database"), std::string::npos)
+        << state_.DatabaseFailure;
+}
+
+TEST_F(Start, AnotherTryWithoutADataFolderStillNamesTheConfiguration) {
+    WriteFile(folder_.Path("TarnWin.INI"), "[Something else]\n");
+    EXPECT_TRUE(Init());
+    EXPECT_FALSE(RetryDataBase(state_));
+    EXPECT_NE(state_.DatabaseFailure.find(folder_.Path("TarnWin.INI")), std::string::npos)
+        << state_.DatabaseFailure;
+}
+
 TEST_F(Start, SetsTheSharedDefaults) {
     state_.MetricFlag = 1;
     state_.DimScale = 5;
