@@ -78,7 +78,7 @@ QLineEdit:focus, QComboBox:focus, QPlainTextEdit:focus, QListWidget:focus {
     border-color: @Accent; }
 QLineEdit:disabled, QComboBox:disabled { color: @Disabled; background: @Surface; }
 QLineEdit[readOnly="true"] { background: @Surface; }
-QListWidget::item { padding: 45tw 75tw; color: @Text; }
+QListWidget::item { padding: 30tw 75tw; border: none; color: @Text; }
 QListWidget::item:selected { background: @Accent; color: @AccentText; }
 QComboBox QAbstractItemView { background: @Field; color: @Text;
     selection-background-color: @Accent; selection-color: @AccentText; }
@@ -92,6 +92,15 @@ QRadioButton:disabled, QCheckBox:disabled { color: @Disabled; }
 QProgressBar { background: @Field; border: 1px solid @Border; border-radius: 60tw;
     min-height: 240tw; text-align: center; }
 QProgressBar::chunk { background: @Accent; border-radius: 45tw; }
+QScrollBar { background: @Surface; border: none; }
+QScrollBar:vertical { width: 210tw; }
+QScrollBar:horizontal { height: 210tw; }
+QScrollBar::handle { background: @Border; border-radius: 45tw; margin: 30tw; }
+QScrollBar::handle:vertical { min-height: 300tw; }
+QScrollBar::handle:horizontal { min-width: 300tw; }
+QScrollBar::handle:hover { background: @Muted; }
+QScrollBar::add-line, QScrollBar::sub-line { width: 0; height: 0; }
+QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }
 QToolTip { background: @Surface; color: @Text; border: 1px solid @Border; padding: 45tw; }
 QScrollArea { border: none; background: @Window; }
 )";
