@@ -4,13 +4,44 @@
 
 #include <QString>
 
+#include <algorithm>
+
 namespace tarn {
 
+namespace {
+
+QString Decoded(std::string_view utf8) {
+    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
+}
+
+bool IsControlCharacter(QChar c) {
+    return c.category() == QChar::Other_Control || c.category() == QChar::Separator_Line ||
+           c.category() == QChar::Separator_Paragraph;
+}
+
+} // namespace
+
+std::string UpperCase(std::string_view text) {
+    return Decoded(text).toUpper().toStdString();
+}
+
+bool HoldsControlCharacter(std::string_view text) {
+    const QString decoded = Decoded(text);
+    return std::any_of(decoded.begin(), decoded.end(), IsControlCharacter);
+}
+
+bool HoldsForbiddenCharacter(std::string_view name) {
+    return name.find_first_of(ForbiddenInProjectName) != std::string_view::npos ||
+           HoldsControlCharacter(name);
+}
+
+std::string NameTooLongText(std::string_view kind, std::string_view name) {
+    return "The " + std::string(kind) + " name " + std::string(name) + " has more than " +
+           TrimStr(MaxNameLength) + " characters.";
+}
+
 std::string StoredName(std::string_view name) {
-    const std::string trimmed = TrimStr(name);
-    return QString::fromUtf8(trimmed.data(), static_cast<qsizetype>(trimmed.size()))
-        .toUpper()
-        .toStdString();
+    return UpperCase(TrimStr(name));
 }
 
 } // namespace tarn

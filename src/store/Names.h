@@ -11,6 +11,20 @@ inline constexpr long long MaxNameLength = 64;
 /// Characters that no project name may hold.
 inline constexpr std::string_view ForbiddenInProjectName = "\\/:*?\"<>|";
 
+/// `text` in full upper case, of every language. UTF-8.
+std::string UpperCase(std::string_view text);
+
+/// Whether a control character of any kind, such as a line break, stands in the text.
+bool HoldsControlCharacter(std::string_view text);
+
+/// Whether a project may not have that name for one of its characters: those of
+/// ForbiddenInProjectName, and control characters.
+bool HoldsForbiddenCharacter(std::string_view name);
+
+/// What a name past MaxNameLength is refused with. `kind` is what it names, "directory" or
+/// "project".
+std::string NameTooLongText(std::string_view kind, std::string_view name);
+
 /// A directory or project name as it is stored and looked up: in full upper case (of every
 /// language, not A to Z alone), without the blanks at both ends. UTF-8. Every name goes through
 /// here, since the database itself ignores the case of A to Z only.

@@ -6,8 +6,6 @@
 #include "store/Names.h"
 #include "store/SharedRows.h"
 
-#include <algorithm>
-
 namespace tarn {
 
 namespace {
@@ -37,16 +35,9 @@ std::string NewName(std::string_view kind, std::string_view name) {
         throw DatabaseError("The " + std::string(kind) + " needs a name.");
     }
     if (Len(stored) > MaxNameLength) {
-        throw DatabaseError("The " + std::string(kind) + " name " + stored + " has more than " +
-                            TrimStr(MaxNameLength) + " characters.");
+        throw DatabaseError(NameTooLongText(kind, stored));
     }
     return stored;
-}
-
-bool IsControlCharacter(char c) {
-    constexpr unsigned char Delete = 0x7F;
-    const auto code = static_cast<unsigned char>(c);
-    return code < ' ' || code == Delete;
 }
 
 } // namespace
@@ -103,7 +94,7 @@ bool AddProject(SharedState& state, std::string_view directory, std::string_view
             throw DatabaseError("The project name " + name + " holds one of the characters " +
                                 std::string(ForbiddenInProjectName) + ".");
         }
-        if (std::any_of(name.begin(), name.end(), IsControlCharacter)) {
+        if (HoldsControlCharacter(name)) {
             throw DatabaseError("The project name holds a line break or another control "
                                 "character.");
         }

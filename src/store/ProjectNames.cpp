@@ -1,0 +1,94 @@
+#include "store/ProjectNames.h"
+
+#include "app/Text.h"
+#include "store/Names.h"
+#include "store/Projects.h"
+
+#include <QString>
+
+#include <algorithm>
+
+namespace tarn {
+
+namespace {
+
+std::u32string Characters(std::string_view utf8) {
+    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size())).toStdU32String();
+}
+
+std::string Encoded(const std::u32string& characters) {
+    return QString::fromStdU32String(characters).toStdString();
+}
+
+/// `text` without the characters for which `isForbidden`, which takes each as UTF-8.
+template <typename Test>
+NameText Without(std::string_view text, Test isForbidden) {
+    std::u32string kept = Characters(text);
+    const auto left =
+        std::erase_if(kept, [&](char32_t c) { return isForbidden(Encoded(std::u32string(1, c))); });
+    return {Encoded(kept), left > 0};
+}
+
+} // namespace
+
+NameText TypedNameText(std::string_view text) {
+    NameText typed = Without(text, [](const std::string& c) {
+        return c.find_first_of(ForbiddenInProjectName) != std::string::npos;
+    });
+    for (char& c : typed.Text) {
+        if (c >= 'a' && c <= 'z') {
+            c = static_cast<char>(c - 'a' + 'A');
+        }
+    }
+    return typed;
+}
+
+NameText PastedNameText(std::string_view text) {
+    NameText pasted = Without(text, HoldsForbiddenCharacter);
+    pasted.Text = UpperCase(pasted.Text);
+    return pasted;
+}
+
+std::string FittingNameText(std::string_view text, long long length) {
+    std::u32string characters = Characters(text);
+    const long long room = std::max(MaxNameLength - length, 0LL);
+    if (static_cast<long long>(characters.size()) > room) {
+        characters.resize(static_cast<std::size_t>(room));
+    }
+    return Encoded(characters);
+}
+
+bool IsDirectoryTaken(SharedState& state, std::string_view name) {
+    const std::string stored = StoredName(name);
+    for (Integer month = 0; month < 12; ++month) {
+        if (StoredName(state.MonthStr[month]) == stored) {
+            return true;
+        }
+    }
+    return CheckDir(state, stored);
+}
+
+std::optional<std::string> DirectoryNameRefusal(SharedState& state, std::string_view name) {
+    if (Len(StoredName(name)) > MaxNameLength) {
+        return NameTooLongText("directory", StoredName(name));
+    }
+    if (IsDirectoryTaken(state, name)) {
+        return "There is one directory with the same name, change to other one!";
+    }
+    return std::nullopt;
+}
+
+std::optional<std::string> ProjectNameRefusal(SharedState& state, std::string_view name) {
+    if (HoldsForbiddenCharacter(StoredName(name))) {
+        return std::string(ForbiddenCharactersMessage);
+    }
+    if (Len(StoredName(name)) > MaxNameLength) {
+        return NameTooLongText("project", StoredName(name));
+    }
+    if (!CheckProjName(state, name)) {
+        return "There is one project with the same name, change to other one!";
+    }
+    return std::nullopt;
+}
+
+} // namespace tarn

@@ -1,0 +1,157 @@
+#include "store/ProjectChoice.h"
+#include "store/TestDatabase.h"
+
+#include <gtest/gtest.h>
+
+namespace tarn {
+namespace {
+
+using testing::DatabaseErrorOf;
+using testing::RawDatabase;
+using testing::ShortWait;
+using testing::TestDatabase;
+
+using Lines = std::vector<std::string>;
+using Outcome = ChoiceResult::Outcome;
+
+struct ProjectChoices : ::testing::Test {
+    ProjectChoices() {
+        file.AddDirectory("HOUSES");
+        file.AddProject("HOUSES", "VILLA", 1, 2);
+        file.AddProject("MAY", "CABIN", 2, 1);
+        file.OpenInto(state, ShortWait);
+        state.CurDirName = "MARCH";
+        state.CurProjName = "BEFORE";
+    }
+    void ExpectCurrent(const std::string& directory, const std::string& project) const {
+        EXPECT_EQ(state.CurDirName, directory);
+        EXPECT_EQ(state.CurProjName, project);
+    }
+    void ExpectRefused(const ProjectChoice& choice, const std::string& message) {
+        const Lines before = file.Rows("SELECT * FROM ProjTab");
+        const ChoiceResult result = AcceptProject(state, choice);
+        EXPECT_EQ(result.Result, Outcome::Refused);
+        EXPECT_EQ(result.Message, message);
+        ExpectCurrent("MARCH", "BEFORE");
+        EXPECT_EQ(file.Rows("SELECT * FROM ProjTab"), before);
+    }
+
+    TestDatabase file;
+    SharedState state;
+};
+
+TEST_F(ProjectChoices, AnEmptyBoxSelectsNoProject) {
+    for (const bool existing : {true, false}) {
+        state.CurProjName = "BEFORE";
+        EXPECT_EQ(AcceptProject(state, {"  ", existing, "MAY"}).Result, Outcome::NoProject);
+        ExpectCurrent("MARCH", "");
+    }
+}
+
+TEST_F(ProjectChoices, AnExistingProjectIsTakenWithTheSelection) {
+    EXPECT_EQ(AcceptProject(state, {"VILLA", true, "MAY"}).Result, Outcome::Existing);
+    ExpectCurrent("MAY", "VILLA");
+    EXPECT_EQ(file.Rows("SELECT Dir, ProjName FROM ProjTab ORDER BY rowid"),
+              (Lines{"HOUSES|VILLA", "MAY|CABIN"}))
+        << "it is not moved";
+}
+
+TEST_F(ProjectChoices, AnExistingProjectWithoutASelectionIsInItsOwnDirectory) {
+    EXPECT_EQ(AcceptProject(state, {"VILLA", true, {}}).Result, Outcome::Existing);
+    ExpectCurrent("HOUSES", "VILLA");
+}
+
+TEST_F(ProjectChoices, AnExistingProjectThatIsGoneIsRefused) {
+    ExpectRefused({"HUT", true, "MAY"}, "The project is no longer there. Please select it again!");
+}
+
+TEST_F(ProjectChoices, ANewProjectIsStoredInTheSelection) {
+    EXPECT_EQ(AcceptProject(state, {" hütte 7 ", false, "June"}).Result, Outcome::New);
+    ExpectCurrent("June", "HÜTTE 7");
+    EXPECT_EQ(file.Rows("SELECT * FROM ProjTab WHERE Dir = 'JUNE'"), Lines{"JUNE|HÜTTE 7|0"});
+}
+
+TEST_F(ProjectChoices, ANewProjectNeedsAFreeName) {
+    ExpectRefused({" Villa ", false, "MAY"}, "The Project Name: Villa has been used\r\n"
+                                             "Please change to another name!");
+}
+
+TEST_F(ProjectChoices, ANewProjectNeedsASelection) {
+    ExpectRefused({"HUT", false, {}}, "Please select a month or a directory.");
+}
+
+TEST_F(ProjectChoices, ANewProjectThatCannotBeStoredChangesNothing) {
+    RawDatabase other(file.Path());
+    other.Run("BEGIN IMMEDIATE");
+    EXPECT_NE(DatabaseErrorOf([&] {
+                  AcceptProject(state, {"HUT", false, "MAY"});
+              }).find("another program is using the database"),
+              std::string::npos);
+    other.Run("ROLLBACK");
+    ExpectCurrent("MARCH", "BEFORE");
+    EXPECT_EQ(file.Rows("SELECT ProjName FROM ProjTab ORDER BY rowid"), (Lines{"VILLA", "CABIN"}));
+    EXPECT_NE(DatabaseErrorOf([&] {
+                  AcceptProject(state, {"A:B", false, "MAY"});
+              }).find("holds one of the characters"),
+              std::string::npos);
+    ExpectCurrent("MARCH", "BEFORE");
+}
+
+TEST_F(ProjectChoices, AFailedLookUpIsNoFreeName) {
+    file.Run("DROP TABLE ProjTab");
+    EXPECT_THROW(AcceptProject(state, {"HUT", false, "MAY"}), DatabaseError);
+    EXPECT_THROW(AcceptProject(state, {"VILLA", true, "MAY"}), DatabaseError);
+    ExpectCurrent("MARCH", "BEFORE");
+}
+
+TEST_F(ProjectChoices, RenamesMoveTheCurrentNamesWithThem) {
+    state.CurDirName = "houses";
+    state.CurProjName = "VILLA";
+    RenameDirectory(state, "HOUSES", " homes ");
+    RenameProject(state, "VILLA", " manor ");
+    ExpectCurrent("HOMES", "MANOR");
+    EXPECT_EQ(file.Rows("SELECT Dir, ProjName FROM ProjTab ORDER BY rowid"),
+              (Lines{"HOMES|MANOR", "MAY|CABIN"}));
+    EXPECT_EQ(file.Rows("SELECT Directory FROM DirTab"), Lines{"HOMES"});
+    EXPECT_EQ(file.Rows("SELECT ProjName FROM MainTab ORDER BY rowid"), (Lines{"MANOR", "CABIN"}));
+}
+
+TEST_F(ProjectChoices, RenamesOfOthersLeaveTheCurrentNames) {
+    RenameDirectory(state, "HOUSES", "HOMES");
+    RenameProject(state, "VILLA", "MANOR");
+    ExpectCurrent("MARCH", "BEFORE");
+}
+
+TEST_F(ProjectChoices, ADeletedDirectoryMakesWayForTheMonth) {
+    state.CurDirName = "HOUSES";
+    state.CurProjName = "VILLA";
+    DeleteDirectory(state, "HOUSES", "JULY");
+    ExpectCurrent("JULY", "");
+    EXPECT_EQ(file.Rows("SELECT ProjName FROM ProjTab ORDER BY rowid"), Lines{"CABIN"});
+    EXPECT_EQ(file.Rows("SELECT TabIndex FROM InputData"), Lines{"2"});
+}
+
+TEST_F(ProjectChoices, DeletionsOfOthersLeaveTheCurrentNames) {
+    state.CurProjName = "CABIN";
+    DeleteDirectory(state, "HOUSES", "JULY");
+    ExpectCurrent("MARCH", "CABIN");
+    DeleteProject(state, "CABIN");
+    ExpectCurrent("MARCH", "");
+    EXPECT_EQ(file.Rows("SELECT * FROM ProjTab"), Lines{});
+}
+
+TEST_F(ProjectChoices, FailedChangesLeaveTheCurrentNames) {
+    file.AddDirectory("A\"B");
+    state.CurDirName = "A\"B";
+    state.CurProjName = "VILLA";
+    EXPECT_THROW(RenameDirectory(state, "A\"B", "AB"), DatabaseError);
+    EXPECT_THROW(DeleteDirectory(state, "A\"B", "JULY"), DatabaseError);
+    file.Run("DROP TABLE MainTab");
+    EXPECT_THROW(RenameProject(state, "VILLA", "MANOR"), DatabaseError);
+    EXPECT_THROW(DeleteProject(state, "VILLA"), DatabaseError);
+    ExpectCurrent("A\"B", "VILLA");
+    EXPECT_EQ(file.Rows("SELECT ProjName FROM ProjTab ORDER BY rowid"), (Lines{"VILLA", "CABIN"}));
+}
+
+} // namespace
+} // namespace tarn

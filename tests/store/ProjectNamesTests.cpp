@@ -1,0 +1,115 @@
+#include "app/StartModule.h"
+#include "store/Names.h"
+#include "store/ProjectNames.h"
+#include "store/TestDatabase.h"
+
+#include <gtest/gtest.h>
+
+namespace tarn {
+namespace {
+
+using testing::ShortWait;
+using testing::TestDatabase;
+
+void ExpectText(const NameText& text, const std::string& expected, bool leftOut) {
+    EXPECT_EQ(text.Text, expected);
+    EXPECT_EQ(text.LeftOut, leftOut);
+}
+
+TEST(TypedNames, AToZBecomeUpperCase) {
+    for (char c = 'a'; c <= 'z'; ++c) {
+        const std::string upper(1, static_cast<char>(c - 'a' + 'A'));
+        ExpectText(TypedNameText(std::string(1, c)), upper, false);
+        ExpectText(TypedNameText(upper), upper, false);
+    }
+    ExpectText(TypedNameText("é7 '%;&-"), "é7 '%;&-", false);
+}
+
+TEST(TypedNames, TheNineForbiddenCharactersAreLeftOut) {
+    for (const char c : std::string("\\/:*?\"<>|")) {
+        ExpectText(TypedNameText(std::string(1, c)), "", true);
+    }
+    EXPECT_EQ(ForbiddenInProjectName.size(), 9U);
+}
+
+TEST(PastedNames, BecomeUpperCaseInEveryLanguage) {
+    ExpectText(PastedNameText("haus Müller, квартира"), "HAUS MÜLLER, КВАРТИРА", false);
+    ExpectText(PastedNameText("straße"), "STRASSE", false);
+    ExpectText(PastedNameText("\xF0\x9F\x8F\xA0 house"), "\xF0\x9F\x8F\xA0 HOUSE", false);
+}
+
+TEST(PastedNames, LeaveOutForbiddenAndControlCharacters) {
+    ExpectText(PastedNameText("a\\b/c:d*e?f\"g<h>i|j"), "ABCDEFGHIJ", true);
+    ExpectText(PastedNameText("a\tb\r\nc\x7F"), "ABC", true);
+    ExpectText(PastedNameText("a\u0085b\u2028c"), "ABC", true);
+    ExpectText(PastedNameText(std::string("a\0b", 3)), "AB", true);
+    ExpectText(PastedNameText(" a "), " A ", false);
+}
+
+TEST(FittingNames, EndAt64Characters) {
+    const std::string sixty(60, 'A');
+    EXPECT_EQ(FittingNameText("BCDE", 60), "BCDE");
+    EXPECT_EQ(FittingNameText("BCDEF", 60), "BCDE");
+    EXPECT_EQ(FittingNameText("B", 64), "");
+    EXPECT_EQ(FittingNameText("B", 70), "") << "a longer stored name";
+    EXPECT_EQ(FittingNameText("ÄÖÜ", 62), "ÄÖ") << "characters, not bytes";
+    EXPECT_EQ(FittingNameText("\xF0\x9F\x8F\xA0\xF0\x9F\x8F\xA0", 63), "\xF0\x9F\x8F\xA0");
+}
+
+struct NewNames : ::testing::Test {
+    NewNames() {
+        FillMonthStr(state);
+        file.AddDirectory("HOUSES");
+        file.AddProject("HOUSES", "VILLA", 1);
+        file.OpenInto(state, ShortWait);
+    }
+    TestDatabase file;
+    SharedState state;
+};
+
+TEST_F(NewNames, TheTwelveMonthsAreTakenDirectories) {
+    for (int month = 0; month < 12; ++month) {
+        EXPECT_TRUE(IsDirectoryTaken(state, state.MonthStr[month])) << month;
+    }
+    EXPECT_TRUE(IsDirectoryTaken(state, " march "));
+    EXPECT_TRUE(IsDirectoryTaken(state, "Houses"));
+    EXPECT_FALSE(IsDirectoryTaken(state, "HOUSE"));
+    EXPECT_FALSE(IsDirectoryTaken(state, "")) << "the last entry of MonthStr is no month";
+}
+
+TEST_F(NewNames, ADirectoryIsRefusedForATakenOrALongName) {
+    const std::string taken = "There is one directory with the same name, change to other one!";
+    EXPECT_EQ(DirectoryNameRefusal(state, "houses"), taken);
+    EXPECT_EQ(DirectoryNameRefusal(state, "MAY"), taken);
+    EXPECT_EQ(DirectoryNameRefusal(state, "A\"B:C"), std::nullopt);
+    EXPECT_EQ(DirectoryNameRefusal(state, std::string(64, 'A')), std::nullopt);
+    const std::string tooLong(65, 'A');
+    EXPECT_EQ(DirectoryNameRefusal(state, tooLong),
+              "The directory name " + tooLong + " has more than 64 characters.");
+}
+
+TEST_F(NewNames, AProjectIsRefusedForItsCharactersATakenOrALongName) {
+    for (const char c : ForbiddenInProjectName) {
+        EXPECT_EQ(ProjectNameRefusal(state, std::string("A") + c),
+                  "Sorry, the project name couldn't contain any of following characters:\r\n"
+                  "   \\/:*?\"<>|");
+    }
+    EXPECT_EQ(ProjectNameRefusal(state, "A\tB"), ForbiddenCharactersMessage);
+    EXPECT_EQ(ProjectNameRefusal(state, "villa"),
+              "There is one project with the same name, change to other one!");
+    EXPECT_EQ(ProjectNameRefusal(state, "HOUSES"), std::nullopt);
+    const std::string tooLong(65, 'A');
+    EXPECT_EQ(ProjectNameRefusal(state, tooLong),
+              "The project name " + tooLong + " has more than 64 characters.");
+}
+
+TEST_F(NewNames, AFailureOfTheDatabaseIsNoAnswer) {
+    file.Run("DROP TABLE DirTab");
+    file.Run("DROP TABLE ProjTab");
+    EXPECT_THROW(IsDirectoryTaken(state, "X"), DatabaseError);
+    EXPECT_THROW(DirectoryNameRefusal(state, "X"), DatabaseError);
+    EXPECT_THROW(ProjectNameRefusal(state, "X"), DatabaseError);
+}
+
+} // namespace
+} // namespace tarn
