@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QLineEdit>
+
+#include <functional>
+#include <string>
+#include <string_view>
+
+namespace tarn {
+
+struct NameText;
+
+/// The box for a project's name. Locked it shows the project chosen; unlocked it takes a name, in
+/// which the rules of ProjectNames.h hold however it is put in: typed, pasted, dropped. It takes
+/// the focus by the mouse, not by Tab.
+class ProjectBox : public QLineEdit {
+  public:
+    explicit ProjectBox(QWidget* parent);
+
+    /// The mouse put the focus here; not called when the window or a message box gives it back.
+    std::function<void()> OnTaken;
+    /// Characters were left out: called once for a key, and once for what is pasted or dropped.
+    std::function<void()> OnLeftOut;
+
+    bool IsLocked() const { return isReadOnly(); }
+    void SetLocked(bool locked) { setReadOnly(locked); }
+    std::string Name() const;
+    void SetName(std::string_view name);
+
+  protected:
+    void focusInEvent(QFocusEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void inputMethodEvent(QInputMethodEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
+
+  private:
+    /// Put text in at the cursor, in place of what is selected, as far as there is room.
+    void Enter(const NameText& text);
+    void Paste(const QString& text);
+    void PasteClipboard();
+    std::string Fitting(const std::string& text) const;
+};
+
+} // namespace tarn

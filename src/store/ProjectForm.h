@@ -1,0 +1,62 @@
+#pragma once
+
+#include "app/TitledScreen.h"
+
+#include <optional>
+#include <string>
+
+namespace tarn {
+
+class SelectionPanel;
+class SettingsPanel;
+struct ChoiceResult;
+
+/// The project selection: the current directory and project, and the panel where they are chosen,
+/// made, renamed and deleted. Loading it drops the rooms of the project that was open. Closing it
+/// by the frame ends the program.
+class ProjectForm : public TitledScreen {
+  public:
+    explicit ProjectForm(Session& session);
+
+  protected:
+    void OnCloseByFrame() override;
+    QWidget* FirstFocus() override;
+
+  private:
+    enum ListIndex { Months = 0, Directories = 1 };
+
+    void ConnectSettings();
+    void ConnectLists();
+    void ConnectSelection();
+
+    void OpenSelection();
+    void CloseSelection();
+    void Done();
+    void HandOver(const ChoiceResult& result);
+
+    std::optional<std::string> ChosenDirectory() const;
+    std::string CurrentMonth() const;
+    /// The month or directory that the user or the program chose in one of the two lists.
+    void DirectoryChosen(ListIndex list);
+    void ProjectChosen();
+    void ListProjectsOfChoice();
+    void NewProject();
+    void BoxTaken();
+    void Unlock();
+    void TellLeftOut();
+
+    void NewDirectory();
+    void AskDirectoryName();
+    void AskProjectName();
+    void AskDeleteDirectory();
+    void AskDeleteProject();
+    void ShowSettings();
+
+    SettingsPanel* frame1_;
+    SelectionPanel* frame5_;
+    /// The list and the row whose projects are shown; no row at first.
+    ListIndex shownList_ = Months;
+    int shownRow_ = -1;
+};
+
+} // namespace tarn

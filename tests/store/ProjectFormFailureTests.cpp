@@ -1,0 +1,183 @@
+#include "store/ProjectFormTesting.h"
+
+#include <filesystem>
+
+namespace tarn {
+namespace {
+
+using namespace tarn::testing;
+
+struct FailingProjects : ProjectFormTest {
+    /// The one message shown, which begins with what could not be done.
+    void ExpectMessage(const std::string& failure, const std::string& cause) {
+        ASSERT_EQ(boxes.Messages.size(), 1U);
+        EXPECT_EQ(boxes.Messages[0].rfind(failure + " ", 0), 0U) << boxes.Messages[0];
+        EXPECT_NE(boxes.Messages[0].find(cause), std::string::npos) << boxes.Messages[0];
+        boxes.Messages.clear();
+    }
+    /// As at a start without the file.
+    void StartWithout() {
+        state.CurDB.reset();
+        state.DBName = file.Path();
+        state.DataPath = file.Folder().Path();
+        std::filesystem::rename(file.Path(), away);
+    }
+
+    std::string away = file.Folder().Path("away.mdb");
+};
+
+TEST_F(FailingProjects, SelectProjectTriesTheDatabaseAgain) {
+    StartWithout();
+    Load();
+    Click(Button("Command3"));
+    ExpectMessage("The projects could not be listed.", "is missing");
+    EXPECT_TRUE(Find(*form, "Frame1").isVisible());
+    EXPECT_TRUE(Find(*form, "Frame5").isHidden());
+
+    std::filesystem::rename(away, file.Path());
+    Click(Button("Command3"));
+    EXPECT_TRUE(boxes.Messages.empty());
+    EXPECT_TRUE(Find(*form, "Frame5").isVisible());
+    EXPECT_EQ(Entries(Projects()), (Lines{"ANNEX", "BARN"}));
+}
+
+TEST_F(FailingProjects, AReadOnlyFileGivesTheMessage) {
+    StartWithout();
+    std::filesystem::rename(away, file.Path());
+    std::filesystem::permissions(file.Path(), std::filesystem::perms::owner_read);
+    Load();
+    Click(Button("Command3"));
+    ExpectMessage("The projects could not be listed.", "read-only");
+    EXPECT_TRUE(Find(*form, "Frame1").isVisible());
+}
+
+TEST_F(FailingProjects, AMissingTableGivesTheMessageAndTheSettingsStay) {
+    file.Run("DROP TABLE DirTab");
+    Load();
+    Click(Button("Command3"));
+    ExpectMessage("The projects could not be listed.", "DirTab");
+    EXPECT_TRUE(Find(*form, "Frame5").isHidden());
+}
+
+TEST_F(FailingProjects, AListThatCannotBeReadKeepsTheSelectionAndTheProjects) {
+    Open();
+    ClickEntry(Projects(), "BARN");
+    file.Run("ALTER TABLE ProjTab RENAME TO Gone");
+    boxes.OnMessage = [&] { EXPECT_EQ(Selected(Months()), "MARCH") << "behind the message"; };
+    ClickEntry(Directories(), "HOUSES");
+    ExpectMessage("The projects could not be listed.", "ProjTab");
+    EXPECT_EQ(Selected(Months()), "MARCH");
+    EXPECT_EQ(Selected(Directories()), "(none)");
+    EXPECT_EQ(Entries(Projects()), (Lines{"ANNEX", "BARN"}));
+    ClickEntry(Months(), "MAY");
+    ExpectMessage("The projects could not be listed.", "ProjTab");
+    EXPECT_EQ(Selected(Months()), "MARCH");
+    EXPECT_EQ(BoxText(), "BARN");
+
+    file.Run("ALTER TABLE Gone RENAME TO ProjTab");
+    ClickEntry(Directories(), "HOUSES");
+    EXPECT_EQ(Entries(Projects()), (Lines{"VILLA", "TOWER"}));
+}
+
+TEST_F(FailingProjects, TheBoxStaysLockedWhenTheProjectsCannotBeListed) {
+    Open();
+    file.Run("ALTER TABLE ProjTab RENAME TO Gone");
+    Click(Button("Command1"));
+    ExpectMessage("The projects could not be listed.", "ProjTab");
+    EXPECT_TRUE(Box().isReadOnly());
+    Click(Box());
+    ExpectMessage("The projects could not be listed.", "ProjTab");
+    EXPECT_TRUE(Box().isReadOnly());
+    EXPECT_FALSE(Box().hasFocus());
+    file.Run("ALTER TABLE Gone RENAME TO ProjTab");
+    Click(Box());
+    EXPECT_FALSE(Box().isReadOnly());
+}
+
+TEST_F(FailingProjects, ANewProjectThatCannotBeStoredStaysTyped) {
+    state.CurProjName = "VILLA";
+    Open();
+    TypeNew("HUT");
+    RawDatabase other(file.Path());
+    other.Run("BEGIN IMMEDIATE");
+    Click(Button("Command5"));
+    ExpectMessage("The project could not be selected.", "another program is using the database");
+    other.Run("ROLLBACK");
+    EXPECT_TRUE(Find(*form, "Frame5").isVisible());
+    EXPECT_EQ(BoxText(), "HUT");
+    EXPECT_FALSE(Box().isReadOnly());
+    EXPECT_EQ(state.CurProjName, "VILLA");
+    EXPECT_EQ(state.CurDirName, "MARCH");
+    EXPECT_EQ(Label("Label1(1)"), "PROJECT:VILLA");
+    EXPECT_TRUE(screens.Calls.empty());
+
+    Click(Button("Command5"));
+    EXPECT_EQ(screens.Calls, Lines{"menu new"});
+}
+
+TEST_F(FailingProjects, AFileThatVanishesWhileTheProgramRunsLosesNothingTyped) {
+    Open();
+    TypeNew("HUT");
+    std::filesystem::rename(file.Path(), away);
+    Click(Button("Command5"));
+    ASSERT_EQ(boxes.Messages.size(), 1U);
+    EXPECT_EQ(BoxText(), "HUT");
+    EXPECT_TRUE(screens.Calls.empty());
+    EXPECT_FALSE(std::filesystem::exists(file.Path())) << "no other file is made";
+}
+
+TEST_F(FailingProjects, ALockedDatabaseKeepsDirectoriesAndProjectsAsTheyAre) {
+    Open();
+    const Lines before = Stored();
+    RawDatabase other(file.Path());
+    other.Run("BEGIN IMMEDIATE");
+
+    boxes.Inputs = {"BARNS"};
+    Click(Button("Command7"));
+    ExpectMessage("The directory could not be made.", "another program");
+    boxes.Inputs = {"HOMES"};
+    DoubleClickEntry(Directories(), "HOUSES");
+    ExpectMessage("The directory could not be renamed.", "another program");
+    boxes.Inputs = {"MANOR"};
+    DoubleClickEntry(Projects(), "VILLA");
+    ExpectMessage("The project could not be renamed.", "another program");
+    DeleteEntry(Projects(), "VILLA");
+    ExpectMessage("The project could not be deleted.", "another program");
+    EXPECT_EQ(Selected(Projects()), "VILLA");
+    EXPECT_EQ(BoxText(), "VILLA");
+    DeleteEntry(Directories(), "HOUSES");
+    ExpectMessage("The directory could not be deleted.", "another program");
+
+    other.Run("ROLLBACK");
+    EXPECT_EQ(Stored(), before);
+    EXPECT_EQ(Entries(Directories()), (Lines{"HOUSES", "SHOPS"}));
+    EXPECT_EQ(Selected(Directories()), "HOUSES");
+    EXPECT_EQ(Entries(Projects()), (Lines{"VILLA", "TOWER"}));
+    EXPECT_EQ(state.CurDirName, "MARCH");
+}
+
+TEST_F(FailingProjects, ASheetNumberThatDoesNotFitIsARunTimeError) {
+    file.AddProject("SHOPS", "STALL", 40000);
+    Open();
+    DeleteEntry(Directories(), "SHOPS");
+    ASSERT_EQ(boxes.Messages.size(), 1U);
+    EXPECT_EQ(boxes.Messages[0].rfind("Run-time error '6':\r\n\r\nOverflow\r\n"
+                                      "The directory could not be deleted.",
+                                      0),
+              0U)
+        << boxes.Messages[0];
+    EXPECT_EQ(Entries(Directories()), (Lines{"HOUSES", "SHOPS"}));
+}
+
+TEST_F(FailingProjects, AMenuThatCannotBeLoadedLeavesTheScreenUsable) {
+    Open();
+    ClickEntry(Projects(), "BARN");
+    screens.OnCall = [] { throw DatabaseError("No menu."); };
+    Click(Button("Command5"));
+    EXPECT_EQ(boxes.Messages, Lines{"The project could not be selected. No menu."});
+    EXPECT_TRUE(Find(*form, "Frame1").isVisible());
+    EXPECT_EQ(Label("Label1(1)"), "PROJECT:BARN");
+}
+
+} // namespace
+} // namespace tarn
