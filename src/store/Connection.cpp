@@ -16,7 +16,7 @@ namespace tarn {
 
 namespace {
 
-/// SQLite's primary result codes, as far as they have a text of their own here.
+/// SQLite's result codes, as far as they have a text of their own here.
 enum ResultCode {
     Busy = 5,
     Locked = 6,
@@ -25,6 +25,7 @@ enum ResultCode {
     Corrupt = 11,
     DiskFull = 13,
     NotADatabase = 26,
+    FileMoved = 1032, // an extended code of ReadOnlyFile
 };
 
 QString UniqueName() {
@@ -50,6 +51,10 @@ QString Address(const std::string& path, Connection::Access access) {
 std::string Cause(const QSqlError& error) {
     constexpr int PrimaryCode = 0xFF;
     const std::string text = error.databaseText().toStdString();
+    if (error.nativeErrorCode().toInt() == FileMoved) {
+        return "the database file was moved, deleted or replaced while it was open. Put it back, "
+               "or start the program again.";
+    }
     switch (error.nativeErrorCode().toInt() & PrimaryCode) {
     case Busy:
     case Locked:

@@ -120,7 +120,8 @@ TEST_F(FailingProjects, AFileThatVanishesWhileTheProgramRunsLosesNothingTyped) {
     TypeNew("HUT");
     std::filesystem::rename(file.Path(), away);
     Click(Button("Command5"));
-    ASSERT_EQ(boxes.Messages.size(), 1U);
+    ExpectMessage("The project could not be selected.",
+                  "was moved, deleted or replaced while it was open");
     EXPECT_EQ(BoxText(), "HUT");
     EXPECT_TRUE(screens.Calls.empty());
     EXPECT_FALSE(std::filesystem::exists(file.Path())) << "no other file is made";

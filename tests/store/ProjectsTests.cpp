@@ -6,6 +6,8 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
+
 namespace tarn {
 namespace {
 
@@ -84,6 +86,16 @@ TEST_F(Projects, ADirectoryIsAddedInItsStoredForm) {
     EXPECT_TRUE(AddDirectory(state_, "  müller & söhne ")) << state_.DatabaseFailure;
     EXPECT_EQ(file_.Rows("SELECT Directory FROM DirTab"), Lines{"MÜLLER & SÖHNE"});
     EXPECT_TRUE(CheckDir(state_, "Müller & Söhne"));
+}
+
+TEST_F(Projects, AFileThatWasMovedMeanwhileIsToldFromAReadOnlyOne) {
+    const std::string away = file_.Folder().Path("away.mdb");
+    std::filesystem::rename(file_.Path(), away);
+    EXPECT_FALSE(AddDirectory(state_, "HOUSES"));
+    EXPECT_NE(state_.DatabaseFailure.find("was moved, deleted or replaced"), std::string::npos)
+        << state_.DatabaseFailure;
+    std::filesystem::rename(away, file_.Path());
+    EXPECT_TRUE(AddDirectory(state_, "HOUSES")) << state_.DatabaseFailure;
 }
 
 TEST_F(Projects, ADirectoryMayHoldADoubleQuote) {
