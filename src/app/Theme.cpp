@@ -78,7 +78,7 @@ QLineEdit:focus, QComboBox:focus, QPlainTextEdit:focus, QListWidget:focus {
     border-color: @Accent; }
 QLineEdit:disabled, QComboBox:disabled { color: @Disabled; background: @Surface; }
 QLineEdit[readOnly="true"] { background: @Surface; }
-QListWidget::item { padding: 30tw 75tw; border: none; color: @Text; }
+QListWidget::item { padding: 15tw 75tw; border: none; color: @Text; }
 QListWidget::item:selected { background: @Accent; color: @AccentText; }
 QComboBox QAbstractItemView { background: @Field; color: @Text;
     selection-background-color: @Accent; selection-color: @AccentText; }

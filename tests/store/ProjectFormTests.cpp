@@ -135,6 +135,12 @@ TEST_F(ProjectForms, OpenTheSelectionOnTheCurrentMonth) {
     EXPECT_EQ(state.CurDirName, "HOUSES") << "nothing is chosen yet";
 }
 
+TEST_F(ProjectForms, ShowEveryMonthWithoutScrolling) {
+    Open();
+    EXPECT_TRUE(Months().viewport()->rect().contains(Months().visualItemRect(Months().item(0))));
+    EXPECT_TRUE(Months().viewport()->rect().contains(Months().visualItemRect(Months().item(11))));
+}
+
 TEST_F(ProjectForms, ListTheProjectsOfTheMonthOrDirectorySelected) {
     Open();
     ClickEntry(Directories(), "HOUSES");
