@@ -14,6 +14,11 @@ void PutRoom(SharedState& state, long long slot, const RoomRecord& room) {
     state.RoomRemark[slot] = room.Remark;
 }
 
+RoomRecord TakeRoom(const SharedState& state, long long slot) {
+    return {state.RoomWidth[slot], state.RoomLength[slot], state.RoomCarpet[slot],
+            state.RoomBase[slot],  state.RoomNoStr[slot],  state.RoomRemark[slot]};
+}
+
 void PutRooms(SharedState& state, const std::vector<RoomRecord>& rooms) {
     const auto count = static_cast<long long>(rooms.size());
     if (count > RoomCapacity) {
@@ -28,8 +33,7 @@ void PutRooms(SharedState& state, const std::vector<RoomRecord>& rooms) {
 std::vector<RoomRecord> TakeRooms(const SharedState& state) {
     std::vector<RoomRecord> rooms;
     for (Integer i = 0; i < state.ObjNum; ++i) {
-        rooms.push_back({state.RoomWidth[i], state.RoomLength[i], state.RoomCarpet[i],
-                         state.RoomBase[i], state.RoomNoStr[i], state.RoomRemark[i]});
+        rooms.push_back(TakeRoom(state, i));
     }
     return rooms;
 }

@@ -35,6 +35,9 @@ static_assert(RoomCapacity == 501);
 /// Put one room into a slot. Raises "Subscript out of range" outside 0 .. MaxRoom.
 void PutRoom(SharedState& state, long long slot, const RoomRecord& room);
 
+/// The room in a slot, in use or not. Raises as PutRoom.
+RoomRecord TakeRoom(const SharedState& state, long long slot);
+
 /// Make `rooms` the rooms of the open project: sets ObjNum and rooms 0 .. ObjNum - 1; the slots
 /// behind keep what they held, and RoomX and RoomY are not rebuilt. Raises "Subscript out of range"
 /// with ProjectFullText for more rooms than the capacity; nothing is changed then.
