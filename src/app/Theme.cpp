@@ -58,6 +58,8 @@ QGroupBox { background: @Surface; border: 1px solid @Border; border-radius: 90tw
     margin-top: 165tw; padding-top: 165tw; font-weight: 600; color: @Muted; }
 QGroupBox::title { subcontrol-origin: margin; subcontrol-position: top left; left: 150tw;
     padding: 0 75tw; background: @Surface; }
+QGroupBox[panel="true"] { margin-top: 0; padding-top: 405tw; }
+QGroupBox[panel="true"]::title { subcontrol-origin: border; top: 135tw; }
 
 QPushButton { background: @Field; border: 2px solid @Border; border-radius: 75tw;
     padding: 45tw 210tw; min-height: 345tw; }
@@ -77,6 +79,10 @@ QLineEdit, QComboBox { padding: 30tw 90tw; min-height: 345tw; }
 QLineEdit:focus, QComboBox:focus, QPlainTextEdit:focus, QListWidget:focus {
     border-color: @Accent; }
 QLineEdit:disabled, QComboBox:disabled { color: @Disabled; background: @Surface; }
+QPlainTextEdit { font-size: @ListingFontpt; }
+QComboBox::drop-down { border: none; width: 360tw; }
+QComboBox::down-arrow { width: 0; height: 0; border-top: 90tw solid @Muted;
+    border-left: 75tw solid @Field; border-right: 75tw solid @Field; }
 QLineEdit[readOnly="true"] { background: @Surface; }
 QListWidget::item { padding: 15tw 75tw; border: none; color: @Text; }
 QListWidget::item:selected { background: @Accent; color: @AccentText; }
@@ -102,6 +108,15 @@ QScrollBar::handle:hover { background: @Muted; }
 QScrollBar::add-line, QScrollBar::sub-line { width: 0; height: 0; }
 QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }
 QToolTip { background: @Surface; color: @Text; border: 1px solid @Border; padding: 45tw; }
+QScrollBar { background: @Surface; border: none; margin: 0; }
+QScrollBar:vertical { width: 210tw; }
+QScrollBar:horizontal { height: 210tw; }
+QScrollBar::handle { background: @Border; border-radius: 60tw; margin: 30tw; }
+QScrollBar::handle:hover { background: @Muted; }
+QScrollBar::handle:vertical { min-height: 450tw; }
+QScrollBar::handle:horizontal { min-width: 450tw; }
+QScrollBar::add-line, QScrollBar::sub-line { width: 0; height: 0; }
+QScrollBar::add-page, QScrollBar::sub-page { background: none; }
 QScrollArea { border: none; background: @Window; }
 )";
 
@@ -141,8 +156,9 @@ QString StyleSheet(const Colours& colours) {
     for (const auto& [name, colour] : names) {
         sheet.replace(QLatin1String(name), colour.name());
     }
-    const std::array<std::pair<const char*, double>, 4> sizes{
+    const std::array<std::pair<const char*, double>, 5> sizes{
         {{"@BaseFont", Metrics::BaseFont},
+         {"@ListingFont", Metrics::ListingFont},
          {"@HeadingFont", Metrics::HeadingFont},
          {"@FormTitleFont", Metrics::FormTitleFont},
          {"@ProductTitleFont", Metrics::ProductTitleFont}}};

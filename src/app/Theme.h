@@ -35,6 +35,7 @@ struct Metrics {
     static constexpr double ControlHeight = 480;
     static constexpr double ButtonWidth = 1800; ///< at least
     static constexpr double BaseFont = 11;
+    static constexpr double ListingFont = 10; ///< fixed pitch
     static constexpr double HeadingFont = 13;
     static constexpr double FormTitleFont = 14;
     static constexpr double ProductTitleFont = 24;
