@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QFrame>
+
+#include <string>
+
+class QPlainTextEdit;
+class QPushButton;
+
+namespace tarn {
+
+/// Frame4: the entered-data report, to be read and printed.
+class ReportFrame : public QFrame {
+  public:
+    ReportFrame();
+
+    /// The report as LoadReport made it, its lines ended by CrLf.
+    void SetText(const std::string& text);
+    const std::string& Text() const { return text_; }
+
+    QPlainTextEdit& View() { return *view_; }
+    QPushButton& Print() { return *print_; }
+    QPushButton& Close() { return *close_; }
+
+  private:
+    std::string text_;
+    QPlainTextEdit* view_ = nullptr;
+    QPushButton* print_ = nullptr;
+    QPushButton* close_ = nullptr;
+};
+
+} // namespace tarn

@@ -1,0 +1,240 @@
+#include "rooms/RoomEntryFrame.h"
+
+#include "app/Controls.h"
+#include "app/Display.h"
+#include "app/QtText.h"
+#include "app/Text.h"
+#include "app/Theme.h"
+#include "rooms/Coverings.h"
+
+#include <QComboBox>
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+
+#include <algorithm>
+
+namespace tarn {
+
+namespace {
+
+/// Width of a size field, twips.
+constexpr double SizeFieldWidth = 1050;
+
+void SetSpacing(QLayout& layout, double margin) {
+    const int edge = Pixels(margin);
+    layout.setContentsMargins(edge, edge, edge, edge);
+    layout.setSpacing(Pixels(Metrics::Spacing));
+}
+
+/// A title as it is written, without mnemonics.
+void SetPlainTitle(QGroupBox& group, QString title) {
+    group.setTitle(title.replace(QLatin1Char('&'), QLatin1String("&&")));
+}
+
+void SetGroupCaption(QGroupBox& group, const QString& name, const QString& caption) {
+    NameControl(group, name, caption);
+    SetPlainTitle(group, caption);
+}
+
+/// Show a text in a field that takes so many characters; a longer one is shown whole.
+void ShowLimited(QLineEdit& field, const std::string& text, long long most) {
+    const QString shown = ToQt(text);
+    field.setMaxLength(std::max(static_cast<int>(most), static_cast<int>(shown.size())));
+    field.setText(shown);
+}
+
+/// The text of a field; as it was stored while nothing else is typed, for a widget's text need not
+/// hold each of its characters (such as a byte-order mark).
+std::string TextOf(const QLineEdit& field, const std::string& stored) {
+    return field.text() == ToQt(stored) ? stored : FromQt(field.text());
+}
+
+} // namespace
+
+RoomEntryFrame::RoomEntryFrame(const std::string& project, bool metric) {
+    SetGroupCaption(*this, QStringLiteral("Frame1"), ToQt("PROJECT: " + project).toUpper());
+    setProperty("panel", true);
+    MakeFields();
+    MakeButtons();
+    Arrange(metric);
+    ShowNewRoom();
+}
+
+void RoomEntryFrame::MakeFields() {
+    for (int i = 0; i < Texts; ++i) {
+        auto* text = new QLineEdit(this);
+        text->setObjectName(IndexedName("Text1", i));
+        texts_.at(static_cast<std::size_t>(i)) = text;
+        if (i < SizeTexts) {
+            text->setFixedWidth(Pixels(SizeFieldWidth));
+        }
+    }
+    covering_ = new QComboBox(this);
+    covering_->setObjectName(QStringLiteral("Combo1"));
+    covering_->setFocusPolicy(Qt::StrongFocus);
+    covering_->setMaxVisibleItems(LastTileCode + 1);
+    for (Byte code = 0; code <= LastTileCode; ++code) {
+        covering_->addItem(ToQt(CoveringCaption(code)));
+    }
+}
+
+void RoomEntryFrame::MakeButtons() {
+    buttons_ = {NewButton(this, IndexedName("Command1", Next), "NEXT ROOM", 'N'),
+                NewButton(this, IndexedName("Command1", Previous), "PREVIOUS ROOM", 'P'),
+                NewButton(this, IndexedName("Command1", Delete), "DELETE ", 'D')};
+    estimate_ = NewButton(this, QStringLiteral("Command3"), "ESTIMATE", 'E');
+    report_ = NewButton(this, QStringLiteral("RepMnu"), "REPORT", 'R');
+    SetPrimary(*buttons_[Next]);
+}
+
+void RoomEntryFrame::AddSizeRow(QGridLayout& grid, int row, bool metric) {
+    const bool isWidth = row == 0;
+    const int firstLabel = row * 3;
+    QLineEdit& major = Text(row * 2);
+    QLineEdit& minor = Text(row * 2 + 1);
+    const std::string_view caption = isWidth ? "ROOM   WIDTH" : "ROOM LENGTH";
+    grid.addWidget(
+        NewLabelFor(major, this, IndexedName("Label1", firstLabel), caption, isWidth ? 'W' : 'L'),
+        row, 0);
+    grid.addWidget(&major, row, 1);
+    grid.addWidget(NewLabel(this, IndexedName("Label1", firstLabel + 1), metric ? "M" : "FEET"),
+                   row, 2);
+    grid.addWidget(&minor, row, 3);
+    grid.addWidget(
+        NewLabelFor(minor, this, IndexedName("Label1", firstLabel + 2), metric ? "CM" : "INCHES"),
+        row, 4);
+    minor.setAccessibleDescription(ToQt(caption));
+}
+
+QGroupBox* RoomEntryFrame::NewSizeGroup(bool metric) {
+    auto* group = new QGroupBox(this);
+    SetGroupCaption(*group, QStringLiteral("Frame2"), QStringLiteral("ROOM SIZE"));
+    auto* grid = new QGridLayout(group);
+    SetSpacing(*grid, Metrics::Spacing);
+    AddSizeRow(*grid, 0, metric);
+    AddSizeRow(*grid, 1, metric);
+    grid->setColumnStretch(4, 1);
+    return group;
+}
+
+QGroupBox* RoomEntryFrame::NewItemGroup() {
+    auto* group = new QGroupBox(this);
+    SetGroupCaption(*group, QStringLiteral("Frame3"), QStringLiteral("ITEM INFO"));
+    auto* grid = new QGridLayout(group);
+    SetSpacing(*grid, Metrics::Spacing);
+    const struct {
+        QWidget* Control;
+        int Label;
+        std::string_view Caption;
+        char Mnemonic;
+    } rows[] = {{covering_, 6, "CARPET TYPE", 'T'},
+                {&Text(Base), 7, "BASE", 'A'},
+                {&Text(RoomNo), 8, "ROOM No.", 'O'},
+                {&Text(Remark), 9, "REMARK", 'K'}};
+    int row = 0;
+    for (const auto& each : rows) {
+        QLabel* label = NewLabelFor(*each.Control, this, IndexedName("Label1", each.Label),
+                                    each.Caption, each.Mnemonic);
+        grid->addWidget(label, row, 0);
+        grid->addWidget(each.Control, row, 1);
+        if (each.Control == &Text(Base)) {
+            const QString example = QStringLiteral("EXAMPLE: W2L1");
+            label->setToolTip(example);
+            each.Control->setToolTip(example);
+        }
+        ++row;
+    }
+    grid->setColumnStretch(1, 1);
+    return group;
+}
+
+QWidget* RoomEntryFrame::NewItemNumberRow() {
+    auto* row = new QWidget(this);
+    auto* layout = new QHBoxLayout(row);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(Pixels(Metrics::Spacing));
+    QLabel* caption = NewLabel(row, IndexedName("Label1", 10), "PROJECT ITEM No.");
+    itemNumber_ = NewLabel(row, IndexedName("Label1", 11), "");
+    SetRole(*caption, TextRole::Hint);
+    SetRole(*itemNumber_, TextRole::Heading);
+    layout->addWidget(caption);
+    layout->addWidget(itemNumber_, 1);
+    return row;
+}
+
+void RoomEntryFrame::Arrange(bool metric) {
+    auto* grid = new QGridLayout(this);
+    SetSpacing(*grid, Metrics::Margin);
+    grid->setSpacing(Pixels(Metrics::Margin));
+    grid->addWidget(NewSizeGroup(metric), 0, 0);
+    grid->addWidget(NewItemNumberRow(), 1, 0, Qt::AlignCenter);
+    grid->addWidget(NewItemGroup(), 0, 1, 2, 1);
+    grid->setColumnStretch(1, 1);
+    auto* row = new QHBoxLayout;
+    row->setSpacing(Pixels(Metrics::Spacing));
+    for (QPushButton* button :
+         {buttons_[Next], buttons_[Previous], buttons_[Delete], estimate_, report_}) {
+        button->ensurePolished();
+        button->setMinimumWidth(std::max(Pixels(Metrics::ButtonWidth), button->sizeHint().width()));
+        row->addWidget(button);
+    }
+    grid->addLayout(row, 2, 0, 1, 2);
+}
+
+void RoomEntryFrame::resizeEvent(QResizeEvent* event) {
+    QGroupBox::resizeEvent(event);
+    const QString caption = accessibleName();
+    const int room = contentsRect().width() - 2 * Pixels(Metrics::Margin);
+    const QString fitting = fontMetrics().elidedText(caption, Qt::ElideRight, room);
+    SetPlainTitle(*this, fitting);
+    setToolTip(fitting == caption ? QString() : caption);
+}
+
+std::optional<int> RoomEntryFrame::IndexOf(const QObject* object) const {
+    const auto* const found = std::find(texts_.begin(), texts_.end(), object);
+    return found == texts_.end() ? std::nullopt
+                                 : std::optional<int>(static_cast<int>(found - texts_.begin()));
+}
+
+RoomFields RoomEntryFrame::Fields() const {
+    const auto text = [this](std::size_t index) { return FromQt(texts_.at(index)->text()); };
+    RoomFields fields{{text(WidthMajor), text(WidthMinor)},
+                      {text(LengthMajor), text(LengthMinor)},
+                      std::nullopt,
+                      text(Base),
+                      TextOf(*texts_[RoomNo], shown_.RoomNo),
+                      TextOf(*texts_[Remark], shown_.Remark)};
+    if (covering_->currentIndex() >= 0) {
+        fields.Covering = static_cast<Byte>(covering_->currentIndex());
+    }
+    return fields;
+}
+
+void RoomEntryFrame::Show(const RoomFields& fields) {
+    shown_ = fields;
+    const std::array<const std::string*, SizeTexts> sizes{
+        &fields.Width.Major, &fields.Width.Minor, &fields.Length.Major, &fields.Length.Minor};
+    for (int i = 0; i < SizeTexts; ++i) {
+        Text(i).setText(ToQt(*sizes.at(static_cast<std::size_t>(i))));
+    }
+    ShowLimited(Text(Base), fields.Base, MaxBaseTextLength);
+    ShowLimited(Text(RoomNo), fields.RoomNo, MaxRoomNoLength);
+    ShowLimited(Text(Remark), fields.Remark, MaxRemarkLength);
+    covering_->setCurrentIndex(fields.Covering ? *fields.Covering : -1);
+}
+
+void RoomEntryFrame::ShowNewRoom() {
+    RoomFields fields;
+    fields.Covering = static_cast<Byte>(std::max(covering_->currentIndex(), 0));
+    Show(fields);
+}
+
+void RoomEntryFrame::SetItemNumber(Integer number) {
+    const QString text = ToQt(TrimStr(number));
+    itemNumber_->setText(text);
+    itemNumber_->setAccessibleName(text);
+}
+
+} // namespace tarn

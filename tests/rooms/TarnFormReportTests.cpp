@@ -1,0 +1,196 @@
+// The room entry screen: the entered-data report.
+
+#include "rooms/Report.h"
+#include "rooms/RoomScreenTesting.h"
+
+#include <QFontInfo>
+#include <QMenu>
+#include <QPlainTextEdit>
+#include <QScrollBar>
+
+namespace tarn {
+namespace {
+
+using namespace tarn::testing;
+
+struct ReportOfRooms : RoomScreen {
+    QPlainTextEdit& View() const { return Find<QPlainTextEdit>(*form, "Text2"); }
+    bool IsReportShown() const { return Find(*form, "Frame4").isVisible(); }
+    void ExpectEntryShown() const {
+        EXPECT_FALSE(IsReportShown());
+        for (const char* name : {"Frame1", "Back", SaveButton}) {
+            EXPECT_TRUE(Find(*form, name).isVisible()) << name;
+            EXPECT_TRUE(Find(*form, name).isEnabled()) << name;
+        }
+        EXPECT_TRUE(Find<QMenu>(*form, "FMnu").menuAction()->isEnabled());
+    }
+    std::string Expected() const { return LoadReport(state, ShortDate(2026, 3, 14)); }
+};
+
+TEST_F(ReportOfRooms, ListsAllRoomsWithTheOneOnTheScreen) {
+    AddRooms(2);
+    Open();
+    TypeSizes({"12", "6", "14", ""});
+    TypeInto(6, "hall");
+    ClickOn("RepMnu");
+    EXPECT_EQ(state.ObjNum, 3);
+    EXPECT_TRUE(IsReportShown());
+    const QString shown = View().toPlainText();
+    EXPECT_EQ(shown, ToQtLines(Expected()));
+    EXPECT_TRUE(shown.contains(QStringLiteral("ENTERED DATA REPORT")));
+    EXPECT_TRUE(shown.contains(QStringLiteral("hall    \n")));
+    EXPECT_TRUE(View().hasFocus());
+}
+
+TEST_F(ReportOfRooms, HasNoRowWithoutRooms) {
+    Open();
+    ClickOn("RepMnu");
+    EXPECT_TRUE(boxes.Messages.empty());
+    EXPECT_TRUE(View().toPlainText().endsWith(QString(75, QLatin1Char('=')) + QLatin1Char('\n')));
+}
+
+TEST_F(ReportOfRooms, LeavesNothingElseToUse) {
+    AddRooms(1);
+    Open();
+    ClickOn("RepMnu");
+    EXPECT_FALSE(Find(*form, "Back").isVisible());
+    EXPECT_FALSE(Find(*form, SaveButton).isVisible());
+    EXPECT_FALSE(Find(*form, "Frame1").isEnabled());
+    EXPECT_FALSE(Find<QMenu>(*form, "FMnu").menuAction()->isEnabled());
+    Press(*form, Qt::Key_F, Qt::AltModifier);
+    Press(*form, Qt::Key_S, Qt::AltModifier);
+    Press(*form, Qt::Key_B, Qt::AltModifier);
+    EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+    EXPECT_TRUE(boxes.Messages.empty());
+    EXPECT_TRUE(screens.Calls.empty());
+    for (const char* name : {"Text2", "Command2(0)", "Command2(1)", "Text2"}) {
+        EXPECT_TRUE(HasFocus(name)) << name;
+        Press(*form, Qt::Key_Tab);
+    }
+}
+
+TEST_F(ReportOfRooms, IsReadOnlyInFixedPitchAndScrollsBothWays) {
+    AddRooms(60);
+    state.RoomRemark[0] = std::string(200, 'r');
+    Open();
+    ClickOn("RepMnu");
+    EXPECT_TRUE(View().isReadOnly());
+    EXPECT_TRUE(View().textInteractionFlags().testFlag(Qt::TextSelectableByKeyboard));
+    const QString before = View().toPlainText();
+    Type(View(), "x");
+    EXPECT_EQ(View().toPlainText(), before);
+    EXPECT_EQ(View().font().family(), QStringLiteral("Courier New"));
+    EXPECT_TRUE(QFontInfo(View().font()).fixedPitch());
+    EXPECT_EQ(View().lineWrapMode(), QPlainTextEdit::NoWrap);
+    EXPECT_TRUE(QTest::qWaitFor([&] {
+        return View().verticalScrollBar()->maximum() > 0 &&
+               View().horizontalScrollBar()->maximum() > 0;
+    }));
+    Press(*form, Qt::Key_End, Qt::ControlModifier);
+    EXPECT_GT(View().verticalScrollBar()->value(), 0);
+}
+
+TEST_F(ReportOfRooms, FillsTheScreenBelowTheTitles) {
+    AddRooms(1);
+    for (const auto& [width, height] : {std::pair{800, 600}, std::pair{1920, 1080}}) {
+        Open(width, height);
+        ClickOn("RepMnu");
+        const QWidget& frame = Find(*form, "Frame4");
+        const QWidget& body = *frame.parentWidget();
+        EXPECT_EQ(frame.y(), 113);
+        EXPECT_GT(frame.width(), width - 40);
+        EXPECT_GT(frame.geometry().bottom(), body.height() - 24);
+        EXPECT_LT(frame.geometry().bottom(), body.height());
+        EXPECT_EQ(Find(*form, "PTitle").y(), 0);
+        form->close();
+    }
+}
+
+TEST_F(ReportOfRooms, IsPrintedAndClosed) {
+    AddRooms(2);
+    Open();
+    ClickOn("RepMnu");
+    ClickOn("Command2(0)");
+    EXPECT_EQ(printer.Reports, Lines{Expected()}) << "the lines end in CrLf";
+    ExpectEntryShown();
+    EXPECT_TRUE(HasFocus("Text1(0)"));
+    EXPECT_TRUE(boxes.Messages.empty());
+}
+
+TEST_F(ReportOfRooms, StaysOpenWhenItCannotBePrinted) {
+    AddRooms(1);
+    printer.Failure = "There is no printer.";
+    Open();
+    ClickOn("RepMnu");
+    ClickOn("Command2(0)");
+    EXPECT_EQ(boxes.Messages, Lines{"Warning: Your printer is not ready!\r\n\r\n"
+                                    "You couldn't print in the program"});
+    EXPECT_TRUE(IsReportShown());
+    printer.Failure.clear();
+    Find(*form, "Command2(0)").setFocus();
+    Press(*form, Qt::Key_Return);
+    EXPECT_EQ(printer.Reports.size(), 1U);
+    ExpectEntryShown();
+}
+
+TEST_F(ReportOfRooms, ClosesOntoTheRoomAsItStood) {
+    AddRooms(2);
+    Open();
+    ClickOn(PreviousButton);
+    TypeInto(6, "!");
+    const Lines typed = Texts();
+    ClickOn("RepMnu");
+    ClickOn("Command2(1)");
+    ExpectEntryShown();
+    EXPECT_EQ(Texts(), typed);
+    EXPECT_EQ(Item(), "2");
+    EXPECT_TRUE(HasFocus("Text1(0)"));
+    EXPECT_TRUE(printer.Reports.empty());
+    EXPECT_EQ(state.RoomRemark[1], "remark 1!");
+}
+
+TEST_F(ReportOfRooms, IsMadeBesideAHalfTypedRoomWhichStays) {
+    AddRooms(1);
+    Open();
+    TypeSizes({"12"});
+    TypeInto(6, "hall");
+    const Lines typed = Texts();
+    ClickOn("RepMnu");
+    EXPECT_EQ(boxes.Messages, Lines{WrongSize});
+    EXPECT_TRUE(IsReportShown());
+    EXPECT_EQ(state.ObjNum, 1);
+    ClickOn("Command2(1)");
+    EXPECT_EQ(Texts(), typed);
+}
+
+TEST_F(ReportOfRooms, LeavesByTheFrameWithTheRoomInMemory) {
+    Open();
+    TypeSizes({"12", "6", "14", ""});
+    ClickOn("RepMnu");
+    form->CloseByFrame();
+    EXPECT_EQ(screens.Calls, Lines{"menu returning"});
+    EXPECT_EQ(state.ObjNum, 1);
+}
+
+TEST_F(ReportOfRooms, IsNotShownWhenABaseLengthOverflows) {
+    AddRooms(1);
+    Open();
+    TypeSizes({"2000", "", "2000", ""});
+    TypeInto(4, "W1L1");
+    ClickOn("RepMnu");
+    ASSERT_EQ(boxes.Messages.size(), 1U);
+    EXPECT_TRUE(boxes.Messages[0].starts_with("Run-time error '6':\r\n\r\nOverflow\r\n"
+                                              "The report could not be made. "))
+        << boxes.Messages[0];
+    EXPECT_NE(boxes.Messages[0].find("room 2"), std::string::npos) << boxes.Messages[0];
+    ExpectEntryShown();
+    EXPECT_EQ(TakeRooms(state), project.StoredRooms) << "the room was taken back";
+    EXPECT_EQ(Texts(), (Lines{"2000", "", "2000", "", "W1L1", "", ""}));
+    EXPECT_EQ(Item(), "2");
+    ClickOn(NextButton);
+    EXPECT_EQ(state.ObjNum, 2) << "it can still be stored";
+    EXPECT_EQ(Item(), "3");
+}
+
+} // namespace
+} // namespace tarn
