@@ -11,6 +11,7 @@ namespace {
 
 constexpr Double TwipsPerPoint = 20;
 constexpr Double ArialLineHeight = 1.15; ///< of the type size
+constexpr Double ArialAscent = 0.905;    ///< of the type size
 
 /// Advance widths of the characters 32 .. 126 of Arial, in thousandths of the type size. Its metric
 /// equivalents have the same.
@@ -29,6 +30,30 @@ int LetterWidth(unsigned char c) {
 }
 
 } // namespace
+
+std::string_view ColorText(QBColor color) {
+    switch (color) {
+    case QBColor::Green:
+        return "#008000";
+    case QBColor::Red:
+        return "#FF0000";
+    case QBColor::Black:
+        break;
+    }
+    return "#000000";
+}
+
+Double LetterHeight(Double fontSize) {
+    return fontSize * TwipsPerPoint;
+}
+
+Double HeightOfLine(Double fontSize) {
+    return fontSize * TwipsPerPoint * ArialLineHeight;
+}
+
+Double AscentOfLine(Double fontSize) {
+    return ArialAscent * LetterHeight(fontSize);
+}
 
 void Picture::Cls() {
     steps_.clear();
@@ -67,7 +92,7 @@ void Picture::Print(std::string_view text) {
 }
 
 Double Picture::LineHeight() const {
-    return FontSize * TwipsPerPoint * ArialLineHeight;
+    return HeightOfLine(FontSize);
 }
 
 Double Picture::TextWidth(std::string_view utf8) const {

@@ -10,6 +10,14 @@ namespace tarn {
 
 /// The colours of a drawing, by their code.
 enum class QBColor { Black = 0, Green = 2, Red = 12 };
+/// The same as "#RRGGBB".
+std::string_view ColorText(QBColor color);
+
+/// How a drawing's lines and letters are made, twips; of type sizes in points.
+inline constexpr Double DrawnLineWidth = 15;
+Double LetterHeight(Double fontSize); ///< the size itself
+Double HeightOfLine(Double fontSize); ///< from a line's top to the next line's
+Double AscentOfLine(Double fontSize); ///< from a line's top to what its letters stand on
 
 /// One step of a drawing. Positions and sizes are twips (1/1440 inch), type sizes points.
 struct DrawingStep {

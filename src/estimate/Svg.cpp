@@ -11,10 +11,7 @@ namespace tarn {
 namespace {
 
 constexpr Double TwipsPerPixel = 15;
-constexpr Double TwipsPerPoint = 20;
-constexpr Double Margin = 100;        ///< beyond the farthest point drawn, twips
-constexpr Double LineWidth = 15;      ///< twips
-constexpr Double ArialAscent = 0.905; ///< from a line's top to its baseline, of the type size
+constexpr Double Margin = 100; ///< beyond the farthest point drawn, twips
 
 std::string Number(Double value) {
     return Format(value, "0.00");
@@ -39,18 +36,6 @@ std::string Escaped(std::string_view text) {
     return Allowed(text).toHtmlEscaped().toStdString();
 }
 
-std::string_view ColorText(QBColor color) {
-    switch (color) {
-    case QBColor::Green:
-        return "#008000";
-    case QBColor::Red:
-        return "#FF0000";
-    case QBColor::Black:
-        break;
-    }
-    return "#000000";
-}
-
 std::string Attribute(std::string_view name, std::string_view value) {
     return " " + std::string(name) + "=\"" + std::string(value) + "\"";
 }
@@ -69,10 +54,9 @@ std::string BoxElement(const DrawingStep& step) {
 /// The text keeps its width where the viewer has to take a wider face, so that a size stays inside
 /// its piece.
 std::string TextElement(const DrawingStep& step) {
-    const Double size = step.FontSize * TwipsPerPoint;
     return "<text" + Attribute("x", Number(step.X1)) +
-           Attribute("y", Number(step.Y1 + ArialAscent * size)) +
-           Attribute("font-size", Number(size)) +
+           Attribute("y", Number(step.Y1 + AscentOfLine(step.FontSize))) +
+           Attribute("font-size", Number(LetterHeight(step.FontSize))) +
            Attribute("textLength", Number(step.X2 - step.X1)) +
            " lengthAdjust=\"spacingAndGlyphs\"" + Attribute("fill", ColorText(step.Color)) + ">" +
            Escaped(step.Text) + "</text>\n";
@@ -90,7 +74,7 @@ std::string SvgDocument(const Picture& picture, const std::string& title) {
                       Attribute("viewBox", "0 0 " + Number(width) + " " + Number(height)) + ">\n";
     svg += "<title>" + Escaped(title) + "</title>\n";
     svg += "<rect width=\"100%\" height=\"100%\" fill=\"#FFFFFF\"/>\n";
-    svg += "<g fill=\"none\"" + Attribute("stroke-width", Number(LineWidth)) +
+    svg += "<g fill=\"none\"" + Attribute("stroke-width", Number(DrawnLineWidth)) +
            " font-family=\"Arial, Liberation Sans, Helvetica, sans-serif\""
            " xml:space=\"preserve\" pointer-events=\"all\">\n";
     for (const DrawingStep& step : picture.Steps()) {

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "estimate/Picture.h"
+
+class QPainter;
+
+namespace tarn {
+
+/// Paint the steps of `picture`, in their order, with a painter that is transformed so that one
+/// unit is one twip. Paints no paper. Leaves the painter as it was.
+///
+/// Lines are as wide as drawn, and at least one pixel of the device, and lie on whole pixels. A
+/// text begins at its X1, has the top of its line at Y1 and ends at its X2, whatever face has to
+/// stand in for "Arial". With a clip set, only the steps that reach into it cost anything.
+void PaintDrawing(QPainter& painter, const Picture& picture);
+
+} // namespace tarn
