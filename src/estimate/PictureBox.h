@@ -1,0 +1,88 @@
+#pragma once
+
+#include "app/Dialogs.h"
+#include "estimate/Picture.h"
+
+#include <QAbstractScrollArea>
+
+#include <functional>
+
+namespace tarn {
+
+/// Shows a picture on white paper, scrolls in both directions over everything drawn, and zooms. It
+/// is hidden while the picture is not visible. Its top left is (0, 0) of the picture, which goes on
+/// beyond what is drawn.
+///
+/// The wheel scrolls, with Ctrl it zooms about the pointer; + and - zoom, 0 shows the actual size,
+/// a double click fits the whole drawing; arrows, Page Up, Page Down, Home and End scroll; dragging
+/// moves the paper.
+class PictureBox : public QAbstractScrollArea {
+  public:
+    PictureBox(QWidget* parent, Dialogs& boxes);
+
+    /// The picture. Call one of the next two after changing it.
+    Picture& Drawing() { return picture_; }
+    const Picture& Drawing() const { return picture_; }
+    /// Show the changed picture where the old one was looked at.
+    void ShowChanged();
+    /// Show another picture, from its start. All of it is fitted into the box if that stays
+    /// readable; else its width, but no larger than actual size; else it shows in actual size. It
+    /// is fitted anew as the box changes its size, until the user zooms.
+    void ShowFromStart();
+
+    /// Called with a mouse press, in twips of the picture. Answers whether it was taken; else the
+    /// press begins to drag the paper.
+    std::function<bool(Double x, Double y)> MouseDown = [](Double, Double) { return false; };
+    /// Show by the pointer that the next press is waited for.
+    void SetWaiting(bool waiting);
+
+    /// 1 is actual size.
+    double Zoom() const { return zoom_; }
+    /// Between positions on the viewport, pixels, and those in the picture, twips.
+    QPointF ToTwips(QPointF position) const;
+    QPointF ToViewport(QPointF twips) const;
+
+    /// How to zoom, for the user.
+    static QString ZoomHint();
+
+  protected:
+    bool viewportEvent(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void scrollContentsBy(int dx, int dy) override;
+    void wheelEvent(QWheelEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+
+  private:
+    bool Guard(const std::function<void()>& body) const;
+    double PixelsPerTwip() const;
+    QSizeF DrawnTwips() const;
+    QSize Drawn() const;
+    double FittingZoom() const;
+    double FirstZoom() const;
+    double LeastZoom() const;
+    void Fit(double zoom);
+    void ZoomAbout(QPointF position, double zoom);
+    void ZoomAboutMiddle(double zoom);
+    void Arrange();
+    bool PressZoomKey(int key);
+    bool PressScrollKey(int key);
+    void ShowTip(QPoint position, QPoint global);
+    void UpdatePointer();
+
+    Dialogs& boxes_;
+    Picture picture_;
+    double zoom_ = 1;
+    bool fitted_ = true;   ///< the zoom follows the box
+    bool waiting_ = false; ///< for a press that is taken
+    bool taken_ = false;   ///< the last press was
+    bool dragging_ = false;
+    QPoint dragFrom_;     ///< where the press was, pixels
+    QPoint dragScrolled_; ///< how far it was scrolled then
+};
+
+} // namespace tarn
