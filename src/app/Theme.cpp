@@ -117,6 +117,8 @@ QScrollBar::handle:vertical { min-height: 450tw; }
 QScrollBar::handle:horizontal { min-width: 450tw; }
 QScrollBar::add-line, QScrollBar::sub-line { width: 0; height: 0; }
 QScrollBar::add-page, QScrollBar::sub-page { background: none; }
+#Picture1 { background: white; border: 2px solid @Border; }
+#Picture1:focus { border-color: @Accent; }
 QScrollArea { border: none; background: @Window; }
 )";
 

@@ -24,10 +24,11 @@ constexpr double ReadableZoom = 0.75; ///< 9 point type is then as large as 7 po
 constexpr double LargestFit = 2;      ///< a small drawing on a large display grows no further
 constexpr double LeastOwnZoom = 0.1;  ///< less only to fit a drawing
 constexpr double GreatestZoom = 8;
-constexpr double ZoomStep = 1.25;  ///< for a key or one notch of the wheel
-constexpr double WheelNotch = 120; ///< in the units of a wheel event
-constexpr double MostPixels = 1e9; ///< scroll bars count in int
-constexpr double ScrollStep = 600; ///< twips
+constexpr double ZoomStep = 1.25;      ///< for a key or one notch of the wheel
+constexpr double WheelNotch = 120;     ///< in the units of a wheel event
+constexpr double MostPixels = 1e9;     ///< scroll bars count in int
+constexpr double RoundingError = 1e-3; ///< pixels
+constexpr double ScrollStep = 600;     ///< twips
 
 /// What is written in a picture, for those who cannot see it.
 QString WrittenIn(const Picture& picture) {
@@ -55,8 +56,8 @@ PictureBox::PictureBox(QWidget* parent, Dialogs& boxes)
 }
 
 QString PictureBox::ZoomHint() {
-    return QStringLiteral("Zoom: + and \u2212, or Ctrl and the wheel; 0 shows the actual size, a "
-                          "double click everything.");
+    return QStringLiteral("Zoom: + and \u2212, or Ctrl and wheel.  0: actual size.  "
+                          "Double click: everything.");
 }
 
 void PictureBox::ShowChanged() {
@@ -103,8 +104,10 @@ QSizeF PictureBox::DrawnTwips() const {
 
 QSize PictureBox::Drawn() const {
     const QSizeF size = DrawnTwips() * PixelsPerTwip();
-    return {static_cast<int>(std::ceil(std::min(size.width(), MostPixels))),
-            static_cast<int>(std::ceil(std::min(size.height(), MostPixels)))};
+    const auto pixels = [](double length) {
+        return static_cast<int>(std::ceil(std::min(length, MostPixels) - RoundingError));
+    };
+    return {pixels(size.width()), pixels(size.height())};
 }
 
 double PictureBox::FittingZoom() const {

@@ -1,0 +1,307 @@
+#include "estimate/ESCarpForm.h"
+
+#include "app/Controls.h"
+#include "app/Display.h"
+#include "app/Numbers.h"
+#include "app/QtText.h"
+#include "app/RunTimeError.h"
+#include "app/Theme.h"
+#include "estimate/ElidedLabel.h"
+#include "estimate/EstimatePage.h"
+#include "estimate/LayoutDrawing.h"
+#include "rooms/Report.h"
+#include "rooms/RoomExtents.h"
+
+#include <QEvent>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace tarn {
+
+namespace {
+
+constexpr const char* NoDataMessage = "There is not data in the database";
+constexpr const char* SavedMessage = "Data is saved";
+constexpr const char* EstimateFailure = "The estimate could not be made.";
+constexpr const char* DrawingFailure = "The layout could not be drawn.";
+constexpr const char* SaveFailure = "The project could not be saved.";
+constexpr const char* LeaveFailure = "The screen could not be closed.";
+
+constexpr double LeastPictureWidth = 4500; ///< twips
+constexpr double LeastPictureHeight = 3000;
+
+ElidedLabel* NewElidedLabel(QWidget* parent, const char* name, const QString& text, TextRole role) {
+    auto* label = new ElidedLabel(parent);
+    label->setTextFormat(Qt::PlainText);
+    label->setText(text);
+    label->setToolTip(text.toHtmlEscaped());
+    NameControl(*label, QString::fromLatin1(name), text);
+    SetRole(*label, role);
+    return label;
+}
+
+} // namespace
+
+ESCarpForm::ESCarpForm(Session& session, bool fromMenu)
+    : Screen(session, QStringLiteral("ESCarpForm"))
+    , FromMenu(fromMenu) {
+    EmptyEstimate(State(), Shared().Engine, estimate_);
+    BuildAllRoomExtents(State());
+    Build();
+    Connect();
+    const CarpetsFound carpets = FindCarpets(State());
+    panel_->LoadCData(carpets);
+    panel_->ChooseDefaultWidth();
+    panel_->setVisible(carpets.Lowest.has_value());
+    if (!carpets.Lowest) {
+        Shared().Boxes.Message(NoDataMessage);
+        buttons_[Back]->setEnabled(true);
+    }
+}
+
+void ESCarpForm::Build() {
+    const QString name = ToQt(State().CurProjName);
+    setWindowTitle(QStringLiteral("ESTIMATE FOR PROJECT: ") + name);
+    auto* rows = new QVBoxLayout(&Body());
+    const int margin = Pixels(Metrics::Margin);
+    rows->setContentsMargins(margin, margin, margin, margin);
+    rows->setSpacing(Pixels(Metrics::Spacing));
+    rows->addWidget(NewElidedLabel(&Body(), "FTitle", windowTitle(), TextRole::FormTitle));
+
+    picture_ = new PictureBox(&Body(), Shared().Boxes);
+    picture_->setMinimumSize(Pixels(LeastPictureWidth), Pixels(LeastPictureHeight));
+    auto* columns = new QHBoxLayout;
+    columns->setSpacing(margin);
+    columns->addWidget(picture_, 1);
+    columns->addLayout(BuildButtons());
+    rows->addLayout(columns, 1);
+
+    auto* status = new QHBoxLayout;
+    status->setSpacing(margin);
+    status->addWidget(
+        NewElidedLabel(&Body(), "Label2", QStringLiteral("PROJ: ") + name, TextRole::Label), 1);
+    zoomHint_ = NewLabel(&Body(), QStringLiteral("Label5"), FromQt(PictureBox::ZoomHint()));
+    SetRole(*zoomHint_, TextRole::Hint);
+    zoomHint_->hide();
+    status->addWidget(zoomHint_);
+    rows->addLayout(status);
+
+    panel_ = new ChoicePanel(&Body(), Shared().Boxes, State().IsMetric());
+    panel_->raise();
+    Body().installEventFilter(this);
+    panel_->installEventFilter(this);
+    QWidget::setTabOrder(&panel_->CancelButton(), buttons_[Estimate]);
+    for (const auto& [before, after] :
+         {std::pair(Estimate, PasteCut), std::pair(PasteCut, Redraw), std::pair(Redraw, Print),
+          std::pair(Print, Save), std::pair(Save, Back)}) {
+        QWidget::setTabOrder(buttons_[before], buttons_[after]);
+    }
+    QWidget::setTabOrder(buttons_[Back], picture_);
+}
+
+QVBoxLayout* ESCarpForm::BuildButtons() {
+    buttons_[Back] = NewButton(&Body(), QStringLiteral("Command2"), "BACK", 'B');
+    buttons_[Estimate] = NewButton(&Body(), QStringLiteral("Command3"), "ESTIMATE", 'E');
+    buttons_[PasteCut] = NewButton(&Body(), QStringLiteral("Command4"), "PASTE CUTS", 'P');
+    buttons_[Print] = NewButton(&Body(), QStringLiteral("Command5"), "PRINT", 'I');
+    buttons_[Save] = NewButton(&Body(), QStringLiteral("Command6"), "SAVE", 'S');
+    buttons_[Redraw] = NewButton(&Body(), QStringLiteral("Command7"), "REDRAW", 'R');
+    SetPrimary(*buttons_[Estimate]);
+    auto* column = new QVBoxLayout;
+    column->setSpacing(Pixels(Metrics::Spacing));
+    for (const ButtonIndex index : {Estimate, PasteCut, Redraw, Print, Save, Back}) {
+        if (index == Back) {
+            column->addStretch();
+        }
+        buttons_[index]->setMinimumWidth(Pixels(Metrics::ButtonWidth));
+        buttons_[index]->setEnabled(false);
+        column->addWidget(buttons_[index]);
+    }
+    return column;
+}
+
+void ESCarpForm::Connect() {
+    OnClick(panel_->OkButton(), EstimateFailure, [this] { TakeOk(); });
+    OnClick(panel_->CancelButton(), EstimateFailure, [this] {
+        EnableButtons();
+        ClosePanel();
+    });
+    OnClick(*buttons_[Estimate], EstimateFailure, [this] { OpenPanel(); });
+    OnClick(*buttons_[PasteCut], DrawingFailure, [this] { SetPasteCuts(true); });
+    OnClick(*buttons_[Redraw], DrawingFailure, [this] { RedrawLayout(); });
+    OnClick(*buttons_[Print], {}, [this] { PrintPic(); });
+    OnClick(*buttons_[Save], SaveFailure, [this] { SaveRooms(); });
+    OnClick(*buttons_[Back], LeaveFailure, [this] { Leave(); });
+    picture_->MouseDown = [this](Double x, Double y) { return PictureMouseDown(x, y); };
+}
+
+QWidget* ESCarpForm::FirstFocus() {
+    return panel_->isHidden() ? buttons_[Back] : &panel_->FirstFocus();
+}
+
+void ESCarpForm::OnUncover() {
+    if (panel_->isHidden()) {
+        FocusResult();
+    }
+}
+
+bool ESCarpForm::eventFilter(QObject* watched, QEvent* event) {
+    const bool resized = event->type() == QEvent::Resize && watched == &Body();
+    if (resized || event->type() == QEvent::LayoutRequest ||
+        event->type() == QEvent::ShowToParent) {
+        Guard(DrawingFailure, [this] { PlacePanel(); });
+    }
+    return Screen::eventFilter(watched, event);
+}
+
+/// The panel floats over the middle of the screen, which scrolls where the panel does not fit.
+void ESCarpForm::PlacePanel() {
+    const QSize size = panel_->sizeHint();
+    const int margins = 2 * Pixels(Metrics::Margin);
+    const QSize least = size + QSize(margins, margins);
+    Body().setMinimumSize(least.expandedTo(Body().layout()->minimumSize()));
+    const QPoint centre = Body().rect().center();
+    panel_->setGeometry(
+        QRect(QPoint(centre.x() - size.width() / 2, centre.y() - size.height() / 2), size));
+}
+
+void ESCarpForm::OpenPanel() {
+    panel_->show();
+    panel_->raise();
+    panel_->FocusCarpet();
+}
+
+void ESCarpForm::ClosePanel() {
+    panel_->hide();
+    FocusResult();
+}
+
+void ESCarpForm::EnableButtons() {
+    for (QPushButton* button : buttons_) {
+        button->setEnabled(true);
+    }
+}
+
+void ESCarpForm::FocusResult() {
+    if (picture_->isHidden()) {
+        buttons_[Estimate]->setFocus();
+    } else {
+        picture_->setFocus();
+    }
+}
+
+void ESCarpForm::Empty() {
+    EmptyEstimate(State(), Shared().Engine, estimate_);
+    picture_->Drawing().Cls();
+    picture_->ShowFromStart();
+}
+
+void ESCarpForm::TakeOk() {
+    EnableButtons();
+    const EstimateChoices choices = panel_->Choices();
+    const auto refusal = TakeChoices(Shared().Engine, estimate_, choices, State().IsMetric());
+    if (refusal) {
+        Shared().Boxes.Message(std::string(RefusalMessage(*refusal)));
+        panel_->FocusRefused(*refusal);
+        return;
+    }
+    try {
+        MakeEstimate(choices.DownLay);
+    } catch (const std::exception&) {
+        Empty();
+        throw;
+    }
+    ClosePanel();
+}
+
+void ESCarpForm::MakeEstimate(bool downLay) {
+    Empty();
+    BuildAllRoomExtents(State());
+    switch (ConvertData(State(), Shared().Engine, estimate_, downLay)) {
+    case ConvertResult::Fills:
+        Shared().Go.ShowOptions(*this);
+        break;
+    case ConvertResult::CutsOnly:
+        LayoutReady();
+        break;
+    case ConvertResult::Nothing:
+        break;
+    }
+}
+
+void ESCarpForm::LayoutReady() {
+    Picture& drawing = picture_->Drawing();
+    RedrawPC(drawing, State(), Shared().Engine, estimate_);
+    ShowECutsInfo(drawing, State(), Shared().Engine, estimate_, CutListX, CutListY);
+    picture_->ShowFromStart();
+    zoomHint_->show();
+}
+
+void ESCarpForm::NoLayout() {
+    Empty();
+}
+
+void ESCarpForm::RedrawLayout() {
+    RedrawPC(picture_->Drawing(), State(), Shared().Engine, estimate_);
+    picture_->ShowChanged();
+    zoomHint_->show();
+}
+
+void ESCarpForm::SetPasteCuts(bool paste) {
+    PasteCuts = paste;
+    picture_->SetWaiting(paste);
+}
+
+bool ESCarpForm::PictureMouseDown(Double x, Double y) {
+    if (!PasteCuts) {
+        return false;
+    }
+    Guard(DrawingFailure, [&] {
+        SetPasteCuts(false);
+        ShowECutsInfo(picture_->Drawing(), State(), Shared().Engine, estimate_, x, y);
+        picture_->ShowChanged();
+    });
+    return true;
+}
+
+/// Whatever fails on the way to the paper is told as the printer's failure.
+void ESCarpForm::PrintPic() {
+    try {
+        SendToPrinter();
+    } catch (const std::exception&) {
+        Shared().Boxes.Message(PrinterNotReadyMessage);
+    }
+}
+
+void ESCarpForm::SendToPrinter() {
+    if (State().PrnWidth == 0 || State().PrnHeight == 0) {
+        const Printer::PageSize size = Shared().Paper.Page();
+        const Integer width = CInt(size.Width);
+        const Integer height = CInt(size.Height);
+        State().PrnWidth = width;
+        State().PrnHeight = height;
+    }
+    const QDate today = Shared().Today();
+    Shared().Paper.PrintEstimate(
+        MakeEstimatePage(State(), Shared().Engine, estimate_, picture_->Drawing(),
+                         ShortDate(today.year(), today.month(), today.day())));
+}
+
+void ESCarpForm::SaveRooms() {
+    if (!SaveOpenProject(State(), Shared().Project)) {
+        throw DatabaseError(State().DatabaseFailure);
+    }
+    Shared().Boxes.Message(SavedMessage);
+}
+
+void ESCarpForm::Leave() {
+    if (FromMenu) {
+        Shared().Go.ShowMenu(MenuEntry::Returning);
+    } else {
+        Shared().Go.Return();
+    }
+}
+
+} // namespace tarn
