@@ -55,10 +55,7 @@ class Brush {
                          QPointF(std::min(box.right(), visible_->right()),
                                  std::min(box.bottom(), visible_->bottom())));
         }
-        QPen pen(ColorOf(step.Color), lineWidth_ / scale_);
-        pen.setJoinStyle(Qt::MiterJoin);
-        painter_.setPen(pen);
-        painter_.drawRect(OnWholePixels(box));
+        FillOutline(OnWholePixels(box), ColorOf(step.Color));
     }
 
     void Text(const DrawingStep& step) {
@@ -92,13 +89,25 @@ class Brush {
                box.bottom() >= visible_->top() && box.top() <= visible_->bottom();
     }
 
+    /// The box in device pixels, its top left pixel and its bottom right one included.
     QRectF OnWholePixels(const QRectF& box) const {
-        const double half = std::fmod(lineWidth_, 2) / 2;
-        const auto snapped = [half](double value) { return std::round(value - half) + half; };
+        const double half = lineWidth_ / 2;
         const QRectF device = toDevice_.mapRect(box);
-        return fromDevice_.mapRect(
-            QRectF(QPointF(snapped(device.left()), snapped(device.top())),
-                   QPointF(snapped(device.right()), snapped(device.bottom()))));
+        return QRectF(QPointF(std::round(device.left() - half), std::round(device.top() - half)),
+                      QPointF(std::round(device.right() - half) + lineWidth_,
+                              std::round(device.bottom() - half) + lineWidth_));
+    }
+
+    /// Four strips: a stroke would leave the corners pale.
+    void FillOutline(const QRectF& device, const QColor& color) {
+        const double thick = lineWidth_;
+        const auto fill = [&](double x, double y, double width, double height) {
+            painter_.fillRect(fromDevice_.mapRect(QRectF(x, y, width, height)), color);
+        };
+        fill(device.left(), device.top(), device.width(), thick);
+        fill(device.left(), device.bottom() - thick, device.width(), thick);
+        fill(device.left(), device.top(), thick, device.height());
+        fill(device.right() - thick, device.top(), thick, device.height());
     }
 
     QPainter& painter_;
@@ -116,9 +125,9 @@ class Brush {
 
 void PaintDrawing(QPainter& painter, const Picture& picture) {
     painter.save();
-    painter.setRenderHint(QPainter::Antialiasing);
+    // Lines lie on whole pixels; letters do not.
+    painter.setRenderHint(QPainter::Antialiasing, false);
     painter.setRenderHint(QPainter::TextAntialiasing);
-    painter.setBrush(Qt::NoBrush);
     Brush brush(painter);
     for (const DrawingStep& step : picture.Steps()) {
         if (step.What == DrawingStep::Kind::Box) {

@@ -1,0 +1,321 @@
+#include "app/Display.h"
+#include "estimate/PictureBox.h"
+#include "screens/ScreenTesting.h"
+
+#include <QHelpEvent>
+#include <QScrollBar>
+#include <QToolTip>
+#include <QWheelEvent>
+
+#include <gtest/gtest.h>
+
+namespace tarn {
+namespace {
+
+using namespace tarn::testing;
+
+struct PictureBoxTest : ::testing::Test {
+    PictureBoxTest() { box.resize(600, 500); }
+
+    /// Draw a box from the start of a roll to there, and a line of text.
+    void Draw(double right, double bottom) {
+        Picture& picture = box.Drawing();
+        picture.Cls();
+        picture.Line(7500, 500, right, bottom, QBColor::Red, "A: 1'0\" X 2'0\"");
+        picture.CurrentX = 100;
+        picture.CurrentY = 100;
+        picture.Print("Carpet-1");
+        picture.Visible = true;
+        box.ShowFromStart();
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(&box));
+        box.activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&box));
+        Focus(box);
+    }
+    QWidget& Paper() { return *box.viewport(); }
+    int Across() const { return box.horizontalScrollBar()->value(); }
+    int Down() const { return box.verticalScrollBar()->value(); }
+    void Wheel(QPoint at, QPoint delta, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+        QWheelEvent event(at, Paper().mapToGlobal(at), {}, delta, Qt::NoButton, modifiers,
+                          Qt::NoScrollPhase, false);
+        QApplication::sendEvent(&Paper(), &event);
+    }
+    QString TipAt(QPoint at) {
+        QHelpEvent event(QEvent::ToolTip, at, Paper().mapToGlobal(at));
+        QApplication::sendEvent(&Paper(), &event);
+        return QToolTip::text();
+    }
+    bool ShowsWholeDrawing() const {
+        const QPointF corner =
+            box.ToViewport({box.Drawing().FarthestX(), box.Drawing().FarthestY()});
+        return Across() == 0 && Down() == 0 && corner.x() < box.viewport()->width() &&
+               corner.y() < box.viewport()->height();
+    }
+
+    FakeBoxes boxes;
+    PictureBox box{nullptr, boxes};
+};
+
+TEST_F(PictureBoxTest, IsHiddenUntilThePictureIsVisible) {
+    box.ShowFromStart();
+    EXPECT_TRUE(box.isHidden());
+    box.Drawing().Visible = true;
+    box.ShowChanged();
+    EXPECT_TRUE(box.isVisible());
+}
+
+TEST_F(PictureBoxTest, TellsItsNameAndWhatIsWrittenInIt) {
+    Draw(11000, 7000);
+    EXPECT_EQ(box.objectName(), QStringLiteral("Picture1"));
+    EXPECT_EQ(box.accessibleName(), QStringLiteral("Layout drawing"));
+    EXPECT_EQ(box.accessibleDescription(), QStringLiteral("Carpet-1"));
+}
+
+TEST_F(PictureBoxTest, FitsADrawingThatStaysReadable) {
+    Draw(10900, 6900);
+    EXPECT_GE(box.Zoom(), 0.75);
+    EXPECT_LT(box.Zoom(), 1);
+    EXPECT_TRUE(ShowsWholeDrawing());
+    EXPECT_EQ(box.horizontalScrollBar()->maximum(), 0);
+    EXPECT_EQ(box.verticalScrollBar()->maximum(), 0);
+}
+
+TEST_F(PictureBoxTest, EnlargesASmallDrawingOnALargeDisplayOnlySoFar) {
+    box.resize(1500, 900);
+    Draw(10900, 6900);
+    EXPECT_GT(box.Zoom(), 1.5);
+    EXPECT_TRUE(ShowsWholeDrawing());
+    box.resize(5000, 5000);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return box.Zoom() == 2; })) << box.Zoom();
+}
+
+TEST_F(PictureBoxTest, FitsTheWidthOfALongDrawing) {
+    Draw(10900, 40000);
+    EXPECT_GE(box.Zoom(), 0.75);
+    EXPECT_LT(box.Zoom(), 1);
+    EXPECT_EQ(box.horizontalScrollBar()->maximum(), 0);
+    EXPECT_GT(box.verticalScrollBar()->maximum(), 0);
+    box.resize(1500, 500);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return box.Zoom() == 1; })) << "no larger than actual size";
+}
+
+TEST_F(PictureBoxTest, ShowsAWideDrawingInActualSize) {
+    Draw(60000, 6900);
+    EXPECT_EQ(box.Zoom(), 1);
+    EXPECT_GT(box.horizontalScrollBar()->maximum(), 0);
+}
+
+TEST_F(PictureBoxTest, FollowsItsSizeUntilTheUserZooms) {
+    Draw(10900, 6900);
+    const double before = box.Zoom();
+    box.resize(700, 560);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return box.Zoom() > before; }));
+    Press(box, Qt::Key_0);
+    box.resize(650, 500);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return box.viewport()->width() < 660; }));
+    EXPECT_EQ(box.Zoom(), 1);
+}
+
+TEST_F(PictureBoxTest, ReachesEveryCornerOfTheDrawingAtAnySizeAndZoom) {
+    for (const QSize size : {QSize(320, 220), QSize(600, 500), QSize(1700, 1000)}) {
+        box.resize(size);
+        for (const QPointF corner :
+             {QPointF(10900, 6900), QPointF(9000, 200000), QPointF(80000, 7000)}) {
+            Draw(corner.x(), corner.y());
+            for (int zoomed = 0; zoomed < 6; ++zoomed) {
+                box.horizontalScrollBar()->setValue(1 << 30);
+                box.verticalScrollBar()->setValue(1 << 30);
+                const QPointF farthest(box.Drawing().FarthestX(), box.Drawing().FarthestY());
+                EXPECT_TRUE(QTest::qWaitFor([&] {
+                    return QRectF(Paper().rect()).contains(box.ToViewport(farthest));
+                })) << box.Zoom();
+                Press(box, Qt::Key_Home);
+                box.horizontalScrollBar()->setValue(0);
+                EXPECT_EQ(box.ToViewport({0, 0}), QPointF(0, 0));
+                Press(box, zoomed < 2 ? Qt::Key_Minus : Qt::Key_Plus);
+            }
+        }
+    }
+}
+
+TEST_F(PictureBoxTest, ScrollsWithTheWheel) {
+    Draw(60000, 60000);
+    Wheel({50, 50}, {0, -120});
+    EXPECT_GT(Down(), 0);
+    EXPECT_EQ(Across(), 0);
+    Wheel({50, 50}, {0, 120});
+    EXPECT_EQ(Down(), 0);
+    Wheel({50, 50}, {-120, 0});
+    EXPECT_GT(Across(), 0);
+    EXPECT_EQ(box.Zoom(), 1);
+}
+
+TEST_F(PictureBoxTest, ZoomsAboutThePointerWithCtrlAndTheWheel) {
+    Draw(60000, 60000);
+    box.horizontalScrollBar()->setValue(900);
+    box.verticalScrollBar()->setValue(700);
+    const QPoint at(310, 205);
+    const QPointF under = box.ToTwips(at);
+    Wheel(at, {0, 240}, Qt::ControlModifier);
+    EXPECT_DOUBLE_EQ(box.Zoom(), 1.25 * 1.25);
+    EXPECT_NEAR(box.ToTwips(at).x(), under.x(), 15);
+    EXPECT_NEAR(box.ToTwips(at).y(), under.y(), 15);
+    Wheel(at, {0, -120}, Qt::ControlModifier);
+    EXPECT_DOUBLE_EQ(box.Zoom(), 1.25);
+    EXPECT_NEAR(box.ToTwips(at).x(), under.x(), 15);
+}
+
+TEST_F(PictureBoxTest, ZoomsWithKeysWithinBounds) {
+    Draw(60000, 60000);
+    Press(box, Qt::Key_Plus);
+    EXPECT_DOUBLE_EQ(box.Zoom(), 1.25);
+    Press(box, Qt::Key_Equal);
+    EXPECT_DOUBLE_EQ(box.Zoom(), 1.5625);
+    Press(box, Qt::Key_Minus);
+    EXPECT_DOUBLE_EQ(box.Zoom(), 1.25);
+    for (int i = 0; i < 20; ++i) {
+        Press(box, Qt::Key_Plus);
+    }
+    EXPECT_EQ(box.Zoom(), 8);
+    for (int i = 0; i < 40; ++i) {
+        Press(box, Qt::Key_Minus);
+    }
+    EXPECT_DOUBLE_EQ(box.Zoom(), 0.1);
+    EXPECT_TRUE(ShowsWholeDrawing());
+    Press(box, Qt::Key_0);
+    EXPECT_EQ(box.Zoom(), 1);
+}
+
+TEST_F(PictureBoxTest, ScrollsWithKeys) {
+    Draw(60000, 60000);
+    Press(box, Qt::Key_Down);
+    const int step = Down();
+    EXPECT_GT(step, 0);
+    Press(box, Qt::Key_PageDown);
+    EXPECT_GT(Down(), step + Paper().height() / 2);
+    Press(box, Qt::Key_PageUp);
+    EXPECT_EQ(Down(), step);
+    Press(box, Qt::Key_Up);
+    EXPECT_EQ(Down(), 0);
+    Press(box, Qt::Key_Right);
+    EXPECT_GT(Across(), 0);
+    Press(box, Qt::Key_Left);
+    EXPECT_EQ(Across(), 0);
+    Press(box, Qt::Key_End);
+    EXPECT_EQ(Down(), box.verticalScrollBar()->maximum());
+    Press(box, Qt::Key_Home);
+    EXPECT_EQ(Down(), 0);
+}
+
+TEST_F(PictureBoxTest, FitsEverythingOnADoubleClick) {
+    Draw(9000, 2000000);
+    EXPECT_FALSE(ShowsWholeDrawing());
+    DoubleClick(Paper());
+    EXPECT_TRUE(ShowsWholeDrawing());
+    EXPECT_LT(box.Zoom(), 0.1);
+    Press(box, Qt::Key_Minus);
+    EXPECT_TRUE(ShowsWholeDrawing());
+}
+
+TEST_F(PictureBoxTest, MovesThePaperByDragging) {
+    Draw(60000, 60000);
+    box.verticalScrollBar()->setValue(300);
+    QTest::mousePress(&Paper(), Qt::LeftButton, {}, {200, 200});
+    QTest::mouseMove(&Paper(), {150, 180});
+    QTest::mouseRelease(&Paper(), Qt::LeftButton, {}, {150, 180});
+    EXPECT_EQ(Across(), 50);
+    EXPECT_EQ(Down(), 320);
+    QTest::mouseMove(&Paper(), {10, 10});
+    EXPECT_EQ(Across(), 50);
+}
+
+TEST_F(PictureBoxTest, GivesAPressInTwips) {
+    Draw(60000, 60000);
+    Press(box, Qt::Key_Plus);
+    box.horizontalScrollBar()->setValue(75);
+    box.verticalScrollBar()->setValue(150);
+    std::vector<QPointF> presses;
+    box.MouseDown = [&](Double x, Double y) {
+        presses.emplace_back(x, y);
+        return true;
+    };
+    QTest::mouseClick(&Paper(), Qt::LeftButton, {}, {50, 100});
+    ASSERT_EQ(presses.size(), 1U);
+    EXPECT_NEAR(presses[0].x(), (50 + 75) * 15 / 1.25, 0.5);
+    EXPECT_NEAR(presses[0].y(), (100 + 150) * 15 / 1.25, 0.5);
+}
+
+TEST_F(PictureBoxTest, APressThatIsTakenNeitherDragsNorFits) {
+    Draw(60000, 60000);
+    bool take = true;
+    int presses = 0;
+    box.MouseDown = [&](Double, Double) {
+        ++presses;
+        return std::exchange(take, false);
+    };
+    QTest::mousePress(&Paper(), Qt::LeftButton, {}, {200, 200});
+    QTest::mouseMove(&Paper(), {150, 180});
+    EXPECT_EQ(Across(), 0);
+    QTest::mouseRelease(&Paper(), Qt::LeftButton, {}, {150, 180});
+    take = true;
+    QTest::mouseClick(&Paper(), Qt::LeftButton, {}, {100, 100});
+    QTest::mouseDClick(&Paper(), Qt::LeftButton, {}, {100, 100});
+    EXPECT_EQ(box.Zoom(), 1);
+    EXPECT_EQ(presses, 3);
+}
+
+TEST_F(PictureBoxTest, ShowsByThePointerWhatAPressDoes) {
+    Draw(60000, 60000);
+    EXPECT_EQ(Paper().cursor().shape(), Qt::OpenHandCursor);
+    box.SetWaiting(true);
+    EXPECT_EQ(Paper().cursor().shape(), Qt::CrossCursor);
+    box.SetWaiting(false);
+    Draw(10900, 6900);
+    EXPECT_EQ(Paper().cursor().shape(), Qt::ArrowCursor) << "nothing to scroll";
+}
+
+TEST_F(PictureBoxTest, TellsWhatAPieceIsAndElsewhereHowToZoom) {
+    Draw(10900, 6900);
+    EXPECT_EQ(TipAt(box.ToViewport({8000, 3000}).toPoint()), QStringLiteral("A: 1'0\" X 2'0\""));
+    EXPECT_EQ(TipAt(box.ToViewport({3000, 3000}).toPoint()), PictureBox::ZoomHint());
+}
+
+TEST_F(PictureBoxTest, ShowsWhitePaperAndTheDrawingWhereItIsScrolledTo) {
+    Draw(60000, 60000);
+    Press(box, Qt::Key_End);
+    Press(box, Qt::Key_Right);
+    const QImage scrolled = Paper().grab().toImage();
+    EXPECT_EQ(scrolled.pixelColor(5, 5), QColor(Qt::white));
+    const QPoint corner = box.ToViewport({7500, 60000}).toPoint();
+    int red = 0;
+    for (int y = corner.y() - 1; y <= corner.y() + 1; ++y) {
+        red += scrolled.pixelColor(corner.x() + 20, y) == QColor(255, 0, 0) ? 1 : 0;
+    }
+    EXPECT_EQ(red, 1) << "the lower edge";
+}
+
+TEST_F(PictureBoxTest, KeepsWhereItIsLookedAtWhenThePictureChanges) {
+    Draw(60000, 60000);
+    Press(box, Qt::Key_Plus);
+    box.verticalScrollBar()->setValue(500);
+    box.Drawing().CurrentY = 100000;
+    box.Drawing().Print("further down");
+    const int before = box.verticalScrollBar()->maximum();
+    box.ShowChanged();
+    EXPECT_EQ(Down(), 500);
+    EXPECT_DOUBLE_EQ(box.Zoom(), 1.25);
+    EXPECT_GT(box.verticalScrollBar()->maximum(), before);
+    Draw(60000, 60000);
+    EXPECT_EQ(Down(), 0);
+    EXPECT_EQ(box.Zoom(), 1);
+}
+
+TEST_F(PictureBoxTest, TurnsAnErrorOfAPressIntoAMessage) {
+    Draw(10900, 6900);
+    box.MouseDown = [](Double, Double) -> bool { throw std::runtime_error("No."); };
+    Click(Paper());
+    EXPECT_EQ(boxes.Messages, std::vector<std::string>{"The layout could not be shown. No."});
+}
+
+} // namespace
+} // namespace tarn
