@@ -162,9 +162,8 @@ void ESCarpForm::PlacePanel() {
     const int margins = 2 * Pixels(Metrics::Margin);
     const QSize least = size + QSize(margins, margins);
     Body().setMinimumSize(least.expandedTo(Body().layout()->minimumSize()));
-    const QPoint centre = Body().rect().center();
-    panel_->setGeometry(
-        QRect(QPoint(centre.x() - size.width() / 2, centre.y() - size.height() / 2), size));
+    const QSize left = Body().size() - size;
+    panel_->setGeometry(QRect(QPoint(left.width() / 2, left.height() / 2), size));
 }
 
 void ESCarpForm::OpenPanel() {
