@@ -61,7 +61,8 @@ class Brush {
     void Text(const DrawingStep& step) {
         const QRectF line(QPointF(step.X1, step.Y1),
                           QPointF(step.X2, step.Y1 + HeightOfLine(step.FontSize)));
-        if (step.Text.empty() || (visible_ && !Reaches(line))) {
+        const bool legible = LetterHeight(step.FontSize) * scale_ >= 1;
+        if (!legible || step.Text.empty() || (visible_ && !Reaches(line))) {
             return;
         }
         if (fontSize_ != step.FontSize) {

@@ -11,7 +11,8 @@ namespace tarn {
 ///
 /// Lines are as wide as drawn, and at least one pixel of the device, and lie on whole pixels. A
 /// text begins at its X1, has the top of its line at Y1 and ends at its X2, whatever face has to
-/// stand in for "Arial". With a clip set, only the steps that reach into it cost anything.
+/// stand in for "Arial"; letters lower than a pixel are left out. With a clip set, only the steps
+/// that reach into it cost anything.
 void PaintDrawing(QPainter& painter, const Picture& picture);
 
 } // namespace tarn

@@ -171,6 +171,11 @@ TEST(PaintDrawing, LeavesThePainterAsItWas) {
     EXPECT_TRUE(painter.testRenderHint(QPainter::Antialiasing));
 }
 
+TEST(PaintDrawing, LeavesOutLettersLowerThanAPixel) {
+    EXPECT_FALSE(Ink(Painted(WithText("MMMMMMMM"), {80, 80}, 0.07)).isNull());
+    EXPECT_TRUE(Ink(Painted(WithText("MMMMMMMM"), {80, 80}, 0.06)).isNull());
+}
+
 TEST(PaintDrawing, OfNothingPaintsNothing) {
     EXPECT_TRUE(Ink(Painted(Picture(), {20, 20})).isNull());
     EXPECT_TRUE(Ink(Painted(WithText(""), {80, 80})).isNull());
