@@ -90,13 +90,17 @@ class Brush {
                box.bottom() >= visible_->top() && box.top() <= visible_->bottom();
     }
 
-    /// The box in device pixels, its top left pixel and its bottom right one included.
+    /// The box in device pixels, with the thickness of its lines. The same box falls on the same
+    /// pixels of the paper wherever that is scrolled to.
     QRectF OnWholePixels(const QRectF& box) const {
-        const double half = lineWidth_ / 2;
+        constexpr double RoundingError = 1e-4;
+        const auto first = [this](double edge) {
+            return std::floor(edge - lineWidth_ / 2 + 0.5 + RoundingError);
+        };
         const QRectF device = toDevice_.mapRect(box);
-        return QRectF(QPointF(std::round(device.left() - half), std::round(device.top() - half)),
-                      QPointF(std::round(device.right() - half) + lineWidth_,
-                              std::round(device.bottom() - half) + lineWidth_));
+        return QRectF(
+            QPointF(first(device.left()), first(device.top())),
+            QPointF(first(device.right()) + lineWidth_, first(device.bottom()) + lineWidth_));
     }
 
     /// Four strips: a stroke would leave the corners pale.

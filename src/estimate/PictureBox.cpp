@@ -52,6 +52,8 @@ PictureBox::PictureBox(QWidget* parent, Dialogs& boxes)
     QSizePolicy policy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     policy.setRetainSizeWhenHidden(true);
     setSizePolicy(policy);
+    // It paints its own paper, so that scrolling moves what is there and paints only the rest.
+    viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
     hide();
 }
 
