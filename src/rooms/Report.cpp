@@ -10,6 +10,8 @@
 #include <QDate>
 #include <QLocale>
 
+#include <algorithm>
+
 namespace tarn {
 
 namespace {
@@ -26,11 +28,26 @@ constexpr std::string_view MetricHeading =
 constexpr std::string_view ImperialHeading =
     "   No.      WIDTH   LENGTH      Yrds     /TILE   BASE     LENGTH     No.       REMARK";
 
+/// Columns of a row, characters.
+constexpr long long ItemIndent = 4;
+constexpr long long ItemWidth = 10;
+constexpr long long TypeWidth = 5; ///< behind "C" or "T"
+constexpr long long MetricBaseWidth = 13;
+constexpr long long BaseLengthWidth = 12;
+constexpr long long NoBaseWidth = 12;    ///< less the covering's number
+constexpr long long ImperialBaseGap = 9; ///< less the covering's number
+constexpr long long RoomNumberWidth = 9;
+
+/// What a base length of so many characters counts as in the imperial column.
+long long CountedBaseLength(long long characters) {
+    return characters == 4 ? 4 : characters == 5 ? 6 : characters + 2;
+}
+
 std::string Heading(const SharedState& state, std::string_view date) {
     std::string text;
     const auto addLine = [&text](std::string_view line) { text.append(line).append(CrLf); };
     addLine("");
-    addLine(Space(55) + "ENTERED DATA REPORT");
+    addLine(Space(55).append(ReportTitle));
     addLine("");
     addLine(Space(5).append(date));
     addLine(Space(5) + "PROJECT NAME:   " + Padded(state.CurProjName, 30));
@@ -82,16 +99,15 @@ Integer BaseLenOfRoom(const SharedState& state, Integer room) {
 std::string BaseColumns(const SharedState& state, Integer room, long long numberLength) {
     const std::string base = GetBaseStr(state.RoomBase[room]);
     if (state.RoomBase[room] == 0) {
-        return base + Space(12 - numberLength);
+        return base + Space(NoBaseWidth - numberLength);
     }
     const Integer baseLen = BaseLenOfRoom(state, room);
     if (state.IsMetric()) {
-        return Padded(base, 13) + Padded(TrimStr(baseLen), 12);
+        return Padded(base, MetricBaseWidth) + Padded(TrimStr(baseLen), BaseLengthWidth);
     }
     const std::string text = FtInStr(baseLen);
-    const long long characters = Len(text);
-    const long long counted = characters == 4 ? 4 : characters == 5 ? 6 : characters + 2;
-    return base + Space(9 - numberLength) + text + Space(12 - counted);
+    return base + Space(ImperialBaseGap - numberLength) + text +
+           Space(BaseLengthWidth - CountedBaseLength(Len(text)));
 }
 
 std::string Row(const SharedState& state, Integer room) {
@@ -100,17 +116,112 @@ std::string Row(const SharedState& state, Integer room) {
     const Byte covering = state.RoomCarpet[room];
     const long long numberLength = Len(TrimStr(CoveringNumber(covering)));
 
-    std::string row = Space(4) + Padded(TrimStr(room + 1), 10);
+    std::string row = Space(ItemIndent) + Padded(TrimStr(room + 1), ItemWidth);
     row += SizeColumns(width, length, state.IsMetric());
     row += AreaColumn(width, length, state.IsMetric());
-    row += CoveringReportText(covering) + Space(5 - numberLength);
+    row += CoveringReportText(covering) + Space(TypeWidth - numberLength);
     row += BaseColumns(state, room, numberLength);
-    row += Padded(state.RoomNoStr[room], 9);
+    row += Padded(state.RoomNoStr[room], RoomNumberWidth);
     row += state.RoomRemark[room] + Space(4);
     return row.append(CrLf);
 }
 
+/// Reads a row from its left.
+class RowReader {
+  public:
+    explicit RowReader(std::string_view row)
+        : row_(row) {}
+
+    std::size_t Position() const { return position_; }
+    /// Go on over all characters of `set`; how many there were.
+    long long Skip(std::string_view set) {
+        const std::size_t from = position_;
+        position_ = std::min(row_.find_first_not_of(set, from), row_.size());
+        return static_cast<long long>(position_ - from);
+    }
+    void Move(long long count) {
+        position_ =
+            std::min(position_ + static_cast<std::size_t>(std::max(count, 0LL)), row_.size());
+    }
+    /// The character `ahead` places further on; a blank behind the row's end.
+    char At(long long ahead) const {
+        const std::size_t place = position_ + static_cast<std::size_t>(ahead);
+        return place < row_.size() ? row_[place] : ' ';
+    }
+
+  private:
+    std::string_view row_;
+    std::size_t position_ = 0;
+};
+
+constexpr std::string_view Digits = "0123456789";
+constexpr std::string_view Blank = " ";
+
+bool IsDigit(char c) {
+    return c >= '0' && c <= '9';
+}
+
+/// Item, width, X, length and area; false when that is not what stands there.
+bool SkipSizes(RowReader& row) {
+    constexpr std::string_view Size = "-0123456789'\"";
+    constexpr std::string_view SizeAndArea = "-0123456789'\".";
+    if (row.Skip(Blank) != ItemIndent || row.Skip(Digits) == 0) {
+        return false;
+    }
+    row.Skip(Blank);
+    if (row.Skip(Size) == 0) {
+        return false;
+    }
+    row.Skip(Blank);
+    if (row.Skip("X") != 1) {
+        return false;
+    }
+    row.Skip(Blank);
+    bool any = row.Skip(SizeAndArea) > 0; // a long size leaves no blank before the area
+    row.Skip(Blank);
+    row.Skip(SizeAndArea);
+    row.Skip(Blank);
+    return any;
+}
+
+/// Base, base length and the gap behind. `numberLength` is that of the covering's number.
+void SkipBase(RowReader& row, bool metric, long long numberLength) {
+    constexpr std::string_view BaseLetters = "WL0123456789";
+    const bool named = row.At(0) == 'W' || row.At(0) == 'L';
+    if (metric &&
+        (named || (row.At(NoBaseWidth - numberLength) == ' ' &&
+                   row.At(MetricBaseWidth - 1) == ' ' && IsDigit(row.At(MetricBaseWidth))))) {
+        row.Move(MetricBaseWidth + BaseLengthWidth);
+        return;
+    }
+    const long long gap = ImperialBaseGap - numberLength;
+    if (!metric && (named || IsDigit(row.At(gap)))) {
+        row.Skip(BaseLetters);
+        row.Skip(Blank);
+        const long long characters = row.Skip("0123456789'\"");
+        row.Move(BaseLengthWidth - CountedBaseLength(characters));
+        return;
+    }
+    row.Move(NoBaseWidth - numberLength);
+}
+
 } // namespace
+
+std::size_t RemarkColumn(std::string_view line) {
+    RowReader row(line);
+    if (!SkipSizes(row) || row.Skip("CT") != 1) {
+        return 0;
+    }
+    const bool metric = line.substr(0, row.Position()).find('\'') == std::string_view::npos;
+    const long long numberLength = row.Skip(Digits);
+    if (numberLength == 0) {
+        return 0;
+    }
+    row.Move(TypeWidth - numberLength);
+    SkipBase(row, metric, numberLength);
+    // Only the room number and what follows may hold other than one-byte characters.
+    return row.Position() + static_cast<std::size_t>(RoomNumberWidth);
+}
 
 std::string LoadReport(const SharedState& state, std::string_view date) {
     std::string text = Heading(state, date);

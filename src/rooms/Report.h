@@ -2,6 +2,7 @@
 
 #include "app/SharedState.h"
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -18,6 +19,20 @@ namespace tarn {
 /// Raises "Overflow", with an advice that names the room, when a room's base length does not fit an
 /// Integer.
 std::string LoadReport(const SharedState& state, std::string_view date);
+
+/// The title of the report, in its heading and of what is printed.
+inline constexpr std::string_view ReportTitle = "ENTERED DATA REPORT";
+
+/// How the report's lines stand, for who breaks them into pages: a heading, of which the last lines
+/// are the heads of the columns, then the rows.
+inline constexpr std::size_t ReportHeadingLines = 9;
+inline constexpr std::size_t ReportColumnHeadLines = 3;
+inline constexpr int ReportHeadingWidth = 87; ///< characters of the widest head
+
+/// Where the remark begins in a row of the report, counted in characters from its left; 0 for a
+/// line that is no row. A room number of more characters than its column holds is taken to end with
+/// the column.
+std::size_t RemarkColumn(std::string_view line);
 
 /// A date in the short form of the system's locale.
 std::string ShortDate(int year, int month, int day);

@@ -305,6 +305,65 @@ TEST(LoadReport, ListsRandomRoomsByTheRules) {
     }
 }
 
+/// The characters before the remark in a row of the rules, for a room number that fits.
+std::size_t ExpectedRemarkColumn(RoomRecord room, bool metric) {
+    room.Remark.clear();
+    return static_cast<std::size_t>(Characters(ExpectedRow(room, 1, metric)) - 6);
+}
+
+TEST(RemarkColumn, IsWhereTheRemarkOfARandomRowBegins) {
+    for (unsigned seed = 1; seed <= 20; ++seed) {
+        for (const bool metric : {false, true}) {
+            SCOPED_TRACE("seed " + std::to_string(seed) + (metric ? " metric" : " imperial"));
+            std::mt19937 random(seed);
+            for (int i = 0; i < 60; ++i) {
+                RoomRecord room = RandomRoom(random);
+                room.RoomNo = "R" + std::to_string(Below(random, 10000000));
+                std::string row = RowOf(room, metric);
+                row.resize(row.size() - 2);
+                EXPECT_EQ(RemarkColumn(row), ExpectedRemarkColumn(room, metric)) << row;
+            }
+        }
+    }
+}
+
+TEST(RemarkColumn, IsKnownWithoutARoomNumberAndForAnUnknownBaseCode) {
+    for (const bool metric : {false, true}) {
+        for (const Byte base : {Byte{0}, Byte{5}, Byte{9}}) {
+            std::string with = RowOf({100, 120, 0, base, "", "remark"}, metric);
+            EXPECT_EQ(RemarkColumn(with), with.find("remark")) << with;
+        }
+    }
+}
+
+TEST(RemarkColumn, IsNoneInTheHeading) {
+    std::string report = LoadReport(StateWith({}, true, "4 ROOMS X 2"), "11/21/2031");
+    for (std::size_t end = 0; (end = report.find("\r\n")) != std::string::npos;
+         report.erase(0, end + 2)) {
+        EXPECT_EQ(RemarkColumn(report.substr(0, end)), 0U) << report.substr(0, end);
+    }
+    EXPECT_EQ(RemarkColumn("    12 rooms"), 0U);
+    EXPECT_EQ(RemarkColumn("    1         100  X  100"), 0U);
+    EXPECT_EQ(RemarkColumn("    1         100  X  100    1.00       C"), 0U);
+}
+
+TEST(LoadReport, HasTheHeadingThatItsConstantsTell) {
+    const std::string report = LoadReport(StateWith({{100, 100, 0, 0, "", ""}}, true), "");
+    const std::string rows = RowsOf(report); // skips nine lines
+    EXPECT_EQ(ReportHeadingLines, 9U);
+    EXPECT_EQ(rows.substr(0, 5), "    1");
+    EXPECT_EQ(ReportColumnHeadLines, 3U);
+    std::size_t widest = 0;
+    for (std::size_t begin = 0; begin < report.size();) {
+        const std::size_t end = report.find("\r\n", begin);
+        if (report.substr(begin, 5) != "    1") {
+            widest = std::max(widest, end - begin);
+        }
+        begin = end + 2;
+    }
+    EXPECT_EQ(widest, static_cast<std::size_t>(ReportHeadingWidth));
+}
+
 TEST(ShortDate, FollowsTheLocaleOfTheSystem) {
     // The locale is read at its first use, which is here.
     qputenv("LC_ALL", "de_DE.UTF-8");
