@@ -1,12 +1,11 @@
 #include "tools/Files.h"
 
-#include "store/DatabaseFile.h"
+#include "app/OutputFile.h"
 #include "tools/Refusal.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 
 #include <cstdio>
 
@@ -32,18 +31,6 @@ QString PlainName(const std::string& path) {
     return canonical.isEmpty() ? QDir::cleanPath(info.absoluteFilePath()) : canonical;
 }
 
-void Require(bool written, const QFileDevice& file, const std::string& path) {
-    if (!written) {
-        throw Refusal("The file " + path + " cannot be written: " + Reason(file) + ".");
-    }
-}
-
-void WriteTo(QFileDevice& file, const std::string& path, const std::string& content) {
-    const auto size = static_cast<qint64>(content.size());
-    Require(file.open(QIODevice::WriteOnly) && file.write(content.data(), size) == size, file,
-            path);
-}
-
 } // namespace
 
 std::string ReadWholeFile(const std::string& path) {
@@ -63,22 +50,7 @@ void WriteWholeFile(const std::string& path, const std::string& content) {
         WriteStandardOutput(content);
         return;
     }
-    const QString name = QString::fromStdString(path);
-    const QFileInfo there(name);
-    if (there.exists() && !there.isFile()) {
-        // A device or a pipe must not be replaced by a file of its name, nor read from.
-        QFile device(name);
-        WriteTo(device, path, content);
-        Require(device.flush(), device, path);
-        return;
-    }
-    if (IsDatabaseFile(path)) {
-        throw Refusal("The file " + path +
-                      " is a database and stays as it is. Name another file for the output.");
-    }
-    QSaveFile file(name);
-    WriteTo(file, path, content);
-    Require(file.commit(), file, path);
+    WriteOutputFile(path, content);
 }
 
 bool IsSameFile(const std::string& path, const std::string& other) {

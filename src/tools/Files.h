@@ -10,10 +10,8 @@ inline constexpr const char* StandardOutput = "-";
 /// The whole content of a file. Raises Refusal when it cannot be read.
 std::string ReadWholeFile(const std::string& path);
 
-/// Write `content` to a file, whole or not at all, to a device or pipe of that name, or to standard
-/// output for "-". Raises Refusal when it cannot be written, and when a database stands there, so
-/// that a slip in the arguments never costs the projects; a file that was there before is then
-/// still there.
+/// Write `content` to a file as WriteOutputFile does, or to standard output for "-". Raises
+/// OutputFileError or Refusal when it cannot be written.
 void WriteWholeFile(const std::string& path, const std::string& content);
 
 /// Whether two names lead to the same file, be it there or not.
