@@ -15,6 +15,8 @@ std::string_view ColorText(QBColor color);
 
 /// How a drawing's lines and letters are made, twips; of type sizes in points.
 inline constexpr Double DrawnLineWidth = 15;
+inline constexpr Double DrawingMargin =
+    100;                              ///< beyond the farthest point drawn, on paper and in files
 Double LetterHeight(Double fontSize); ///< the size itself
 Double HeightOfLine(Double fontSize); ///< from a line's top to the next line's
 Double AscentOfLine(Double fontSize); ///< from a line's top to what its letters stand on

@@ -11,7 +11,6 @@ namespace tarn {
 namespace {
 
 constexpr Double TwipsPerPixel = 15;
-constexpr Double Margin = 100; ///< beyond the farthest point drawn, twips
 
 std::string Number(Double value) {
     return Format(value, "0.00");
@@ -65,8 +64,8 @@ std::string TextElement(const DrawingStep& step) {
 } // namespace
 
 std::string SvgDocument(const Picture& picture, const std::string& title) {
-    const Double width = picture.FarthestX() + Margin;
-    const Double height = picture.FarthestY() + Margin;
+    const Double width = picture.FarthestX() + DrawingMargin;
+    const Double height = picture.FarthestY() + DrawingMargin;
     std::string svg = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
                       "<svg xmlns=\"http://www.w3.org/2000/svg\"" +
                       Attribute("width", Number(width / TwipsPerPixel)) +

@@ -90,6 +90,11 @@ void AddOutput(CLI::App& app, EstimateOptions& options) {
     app.add_option("--svg", options.Svg, "Write the drawing of the layout with the cut list")
         ->check(NotEmpty)
         ->type_name("FILE|-");
+    app.add_option("--pdf", options.Pdf,
+                   "Write the page that the program prints, for the paper of the default printer "
+                   "(A4 without one)")
+        ->check(NotEmpty)
+        ->type_name("FILE|-");
 }
 
 /// Raises CLI::ValidationError when two outputs would overwrite or mix with each other.
@@ -110,7 +115,11 @@ void CheckTogether(EstimateOptions& options) {
     RequireDifferent("--text", options.Text, "--json", options.Json);
     RequireDifferent("--text", options.Text, "--svg", options.Svg);
     RequireDifferent("--json", options.Json, "--svg", options.Svg);
-    if (options.Text.empty() && options.Json.empty() && options.Svg.empty()) {
+    RequireDifferent("--text", options.Text, "--pdf", options.Pdf);
+    RequireDifferent("--json", options.Json, "--pdf", options.Pdf);
+    RequireDifferent("--svg", options.Svg, "--pdf", options.Pdf);
+    if (options.Text.empty() && options.Json.empty() && options.Svg.empty() &&
+        options.Pdf.empty()) {
         options.Text = StandardOutput;
     }
 }

@@ -22,6 +22,7 @@ struct EstimateOptions {
     std::string Text;  ///< output files; empty = not wanted
     std::string Json;
     std::string Svg;
+    std::string Pdf;
 };
 
 /// Read the arguments of tarn-estimate. When they ask for help or the version, or cannot be

@@ -2,10 +2,15 @@
 
 #include "estimate/CutList.h"
 #include "estimate/EstimateJson.h"
+#include "estimate/EstimatePage.h"
 #include "estimate/LayoutDrawing.h"
 #include "estimate/Svg.h"
 #include "estimate/Totals.h"
+#include "print/PdfFile.h"
+#include "print/PrinterPage.h"
+#include "print/SystemPrinter.h"
 #include "rooms/Coverings.h"
+#include "rooms/Report.h"
 #include "rooms/RoomCsv.h"
 #include "tools/Files.h"
 #include "tools/ProjectFile.h"
@@ -38,27 +43,42 @@ std::string CutListText(const SharedState& state, const EngineArrays& engine,
     return text;
 }
 
-std::string DrawingOf(const SharedState& state, const EngineArrays& engine,
-                      const CarpetEstimate& estimate) {
+Picture DrawingOf(const SharedState& state, const EngineArrays& engine,
+                  const CarpetEstimate& estimate) {
     Picture picture;
     RedrawPC(picture, state, engine, estimate, PieceSizes::Shown);
     ShowECutsInfo(picture, state, engine, estimate, CutListX, CutListY);
+    return picture;
+}
+
+std::string SvgOf(const SharedState& state, const EngineArrays& engine,
+                  const CarpetEstimate& estimate) {
     const std::string carpet = CoveringCaption(estimate.CarpetNo);
-    return SvgDocument(picture,
+    return SvgDocument(DrawingOf(state, engine, estimate),
                        state.CurProjName.empty() ? carpet : state.CurProjName + ", " + carpet);
+}
+
+std::string PdfOf(SharedState& state, const EngineArrays& engine, const CarpetEstimate& estimate) {
+    SystemPrinter printer;
+    ReadPrinterPage(state, printer);
+    const Picture drawing = DrawingOf(state, engine, estimate);
+    return EstimatePdf(MakeEstimatePage(state, engine, estimate, drawing, ShortDateOfToday()));
 }
 
 void RequireOutputsBesideInput(const EstimateOptions& options) {
     const std::string& input = options.Rooms.empty() ? options.Database : options.Rooms;
-    for (const std::string& output : {options.Svg, options.Json, options.Text}) {
+    for (const std::string& output : {options.Svg, options.Pdf, options.Json, options.Text}) {
         RequireOtherFile(output, input);
     }
 }
 
-void WriteOutputs(const EstimateOptions& options, const SharedState& state,
-                  const EngineArrays& engine, const CarpetEstimate& estimate) {
+void WriteOutputs(const EstimateOptions& options, SharedState& state, const EngineArrays& engine,
+                  const CarpetEstimate& estimate) {
     if (!options.Svg.empty()) {
-        WriteWholeFile(options.Svg, DrawingOf(state, engine, estimate));
+        WriteWholeFile(options.Svg, SvgOf(state, engine, estimate));
+    }
+    if (!options.Pdf.empty()) {
+        WriteWholeFile(options.Pdf, PdfOf(state, engine, estimate));
     }
     if (!options.Json.empty()) {
         WriteWholeFile(options.Json, EstimateJson(state, engine, estimate));

@@ -1,0 +1,173 @@
+#include "print/CupsQueue.h"
+
+#include <algorithm>
+#include <array>
+#include <cups/cups.h>
+#include <cups/pwg.h>
+#include <string_view>
+
+namespace tarn {
+
+namespace {
+
+constexpr int ConnectPatienceMs = 3000;
+constexpr double AnswerPatienceSeconds = 5;
+
+constexpr std::string_view StoppedState = "5";
+
+/// Gives up a request whose answer does not come in time.
+int GiveUp(http_t*, void*) {
+    return 0;
+}
+
+/// Never asks for a password: there is nobody at the terminal.
+const char* NoPassword(const char*, http_t*, const char*, const char*, void*) {
+    return nullptr;
+}
+
+std::string OptionOf(const cups_dest_t& queue, const char* option) {
+    const char* value = cupsGetOption(option, queue.num_options, queue.options);
+    return value == nullptr ? std::string() : std::string(value);
+}
+
+struct CloseConnection {
+    void operator()(http_t* connection) const { httpClose(connection); }
+};
+struct FreeQueue {
+    void operator()(cups_dest_t* queue) const { cupsFreeDests(1, queue); }
+};
+struct FreeInfo {
+    void operator()(cups_dinfo_t* info) const { cupsFreeDestInfo(info); }
+};
+
+Double TwipsOfMillimetreHundredths(int hundredths) {
+    constexpr Double HundredthsPerInch = 2540;
+    return hundredths * TwipsPerInch / HundredthsPerInch;
+}
+
+/// A sheet as the queue describes it, held upright, turned a quarter to the left: its right edge
+/// is on top then.
+Paper LandscapeOf(const cups_size_t& size) {
+    const auto margin = [](int hundredths) {
+        return std::max(Paper::LeastMargin, TwipsOfMillimetreHundredths(hundredths));
+    };
+    Paper paper;
+    paper.Size = {TwipsOfMillimetreHundredths(std::max(size.width, size.length)),
+                  TwipsOfMillimetreHundredths(std::min(size.width, size.length))};
+    // Drivers turn either way, so each pair of edges keeps the larger margin.
+    paper.Left = paper.Right = std::max(margin(size.top), margin(size.bottom));
+    paper.Top = paper.Bottom = std::max(margin(size.left), margin(size.right));
+    return paper;
+}
+
+} // namespace
+
+struct CupsQueue::Handles {
+    std::unique_ptr<http_t, CloseConnection> Connection;
+    std::unique_ptr<cups_dest_t, FreeQueue> Queue;
+    std::unique_ptr<cups_dinfo_t, FreeInfo> Info; ///< unset when the queue does not tell
+    cups_size_t Media{};                          ///< the default paper; no width when not known
+};
+
+CupsQueue::CupsQueue()
+    : handles_(std::make_unique<Handles>()) {
+    cupsSetPasswordCB2(NoPassword, nullptr);
+    handles_->Connection.reset(httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC,
+                                            cupsEncryption(), 1, ConnectPatienceMs, nullptr));
+    http_t* connection = handles_->Connection.get();
+    if (connection == nullptr) {
+        throw PrinterError("The printing system (" + std::string(cupsServer()) +
+                           ") cannot be reached.");
+    }
+    httpSetTimeout(connection, AnswerPatienceSeconds, GiveUp, nullptr);
+    handles_->Queue.reset(cupsGetNamedDest(connection, nullptr, nullptr));
+    const cups_dest_t* queue = handles_->Queue.get();
+    if (queue == nullptr) {
+        throw PrinterError(cupsLastError() <= IPP_STATUS_ERROR_NOT_FOUND
+                               ? std::string("There is no default printer.")
+                               : "The printing system does not answer: " +
+                                     std::string(cupsLastErrorString()) + ".");
+    }
+    name_ = queue->name;
+    if (OptionOf(*queue, "printer-state") == StoppedState) {
+        throw PrinterError("The printer " + name_ + " is stopped.");
+    }
+    if (OptionOf(*queue, "printer-is-accepting-jobs") == "false") {
+        throw PrinterError("The printer " + name_ + " takes no jobs.");
+    }
+}
+
+CupsQueue::~CupsQueue() = default;
+
+std::string CupsQueue::MediaName() {
+    cups_dest_t* queue = handles_->Queue.get();
+    for (const char* option : {"media", "PageSize"}) {
+        const std::string chosen = OptionOf(*queue, option);
+        if (!chosen.empty()) {
+            return chosen.substr(0, chosen.find(','));
+        }
+    }
+    ipp_attribute_t* preset =
+        cupsFindDestDefault(handles_->Connection.get(), queue, handles_->Info.get(), "media");
+    const char* name = preset == nullptr ? nullptr : ippGetString(preset, 0, nullptr);
+    return name == nullptr ? std::string() : std::string(name);
+}
+
+Paper CupsQueue::DefaultPaper() {
+    http_t* connection = handles_->Connection.get();
+    cups_dest_t* queue = handles_->Queue.get();
+    handles_->Info.reset(cupsCopyDestInfo(connection, queue));
+    if (!handles_->Info) {
+        throw PrinterError("The printer " + name_ + " does not answer: " + cupsLastErrorString() +
+                           ".");
+    }
+    const std::string name = MediaName();
+    cups_size_t& size = handles_->Media;
+    if (!name.empty() &&
+        cupsGetDestMediaByName(connection, queue, handles_->Info.get(), name.c_str(),
+                               CUPS_MEDIA_FLAGS_DEFAULT, &size) != 0) {
+        return LandscapeOf(size);
+    }
+    size = {};
+    const pwg_media_t* known = pwgMediaForPWG(name.c_str());
+    if (known == nullptr) {
+        known = pwgMediaForPPD(name.c_str());
+    }
+    if (known != nullptr) {
+        size.width = known->width;
+        size.length = known->length;
+        std::string_view(known->pwg).copy(size.media, sizeof(size.media) - 1);
+        return LandscapeOf(size);
+    }
+    return {};
+}
+
+void CupsQueue::Submit(const std::string& title, const std::string& path) {
+    // What the user chose for the queue holds, but for what would turn or resize the page.
+    cups_option_t* options = nullptr;
+    int count = 0;
+    const cups_dest_t& queue = *handles_->Queue;
+    for (int i = 0; i < queue.num_options; ++i) {
+        count = cupsAddOption(queue.options[i].name, queue.options[i].value, count, &options);
+    }
+    constexpr std::array Turning{
+        "landscape", "orientation-requested", "number-up", "fit-to-page", "fitplot", "scaling",
+        "PageSize"};
+    for (const char* option : Turning) {
+        count = cupsRemoveOption(option, count, &options);
+    }
+    if (handles_->Media.media[0] != '\0') {
+        count = cupsAddOption("media", handles_->Media.media, count, &options);
+    }
+    count = cupsAddOption("print-scaling", "none", count, &options);
+    count = cupsAddOption("document-format", CUPS_FORMAT_PDF, count, &options);
+    const int job = cupsPrintFile2(handles_->Connection.get(), queue.name, path.c_str(),
+                                   title.c_str(), count, options);
+    cupsFreeOptions(count, options);
+    if (job == 0) {
+        throw PrinterError("The printer " + name_ + " refused the job: " + cupsLastErrorString() +
+                           ".");
+    }
+}
+
+} // namespace tarn

@@ -1,0 +1,129 @@
+#include "print/DeviceContext.h"
+
+#include "app/QtText.h"
+
+#include <QFontMetricsF>
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+
+namespace tarn {
+
+namespace {
+
+constexpr int MeasuredSize = 1000; ///< large enough for no rounding to matter
+constexpr int HorizontalMask = 6;
+constexpr int VerticalMask = 24;
+
+QString FamilyOf(const std::string& faceName) {
+    std::string family = faceName.substr(0, faceName.find('\0'));
+    family.resize(family.find_last_not_of(' ') + 1);
+    return ToQt(family);
+}
+
+QFont FontOf(const FontRecord& record) {
+    constexpr Long Regular = 400;
+    constexpr Long Heaviest = 1000;
+    QFont font(FamilyOf(record.FaceName));
+    font.setPixelSize(MeasuredSize);
+    font.setWeight(static_cast<QFont::Weight>(
+        record.Weight == 0 ? Regular : std::clamp(record.Weight, Long{1}, Heaviest)));
+    font.setItalic(record.Italic != 0);
+    font.setUnderline(record.UnderLine != 0);
+    font.setStrikeOut(record.StrikeOut != 0);
+    font.setHintingPreference(QFont::PreferNoHinting);
+    return font;
+}
+
+QColor ColorOf(Long color) {
+    const auto channel = [color](unsigned shift) {
+        return static_cast<int>((static_cast<std::uint32_t>(color) >> shift) & 0xFFU);
+    };
+    return {channel(0), channel(8), channel(16)};
+}
+
+} // namespace
+
+DeviceFont::DeviceFont(const QFont& font, const QPaintDevice& device)
+    : font_(font)
+    , device_(&device) {
+    const QFontMetricsF metrics(font, &device);
+    ascent_ = metrics.ascent();
+    descent_ = metrics.descent();
+}
+
+DeviceFont::DeviceFont(const FontRecord& record, const DeviceFont& own)
+    : font_(FontOf(record))
+    , direction_(record.Escapement / 10.0)
+    , device_(own.device_) {
+    const QFontMetricsF measured(font_, device_);
+    const double cell = measured.ascent() + measured.descent();
+    double size = std::abs(static_cast<double>(record.Height)); // of the letters
+    if (record.Height >= 0) {
+        const double height = record.Height > 0 ? size : own.ascent_ + own.descent_;
+        size = height * MeasuredSize / cell;
+    }
+    // The nearest whole size, stretched by what is left.
+    const int whole = std::max(1, static_cast<int>(std::lround(std::min(size, 1e6))));
+    font_.setPixelSize(whole);
+    scaleY_ = size / whole;
+    const double average = measured.averageCharWidth() * size / MeasuredSize;
+    const double width = std::abs(static_cast<double>(record.Width));
+    scaleX_ = width > 0 && average > 0 ? scaleY_ * width / average : scaleY_;
+    ascent_ = measured.ascent() * size / MeasuredSize;
+    descent_ = measured.descent() * size / MeasuredSize;
+}
+
+double DeviceFont::Advance(const QString& text) const {
+    return QFontMetricsF(font_, device_).horizontalAdvance(text) * scaleX_;
+}
+
+void DeviceFont::Draw(QPainter& painter, const QString& text) const {
+    painter.setFont(font_);
+    painter.scale(scaleX_, scaleY_);
+    painter.drawText(QPointF(), text);
+}
+
+DeviceContext::DeviceContext(QPainter& painter)
+    : painter_(painter)
+    , ownFont_(std::make_shared<DeviceFont>(painter.font(), *painter.device()))
+    , font_(ownFont_) {}
+
+FontHandle DeviceContext::CreateFont(const FontRecord& record) const {
+    return std::make_shared<DeviceFont>(record, *ownFont_);
+}
+
+FontHandle DeviceContext::SelectObject(FontHandle font) {
+    if (!font) {
+        return nullptr;
+    }
+    std::swap(font, font_);
+    return font;
+}
+
+void DeviceContext::SelectClipRgn(const QRectF& region) {
+    painter_.setClipRect(region, Qt::ReplaceClip);
+}
+
+void DeviceContext::TextOut(Long x, Long y, std::string_view text) {
+    const QString line = ToQt(text);
+    const int horizontal = align_ & HorizontalMask;
+    const int vertical = align_ & VerticalMask;
+    const double advance = font_->Advance(line);
+    const double left = horizontal == TA_CENTER  ? -advance / 2
+                        : horizontal == TA_RIGHT ? -advance
+                                                 : 0;
+    const double down = vertical == TA_BASELINE ? 0
+                        : vertical == TA_BOTTOM ? -font_->Descent()
+                                                : font_->Ascent();
+    painter_.save();
+    painter_.setPen(ColorOf(color_));
+    painter_.translate(x, y);
+    painter_.rotate(-font_->Direction());
+    painter_.translate(left, down);
+    font_->Draw(painter_, line);
+    painter_.restore();
+}
+
+} // namespace tarn

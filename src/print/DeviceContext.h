@@ -1,0 +1,100 @@
+#pragma once
+
+#include "app/Types.h"
+
+#include <QFont>
+#include <QRectF>
+
+#include <memory>
+#include <string>
+#include <string_view>
+
+class QPaintDevice;
+class QPainter;
+
+namespace tarn {
+
+/// The description of a font, in the units of the surface that it is selected into.
+struct FontRecord {
+    Long Height = 10;     ///< above 0 the cell's, below 0 the letters'; 0 the surface's own font's
+    Long Width = 6;       ///< of the average letter; 0 as the face has it
+    Long Escapement = 0;  ///< tenths of a degree, counter-clockwise
+    Long Orientation = 0; ///< of no effect: letters turn with their line
+    Long Weight = 600;    ///< 400 regular, 700 bold; 0 is regular
+    Byte Italic = 0;
+    Byte UnderLine = 0;
+    Byte StrikeOut = 0;
+    Byte CharacterSet = 0; ///< this and what follows is of no effect
+    Byte OutputPrecision = 0;
+    Byte ClipPrecision = 0;
+    Byte Quality = 0;
+    Byte PitchAndFamily = 0;
+    std::string FaceName; ///< 50 characters; the face's name ends at the first NUL or at the blanks
+};
+
+/// A font that can be drawn with: a face, how far its letters are stretched, and the direction of
+/// the line.
+class DeviceFont {
+  public:
+    /// A surface's own font.
+    DeviceFont(const QFont& font, const QPaintDevice& device);
+    /// The font of a record. `own` is the surface's own font.
+    DeviceFont(const FontRecord& record, const DeviceFont& own);
+
+    double Advance(const QString& text) const;
+    double Ascent() const { return ascent_; }
+    double Descent() const { return descent_; }
+    /// Draw with the line's beginning at (0, 0) of the painter, its letters standing on that line.
+    void Draw(QPainter& painter, const QString& text) const;
+    /// Degrees, counter-clockwise.
+    double Direction() const { return direction_; }
+
+  private:
+    QFont font_;
+    double scaleX_ = 1;
+    double scaleY_ = 1;
+    double ascent_ = 0;
+    double descent_ = 0;
+    double direction_ = 0;
+    const QPaintDevice* device_;
+};
+
+using FontHandle = std::shared_ptr<const DeviceFont>;
+
+/// How a text lies at its position: one vertical and one horizontal choice, joined by "or".
+inline constexpr int TA_TOP = 0;
+inline constexpr int TA_BOTTOM = 8;
+inline constexpr int TA_BASELINE = 24;
+inline constexpr int TA_LEFT = 0;
+inline constexpr int TA_RIGHT = 2;
+inline constexpr int TA_CENTER = 6;
+
+/// The state of a surface for text: font, alignment, colour and clip. Positions are in the units of
+/// its painter. Nothing fails here: what cannot be drawn is not drawn.
+class DeviceContext {
+  public:
+    /// Draws with `painter`, which must outlive it; its font is the surface's own.
+    explicit DeviceContext(QPainter& painter);
+
+    const DeviceFont& OwnFont() const { return *ownFont_; }
+    /// A font of that record for this surface.
+    FontHandle CreateFont(const FontRecord& record) const;
+    /// Draw with `font` from now on; what was drawn with before. Nothing changes without a font.
+    FontHandle SelectObject(FontHandle font);
+    int TextAlign() const { return align_; }
+    void SetTextAlign(int align) { align_ = align; }
+    /// Red + 256 × green + 65536 × blue; what lies above is ignored.
+    void SetTextColor(Long color) { color_ = color; }
+    /// Draw only inside `region` from now on, whatever clip there was.
+    void SelectClipRgn(const QRectF& region);
+    void TextOut(Long x, Long y, std::string_view text);
+
+  private:
+    QPainter& painter_;
+    FontHandle ownFont_;
+    FontHandle font_;
+    int align_ = TA_TOP | TA_LEFT;
+    Long color_ = 0;
+};
+
+} // namespace tarn

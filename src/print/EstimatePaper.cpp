@@ -1,0 +1,121 @@
+#include "print/EstimatePaper.h"
+
+#include "app/Printer.h"
+#include "app/QtText.h"
+#include "estimate/PaintDrawing.h"
+#include "print/Paper.h"
+
+#include <QFontMetricsF>
+#include <QPagedPaintDevice>
+#include <QPainter>
+
+#include <algorithm>
+
+namespace tarn {
+
+namespace {
+
+constexpr Double TypeSize = 12; ///< points
+constexpr Double LeftEdge = 500;
+constexpr Double TitleTop = 400;
+constexpr Double DrawingTop = 800;
+constexpr Double CarpetLinesBelow = 600;
+constexpr int CarpetLineCount = 2;
+
+QFont ArialOfPage() {
+    QFont font(QStringLiteral("Arial"));
+    font.setStyleHint(QFont::SansSerif);
+    font.setPixelSize(static_cast<int>(LetterHeight(TypeSize)));
+    font.setBold(false);
+    font.setHintingPreference(QFont::PreferNoHinting);
+    return font;
+}
+
+/// A line with its top left at `place`, narrower letters where it does not fit into `width`.
+void PaintLine(QPainter& painter, QPointF place, double width, const std::string& text) {
+    const QString line = ToQt(text);
+    const double natural = QFontMetricsF(painter.font(), painter.device()).horizontalAdvance(line);
+    painter.save();
+    painter.translate(place + QPointF(0, AscentOfLine(TypeSize)));
+    if (natural > width) {
+        painter.scale(width / natural, 1);
+    }
+    painter.drawText(QPointF(), line);
+    painter.restore();
+}
+
+void PaintPicture(QPainter& painter, const Picture& picture, const QRectF& target) {
+    const QRectF source = PrintedSource(picture, target);
+    if (source.isEmpty()) {
+        return;
+    }
+    painter.save();
+    painter.translate(target.topLeft());
+    painter.scale(target.width() / source.width(), target.height() / source.height());
+    painter.setClipRect(source);
+    PaintDrawing(painter, picture);
+    painter.restore();
+}
+
+} // namespace
+
+EstimatePlaces PlacesOn(Double prnWidth, Double prnHeight) {
+    EstimatePlaces places;
+    places.Title = {LeftEdge, TitleTop};
+    places.Drawing = {LeftEdge, DrawingTop, prnWidth / 1.2, prnHeight / 1.35};
+    places.CarpetLines = {LeftEdge, CarpetLinesBelow + prnHeight / 1.25};
+    const double bottom = places.CarpetLines.y() + CarpetLineCount * HeightOfLine(TypeSize);
+    places.All = {places.Title,
+                  QPointF(places.Drawing.right(), std::max(places.Drawing.bottom(), bottom))};
+    return places;
+}
+
+QRectF PrintedSource(const Picture& picture, const QRectF& target) {
+    if (picture.Steps().empty() || target.isEmpty()) {
+        return {};
+    }
+    const double width = picture.FarthestX() + DrawingMargin;
+    const double height = picture.FarthestY() + DrawingMargin;
+    const double scale = std::min(target.width() / width, target.height() / height);
+    return {QPointF(), target.size() / scale};
+}
+
+QTransform FitInto(const QRectF& all, const QRectF& printable) {
+    const double scale =
+        std::min({1.0, printable.width() / all.width(), printable.height() / all.height()});
+    const QRectF scaled(all.topLeft() * scale, all.size() * scale);
+    const auto shift = [](double low, double high, double least, double most) {
+        return low < least ? least - low : std::min(0.0, most - high);
+    };
+    QTransform transform = QTransform::fromTranslate(
+        shift(scaled.left(), scaled.right(), printable.left(), printable.right()),
+        shift(scaled.top(), scaled.bottom(), printable.top(), printable.bottom()));
+    transform.scale(scale, scale);
+    return transform;
+}
+
+void PaintEstimate(QPagedPaintDevice& device, const EstimatePage& page) {
+    QPainter painter;
+    if (!painter.begin(&device)) {
+        throw PrinterError("The estimate could not be put on paper.");
+    }
+    CountInTwips(painter, device);
+    const bool sized = page.PrnWidth > 0 && page.PrnHeight > 0;
+    const QRectF sheet = SheetOf(device);
+    const EstimatePlaces places =
+        sized ? PlacesOn(page.PrnWidth, page.PrnHeight) : PlacesOn(sheet.width(), sheet.height());
+    painter.setTransform(FitInto(places.All, PrintableOf(device)), true);
+    painter.setFont(ArialOfPage());
+    painter.setPen(Qt::black);
+    PaintLine(painter, places.Title, places.All.right() - places.Title.x(), page.Title);
+    if (page.Drawing != nullptr) {
+        PaintPicture(painter, *page.Drawing, places.Drawing);
+    }
+    QPointF place = places.CarpetLines;
+    for (const std::string& line : page.CarpetLines) {
+        PaintLine(painter, place, places.All.right() - place.x(), line);
+        place.ry() += HeightOfLine(TypeSize);
+    }
+}
+
+} // namespace tarn

@@ -1,0 +1,65 @@
+#include "print/PdfFile.h"
+
+#include "app/OutputFile.h"
+#include "app/QtText.h"
+#include "app/Text.h"
+#include "print/EstimatePaper.h"
+#include "print/ReportPaper.h"
+#include "rooms/Report.h"
+
+#include <QBuffer>
+#include <QPdfWriter>
+
+#include <functional>
+
+namespace tarn {
+
+namespace {
+
+constexpr int Resolution = 1200; ///< dots per inch; whole numbers in the document count them
+
+std::string Document(const QString& title, const Paper& paper,
+                     const std::function<void(QPagedPaintDevice&)>& paint) {
+    QByteArray content;
+    QBuffer buffer(&content);
+    buffer.open(QIODevice::WriteOnly);
+    {
+        QPdfWriter writer(&buffer);
+        writer.setResolution(Resolution);
+        writer.setPageLayout(LayoutOf(paper));
+        writer.setTitle(title);
+        writer.setCreator(ToQt(ApplicationTitle));
+        paint(writer);
+    }
+    return content.toStdString();
+}
+
+} // namespace
+
+std::string ReportPdf(std::string_view text, const Paper& paper) {
+    return Document(ToQt(ReportTitle), paper,
+                    [&](QPagedPaintDevice& device) { PaintReport(device, text); });
+}
+
+std::string EstimatePdf(const EstimatePage& page, const Paper& paper) {
+    return Document(ToQt(TrimStr(page.Title)), paper,
+                    [&](QPagedPaintDevice& device) { PaintEstimate(device, page); });
+}
+
+std::string EstimatePdf(const EstimatePage& page) {
+    Paper paper;
+    if (page.PrnWidth > 0 && page.PrnHeight > 0) {
+        paper.Size = {static_cast<Double>(page.PrnWidth), static_cast<Double>(page.PrnHeight)};
+    }
+    return EstimatePdf(page, paper);
+}
+
+void WriteReportPdf(std::string_view text, const std::string& path, const Paper& paper) {
+    WriteOutputFile(path, ReportPdf(text, paper));
+}
+
+void WriteEstimatePdf(const EstimatePage& page, const std::string& path) {
+    WriteOutputFile(path, EstimatePdf(page));
+}
+
+} // namespace tarn

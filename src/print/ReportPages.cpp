@@ -1,0 +1,140 @@
+#include "print/ReportPages.h"
+
+#include "app/Text.h"
+#include "rooms/Report.h"
+
+#include <QChar>
+#include <QString>
+
+#include <algorithm>
+
+namespace tarn {
+
+namespace {
+
+using Characters = std::u32string;
+
+/// A part of a line that is too short for words is not worth an indent.
+constexpr std::size_t LeastContinuation = 20;
+
+Characters CharactersOf(std::string_view line) {
+    Characters characters =
+        QString::fromUtf8(line.data(), static_cast<qsizetype>(line.size())).toStdU32String();
+    for (char32_t& c : characters) {
+        if (QChar::category(c) == QChar::Other_Control) {
+            c = U' ';
+        }
+    }
+    characters.resize(characters.find_last_not_of(U' ') + 1);
+    return characters;
+}
+
+std::string Utf8(const Characters& characters) {
+    return QString::fromStdU32String(characters).toStdString();
+}
+
+std::vector<std::string_view> LinesOf(std::string_view text) {
+    std::vector<std::string_view> lines;
+    while (!text.empty()) {
+        const std::size_t end = std::min(text.find(CrLf), text.size());
+        lines.push_back(text.substr(0, end));
+        text.remove_prefix(std::min(end + CrLf.size(), text.size()));
+    }
+    return lines;
+}
+
+bool IsMark(char32_t c) {
+    const QChar::Category category = QChar::category(c);
+    return category == QChar::Mark_NonSpacing || category == QChar::Mark_SpacingCombining ||
+           category == QChar::Mark_Enclosing;
+}
+
+/// How many of `rest` go into a line of `width`, behind the `fixed` ones that are no words.
+std::size_t LineLength(const Characters& rest, std::size_t fixed, std::size_t width) {
+    if (rest.size() <= width) {
+        return rest.size();
+    }
+    const std::size_t blank = rest.rfind(U' ', width);
+    if (blank != Characters::npos && blank > fixed) {
+        return std::min(blank + 1, width);
+    }
+    std::size_t length = width;
+    while (length > fixed + 1 && IsMark(rest[length])) {
+        --length; // an accent stays with its letter
+    }
+    return length;
+}
+
+/// A line of the report as lines of at most `columns` characters.
+PaperPage Broken(std::string_view line, std::size_t columns) {
+    Characters rest = CharactersOf(line);
+    const std::size_t remark = RemarkColumn(line);
+    const std::size_t indent = std::min(remark, columns - LeastContinuation);
+    PaperPage broken;
+    std::size_t length = LineLength(rest, remark, columns);
+    broken.push_back({Utf8(rest.substr(0, length)), remark});
+    rest.erase(0, length);
+    while (!rest.empty()) {
+        length = LineLength(rest, 0, columns - indent);
+        broken.push_back({std::string(indent, ' ') + Utf8(rest.substr(0, length)), indent});
+        rest.erase(0, length);
+    }
+    return broken;
+}
+
+/// Collects lines into pages.
+class Pager {
+  public:
+    explicit Pager(std::size_t lines)
+        : lines_(lines) {}
+
+    /// What pages after the first begin with.
+    void Repeat(PaperPage heads) { heads_ = std::move(heads); }
+    void Add(const PaperPage& group) {
+        const std::size_t left = lines_ - pages_.back().size();
+        const bool fitsOnNext = heads_.size() + group.size() <= lines_;
+        if (group.size() > left && fitsOnNext) {
+            Turn();
+        }
+        for (const PaperLine& line : group) {
+            if (pages_.back().size() == lines_) {
+                Turn();
+            }
+            pages_.back().push_back(line);
+        }
+    }
+    std::vector<PaperPage> Pages() { return std::move(pages_); }
+
+  private:
+    void Turn() { pages_.push_back(heads_); }
+
+    std::size_t lines_;
+    PaperPage heads_;
+    std::vector<PaperPage> pages_{PaperPage()};
+};
+
+} // namespace
+
+std::vector<PaperPage> ReportPages(std::string_view text, std::size_t columns, std::size_t lines) {
+    constexpr std::size_t LeastColumns = 2 * LeastContinuation;
+    constexpr std::size_t LeastLines = 6;
+    columns = std::max(columns, LeastColumns);
+    Pager pager(std::max(lines, LeastLines));
+    pager.Add({PaperLine()});
+    PaperPage heads;
+    std::size_t number = 0;
+    for (const std::string_view line : LinesOf(text)) {
+        const PaperPage broken = Broken(line, columns);
+        pager.Add(broken);
+        ++number;
+        if (number > ReportHeadingLines - ReportColumnHeadLines && number <= ReportHeadingLines) {
+            heads.insert(heads.end(), broken.begin(), broken.end());
+        }
+        if (number == ReportHeadingLines && heads.size() < LeastLines) {
+            pager.Repeat(heads);
+        }
+    }
+    return pager.Pages();
+}
+
+} // namespace tarn

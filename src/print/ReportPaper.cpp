@@ -1,0 +1,106 @@
+#include "print/ReportPaper.h"
+
+#include "app/Printer.h"
+#include "print/FixedPitchFont.h"
+#include "print/Paper.h"
+#include "print/ReportPages.h"
+#include "rooms/Report.h"
+
+#include <QFontMetricsF>
+#include <QPagedPaintDevice>
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+
+namespace tarn {
+
+namespace {
+
+constexpr double TypeSize = 12 * TwipsPerPoint;
+
+/// Where letters stand on a page, twips.
+struct Grid {
+    QRectF Area;
+    int Size = 0;
+
+    double Advance() const { return CourierAdvance * Size; }
+    double LineHeight() const { return CourierLineHeight * Size; }
+    std::size_t Columns() const { return static_cast<std::size_t>(Area.width() / Advance()); }
+    std::size_t Lines() const { return static_cast<std::size_t>(Area.height() / LineHeight()); }
+};
+
+Grid GridOf(const QRectF& area) {
+    const double fitting = std::floor(area.width() / (ReportHeadingWidth * CourierAdvance));
+    return {area, static_cast<int>(std::clamp(fitting, 1.0, TypeSize))};
+}
+
+/// Paints the lines of pages, field by field: what two blanks part is a field, and so is the
+/// remark.
+class LinePainter {
+  public:
+    LinePainter(QPainter& painter, const Grid& grid)
+        : painter_(painter)
+        , grid_(grid)
+        , metrics_(CourierNew(grid.Size), painter.device()) {
+        painter_.setFont(CourierNew(grid.Size));
+        painter_.setPen(Qt::black);
+    }
+
+    void Line(const PaperLine& line, std::size_t number) {
+        const std::u32string text = QString::fromStdString(line.Text).toStdU32String();
+        std::size_t begin = 0;
+        while ((begin = text.find_first_not_of(U' ', begin)) != std::u32string::npos) {
+            std::size_t end = std::min(text.find(U"  ", begin), text.size());
+            if (begin < line.Remark && line.Remark < end) {
+                end = line.Remark;
+            }
+            Field(text.substr(begin, end - begin), begin, number);
+            begin = end;
+        }
+    }
+
+  private:
+    void Field(const std::u32string& characters, std::size_t column, std::size_t number) {
+        const QString text = QString::fromStdU32String(characters);
+        const double room = static_cast<double>(characters.size()) * grid_.Advance();
+        const double natural = metrics_.horizontalAdvance(text);
+        painter_.save();
+        painter_.translate(grid_.Area.left() + static_cast<double>(column) * grid_.Advance(),
+                           grid_.Area.top() + static_cast<double>(number) * grid_.LineHeight() +
+                               CourierAscent * grid_.Size);
+        if (natural > room) {
+            painter_.scale(room / natural, 1); // letters of another face
+        }
+        painter_.drawText(QPointF(), text);
+        painter_.restore();
+    }
+
+    QPainter& painter_;
+    Grid grid_;
+    QFontMetricsF metrics_;
+};
+
+} // namespace
+
+void PaintReport(QPagedPaintDevice& device, std::string_view text) {
+    QPainter painter;
+    if (!painter.begin(&device)) {
+        throw PrinterError("The report could not be put on paper.");
+    }
+    CountInTwips(painter, device);
+    const Grid grid = GridOf(PrintableOf(device));
+    LinePainter lines(painter, grid);
+    bool first = true;
+    for (const PaperPage& page : ReportPages(text, grid.Columns(), grid.Lines())) {
+        if (!first && !device.newPage()) {
+            throw PrinterError("The report could not be put on a further page.");
+        }
+        first = false;
+        for (std::size_t number = 0; number < page.size(); ++number) {
+            lines.Line(page[number], number);
+        }
+    }
+}
+
+} // namespace tarn

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "app/Printer.h"
+
+namespace tarn {
+
+/// The default printer of the system, over CUPS. Each call looks afresh which queue that is and
+/// whether it takes jobs; a server that does not answer costs a few seconds. Pages are painted as
+/// PDF and handed in as one job, titled by the report's or the estimate's heading. Needs a
+/// QGuiApplication, on whatever platform.
+class SystemPrinter : public Printer {
+  public:
+    PageSize Page() override;
+    void PrintReport(const std::string& text) override;
+    void PrintEstimate(const EstimatePage& page) override;
+};
+
+} // namespace tarn
