@@ -1,0 +1,69 @@
+#pragma once
+
+// A printing system of its own for a test: CUPS on a loopback port, in a temporary directory.
+
+#include <QProcess>
+#include <QString>
+#include <QTemporaryDir>
+
+#include <map>
+#include <string>
+#include <vector>
+
+namespace tarn::testing {
+
+/// How one queue of the server stands.
+struct QueueSetup {
+    std::string Name = "Paper";
+    bool Default = true;
+    bool Stopped = false;
+    bool Accepting = true;
+    std::string OnlyUser; ///< the only user whose jobs it takes; empty = everybody
+    /// The paper of its driver, by its name there ("A4", "Letter"), and the driver's margin along
+    /// the short edges, points. Without a paper the queue has no driver and takes files as they are.
+    std::string DriverPaper;
+    int ShortEdgeMargin = 18;
+};
+
+/// A printed job: the document as it reached the printer, and the options that came with it.
+struct PrintedJob {
+    std::string Document;
+    std::string Title;
+    std::string Options;
+};
+
+/// Runs from construction to destruction; libcups then asks it. Nothing of it is left.
+class PrintServer {
+  public:
+    /// `mostBytes` is the largest request that it takes, 0 = any.
+    explicit PrintServer(const std::vector<QueueSetup>& queues, int mostBytes = 0);
+    ~PrintServer();
+    PrintServer(const PrintServer&) = delete;
+    PrintServer& operator=(const PrintServer&) = delete;
+
+    /// "127.0.0.1:port".
+    QString Address() const { return address_; }
+    /// Wait until that many jobs were printed; they, in their order.
+    std::vector<PrintedJob> Printed(std::size_t count) const;
+    /// The states (IPP job-state) of all jobs that it ever accepted, by number.
+    std::map<int, int> JobStates() const;
+    /// Stop it and wait for its end. Answers how many processes of it are still there.
+    int Stop();
+
+  private:
+    void WriteFiles(const std::vector<QueueSetup>& queues, int mostBytes, int port) const;
+    bool Start();
+    QString Path(const char* name) const { return directory_.filePath(QString::fromUtf8(name)); }
+
+    QTemporaryDir directory_;
+    QProcess process_;
+    QString address_;
+};
+
+/// The address of a loopback port where nothing listens.
+QString DeadAddress();
+
+/// Have libcups ask the server at that address from now on.
+void UseServer(const QString& address);
+
+} // namespace tarn::testing

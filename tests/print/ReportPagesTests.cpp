@@ -1,0 +1,189 @@
+#include "print/ReportPages.h"
+
+#include "print/PrintTesting.h"
+
+#include <gtest/gtest.h>
+
+namespace tarn {
+namespace {
+
+using testing::LinesOf;
+using testing::ReportOf;
+
+constexpr std::size_t Columns = 111;
+constexpr std::size_t Lines = 41;
+
+std::string WithoutBlanksAtTheEnd(std::string line) {
+    line.resize(line.find_last_not_of(' ') + 1);
+    return line;
+}
+
+std::vector<std::string> TextsOf(const PaperPage& page) {
+    std::vector<std::string> texts;
+    for (const PaperLine& line : page) {
+        texts.push_back(line.Text);
+    }
+    return texts;
+}
+
+/// A report whose only room has that room number and remark.
+std::string ReportWith(const std::string& roomNo, const std::string& remark) {
+    SharedState state;
+    PutRooms(state, {{150, 168, 0, 0, roomNo, remark}});
+    return LoadReport(state, "");
+}
+
+/// All characters of a report but blanks.
+std::string Ink(const std::string& text) {
+    std::string ink;
+    for (const char c : text) {
+        if (static_cast<unsigned char>(c) > ' ') {
+            ink += c;
+        }
+    }
+    return ink;
+}
+
+TEST(ReportPages, AShortReportIsOnePageBelowAnEmptyLine) {
+    const std::string report = ReportOf(5);
+    const auto pages = ReportPages(report, Columns, Lines);
+    ASSERT_EQ(pages.size(), 1U);
+    std::vector<std::string> expected{""};
+    for (const std::string& line : LinesOf(report)) {
+        expected.push_back(WithoutBlanksAtTheEnd(line));
+    }
+    EXPECT_EQ(TextsOf(pages[0]), expected);
+}
+
+TEST(ReportPages, NoRoomsMakeOnePageOfHeading) {
+    const auto pages = ReportPages(ReportOf(0), Columns, Lines);
+    ASSERT_EQ(pages.size(), 1U);
+    EXPECT_EQ(pages[0].size(), 10U);
+}
+
+TEST(ReportPages, APageThatIsExactlyFullHasNoEmptyOneBehind) {
+    EXPECT_EQ(ReportPages(ReportOf(31), Columns, Lines).size(), 1U);
+    EXPECT_EQ(ReportPages(ReportOf(32), Columns, Lines).size(), 2U);
+}
+
+TEST(ReportPages, FurtherPagesBeginWithTheHeadsOfTheColumnsAndEveryRowIsThereOnce) {
+    const std::string report = ReportOf(501, true);
+    const std::vector<std::string> lines = LinesOf(report);
+    const auto pages = ReportPages(report, Columns, Lines);
+    ASSERT_EQ(pages.size(), 1U + (501 - 31 + 37) / 38);
+    std::size_t row = ReportHeadingLines;
+    for (std::size_t page = 0; page < pages.size(); ++page) {
+        std::size_t first = 1 + ReportHeadingLines;
+        if (page > 0) {
+            first = ReportColumnHeadLines;
+            for (std::size_t head = 0; head < ReportColumnHeadLines; ++head) {
+                EXPECT_EQ(pages[page][head].Text, lines[6 + head]);
+            }
+        }
+        EXPECT_LE(pages[page].size(), Lines);
+        for (std::size_t i = first; i < pages[page].size(); ++i) {
+            ASSERT_LT(row, lines.size());
+            EXPECT_EQ(pages[page][i].Text, WithoutBlanksAtTheEnd(lines[row++]));
+        }
+    }
+    EXPECT_EQ(row, lines.size());
+}
+
+TEST(ReportPages, ALongRemarkGoesOnBelowItselfBrokenBehindABlank) {
+    std::string remark;
+    for (int word = 1; remark.size() < 230; ++word) {
+        remark += "word" + std::to_string(word) + " ";
+    }
+    const std::string report = ReportWith("12", remark);
+    const auto pages = ReportPages(report, Columns, Lines);
+    ASSERT_EQ(pages.size(), 1U);
+    const PaperPage& page = pages[0];
+    const std::size_t column = page[10].Text.find("word1");
+    EXPECT_EQ(page[10].Remark, column);
+    ASSERT_GT(page.size(), 12U);
+    std::string joined = page[10].Text.substr(column);
+    for (std::size_t i = 11; i < page.size(); ++i) {
+        EXPECT_LE(page[i].Text.size(), Columns);
+        EXPECT_EQ(page[i].Text.find_first_not_of(' '), column);
+        EXPECT_EQ(page[i].Text.substr(column, 4), "word");
+        joined += page[i].Text.substr(column);
+    }
+    EXPECT_EQ(joined, WithoutBlanksAtTheEnd(remark));
+}
+
+TEST(ReportPages, ARemarkWithoutABlankIsBrokenWhereTheLineEnds) {
+    const std::string remark(255, 'x');
+    const auto pages = ReportPages(ReportWith("12", remark), Columns, Lines);
+    const PaperPage& page = pages[0];
+    EXPECT_EQ(page[10].Text.size(), Columns);
+    std::string joined;
+    for (std::size_t i = 10; i < page.size(); ++i) {
+        joined += page[i].Text.substr(page[10].Remark);
+    }
+    EXPECT_EQ(joined, remark);
+}
+
+TEST(ReportPages, NoInkIsLostWhateverTheNumbersOfColumnsAndLines) {
+    const std::string report =
+        ReportWith("TOO LONG A NUMBER", "Küche, 浴室 and a " + std::string(90, 'y') + " hall") +
+        std::string(300, 'z') + "\r\n" + ReportOf(7);
+    for (const std::size_t columns : {1U, 40U, 74U, 87U, 111U, 400U}) {
+        for (const std::size_t lines : {1U, 6U, 15U, 60U}) {
+            std::string ink;
+            for (const PaperPage& page : ReportPages(report, columns, lines)) {
+                EXPECT_LE(page.size(), std::max<std::size_t>(lines, 6));
+                for (const PaperLine& line : page) {
+                    EXPECT_LE(Len(line.Text), static_cast<long long>(std::max(columns,
+                                                                              std::size_t{40})));
+                    ink += Ink(line.Text);
+                }
+            }
+            // Heads are repeated, so that the report's ink is in there in its order.
+            std::size_t found = 0;
+            const std::string whole = Ink(report);
+            for (const char c : ink) {
+                found += found < whole.size() && c == whole[found] ? 1 : 0;
+            }
+            EXPECT_EQ(found, whole.size()) << columns << " columns, " << lines << " lines";
+        }
+    }
+}
+
+TEST(ReportPages, ARowStaysWithItsContinuationOnOnePage) {
+    std::string report = ReportOf(30); // 40 lines with the empty one: one is left on the page
+    SharedState state;
+    PutRooms(state, {{100, 100, 0, 0, "", std::string(60, 'x')}});
+    report += LinesOf(LoadReport(state, "")).back() + "\r\n";
+    const auto pages = ReportPages(report, Columns, Lines);
+    ASSERT_EQ(pages.size(), 2U);
+    EXPECT_EQ(pages[0].size(), Lines - 1);
+    EXPECT_EQ(pages[1].size(), ReportColumnHeadLines + 2);
+}
+
+TEST(ReportPages, ControlCharactersBecomeBlanks) {
+    const auto pages = ReportPages(ReportWith("1\t2", "a\nb\rc"), Columns, Lines);
+    EXPECT_NE(pages[0][10].Text.find("1 2"), std::string::npos);
+    EXPECT_NE(pages[0][10].Text.find("a b c"), std::string::npos);
+}
+
+TEST(ReportPages, AnAccentStaysWithItsLetter) {
+    std::string remark(200, 'x');
+    for (std::size_t i = 1; i < 200; i += 3) {
+        remark.replace(i, 1, "e\u0301");
+        i += 2;
+    }
+    const auto pages = ReportPages(ReportWith("1", remark), Columns, Lines);
+    for (std::size_t i = 11; i < pages[0].size(); ++i) {
+        const std::string& text = pages[0][i].Text;
+        EXPECT_NE(text.substr(text.find_first_not_of(' '), 2), "\u0301");
+    }
+}
+
+TEST(ReportPages, ATextThatIsNoReportIsStillPaged) {
+    const auto pages = ReportPages("one\r\ntwo", Columns, Lines);
+    ASSERT_EQ(pages.size(), 1U);
+    EXPECT_EQ(TextsOf(pages[0]), (std::vector<std::string>{"", "one", "two"}));
+}
+
+} // namespace
+} // namespace tarn

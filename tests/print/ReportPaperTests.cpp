@@ -1,0 +1,171 @@
+#include "print/ReportPaper.h"
+
+#include "print/FixedPitchFont.h"
+#include "print/PdfFile.h"
+#include "print/PdfTesting.h"
+#include "print/PrintTesting.h"
+#include "print/ReportPages.h"
+
+#include <QFile>
+#include <QPdfWriter>
+#include <QPrinter>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+
+namespace tarn {
+namespace {
+
+using testing::A4Height;
+using testing::A4Width;
+using testing::LinesOf;
+using testing::Pdf;
+using testing::PdfWord;
+using testing::ReportOf;
+
+constexpr double Margin = 18;   // points
+constexpr double Advance = 7.2; // of 12 points
+constexpr double LineHeight = 12 * CourierLineHeight;
+
+/// Each word of a line and its column.
+std::vector<std::pair<QString, qsizetype>> WordsOf(const QString& line) {
+    std::vector<std::pair<QString, qsizetype>> words;
+    for (qsizetype begin = 0; begin < line.size();) {
+        if (line[begin] == u' ') {
+            ++begin;
+            continue;
+        }
+        qsizetype end = line.indexOf(u' ', begin);
+        end = end < 0 ? line.size() : end;
+        words.emplace_back(line.mid(begin, end - begin), begin);
+        begin = end;
+    }
+    return words;
+}
+
+/// The words of a page stand line by line in the columns that they have in `lines`.
+void ExpectColumns(std::vector<PdfWord> found, const PaperPage& lines, double advance) {
+    const auto place = [lineHeight = LineHeight * advance / Advance](const PdfWord& word) {
+        const double line = std::floor((word.Box.center().y() - Margin) / lineHeight);
+        return std::pair(line, word.Box.left());
+    };
+    std::sort(found.begin(), found.end(), [&place](const PdfWord& first, const PdfWord& second) {
+        return place(first) < place(second);
+    });
+    std::size_t next = 0;
+    for (std::size_t line = 0; line < lines.size(); ++line) {
+        for (const auto& [word, column] : WordsOf(QString::fromStdString(lines[line].Text))) {
+            ASSERT_LT(next, found.size());
+            const PdfWord& there = found[next++];
+            ASSERT_EQ(there.Text.toStdString(), word.toStdString());
+            EXPECT_NEAR(there.Box.left(), Margin + static_cast<double>(column) * advance, 0.3)
+                << word.toStdString();
+            EXPECT_NEAR(there.Box.width(), static_cast<double>(word.size()) * advance, 0.3)
+                << word.toStdString();
+            const double top = Margin + static_cast<double>(line) * LineHeight * advance / Advance;
+            EXPECT_NEAR(there.Box.center().y(), top + LineHeight * advance / Advance / 2, 2)
+                << word.toStdString();
+        }
+    }
+    EXPECT_EQ(next, found.size());
+}
+
+TEST(PaintReport, EveryWordStandsInItsColumnOnEveryPage) {
+    for (const bool metric : {false, true}) {
+        const std::string report = ReportOf(120, metric);
+        const Pdf pdf(ReportPdf(report));
+        const auto pages = ReportPages(report, 111, 41);
+        ASSERT_EQ(pdf.Pages(), static_cast<int>(pages.size()));
+        EXPECT_EQ(pdf.PageSize(), QSizeF(A4Width, A4Height));
+        for (int page = 1; page <= pdf.Pages(); ++page) {
+            ExpectColumns(pdf.Words(page), pages[static_cast<std::size_t>(page - 1)], Advance);
+        }
+    }
+}
+
+TEST(PaintReport, ReadsLineByLineAsTheReportDoes) {
+    const std::string report = ReportOf(20);
+    QStringList found;
+    for (const QString& line : Pdf(ReportPdf(report)).Layout(1).split(u'\n')) {
+        if (!line.trimmed().isEmpty()) {
+            found << line.simplified();
+        }
+    }
+    QStringList expected;
+    for (const std::string& line : LinesOf(report)) {
+        const QString words = testing::Words(line);
+        if (!words.isEmpty()) {
+            expected << words;
+        }
+    }
+    EXPECT_EQ(found, expected);
+}
+
+TEST(PaintReport, NothingIsNearerToTheEdgeThanTheMargin) {
+    SharedState state;
+    PutRooms(state, std::vector<RoomRecord>(120, {150, 168, 0, 5, "WWWWWWWW",
+                                                  std::string(255, 'W')}));
+    const Pdf pdf(ReportPdf(LoadReport(state, "11/21/2031")));
+    for (int page = 1; page <= pdf.Pages(); ++page) {
+        const QImage image = pdf.Image(page, 72);
+        const QRect ink = testing::InkOf(image);
+        EXPECT_GE(ink.left(), 17);
+        EXPECT_GE(ink.top(), 17);
+        EXPECT_LE(ink.right(), image.width() - 18);
+        EXPECT_LE(ink.bottom(), image.height() - 18);
+    }
+}
+
+TEST(PaintReport, OnASmallSheetTheLettersGetSmallerUntilTheHeadingFits) {
+    Paper a5;
+    a5.Size = {11906, 8391};
+    const std::string report = ReportOf(3);
+    const Pdf pdf(ReportPdf(report, a5));
+    const double advance = 0.6 * std::floor((11906 - 720) / (87 * 0.6)) / 20;
+    ExpectColumns(pdf.Words(1), ReportPages(report, 87, 41)[0], advance);
+}
+
+TEST(PaintReport, LettersThatTheFaceLacksLeaveTheColumnsBehindThemInPlace) {
+    SharedState state;
+    PutRooms(state, {{150, 168, 0, 0, "浴室浴室", "Remark"}, {150, 168, 0, 0, "12", "Remark"}});
+    std::vector<double> lefts;
+    for (const PdfWord& word : Pdf(ReportPdf(LoadReport(state, ""))).Words(1)) {
+        if (word.Text == QStringLiteral("Remark")) {
+            lefts.push_back(word.Box.left());
+        }
+    }
+    ASSERT_EQ(lefts.size(), 2U);
+    EXPECT_NEAR(lefts[0], lefts[1], 0.1);
+}
+
+TEST(PaintReport, PaintsOnAPrinterThatCountsFromItsMarginsToo) {
+    const QTemporaryDir directory;
+    const QString path = directory.filePath(QStringLiteral("printer.pdf"));
+    const std::string report = ReportOf(40);
+    {
+        QPrinter printer(QPrinter::HighResolution);
+        printer.setOutputFormat(QPrinter::PdfFormat);
+        printer.setOutputFileName(path);
+        printer.setPageLayout(QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Landscape,
+                                          QMarginsF(Margin, Margin, Margin, Margin)));
+        ASSERT_EQ(printer.pageLayout().mode(), QPageLayout::StandardMode);
+        PaintReport(printer, report);
+    }
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    const Pdf pdf(file.readAll().toStdString());
+    ASSERT_EQ(pdf.Pages(), 2);
+    const auto pages = ReportPages(report, 111, 41);
+    ExpectColumns(pdf.Words(1), pages[0], Advance);
+    ExpectColumns(pdf.Words(2), pages[1], Advance);
+}
+
+TEST(PaintReport, ADeviceThatCannotBePaintedOnIsAnError) {
+    QPdfWriter writer(QStringLiteral("/no/such/folder/report.pdf"));
+    EXPECT_THROW(PaintReport(writer, ReportOf(1)), PrinterError);
+}
+
+} // namespace
+} // namespace tarn

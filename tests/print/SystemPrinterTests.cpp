@@ -1,0 +1,328 @@
+#include "print/SystemPrinter.h"
+
+#include "print/PdfFile.h"
+#include "print/PdfTesting.h"
+#include "print/PrintServer.h"
+#include "print/PrintTesting.h"
+#include "print/PrinterPage.h"
+
+#include <QElapsedTimer>
+#include <QTcpServer>
+
+#include <cups/cups.h>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace tarn {
+namespace {
+
+using ::testing::HasSubstr;
+using ::testing::Not;
+using testing::A4Height;
+using testing::A4Width;
+using testing::CornersDrawing;
+using testing::DeadAddress;
+using testing::PageOf;
+using testing::Pdf;
+using testing::PrintedJob;
+using testing::PrintServer;
+using testing::QueueSetup;
+using testing::ReportOf;
+using testing::UseServer;
+
+QueueSetup Driven(const std::string& paper, int shortEdgeMargin = 18) {
+    QueueSetup queue;
+    queue.DriverPaper = paper;
+    queue.ShortEdgeMargin = shortEdgeMargin;
+    return queue;
+}
+
+/// What the user chose for the queue "Paper", as lpoptions would store it, until the end of scope.
+class UserChoice {
+  public:
+    struct Option {
+        const char* Name;
+        const char* Value;
+    };
+
+    UserChoice(std::initializer_list<Option> options) { Store(options); }
+    ~UserChoice() { Store({}); }
+    UserChoice(const UserChoice&) = delete;
+    UserChoice& operator=(const UserChoice&) = delete;
+
+  private:
+    static void Store(std::initializer_list<Option> options) {
+        cups_dest_t* queues = nullptr;
+        const int count = cupsAddDest("Paper", nullptr, 0, &queues);
+        for (const Option& option : options) {
+            queues->num_options = cupsAddOption(option.Name, option.Value, queues->num_options,
+                                                &queues->options);
+        }
+        EXPECT_EQ(cupsSetDests2(CUPS_HTTP_DEFAULT, count, queues), 0) << cupsLastErrorString();
+        cupsFreeDests(count, queues);
+    }
+};
+
+/// Every way of using the printer, each refused with a text that holds `reason`.
+void ExpectRefused(const std::string& reason) {
+    SystemPrinter printer;
+    const auto refused = [&reason](const char* what, auto action) {
+        try {
+            action();
+            ADD_FAILURE() << what << " went through";
+        } catch (const PrinterError& error) {
+            EXPECT_THAT(error.what(), HasSubstr(reason)) << what;
+        }
+    };
+    const Picture drawing = CornersDrawing();
+    refused("Page", [&] { printer.Page(); });
+    refused("PrintReport", [&] { printer.PrintReport(ReportOf(3)); });
+    refused("PrintEstimate", [&] { printer.PrintEstimate(PageOf(drawing)); });
+}
+
+// --- jobs that arrive ---
+
+TEST(SystemPrinter, TheReportArrivesAsOneLandscapeJobWithAllItsText) {
+    const PrintServer server({QueueSetup()});
+    const std::string report = ReportOf(100);
+    SystemPrinter().PrintReport(report);
+    const PrintedJob job = server.Printed(1).at(0);
+    EXPECT_EQ(job.Title, "ENTERED DATA REPORT");
+    const Pdf pdf(job.Document);
+    EXPECT_EQ(pdf.PageSize(), QSizeF(A4Width, A4Height));
+    EXPECT_EQ(pdf.Pages(), 3);
+    const QStringList words = pdf.Text().split(u' ');
+    for (int number = 1; number <= 100; ++number) {
+        const QString remark = QStringLiteral("remark%1").arg(number);
+        EXPECT_EQ(words.count(remark), 1) << number;
+    }
+    EXPECT_EQ(server.JobStates().size(), 1U);
+}
+
+TEST(SystemPrinter, TheEstimateArrivesAsOneLandscapeJobOfOnePage) {
+    const PrintServer server({QueueSetup()});
+    const Picture drawing = CornersDrawing();
+    SystemPrinter().PrintEstimate(PageOf(drawing));
+    const PrintedJob job = server.Printed(1).at(0);
+    EXPECT_EQ(job.Title, "TARN RESULT  (PROJECT: MAPLE HOUSE)  11/21/2031");
+    const Pdf pdf(job.Document);
+    EXPECT_EQ(pdf.PageSize(), QSizeF(A4Width, A4Height));
+    EXPECT_EQ(pdf.Pages(), 1);
+    EXPECT_EQ(pdf.Text().toStdString(), "TARN RESULT (PROJECT: MAPLE HOUSE) 11/21/2031 "
+                                        "Total Length:30'0\" Carpet-1 Width=12'0\" DOWNLAY");
+}
+
+TEST(SystemPrinter, TwoPrintsAreTwoJobs) {
+    const PrintServer server({QueueSetup()});
+    SystemPrinter printer;
+    printer.PrintReport(ReportOf(1));
+    printer.PrintReport(ReportOf(2));
+    EXPECT_EQ(server.Printed(2).size(), 2U);
+}
+
+TEST(SystemPrinter, TakesTheDefaultQueueAmongOthers) {
+    QueueSetup other;
+    other.Name = "Another";
+    other.Default = false;
+    other.Stopped = true;
+    QueueSetup last = other;
+    last.Name = "Zebra";
+    const PrintServer server({other, QueueSetup(), last});
+    SystemPrinter().PrintReport(ReportOf(1));
+    EXPECT_EQ(server.Printed(1).size(), 1U);
+}
+
+TEST(SystemPrinter, TheUsersOwnDefaultComesBeforeTheSystems) {
+    QueueSetup stopped;
+    stopped.Name = "Stopped";
+    stopped.Default = false;
+    stopped.Stopped = true;
+    const PrintServer server({QueueSetup(), stopped});
+    EXPECT_NO_THROW(SystemPrinter().Page());
+    qputenv("LPDEST", "Stopped");
+    ExpectRefused("The printer Stopped is stopped.");
+    qunsetenv("LPDEST");
+}
+
+TEST(SystemPrinter, AChoiceOfTheQueueThatWouldTurnOrResizeThePageIsLeftOut) {
+    const PrintServer server({QueueSetup()});
+    const UserChoice choice{{"number-up", "4"},
+                             {"landscape", "true"},
+                             {"fit-to-page", "true"},
+                             {"sides", "two-sided-long-edge"}};
+    SystemPrinter().PrintReport(ReportOf(1));
+    const std::string options = server.Printed(1).at(0).Options;
+    EXPECT_THAT(options, HasSubstr("sides=two-sided-long-edge"));
+    EXPECT_THAT(options, HasSubstr("print-scaling=none"));
+    for (const char* option : {"number-up=4", "landscape", "fit-to-page"}) {
+        EXPECT_THAT(options, Not(HasSubstr(option)));
+    }
+}
+
+// --- paper ---
+
+TEST(SystemPrinter, APageIsTheDefaultPaperInLandscapeTwips) {
+    const PrintServer server({Driven("Letter")});
+    const Printer::PageSize page = SystemPrinter().Page();
+    EXPECT_NEAR(page.Width, 15840, 1);
+    EXPECT_NEAR(page.Height, 12240, 1);
+}
+
+TEST(SystemPrinter, APageIsA4WhereTheQueueDoesNotTell) {
+    const PrintServer server({QueueSetup()});
+    const Printer::PageSize page = SystemPrinter().Page();
+    EXPECT_EQ(page.Width, 16838);
+    EXPECT_EQ(page.Height, 11906);
+}
+
+TEST(SystemPrinter, TheUsersChoiceOfPaperHoldsAndIsAskedFor) {
+    const PrintServer server({Driven("Letter")});
+    const UserChoice choice{{"media", "A4"}};
+    EXPECT_NEAR(SystemPrinter().Page().Width, 16838, 1);
+    SystemPrinter().PrintReport(ReportOf(1));
+    EXPECT_THAT(server.Printed(1).at(0).Options, HasSubstr("media=iso_a4_210x297mm"));
+}
+
+TEST(SystemPrinter, TheReportKeepsItsSizeThroughAPrintersDriver) {
+    const PrintServer server({Driven("A4", 36)});
+    SystemPrinter().PrintReport(ReportOf(1));
+    const Pdf pdf(server.Printed(1).at(0).Document);
+    // The driver hands the printer an upright sheet with the page turned on it.
+    const QSizeF size = pdf.PageSize();
+    EXPECT_EQ(qMin(size.width(), size.height()), A4Height);
+    EXPECT_EQ(qMax(size.width(), size.height()), A4Width);
+    EXPECT_EQ(pdf.Pages(), 1);
+    const QImage page = pdf.Image(1, 72);
+    const bool upright = page.height() > page.width();
+    const QRect ink = testing::InkOf(upright ? page.transformed(QTransform().rotate(90)) : page);
+    const QRect plain = testing::InkOf(Pdf(ReportPdf(ReportOf(1))).Image(1, 72));
+    EXPECT_NEAR(ink.width(), plain.width(), 2);
+    EXPECT_NEAR(ink.height(), plain.height(), 2);
+}
+
+TEST(SystemPrinter, NothingIsPrintedInsideTheMarginsOfTheDriver) {
+    const int margin = 50;
+    const PrintServer server({Driven("Letter", margin)});
+    SharedState state;
+    SystemPrinter printer;
+    TakePrinterPage(state, printer);
+    const Picture drawing = CornersDrawing();
+    EstimatePage estimate = PageOf(drawing);
+    estimate.PrnWidth = state.PrnWidth;
+    estimate.PrnHeight = state.PrnHeight;
+    printer.PrintEstimate(estimate);
+    printer.PrintReport(ReportOf(100));
+    for (const PrintedJob& job : server.Printed(2)) {
+        const Pdf pdf(job.Document);
+        const QImage page = pdf.Image(1, 72);
+        const QRect ink = testing::InkOf(page);
+        const bool upright = page.height() > page.width();
+        const int shortEdge = upright ? ink.top() : ink.left();
+        const int otherShortEdge =
+            upright ? page.height() - 1 - ink.bottom() : page.width() - 1 - ink.right();
+        EXPECT_GE(shortEdge, margin - 1) << job.Title;
+        EXPECT_GE(otherShortEdge, margin - 1) << job.Title;
+        EXPECT_GT(ink.width() * ink.height(), 612 * 792 / 3) << job.Title;
+    }
+}
+
+// --- jobs that cannot be printed ---
+
+TEST(SystemPrinter, ThereIsNoPrinterWithoutAQueue) {
+    const PrintServer server({});
+    ExpectRefused("There is no default printer.");
+}
+
+TEST(SystemPrinter, ThereIsNoPrinterWithoutADefaultQueue) {
+    QueueSetup queue;
+    queue.Default = false;
+    const PrintServer server({queue});
+    ExpectRefused("There is no default printer.");
+}
+
+TEST(SystemPrinter, AStoppedQueueIsNoPrinter) {
+    QueueSetup queue;
+    queue.Stopped = true;
+    const PrintServer server({queue});
+    ExpectRefused("The printer Paper is stopped.");
+    EXPECT_TRUE(server.JobStates().empty());
+}
+
+TEST(SystemPrinter, AQueueThatTakesNoJobsIsNoPrinter) {
+    QueueSetup queue;
+    queue.Accepting = false;
+    const PrintServer server({queue});
+    ExpectRefused("The printer Paper takes no jobs.");
+    EXPECT_TRUE(server.JobStates().empty());
+}
+
+TEST(SystemPrinter, AServerThatIsAwayIsNoPrinterAtOnce) {
+    UseServer(DeadAddress());
+    QElapsedTimer time;
+    time.start();
+    ExpectRefused("cannot be reached");
+    EXPECT_LT(time.elapsed(), 3000); // three tries, each refused at once
+}
+
+TEST(SystemPrinter, AServerThatStopsMeanwhileIsNoPrinter) {
+    PrintServer server({QueueSetup()});
+    EXPECT_NO_THROW(SystemPrinter().Page());
+    EXPECT_EQ(server.Stop(), 0);
+    ExpectRefused("cannot be reached");
+}
+
+TEST(SystemPrinter, AServerThatNeverAnswersIsGivenUpAfterSeconds) {
+    QTcpServer silent; // its connections wait unanswered
+    ASSERT_TRUE(silent.listen(QHostAddress::LocalHost));
+    UseServer(QStringLiteral("127.0.0.1:%1").arg(silent.serverPort()));
+    QElapsedTimer time;
+    time.start();
+    EXPECT_THROW(SystemPrinter().Page(), PrinterError);
+    EXPECT_LT(time.elapsed(), 20000);
+}
+
+TEST(SystemPrinter, AJobThatTheServerForbidsIsRefused) {
+    QueueSetup queue;
+    queue.OnlyUser = "somebody-else";
+    const PrintServer server({queue});
+    SystemPrinter printer;
+    EXPECT_NO_THROW(printer.Page());
+    try {
+        printer.PrintReport(ReportOf(1));
+        FAIL() << "the job went through";
+    } catch (const PrinterError& error) {
+        EXPECT_THAT(error.what(), HasSubstr("The printer Paper refused the job: "));
+    }
+    EXPECT_TRUE(server.JobStates().empty());
+}
+
+TEST(SystemPrinter, AJobWhoseDocumentIsRefusedLeavesNoPage) {
+    const PrintServer server({QueueSetup()}, 4000); // less than any page
+    SystemPrinter printer;
+    EXPECT_THROW(printer.PrintReport(ReportOf(100)), PrinterError);
+    for (const auto& [number, state] : server.JobStates()) {
+        EXPECT_EQ(state, IPP_JSTATE_CANCELED) << "job " << number;
+    }
+    EXPECT_TRUE(server.Printed(0).empty());
+}
+
+TEST(ReadPrinterPage, ReadsTheSheetOfTheSystemsPrinter) {
+    const PrintServer server({Driven("A4")});
+    SharedState state;
+    SystemPrinter printer;
+    ReadPrinterPage(state, printer);
+    EXPECT_EQ(state.PrnWidth, 842 * 20); // as its driver has it
+    EXPECT_EQ(state.PrnHeight, 595 * 20);
+}
+
+TEST(ReadPrinterPage, ASystemWithoutAPrinterLeavesBothSidesUnset) {
+    UseServer(DeadAddress());
+    SharedState state;
+    SystemPrinter printer;
+    ReadPrinterPage(state, printer);
+    EXPECT_EQ(state.PrnWidth, 0);
+    EXPECT_EQ(state.PrnHeight, 0);
+}
+
+} // namespace
+} // namespace tarn
