@@ -25,10 +25,10 @@ TEST(CourierNew, HasLettersOfSixTenthsOfItsSize) {
 }
 
 TEST(FixedPitchFont, TakesTheFirstFaceThatIsThere) {
-    const QFont font = FixedPitchFont({QStringLiteral("No Such Face"),
-                                       QStringLiteral("Liberation Mono"),
-                                       QStringLiteral("DejaVu Sans Mono")},
-                                      Size);
+    const QFont font =
+        FixedPitchFont({QStringLiteral("No Such Face"), QStringLiteral("Liberation Mono"),
+                        QStringLiteral("DejaVu Sans Mono")},
+                       Size);
     EXPECT_EQ(font.family(), QStringLiteral("Liberation Mono"));
     ExpectCourierColumns(font);
 }

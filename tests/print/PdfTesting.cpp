@@ -21,8 +21,7 @@ QString S(const char* text) {
 Pdf::Pdf(const std::string& content) {
     QFile file(Path());
     EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-    EXPECT_EQ(file.write(QByteArray::fromStdString(content)),
-              static_cast<qint64>(content.size()));
+    EXPECT_EQ(file.write(QByteArray::fromStdString(content)), static_cast<qint64>(content.size()));
 }
 
 QString Pdf::Run(const QString& program, const QStringList& arguments) const {
@@ -31,8 +30,9 @@ QString Pdf::Run(const QString& program, const QStringList& arguments) const {
     constexpr int PatienceMs = 60000;
     const bool done = process.waitForFinished(PatienceMs);
     EXPECT_TRUE(done && process.exitCode() == 0)
-        << program.toStdString() << " (of the package poppler-utils): "
-        << process.errorString().toStdString() << process.readAllStandardError().toStdString();
+        << program.toStdString()
+        << " (of the package poppler-utils): " << process.errorString().toStdString()
+        << process.readAllStandardError().toStdString();
     return QString::fromUtf8(process.readAllStandardOutput());
 }
 
@@ -106,8 +106,9 @@ QString Words(const std::string& text) {
     return QString::fromStdString(text).simplified();
 }
 
-QRect InkIn(const QImage& image, const QRect& area) {
+QRect InkIn(const QImage& image, const QRect& wanted) {
     constexpr int White = 250;
+    const QRect area = wanted & image.rect();
     QRect ink;
     for (int y = area.top(); y <= area.bottom(); ++y) {
         for (int x = area.left(); x <= area.right(); ++x) {

@@ -10,7 +10,8 @@ int main(int argc, char** argv) {
     for (const char* directory : {"HOME", "XDG_RUNTIME_DIR"}) {
         qputenv(directory, home.path().toLocal8Bit());
     }
-    for (const char* choice : {"CUPS_SERVER", "CUPS_USER", "CUPS_ENCRYPTION", "LPDEST", "PRINTER"}) {
+    for (const char* choice :
+         {"CUPS_SERVER", "CUPS_USER", "CUPS_ENCRYPTION", "LPDEST", "PRINTER"}) {
         qunsetenv(choice);
     }
     qputenv("QT_QPA_PLATFORM", "offscreen");

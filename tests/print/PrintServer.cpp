@@ -6,10 +6,10 @@
 #include <QTcpSocket>
 #include <QTest>
 
-#include <cups/cups.h>
 #include <gtest/gtest.h>
 
 #include <csignal>
+#include <cups/cups.h>
 #include <memory>
 #include <sys/prctl.h>
 #include <unistd.h>
@@ -153,8 +153,7 @@ PrintServer::~PrintServer() {
     cupsSetServer(nullptr);
 }
 
-void PrintServer::WriteFiles(const std::vector<QueueSetup>& queues, int mostBytes,
-                             int port) const {
+void PrintServer::WriteFiles(const std::vector<QueueSetup>& queues, int mostBytes, int port) const {
     const QDir root(directory_.path());
     QFile::setPermissions(root.path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner |
                                            QFile::ReadOther | QFile::ExeOther);
@@ -176,11 +175,11 @@ void PrintServer::WriteFiles(const std::vector<QueueSetup>& queues, int mostByte
                                   "\n<Location />\nOrder allow,deny\nAllow localhost\n</Location>\n"
                                   "<Policy default>\n<Limit All>\nOrder deny,allow\n</Limit>\n"
                                   "</Policy>\n");
-    Write(Path("files.conf"),
-          "ServerRoot " + path + "/root\nServerBin " + path + "/bin\nCacheDir " + path +
-              "/cache\nStateDir " + path + "/run\nRequestRoot " + path + "/spool\nTempDir " + path +
-              "/spool/tmp\nAccessLog " + path + "/log/access\nErrorLog " + path +
-              "/log/error\nPageLog " + path + "/log/page\n");
+    Write(Path("files.conf"), "ServerRoot " + path + "/root\nServerBin " + path +
+                                  "/bin\nCacheDir " + path + "/cache\nStateDir " + path +
+                                  "/run\nRequestRoot " + path + "/spool\nTempDir " + path +
+                                  "/spool/tmp\nAccessLog " + path + "/log/access\nErrorLog " +
+                                  path + "/log/error\nPageLog " + path + "/log/page\n");
     std::string entries;
     for (const QueueSetup& queue : queues) {
         entries += QueueEntry(queue, path + "/jobs");
@@ -210,8 +209,8 @@ bool PrintServer::Start() {
 std::vector<PrintedJob> PrintServer::Printed(std::size_t count) const {
     const QDir jobs(Path("jobs"));
     const auto done = [&jobs] { return jobs.entryList({S("*.done")}, QDir::Files); };
-    EXPECT_TRUE(QTest::qWaitFor([&] { return done().size() >= static_cast<qsizetype>(count); },
-                                PatienceMs))
+    EXPECT_TRUE(
+        QTest::qWaitFor([&] { return done().size() >= static_cast<qsizetype>(count); }, PatienceMs))
         << "only " << done().size() << " jobs were printed\n"
         << Read(Path("log/error"));
     std::map<int, PrintedJob> byNumber;

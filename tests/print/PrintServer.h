@@ -20,7 +20,8 @@ struct QueueSetup {
     bool Accepting = true;
     std::string OnlyUser; ///< the only user whose jobs it takes; empty = everybody
     /// The paper of its driver, by its name there ("A4", "Letter"), and the driver's margin along
-    /// the short edges, points. Without a paper the queue has no driver and takes files as they are.
+    /// the short edges, points. Without a paper the queue has no driver and takes files as they
+    /// are.
     std::string DriverPaper;
     int ShortEdgeMargin = 18;
 };

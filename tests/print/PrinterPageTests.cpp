@@ -1,6 +1,5 @@
-#include "print/PrinterPage.h"
-
 #include "app/RunTimeError.h"
+#include "print/PrinterPage.h"
 
 #include <gtest/gtest.h>
 
@@ -12,7 +11,8 @@ struct SheetPrinter : Printer {
     PageSize Size;
     bool Fails = false;
 
-    SheetPrinter(Double width, Double height) : Size{width, height} {}
+    SheetPrinter(Double width, Double height)
+        : Size{width, height} {}
     PageSize Page() override {
         if (Fails) {
             throw PrinterError("There is no default printer.");

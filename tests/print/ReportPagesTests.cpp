@@ -1,6 +1,5 @@
-#include "print/ReportPages.h"
-
 #include "print/PrintTesting.h"
+#include "print/ReportPages.h"
 
 #include <gtest/gtest.h>
 
@@ -133,8 +132,8 @@ TEST(ReportPages, NoInkIsLostWhateverTheNumbersOfColumnsAndLines) {
             for (const PaperPage& page : ReportPages(report, columns, lines)) {
                 EXPECT_LE(page.size(), std::max<std::size_t>(lines, 6));
                 for (const PaperLine& line : page) {
-                    EXPECT_LE(Len(line.Text), static_cast<long long>(std::max(columns,
-                                                                              std::size_t{40})));
+                    EXPECT_LE(Len(line.Text),
+                              static_cast<long long>(std::max(columns, std::size_t{40})));
                     ink += Ink(line.Text);
                 }
             }

@@ -1,10 +1,9 @@
-#include "print/ReportPaper.h"
-
 #include "print/FixedPitchFont.h"
 #include "print/PdfFile.h"
 #include "print/PdfTesting.h"
 #include "print/PrintTesting.h"
 #include "print/ReportPages.h"
+#include "print/ReportPaper.h"
 
 #include <QFile>
 #include <QPdfWriter>
@@ -105,8 +104,8 @@ TEST(PaintReport, ReadsLineByLineAsTheReportDoes) {
 
 TEST(PaintReport, NothingIsNearerToTheEdgeThanTheMargin) {
     SharedState state;
-    PutRooms(state, std::vector<RoomRecord>(120, {150, 168, 0, 5, "WWWWWWWW",
-                                                  std::string(255, 'W')}));
+    PutRooms(state,
+             std::vector<RoomRecord>(120, {150, 168, 0, 5, "WWWWWWWW", std::string(255, 'W')}));
     const Pdf pdf(ReportPdf(LoadReport(state, "11/21/2031")));
     for (int page = 1; page <= pdf.Pages(); ++page) {
         const QImage image = pdf.Image(page, 72);

@@ -1,27 +1,27 @@
-#include "print/SystemPrinter.h"
-
 #include "print/PdfFile.h"
 #include "print/PdfTesting.h"
 #include "print/PrintServer.h"
 #include "print/PrintTesting.h"
 #include "print/PrinterPage.h"
+#include "print/SystemPrinter.h"
 
 #include <QElapsedTimer>
 #include <QTcpServer>
 
-#include <cups/cups.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+
+#include <cups/cups.h>
 
 namespace tarn {
 namespace {
 
-using ::testing::HasSubstr;
-using ::testing::Not;
 using testing::A4Height;
 using testing::A4Width;
 using testing::CornersDrawing;
 using testing::DeadAddress;
+using ::testing::HasSubstr;
+using ::testing::Not;
 using testing::PageOf;
 using testing::Pdf;
 using testing::PrintedJob;
@@ -55,8 +55,8 @@ class UserChoice {
         cups_dest_t* queues = nullptr;
         const int count = cupsAddDest("Paper", nullptr, 0, &queues);
         for (const Option& option : options) {
-            queues->num_options = cupsAddOption(option.Name, option.Value, queues->num_options,
-                                                &queues->options);
+            queues->num_options =
+                cupsAddOption(option.Name, option.Value, queues->num_options, &queues->options);
         }
         EXPECT_EQ(cupsSetDests2(CUPS_HTTP_DEFAULT, count, queues), 0) << cupsLastErrorString();
         cupsFreeDests(count, queues);
@@ -147,9 +147,9 @@ TEST(SystemPrinter, TheUsersOwnDefaultComesBeforeTheSystems) {
 TEST(SystemPrinter, AChoiceOfTheQueueThatWouldTurnOrResizeThePageIsLeftOut) {
     const PrintServer server({QueueSetup()});
     const UserChoice choice{{"number-up", "4"},
-                             {"landscape", "true"},
-                             {"fit-to-page", "true"},
-                             {"sides", "two-sided-long-edge"}};
+                            {"landscape", "true"},
+                            {"fit-to-page", "true"},
+                            {"sides", "two-sided-long-edge"}};
     SystemPrinter().PrintReport(ReportOf(1));
     const std::string options = server.Printed(1).at(0).Options;
     EXPECT_THAT(options, HasSubstr("sides=two-sided-long-edge"));
