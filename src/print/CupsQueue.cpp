@@ -40,6 +40,16 @@ struct FreeInfo {
     void operator()(cups_dinfo_t* info) const { cupsFreeDestInfo(info); }
 };
 
+/// A first, small request: a server that keeps silent is given up before it is asked for more.
+void RequireAnswer(http_t* connection) {
+    ippDelete(cupsDoRequest(connection, ippNewRequest(IPP_OP_CUPS_GET_DEFAULT), "/"));
+    const ipp_status_t status = cupsLastError();
+    if (status > IPP_STATUS_OK_EVENTS_COMPLETE && status != IPP_STATUS_ERROR_NOT_FOUND) {
+        throw PrinterError(
+            "The printing system does not answer: " + std::string(cupsLastErrorString()) + ".");
+    }
+}
+
 Double TwipsOfMillimetreHundredths(int hundredths) {
     constexpr Double HundredthsPerInch = 2540;
     return hundredths * TwipsPerInch / HundredthsPerInch;
@@ -80,13 +90,11 @@ CupsQueue::CupsQueue()
                            ") cannot be reached.");
     }
     httpSetTimeout(connection, AnswerPatienceSeconds, GiveUp, nullptr);
+    RequireAnswer(connection);
     handles_->Queue.reset(cupsGetNamedDest(connection, nullptr, nullptr));
     const cups_dest_t* queue = handles_->Queue.get();
     if (queue == nullptr) {
-        throw PrinterError(cupsLastError() <= IPP_STATUS_ERROR_NOT_FOUND
-                               ? std::string("There is no default printer.")
-                               : "The printing system does not answer: " +
-                                     std::string(cupsLastErrorString()) + ".");
+        throw PrinterError("There is no default printer.");
     }
     name_ = queue->name;
     if (OptionOf(*queue, "printer-state") == StoppedState) {

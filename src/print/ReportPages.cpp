@@ -25,12 +25,13 @@ Characters CharactersOf(std::string_view line) {
             c = U' ';
         }
     }
-    characters.resize(characters.find_last_not_of(U' ') + 1);
+    characters.resize(characters.find_last_not_of(U' ') + 1); // nothing to break there
     return characters;
 }
 
 std::string Utf8(const Characters& characters) {
-    return QString::fromStdU32String(characters).toStdString();
+    const std::size_t end = characters.find_last_not_of(U' ') + 1;
+    return QString::fromStdU32String(characters.substr(0, end)).toStdString();
 }
 
 std::vector<std::string_view> LinesOf(std::string_view text) {
@@ -56,7 +57,7 @@ std::size_t LineLength(const Characters& rest, std::size_t fixed, std::size_t wi
     }
     const std::size_t blank = rest.rfind(U' ', width);
     if (blank != Characters::npos && blank > fixed) {
-        return std::min(blank + 1, width);
+        return blank + 1; // a blank behind the last column is not seen
     }
     std::size_t length = width;
     while (length > fixed + 1 && IsMark(rest[length])) {

@@ -277,7 +277,12 @@ TEST(SystemPrinter, AServerThatNeverAnswersIsGivenUpAfterSeconds) {
     UseServer(QStringLiteral("127.0.0.1:%1").arg(silent.serverPort()));
     QElapsedTimer time;
     time.start();
-    EXPECT_THROW(SystemPrinter().Page(), PrinterError);
+    try {
+        SystemPrinter().Page();
+        FAIL() << "there was an answer";
+    } catch (const PrinterError& error) {
+        EXPECT_THAT(error.what(), HasSubstr("The printing system does not answer: "));
+    }
     EXPECT_LT(time.elapsed(), 20000);
 }
 
@@ -300,9 +305,9 @@ TEST(SystemPrinter, AJobWhoseDocumentIsRefusedLeavesNoPage) {
     const PrintServer server({QueueSetup()}, 4000); // less than any page
     SystemPrinter printer;
     EXPECT_THROW(printer.PrintReport(ReportOf(100)), PrinterError);
-    for (const auto& [number, state] : server.JobStates()) {
-        EXPECT_EQ(state, IPP_JSTATE_CANCELED) << "job " << number;
-    }
+    const auto states = server.JobStates();
+    ASSERT_EQ(states.size(), 1U); // it was begun
+    EXPECT_EQ(states.begin()->second, IPP_JSTATE_CANCELED);
     EXPECT_TRUE(server.Printed(0).empty());
 }
 
