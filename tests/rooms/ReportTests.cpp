@@ -92,6 +92,44 @@ TEST(LoadReport, ListsAMetricProjectToTheCharacter) {
 "    4         32767  X  32767  107367.63  C1                        Halle    \n"));
 }
 
+TEST(LoadReport, ListsEveryCoveringAndBaseToTheCharacter) {
+    const SharedState state = StateWith({{420, 366, 0, 0, "1", "Woonkamer"},
+                                         {300, 250, 1, 1, "2", "Keuken"},
+                                         {90, 1205, 2, 2, "3", "Gang"},
+                                         {8, 60, 3, 3, "4", ""},
+                                         {400, 400, 4, 4, "5", "Slaapkamer 1"},
+                                         {275, 310, 5, 5, "6", "Slaapkamer 2"},
+                                         {1000, 2000, 6, 6, "7", "Zaal"},
+                                         {99, 99, 7, 7, "8", ""},
+                                         {350, 420, 8, 8, "9", "Serre"},
+                                         {120, 180, 9, 0, "10", "Bad"},
+                                         {100, 50, 10, 3, "11", "wc"},
+                                         {600, 300, 11, 6, "BEL-12", "Garage"}},
+                                        true, "KANAALHUIS");
+    EXPECT_EQ(LoadReport(state, "21-11-31"), WithCrLf(
+"\n"
+"                                                       ENTERED DATA REPORT\n"
+"\n"
+"     21-11-31\n"
+"     PROJECT NAME:   KANAALHUIS                    \n"
+"\n"
+" ITEM                                      SQ.     CARPET             BASE         ROOM\n"
+"   No.      WIDTH   LENGTH     METERS    /TILE   BASE     LENGTH     No.       REMARK\n"
+"===========================================================================\n"
+"    1         420  X  366    15.37      C1               1        Woonkamer    \n"
+"    2         300  X  250    7.50       C2    W1           303         2        Keuken    \n"
+"    3         90   X   1205   10.85      C3    W2           183         3        Gang    \n"
+"    4         8    X    60     0.05       C4    L1           63          4            \n"
+"    5         400  X  400    16.00      C5    W1L1         801         5        Slaapkamer 1    \n"
+"    6         275  X  310    8.53       C6    W2L1         861         6        Slaapkamer 2    \n"
+"    7         1000  X  2000   200.00     C7    L2           4002        7        Zaal    \n"
+"    8         99   X   99     0.98       C8    W1L2         300         8            \n"
+"    9         350  X  420    14.70      T1    W2L2         1542        9        Serre    \n"
+"    10        120  X  180    2.16       T2               10       Bad    \n"
+"    11        100  X  50     0.50       T3    L1           51          11       wc    \n"
+"    12        600  X  300    18.00      T4    L2           603         BEL-12   Garage    \n"));
+}
+
 TEST(LoadReport, EndsAfterTheRuleWhenThereAreNoRooms) {
     EXPECT_EQ(LoadReport(StateWith({}, false, ""), ""), WithCrLf(
 "\n"
