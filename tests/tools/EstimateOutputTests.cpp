@@ -36,7 +36,7 @@ class EstimateOutput : public ToolTest {
 };
 
 TEST_F(EstimateOutput, AFolderThatIsNotThereIsRefused) {
-    for (const char* output : {"--text", "--json", "--svg"}) {
+    for (const char* output : {"--text", "--json", "--svg", "--pdf"}) {
         ExpectCannotBeWritten(output, S("no/such/folder/out"));
     }
 }

@@ -274,7 +274,7 @@ TEST_F(EstimateTool, Refuses502Rooms) {
 
 TEST_F(EstimateTool, NeverWritesOverTheRoomsItReads) {
     QFile::link(S("rooms.csv"), Path(S("link.csv")));
-    for (const char* output : {"--text", "--json", "--svg"}) {
+    for (const char* output : {"--text", "--json", "--svg", "--pdf"}) {
         for (const char* name : {"rooms.csv", "./rooms.csv", "link.csv"}) {
             ExpectRefused(EstimateCsv(House, Args{S(output), S(name)}),
                           "cannot be written: the rooms are read from it");
@@ -336,8 +336,10 @@ TEST_F(EstimateTool, SaysSoWhenTheRoomsHaveNoArea) {
 TEST_F(EstimateTool, WrongUsageHasAStatusOfItsOwn) {
     Write(S("rooms.csv"), House);
     for (const char* arguments :
-         {"--carpet 1 --roll-width 12ft", "--rooms rooms.csv --roll-width 12ft",
-          "--rooms rooms.csv --carpet 1", "--rooms rooms.csv --carpet 9 --roll-width 12ft",
+         {"--carpet 1 --roll-width 12ft",
+          "--rooms rooms.csv --roll-width 12ft",
+          "--rooms rooms.csv --carpet 1",
+          "--rooms rooms.csv --carpet 9 --roll-width 12ft",
           "--rooms rooms.csv --carpet 0 --roll-width 12ft",
           "--rooms rooms.csv --carpet 1 --roll-width 12ft --lay sideways",
           "--rooms rooms.csv --carpet 1 --roll-width 12ft --min-cut 3",
@@ -345,8 +347,13 @@ TEST_F(EstimateTool, WrongUsageHasAStatusOfItsOwn) {
           "--rooms rooms.csv --carpet 1 --roll-width 12ft --text - --json -",
           "--rooms rooms.csv --carpet 1 --roll-width 12ft --text - --svg -",
           "--rooms rooms.csv --carpet 1 --roll-width 12ft --json a --svg ./a",
+          "--rooms rooms.csv --carpet 1 --roll-width 12ft --pdf a --svg ./a",
+          "--rooms rooms.csv --carpet 1 --roll-width 12ft --json a --pdf a",
+          "--rooms rooms.csv --carpet 1 --roll-width 12ft --pdf - --text -",
+          "--rooms rooms.csv --carpet 1 --roll-width 12ft --pdf=",
           "--rooms rooms.csv --database d --project p --carpet 1 --roll-width 12ft",
-          "--database d --carpet 1 --roll-width 12ft", "--no-such-option",
+          "--database d --carpet 1 --roll-width 12ft",
+          "--no-such-option",
           "--rooms rooms.csv --carpet 1 --roll-width 12ft --match=",
           "--rooms rooms.csv --carpet 1 --roll-width 12ft --text=",
           "--rooms rooms.csv --carpet 1 --roll-width 12ft --json=",
@@ -362,7 +369,7 @@ TEST_F(EstimateTool, HelpTellsEveryOption) {
     EXPECT_EQ(run.Status, 0);
     for (const char* option : {"--database", "--project", "--rooms", "--metric", "--carpet",
                                "--roll-width", "--lay", "--match", "--min-cut", "--max-pieces",
-                               "--text", "--json", "--svg", "--version", "Exit status"}) {
+                               "--text", "--json", "--svg", "--pdf", "--version", "Exit status"}) {
         EXPECT_TRUE(run.Out.contains(option)) << option;
     }
 }

@@ -7,13 +7,18 @@
 namespace tarn::testing {
 
 ToolRun RunProgram(const QString& program, const QStringList& arguments,
-                   const QString& homeDirectory) {
+                   const QString& homeDirectory, const QString& printServer) {
     QProcess process;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(QStringLiteral("HOME"), homeDirectory);
     environment.insert(QStringLiteral("XDG_CONFIG_HOME"),
                        homeDirectory + QStringLiteral("/config"));
     environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
+    environment.insert(QStringLiteral("CUPS_SERVER"), printServer);
+    for (const char* display : {"DISPLAY", "WAYLAND_DISPLAY", "XDG_RUNTIME_DIR", "QT_QPA_PLATFORM",
+                                "LPDEST", "PRINTER"}) {
+        environment.remove(QString::fromLatin1(display));
+    }
     process.setProcessEnvironment(environment);
     process.setWorkingDirectory(homeDirectory);
     process.start(QStringLiteral(TARN_TOOLS_DIRECTORY "/") + program, arguments);

@@ -18,15 +18,21 @@ struct ToolRun {
 };
 
 /// Run a built program ("tarn-estimate" or "tarn-data") to its end. `homeDirectory` takes the place
-/// of the user's home, so that no test sees or makes a configuration of the user.
+/// of the user's home, so that no test sees or makes a configuration of the user, and `printServer`
+/// the place of the system's printers.
 ToolRun RunProgram(const QString& program, const QStringList& arguments,
-                   const QString& homeDirectory);
+                   const QString& homeDirectory,
+                   const QString& printServer = QStringLiteral("/no/such/print/server"));
 
 /// A test with a directory of its own, which is also its home.
 class ToolTest : public ::testing::Test {
   protected:
     ToolRun Estimate(const QStringList& arguments) const {
         return RunProgram(QStringLiteral("tarn-estimate"), arguments, directory_.path());
+    }
+    ToolRun EstimateFor(const QString& printServer, const QStringList& arguments) const {
+        return RunProgram(QStringLiteral("tarn-estimate"), arguments, directory_.path(),
+                          printServer);
     }
     ToolRun Data(const QStringList& arguments) const {
         return RunProgram(QStringLiteral("tarn-data"), arguments, directory_.path());
