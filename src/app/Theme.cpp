@@ -98,15 +98,6 @@ QRadioButton:disabled, QCheckBox:disabled { color: @Disabled; }
 QProgressBar { background: @Field; border: 1px solid @Border; border-radius: 60tw;
     min-height: 240tw; text-align: center; }
 QProgressBar::chunk { background: @Accent; border-radius: 45tw; }
-QScrollBar { background: @Surface; border: none; }
-QScrollBar:vertical { width: 210tw; }
-QScrollBar:horizontal { height: 210tw; }
-QScrollBar::handle { background: @Border; border-radius: 45tw; margin: 30tw; }
-QScrollBar::handle:vertical { min-height: 300tw; }
-QScrollBar::handle:horizontal { min-width: 300tw; }
-QScrollBar::handle:hover { background: @Muted; }
-QScrollBar::add-line, QScrollBar::sub-line { width: 0; height: 0; }
-QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }
 QToolTip { background: @Surface; color: @Text; border: 1px solid @Border; padding: 45tw; }
 QScrollBar { background: @Surface; border: none; margin: 0; }
 QScrollBar:vertical { width: 210tw; }
