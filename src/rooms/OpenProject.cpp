@@ -7,7 +7,7 @@ bool HasUnsavedRooms(const SharedState& state, const OpenProject& project) {
 }
 
 bool IsInMetric(const SharedState& state, const OpenProject& project) {
-    return HasUnsavedRooms(state, project) ? project.TypedInMetric : project.StoredInMetric;
+    return project.StoredInMetric || (project.TypedInMetric && HasUnsavedRooms(state, project));
 }
 
 ProjectLoad LoadOpenProject(SharedState& state, OpenProject& project) {

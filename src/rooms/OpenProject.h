@@ -4,6 +4,7 @@
 #include "rooms/RoomRecord.h"
 #include "rooms/RoomStore.h"
 
+#include <string_view>
 #include <vector>
 
 namespace tarn {
@@ -22,11 +23,14 @@ struct OpenProject {
 /// Whether the rooms in memory differ from what was last loaded or saved.
 bool HasUnsavedRooms(const SharedState& state, const OpenProject& project);
 
-/// Whether the rooms in memory were typed in metric, as stored or since.
+/// Whether the stored rooms were entered in metric, or unsaved ones were typed so.
 bool IsInMetric(const SharedState& state, const OpenProject& project);
 
 /// LoadProject, and remember what it loaded as stored.
 ProjectLoad LoadOpenProject(SharedState& state, OpenProject& project);
+
+/// Shown when a project was saved.
+inline constexpr std::string_view SavedMessage = "Data is saved";
 
 /// SaveProject, and remember the rooms as stored when it succeeded. Fails and raises as
 /// SaveProject.

@@ -82,12 +82,18 @@ TEST_F(OpenProjects, RememberThatTheirRoomsWereStoredInMetric) {
     EXPECT_TRUE(IsInMetric(state, project));
 }
 
-TEST_F(OpenProjects, UnsavedRoomsAreInTheUnitsTheyWereTypedIn) {
+TEST_F(OpenProjects, AreInMetricWhenUnsavedRoomsWereTypedSo) {
+    Load();
+    project.TypedInMetric = true;
+    EXPECT_FALSE(IsInMetric(state, project)) << "nothing is unsaved";
+    state.RoomWidth[0] = 1;
+    EXPECT_TRUE(IsInMetric(state, project));
+}
+
+TEST_F(OpenProjects, StayInMetricWhenAStoredRoomIsChanged) {
     file.Run("UPDATE MainTab SET EnteredMetric = 1");
     Load();
     state.RoomWidth[0] = 1;
-    EXPECT_FALSE(IsInMetric(state, project));
-    project.TypedInMetric = true;
     EXPECT_TRUE(IsInMetric(state, project));
 }
 
