@@ -11,6 +11,10 @@ ElidedLabel::ElidedLabel(QWidget* parent)
     setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
 }
 
+QSize ElidedLabel::minimumSizeHint() const {
+    return {0, QLabel::minimumSizeHint().height()};
+}
+
 QString ElidedLabel::Shown() const {
     return fontMetrics().elidedText(text(), Qt::ElideRight, contentsRect().width());
 }
@@ -18,7 +22,7 @@ QString ElidedLabel::Shown() const {
 void ElidedLabel::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     const QString shown = Shown();
-    setToolTip(shown == text() ? QString() : text());
+    setToolTip(shown == text() ? QString() : text().toHtmlEscaped());
     style()->drawItemText(&painter, contentsRect(), static_cast<int>(alignment()), palette(),
                           isEnabled(), shown, foregroundRole());
 }

@@ -10,6 +10,8 @@ class ElidedLabel : public QLabel {
   public:
     explicit ElidedLabel(QWidget* parent = nullptr);
 
+    QSize minimumSizeHint() const override;
+
   protected:
     void paintEvent(QPaintEvent* event) override;
 

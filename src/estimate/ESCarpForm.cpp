@@ -2,11 +2,11 @@
 
 #include "app/Controls.h"
 #include "app/Display.h"
+#include "app/ElidedLabel.h"
 #include "app/Numbers.h"
 #include "app/QtText.h"
 #include "app/RunTimeError.h"
 #include "app/Theme.h"
-#include "estimate/ElidedLabel.h"
 #include "estimate/EstimatePage.h"
 #include "estimate/LayoutDrawing.h"
 #include "rooms/Report.h"
@@ -23,7 +23,6 @@ namespace tarn {
 namespace {
 
 constexpr const char* NoDataMessage = "There is not data in the database";
-constexpr const char* SavedMessage = "Data is saved";
 constexpr const char* EstimateFailure = "The estimate could not be made.";
 constexpr const char* DrawingFailure = "The layout could not be drawn.";
 constexpr const char* SaveFailure = "The project could not be saved.";
@@ -34,9 +33,7 @@ constexpr double LeastPictureHeight = 3000;
 
 ElidedLabel* NewElidedLabel(QWidget* parent, const char* name, const QString& text, TextRole role) {
     auto* label = new ElidedLabel(parent);
-    label->setTextFormat(Qt::PlainText);
     label->setText(text);
-    label->setToolTip(text.toHtmlEscaped());
     NameControl(*label, QString::fromLatin1(name), text);
     SetRole(*label, role);
     return label;
@@ -292,7 +289,7 @@ void ESCarpForm::SaveRooms() {
     if (!SaveOpenProject(State(), Shared().Project)) {
         throw DatabaseError(State().DatabaseFailure);
     }
-    Shared().Boxes.Message(SavedMessage);
+    Shared().Boxes.Message(std::string(SavedMessage));
 }
 
 void ESCarpForm::Leave() {

@@ -19,7 +19,6 @@ namespace tarn {
 
 namespace {
 
-constexpr double Margin = 100;        ///< shown beyond the farthest point drawn, twips
 constexpr double ReadableZoom = 0.75; ///< 9 point type is then as large as 7 point type
 constexpr double LargestFit = 2;      ///< a small drawing on a large display grows no further
 constexpr double LeastOwnZoom = 0.1;  ///< less only to fit a drawing
@@ -101,7 +100,7 @@ double PictureBox::PixelsPerTwip() const {
 }
 
 QSizeF PictureBox::DrawnTwips() const {
-    return {picture_.FarthestX() + Margin, picture_.FarthestY() + Margin};
+    return {picture_.FarthestX() + DrawingMargin, picture_.FarthestY() + DrawingMargin};
 }
 
 QSize PictureBox::Drawn() const {

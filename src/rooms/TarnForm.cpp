@@ -16,7 +16,6 @@ namespace tarn {
 namespace {
 
 constexpr const char* DeleteQuestion = "Really want to delete current data?";
-constexpr const char* SavedMessage = "Data is saved";
 constexpr const char* NotSavedText = "The project could not be saved. ";
 constexpr const char* NothingToEstimateMessage =
     "There is no data to estimate. Please fill in the room information before estimating.";
@@ -113,7 +112,8 @@ void TarnForm::AskAndDelete() {
 void TarnForm::SaveAll() {
     FocusAfter(WithRoomTaken([this] {
         const bool saved = SaveOpenProject(State(), Shared().Project);
-        Shared().Boxes.Message(saved ? SavedMessage : NotSavedText + State().DatabaseFailure);
+        Shared().Boxes.Message(saved ? std::string(SavedMessage)
+                                     : NotSavedText + State().DatabaseFailure);
     }));
 }
 
