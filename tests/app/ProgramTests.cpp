@@ -1,0 +1,179 @@
+#include "app/Display.h"
+#include "app/Program.h"
+#include "screens/ScreenTesting.h"
+#include "store/Schema.h"
+#include "store/TestDatabase.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+
+namespace tarn {
+namespace {
+
+using namespace tarn::testing;
+
+/// The whole program on a data folder of its own, with recorded boxes and a recorded printer.
+class ProgramTest : public ::testing::Test {
+  protected:
+    ProgramTest() {
+        CreateDatabaseFile(folder_.Path("data/DATA/Tarn.mdb"));
+        WriteFile(folder_.Path("TarnWin.INI"),
+                  "[TarnWin Directory]\n" + folder_.Path("data") + "\n");
+    }
+
+    bool Start(QSize display = {800, 600}) {
+        return program_.Main({folder_.Path()}, display, QDate(2026, 3, 14),
+                             QLocale(QLocale::English, QLocale::UnitedStates));
+    }
+    template <class W = QPushButton>
+    W& Control(const char* name) {
+        return Find<W>(*program_.Window().Front(), name);
+    }
+    std::string Front() { return FromQt(program_.Window().Front()->objectName()); }
+    void ExpectFront(const char* screen, int loaded) {
+        EXPECT_EQ(Front(), screen);
+        EXPECT_EQ(program_.Window().Loaded(), loaded);
+        EXPECT_TRUE(program_.Window().Front()->isVisible());
+    }
+
+    void MakeProject(const char* name) {
+        Click(Control("Command3"));
+        Click(Control("Command1"));
+        Type(Control<QLineEdit>("Text1"), name);
+        Click(Control("Command5"));
+    }
+    void TypeRoom(const char* feetWide, const char* feetLong) {
+        Type(Control<QLineEdit>("Text1(0)"), feetWide);
+        Type(Control<QLineEdit>("Text1(2)"), feetLong);
+    }
+    /// From the estimate's open choices to the options screen and through it.
+    void ChooseAndSearch() {
+        Click(Control("Command1(0)"));
+        ExpectFront("ESTFORM", 2);
+        Click(Control<QRadioButton>("Option1(0)"));
+        Click(Control("Command1"));
+    }
+
+    TestFolder folder_;
+    FakeBoxes boxes_;
+    FakePrinter printer_;
+    Program program_{boxes_, printer_};
+};
+
+TEST_F(ProgramTest, RefusesADisplayThatIsTooSmall) {
+    EXPECT_FALSE(Start({799, 600}));
+    EXPECT_FALSE(Start({800, 599}));
+    EXPECT_EQ(boxes_.Messages,
+              (std::vector<std::string>(
+                  2, "Sorry, the program must run under display resolution 800 X 600 or higher\r\n"
+                     "Please change the display resolution!")));
+    EXPECT_FALSE(program_.Window().isVisible());
+    EXPECT_TRUE(Start({800, 600}));
+    EXPECT_TRUE(program_.Window().isVisible());
+}
+
+TEST_F(ProgramTest, RefusesToRunWithoutAConfigurationFile) {
+    WriteFile(folder_.Path("TarnWin.INI"), "");
+    EXPECT_FALSE(Start());
+    EXPECT_EQ(boxes_.Messages, std::vector<std::string>{"Couldn't find TarnWin.ini"});
+    EXPECT_FALSE(program_.Window().isVisible());
+}
+
+TEST_F(ProgramTest, ShowsTheProjectSelectionAndThenReadsThePrintersPage) {
+    ASSERT_TRUE(Start());
+    ExpectFront("ProjectForm", 1);
+    EXPECT_EQ(program_.State().PrnWidth, 0) << "the first screen does not wait for the printer";
+    EXPECT_TRUE(QTest::qWaitFor([&] { return program_.State().PrnWidth == 16838; }));
+    EXPECT_EQ(program_.State().PrnHeight, 11906);
+    EXPECT_EQ(program_.State().CurDirName, "MARCH");
+    EXPECT_TRUE(boxes_.Messages.empty());
+}
+
+TEST_F(ProgramTest, StartsWithoutAPrinterAndSaysNothing) {
+    printer_.Failure = "no queue";
+    ASSERT_TRUE(Start());
+    QCoreApplication::processEvents();
+    EXPECT_EQ(program_.State().PrnWidth, 0);
+    EXPECT_TRUE(boxes_.Messages.empty());
+}
+
+TEST_F(ProgramTest, WalksFromTheMenuToTheLayoutAndBack) {
+    ASSERT_TRUE(Start());
+    MakeProject("HOUSE");
+    ExpectFront("MenuForm", 1);
+    Click(Control("Command1(0)"));
+    ExpectFront("TarnForm", 1);
+    TypeRoom("10", "14");
+    Click(Control("Command1(3)"));
+    EXPECT_EQ(boxes_.Messages, std::vector<std::string>{"Data is saved"});
+    Click(Control("Back"));
+    ExpectFront("MenuForm", 1);
+    Click(Control("Command1(2)"));
+    ExpectFront("ESCarpForm", 1);
+    ChooseAndSearch();
+    ExpectFront("ESCarpForm", 1);
+    EXPECT_TRUE(program_.Window().Front()->isEnabled());
+    Click(Control("Command2"));
+    ExpectFront("MenuForm", 1);
+    Click(Control("Command1(1)"));
+    ExpectFront("ProjectForm", 1);
+}
+
+TEST_F(ProgramTest, ReturnsFromTheEstimateToTheRoomsThatOpenedIt) {
+    ASSERT_TRUE(Start());
+    MakeProject("HOUSE");
+    Click(Control("Command1(0)"));
+    TypeRoom("10", "14");
+    Screen* rooms = program_.Window().Front();
+    Click(Control("Command3"));
+    ExpectFront("ESCarpForm", 2);
+    EXPECT_FALSE(rooms->isEnabled());
+    EXPECT_FALSE(rooms->isVisible());
+    Click(Control("Command1(0)"));
+    ExpectFront("ESTFORM", 3);
+    program_.Window().close();
+    ExpectFront("ESCarpForm", 2);
+    Click(Control("Command2"));
+    ExpectFront("TarnForm", 1);
+    EXPECT_EQ(program_.Window().Front(), rooms);
+    EXPECT_TRUE(rooms->isEnabled());
+    program_.Window().close();
+    ExpectFront("MenuForm", 1);
+}
+
+TEST_F(ProgramTest, KeepsUnsavedRoomsAcrossTheMenuAndDropsThemWithTheProject) {
+    ASSERT_TRUE(Start());
+    MakeProject("HOUSE");
+    Click(Control("Command1(0)"));
+    TypeRoom("10", "14");
+    Click(Control("Back"));
+    ExpectFront("MenuForm", 1);
+    EXPECT_EQ(program_.State().ObjNum, 1);
+    EXPECT_EQ(program_.State().RoomWidth[0], 120);
+    Click(Control("Command1(1)"));
+    ExpectFront("ProjectForm", 1);
+    EXPECT_EQ(program_.State().ObjNum, 0);
+    EXPECT_TRUE(
+        RawDatabase(folder_.Path("data/DATA/Tarn.mdb")).Rows("SELECT * FROM InputData").empty());
+}
+
+TEST_F(ProgramTest, FillsTheDisplayWithEveryScreen) {
+    ASSERT_TRUE(Start());
+    const QRect display = program_.Window().screen()->geometry();
+    const auto fits = [&] {
+        return program_.Window().frameGeometry() ==
+               QRect(display.topLeft(), QSize(display.width(), display.height() - Pixels(240)));
+    };
+    EXPECT_TRUE(QTest::qWaitFor(fits));
+    MakeProject("HOUSE");
+    EXPECT_TRUE(fits());
+    Click(Control("Command1(0)"));
+    EXPECT_TRUE(fits());
+}
+
+} // namespace
+} // namespace tarn
