@@ -1,0 +1,271 @@
+"""Driving the built program from outside: it is seen through the accessibility bus, and gets real
+mouse and key events. Nothing waits for a fixed time; what does not happen within PATIENCE fails."""
+
+import os
+import subprocess
+import time
+
+import gi
+from Xlib import X, display, protocol
+
+gi.require_version("Atspi", "2.0")
+import pyatspi  # noqa: E402
+from gi.repository import GLib  # noqa: E402
+
+PATIENCE = 20  # seconds
+
+KEYS = {
+    "BackSpace": 0xFF08,
+    "Tab": 0xFF09,
+    "Return": 0xFF0D,
+    "Escape": 0xFF1B,
+    "space": 0x20,
+    "Home": 0xFF50,
+    "Down": 0xFF54,
+    "End": 0xFF57,
+    "Delete": 0xFFFF,
+}
+
+
+class NotFound(AssertionError):
+    """The program does not show what a user would look for."""
+
+
+def wait_for(condition, what):
+    """Call `condition` until it answers something true, and answer that."""
+    end = time.monotonic() + PATIENCE
+    while time.monotonic() < end:
+        while GLib.MainContext.default().iteration(False):
+            pass  # takes in what the bus has told
+        try:
+            found = condition()
+        except Exception:  # the bus loses objects that the program has just deleted
+            found = None
+        if found:
+            return found
+        time.sleep(0.03)
+    raise NotFound("waited in vain for " + what)
+
+
+def states(accessible):
+    return {pyatspi.stateToString(state) for state in accessible.getState().getStates()}
+
+
+def walk(accessible):
+    yield accessible
+    for index in range(accessible.childCount):
+        child = accessible.getChildAtIndex(index)
+        if child is not None:
+            yield from walk(child)
+
+
+def text_of(accessible):
+    text = accessible.queryText()
+    return text.getText(0, text.characterCount)
+
+
+class Program:
+    """The running program."""
+
+    def __init__(self, path, *arguments, environment=None):
+        pyatspi.Registry.getDesktop(0)  # a program that starts before the bus is not seen on it
+        self.started = time.monotonic()
+        self.process = subprocess.Popen(
+            [path, *arguments], env=dict(os.environ, **(environment or {}))
+        )
+        self.application = wait_for(self._find, "the program on the accessibility bus")
+
+    def _find(self):
+        desktop = pyatspi.Registry.getDesktop(0)
+        for index in range(desktop.childCount):
+            try:
+                child = desktop.getChildAtIndex(index)
+                if child is not None and child.get_process_id() == self.process.pid:
+                    return child
+            except GLib.Error:  # a program that has just ended
+                continue
+        return None
+
+    def __enter__(self):
+        return self
+
+    def __exit__(self, *_):
+        if self.process.poll() is None:
+            self.process.kill()
+        self.process.wait()
+
+    # --- looking ---
+
+    def showing(self, role=None, name=None):
+        """What the user sees of that role and name, in tab order."""
+        return [
+            each
+            for each in walk(self.application)
+            if (role is None or each.getRoleName() == role)
+            and (name is None or each.name == name)
+            and "showing" in states(each)
+        ]
+
+    def see(self, role, name, position=0):
+        def look():
+            found = self.showing(role, name)
+            return found[position] if len(found) > position else None
+
+        return wait_for(look, f"{role} {name!r}")
+
+    def wait_gone(self, role, name):
+        wait_for(lambda: not self.showing(role, name), f"{role} {name!r} to go")
+
+    def is_there(self, role, name):
+        return bool(self.showing(role, name))
+
+    def is_enabled(self, role, name):
+        return "enabled" in states(self.see(role, name))
+
+    def is_checked(self, role, name):
+        return "checked" in states(self.see(role, name))
+
+    def labels(self):
+        return [each.name for each in self.showing("label")]
+
+    def field(self, name, position=0):
+        """The text in a field."""
+        return text_of(self.see("text", name, position))
+
+    def items(self, name):
+        """The entries of a list."""
+        return [each.name for each in walk(self.see("list", name)) if each.getRoleName() == "list item"]
+
+    def boxes(self):
+        """The message, question and input boxes that stand."""
+        return self.showing("alert") + self.showing("dialog")
+
+    def box(self):
+        return wait_for(lambda: (self.boxes() or [None])[0], "a message")
+
+    def message(self):
+        """The text of the message or question that stands."""
+        box = self.box()
+        return next(each.name for each in walk(box) if each.getRoleName() == "label" and each.name)
+
+    def focused(self):
+        """The name of what has the focus."""
+        # A list's current entry counts as focused wherever the focus is.
+        return next(
+            (
+                each.name
+                for each in self.showing()
+                if "focused" in states(each) and each.getRoleName() != "list item"
+            ),
+            None,
+        )
+
+    def drawn_text(self):
+        """The lines written in the drawing, top to bottom; none while there is no drawing."""
+        drawing = self.showing(name="Layout drawing")
+        return drawing[0].description.split("\n") if drawing else []
+
+    # --- acting ---
+
+    def click_on(self, accessible, double=False, offset=None):
+        area = accessible.queryComponent().getExtents(pyatspi.DESKTOP_COORDS)
+        x = area.x + (area.width // 2 if offset is None else offset)
+        pyatspi.Registry.generateMouseEvent(x, area.y + area.height // 2, "b1d" if double else "b1c")
+
+    def click(self, role, name, position=0):
+        button = self.see(role, name, position)
+        wait_for(lambda: "enabled" in states(button), f"{name!r} to be enabled")
+        # Option buttons and check boxes take clicks on their mark and text only.
+        self.click_on(button, offset=12 if role in ("radio button", "check box") else None)
+
+    def press(self, name):
+        self.click("push button", name)
+
+    def choose(self, name):
+        self.click("radio button", name)
+        wait_for(lambda: self.is_checked("radio button", name), f"{name!r} to be chosen")
+
+    def item(self, list_name, name):
+        for each in walk(self.see("list", list_name)):
+            if each.getRoleName() == "list item" and each.name == name:
+                return each
+        raise NotFound(f"no {name!r} in {list_name!r}")
+
+    def fill(self, name, text, position=0):
+        """Replace what stands in a field, by mouse and keys."""
+        field = self.see("text", name, position)
+        self.click_on(field)
+        wait_for(lambda: "focused" in states(field), f"the focus on {name!r}")
+        self.key("End")
+        for _ in text_of(field):
+            self.key("BackSpace")
+        self.type(text)
+        wait_for(lambda: text_of(field) == text, f"{text!r} in {name!r}")
+
+    def key(self, name):
+        pyatspi.Registry.generateKeyboardEvent(KEYS[name], None, pyatspi.KEY_SYM)
+
+    def tab_to(self, name):
+        """Move the focus there with the Tab key alone."""
+        for _ in range(60):
+            if self.focused() == name:
+                return
+            before = self.focused()
+            self.key("Tab")
+            wait_for(lambda: self.focused() != before, "the focus to move")
+        raise NotFound(f"Tab does not come to {name!r}")
+
+    def press_by_key(self, name):
+        self.tab_to(name)
+        self.key("Return")
+
+    def type(self, text):
+        for character in text:
+            pyatspi.Registry.generateKeyboardEvent(ord(character), None, pyatspi.KEY_SYM)
+
+    def answer(self, button):
+        """Click a button of the box that stands, and wait until it is gone."""
+        self.click_on(self.button_of_box(button))
+        wait_for(lambda: self.process.poll() is not None or not self.boxes(), "the box to go")
+
+    def do(self, button):
+        """Press a button of the box that stands through the bus, wherever it is displayed."""
+        self.button_of_box(button).queryAction().doAction(0)
+
+    def button_of_box(self, name):
+        for each in walk(self.box()):
+            if each.getRoleName() == "push button" and each.name == name:
+                return each
+        raise NotFound(f"no {name!r} in the box")
+
+    def take_focus(self):
+        """What a window manager does with a window that has just come up."""
+        server = display.Display()
+        wait_for(lambda: list(self._windows(server.screen().root)), "a window")
+        for window in self._windows(server.screen().root):
+            window.set_input_focus(X.RevertToParent, X.CurrentTime)
+        server.close()
+
+    def close_by_frame(self):
+        """What the window manager does when the window's cross is clicked."""
+        server = display.Display()
+        delete = server.intern_atom("WM_DELETE_WINDOW")
+        protocols = server.intern_atom("WM_PROTOCOLS")
+        for window in self._windows(server.screen().root):
+            window.send_event(
+                protocol.event.ClientMessage(
+                    window=window, client_type=protocols, data=(32, [delete, X.CurrentTime, 0, 0, 0])
+                )
+            )
+        server.close()
+
+    def _windows(self, root):
+        """The program's windows that stand on the display."""
+        for window in root.query_tree().children:
+            attributes = window.get_attributes()
+            if attributes.map_state == X.IsViewable and window.get_wm_protocols():
+                yield window
+
+    def wait_for_end(self):
+        """The exit status."""
+        return self.process.wait(PATIENCE)

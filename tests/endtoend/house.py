@@ -1,0 +1,44 @@
+"""A data folder of the test's own, and what the command-line programs and the database file say."""
+
+import os
+import sqlite3
+import subprocess
+
+
+class House:
+    """Made with `tarn-data create`, below `folder`; `programs` holds the built programs."""
+
+    def __init__(self, programs, folder):
+        self.programs = programs
+        self.config = os.path.join(folder, "config-dir")
+        self.data = os.path.join(folder, "estimates")
+        self.run("tarn-data", "create", self.data, "--config-dir", self.config)
+
+    @property
+    def database(self):
+        return os.path.join(self.data, "DATA", "Tarn.mdb")
+
+    def program(self, name):
+        for parent in ("src", os.path.join("src", "app"), os.path.join("src", "tools")):
+            path = os.path.join(self.programs, parent, name)
+            if os.access(path, os.X_OK) and os.path.isfile(path):
+                return path
+        raise FileNotFoundError(name)
+
+    def run(self, name, *arguments):
+        """The standard output of a command-line program that must succeed."""
+        done = subprocess.run(
+            [self.program(name), *arguments], check=True, capture_output=True, text=True
+        )
+        return done.stdout
+
+    def rows(self, query, *values):
+        with sqlite3.connect(f"file:{self.database}?mode=ro", uri=True) as database:
+            return database.execute(query, values).fetchall()
+
+    def estimate(self, project, *arguments):
+        """The lines of the cut list of the command line."""
+        return self.run(
+            "tarn-estimate", "--database", self.database, "--project", project, *arguments,
+            "--text", "-",
+        ).splitlines()
