@@ -1,0 +1,200 @@
+// The clip, the selecting and the kinds of surfaces.
+
+#include "app/RunTimeError.h"
+#include "print/APIFontTesting.h"
+
+#include <QFile>
+#include <QFontMetricsF>
+#include <QPrinter>
+#include <QWidget>
+
+#include <gtest/gtest.h>
+
+#include <map>
+
+namespace tarn {
+namespace {
+
+using testing::Canvas;
+using testing::False;
+using testing::InkIn;
+using testing::InkOf;
+using testing::InkWith;
+using testing::Sans;
+using testing::True;
+
+// --- clipped text ---
+
+TEST(APIFont, CharPlaceClipsToTwiceTheSizeInTheSurfacesOwnFont) {
+    Canvas canvas;
+    const QFontMetricsF own(canvas.Painter().font(), canvas.Painter().device());
+    EXPECT_DOUBLE_EQ(canvas.Surface().TextWidth("HHH"),
+                     own.horizontalAdvance(QStringLiteral("HHH")));
+    EXPECT_DOUBLE_EQ(canvas.Surface().TextHeight("HHH"), own.ascent() + own.descent());
+    APIFont font = Sans(150); // much larger than the surface's own
+    font.SelectFont(canvas.Surface());
+    font.CharPlace(canvas.Surface(), "HHH", 40, 30);
+    const QRect ink = canvas.Ink();
+    EXPECT_GE(ink.left(), 40);
+    EXPECT_NEAR(ink.right() + 1, 40 + 2 * own.horizontalAdvance(QStringLiteral("HHH")), 1);
+    EXPECT_NEAR(ink.bottom() + 1, 30 + 2 * (own.ascent() + own.descent()), 1);
+}
+
+TEST(APIFont, TheClipOfCharPlaceStaysInForce) {
+    Canvas canvas;
+    APIFont font = Sans(20);
+    font.SelectFont(canvas.Surface());
+    font.CharPlace(canvas.Surface(), "H", 10, 10);
+    canvas.Clear();
+    font.FontOut("H", canvas.Surface(), 200, 100);
+    EXPECT_TRUE(canvas.Ink().isEmpty());
+    font.SelectOrg(canvas.Surface());
+    font.FontOut("H", canvas.Surface(), 200, 100);
+    EXPECT_TRUE(canvas.Ink().isEmpty());
+    font.FontOut("H", canvas.Surface(), 12, 12);
+    EXPECT_FALSE(canvas.Ink().isEmpty());
+}
+
+TEST(APIFont, ALaterCharPlaceReplacesTheClip) {
+    Canvas canvas;
+    APIFont font = Sans(20);
+    font.SelectFont(canvas.Surface());
+    font.CharPlace(canvas.Surface(), "H", 10, 10);
+    font.CharPlace(canvas.Surface(), "H", 200, 100);
+    EXPECT_FALSE(InkIn(canvas.Image(), {200, 100, 100, 50}).isEmpty());
+}
+
+TEST(APIFont, TheClipDoesNotTurnWithTheText) {
+    Canvas canvas;
+    APIFont font = Sans(40);
+    font.Escapement(-900); // downwards, with the letters' feet on the left
+    font.SelectFont(canvas.Surface());
+    font.SetAlign(canvas.Surface(), False, False, True, False, False, False);
+    font.CharPlace(canvas.Surface(), "HHHHHH", 150, 20);
+    const Double height = canvas.Surface().TextHeight("HHHHHH");
+    EXPECT_NEAR(canvas.Ink().bottom() + 1, 20 + 2 * height, 1); // cut off there
+    EXPECT_GE(canvas.Ink().left(), 150);
+    EXPECT_LT(canvas.Ink().width(), canvas.Ink().height());
+}
+
+TEST(APIFont, PositionsAreRoundedToWholeUnitsAndMustFitALong) {
+    Canvas canvas;
+    APIFont font = Sans(48);
+    font.SelectFont(canvas.Surface());
+    font.FontOut("H", canvas.Surface(), 50.4, 50.5); // halves to even
+    EXPECT_EQ(canvas.Ink(), InkWith(Sans(48), "H"));
+    EXPECT_THROW(font.FontOut("H", canvas.Surface(), 3e9, 0), RunTimeError);
+    EXPECT_THROW(font.CharPlace(canvas.Surface(), "H", 0, -3e9), RunTimeError);
+}
+
+// --- selecting ---
+
+TEST(APIFont, SelectOrgGivesTheSurfaceItsFontBack) {
+    Canvas canvas;
+    APIFont writer;
+    writer.FontOut("HHH", canvas.Surface(), 50, 50);
+    const QImage own = canvas.Image().copy();
+    canvas.Clear();
+    APIFont font = Sans(100);
+    font.SelectFont(canvas.Surface());
+    font.SelectOrg(canvas.Surface());
+    writer.FontOut("HHH", canvas.Surface(), 50, 50);
+    EXPECT_EQ(canvas.Image(), own);
+}
+
+TEST(APIFont, SelectOrgWithoutASelectedFontDoesNothing) {
+    Canvas canvas;
+    APIFont selected = Sans(100);
+    selected.SelectFont(canvas.Surface());
+    APIFont idle;
+    idle.SelectOrg(canvas.Surface());
+    selected.FontOut("HHH", canvas.Surface(), 50, 50);
+    EXPECT_EQ(canvas.Ink(), InkWith(Sans(100)));
+    selected.SelectOrg(canvas.Surface());
+    selected.SelectOrg(canvas.Surface()); // there is nothing left to give back
+    canvas.Clear();
+    selected.FontOut("HHH", canvas.Surface(), 50, 50);
+    EXPECT_NEAR(canvas.Ink().height(), 20 * 0.688, 1.5);
+}
+
+TEST(APIFont, ASecondSelectFontKeepsTheFontThatWasSavedFirst) {
+    Canvas canvas;
+    APIFont font = Sans(100);
+    font.SelectFont(canvas.Surface());
+    font.Height(60);
+    font.SelectFont(canvas.Surface());
+    font.SelectOrg(canvas.Surface());
+    font.FontOut("HHH", canvas.Surface(), 50, 50);
+    EXPECT_NEAR(canvas.Ink().height(), 20 * 0.688, 1.5); // the surface's own
+}
+
+// --- surfaces ---
+
+TEST(PainterSurface, CountsTheLinesOfAText) {
+    Canvas canvas;
+    PainterSurface& surface = canvas.Surface();
+    EXPECT_DOUBLE_EQ(surface.TextHeight("a\r\nb\r\nc"), 3 * surface.TextHeight("a"));
+    EXPECT_DOUBLE_EQ(surface.TextWidth("a\r\nHHHH\r\nc"), surface.TextWidth("HHHH"));
+    EXPECT_EQ(surface.TextWidth(""), 0);
+}
+
+TEST(PainterSurface, IsAWidgetInItsPaintEvent) {
+    struct Sheet : QWidget {
+        void paintEvent(QPaintEvent*) override {
+            QPainter painter(this);
+            painter.fillRect(rect(), Qt::white);
+            PainterSurface surface(painter);
+            APIFont font = Sans(48);
+            font.SelectFont(surface);
+            font.SetAlign(surface, False, False, True, False, False, True);
+            font.FontOut("HHH", surface, 350, 150);
+            font.SelectOrg(surface);
+        }
+    } sheet;
+    sheet.resize(400, 200);
+    const QRect ink = InkOf(sheet.grab().toImage());
+    EXPECT_NEAR(ink.height(), 48 / 1.117 * 0.688, 1.5);
+    EXPECT_NEAR(ink.right(), 350, 5);
+    EXPECT_NEAR(ink.bottom(), 150 - 48 / 1.117 * 0.212, 1.5);
+}
+
+TEST(PainterSurface, IsAPrintersPageInItsOwnUnits) {
+    const QTemporaryDir directory;
+    const QString path = directory.filePath(QStringLiteral("page.pdf"));
+    {
+        QPrinter printer(QPrinter::HighResolution);
+        printer.setOutputFormat(QPrinter::PdfFormat);
+        printer.setOutputFileName(path);
+        printer.setPageSize(QPageSize(QPageSize::A4));
+        printer.setFullPage(true);
+        QPainter painter(&printer);
+        painter.scale(printer.resolution() / 1440.0, printer.resolution() / 1440.0); // twips
+        PainterSurface surface(painter);
+        APIFont font = Sans(480);
+        font.SelectFont(surface);
+        font.SetAlign(surface, False, True, False, False, False, False);
+        font.FontOut("Level", surface, 1440, 2880);
+        font.Escapement(900);
+        font.SelectFont(surface);
+        font.FontOut("Turned", surface, 7200, 7200);
+        font.SelectOrg(surface);
+    }
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    const testing::Pdf pdf(file.readAll().toStdString());
+    EXPECT_EQ(pdf.Images(), 0);
+    std::map<QString, QRectF> boxes;
+    for (const testing::PdfWord& word : pdf.Words(1)) {
+        boxes[word.Text] = word.Box;
+    }
+    ASSERT_EQ(boxes.size(), 2U);
+    EXPECT_NEAR(boxes[QStringLiteral("Level")].left(), 72, 0.5);
+    const QRectF turned = boxes[QStringLiteral("Turned")];
+    EXPECT_NEAR(turned.bottom(), 360, 1); // it runs upwards from its position
+    EXPECT_GT(turned.height(), 2 * turned.width());
+    const QRect ink = InkOf(pdf.Image(1, 72));
+    EXPECT_NEAR(ink.left(), 72 + 24 / 1.117 * 0.08, 1.5);
+}
+
+} // namespace
+} // namespace tarn
