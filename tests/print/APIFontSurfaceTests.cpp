@@ -100,6 +100,10 @@ TEST(APIFont, SelectOrgGivesTheSurfaceItsFontBack) {
     font.SelectOrg(canvas.Surface());
     writer.FontOut("HHH", canvas.Surface(), 50, 50);
     EXPECT_EQ(canvas.Image(), own);
+    font.SetAlign(canvas.Surface(), False, True, False, False, True, False);
+    font.SelectFont(canvas.Surface());
+    font.SelectOrg(canvas.Surface());
+    EXPECT_EQ(canvas.Surface().hdc().TextAlign(), 24 | 6); // the font alone
 }
 
 TEST(APIFont, SelectOrgWithoutASelectedFontDoesNothing) {

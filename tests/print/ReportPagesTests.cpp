@@ -113,6 +113,15 @@ TEST(ReportPages, ALongRemarkGoesOnBelowItselfBrokenBehindABlank) {
     }
 }
 
+TEST(ReportPages, WordsThatFillTheLineToItsLastColumnStayOnIt) {
+    const std::string report = ReportWith("12", "first second third");
+    const std::size_t column = ReportPages(report, Columns, Lines)[0][10].Remark;
+    const std::size_t columns = column + std::string("first second").size();
+    const PaperPage page = ReportPages(report, columns, Lines)[0];
+    EXPECT_EQ(page[10].Text.substr(column), "first second");
+    EXPECT_EQ(page[11].Text.substr(page[11].Remark), "third");
+}
+
 TEST(ReportPages, ARemarkWithoutABlankIsBrokenWhereTheLineEnds) {
     const std::string remark(255, 'x');
     const auto pages = ReportPages(ReportWith("12", remark), Columns, Lines);

@@ -139,6 +139,20 @@ TEST(PaintReport, LettersThatTheFaceLacksLeaveTheColumnsBehindThemInPlace) {
     EXPECT_NEAR(lefts[0], lefts[1], 0.1);
 }
 
+TEST(PaintReport, WiderLettersOfAnotherFaceKeepToTheirCells) {
+    const QString wide = QStringLiteral("⨌⨌⨌⨌"); // each wider than a cell
+    SharedState state;
+    PutRooms(state, {{150, 168, 0, 0, wide.toStdString(), "Remark"}});
+    int found = 0;
+    for (const PdfWord& word : Pdf(ReportPdf(LoadReport(state, ""))).Words(1)) {
+        if (word.Text == wide) {
+            EXPECT_NEAR(word.Box.width(), 4 * Advance, 0.3);
+            ++found;
+        }
+    }
+    EXPECT_EQ(found, 1);
+}
+
 TEST(PaintReport, PaintsOnAPrinterThatCountsFromItsMarginsToo) {
     const QTemporaryDir directory;
     const QString path = directory.filePath(QStringLiteral("printer.pdf"));
