@@ -11,17 +11,6 @@ namespace tarn {
 
 namespace {
 
-/// Append a copy of piece `i`; returns its row.
-Integer AppendCopy(EngineArrays& engine, Integer i) {
-    const Integer row = engine.PieceCount;
-    if (row >= MaxPiece) {
-        RaiseSubscript("There are more than 3000 pieces: estimate the rooms in two projects.");
-    }
-    CopyRow(engine, i, engine, row);
-    CountUp(engine.PieceCount);
-    return row;
-}
-
 /// Put the parts into the piece arrays in place of piece `i`.
 void SwitchFill(EngineArrays& engine, Integer i, Integer parts, const PartEdges& edges) {
     for (Integer part = 0; part < parts; ++part) {
@@ -32,6 +21,16 @@ void SwitchFill(EngineArrays& engine, Integer i, Integer parts, const PartEdges&
 }
 
 } // namespace
+
+Integer AppendCopy(EngineArrays& engine, Integer i) {
+    const Integer row = engine.PieceCount;
+    if (row >= MaxPiece) {
+        RaiseSubscript("There are more than 3000 pieces: estimate the rooms in two projects.");
+    }
+    CopyRow(engine, i, engine, row);
+    CountUp(engine.PieceCount);
+    return row;
+}
 
 void CopyFillPC(EngineArrays& engine) {
     CopyRows(engine, engine.Undivided, engine.PieceCount);

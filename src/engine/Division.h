@@ -10,6 +10,10 @@ namespace tarn {
 /// Save the pieces as they are, undivided: every case starts from them. Sets OrgCount.
 void CopyFillPC(EngineArrays& engine);
 
+/// Append a copy of piece `i`; returns its row. Raises "Subscript out of range" beyond MaxPiece
+/// pieces.
+Integer AppendCopy(EngineArrays& engine, Integer i);
+
 /// Bring back the pieces that CopyFillPC saved; PieceCount becomes OrgCount.
 void RestoreFillPC(EngineArrays& engine);
 

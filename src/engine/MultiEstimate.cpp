@@ -2,8 +2,8 @@
 
 #include "app/Numbers.h"
 #include "engine/Cases.h"
-#include "engine/CleanUp.h"
 #include "engine/Division.h"
+#include "engine/FinishLayout.h"
 #include "engine/Pieces.h"
 #include "engine/Placement.h"
 #include "engine/RollLayout.h"
@@ -21,9 +21,6 @@ constexpr std::array<Integer, 3> Modes{1, 0, 2};
 constexpr Long ModeCount = 3;
 
 constexpr Long NoLength = 32767; ///< best length before the first case
-
-constexpr const char* TooLongAdvice =
-    "The fills need more than 32767 inches of roll: estimate the rooms in two projects.";
 
 /// One search: scores cases and keeps the record of the best.
 class Search {
@@ -72,16 +69,7 @@ class Search {
         DivideAll(engine_, engine_.BestCase);
         ReorderPiece(engine_, engine_.BestMode, dimScale_);
         CheckScore();
-        QuickSortPCOrder(engine_, 0, engine_.PieceCount);
-        CheckFill(engine_);
-        CombinePiece(engine_, dimScale_);
-        ShiftLeft(engine_);
-        ShowResultPic();
-        if (engine_.LayDir == 1) {
-            SwitchXY(engine_);
-        }
-        QuickSortOrgpc(engine_, 0, engine_.PieceCount);
-        SwitchXY2(engine_);
+        FinishLayout(engine_, dimScale_);
     }
 
   private:
@@ -125,16 +113,6 @@ class Search {
         const Long length = CLng(static_cast<Double>(GetPCLen(engine_)));
         if (length != engine_.BestLen && engine_.BestLen != NoLength) {
             RaiseInternal("The layout is not as long as its trial and was discarded.");
-        }
-    }
-
-    /// The reported length: the length in use raised to a multiple of 3, by whole inches.
-    void ShowResultPic() {
-        const Double length = static_cast<Double>(GetPCLen(engine_));
-        try {
-            engine_.ResultLen = CInt(3 * Int((length + 2) / 3));
-        } catch (const RunTimeError& error) {
-            throw error.WithAdvice(TooLongAdvice);
         }
     }
 

@@ -1,0 +1,40 @@
+#include "engine/FinishLayout.h"
+
+#include "app/Numbers.h"
+#include "app/RunTimeError.h"
+#include "engine/CleanUp.h"
+#include "engine/Pieces.h"
+#include "engine/Placement.h"
+
+namespace tarn {
+
+namespace {
+
+constexpr const char* TooLongAdvice =
+    "The fills need more than 32767 inches of roll: estimate the rooms in two projects.";
+
+} // namespace
+
+void ShowResultPic(EngineArrays& engine) {
+    const Double length = static_cast<Double>(GetPCLen(engine));
+    try {
+        engine.ResultLen = CInt(3 * Int((length + 2) / 3));
+    } catch (const RunTimeError& error) {
+        throw error.WithAdvice(TooLongAdvice);
+    }
+}
+
+void FinishLayout(EngineArrays& engine, Double dimScale) {
+    QuickSortPCOrder(engine, 0, engine.PieceCount);
+    CheckFill(engine);
+    CombinePiece(engine, dimScale);
+    ShiftLeft(engine);
+    ShowResultPic(engine);
+    if (engine.LayDir == 1) {
+        SwitchXY(engine);
+    }
+    QuickSortOrgpc(engine, 0, engine.PieceCount);
+    SwitchXY2(engine);
+}
+
+} // namespace tarn
