@@ -16,6 +16,12 @@ Integer MinCutUnits(const SharedState& state, long long minCut) {
                             : CInt(Int(shortest / state.DimScale));
 }
 
+Double MinCutOfCaption(const SharedState& state, long long minCut) {
+    constexpr Double InchesPerFoot = 12;
+    const Double inches = static_cast<Double>(state.MinCutLen[minCut]) * InchesPerFoot;
+    return state.IsMetric() ? CInt(inches * CentimetresPerInch) / CentimetresPerInch : inches;
+}
+
 std::string MinCutInForce(const SharedState& state, Integer minCut) {
     const Double inches = MinCutUnits(state, minCut) * state.DimScale;
     if (state.IsMetric()) {

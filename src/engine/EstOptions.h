@@ -24,6 +24,11 @@ Integer PackEstOption(Integer minCut, Integer pieces);
 /// to 300 units. Raises "Subscript out of range" beyond MinCutLen.
 Integer MinCutUnits(const SharedState& state, long long minCut);
 
+/// The minimum cut that the caption at position `minCut` names, in inches: the feet of MinCutLen;
+/// in metric mode the caption's whole centimetres. Raises "Subscript out of range" beyond
+/// MinCutLen.
+Double MinCutOfCaption(const SharedState& state, long long minCut);
+
 /// The length in force behind an option's caption, which names another one: "3 inches", "0.5 inch",
 /// or when metric "19.4 cm".
 std::string MinCutInForce(const SharedState& state, Integer minCut);

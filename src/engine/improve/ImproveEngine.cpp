@@ -1,0 +1,60 @@
+#include "engine/improve/ImproveEngine.h"
+
+#include "app/Lengths.h"
+#include "app/Numbers.h"
+#include "engine/Placement.h"
+#include "engine/improve/Improver.h"
+#include "engine/improve/RollJob.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace tarn {
+
+namespace {
+
+/// Take the run's best layout over, on a copy, so that a fault leaves the arrays as they were.
+void TakeBest(const RollJob& roll, const ImproveRun& run, EngineArrays& engine, Double dimScale) {
+    EngineArrays improved = engine;
+    TakeLayout(roll, run.BestParts(), improved, dimScale);
+    if (!IsWithinTolerance(GetPCLen(improved) - GetPCLen(engine))) {
+        RaiseInternal("The improved layout is longer than before and was discarded.");
+    }
+    engine = std::move(improved);
+}
+
+} // namespace
+
+Double ImproveProgress::GapPercent() const {
+    return Bound > 0 ? std::max(0.0, 100 * (Best - Bound) / Bound) : 0;
+}
+
+ImproveResult ImproveEngine(const SharedState& state, EngineArrays& engine,
+                            const ImproveLimits& limits, ImproveObserver& observer) {
+    ImproveResult result;
+    result.StartLength = GetPCLen(engine);
+    result.Length = result.StartLength;
+    result.StartPieces = engine.PieceCount;
+    result.Pieces = engine.PieceCount;
+    const RollJob roll = RollJobOf(state, engine);
+    if (!roll.Possible || engine.PosCount == 0) {
+        return result;
+    }
+    const auto startLength = static_cast<Double>(result.StartLength);
+    const auto inches = [&](Long units) { return std::min(startLength, units * roll.AlongUnit); };
+    ImproveRun run(roll.Job, LayoutMeritOf(roll, engine), limits, [&](Long best, Long bound) {
+        return observer.Progress({inches(best), inches(bound)});
+    });
+    Improve(run, limits.Seed);
+    if (!run.BestParts().empty()) {
+        TakeBest(roll, run, engine, state.DimScale);
+        result.Improved = true;
+        result.Length = GetPCLen(engine);
+        result.Pieces = engine.PieceCount;
+    }
+    result.Bound = std::min(static_cast<Double>(result.Length), run.Bound() * roll.AlongUnit);
+    result.Steps = run.Steps();
+    return result;
+}
+
+} // namespace tarn

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "app/SharedState.h"
+#include "engine/EngineArrays.h"
+#include "engine/improve/ImproveRun.h"
+
+#include <cstdint>
+
+namespace tarn {
+
+/// How far an improving search is. Lengths are inches.
+struct ImproveProgress {
+    Double Best = 0;  ///< length of the best layout so far
+    Double Bound = 0; ///< no layout is shorter; 0 while that is not known
+    Double GapPercent() const;
+};
+
+/// What an improving search tells its caller while it runs. The default does nothing and never
+/// stops. What it calls may read the engine's arrays, which hold the layout from before until the
+/// search has ended, but not change them.
+class ImproveObserver {
+  public:
+    virtual ~ImproveObserver() = default;
+
+    /// Called at least every few milliseconds, and whenever the best or the bound changes. False
+    /// stops the search; the best layout so far is taken all the same.
+    virtual bool Progress([[maybe_unused]] const ImproveProgress& progress) { return true; }
+};
+
+/// How an improving search ended.
+struct ImproveResult {
+    bool Improved = false; ///< the arrays hold a better layout than before
+    Single StartLength = 0;
+    Single Length = 0; ///< of the layout in the arrays now, inches
+    Double Bound = 0;  ///< no layout is shorter, inches; 0 = not known
+    Integer StartPieces = 0;
+    Integer Pieces = 0; ///< parts in all
+    std::int64_t Steps = 0;
+};
+
+/// Improve the layout that MultiEstimate, or an earlier improvement, left in the arrays: a shorter
+/// one, or an equally long one with fewer joins, or with a larger undivided free end. Nothing else
+/// changes when none is found. Without a piece, or with one that is too wide for the roll, nothing
+/// is tried.
+///
+/// On an error, also one that the observer raises, the arrays are as they were. Raises what the
+/// observer raises, and "Internal error" when the improved layout fails its check.
+ImproveResult ImproveEngine(const SharedState& state, EngineArrays& engine,
+                            const ImproveLimits& limits, ImproveObserver& observer);
+
+} // namespace tarn

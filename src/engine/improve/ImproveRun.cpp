@@ -1,0 +1,58 @@
+#include "engine/improve/ImproveRun.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace tarn {
+
+namespace {
+
+constexpr std::int64_t AskEvery = 16; ///< steps
+
+} // namespace
+
+ImproveRun::ImproveRun(const ImproveJob& job, const LayoutMerit& start, const ImproveLimits& limits,
+                       ImproveReport report)
+    : job_(job)
+    , limits_(limits)
+    , report_(std::move(report))
+    , best_(start) {}
+
+bool ImproveRun::Spend() {
+    ++steps_;
+    if (limits_.Steps > 0 && steps_ >= limits_.Steps) {
+        stopped_ = true;
+    }
+    if (limits_.Seconds > 0 &&
+        std::chrono::duration<Double>(Clock::now() - begin_).count() >= limits_.Seconds) {
+        stopped_ = true;
+    }
+    return steps_ % AskEvery == 0 ? Ask() : !stopped_;
+}
+
+bool ImproveRun::Ask() {
+    if (!stopped_ && !report_(best_.Length, Bound())) {
+        stopped_ = true;
+    }
+    return !stopped_;
+}
+
+LayoutMerit ImproveRun::Offer(std::vector<ImprovePart> parts) {
+    JoinAndOrder(parts);
+    const LayoutMerit merit = MeritOf(job_, parts);
+    if (merit.Parts <= job_.MostPieces && merit.BetterThan(best_)) {
+        best_ = merit;
+        bestParts_ = std::move(parts);
+        Ask();
+    }
+    return merit;
+}
+
+void ImproveRun::RaiseBound(Long bound) {
+    if (bound > bound_) {
+        bound_ = bound;
+        Ask();
+    }
+}
+
+} // namespace tarn

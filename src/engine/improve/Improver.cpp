@@ -1,0 +1,107 @@
+#include "engine/improve/Improver.h"
+
+#include "engine/improve/BarRelaxation.h"
+#include "engine/improve/Bounds.h"
+#include "engine/improve/PartPlan.h"
+#include "engine/improve/Searches.h"
+#include "engine/improve/WholePlan.h"
+
+#include <algorithm>
+#include <cmath>
+#include <memory>
+
+namespace tarn {
+
+namespace {
+
+constexpr Double FirstEffort = 2000; ///< steps for one roof in the first round
+constexpr Double EffortGrowth = 1.5; ///< a round
+constexpr std::size_t FirstStarts = 5;
+constexpr std::size_t LaterStarts = 8;
+constexpr int FirstRounds = 3;
+constexpr std::int64_t LastPolish = 20000; ///< steps without a gain, when no layout is shorter
+
+std::unique_ptr<Plan> PlanOf(const ImproveJob& job) {
+    if (AnyDivisible(job)) {
+        return std::make_unique<PartPlan>(job);
+    }
+    return std::make_unique<WholePlan>(job);
+}
+
+class Improver {
+  public:
+    Improver(ImproveRun& run, std::uint64_t seed)
+        : run_(run)
+        , random_(seed)
+        , plan_(PlanOf(run.Job())) {}
+
+    void Search() {
+        run_.RaiseBound(QuickBound(run_.Job()));
+        starts_ = RankedStarts(run_, *plan_);
+        if (!run_.IsLeast() && !run_.Stopped()) {
+            run_.RaiseBound(BarRelaxationBound(run_.Job(), [this] { return run_.Ask(); }));
+        }
+        for (int round = 0; !run_.IsLeast() && !run_.Stopped(); ++round) {
+            const std::size_t starts = round < FirstRounds ? FirstStarts : LaterStarts;
+            LowerRoof(std::min(starts, starts_.size()));
+            ShortenStarts(round);
+            if (best_) {
+                Polish(run_, *best_, run_.Best().Length, Steps(0.1), random_);
+            }
+            effort_ *= EffortGrowth;
+        }
+        if (run_.IsLeast() && !run_.Stopped() && best_) {
+            Polish(run_, *best_, run_.Best().Length, LastPolish, random_);
+        }
+    }
+
+  private:
+    std::int64_t Steps(Double share) const { return static_cast<std::int64_t>(effort_ * share); }
+
+    /// Look for the lowest roof between the bound and the best below which all can be packed.
+    void LowerRoof(std::size_t starts) {
+        Long low = run_.Bound();
+        while (low < run_.Best().Length && !run_.Stopped()) {
+            const Long roof = low + (run_.Best().Length - 1 - low) / 2;
+            if (!PackFromAny(roof, starts)) {
+                low = roof + 1;
+            }
+        }
+    }
+
+    bool PackFromAny(Long roof, std::size_t starts) {
+        const std::int64_t steps = Steps(1.0 / static_cast<Double>(starts));
+        for (std::size_t i = 0; i < starts && !run_.Stopped(); ++i) {
+            if (PackBelow(run_, *plan_, starts_[i], roof, steps, random_)) {
+                best_ = plan_->Copy();
+                return true;
+            }
+        }
+        return false;
+    }
+
+    void ShortenStarts(int round) {
+        constexpr std::size_t Tried = 8;
+        const std::size_t count = std::min(Tried, starts_.size());
+        const std::size_t start = static_cast<std::size_t>(round) % count;
+        Shorten(run_, *plan_, starts_[start], Steps(0.2), random_);
+    }
+
+    ImproveRun& run_;
+    RandomSteps random_;
+    std::unique_ptr<Plan> plan_;
+    std::vector<PlanStart> starts_;
+    std::unique_ptr<Plan>
+        best_; ///< packed all below the best length, when a roof was lowered to it
+    Double effort_ = FirstEffort;
+};
+
+} // namespace
+
+void Improve(ImproveRun& run, std::uint64_t seed) {
+    if (!run.Job().Fills.empty()) {
+        Improver(run, seed).Search();
+    }
+}
+
+} // namespace tarn

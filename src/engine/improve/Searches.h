@@ -1,0 +1,36 @@
+#pragma once
+
+#include "engine/improve/ImproveRun.h"
+#include "engine/improve/Plan.h"
+
+#include <memory>
+#include <vector>
+
+namespace tarn {
+
+/// Something that a search can start from.
+struct PlanStart {
+    std::size_t Order;
+    PlacingRule Rule;
+    Area64 Length; ///< that it gives by itself
+};
+
+/// Lay out every start of a plan and rank them, shortest first; equal ones keep their order. Offers
+/// each layout to the run.
+std::vector<PlanStart> RankedStarts(ImproveRun& run, Plan& plan);
+
+/// Decision search: change the plan, and keep what leaves no more unpacked below `roof`, until all
+/// is packed or after `steps`. True when all was packed; the layout is offered then.
+bool PackBelow(ImproveRun& run, Plan& plan, const PlanStart& start, Long roof, std::int64_t steps,
+               RandomSteps& random);
+
+/// Length search: change the plan, and keep what is not longer, for `steps`. Offers what is
+/// shorter.
+void Shorten(ImproveRun& run, Plan& plan, const PlanStart& start, std::int64_t steps,
+             RandomSteps& random);
+
+/// Change a plan that packs all below `roof`, and keep what does so with no less merit, for
+/// `steps` after the last gain: fewer joins, then a larger free end.
+void Polish(ImproveRun& run, Plan& plan, Long roof, std::int64_t steps, RandomSteps& random);
+
+} // namespace tarn
