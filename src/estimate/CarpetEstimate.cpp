@@ -83,6 +83,7 @@ void EmptyEstimate(SharedState& state, EngineArrays& engine, CarpetEstimate& est
     engine.BestMode = 0;
     engine.ResultLen = 0;
     estimate.SavedFillCount = 0;
+    estimate.Improved.reset();
 }
 
 void SaveFill(const EngineArrays& engine, CarpetEstimate& estimate) {

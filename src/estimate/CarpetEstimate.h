@@ -3,6 +3,9 @@
 #include "app/SharedState.h"
 #include "app/Types.h"
 #include "engine/EngineArrays.h"
+#include "estimate/Improvement.h"
+
+#include <optional>
 
 namespace tarn {
 
@@ -22,6 +25,8 @@ struct CarpetEstimate {
 
     Integer SavedFillCount = 0; ///< pieces when SaveFill ran: decides one- or two-letter labels
     PieceRows SavedFills;       ///< the pieces as SaveFill kept them
+
+    std::optional<Improvement> Improved; ///< set when the layout is an improved one
 };
 
 /// Empty the estimate: no cuts, no pieces, no layout, no lengths. The choices stay.

@@ -77,6 +77,9 @@ class CutList {
         if (!IsWithinTolerance(end - static_cast<Single>(engine_.ResultLen))) {
             lines_.push_back("Fills end at:" + LengthText(static_cast<Double>(end), metric_));
         }
+        if (estimate_.Improved) {
+            lines_.push_back(ImprovementText(*estimate_.Improved));
+        }
     }
 
     void AddRoll(const RollTotals& totals) {

@@ -29,6 +29,7 @@ std::string CarpetHeading(const SharedState& state, const EngineArrays& engine,
                           const CarpetEstimate& estimate);
 
 /// The cut list, line by line: heading, cuts, pieces, match pattern, totals, wall base, tiles.
+/// When the layout was improved, one line below the fills' total says so.
 /// Empty when there is neither a cut nor a piece. Reads RoomX and RoomY for the tiles. Raises
 /// "Overflow" when a length does not fit.
 std::vector<std::string> CutListLines(const SharedState& state, const EngineArrays& engine,

@@ -61,23 +61,34 @@ QJsonObject Totals(const SharedState& state, const EngineArrays& engine) {
             {QStringLiteral("base"), Number(TotalBase(state))}};
 }
 
+QJsonObject Improved(const Improvement& improvement) {
+    return {{QStringLiteral("startLength"), improvement.StartLength},
+            {QStringLiteral("length"), improvement.Length},
+            {QStringLiteral("bound"), improvement.Bound},
+            {QStringLiteral("startPieces"), improvement.StartPieces},
+            {QStringLiteral("pieces"), improvement.Pieces}};
+}
+
 } // namespace
 
 std::string EstimateJson(const SharedState& state, const EngineArrays& engine,
                          const CarpetEstimate& estimate) {
-    const QJsonObject document{{QStringLiteral("project"), Text(state.CurProjName)},
-                               {QStringLiteral("carpet"), estimate.CarpetNo + 1},
-                               {QStringLiteral("metric"), state.IsMetric()},
-                               {QStringLiteral("rollWidth"), Number(engine.RollWidth)},
-                               {QStringLiteral("layDir"), engine.LayDir},
-                               {QStringLiteral("estOption"), state.EstOption},
-                               {QStringLiteral("cases"), engine.CaseCount},
-                               {QStringLiteral("bestLen"), engine.BestLen},
-                               {QStringLiteral("bestMode"), engine.BestMode},
-                               {QStringLiteral("resultLen"), engine.ResultLen},
-                               {QStringLiteral("cuts"), Cuts(state)},
-                               {QStringLiteral("pieces"), Pieces(engine, estimate.SavedFillCount)},
-                               {QStringLiteral("totals"), Totals(state, engine)}};
+    QJsonObject document{{QStringLiteral("project"), Text(state.CurProjName)},
+                         {QStringLiteral("carpet"), estimate.CarpetNo + 1},
+                         {QStringLiteral("metric"), state.IsMetric()},
+                         {QStringLiteral("rollWidth"), Number(engine.RollWidth)},
+                         {QStringLiteral("layDir"), engine.LayDir},
+                         {QStringLiteral("estOption"), state.EstOption},
+                         {QStringLiteral("cases"), engine.CaseCount},
+                         {QStringLiteral("bestLen"), engine.BestLen},
+                         {QStringLiteral("bestMode"), engine.BestMode},
+                         {QStringLiteral("resultLen"), engine.ResultLen},
+                         {QStringLiteral("cuts"), Cuts(state)},
+                         {QStringLiteral("pieces"), Pieces(engine, estimate.SavedFillCount)},
+                         {QStringLiteral("totals"), Totals(state, engine)}};
+    if (estimate.Improved) {
+        document.insert(QStringLiteral("improved"), Improved(*estimate.Improved));
+    }
     return QJsonDocument(document).toJson(QJsonDocument::Indented).toStdString();
 }
 

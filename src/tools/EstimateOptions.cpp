@@ -97,6 +97,26 @@ void AddOutput(CLI::App& app, EstimateOptions& options) {
         ->type_name("FILE|-");
 }
 
+void AddImprovement(CLI::App& app, EstimateOptions& options) {
+    auto* seconds =
+        app.add_option("--improve", options.ImproveSeconds,
+                       "Then look for a better layout, for so many seconds at most or until it is "
+                       "the least possible; Ctrl+C ends that earlier and keeps the best")
+            ->check(CLI::PositiveNumber)
+            ->type_name("SECONDS");
+    auto* steps = app.add_option("--improve-steps", options.ImproveSteps,
+                                 "The same for so many steps at most, so that the result can be "
+                                 "repeated")
+                      ->check(CLI::PositiveNumber)
+                      ->type_name("N");
+    app.add_option("--seed", options.Seed, "Another seed makes the search take another way")
+        ->capture_default_str()
+        ->type_name("N");
+    app.callback([&options, seconds, steps] {
+        options.Improve = seconds->count() > 0 || steps->count() > 0;
+    });
+}
+
 /// Raises CLI::ValidationError when two outputs would overwrite or mix with each other.
 void RequireDifferent(const char* option, const std::string& path, const char* otherOption,
                       const std::string& otherPath) {
@@ -149,6 +169,7 @@ std::optional<EstimateOptions> ReadEstimateOptions(int argc, const char* const* 
     AddInput(app, options);
     AddChoices(app, options, lay);
     AddOutput(app, options);
+    AddImprovement(app, options);
     try {
         app.parse(argc, argv);
         CheckTogether(options);

@@ -23,6 +23,11 @@ struct EstimateOptions {
     std::string Json;
     std::string Svg;
     std::string Pdf;
+
+    bool Improve = false;       ///< improve the layout
+    double ImproveSeconds = 0;  ///< 0 = no limit
+    long long ImproveSteps = 0; ///< 0 = no limit
+    unsigned long long Seed = 1;
 };
 
 /// Read the arguments of tarn-estimate. When they ask for help or the version, or cannot be

@@ -13,6 +13,7 @@
 #include "rooms/Report.h"
 #include "rooms/RoomCsv.h"
 #include "tools/Files.h"
+#include "tools/ImproveTool.h"
 #include "tools/ProjectFile.h"
 #include "tools/Refusal.h"
 
@@ -105,6 +106,9 @@ void EstimateFor(const EstimateOptions& options) {
     if (RunEstimate(state, engine, estimate, request, nobody) == ConvertResult::Nothing) {
         std::cerr << "Warning: the rooms of " << CoveringCaption(request.Carpet)
                   << " have no area; there is nothing to cut.\n";
+    }
+    if (options.Improve) {
+        ImproveFor(options, state, engine, estimate);
     }
     WriteOutputs(options, state, engine, estimate);
 }

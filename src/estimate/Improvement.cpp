@@ -1,0 +1,52 @@
+#include "estimate/Improvement.h"
+
+#include "app/Format.h"
+#include "app/Lengths.h"
+#include "app/Numbers.h"
+#include "app/Text.h"
+
+namespace tarn {
+
+namespace {
+
+bool IsShorter(Double a, Double b) {
+    return b - a >= LengthTolerance;
+}
+
+/// A share in tenths of a percent as text: "3.2%".
+std::string PercentText(Double tenths) {
+    return Format(tenths / 10, "##0.0") + "%";
+}
+
+std::string GainText(const Improvement& improvement) {
+    constexpr Double TenthsInWhole = 1000;
+    if (IsShorter(improvement.Length, improvement.StartLength)) {
+        const Double share =
+            (improvement.StartLength - improvement.Length) / improvement.StartLength;
+        const Double tenths = Int(share * TenthsInWhole);
+        return "fills " + (tenths > 0 ? PercentText(tenths) : "less than 0.1%") + " shorter";
+    }
+    const int joins = improvement.StartPieces - improvement.Pieces;
+    if (joins > 0) {
+        return TrimStr(joins) + (joins == 1 ? " join fewer" : " joins fewer");
+    }
+    return "larger free end";
+}
+
+} // namespace
+
+std::string LeastPossibleText(Double length, Double bound) {
+    if (!IsShorter(bound, length)) {
+        return "the least possible";
+    }
+    constexpr Double TenthsInWhole = 1000;
+    const Double tenths = -Int(-(length - bound) / bound * TenthsInWhole);
+    return "at most " + PercentText(tenths) + " above the least possible";
+}
+
+std::string ImprovementText(const Improvement& improvement) {
+    return "Improved: " + GainText(improvement) + ", " +
+           LeastPossibleText(improvement.Length, improvement.Bound);
+}
+
+} // namespace tarn

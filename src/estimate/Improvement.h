@@ -1,0 +1,27 @@
+#pragma once
+
+#include "app/Types.h"
+
+#include <string>
+
+namespace tarn {
+
+/// The record of an improved layout: lengths of the fills along the roll, inches.
+struct Improvement {
+    Double StartLength = 0; ///< of the layout that the search before gave
+    Double Length = 0;
+    Double Bound = 0; ///< no layout is shorter
+    Integer StartPieces = 0;
+    Integer Pieces = 0; ///< parts in all: one more is one join more
+};
+
+/// The line by which the cut list says that its layout was improved, for example
+/// `Improved: fills 3.2% shorter, at most 1.8% above the least possible`. What was gained is
+/// rounded down, what may be left is rounded up, so that neither promises too much.
+std::string ImprovementText(const Improvement& improvement);
+
+/// What may be left: by how many percent a layout of `length` may be above the least possible, as
+/// the line above says it: "the least possible" or "at most 1.8% above the least possible".
+std::string LeastPossibleText(Double length, Double bound);
+
+} // namespace tarn

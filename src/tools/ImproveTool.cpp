@@ -1,0 +1,93 @@
+#include "tools/ImproveTool.h"
+
+#include "app/Lengths.h"
+#include "estimate/ImproveEstimate.h"
+
+#include <chrono>
+#include <csignal>
+#include <cstdio>
+#include <iostream>
+#include <string>
+#include <unistd.h>
+
+namespace tarn {
+
+namespace {
+
+volatile std::sig_atomic_t interrupted = 0;
+
+void NoteInterrupt(int /*signal*/) {
+    interrupted = 1;
+}
+
+/// Takes interrupts as the wish to stop while it lives.
+class InterruptStops {
+  public:
+    InterruptStops()
+        : before_(std::signal(SIGINT, NoteInterrupt)) {
+        interrupted = 0;
+    }
+    ~InterruptStops() { std::signal(SIGINT, before_ == SIG_ERR ? SIG_DFL : before_); }
+    InterruptStops(const InterruptStops&) = delete;
+    InterruptStops& operator=(const InterruptStops&) = delete;
+
+  private:
+    void (*before_)(int);
+};
+
+/// Writes how far the search is into one line of a terminal.
+class ProgressLine : public ImproveObserver {
+  public:
+    explicit ProgressLine(bool metric)
+        : metric_(metric) {}
+    ~ProgressLine() override {
+        if (written_) {
+            std::cerr << '\n';
+        }
+    }
+    ProgressLine(const ProgressLine&) = delete;
+    ProgressLine& operator=(const ProgressLine&) = delete;
+
+    bool Progress(const ImproveProgress& progress) override {
+        constexpr std::chrono::milliseconds Pause(200);
+        const auto now = Clock::now();
+        if (isTerminal_ && progress.Bound > 0 && (!written_ || now - last_ >= Pause)) {
+            constexpr const char* StartOfLine = "\r\033[K";
+            std::cerr << StartOfLine << "Fills: " << LengthText(progress.Best, metric_) << ", "
+                      << LeastPossibleText(progress.Best, progress.Bound) << std::flush;
+            last_ = now;
+            written_ = true;
+        }
+        return interrupted == 0;
+    }
+
+  private:
+    using Clock = std::chrono::steady_clock;
+
+    bool metric_;
+    bool isTerminal_ = isatty(STDERR_FILENO) == 1;
+    bool written_ = false;
+    Clock::time_point last_;
+};
+
+} // namespace
+
+void ImproveFor(const EstimateOptions& options, const SharedState& state, EngineArrays& engine,
+                CarpetEstimate& estimate) {
+    ImproveLimits limits;
+    limits.Seconds = options.ImproveSeconds;
+    limits.Steps = options.ImproveSteps;
+    limits.Seed = options.Seed;
+    ImproveResult result;
+    {
+        const InterruptStops stops;
+        ProgressLine line(state.IsMetric());
+        result = ImproveEstimate(state, engine, estimate, limits, line);
+    }
+    if (!result.Improved && result.Bound > 0) {
+        std::cerr << "Note: no better layout was found; this one is "
+                  << LeastPossibleText(static_cast<Double>(result.Length), result.Bound) << ".\n";
+    }
+}
+
+} // namespace tarn
