@@ -44,8 +44,10 @@ class Improver {
         for (int round = 0; !run_.IsLeast() && !run_.Stopped(); ++round) {
             const std::size_t starts = round < FirstRounds ? FirstStarts : LaterStarts;
             LowerRoof(std::min(starts, starts_.size()));
-            ShortenStarts(round);
-            if (best_) {
+            if (!run_.Stopped()) {
+                ShortenStarts(round);
+            }
+            if (best_ && !run_.Stopped()) {
                 Polish(run_, *best_, run_.Best().Length, Steps(0.1), random_);
             }
             effort_ *= EffortGrowth;

@@ -62,6 +62,7 @@ void PartPlan::Begin(std::size_t order, PlacingRule rule) {
         const Long parts = std::min(turns, equalParts);
         const Long share = (job_.Fills[fill].Length + parts - 1) / parts;
         const Long step = job_.CutStep;
+        states_[fill] = {firstTurn_[fill], job_.Fills[fill].Length};
         for (std::size_t turn = firstTurn_[fill]; turn < firstTurn_[fill + 1]; ++turn) {
             turns_[turn] = {fill, static_cast<Long>(place), parts > 1 ? Cut::OfLength : Cut::Rest,
                             (share + step - 1) / step * step};
@@ -114,10 +115,11 @@ bool PartPlan::LayOut(Long roof, Area64 mostWaste, Area64 farthest) {
             choice = Choice();
         }
         if (choice.Fit == FitClass::None) {
-            const Long height = skyline_.Count() == 1 ? room : walls.Short;
-            if (height >= NoWall) {
+            const bool wholeWidth = skyline_.Count() == 1;
+            if (wholeWidth && roof == NoWall) {
                 continue; // the step was only left out: the whole width takes any fill
             }
+            const Long height = wholeWidth ? room : walls.Short;
             waste += static_cast<Area64>(gap.Width) * height;
             if (waste > mostWaste) {
                 return false;

@@ -64,10 +64,11 @@ bool WholePlan::LayOut(Long roof, Area64 mostWaste, Area64 farthest) {
             choice = Choose(gap, walls, room);
         }
         if (choice.Fit == FitClass::None) {
-            const Long height = skyline_.Count() == 1 ? room : walls.Short;
-            if (height >= NoWall) {
+            const bool wholeWidth = skyline_.Count() == 1;
+            if (wholeWidth && roof == NoWall) {
                 continue; // the step was only left out: the whole width takes any fill
             }
+            const Long height = wholeWidth ? room : walls.Short;
             waste += static_cast<Area64>(gap.Width) * height;
             if (waste > mostWaste) {
                 return false;
