@@ -1,0 +1,183 @@
+// Measures the improving search on public strip-packing sets and on random flooring jobs; writes
+// docs/improve.md and its plot.
+
+#include "app/Format.h"
+#include "bench/ImproveMeasure.h"
+#include "bench/ImprovePlot.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <fstream>
+#include <iostream>
+#include <map>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+namespace tarn {
+
+namespace {
+
+constexpr double FlooringSeconds = 2;
+constexpr std::uint64_t Seeds = 3;
+const std::vector<double> PackingSeconds{1, 10};
+
+std::string Percent(double value) {
+    return Format(value, "0.00") + "%";
+}
+
+/// The average gap to the optimum by set, and in how many runs the optimum was found.
+struct PackingGap {
+    std::vector<double> Sum = std::vector<double>(PackingSeconds.size());
+    std::vector<int> Optimal = std::vector<int>(PackingSeconds.size());
+    int Runs = 0;
+};
+
+std::string PackingTable(const std::vector<PackingInstance>& instances) {
+    std::vector<std::vector<Long>> best(instances.size() * Seeds);
+    ForEach(best.size(), [&](std::size_t i) {
+        best[i] = BestAfter(instances[i / Seeds], PackingSeconds, i % Seeds + 1);
+    });
+    std::map<std::string, PackingGap> gaps;
+    for (std::size_t i = 0; i < best.size(); ++i) {
+        const PackingInstance& instance = instances[i / Seeds];
+        PackingGap& gap = gaps[instance.Set];
+        ++gap.Runs;
+        std::cout << instance.Name << " seed " << i % Seeds + 1 << ": ";
+        for (std::size_t k = 0; k < PackingSeconds.size(); ++k) {
+            gap.Sum[k] += 100.0 * (best[i][k] - instance.Best) / instance.Best;
+            gap.Optimal[k] += best[i][k] == instance.Best ? 1 : 0;
+            std::cout << best[i][k] << ' ';
+        }
+        std::cout << "of " << instance.Best << '\n';
+    }
+    std::string table = "| set | runs | gap after 1 s | optimal | gap after 10 s | optimal |\n"
+                        "|---|---:|---:|---:|---:|---:|\n";
+    for (const auto& [set, gap] : gaps) {
+        table += "| " + set + " | " + std::to_string(gap.Runs);
+        for (std::size_t k = 0; k < PackingSeconds.size(); ++k) {
+            table +=
+                " | " + Percent(gap.Sum[k] / gap.Runs) + " | " + std::to_string(gap.Optimal[k]);
+        }
+        table += " |\n";
+    }
+    return table;
+}
+
+/// A range of rooms, and how many jobs are drawn from it.
+struct RoomGroup {
+    int Least;
+    int Most;
+    int Jobs;
+};
+constexpr RoomGroup Groups[] = {{5, 5, 18}, {6, 12, 42}, {13, 30, 18}, {31, 60, 12}};
+
+std::vector<FlooringResult> MeasureGroup(const RoomGroup& group) {
+    std::vector<FlooringResult> results(static_cast<std::size_t>(group.Jobs));
+    ForEach(results.size(), [&](std::size_t i) {
+        const int spread = group.Most - group.Least + 1;
+        // 5 has no divisor in common with the spreads, so all numbers of rooms take turns.
+        const int rooms = group.Least + static_cast<int>(i) * 5 % spread;
+        const auto number =
+            static_cast<std::uint32_t>(1000 * group.Least) + static_cast<std::uint32_t>(i);
+        results[i] = MeasureFlooring(*RandomFlooringJob(rooms, number), FlooringSeconds);
+    });
+    return results;
+}
+
+double MedianShorter(const std::vector<FlooringResult>& results) {
+    std::vector<double> shorter;
+    for (const FlooringResult& result : results) {
+        if (result.Searched > 0) {
+            shorter.push_back(100 * (1 - result.Improved / result.Searched));
+        }
+    }
+    std::sort(shorter.begin(), shorter.end());
+    return shorter.empty() ? 0 : shorter[shorter.size() / 2];
+}
+
+std::string FlooringTable(std::vector<FlooringResult>& all) {
+    std::string table =
+        "| rooms | jobs | search, over the bound | improved, over the bound | least possible "
+        "reached | median job shorter by | parts, search | parts, improved |\n"
+        "|---:|---:|---:|---:|---:|---:|---:|---:|\n";
+    for (const RoomGroup& group : Groups) {
+        const std::vector<FlooringResult> results = MeasureGroup(group);
+        const AverageGaps gaps = GapsOf(results);
+        int least = 0;
+        int before = 0;
+        int after = 0;
+        for (const FlooringResult& result : results) {
+            least += result.Improved - result.Bound < 0.005 ? 1 : 0;
+            before += result.PiecesBefore;
+            after += result.Pieces;
+        }
+        const std::string rooms = std::to_string(group.Least);
+        table += "| " +
+                 (group.Least == group.Most ? rooms : rooms + " to " + std::to_string(group.Most)) +
+                 " | " + std::to_string(gaps.Jobs) + " | " + Percent(gaps.Searched) + " | " +
+                 Percent(gaps.Improved) + " | " + std::to_string(least) + " | " +
+                 Percent(MedianShorter(results)) + " | " + std::to_string(before) + " | " +
+                 std::to_string(after) + " |\n";
+        all.insert(all.end(), results.begin(), results.end());
+        std::cout << table.substr(table.rfind('\n', table.size() - 2) + 1) << std::flush;
+    }
+    return table;
+}
+
+void WriteFile(const std::string& path, const std::string& content) {
+    std::ofstream file(path, std::ios::binary);
+    file << content;
+    file.flush();
+    if (!file) {
+        throw std::runtime_error(path + " cannot be written");
+    }
+}
+
+void WritePage(const std::string& docs, const std::string& packing, const std::string& flooring) {
+    std::ifstream input(docs + "/improve.in.md");
+    std::string text((std::istreambuf_iterator<char>(input)), std::istreambuf_iterator<char>());
+    const std::pair<std::string, std::string> fields[] = {{"@PACKING@\n", packing},
+                                                          {"@FLOORING@\n", flooring}};
+    for (const auto& [field, value] : fields) {
+        const std::size_t at = text.find(field);
+        if (at == std::string::npos) {
+            throw std::runtime_error(docs + "/improve.in.md has no place for " + field);
+        }
+        text.replace(at, field.size(), value);
+    }
+    WriteFile(docs + "/improve.md", text);
+}
+
+void Report(const std::string& docs, const char* packingFolder) {
+    std::vector<FlooringResult> all;
+    const std::string flooring = FlooringTable(all);
+    if (packingFolder == nullptr) {
+        std::cout << "TARN_STRIP_PACKING names no folder with the strip-packing sets: they are not "
+                     "measured, and "
+                  << docs << "/improve.md stays as it is.\n";
+        return;
+    }
+    const std::string packing = PackingTable(ReadPackingInstances(packingFolder));
+    std::cout << packing;
+    WritePage(docs, packing, flooring);
+    WriteFile(docs + "/images/improve.svg", ImprovePlot(all));
+}
+
+} // namespace
+
+} // namespace tarn
+
+int main(int argc, char* argv[]) {
+    try {
+        if (argc != 2 && argc != 3) {
+            throw std::runtime_error(
+                "usage: tarn_improve_report DOCS-FOLDER [STRIP-PACKING-FOLDER]");
+        }
+        tarn::Report(argv[1], argc == 3 ? argv[2] : std::getenv("TARN_STRIP_PACKING"));
+        return 0;
+    } catch (const std::exception& error) {
+        std::cerr << "tarn_improve_report: " << error.what() << '\n';
+        return 1;
+    }
+}
