@@ -81,6 +81,14 @@ int IndicatorStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
     }
 }
 
+int IndicatorStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                              QStyleHintReturn* returnData) const {
+    if (hint == SH_DialogButtonBox_ButtonsHaveIcons) {
+        return 0;
+    }
+    return QProxyStyle::styleHint(hint, option, widget, returnData);
+}
+
 void IndicatorStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,
                                    QPainter* painter, const QWidget* widget) const {
     if (element != PE_IndicatorRadioButton && element != PE_IndicatorCheckBox) {

@@ -63,14 +63,16 @@ QGroupBox[panel="true"]::title { subcontrol-origin: border; top: 135tw; }
 
 QPushButton { background: @Field; border: 2px solid @Border; border-radius: 75tw;
     padding: 45tw 210tw; min-height: 345tw; }
-QPushButton:hover { border-color: @Accent; }
+QPushButton:hover { background: @Window; }
 QPushButton:pressed { background: @Border; }
 QPushButton:disabled { color: @Disabled; background: @Surface; }
 QPushButton[primary="true"] { background: @Accent; color: @AccentText; border-color: @Accent;
     font-weight: 600; }
+QPushButton[primary="true"]:hover { background: @Accent; }
 QPushButton[primary="true"]:disabled { background: @Surface; color: @Disabled;
     border-color: @Border; }
-QPushButton:focus { border-color: @Text; }
+QPushButton:focus { border-color: @Accent; outline: none; }
+QPushButton[primary="true"]:focus { border-color: @Text; }
 
 QLineEdit, QComboBox, QPlainTextEdit, QListWidget { background: @Field; color: @Text;
     border: 2px solid @Border; border-radius: 60tw; selection-background-color: @Accent;
