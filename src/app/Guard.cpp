@@ -15,25 +15,40 @@ std::string Joined(const std::string& first, const std::string& second) {
 
 std::string MessageOf(const RunTimeError& error, const std::string& failure) {
     const std::string lineBreak(CrLf);
-    return "Run-time error '" + TrimStr(error.Number()) + "':" + lineBreak + lineBreak +
-           error.Text() + lineBreak + Joined(failure, error.Advice());
+    const std::string text = "Run-time error '" + TrimStr(error.Number()) + "':" + lineBreak +
+                             lineBreak + error.Text();
+    const std::string sentence = Joined(failure, error.Advice());
+    return sentence.empty() ? text : text + lineBreak + sentence;
+}
+
+/// The message about the exception that is being handled.
+std::string MessageOfCurrent(const std::string& failure) {
+    try {
+        throw;
+    } catch (const RunTimeError& error) {
+        return MessageOf(error, failure);
+    } catch (const std::exception& error) {
+        return Joined(failure, error.what());
+    } catch (...) {
+        return Joined(failure, "The reason is not known.");
+    }
 }
 
 } // namespace
 
 bool Guarded(Dialogs& boxes, const std::string& failure,
              const std::function<void()>& body) noexcept {
-    std::string message;
     try {
         body();
         return true;
-    } catch (const RunTimeError& error) {
-        message = MessageOf(error, failure);
-    } catch (const std::exception& error) {
-        message = Joined(failure, error.what());
+    } catch (...) {
+        try {
+            boxes.Message(MessageOfCurrent(failure));
+        } catch (...) {
+            // There is no other way to tell it.
+        }
+        return false;
     }
-    boxes.Message(message);
-    return false;
 }
 
 } // namespace tarn

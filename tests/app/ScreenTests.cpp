@@ -1,5 +1,6 @@
 #include "app/Controls.h"
 #include "app/Display.h"
+#include "app/Guard.h"
 #include "app/RunTimeError.h"
 #include "app/Screen.h"
 #include "app/ScreenWindow.h"
@@ -127,6 +128,23 @@ TEST_F(Guards, ShowTheCauseOfOtherFailures) {
     ShowOnDisplay(screen);
     Click(*screen.Button);
     EXPECT_EQ(boxes.Messages, std::vector<std::string>{"Nothing was done. The file is locked."});
+}
+
+TEST_F(Guards, EndARunTimeErrorWithoutMoreToSayWithItsText) {
+    EXPECT_FALSE(Guarded(boxes, {}, [] { RaiseOverflow(); }));
+    EXPECT_EQ(boxes.Messages, std::vector<std::string>{"Run-time error '6':\r\n\r\nOverflow"});
+}
+
+TEST_F(Guards, ShowWhatIsNoErrorOfTheProgramsOwn) {
+    EXPECT_FALSE(Guarded(boxes, "Nothing was done.", [] { throw 7; }));
+    EXPECT_EQ(boxes.Messages,
+              std::vector<std::string>{"Nothing was done. The reason is not known."});
+}
+
+TEST_F(Guards, LetNothingOutOfTheMessageItself) {
+    boxes.OnMessage = [] { throw std::bad_alloc(); };
+    EXPECT_FALSE(Guarded(boxes, "Nothing was done.", [] { throw DatabaseError("Locked."); }));
+    EXPECT_EQ(boxes.Messages, std::vector<std::string>{"Nothing was done. Locked."});
 }
 
 TEST_F(ScreenWindows, ReplaceCoverAndUncoverScreens) {
