@@ -15,8 +15,10 @@ class Dialogs {
     virtual void Message(const std::string& text) = 0;
     /// A question with Yes and No. No is the default; Escape and closing the box count as No.
     virtual bool AskYesNo(const std::string& text) = 0;
-    /// An input box. Nothing when it was cancelled.
-    virtual std::optional<std::string> Input(const std::string& prompt) = 0;
+    /// An input box, in which `initial` stands selected. Nothing when it was cancelled.
+    virtual std::optional<std::string> Input(const std::string& prompt,
+                                             const std::string& initial) = 0;
+    std::optional<std::string> Input(const std::string& prompt) { return Input(prompt, {}); }
     /// Where to write a file: a box that begins with `suggestedName` and shows files that end in
     /// `.suffix`, and asks before a file is replaced. The path ends in the suffix. Nothing when it
     /// was cancelled.

@@ -37,11 +37,13 @@ bool MessageBoxes::AskYesNo(const std::string& text) {
     return box.exec() == QMessageBox::Yes;
 }
 
-std::optional<std::string> MessageBoxes::Input(const std::string& prompt) {
+std::optional<std::string> MessageBoxes::Input(const std::string& prompt,
+                                               const std::string& initial) {
     QInputDialog box(parent_);
     box.setWindowTitle(ToQt(ApplicationTitle));
     box.setLabelText(ToQt(prompt));
     box.setInputMode(QInputDialog::TextInput);
+    box.setTextValue(ToQt(initial));
     if (box.exec() != QDialog::Accepted) {
         return std::nullopt;
     }

@@ -17,7 +17,8 @@ class MessageBoxes : public Dialogs {
 
     void Message(const std::string& text) override;
     bool AskYesNo(const std::string& text) override;
-    std::optional<std::string> Input(const std::string& prompt) override;
+    std::optional<std::string> Input(const std::string& prompt,
+                                     const std::string& initial) override;
     std::optional<std::string> SaveFileName(const std::string& suggestedName,
                                             const std::string& suffix) override;
 

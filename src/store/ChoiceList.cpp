@@ -31,6 +31,7 @@ void ChoiceList::SetEntries(const std::vector<std::string>& names) {
 void ChoiceList::Add(const std::string& name) {
     const QSignalBlocker quiet(this);
     addItem(ToQt(name));
+    scrollToItem(item(count() - 1));
 }
 
 void ChoiceList::SetEntry(int row, const std::string& name) {

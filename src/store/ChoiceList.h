@@ -24,6 +24,7 @@ class ChoiceList : public QListWidget {
 
     /// Replace all entries; none is chosen then.
     void SetEntries(const std::vector<std::string>& names);
+    /// Add an entry at the end and scroll to it.
     void Add(const std::string& name);
     void SetEntry(int row, const std::string& name);
     /// Remove an entry; none is chosen then.

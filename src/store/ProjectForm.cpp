@@ -21,25 +21,9 @@ namespace {
 constexpr double UsualDimScale = 0.01;
 
 constexpr const char* ListFailure = "The projects could not be listed.";
-
-/// Ask for a new name until it is one that `refusalOf` does not refuse. Nothing when the user gives
-/// up or the name stays the same.
-template <typename RefusalOf>
-std::optional<std::string> AskNewName(Dialogs& boxes, const std::string& prompt,
-                                      const std::string& oldName, RefusalOf refusalOf) {
-    for (;;) {
-        const auto answer = boxes.Input(prompt);
-        const std::string name = StoredName(answer.value_or(std::string()));
-        if (name.empty() || name == StoredName(oldName)) {
-            return std::nullopt;
-        }
-        const std::optional<std::string> refusal = refusalOf(name);
-        if (!refusal) {
-            return name;
-        }
-        boxes.Message(*refusal);
-    }
-}
+constexpr const char* MakeDirectoryFailure = "The directory could not be made.";
+constexpr const char* RenameDirectoryFailure = "The directory could not be renamed.";
+constexpr const char* RenameProjectFailure = "The project could not be renamed.";
 
 /// The row that takes the place of a removed one; -1 in an empty list.
 int NeighbourOf(int removed, const ChoiceList& list) {
@@ -75,7 +59,7 @@ void ProjectForm::ConnectLists() {
     };
     directories.OnChosen = [this] { Guard(ListFailure, [this] { DirectoryChosen(Directories); }); };
     directories.OnDoubleClick = [this] {
-        Guard("The directory could not be renamed.", [this] { AskDirectoryName(); });
+        Guard(RenameDirectoryFailure, [this] { AskDirectoryName(); });
     };
     directories.OnDelete = [this] {
         Guard("The directory could not be deleted.", [this] { AskDeleteDirectory(); });
@@ -84,9 +68,7 @@ void ProjectForm::ConnectLists() {
     projects.OnChosen = [this] {
         Guard("The project could not be selected.", [this] { ProjectChosen(); });
     };
-    projects.OnDoubleClick = [this] {
-        Guard("The project could not be renamed.", [this] { AskProjectName(); });
-    };
+    projects.OnDoubleClick = [this] { Guard(RenameProjectFailure, [this] { AskProjectName(); }); };
     projects.OnDelete = [this] {
         Guard("The project could not be deleted.", [this] { AskDeleteProject(); });
     };
@@ -96,7 +78,7 @@ void ProjectForm::ConnectSelection() {
     frame5_->Text1->OnTaken = [this] { Guard(ListFailure, [this] { BoxTaken(); }); };
     frame5_->Text1->OnLeftOut = [this] { Guard({}, [this] { TellLeftOut(); }); };
     OnClick(*frame5_->Command1, ListFailure, [this] { NewProject(); });
-    OnClick(*frame5_->Command7, "The directory could not be made.", [this] { NewDirectory(); });
+    OnClick(*frame5_->Command7, MakeDirectoryFailure, [this] { NewDirectory(); });
     OnClick(*frame5_->Command5, "The project could not be selected.", [this] { Done(); });
     OnClick(*frame5_->Command6, {}, [this] { CloseSelection(); });
 }
@@ -232,47 +214,79 @@ void ProjectForm::TellLeftOut() {
     Shared().Boxes.Message(std::string(ForbiddenCharactersMessage));
 }
 
+void ProjectForm::AskName(const std::string& prompt, const std::string& failure,
+                          const TakeName& take) {
+    std::string typed;
+    bool taken = false;
+    while (!taken) {
+        const auto answer = Shared().Boxes.Input(prompt, typed);
+        const std::string name = StoredName(answer.value_or(std::string()));
+        if (name.empty()) {
+            return;
+        }
+        typed = *answer;
+        Guard(failure, [&] {
+            const std::optional<std::string> refusal = take(name);
+            taken = !refusal;
+            if (refusal) {
+                Shared().Boxes.Message(*refusal);
+            }
+        });
+    }
+}
+
 void ProjectForm::NewDirectory() {
-    const auto answer = Shared().Boxes.Input("Enter the new directory name");
-    const std::string name = StoredName(answer.value_or(std::string()));
-    if (name.empty() || IsDirectoryTaken(State(), name)) {
-        return;
-    }
-    if (!AddDirectory(State(), name)) {
-        throw DatabaseError(State().DatabaseFailure);
-    }
-    frame5_->List1[Directories]->Add(name);
+    AskName("Enter the new directory name", MakeDirectoryFailure,
+            [this](const std::string& name) -> std::optional<std::string> {
+                if (IsDirectoryTaken(State(), name)) {
+                    return std::nullopt; // there it is
+                }
+                if (!AddDirectory(State(), name)) {
+                    throw DatabaseError(State().DatabaseFailure);
+                }
+                frame5_->List1[Directories]->Add(name);
+                return std::nullopt;
+            });
 }
 
 void ProjectForm::AskDirectoryName() {
     ChoiceList& list = *frame5_->List1[Directories];
     const std::string oldName = list.ChosenName().value();
-    const auto newName =
-        AskNewName(Shared().Boxes, "Enter the new name you want to change to:", oldName,
-                   [this](const std::string& name) { return DirectoryNameRefusal(State(), name); });
-    if (newName) {
-        RenameDirectory(State(), oldName, *newName);
-        list.SetEntry(list.Chosen(), *newName);
-        ShowSettings();
-    }
+    AskName("Enter the new name you want to change to:", RenameDirectoryFailure,
+            [&](const std::string& name) -> std::optional<std::string> {
+                if (name == StoredName(oldName)) {
+                    return std::nullopt;
+                }
+                if (auto refusal = DirectoryNameRefusal(State(), name)) {
+                    return refusal;
+                }
+                RenameDirectory(State(), oldName, name);
+                list.SetEntry(list.Chosen(), name);
+                ShowSettings();
+                return std::nullopt;
+            });
 }
 
 void ProjectForm::AskProjectName() {
     ChoiceList& list = *frame5_->List2;
     const std::string oldName = list.ChosenName().value();
-    const auto newName =
-        AskNewName(Shared().Boxes, "Enter the new project name you want to change to:", oldName,
-                   [this](const std::string& name) { return ProjectNameRefusal(State(), name); });
-    if (!newName) {
-        return;
-    }
-    RenameProject(State(), oldName, *newName);
-    list.SetEntry(list.Chosen(), *newName);
-    ProjectBox& box = *frame5_->Text1;
-    if (box.IsLocked() && StoredName(box.Name()) == StoredName(oldName)) {
-        box.SetName(*newName);
-    }
-    ShowSettings();
+    AskName("Enter the new project name you want to change to:", RenameProjectFailure,
+            [&](const std::string& name) -> std::optional<std::string> {
+                if (name == StoredName(oldName)) {
+                    return std::nullopt;
+                }
+                if (auto refusal = ProjectNameRefusal(State(), name)) {
+                    return refusal;
+                }
+                RenameProject(State(), oldName, name);
+                list.SetEntry(list.Chosen(), name);
+                ProjectBox& box = *frame5_->Text1;
+                if (box.IsLocked() && StoredName(box.Name()) == StoredName(oldName)) {
+                    box.SetName(name);
+                }
+                ShowSettings();
+                return std::nullopt;
+            });
 }
 
 void ProjectForm::AskDeleteDirectory() {

@@ -2,6 +2,7 @@
 
 #include "app/TitledScreen.h"
 
+#include <functional>
 #include <optional>
 #include <string>
 
@@ -45,6 +46,11 @@ class ProjectForm : public TitledScreen {
     void Unlock();
     void TellLeftOut();
 
+    /// Takes a name; why it refuses it, if it does. May raise.
+    using TakeName = std::function<std::optional<std::string>(const std::string& name)>;
+    /// Ask for a name until it is taken or the user gives up. After a refusal or a failure, of
+    /// which a message tells, the box comes back with what was typed.
+    void AskName(const std::string& prompt, const std::string& failure, const TakeName& take);
     void NewDirectory();
     void AskDirectoryName();
     void AskProjectName();

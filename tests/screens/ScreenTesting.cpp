@@ -26,8 +26,9 @@ bool FakeBoxes::AskYesNo(const std::string& text) {
     return answer;
 }
 
-std::optional<std::string> FakeBoxes::Input(const std::string& prompt) {
+std::optional<std::string> FakeBoxes::Input(const std::string& prompt, const std::string& initial) {
     Prompts.push_back(prompt);
+    InitialTexts.push_back(initial);
     if (Inputs.empty()) {
         ADD_FAILURE() << "asked without an answer: " << prompt;
         return std::nullopt;

@@ -28,6 +28,7 @@ struct FakeBoxes : Dialogs {
     std::vector<std::string> Messages;
     std::vector<std::string> Questions;
     std::vector<std::string> Prompts;
+    std::vector<std::string> InitialTexts; ///< of the input boxes, one for each prompt
     std::vector<std::string> SuggestedFiles;
     std::deque<bool> YesNo;
     std::deque<std::optional<std::string>> Inputs;
@@ -37,7 +38,8 @@ struct FakeBoxes : Dialogs {
 
     void Message(const std::string& text) override;
     bool AskYesNo(const std::string& text) override;
-    std::optional<std::string> Input(const std::string& prompt) override;
+    std::optional<std::string> Input(const std::string& prompt,
+                                     const std::string& initial) override;
     std::optional<std::string> SaveFileName(const std::string& suggestedName,
                                             const std::string& suffix) override;
 };

@@ -7,9 +7,10 @@ namespace {
 using namespace tarn::testing;
 
 struct NewDirectories : ProjectFormTest {
-    void Answer(std::optional<std::string> answer) {
-        boxes.Inputs.push_back(std::move(answer));
+    void Answer(std::initializer_list<std::optional<std::string>> answers) {
+        boxes.Inputs.assign(answers);
         Click(Button("Command7"));
+        EXPECT_TRUE(boxes.Inputs.empty()) << "every answer is asked for";
         EXPECT_EQ(boxes.Prompts.back(), "Enter the new directory name");
     }
 };
@@ -27,7 +28,7 @@ struct Deleting : ProjectFormTest {};
 
 TEST_F(NewDirectories, AreAddedInUpperCaseWithoutBlanks) {
     Open();
-    Answer("  barns ");
+    Answer({"  barns "});
     EXPECT_EQ(Entries(Directories()), (Lines{"HOUSES", "SHOPS", "BARNS"}));
     EXPECT_EQ(file.Rows("SELECT * FROM DirTab WHERE Directory NOT IN ('HOUSES', 'SHOPS')"),
               Lines{"BARNS"});
@@ -40,7 +41,7 @@ TEST_F(NewDirectories, DoNothingForNoAnswerATakenNameOrAMonth) {
     const Lines before = Stored();
     for (const auto& answer : std::vector<std::optional<std::string>>{
              std::nullopt, "", "   ", "houses", " SHOPS ", "december", "JANUARY"}) {
-        Answer(answer);
+        Answer({answer});
     }
     EXPECT_EQ(Entries(Directories()), (Lines{"HOUSES", "SHOPS"}));
     EXPECT_EQ(Stored(), before);
@@ -50,14 +51,41 @@ TEST_F(NewDirectories, DoNothingForNoAnswerATakenNameOrAMonth) {
 TEST_F(NewDirectories, SayWhyTheyCannotBeMade) {
     Open();
     const std::string tooLong(65, 'A');
-    Answer(tooLong);
+    Answer({tooLong, std::nullopt});
+    EXPECT_EQ(boxes.InitialTexts, (Lines{"", tooLong})) << "what was typed comes back";
     EXPECT_EQ(boxes.Messages, Lines{"The directory could not be made. The directory name " +
                                     tooLong + " has more than 64 characters."});
     EXPECT_EQ(Entries(Directories()), (Lines{"HOUSES", "SHOPS"}));
 }
 
+TEST_F(NewDirectories, AreAskedForAgainUntilTheyCanBeMade) {
+    Open();
+    RawDatabase other(file.Path());
+    other.Run("BEGIN IMMEDIATE");
+    boxes.OnMessage = [&] {
+        if (boxes.Messages.size() == 2) {
+            other.Run("ROLLBACK");
+        }
+    };
+    Answer({" barns", " barns", " barns"});
+    EXPECT_EQ(boxes.Messages.size(), 2U);
+    EXPECT_EQ(boxes.InitialTexts, (Lines{"", " barns", " barns"}));
+    EXPECT_EQ(Entries(Directories()), (Lines{"HOUSES", "SHOPS", "BARNS"}));
+}
+
+TEST_F(NewDirectories, AreScrolledTo) {
+    for (int i = 0; i < 40; ++i) {
+        file.AddDirectory("D" + std::to_string(i));
+    }
+    Open();
+    Answer({"zoo"});
+    QListWidget& list = Directories();
+    EXPECT_TRUE(list.viewport()->rect().contains(list.visualItemRect(list.item(42))));
+}
+
 TEST_F(Renaming, ADirectoryMovesItsProjects) {
     state.CurDirName = "HOUSES";
+    state.CurProjName = "VILLA";
     Open();
     Rename(Directories(), "HOUSES", {" homes "});
     EXPECT_EQ(boxes.Prompts, Lines{"Enter the new name you want to change to:"});
@@ -68,6 +96,7 @@ TEST_F(Renaming, ADirectoryMovesItsProjects) {
               (Lines{"VILLA", "TOWER"}));
     EXPECT_EQ(state.CurDirName, "HOMES");
     EXPECT_EQ(Label("Label1(0)"), "DIRECTORY:HOMES");
+    EXPECT_EQ(Label("Label1(1)"), "PROJECT:VILLA");
     ClickEntry(Directories(), "HOMES");
     EXPECT_EQ(Entries(Projects()), (Lines{"VILLA", "TOWER"}));
 }
@@ -77,6 +106,7 @@ TEST_F(Renaming, AsksAgainForATakenDirectory) {
     Rename(Directories(), "HOUSES", {"shops", "May", "HOMES"});
     const std::string taken = "There is one directory with the same name, change to other one!";
     EXPECT_EQ(boxes.Messages, (Lines{taken, taken}));
+    EXPECT_EQ(boxes.InitialTexts, (Lines{"", "shops", "May"}));
     EXPECT_EQ(Entries(Directories()), (Lines{"HOMES", "SHOPS"}));
 }
 
@@ -129,6 +159,7 @@ TEST_F(Renaming, AsksAgainForAProjectNameThatIsForbiddenTakenOrTooLong) {
         (Lines{std::string(ForbiddenCharactersMessage), std::string(ForbiddenCharactersMessage),
                "There is one project with the same name, change to other one!",
                "The project name " + tooLong + " has more than 64 characters."}));
+    EXPECT_EQ(boxes.InitialTexts, (Lines{"", "A?", "A\"", "cabin", tooLong}));
     EXPECT_EQ(Entries(Projects()), (Lines{"ANNEX", "SHED"}));
 }
 
@@ -142,11 +173,23 @@ TEST_F(Renaming, IsNoBusinessOfMonthsAndEmptyPlaces) {
     EXPECT_TRUE(boxes.Prompts.empty()) << "nothing is asked";
 }
 
+TEST_F(Renaming, IsNoBusinessOfAnEntryThatWasNotSelected) {
+    Open();
+    ClickEntry(Directories(), "SHOPS");
+    QTest::mouseDClick(Directories().viewport(), Qt::LeftButton, {},
+                       PlaceOf(Directories(), "HOUSES"));
+    ClickEntry(Directories(), "HOUSES");
+    ClickEntry(Projects(), "TOWER");
+    QTest::mouseDClick(Projects().viewport(), Qt::LeftButton, {}, PlaceOf(Projects(), "VILLA"));
+    EXPECT_TRUE(boxes.Prompts.empty()) << "nothing is asked";
+}
+
 TEST_F(Renaming, ADirectoryWithADoubleQuoteFailsAndChangesNothing) {
     file.AddDirectory("A\"B");
     Open();
     const Lines before = Stored();
-    Rename(Directories(), "A\"B", {"AB"});
+    Rename(Directories(), "A\"B", {"AB", std::nullopt});
+    EXPECT_EQ(boxes.InitialTexts, (Lines{"", "AB"}));
     ASSERT_EQ(boxes.Messages.size(), 1U);
     EXPECT_EQ(boxes.Messages[0].rfind("The directory could not be renamed. ", 0), 0U)
         << boxes.Messages[0];
@@ -262,6 +305,25 @@ TEST_F(Deleting, AProjectLeavesANameBeingTyped) {
     EXPECT_EQ(Selected(Projects()), "BARN");
     EXPECT_EQ(BoxText(), "HUT");
     EXPECT_FALSE(Box().isReadOnly());
+}
+
+TEST_F(Deleting, AKeyHeldDownAsksOnce) {
+    Open();
+    boxes.YesNo = {true, true, true};
+    const auto hold = [](QListWidget& list) {
+        for (const bool repeated : {false, true, true}) {
+            QKeyEvent press(QEvent::KeyPress, Qt::Key_Delete, Qt::NoModifier, {}, repeated);
+            QApplication::sendEvent(&list, &press);
+        }
+    };
+    ClickEntry(Projects(), "ANNEX");
+    hold(Projects());
+    EXPECT_EQ(boxes.Questions.size(), 1U);
+    EXPECT_EQ(Entries(Projects()), Lines{"BARN"});
+    ClickEntry(Directories(), "HOUSES");
+    hold(Directories());
+    EXPECT_EQ(boxes.Questions.size(), 2U);
+    EXPECT_EQ(Entries(Directories()), Lines{"SHOPS"});
 }
 
 TEST_F(Deleting, NothingHappensForMonthsAndWithoutASelection) {

@@ -133,15 +133,16 @@ TEST_F(FailingProjects, ALockedDatabaseKeepsDirectoriesAndProjectsAsTheyAre) {
     RawDatabase other(file.Path());
     other.Run("BEGIN IMMEDIATE");
 
-    boxes.Inputs = {"BARNS"};
+    boxes.Inputs = {"BARNS", std::nullopt};
     Click(Button("Command7"));
     ExpectMessage("The directory could not be made.", "another program");
-    boxes.Inputs = {"HOMES"};
+    boxes.Inputs = {"HOMES", std::nullopt};
     DoubleClickEntry(Directories(), "HOUSES");
     ExpectMessage("The directory could not be renamed.", "another program");
-    boxes.Inputs = {"MANOR"};
+    boxes.Inputs = {"MANOR", std::nullopt};
     DoubleClickEntry(Projects(), "VILLA");
     ExpectMessage("The project could not be renamed.", "another program");
+    EXPECT_EQ(boxes.InitialTexts, (Lines{"", "BARNS", "", "HOMES", "", "MANOR"}));
     DeleteEntry(Projects(), "VILLA");
     ExpectMessage("The project could not be deleted.", "another program");
     EXPECT_EQ(Selected(Projects()), "VILLA");
