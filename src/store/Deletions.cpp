@@ -21,6 +21,12 @@ void DeleteSheetsOf(SharedState& state, const std::string& query) {
     }
 }
 
+/// Raise DatabaseError when the database takes no change. Every table of every sheet would wait for
+/// another program's lock on its own.
+void RequireWritable(SharedState& state) {
+    const Transaction probe(OpenedDatabase(state));
+}
+
 void DeleteRowsOf(SharedState& state, const std::string& query) {
     DeleteAllRows(*OpenedDatabase(state).OpenDynaset(query));
 }
@@ -48,6 +54,7 @@ bool DeleteProjData(SharedState& state, Integer tabIndex) {
 
 bool DeleteDirData(SharedState& state, const std::string& name) {
     return Succeeds(state, [&] {
+        RequireWritable(state);
         const std::string sheets(MainTab);
         const std::string projects(ProjTab);
         DeleteSheetsOf(state, "Select * from " + sheets + ", " + projects + " where " + sheets +
@@ -58,11 +65,16 @@ bool DeleteDirData(SharedState& state, const std::string& name) {
 }
 
 bool DeleteProjectData(SharedState& state, const std::string& name) {
-    return Succeeds(state, [&] {
+    const bool deleted = Succeeds(state, [&] {
+        RequireWritable(state);
         DeleteSheetsOf(state, TextQuery(MainTab, "ProjName", name));
         DeleteRowsOf(state, TextQuery(ProjTab, "ProjName", name));
-        ReopenRows(state, SharedRows::Projects);
     });
+    if (deleted) {
+        // Rows that do not reopen now do so when they are read next, or say then why not.
+        Succeeds(state, [&] { ReopenRows(state, SharedRows::Projects); });
+    }
+    return deleted;
 }
 
 } // namespace tarn

@@ -22,10 +22,12 @@ bool DeleteProjData(SharedState& state, Integer tabIndex);
 
 /// Delete a directory, its projects and all their data. False, with the cause in DatabaseFailure,
 /// at the first of its own queries that fails; a name with a double quote makes the first one fail.
+/// A database that takes no change fails at once, after one wait.
 /// Raises "Overflow" for a sheet number past 32767.
 bool DeleteDirData(SharedState& state, const std::string& name);
 
-/// Delete a project and all its data, and reopen the shared project rows. Fails as DeleteDirData.
+/// Delete a project and all its data, and reopen the shared project rows, where a failure counts
+/// only when they are read next. Fails as DeleteDirData.
 bool DeleteProjectData(SharedState& state, const std::string& name);
 
 } // namespace tarn

@@ -23,6 +23,26 @@ bool IsSameName(const std::string& a, const std::string& b) {
     return StoredName(a) == StoredName(b);
 }
 
+/// After a deletion that failed half-way: let the current project go if its row did.
+void ForgetMissingProject(SharedState& state) noexcept {
+    try {
+        if (!DirectoryOf(state, state.CurProjName)) {
+            state.CurProjName.clear();
+        }
+    } catch (const std::exception&) {
+        // Whether it is gone cannot be told: it stays.
+    }
+}
+
+/// Require, and ForgetMissingProject when it was False.
+void RequireDeleted(bool succeeded, SharedState& state) {
+    if (!succeeded) {
+        const std::string failure = state.DatabaseFailure;
+        ForgetMissingProject(state);
+        throw DatabaseError(failure);
+    }
+}
+
 ChoiceResult Refusal(std::string message) {
     return {Outcome::Refused, std::move(message)};
 }
@@ -79,7 +99,7 @@ void RenameProject(SharedState& state, const std::string& oldName, const std::st
 
 void DeleteDirectory(SharedState& state, const std::string& name, const std::string& month) {
     const auto holder = DirectoryOf(state, state.CurProjName);
-    Require(DeleteDirData(state, name), state);
+    RequireDeleted(DeleteDirData(state, name), state);
     if (holder && IsSameName(*holder, name)) {
         state.CurProjName.clear();
     }
@@ -89,7 +109,7 @@ void DeleteDirectory(SharedState& state, const std::string& name, const std::str
 }
 
 void DeleteProject(SharedState& state, const std::string& name) {
-    Require(DeleteProjectData(state, name), state);
+    RequireDeleted(DeleteProjectData(state, name), state);
     if (IsSameName(state.CurProjName, name)) {
         state.CurProjName.clear();
     }

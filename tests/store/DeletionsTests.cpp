@@ -15,6 +15,35 @@ using testing::TestDatabase;
 
 using Lines = std::vector<std::string>;
 
+/// Records the queries, and refuses one of them.
+struct WatchedDatabase : Database {
+    explicit WatchedDatabase(std::unique_ptr<Database> inner)
+        : Inner(std::move(inner)) {}
+
+    std::unique_ptr<Recordset> OpenDynaset(std::string_view query) override {
+        Record(query);
+        return Inner->OpenDynaset(query);
+    }
+    std::unique_ptr<Recordset> OpenSnapshot(std::string_view query) override {
+        Record(query);
+        return Inner->OpenSnapshot(query);
+    }
+    void Begin() override { Inner->Begin(); }
+    void Commit() override { Inner->Commit(); }
+    void Rollback() noexcept override { Inner->Rollback(); }
+
+    void Record(std::string_view query) {
+        Queries.emplace_back(query);
+        if (query == Failing) {
+            throw DatabaseError("Not now.");
+        }
+    }
+
+    std::unique_ptr<Database> Inner;
+    Lines Queries;
+    std::string Failing;
+};
+
 class Deletions : public ::testing::Test {
   protected:
     Deletions() {
@@ -212,6 +241,38 @@ TEST_F(Deletions, StopAtTheFirstQueryThatFailsAndSayWhy) {
     state_.DatabaseFailure.clear();
     EXPECT_FALSE(DeleteProjectData(state_, "KEPT"));
     EXPECT_EQ(state_.DatabaseFailure, "ProjTab cannot be deleted from: stop.");
+}
+
+TEST_F(Deletions, WaitForALockOnceAndBeforeTheFirstRow) {
+    AddFullProject("KEEP", "OTHER", 5);
+    RawDatabase other(file_.Path());
+    other.Run("BEGIN IMMEDIATE");
+    auto counting = std::make_unique<WatchedDatabase>(std::move(state_.CurDB));
+    const WatchedDatabase& watched = *counting;
+    state_.CurDB = std::move(counting);
+    EXPECT_FALSE(DeleteDirData(state_, "KEEP"));
+    EXPECT_NE(state_.DatabaseFailure.find("another program"), std::string::npos);
+    EXPECT_FALSE(DeleteProjectData(state_, "OTHER"));
+    EXPECT_NE(state_.DatabaseFailure.find("another program"), std::string::npos);
+    EXPECT_EQ(watched.Queries, Lines{}) << "no table is asked for";
+    other.Run("ROLLBACK");
+    EXPECT_TRUE(DeleteProjectData(state_, "OTHER")) << state_.DatabaseFailure;
+    EXPECT_EQ(NumbersInUse(), EveryTableHolds(" 2"));
+}
+
+TEST_F(Deletions, AProjectIsDeletedWhetherTheSharedRowsReopenOrNot) {
+    AddFullProject("KEEP", "GONE", 5);
+    auto failing = std::make_unique<WatchedDatabase>(std::move(state_.CurDB));
+    WatchedDatabase& watched = *failing;
+    state_.CurDB = std::move(failing);
+    watched.Failing = "SELECT * from ProjTab";
+    EXPECT_TRUE(DeleteProjectData(state_, "GONE")) << state_.DatabaseFailure;
+    EXPECT_EQ(watched.Queries.back(), watched.Failing);
+    EXPECT_EQ(NumbersInUse(), EveryTableHolds(" 2"));
+    EXPECT_EQ(file_.Rows("SELECT ProjName FROM ProjTab"), Lines{"KEPT"});
+    watched.Failing.clear();
+    EXPECT_EQ(RowsOf(state_, SharedRows::Projects).Field("ProjName"),
+              FieldValue(std::string("KEPT")));
 }
 
 TEST_F(Deletions, ASheetWithoutANumberStopsTheDeletion) {

@@ -140,6 +140,19 @@ TEST_F(ProjectChoices, DeletionsOfOthersLeaveTheCurrentNames) {
     EXPECT_EQ(file.Rows("SELECT * FROM ProjTab"), Lines{});
 }
 
+TEST_F(ProjectChoices, ACurrentProjectGoesWithItsRowWhenADeletionFailsHalfWay) {
+    state.CurDirName = "HOUSES";
+    state.CurProjName = "VILLA";
+    file.Run("CREATE TRIGGER Stop BEFORE DELETE ON DirTab BEGIN SELECT RAISE(ABORT, 'stop'); END");
+    EXPECT_EQ(DatabaseErrorOf([&] { DeleteDirectory(state, "HOUSES", "JULY"); }),
+              "DirTab cannot be deleted from: stop.");
+    ASSERT_EQ(file.Rows("SELECT ProjName FROM ProjTab"), Lines{"CABIN"});
+    ExpectCurrent("HOUSES", "");
+    state.CurProjName = "CABIN";
+    EXPECT_THROW(DeleteDirectory(state, "HOUSES", "JULY"), DatabaseError);
+    ExpectCurrent("HOUSES", "CABIN");
+}
+
 TEST_F(ProjectChoices, FailedChangesLeaveTheCurrentNames) {
     file.AddDirectory("A\"B");
     state.CurDirName = "A\"B";
