@@ -125,8 +125,7 @@ void MenuForm::EnterData() {
 }
 
 void MenuForm::GoBack() {
-    Shared().Go.ShowProjects();
-    DropOpenProject(State(), Shared().Project);
+    Shared().Go.ShowProjects(); // which drops the rooms
 }
 
 void MenuForm::Estimate() {

@@ -36,14 +36,15 @@ ProjectForm::ProjectForm(Session& session)
     : TitledScreen(session, QStringLiteral("ProjectForm"), "*PROJECT SELECTION*")
     , frame1_(new SettingsPanel)
     , frame5_(new SelectionPanel) {
-    DropOpenProject(State(), Shared().Project);
-    State().DimScale = UsualDimScale;
     AddPanel(*frame1_);
     AddPanel(*frame5_);
     ConnectSettings();
     ConnectLists();
     ConnectSelection();
     ShowSettings();
+    // Last: when this screen cannot be made, the one in front keeps its rooms.
+    DropOpenProject(State(), Shared().Project);
+    State().DimScale = UsualDimScale;
 }
 
 void ProjectForm::ConnectSettings() {
@@ -93,6 +94,16 @@ void ProjectForm::OnCloseByFrame() {
 
 void ProjectForm::ShowSettings() {
     frame1_->Show(State().CurDirName, State().CurProjName);
+}
+
+void ProjectForm::ShowSettingsAfter(const std::function<void()>& change) {
+    try {
+        change();
+    } catch (...) {
+        ShowSettings();
+        throw;
+    }
+    ShowSettings();
 }
 
 std::string ProjectForm::CurrentMonth() const {
@@ -297,8 +308,7 @@ void ProjectForm::AskDeleteDirectory() {
     }
     ChoiceList& list = *frame5_->List1[Directories];
     const int row = list.Chosen();
-    DeleteDirectory(State(), list.ChosenName().value(), CurrentMonth());
-    ShowSettings();
+    ShowSettingsAfter([&] { DeleteDirectory(State(), list.ChosenName().value(), CurrentMonth()); });
     list.Remove(row);
     shownRow_ = -1;
     frame5_->List2->SetEntries({});
@@ -319,8 +329,7 @@ void ProjectForm::AskDeleteProject() {
     }
     ChoiceList& list = *frame5_->List2;
     const int row = list.Chosen();
-    DeleteProject(State(), list.ChosenName().value());
-    ShowSettings();
+    ShowSettingsAfter([&] { DeleteProject(State(), list.ChosenName().value()); });
     list.Remove(row);
     const int neighbour = NeighbourOf(row, list);
     if (neighbour >= 0) {

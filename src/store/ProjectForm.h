@@ -57,6 +57,8 @@ class ProjectForm : public TitledScreen {
     void AskDeleteDirectory();
     void AskDeleteProject();
     void ShowSettings();
+    /// Show the settings as `change` left them, also when it raises.
+    void ShowSettingsAfter(const std::function<void()>& change);
 
     SettingsPanel* frame1_;
     SelectionPanel* frame5_;

@@ -112,6 +112,41 @@ TEST_F(MenuForms, SayThatTheRoomsWereEnteredInMetric) {
     EXPECT_FALSE(Shows("EnteredMetric"));
 }
 
+TEST_F(MenuForms, SayItBesideTheCheckBoxAlsoOfChangedRooms) {
+    file.Run("UPDATE MainTab SET EnteredMetric = 1");
+    Load();
+    state.RoomWidth[0] = 7; // a stored room, changed and not saved
+    Load(MenuEntry::Returning);
+    EXPECT_TRUE(Shows("NotSaved"));
+    ASSERT_TRUE(Shows("EnteredMetric"));
+    const auto placeOf = [this](const char* name) {
+        const QWidget& widget = Find(*menu, name);
+        return QRect(widget.mapTo(menu.get(), QPoint(0, 0)), widget.size());
+    };
+    const QRect label = placeOf("EnteredMetric");
+    const QRect box = placeOf("Check1");
+    EXPECT_GT(label.left(), box.right());
+    EXPECT_LT(label.left() - box.right(), Pixels(600));
+    EXPECT_NEAR(label.center().y(), box.center().y(), 3);
+}
+
+TEST_F(MenuForms, OpenAnExistingProjectWithoutASheet) {
+    file.Run("INSERT INTO ProjTab VALUES ('MARCH', 'BARE', 0)");
+    state.CurProjName = "BARE";
+    Load();
+    EXPECT_TRUE(boxes.Messages.empty());
+    EXPECT_TRUE(Button(Estimate).isVisible());
+    EXPECT_TRUE(Button(Estimate).isEnabled());
+    EXPECT_FALSE(Shows("NotSaved"));
+    EXPECT_EQ(state.ObjNum, 0);
+    Click(Button(Estimate));
+    EXPECT_TRUE(screens.Calls.empty()) << "there is no carpet";
+    Click(Button(EnterData));
+    EXPECT_EQ(screens.Calls, Lines{"rooms"});
+    EXPECT_EQ(state.CurTabIndex, 9);
+    EXPECT_TRUE(state.NewSheetFlag);
+}
+
 TEST_F(MenuForms, SayInWhichUnitsUnsavedRoomsWereTyped) {
     Load();
     state.RoomWidth[0] = 7;
@@ -180,14 +215,12 @@ TEST_F(MenuForms, StayWhenTheSheetNumberCannotBeRead) {
     EXPECT_EQ(state.ObjNum, 3);
 }
 
-TEST_F(MenuForms, GoBackwardAndDropTheRooms) {
+TEST_F(MenuForms, GoBackwardWithoutStoringTheRooms) {
     Load();
     state.RoomWidth[0] = 7;
     Click(Button(Backward));
     EXPECT_EQ(screens.Calls, Lines{"projects"});
-    EXPECT_EQ(state.ObjNum, 0);
-    EXPECT_EQ(state.RoomWidth[0], 0);
-    EXPECT_FALSE(HasUnsavedRooms(state, project));
+    EXPECT_EQ(state.RoomWidth[0], 7) << "the project selection drops them";
     EXPECT_TRUE(boxes.Questions.empty()) << "nothing is asked";
     EXPECT_EQ(file.Rows("SELECT RoomW FROM InputData WHERE TabIndex = 5 ORDER BY ObjNum"),
               (Lines{"100", "101", "102"}));
@@ -245,6 +278,9 @@ TEST_F(MenuForms, EndTheProgramByTheMenuTheKeyAndTheFrame) {
     menu->setEnabled(false);
     menu->CloseByFrame();
     EXPECT_EQ(screens.Calls.size(), 3U);
+    EXPECT_EQ(file.Rows("SELECT RoomW FROM InputData WHERE TabIndex = 5 ORDER BY ObjNum"),
+              (Lines{"100", "101", "102"}))
+        << "nothing is stored";
 }
 
 TEST_F(MenuForms, CloseTheWayToAProjectThatCannotBeLoaded) {

@@ -158,6 +158,16 @@ TEST_F(FailingProjects, ALockedDatabaseKeepsDirectoriesAndProjectsAsTheyAre) {
     EXPECT_EQ(state.CurDirName, "MARCH");
 }
 
+TEST_F(FailingProjects, ADeletionThatFailsHalfWayTakesTheLabelOfAProjectThatIsGone) {
+    state.CurProjName = "VILLA";
+    file.Run("CREATE TRIGGER Stop BEFORE DELETE ON DirTab BEGIN SELECT RAISE(ABORT, 'stop'); END");
+    Open();
+    DeleteEntry(Directories(), "HOUSES");
+    ExpectMessage("The directory could not be deleted.", "stop");
+    EXPECT_EQ(Label("Label1(1)"), "No Project Selected");
+    EXPECT_EQ(Selected(Directories()), "HOUSES");
+}
+
 TEST_F(FailingProjects, ASheetNumberThatDoesNotFitIsARunTimeError) {
     file.AddProject("SHOPS", "STALL", 40000);
     Open();
