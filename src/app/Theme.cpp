@@ -85,7 +85,7 @@ QPlainTextEdit { font-size: @ListingFontpt; }
 QComboBox::drop-down { border: none; width: 360tw; }
 QComboBox::down-arrow { width: 0; height: 0; border-top: 90tw solid @Muted;
     border-left: 75tw solid @Field; border-right: 75tw solid @Field; }
-QLineEdit[readOnly="true"] { background: @Surface; }
+QLineEdit:read-only { background: @Window; color: @Muted; }
 QListWidget::item { padding: 15tw 75tw; border: none; color: @Text; }
 QListWidget::item:selected { background: @Accent; color: @AccentText; }
 QComboBox QAbstractItemView { background: @Field; color: @Text;

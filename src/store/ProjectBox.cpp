@@ -42,9 +42,33 @@ void ProjectBox::SetName(std::string_view name) {
 }
 
 void ProjectBox::focusInEvent(QFocusEvent* event) {
+    justUnlocked_ = false;
     QLineEdit::focusInEvent(event);
-    if (event->reason() == Qt::MouseFocusReason && OnTaken) {
+    if (event->reason() == Qt::MouseFocusReason) {
+        TakeByMouse();
+    }
+}
+
+void ProjectBox::TakeByMouse() {
+    const bool wasLocked = IsLocked();
+    if (OnTaken) {
         OnTaken();
+    }
+    justUnlocked_ = wasLocked && !IsLocked();
+}
+
+void ProjectBox::mousePressEvent(QMouseEvent* event) {
+    if (event->button() == Qt::LeftButton && IsLocked() && hasFocus()) {
+        TakeByMouse();
+    }
+    if (!justUnlocked_ || event->button() != Qt::LeftButton) {
+        QLineEdit::mousePressEvent(event);
+    }
+}
+
+void ProjectBox::mouseMoveEvent(QMouseEvent* event) {
+    if (!justUnlocked_) {
+        QLineEdit::mouseMoveEvent(event);
     }
 }
 
@@ -73,6 +97,7 @@ void ProjectBox::inputMethodEvent(QInputMethodEvent* event) {
 }
 
 void ProjectBox::mouseReleaseEvent(QMouseEvent* event) {
+    justUnlocked_ = false;
     const QClipboard& clipboard = *QGuiApplication::clipboard();
     if (event->button() == Qt::MiddleButton && clipboard.supportsSelection() && !IsLocked()) {
         deselect();

@@ -17,7 +17,10 @@ class ProjectBox : public QLineEdit {
   public:
     explicit ProjectBox(QWidget* parent);
 
-    /// The mouse put the focus here; not called when the window or a message box gives it back.
+    /// Neither may raise.
+    /// The mouse put the focus here, or clicked the locked box that has it; not called when the
+    /// window or a message box gives it back. What it selects when it unlocks the box stays
+    /// selected, whatever place the mouse pressed.
     std::function<void()> OnTaken;
     /// Characters were left out: called once for a key, and once for what is pasted or dropped.
     std::function<void()> OnLeftOut;
@@ -31,16 +34,21 @@ class ProjectBox : public QLineEdit {
     void focusInEvent(QFocusEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void inputMethodEvent(QInputMethodEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void dropEvent(QDropEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
 
   private:
+    void TakeByMouse();
     /// Put text in at the cursor, in place of what is selected, as far as there is room.
     void Enter(const NameText& text);
     void Paste(const QString& text);
     void PasteClipboard();
     std::string Fitting(const std::string& text) const;
+
+    bool justUnlocked_ = false; ///< by the mouse press that is under way
 };
 
 } // namespace tarn

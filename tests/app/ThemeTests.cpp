@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QCheckBox>
+#include <QLineEdit>
 #include <QPalette>
 #include <QPushButton>
 #include <QRadioButton>
@@ -98,6 +99,19 @@ void ExpectAVisibleMark() {
     button.setEnabled(false);
     EXPECT_EQ(PixelsOf(button.grab().toImage(), LightColours().Accent), 0);
     EXPECT_GT(PixelsOf(button.grab().toImage(), LightColours().DisabledText), 20);
+}
+
+TEST(Theme, AFieldThatOnlyShowsLooksSo) {
+    QLineEdit field(QStringLiteral("MMMM"));
+    EXPECT_EQ(MiddleOf(field), LightColours().Field);
+    EXPECT_EQ(PixelsOf(field.grab().toImage(), LightColours().MutedText), 0);
+    field.setReadOnly(true);
+    EXPECT_EQ(MiddleOf(field), LightColours().Window);
+    EXPECT_GT(PixelsOf(field.grab().toImage(), LightColours().MutedText), 5);
+    EXPECT_EQ(PixelsOf(field.grab().toImage(), LightColours().Text), 0);
+    field.setReadOnly(false);
+    EXPECT_EQ(MiddleOf(field), LightColours().Field);
+    EXPECT_GT(PixelsOf(field.grab().toImage(), LightColours().Text), 5);
 }
 
 TEST(Theme, MarksAreDrawnInItsColours) {

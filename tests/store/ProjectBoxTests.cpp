@@ -1,3 +1,4 @@
+#include "app/Theme.h"
 #include "store/ProjectFormTesting.h"
 #include "store/ProjectNames.h"
 
@@ -49,6 +50,45 @@ TEST_F(ProjectBoxes, AreUnlockedByAClick) {
     Focus(Box());
     EXPECT_FALSE(Box().isReadOnly());
     EXPECT_EQ(Entries(Projects()), (Lines{"ANNEX", "BARN", "SHED"})) << "listed anew";
+}
+
+TEST_F(ProjectBoxes, SelectTheOldNameWhenAClickUnlocksThem) {
+    Open();
+    ClickEntry(Projects(), "BARN");
+    const QPoint place(8, Box().height() / 2);
+    QTest::mousePress(&Box(), Qt::LeftButton, {}, place);
+    QTest::mouseMove(&Box(), place + QPoint(12, 0)); // a hand is not quite still
+    QMouseEvent move(QEvent::MouseMove, place + QPoint(12, 0), Box().mapToGlobal(place),
+                     Qt::NoButton, Qt::LeftButton, {});
+    QApplication::sendEvent(&Box(), &move);
+    QTest::mouseRelease(&Box(), Qt::LeftButton, {}, place + QPoint(12, 0));
+    EXPECT_EQ(Box().selectedText(), QStringLiteral("BARN"));
+    Type(Box(), "shed");
+    EXPECT_EQ(BoxText(), "SHED") << "typing replaces the name chosen";
+    QTest::mouseClick(&Box(), Qt::LeftButton, {}, place);
+    EXPECT_EQ(Box().selectedText(), QString()) << "a click in an unlocked box only moves";
+}
+
+TEST_F(ProjectBoxes, AreUnlockedByAClickThatFindsThemFocused) {
+    Open();
+    ClickEntry(Projects(), "BARN");
+    Box().setFocus(Qt::ActiveWindowFocusReason);
+    ASSERT_TRUE(Box().hasFocus());
+    ASSERT_TRUE(Box().isReadOnly());
+    Click(Box());
+    EXPECT_FALSE(Box().isReadOnly());
+    EXPECT_EQ(Box().selectedText(), QStringLiteral("BARN"));
+}
+
+TEST_F(ProjectBoxes, LookLockedWhileTheyAre) {
+    Open();
+    const auto colour = [this] {
+        const QImage image = Box().grab().toImage();
+        return image.pixelColor(image.width() - 8, image.height() / 2);
+    };
+    EXPECT_EQ(colour(), LightColours().Window);
+    Click(Button("Command1"));
+    EXPECT_EQ(colour(), LightColours().Field);
 }
 
 TEST_F(ProjectBoxes, AreNotReachedByTheKeyboard) {
