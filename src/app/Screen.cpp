@@ -57,7 +57,7 @@ void Screen::keyPressEvent(QKeyEvent* event) {
     auto* button = qobject_cast<QPushButton*>(focusWidget());
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     if (enter && button != nullptr && !event->isAutoRepeat()) {
-        button->click();
+        Guard({}, [&] { button->click(); });
         return;
     }
     QWidget::keyPressEvent(event);

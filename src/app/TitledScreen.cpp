@@ -6,7 +6,6 @@
 #include "app/Text.h"
 #include "app/Theme.h"
 
-#include <QEvent>
 #include <QLabel>
 
 #include <algorithm>
@@ -61,22 +60,24 @@ void TitledScreen::SetBelow(QWidget& widget) {
     Arrange();
 }
 
-bool TitledScreen::eventFilter(QObject* watched, QEvent* event) {
-    switch (event->type()) {
+bool TitledScreen::ChangesArrangement(const QObject* watched, QEvent::Type event) {
+    switch (event) {
     case QEvent::Resize:
-        if (watched == &Body()) {
-            Arrange();
-        }
-        break;
+        return watched == &Body();
     case QEvent::LayoutRequest:
     case QEvent::ShowToParent:
     case QEvent::HideToParent:
     case QEvent::FontChange:
     case QEvent::StyleChange:
-        Arrange();
-        break;
+        return true;
     default:
-        break;
+        return false;
+    }
+}
+
+bool TitledScreen::eventFilter(QObject* watched, QEvent* event) {
+    if (ChangesArrangement(watched, event->type())) {
+        Guard("The screen could not be arranged.", [this] { Arrange(); });
     }
     return Screen::eventFilter(watched, event);
 }

@@ -2,6 +2,8 @@
 
 #include "app/Screen.h"
 
+#include <QEvent>
+
 #include <string_view>
 #include <vector>
 
@@ -37,6 +39,7 @@ class TitledScreen : public Screen {
         QWidget* Widget;
         PanelSize Size;
     };
+    bool ChangesArrangement(const QObject* watched, QEvent::Type event);
     void Arrange();
     const Panel* VisiblePanel() const;
 

@@ -15,6 +15,7 @@ class ChoiceList : public QListWidget {
   public:
     explicit ChoiceList(QWidget* parent);
 
+    /// None of these may raise.
     /// An entry was chosen, by mouse or keys; also when the chosen one is clicked again.
     std::function<void()> OnChosen;
     /// The chosen entry was double-clicked.

@@ -7,6 +7,7 @@
 #include "app/TitledScreen.h"
 #include "screens/ScreenTesting.h"
 
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -128,6 +129,28 @@ TEST_F(Guards, ShowTheCauseOfOtherFailures) {
     ShowOnDisplay(screen);
     Click(*screen.Button);
     EXPECT_EQ(boxes.Messages, std::vector<std::string>{"Nothing was done. The file is locked."});
+}
+
+TEST_F(Guards, CatchWhatAButtonRaisesThatEnterPresses) {
+    PlainScreen screen(session);
+    QObject::connect(screen.Button, &QPushButton::clicked, [] { RaiseOverflow(); });
+    ShowOnDisplay(screen);
+    Press(screen, Qt::Key_Return);
+    EXPECT_EQ(boxes.Messages, std::vector<std::string>{"Run-time error '6':\r\n\r\nOverflow"});
+}
+
+TEST_F(TitledScreens, PressNoButtonAgainWhileEnterIsHeldDown) {
+    PlainScreen screen(session);
+    int pressed = 0;
+    screen.Body_ = [&] { ++pressed; };
+    ShowOnDisplay(screen);
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
+        QKeyEvent repeated(QEvent::KeyPress, key, Qt::NoModifier, QStringLiteral("\r"), true);
+        QApplication::sendEvent(screen.Button, &repeated);
+    }
+    EXPECT_EQ(pressed, 0);
+    Press(screen, Qt::Key_Return);
+    EXPECT_EQ(pressed, 1);
 }
 
 TEST_F(Guards, EndARunTimeErrorWithoutMoreToSayWithItsText) {
