@@ -1,8 +1,10 @@
 #include "app/Display.h"
 
 #include <QGuiApplication>
+#include <QPixmap>
 #include <QScreen>
 #include <QWidget>
+#include <QWindow>
 
 #include <cmath>
 
@@ -15,7 +17,17 @@ constexpr double TwipsPerInch = 1440;
 } // namespace
 
 QSize PhysicalSize(const QScreen& screen) {
-    const QSizeF size = QSizeF(screen.size()) * screen.devicePixelRatio();
+    const double factor = screen.devicePixelRatio();
+    const QSizeF size = QSizeF(screen.size()) * factor;
+    // The toolkit rounds the scaled size: 799 pixels at factor 2 are 400 of its own, and so are
+    // 800. A picture of the display has its own size.
+    if (std::abs(size.width() - LeastDisplayWidth) < factor ||
+        std::abs(size.height() - LeastDisplayHeight) < factor) {
+        const QPixmap picture = const_cast<QScreen&>(screen).grabWindow();
+        if (!picture.isNull()) {
+            return picture.size();
+        }
+    }
     return {static_cast<int>(std::lround(size.width())),
             static_cast<int>(std::lround(size.height()))};
 }
@@ -33,11 +45,16 @@ int Pixels(double twips) {
     return static_cast<int>(std::lround(PixelsExact(twips)));
 }
 
+QMargins FrameMargins(const QWidget& window) {
+    const QWindow* handle = window.windowHandle();
+    return handle != nullptr ? handle->frameMargins() : QMargins();
+}
+
 void FitFormToScreen(QWidget& window) {
     const QRect display = window.screen()->geometry();
-    const QSize frame = window.frameGeometry().size() - window.size();
-    window.resize(display.width() - frame.width(),
-                  display.height() - Pixels(FreeStrip) - frame.height());
+    const QMargins frame = FrameMargins(window);
+    window.resize(display.width() - frame.left() - frame.right(),
+                  display.height() - Pixels(FreeStrip) - frame.top() - frame.bottom());
     window.move(display.topLeft());
 }
 

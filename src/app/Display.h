@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QMargins>
 #include <QSize>
 
 #include <string_view>
@@ -18,7 +19,8 @@ inline constexpr std::string_view DisplayTooSmallMessage =
     "Sorry, the program must run under display resolution 800 X 600 or higher\r\n"
     "Please change the display resolution!";
 
-/// A screen's size in physical pixels.
+/// A screen's size in physical pixels, exact as far as it decides whether the display is large
+/// enough.
 QSize PhysicalSize(const QScreen& screen);
 bool IsDisplayLargeEnough(QSize physicalPixels);
 
@@ -30,6 +32,9 @@ double PixelsExact(double twips);
 
 /// How much of the display a screen leaves free at the bottom, twips.
 inline constexpr double FreeStrip = 240;
+
+/// The window's frame, as far as the window system tells.
+QMargins FrameMargins(const QWidget& window);
 
 /// Fit a window to its display: the whole width, the whole height less FreeStrip, at the top left,
 /// its frame included as far as the window system tells.

@@ -1,10 +1,9 @@
 #include "app/Program.h"
 
 #include "app/Display.h"
+#include "app/Guard.h"
 #include "app/StartModule.h"
 #include "print/PrinterPage.h"
-
-#include <QTimer>
 
 namespace tarn {
 
@@ -15,19 +14,30 @@ Program::Program(Dialogs& boxes, Printer& printer)
 }
 
 bool Program::Main(const std::vector<std::filesystem::path>& configurationDirectories,
-                   QSize displayPixels, const QDate& today, const QLocale& locale) {
+                   QSize displayPixels, const std::function<QDate()>& today,
+                   const QLocale& locale) {
+    bool started = false;
+    Guarded(boxes_, "The program could not be started.", [&] {
+        session_.Today = today;
+        started = Start(configurationDirectories, displayPixels, locale);
+    });
+    return started;
+}
+
+bool Program::Start(const std::vector<std::filesystem::path>& configurationDirectories,
+                    QSize displayPixels, const QLocale& locale) {
     if (!IsDisplayLargeEnough(displayPixels)) {
         boxes_.Message(std::string(DisplayTooSmallMessage));
         return false;
     }
-    if (!InitSharedState(state_, engine_, configurationDirectories, today, locale)) {
+    if (!InitSharedState(state_, engine_, configurationDirectories, session_.Today(), locale)) {
         boxes_.Message(std::string(ConfigurationMissingMessage));
         return false;
     }
     screens_.ShowProjects();
-    window_.show();
     // A print server that is slow to answer must not keep the first screen from being drawn.
-    QTimer::singleShot(0, &window_, [this] { ReadPrinterPage(state_, printer_); });
+    window_.AfterFirstPaint([this] { ReadPrinterPage(state_, printer_); });
+    window_.show();
     return true;
 }
 

@@ -6,13 +6,21 @@
 #include <QStackedLayout>
 #include <QTimer>
 
+#include <utility>
+
 namespace tarn {
+
+namespace {
+
+constexpr int MostRefits = 4;
+
+} // namespace
 
 ScreenWindow::ScreenWindow()
     : screens_(new QStackedLayout(this)) {
     setObjectName(QStringLiteral("Window"));
     screens_->setContentsMargins(0, 0, 0, 0);
-    FitFormToScreen(*this);
+    Fit();
 }
 
 ScreenWindow::~ScreenWindow() = default;
@@ -55,6 +63,7 @@ int ScreenWindow::Loaded() const {
 
 void ScreenWindow::Add(std::unique_ptr<Screen> screen) {
     screens_->addWidget(screen.release());
+    Fit();
 }
 
 void ScreenWindow::Unload(Screen& screen) {
@@ -79,10 +88,47 @@ void ScreenWindow::closeEvent(QCloseEvent* event) {
     }
 }
 
+void ScreenWindow::Fit() {
+    refitsLeft_ = MostRefits;
+    frame_ = FrameMargins(*this);
+    FitFormToScreen(*this);
+}
+
+void ScreenWindow::FitAgainToANewFrame() {
+    // A window manager tells the frame only once it has drawn it, by moving or resizing the window.
+    const QMargins frame = FrameMargins(*this);
+    if (frame != frame_ && refitsLeft_ > 0) {
+        --refitsLeft_;
+        frame_ = frame;
+        FitFormToScreen(*this);
+    }
+}
+
 void ScreenWindow::showEvent(QShowEvent* event) {
     QWidget::showEvent(event);
-    // The window system tells the size of the frame only once it has drawn it.
-    QTimer::singleShot(0, this, [this] { FitFormToScreen(*this); });
+    QTimer::singleShot(0, this, [this] { FitAgainToANewFrame(); });
+}
+
+void ScreenWindow::moveEvent(QMoveEvent* event) {
+    QWidget::moveEvent(event);
+    QTimer::singleShot(0, this, [this] { FitAgainToANewFrame(); });
+}
+
+void ScreenWindow::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    QTimer::singleShot(0, this, [this] { FitAgainToANewFrame(); });
+}
+
+void ScreenWindow::AfterFirstPaint(std::function<void()> action) {
+    afterFirstPaint_ = std::move(action);
+}
+
+void ScreenWindow::paintEvent(QPaintEvent* event) {
+    QWidget::paintEvent(event);
+    if (afterFirstPaint_) {
+        // The screens in the window are painted after it, in the same turn.
+        QTimer::singleShot(0, this, std::exchange(afterFirstPaint_, nullptr));
+    }
 }
 
 } // namespace tarn

@@ -11,14 +11,17 @@
 
 #include <CLI/CLI.hpp>
 
+#include <iostream>
+
 int main(int argc, char* argv[]) {
     CLI::App options{"Estimate how carpets are cut from the roll."};
     std::string configDirectory;
     options.set_version_flag("--version", std::string("tarn ") + std::string(tarn::Version));
-    options
-        .add_option("--config-dir", configDirectory,
-                    "Directory of the configuration file TarnWin.INI")
-        ->type_name("DIR");
+    const CLI::Option* givenDirectory =
+        options
+            .add_option("--config-dir", configDirectory,
+                        "Directory of the configuration file TarnWin.INI")
+            ->type_name("DIR");
     try {
         options.parse(argc, argv);
     } catch (const CLI::ParseError& error) {
@@ -29,6 +32,11 @@ int main(int argc, char* argv[]) {
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("tarn"));
     QApplication::setQuitOnLastWindowClosed(false);
+    const QScreen* display = QGuiApplication::primaryScreen();
+    if (display == nullptr) {
+        std::cerr << "tarn: There is no display to show the program on.\n";
+        return 1;
+    }
     const tarn::Theme theme(application);
     tarn::MessageBoxes boxes;
     tarn::SystemPrinter printer;
@@ -36,11 +44,10 @@ int main(int argc, char* argv[]) {
     boxes.SetParent(&program.Window());
 
     auto directories = tarn::ConfigurationDirectories();
-    if (!configDirectory.empty()) {
+    if (givenDirectory->count() > 0) { // also an empty one: no other place is looked at then
         directories = {configDirectory};
     }
-    const QScreen& display = *QGuiApplication::primaryScreen();
-    if (!program.Main(directories, tarn::PhysicalSize(display), QDate::currentDate(),
+    if (!program.Main(directories, tarn::PhysicalSize(*display), &QDate::currentDate,
                       QLocale::system())) {
         return 1;
     }

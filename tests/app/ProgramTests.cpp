@@ -8,6 +8,7 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QPushButton>
 #include <QRadioButton>
 
@@ -15,6 +16,28 @@ namespace tarn {
 namespace {
 
 using namespace tarn::testing;
+
+/// Calls back when it is asked for its page.
+struct WatchingPrinter : FakePrinter {
+    std::function<void()> OnPage;
+
+    PageSize Page() override {
+        if (OnPage) {
+            OnPage();
+        }
+        return FakePrinter::Page();
+    }
+};
+
+/// Whether an object was sent a paint event.
+struct PaintWatch : QObject {
+    bool Painted = false;
+
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        Painted = Painted || event->type() == QEvent::Paint;
+        return QObject::eventFilter(watched, event);
+    }
+};
 
 /// The whole program on a data folder of its own, with recorded boxes and a recorded printer.
 class ProgramTest : public ::testing::Test {
@@ -26,7 +49,10 @@ class ProgramTest : public ::testing::Test {
     }
 
     bool Start(QSize display = {800, 600}) {
-        return program_.Main({folder_.Path()}, display, QDate(2026, 3, 14),
+        return StartOn([] { return QDate(2026, 3, 14); }, display);
+    }
+    bool StartOn(const std::function<QDate()>& today, QSize display = {800, 600}) {
+        return program_.Main({folder_.Path()}, display, today,
                              QLocale(QLocale::English, QLocale::UnitedStates));
     }
     template <class W = QPushButton>
@@ -60,7 +86,7 @@ class ProgramTest : public ::testing::Test {
 
     TestFolder folder_;
     FakeBoxes boxes_;
-    FakePrinter printer_;
+    WatchingPrinter printer_;
     Program program_{boxes_, printer_};
 };
 
@@ -93,10 +119,67 @@ TEST_F(ProgramTest, ShowsTheProjectSelectionAndThenReadsThePrintersPage) {
     EXPECT_TRUE(boxes_.Messages.empty());
 }
 
+TEST_F(ProgramTest, PaintsTheFirstScreenBeforeItAsksThePrinter) {
+    PaintWatch watch;
+    int asked = 0;
+    printer_.OnPage = [&] {
+        ++asked;
+        EXPECT_TRUE(watch.Painted);
+    };
+    ASSERT_TRUE(Start());
+    Control("Command3").installEventFilter(&watch);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return asked > 0; }));
+    program_.Window().update();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(asked, 1);
+}
+
+TEST_F(ProgramTest, ChecksTheDisplayBeforeTheConfiguration) {
+    WriteFile(folder_.Path("TarnWin.INI"), "");
+    EXPECT_FALSE(Start({799, 600}));
+    ASSERT_EQ(boxes_.Messages.size(), 1U);
+    EXPECT_EQ(boxes_.Messages[0], DisplayTooSmallMessage);
+}
+
+TEST_F(ProgramTest, TellsWhatKeepsItFromStarting) {
+    EXPECT_FALSE(StartOn([]() -> QDate { throw std::runtime_error("There is no clock."); }));
+    EXPECT_EQ(boxes_.Messages,
+              std::vector<std::string>{"The program could not be started. There is no clock."});
+    EXPECT_FALSE(program_.Window().isVisible());
+}
+
+TEST_F(ProgramTest, AsksForTheDayWheneverAScreenNeedsIt) {
+    QDate today(2026, 3, 31);
+    ASSERT_TRUE(StartOn([&] { return today; }));
+    EXPECT_EQ(program_.State().CurDirName, "MARCH");
+    today = QDate(2026, 4, 1);
+    Click(Control("Command3"));
+    EXPECT_EQ(Control<QListWidget>("List1(0)").currentItem()->text(), QStringLiteral("APRIL"));
+}
+
+TEST_F(ProgramTest, UnloadsItsScreensBeforeWhatTheyWorkOn) {
+    auto program = std::make_unique<Program>(boxes_, printer_);
+    auto token = std::make_shared<int>();
+    const std::weak_ptr<int> session = token;
+    ASSERT_TRUE(program->Main(
+        {folder_.Path()}, {800, 600}, [token] { return QDate(2026, 3, 14); }, QLocale::c()));
+    token.reset();
+    bool unloaded = false;
+    QObject::connect(program->Window().Front(), &QObject::destroyed, [&] {
+        unloaded = true;
+        EXPECT_FALSE(session.expired()) << "a screen outlived the session";
+    });
+    program.reset();
+    EXPECT_TRUE(unloaded);
+    EXPECT_TRUE(session.expired());
+}
+
 TEST_F(ProgramTest, StartsWithoutAPrinterAndSaysNothing) {
     printer_.Failure = "no queue";
+    bool asked = false;
+    printer_.OnPage = [&] { asked = true; };
     ASSERT_TRUE(Start());
-    QCoreApplication::processEvents();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return asked; }));
     EXPECT_EQ(program_.State().PrnWidth, 0);
     EXPECT_TRUE(boxes_.Messages.empty());
 }
@@ -169,9 +252,26 @@ TEST_F(ProgramTest, FillsTheDisplayWithEveryScreen) {
                QRect(display.topLeft(), QSize(display.width(), display.height() - Pixels(240)));
     };
     EXPECT_TRUE(QTest::qWaitFor(fits));
+    const auto disturb = [&] {
+        program_.Window().resize(500, 400);
+        program_.Window().move(30, 40);
+        QCoreApplication::processEvents();
+        EXPECT_FALSE(fits()) << "the user's own doing stays";
+    };
+    disturb();
     MakeProject("HOUSE");
     EXPECT_TRUE(fits());
+    disturb();
     Click(Control("Command1(0)"));
+    EXPECT_TRUE(fits());
+    TypeRoom("10", "14");
+    disturb();
+    Click(Control("Command3"));
+    ExpectFront("ESCarpForm", 2);
+    EXPECT_TRUE(fits());
+    disturb();
+    Click(Control("Command1(0)"));
+    ExpectFront("ESTFORM", 3);
     EXPECT_TRUE(fits());
 }
 

@@ -225,6 +225,19 @@ TEST_F(ScreenWindows, FillTheDisplayLessAStripAtTheBottom) {
     }));
 }
 
+TEST_F(ScreenWindows, AreNotFittedAgainWhenTheyComeBackFromTheTaskBar) {
+    ScreenWindow window;
+    window.Replace(std::make_unique<PlainScreen>(session));
+    window.show();
+    QCoreApplication::processEvents();
+    window.resize(500, 400);
+    QShowEvent shown;
+    QSpontaneKeyEvent::setSpontaneous(&shown);
+    qApp->notify(&window, &shown); // sendEvent would take the mark away
+    QCoreApplication::processEvents();
+    EXPECT_EQ(window.size(), QSize(500, 400));
+}
+
 TEST(Displays, AreRefusedBelow800By600) {
     EXPECT_TRUE(IsDisplayLargeEnough({800, 600}));
     EXPECT_FALSE(IsDisplayLargeEnough({799, 600}));
