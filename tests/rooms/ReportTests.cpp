@@ -1,6 +1,4 @@
-#include "rooms/Report.h"
-#include "rooms/RoomRecord.h"
-#include "rooms/RoomTesting.h"
+#include "rooms/ReportTesting.h"
 
 #include <QDate>
 #include <QString>
@@ -8,22 +6,13 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <array>
 
 namespace tarn {
 namespace {
 
-using testing::Below;
-using testing::RandomText;
-
-SharedState StateWith(const std::vector<RoomRecord>& rooms, bool metric,
-                      const std::string& project = "MAPLE HOUSE") {
-    SharedState state;
-    state.MetricFlag = metric ? 1 : 0;
-    state.CurProjName = project;
-    PutRooms(state, rooms);
-    return state;
-}
+using testing::RowOf;
+using testing::RowsOf;
+using testing::StateWith;
 
 std::string WithCrLf(std::string_view text) {
     std::string result;
@@ -31,19 +20,6 @@ std::string WithCrLf(std::string_view text) {
         result += c == '\n' ? "\r\n" : std::string(1, c);
     }
     return result;
-}
-
-/// The rows of a report, without its nine lines of heading.
-std::string RowsOf(const std::string& report) {
-    std::size_t begin = 0;
-    for (int line = 0; line < 9; ++line) {
-        begin = report.find("\r\n", begin) + 2;
-    }
-    return report.substr(begin);
-}
-
-std::string RowOf(const RoomRecord& room, bool metric) {
-    return RowsOf(LoadReport(StateWith({room}, metric), ""));
 }
 
 // clang-format off
@@ -219,172 +195,6 @@ TEST(LoadReport, EndsEveryLineWithBothCharacters) {
     EXPECT_EQ(lines, 9 + 12);
     EXPECT_EQ(report.substr(report.size() - 2), "\r\n");
 }
-
-// --- rows computed a second time, in whole numbers and one blank after the other ---
-
-std::string Blanks(long long count) {
-    std::string blanks;
-    for (; count > 0; --count) {
-        blanks += ' ';
-    }
-    return blanks;
-}
-
-long long Characters(std::string_view text) {
-    long long count = 0;
-    while (!text.empty()) {
-        const auto lead = static_cast<unsigned char>(text.front());
-        text.remove_prefix(lead < 0x80 ? 1 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : 4);
-        ++count;
-    }
-    return count;
-}
-
-std::string FeetAndInches(int inches) {
-    return std::to_string(inches / 12) + "'" + std::to_string(inches % 12) + "\"";
-}
-
-/// area / divisor with two places, halves away from zero.
-std::string TwoPlaces(long long area, long long divisor) {
-    const long long hundredths = (200 * area + divisor) / (2 * divisor);
-    const std::string places = std::to_string(hundredths % 100);
-    return std::to_string(hundredths / 100) + "." + (places.size() < 2 ? "0" : "") + places;
-}
-
-/// Blanks on either side of the X, by the number of digits of the width: 4 less half of it.
-int GapAroundX(std::size_t digits) {
-    constexpr std::array Gaps{4, 3, 2, 2, 2}; // 3.5, 3, 2.5, 2, 1.5
-    return Gaps.at(digits - 1);
-}
-
-std::string ExpectedRow(const RoomRecord& room, int number, bool metric) {
-    const std::string no = std::to_string(number);
-    const std::string ws = std::to_string(room.Width);
-    const std::string ls = std::to_string(room.Length);
-    const auto area = static_cast<long long>(static_cast<float>(room.Width * room.Length));
-    const std::string squareMetres = TwoPlaces(area, 10000);
-    const std::string gap = Blanks(GapAroundX(ws.size()));
-
-    std::string row = "    " + no + Blanks(10 - Characters(no));
-    if (metric) {
-        row += ws + gap + "X" + gap + ls + Blanks(7 - Characters(ls)) + squareMetres;
-    } else {
-        const std::string wide = FeetAndInches(room.Width);
-        const std::string along = FeetAndInches(room.Length);
-        long long n = Characters(wide) + 1 + Characters(along);
-        const long long k = n <= 8 ? 17 : 24 - n;
-        if (k + 9 - n == 15) {
-            ++n;
-        }
-        row += wide + gap + "X" + gap + along + Blanks(k + 9 - n) + TwoPlaces(area, 1296);
-    }
-    row += Blanks(11 - Characters(squareMetres));
-
-    const bool carpet = room.Covering < 8;
-    row += carpet ? "C" : "T";
-    row += std::to_string(carpet ? room.Covering + 1 : room.Covering - 7) + "    ";
-
-    const int widths = room.Base % 3;
-    const int lengths = room.Base / 3;
-    const std::string base = (widths > 0 ? "W" + std::to_string(widths) : "") +
-                             (lengths > 0 ? "L" + std::to_string(lengths) : "");
-    row += base;
-    const int raised = ((widths * room.Width + lengths * room.Length) / 3 + 1) * 3;
-    if (room.Base == 0) {
-        row += Blanks(11);
-    } else if (metric) {
-        row += Blanks(13 - Characters(base)) + std::to_string(raised) +
-               Blanks(12 - Characters(std::to_string(raised)));
-    } else {
-        const std::string text = FeetAndInches(raised);
-        const long long n = Characters(text);
-        row += Blanks(8) + text + Blanks(12 - (n == 4 ? 4 : n == 5 ? 6 : n + 2));
-    }
-    return row + room.RoomNo + Blanks(9 - Characters(room.RoomNo)) + room.Remark + "    \r\n";
-}
-
-RoomRecord RandomRoom(std::mt19937& random) {
-    // Few digits as often as many; with base, small enough for the base length to fit.
-    const auto size = [&random](int most) {
-        constexpr std::array Limits{10, 100, 1000, 10000, 32768};
-        const int limit = Limits[static_cast<std::size_t>(Below(random, Limits.size()))];
-        return static_cast<Integer>(Below(random, std::min(limit, most)));
-    };
-    RoomRecord room;
-    room.Base = static_cast<Byte>(Below(random, 9));
-    const int most = room.Base == 0 ? 32768 : 8190;
-    room.Width = size(most);
-    room.Length = size(most);
-    room.Covering = static_cast<Byte>(Below(random, 12));
-    room.RoomNo = RandomText(random, 12);
-    room.Remark = RandomText(random, 30);
-    return room;
-}
-
-TEST(LoadReport, ListsRandomRoomsByTheRules) {
-    for (unsigned seed = 1; seed <= 20; ++seed) {
-        for (const bool metric : {false, true}) {
-            SCOPED_TRACE("seed " + std::to_string(seed) + (metric ? " metric" : " imperial"));
-            std::mt19937 random(seed);
-            std::vector<RoomRecord> rooms;
-            for (int number = 1; number <= 120; ++number) {
-                rooms.push_back(RandomRoom(random));
-            }
-            const std::string rows = RowsOf(LoadReport(StateWith(rooms, metric), ""));
-            std::size_t begin = 0;
-            for (int number = 1; number <= 120; ++number) {
-                const std::string expected =
-                    ExpectedRow(rooms[static_cast<std::size_t>(number - 1)], number, metric);
-                ASSERT_EQ(rows.substr(begin, expected.size()), expected);
-                begin += expected.size();
-            }
-            EXPECT_EQ(begin, rows.size());
-        }
-    }
-}
-
-/// The characters before the remark in a row of the rules, for a room number that fits.
-std::size_t ExpectedRemarkColumn(RoomRecord room, bool metric) {
-    room.Remark.clear();
-    return static_cast<std::size_t>(Characters(ExpectedRow(room, 1, metric)) - 6);
-}
-
-TEST(RemarkColumn, IsWhereTheRemarkOfARandomRowBegins) {
-    for (unsigned seed = 1; seed <= 20; ++seed) {
-        for (const bool metric : {false, true}) {
-            SCOPED_TRACE("seed " + std::to_string(seed) + (metric ? " metric" : " imperial"));
-            std::mt19937 random(seed);
-            for (int i = 0; i < 60; ++i) {
-                RoomRecord room = RandomRoom(random);
-                room.RoomNo = "R" + std::to_string(Below(random, 10000000));
-                std::string row = RowOf(room, metric);
-                row.resize(row.size() - 2);
-                EXPECT_EQ(RemarkColumn(row), ExpectedRemarkColumn(room, metric)) << row;
-            }
-        }
-    }
-}
-
-TEST(RemarkColumn, IsKnownWithoutARoomNumberAndForAnUnknownBaseCode) {
-    for (const bool metric : {false, true}) {
-        for (const Byte base : {Byte{0}, Byte{5}, Byte{9}}) {
-            std::string with = RowOf({100, 120, 0, base, "", "remark"}, metric);
-            EXPECT_EQ(RemarkColumn(with), with.find("remark")) << with;
-        }
-    }
-}
-
-TEST(RemarkColumn, IsNoneInTheHeading) {
-    std::string report = LoadReport(StateWith({}, true, "4 ROOMS X 2"), "11/21/2031");
-    for (std::size_t end = 0; (end = report.find("\r\n")) != std::string::npos;
-         report.erase(0, end + 2)) {
-        EXPECT_EQ(RemarkColumn(report.substr(0, end)), 0U) << report.substr(0, end);
-    }
-    EXPECT_EQ(RemarkColumn("    12 rooms"), 0U);
-    EXPECT_EQ(RemarkColumn("    1         100  X  100"), 0U);
-    EXPECT_EQ(RemarkColumn("    1         100  X  100    1.00       C"), 0U);
-}
-
 TEST(LoadReport, HasTheHeadingThatItsConstantsTell) {
     const std::string report = LoadReport(StateWith({{100, 100, 0, 0, "", ""}}, true), "");
     const std::string rows = RowsOf(report); // skips nine lines
