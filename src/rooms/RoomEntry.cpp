@@ -26,9 +26,9 @@ std::optional<Integer> SizeOf(const SizeParts& typed, bool metric, const std::st
 
 /// Which part of a size that may not be stored is to be corrected.
 SizeField WrongPart(const SizeParts& typed, SizeField major, SizeField minor) {
-    const bool isMinorRefused = IsRefusedSizeText(typed.Minor);
-    return IsRefusedSizeText(typed.Major) || (!isMinorRefused && Val(typed.Major) < 0) ? major
-                                                                                       : minor;
+    const auto refused = RefusedPart(typed.Major, typed.Minor);
+    const bool isMajor = refused ? *refused == SizePart::Major : Val(typed.Major) < 0;
+    return isMajor ? major : minor;
 }
 
 /// Why a new room of that size is not stored.

@@ -1,12 +1,14 @@
 #include "rooms/RoomSize.h"
 
 #include "app/Numbers.h"
+#include "app/RunTimeError.h"
 #include "app/Text.h"
 
 #include <QList>
 #include <QString>
 
 #include <algorithm>
+#include <limits>
 
 namespace tarn {
 
@@ -35,6 +37,19 @@ bool HasBlankBetweenDigits(std::string_view text) {
     return text.substr(first, last - first).find_first_of(" \t") != std::string_view::npos;
 }
 
+/// The size that two texts make, not rounded.
+Double Joined(std::string_view major, std::string_view minor, bool metric) {
+    return Val(major) * SmallUnits(metric) + Val(minor);
+}
+
+bool IsReadableAndRefused(std::string_view text) {
+    try {
+        return IsRefusedSizeText(text);
+    } catch (const RunTimeError&) {
+        return false;
+    }
+}
+
 } // namespace
 
 SizeParts SplitSize(Integer size, bool metric) {
@@ -44,7 +59,7 @@ SizeParts SplitSize(Integer size, bool metric) {
 }
 
 Integer JoinSize(std::string_view major, std::string_view minor, bool metric) {
-    return CInt(Val(major) * SmallUnits(metric) + Val(minor));
+    return CInt(Joined(major, minor, metric));
 }
 
 bool IsRefusedSizeText(std::string_view text) {
@@ -52,12 +67,23 @@ bool IsRefusedSizeText(std::string_view text) {
     return HasDigit(text.substr(length)) || HasBlankBetweenDigits(text.substr(0, length));
 }
 
+std::optional<SizePart> RefusedPart(std::string_view major, std::string_view minor) {
+    if (IsReadableAndRefused(major)) {
+        return SizePart::Major;
+    }
+    return IsReadableAndRefused(minor) ? std::optional(SizePart::Minor) : std::nullopt;
+}
+
 std::optional<Integer> ReadSize(std::string_view major, std::string_view minor, bool metric) {
-    if (IsRefusedSizeText(major) || IsRefusedSizeText(minor)) {
+    if (RefusedPart(major, minor)) {
         return std::nullopt;
     }
-    const Integer size = JoinSize(major, minor, metric);
-    return size < 0 ? std::nullopt : std::optional<Integer>(size);
+    const Double size = Joined(major, minor, metric);
+    if (size < std::numeric_limits<Integer>::min()) {
+        return std::nullopt;
+    }
+    const Integer whole = CInt(size);
+    return whole < 0 ? std::nullopt : std::optional<Integer>(whole);
 }
 
 } // namespace tarn

@@ -33,8 +33,15 @@ Integer JoinSize(std::string_view major, std::string_view minor, bool metric);
 /// "Overflow" as Val does.
 bool IsRefusedSizeText(std::string_view text);
 
+enum class SizePart { Major, Minor };
+
+/// Which of the two texts is refused, the major one before the minor one. A number too large for a
+/// Double is none that is refused.
+std::optional<SizePart> RefusedPart(std::string_view major, std::string_view minor);
+
 /// JoinSize of two texts that may be stored; nothing when either text is refused or the size is
-/// negative. Raises as JoinSize.
+/// negative, be it as large as it may. Raises "Overflow" for a size above 32767, and for a number
+/// too large for a Double beside a text that is not refused.
 std::optional<Integer> ReadSize(std::string_view major, std::string_view minor, bool metric);
 
 } // namespace tarn

@@ -136,7 +136,13 @@ TEST_F(EnteringRooms, PointsAtTheSizeTextToCorrect) {
                  {Fields("-1", "6 1/2", "10", ""), SizeField::WidthMinor},
                  {Fields("12", "", "-1", "6"), SizeField::LengthMajor},
                  {Fields("12'6", "", "-1", "6"), SizeField::WidthMajor},
-                 {Fields("", "", "", "-1"), SizeField::LengthMinor}};
+                 {Fields("", "", "", "-1"), SizeField::LengthMinor},
+                 {Fields("12'6", "1e400", "10", ""), SizeField::WidthMajor},
+                 {Fields("1e400", "6 1/2", "10", ""), SizeField::WidthMinor},
+                 {Fields("12", "", "3,45", "1e400"), SizeField::LengthMajor},
+                 {Fields("-2731", "", "10", ""), SizeField::WidthMajor},
+                 {Fields("10", "", "0", "-99999"), SizeField::LengthMinor},
+                 {Fields("-1e308", "", "10", ""), SizeField::WidthMajor}};
     for (const auto& each : cases) {
         for (const Integer room : {Integer{0}, Integer{1}}) {
             SCOPED_TRACE(each.Typed.Width.Major + "|" + each.Typed.Width.Minor + "|" +

@@ -141,8 +141,28 @@ TEST(ReadSize, JudgesTheSignOfTheWholeSize) {
     EXPECT_EQ(ReadSize("", "", false), 0);
 }
 
+TEST(ReadSize, RefusesANegativeSizeHoweverLarge) {
+    for (const bool metric : {false, true}) {
+        for (const char* major : {"-2731", "-40000", "-1e300"}) {
+            EXPECT_EQ(ReadSize(major, "", metric), std::nullopt) << major;
+        }
+        EXPECT_EQ(ReadSize("", "-32768.5", metric), std::nullopt);
+    }
+}
+
+TEST(ReadSize, RefusesATextBesideANumberTooLarge) {
+    EXPECT_EQ(RefusedPart("12'6", "1e400"), SizePart::Major);
+    EXPECT_EQ(RefusedPart("1e400", "12'6"), SizePart::Minor);
+    EXPECT_EQ(RefusedPart("12'6", "12'6"), SizePart::Major);
+    EXPECT_EQ(RefusedPart("1e400", "1e400"), std::nullopt);
+    EXPECT_EQ(ReadSize("12'6", "1e400", false), std::nullopt);
+    EXPECT_EQ(ReadSize("1e400", "12'6", false), std::nullopt);
+}
+
 TEST(ReadSize, Overflows) {
     EXPECT_EQ(ErrorNumberOf([] { ReadSize("40000", "", false); }), OverflowNumber);
+    EXPECT_EQ(ErrorNumberOf([] { ReadSize("1", "1e400", false); }), OverflowNumber);
+    EXPECT_EQ(ErrorNumberOf([] { ReadSize("", "32767.5", false); }), OverflowNumber);
 }
 
 } // namespace
