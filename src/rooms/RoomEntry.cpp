@@ -102,16 +102,20 @@ StoreResult StoreRoom(SharedState& state, OpenProject& project, Integer room,
                 WrongPart(fields.Length, SizeField::LengthMajor, SizeField::LengthMinor)};
     }
     Byte covering = fields.Covering.value_or(0);
+    std::optional<Byte> untypedBase;
     if (room == state.ObjNum) {
         const Outcome outcome = OutcomeOfNewRoom(room, *width, *length);
         if (outcome != Outcome::Stored) {
             return {outcome};
         }
-    } else if (!fields.Covering) {
-        covering = state.RoomCarpet[room];
+    } else {
+        covering = fields.Covering.value_or(state.RoomCarpet[room]);
+        if (fields.Base == GetBaseStr(state.RoomBase[room])) {
+            untypedBase = state.RoomBase[room]; // also a code that has no text
+        }
     }
-    Put(state, project, room,
-        {*width, *length, covering, CalBaseID(fields.Base), fields.RoomNo, fields.Remark});
+    const Byte base = untypedBase ? *untypedBase : CalBaseID(fields.Base);
+    Put(state, project, room, {*width, *length, covering, base, fields.RoomNo, fields.Remark});
     return {};
 }
 

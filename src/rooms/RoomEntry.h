@@ -54,9 +54,11 @@ struct StoreResult {
 };
 
 /// Take the fields into `room`, 0 .. ObjNum; a new room raises ObjNum. A room of the project is
-/// stored whatever its sizes, also 0; without a chosen covering it keeps its own. Rebuilds the
-/// room's extents, and notes when it changes while Metric is ticked. Nothing is changed unless it
-/// is Stored. Raises, with nothing changed, "Overflow" for a size beyond an Integer.
+/// stored whatever its sizes, also 0; without a chosen covering it keeps its own, and with the base
+/// text that FieldsOf gives its base code, so that showing a room and storing it changes nothing.
+/// Rebuilds the room's extents, and notes when it changes while Metric is ticked. Nothing is
+/// changed unless it is Stored. Raises, with nothing changed, "Overflow" for a size beyond an
+/// Integer.
 StoreResult StoreRoom(SharedState& state, OpenProject& project, Integer room,
                       const RoomFields& fields);
 

@@ -225,6 +225,25 @@ TEST_F(EnteringRooms, KeepsACoveringThatCannotBeChosenUntilOneIs) {
     EXPECT_EQ(state_.RoomCarpet[0], 3);
 }
 
+TEST_F(EnteringRooms, KeepsABaseCodeWithoutATextUntilOneIsTyped) {
+    Fill(1);
+    for (int code = 0; code <= 255; ++code) {
+        state_.RoomBase[0] = static_cast<Byte>(code);
+        EXPECT_TRUE(Store(0, FieldsOf(state_, 0)).IsStored());
+        EXPECT_EQ(state_.RoomBase[0], code);
+    }
+    RoomFields fields = FieldsOf(state_, 0);
+    fields.Base = "W2";
+    EXPECT_TRUE(Store(0, fields).IsStored());
+    EXPECT_EQ(state_.RoomBase[0], 2);
+    fields.Base = "";
+    EXPECT_TRUE(Store(0, fields).IsStored());
+    EXPECT_EQ(state_.RoomBase[0], 0);
+    state_.RoomBase[1] = 9;
+    EXPECT_EQ(StoreNew(Fields("1", "", "1", "")), Outcome::Stored);
+    EXPECT_EQ(state_.RoomBase[1], 0) << "a new room does not take what its slot held";
+}
+
 TEST_F(EnteringRooms, DeletesARoomByMovingUpTheOnesBehind) {
     constexpr Integer Count = 6;
     for (Integer deleted = 0; deleted < Count - 1; ++deleted) {

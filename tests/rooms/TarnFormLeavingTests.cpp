@@ -72,6 +72,18 @@ TEST_F(SavingRooms, SavesTheOthersBesideAHalfTypedRoom) {
     EXPECT_EQ(Texts()[0], "12") << "the half-typed room stays";
 }
 
+TEST_F(SavingRooms, KeepsABaseCodeWithoutAText) {
+    file.Run("UPDATE InputData SET BaseSty = 9 WHERE ObjNum = 1");
+    ASSERT_EQ(LoadOpenProject(state, project).Result, ProjectLoad::Outcome::Loaded);
+    Open();
+    ClickOn(PreviousButton);
+    TypeInto(6, "hall");
+    ClickOn(SaveButton);
+    EXPECT_EQ(boxes.Messages, Lines{"Data is saved"});
+    EXPECT_EQ(file.Rows("SELECT BaseSty, RoomRemark FROM InputData WHERE ObjNum = 1"),
+              Lines{"9|hall"});
+}
+
 TEST_F(SavingRooms, SavesAnEmptyProject) {
     state.ObjNum = 0;
     Open();
@@ -224,6 +236,19 @@ TEST_P(LeavingTheRooms, TakesAChangedRoomIntoMemory) {
     Leave();
     EXPECT_EQ(state.ObjNum, 2);
     EXPECT_EQ(state.RoomRemark[1], "remark 1!");
+}
+
+TEST_P(LeavingTheRooms, ChangesNothingOfARoomThatWasOnlyLookedAt) {
+    state.MetricFlag = 1;
+    AddRooms(1);
+    state.RoomBase[0] = 9;
+    state.RoomCarpet[0] = 12;
+    project.StoredRooms = TakeRooms(state);
+    Open();
+    ClickOn(PreviousButton);
+    Leave();
+    EXPECT_EQ(TakeRooms(state), project.StoredRooms);
+    EXPECT_FALSE(project.TypedInMetric);
 }
 
 TEST_P(LeavingTheRooms, SaysNothingOfWhatCannotBeTaken) {

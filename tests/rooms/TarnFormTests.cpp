@@ -288,6 +288,22 @@ TEST_F(SteppingThroughRooms, KeepsACoveringThatCannotBeChosen) {
     EXPECT_EQ(state.RoomCarpet[0], 11);
 }
 
+TEST_F(SteppingThroughRooms, ChangesNoBaseCodeInPassing) {
+    state.MetricFlag = 1;
+    AddRooms(3);
+    for (Integer i = 0; i < 3; ++i) {
+        state.RoomBase[i] = static_cast<Byte>(9 + 100 * i);
+    }
+    project.StoredRooms = TakeRooms(state);
+    Open();
+    ClickOn(PreviousButton);
+    ClickOn(PreviousButton);
+    ClickOn(PreviousButton);
+    ClickOn(NextButton);
+    EXPECT_EQ(TakeRooms(state), project.StoredRooms);
+    EXPECT_FALSE(project.TypedInMetric);
+}
+
 TEST_F(SteppingThroughRooms, ShowsElevenFeetThirteenAsTwelveFeetOne) {
     Open();
     TypeSizes({"11", "13", "1", ""});
