@@ -10,10 +10,10 @@
 #include <QComboBox>
 #include <QGridLayout>
 #include <QLabel>
-#include <QLineEdit>
 #include <QPushButton>
 
 #include <algorithm>
+#include <limits>
 
 namespace tarn {
 
@@ -38,11 +38,19 @@ void SetGroupCaption(QGroupBox& group, const QString& name, const QString& capti
     SetPlainTitle(group, caption);
 }
 
-/// Show a text in a field that takes so many characters; a longer one is shown whole.
-void ShowLimited(QLineEdit& field, const std::string& text, long long most) {
-    const QString shown = ToQt(text);
-    field.setMaxLength(std::max(static_cast<int>(most), static_cast<int>(shown.size())));
-    field.setText(shown);
+/// What each Text1 takes.
+FieldRule RuleOf(int index) {
+    using Breaks = FieldRule::Breaks;
+    switch (index) {
+    case RoomEntryFrame::Base:
+        return {MaxBaseTextLength, Breaks::EndOnly};
+    case RoomEntryFrame::RoomNo:
+        return {MaxRoomNoLength, Breaks::Blanks};
+    case RoomEntryFrame::Remark:
+        return {MaxRemarkLength, Breaks::Blanks};
+    default:
+        return {std::numeric_limits<std::size_t>::max(), Breaks::EndOnly};
+    }
 }
 
 /// The text of a field; as it was stored while nothing else is typed, for a widget's text need not
@@ -64,7 +72,7 @@ RoomEntryFrame::RoomEntryFrame(const std::string& project, bool metric) {
 
 void RoomEntryFrame::MakeFields() {
     for (int i = 0; i < Texts; ++i) {
-        auto* text = new QLineEdit(this);
+        auto* text = new EntryField(this, RuleOf(i));
         text->setObjectName(IndexedName("Text1", i));
         texts_.at(static_cast<std::size_t>(i)) = text;
         if (i < SizeTexts) {
@@ -217,11 +225,11 @@ void RoomEntryFrame::Show(const RoomFields& fields) {
     const std::array<const std::string*, SizeTexts> sizes{
         &fields.Width.Major, &fields.Width.Minor, &fields.Length.Major, &fields.Length.Minor};
     for (int i = 0; i < SizeTexts; ++i) {
-        Text(i).setText(ToQt(*sizes.at(static_cast<std::size_t>(i))));
+        Text(i).Show(ToQt(*sizes.at(static_cast<std::size_t>(i))));
     }
-    ShowLimited(Text(Base), fields.Base, MaxBaseTextLength);
-    ShowLimited(Text(RoomNo), fields.RoomNo, MaxRoomNoLength);
-    ShowLimited(Text(Remark), fields.Remark, MaxRemarkLength);
+    Text(Base).Show(ToQt(fields.Base));
+    Text(RoomNo).Show(ToQt(fields.RoomNo));
+    Text(Remark).Show(ToQt(fields.Remark));
     covering_->setCurrentIndex(fields.Covering ? *fields.Covering : -1);
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "rooms/EntryField.h"
 #include "rooms/RoomEntry.h"
 
 #include <QGroupBox>
@@ -9,7 +10,6 @@
 class QComboBox;
 class QGridLayout;
 class QLabel;
-class QLineEdit;
 class QPushButton;
 
 namespace tarn {
@@ -29,7 +29,7 @@ class RoomEntryFrame : public QGroupBox {
     /// `project` is part of the caption; the units are named as `metric` has them.
     RoomEntryFrame(const std::string& project, bool metric);
 
-    QLineEdit& Text(int index) { return *texts_.at(static_cast<std::size_t>(index)); }
+    EntryField& Text(int index) { return *texts_.at(static_cast<std::size_t>(index)); }
     QPushButton& Button(int index) { return *buttons_.at(static_cast<std::size_t>(index)); }
     QComboBox& Covering() { return *covering_; }
     QPushButton& Estimate() { return *estimate_; }
@@ -39,7 +39,7 @@ class RoomEntryFrame : public QGroupBox {
     std::optional<int> IndexOf(const QObject* object) const;
 
     RoomFields Fields() const;
-    /// Show a room. A text that is longer than the field takes is shown whole and may be kept.
+    /// Show a room. A text that a field would not take is shown as it is and may be kept.
     void Show(const RoomFields& fields);
     /// Empty the texts for a new room. The covering stays; where none is chosen, the first one is.
     void ShowNewRoom();
@@ -62,7 +62,7 @@ class RoomEntryFrame : public QGroupBox {
     void AddSizeRow(QGridLayout& grid, int row, bool metric);
     void Arrange(bool metric);
 
-    std::array<QLineEdit*, Texts> texts_{};
+    std::array<EntryField*, Texts> texts_{};
     std::array<QPushButton*, Buttons> buttons_{};
     QComboBox* covering_ = nullptr;
     QPushButton* estimate_ = nullptr;

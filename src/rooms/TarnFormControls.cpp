@@ -194,21 +194,21 @@ void TarnForm::TestSize(QLineEdit& field) {
 }
 
 void TarnForm::TestTypedBase() {
-    QLineEdit& field = entry_->Text(RoomEntryFrame::Base);
+    EntryField& field = entry_->Text(RoomEntryFrame::Base);
     std::string copy = FromQt(field.text());
     if (CheckBaseStr(copy)) {
         return;
     }
     Shared().Boxes.Message(BaseMessage(TypedBaseExample));
     field.setFocus();
-    field.setText(WithoutLast(field.text())); // a change, and so tested again
+    field.ReplaceLastChange(WithoutLast(field.text())); // a change, and so tested again
 }
 
 void TarnForm::TestEnteredBase() {
-    QLineEdit& field = entry_->Text(RoomEntryFrame::Base);
+    EntryField& field = entry_->Text(RoomEntryFrame::Base);
     std::string text = FromQt(field.text());
     if (CheckBaseStr(text)) {
-        field.setText(ToQt(text));
+        field.Replace(ToQt(text));
     } else {
         Shared().Boxes.Message(BaseMessage(EnteredBaseExample));
         field.setFocus();
