@@ -25,6 +25,7 @@ namespace tarn {
 namespace {
 
 constexpr const char* SearchFailure = "The fills could not be laid out.";
+constexpr const char* EmptyFailure = "The estimate could not be emptied.";
 
 QFrame* NewFrame(QWidget* parent, const char* name) {
     auto* frame = new QFrame(parent);
@@ -127,10 +128,11 @@ void ESTFORM::BuildFrame() {
     auto* bottom = new QHBoxLayout;
     bar_ = new QProgressBar(frame10);
     bar_->setTextVisible(false);
-    NameControl(*bar_, QStringLiteral("ProgressBar1"), QStringLiteral("ProgressBar1"));
+    NameControl(*bar_, QStringLiteral("ProgressBar1"), QStringLiteral("Search progress"));
     percentage_ = NewLabel(frame10, QStringLiteral("Label6"), "");
+    percentage_->ensurePolished(); // gives it the type that it is measured in
     percentage_->setMinimumWidth(
-        percentage_->fontMetrics().horizontalAdvance(QStringLiteral("100%%")));
+        percentage_->fontMetrics().horizontalAdvance(QStringLiteral("100%")));
     for (QWidget* progress : {static_cast<QWidget*>(bar_), static_cast<QWidget*>(percentage_)}) {
         QSizePolicy policy = progress->sizePolicy();
         policy.setRetainSizeWhenHidden(true);
@@ -172,12 +174,19 @@ void ESTFORM::Continue() {
     bool done = false;
     Guard(SearchFailure, [&] {
         done = Shared().Engine.PieceCount > 0 &&
-               MultiEstimate(State(), Shared().Engine, progress) == SearchOutcome::Done;
+               MultiEstimate(State(), Shared().Engine, progress) == SearchOutcome::Done &&
+               !progress.Stopped();
     });
     search_ = nullptr;
-    if (!done) {
-        client_.NoLayout();
+    if (done) {
+        Shared().Go.Return();
+    } else {
+        ReturnWithoutLayout();
     }
+}
+
+void ESTFORM::ReturnWithoutLayout() {
+    Guard(EmptyFailure, [this] { client_.NoLayout(); });
     Shared().Go.Return();
 }
 
@@ -186,8 +195,7 @@ void ESTFORM::OnCloseByFrame() {
         search_->Stop();
         return;
     }
-    client_.NoLayout();
-    Shared().Go.Return();
+    ReturnWithoutLayout();
 }
 
 QWidget* ESTFORM::FirstFocus() {

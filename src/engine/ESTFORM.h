@@ -30,6 +30,7 @@ class ESTFORM : public TitledScreen {
     void BuildPieces(QWidget& frame);
     void BuildFrame();
     void Continue();
+    void ReturnWithoutLayout();
     void EnableChoices(bool enabled);
     Integer ChosenOption() const;
 

@@ -41,9 +41,13 @@ bool SearchProgress::Scored(Long done) {
     return !stopped_;
 }
 
+/// What the user did until now was meant for the search: it must not wait for the screen below.
 void SearchProgress::Finished() {
     Ended();
-    finished_();
+    Yield();
+    if (!stopped_) {
+        finished_();
+    }
 }
 
 void SearchProgress::Ended() noexcept {

@@ -15,11 +15,12 @@ namespace tarn {
 /// alive, and closing it can stop the search.
 class SearchProgress : public SearchObserver {
   public:
-    /// `finished` is run when the layout is final; it may raise.
+    /// `finished` is run when the layout is final, unless the search was stopped; it may raise.
     SearchProgress(QProgressBar& bar, QLabel& percentage, std::function<void()> finished);
 
-    /// Stop the search after the placement in hand.
+    /// Stop the search after the placement in hand; after the last one, drop its layout.
     void Stop() { stopped_ = true; }
+    bool Stopped() const { return stopped_; }
 
     void Started(Long maximum) override;
     bool Scored(Long done) override;

@@ -12,6 +12,8 @@
 #include <QRadioButton>
 #include <QTimer>
 
+#include <numeric>
+
 namespace tarn {
 namespace {
 
@@ -22,6 +24,7 @@ struct FakeClient : FillsClient {
     std::vector<std::string> Calls;
     Integer LengthSeen = 0;
     std::function<void()> OnLayout = [] {};
+    std::function<void()> OnNoLayout = [] {};
     const EngineArrays* Engine = nullptr;
 
     void LayoutReady() override {
@@ -29,7 +32,10 @@ struct FakeClient : FillsClient {
         LengthSeen = Engine->ResultLen;
         OnLayout();
     }
-    void NoLayout() override { Calls.emplace_back("none"); }
+    void NoLayout() override {
+        Calls.emplace_back("none");
+        OnNoLayout();
+    }
 };
 
 struct OptionsScreen : ScreenTest {
@@ -185,12 +191,89 @@ TEST_F(OptionsScreen, ShowsProgressAndTakesNoChoiceWhileItSearches) {
         EXPECT_EQ(bar.minimum(), 0);
         EXPECT_EQ(bar.maximum(), 3 * (engine.CaseCount + engine.MaxParts));
     });
+    std::vector<int> steps;
+    QObject::connect(&bar, &QProgressBar::valueChanged, &bar,
+                     [&](int value) { steps.push_back(value); });
     Click(Continue());
     EXPECT_TRUE(looked);
+    std::vector<int> eachOne(static_cast<std::size_t>(bar.maximum()) + 1);
+    std::iota(eachOne.begin(), eachOne.end(), 0); // it begins by taking the bar to 0
+    EXPECT_EQ(steps, eachOne);
     EXPECT_EQ(bar.value(), bar.maximum()) << "one step for each scored placement";
     EXPECT_EQ(percentage.text(), QStringLiteral("100%"));
     EXPECT_FALSE(bar.isVisible());
     EXPECT_FALSE(percentage.isVisible());
+}
+
+TEST_F(OptionsScreen, TellsTheWholePercentagesReached) {
+    AddPieces(200);
+    Open();
+    auto& bar = Find<QProgressBar>(*form, "ProgressBar1");
+    const auto& percentage = Find<QLabel>(*form, "Label6");
+    EXPECT_EQ(bar.accessibleName(), QStringLiteral("Search progress"));
+    EXPECT_EQ(percentage.minimumWidth(),
+              percentage.fontMetrics().horizontalAdvance(QStringLiteral("100%")));
+    Click(Option("Option1(3)"));
+    int looks = 0;
+    // The text follows the bar: behind step n stands what belongs to step n - 1.
+    QObject::connect(&bar, &QProgressBar::valueChanged, &bar, [&](int value) {
+        if (value > 0) {
+            ++looks;
+            const int whole = (value - 1) * 100 / bar.maximum();
+            EXPECT_EQ(percentage.text(), QString::number(whole) + QLatin1Char('%')) << value;
+        }
+    });
+    Click(Continue());
+    EXPECT_EQ(looks, bar.maximum());
+}
+
+TEST_F(OptionsScreen, SearchesNothingWithoutPieces) {
+    Open();
+    Click(Option("Option1(0)"));
+    Click(Continue());
+    EXPECT_EQ(client.Calls, std::vector<std::string>{"none"});
+    EXPECT_EQ(screens.Calls, std::vector<std::string>{"return"});
+    EXPECT_FALSE(Find<QProgressBar>(*form, "ProgressBar1").isVisible());
+    EXPECT_TRUE(boxes.Messages.empty());
+}
+
+TEST_F(OptionsScreen, StopsAlsoLaterInTheSearchAfterThePlacementInHand) {
+    AddPieces(200);
+    Open();
+    Click(Option("Option1(3)"));
+    const auto& bar = Find<QProgressBar>(*form, "ProgressBar1");
+    int stoppedAt = 0;
+    QObject::connect(&bar, &QProgressBar::valueChanged, &bar, [&](int value) {
+        if (stoppedAt == 0 && value > bar.maximum() / 2) {
+            stoppedAt = value;
+            form->CloseByFrame();
+        }
+    });
+    Click(Continue());
+    ASSERT_GT(stoppedAt, 0);
+    EXPECT_LE(bar.value(), stoppedAt + 1);
+    EXPECT_EQ(client.Calls, std::vector<std::string>{"none"});
+    EXPECT_EQ(screens.Calls, std::vector<std::string>{"return"});
+    EXPECT_FALSE(bar.isVisible());
+    EXPECT_FALSE(Find<QLabel>(*form, "Label6").isVisible());
+}
+
+TEST_F(OptionsScreen, DropsTheLayoutWhenItIsClosedAtTheVeryEnd) {
+    AddPieces(8);
+    Open();
+    Click(Option("Option1(0)"));
+    const auto& bar = Find<QProgressBar>(*form, "ProgressBar1");
+    QObject::connect(&bar, &QProgressBar::valueChanged, form.get(), [&](int value) {
+        if (value == bar.maximum()) { // queued as the window system does it
+            QMetaObject::invokeMethod(
+                form.get(), [this] { form->CloseByFrame(); }, Qt::QueuedConnection);
+        }
+    });
+    Click(Continue());
+    QCoreApplication::processEvents();
+    EXPECT_EQ(client.Calls, std::vector<std::string>{"none"});
+    EXPECT_EQ(screens.Calls, std::vector<std::string>{"return"});
+    EXPECT_FALSE(bar.isVisible());
 }
 
 TEST_F(OptionsScreen, StopsTheSearchWhenItIsClosed) {
@@ -208,6 +291,7 @@ TEST_F(OptionsScreen, StopsTheSearchWhenItIsClosed) {
     const auto& bar = Find<QProgressBar>(*form, "ProgressBar1");
     EXPECT_LT(bar.value(), bar.maximum());
     EXPECT_FALSE(bar.isVisible());
+    EXPECT_FALSE(Find<QLabel>(*form, "Label6").isVisible());
 }
 
 TEST_F(OptionsScreen, LeavesNoLayoutWhenItIsClosedWithoutASearch) {
@@ -233,6 +317,8 @@ TEST_F(OptionsScreen, TellsAnErrorOfTheSearchOnceAndGoesBack) {
             "need more than 32767 inches of roll: estimate the rooms in two projects."});
     EXPECT_EQ(client.Calls, std::vector<std::string>{"none"});
     EXPECT_EQ(screens.Calls, std::vector<std::string>{"return"});
+    EXPECT_FALSE(Find<QProgressBar>(*form, "ProgressBar1").isVisible());
+    EXPECT_FALSE(Find<QLabel>(*form, "Label6").isVisible());
 }
 
 TEST_F(OptionsScreen, EmptiesTheEstimateWhenTheLayoutCannotBeDrawn) {
@@ -244,6 +330,19 @@ TEST_F(OptionsScreen, EmptiesTheEstimateWhenTheLayoutCannotBeDrawn) {
     EXPECT_EQ(boxes.Messages.size(), 1U);
     EXPECT_EQ(client.Calls, (std::vector<std::string>{"layout", "none"}));
     EXPECT_EQ(screens.Calls, std::vector<std::string>{"return"});
+}
+
+TEST_F(OptionsScreen, GoesBackAlsoWhenTheEstimateCannotBeEmptied) {
+    client.OnNoLayout = [] { throw std::runtime_error("No memory."); };
+    Open();
+    Click(Option("Option1(0)"));
+    Click(Continue());
+    EXPECT_EQ(boxes.Messages,
+              std::vector<std::string>{"The estimate could not be emptied. No memory."});
+    EXPECT_EQ(screens.Calls, std::vector<std::string>{"return"});
+    form->CloseByFrame();
+    EXPECT_EQ(boxes.Messages.size(), 2U);
+    EXPECT_EQ(screens.Calls, (std::vector<std::string>{"return", "return"}));
 }
 
 } // namespace
