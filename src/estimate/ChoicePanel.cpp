@@ -272,8 +272,9 @@ void ChoicePanel::FocusCarpet() {
     FirstFocus().setFocus();
 }
 
-void ChoicePanel::FocusRefused(ChoicesRefusal refusal) {
-    (refusal == ChoicesRefusal::Width ? otherBoxes_ : repeatBoxes_)[0]->setFocus();
+void ChoicePanel::FocusRefused(const ChoicesRefusal& refusal) {
+    const bool width = refusal.What == ChoicesRefusal::Kind::Width;
+    (width ? otherBoxes_ : repeatBoxes_)[refusal.Box]->setFocus();
 }
 
 /// The option clicked gets no further mark.

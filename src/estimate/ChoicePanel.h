@@ -29,9 +29,9 @@ class ChoicePanel : public QFrame {
     /// What is chosen and typed.
     EstimateChoices Choices() const;
 
-    /// Put the focus on the chosen carpet, or into the first box of what was refused.
+    /// Put the focus on the chosen carpet, or into the box that was refused.
     void FocusCarpet();
-    void FocusRefused(ChoicesRefusal refusal);
+    void FocusRefused(const ChoicesRefusal& refusal);
     QWidget& FirstFocus() const;
 
     QPushButton& OkButton() { return *ok_; }

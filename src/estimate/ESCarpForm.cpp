@@ -9,6 +9,7 @@
 #include "app/Theme.h"
 #include "estimate/EstimatePage.h"
 #include "estimate/LayoutDrawing.h"
+#include "estimate/RunEstimate.h"
 #include "rooms/Report.h"
 #include "rooms/RoomExtents.h"
 
@@ -196,15 +197,15 @@ void ESCarpForm::Empty() {
 
 void ESCarpForm::TakeOk() {
     EnableButtons();
-    const EstimateChoices choices = panel_->Choices();
-    const auto refusal = TakeChoices(Shared().Engine, estimate_, choices, State().IsMetric());
+    const auto refusal =
+        TakeChoices(Shared().Engine, estimate_, panel_->Choices(), State().IsMetric());
     if (refusal) {
         Shared().Boxes.Message(std::string(RefusalMessage(*refusal)));
         panel_->FocusRefused(*refusal);
         return;
     }
     try {
-        MakeEstimate(choices.DownLay);
+        MakeEstimate();
     } catch (const std::exception&) {
         Empty();
         throw;
@@ -212,10 +213,9 @@ void ESCarpForm::TakeOk() {
     ClosePanel();
 }
 
-void ESCarpForm::MakeEstimate(bool downLay) {
+void ESCarpForm::MakeEstimate() {
     Empty();
-    BuildAllRoomExtents(State());
-    switch (ConvertData(State(), Shared().Engine, estimate_, downLay)) {
+    switch (CutRooms(State(), Shared().Engine, estimate_)) {
     case ConvertResult::Fills:
         Shared().Go.ShowOptions(*this);
         break;

@@ -46,7 +46,7 @@ class ESCarpForm : public Screen, public FillsClient {
 
     void Empty();
     void TakeOk();
-    void MakeEstimate(bool downLay);
+    void MakeEstimate();
     void RedrawLayout();
     bool PictureMouseDown(Double x, Double y);
     void SetPasteCuts(bool paste);

@@ -1,6 +1,7 @@
 #include "estimate/EstimateChoices.h"
 
 #include "app/Lengths.h"
+#include "app/Numbers.h"
 #include "app/RunTimeError.h"
 #include "app/Text.h"
 #include "estimate/MatchPattern.h"
@@ -8,25 +9,39 @@
 #include "estimate/Totals.h"
 #include "rooms/RoomSize.h"
 
+#include <variant>
+
 namespace tarn {
 
 namespace {
 
-bool IsRefused(std::string_view first, std::string_view second) {
-    return IsRefusedSizeText(first) || IsRefusedSizeText(second);
+bool IsRefusedRepeat(std::string_view text) {
+    return IsRefusedSizeText(text) || Val(text) < 0;
 }
 
-/// The roll width, inches, when it can be estimated with.
-std::optional<Single> UsableWidth(const EstimateChoices& choices, bool metric) {
+/// Which of two texts is refused first, if either is.
+template <typename Test>
+std::optional<std::size_t> FirstRefused(std::string_view first, std::string_view second,
+                                        Test isRefused) {
+    if (isRefused(first)) {
+        return 0;
+    }
+    return isRefused(second) ? std::optional<std::size_t>(1) : std::nullopt;
+}
+
+/// The roll width, inches, or why it cannot be estimated with.
+std::variant<Single, ChoicesRefusal> WidthOf(const EstimateChoices& choices, bool metric) {
     if (!choices.WidthCaption.empty()) {
         return CaptionRollWidth(choices.WidthCaption, metric);
     }
-    if (IsRefused(choices.OtherFeet, choices.OtherInches)) {
-        return std::nullopt;
+    const auto refused = FirstRefused(choices.OtherFeet, choices.OtherInches, IsRefusedSizeText);
+    if (!refused) {
+        const Single width = OtherRollWidth(choices.OtherFeet, choices.OtherInches);
+        if (IsUsableRollWidth(width)) {
+            return width;
+        }
     }
-    const Single width = OtherRollWidth(choices.OtherFeet, choices.OtherInches);
-    RoundedCentimetres(static_cast<Double>(width)); // as every cut list shows it
-    return IsWithinTolerance(width) ? std::nullopt : std::optional<Single>(width);
+    return ChoicesRefusal{ChoicesRefusal::Kind::Width, refused.value_or(0)};
 }
 
 } // namespace
@@ -43,26 +58,28 @@ CarpetsFound FindCarpets(const SharedState& state) {
     return found;
 }
 
-std::string_view RefusalMessage(ChoicesRefusal refusal) {
-    return refusal == ChoicesRefusal::Width ? WrongWidthMessage : WrongMatchMessage;
+std::string_view RefusalMessage(const ChoicesRefusal& refusal) {
+    return refusal.What == ChoicesRefusal::Kind::Width ? WrongWidthMessage : WrongMatchMessage;
 }
 
 std::optional<ChoicesRefusal> TakeChoices(EngineArrays& engine, CarpetEstimate& estimate,
                                           const EstimateChoices& choices, bool metric) {
-    const std::optional<Single> width = UsableWidth(choices, metric);
-    if (!width) {
-        return ChoicesRefusal::Width;
+    const auto width = WidthOf(choices, metric);
+    if (const auto* refusal = std::get_if<ChoicesRefusal>(&width)) {
+        return *refusal;
     }
-    if (!choices.Match) {
-        estimate.MatchFlag = false;
-    } else if (IsRefused(choices.MatchWidth, choices.MatchLength)) {
-        return ChoicesRefusal::MatchPattern;
-    } else {
+    if (choices.Match) {
+        const auto refused = FirstRefused(choices.MatchWidth, choices.MatchLength, IsRefusedRepeat);
+        if (refused) {
+            return ChoicesRefusal{ChoicesRefusal::Kind::MatchPattern, *refused};
+        }
         SetMatchPattern(estimate, choices.MatchWidth, choices.MatchLength, metric);
+    } else {
+        estimate.MatchFlag = false;
     }
     engine.LayDir = choices.DownLay ? 0 : 1;
     estimate.CarpetNo = choices.Carpet.value_or(estimate.CarpetNo);
-    engine.RollWidth = *width;
+    engine.RollWidth = std::get<Single>(width);
     return std::nullopt;
 }
 
@@ -71,8 +88,11 @@ std::string OtherWidthHint(std::string_view feet, std::string_view inches) {
     choices.OtherFeet = feet;
     choices.OtherInches = inches;
     try {
-        const std::optional<Single> width = UsableWidth(choices, true);
-        return width ? "= " + TrimStr(RoundedCentimetres(static_cast<Double>(*width))) + " CM" : "";
+        const auto reading = WidthOf(choices, true);
+        const auto* width = std::get_if<Single>(&reading);
+        return width != nullptr
+                   ? "= " + TrimStr(RoundedCentimetres(static_cast<Double>(*width))) + " CM"
+                   : "";
     } catch (const RunTimeError&) {
         return {};
     }

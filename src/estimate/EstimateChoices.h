@@ -36,18 +36,26 @@ inline constexpr std::string_view WrongWidthMessage = "The carpet width is not c
 inline constexpr std::string_view WrongMatchMessage = "The match pattern is not correct.";
 
 /// Why choices are not taken.
-enum class ChoicesRefusal { Width, MatchPattern };
+struct ChoicesRefusal {
+    enum class Kind { Width, MatchPattern };
+
+    Kind What = Kind::Width;
+    std::size_t Box = 0; ///< the first of its two boxes whose own text is wrong; 0 when neither is
+
+    bool operator==(const ChoicesRefusal&) const = default;
+};
 
 /// The message for the user.
-std::string_view RefusalMessage(ChoicesRefusal refusal);
+std::string_view RefusalMessage(const ChoicesRefusal& refusal);
 
 /// Take the choices over into LayDir, CarpetNo, RollWidth and the match pattern. Without a match
 /// pattern its sizes stay as they were.
 ///
-/// Refused are a roll width that is the same length as 0 or less, and a text of a free width or of
-/// a match pattern that would be read otherwise than it looks (see IsRefusedSizeText); texts that
-/// are not in use are not looked at. Raises "Overflow" for a number that does not fit and for a
-/// width that no cut list could show. Nothing is changed in either case.
+/// Refused are a roll width that is the same length as 0 or less, a repeat of less than 0, and a
+/// text of a free width or of a match pattern that would be read otherwise than it looks (see
+/// IsRefusedSizeText); texts that are not in use are not looked at. Raises "Overflow" for a number
+/// that does not fit and for a width that no cut list could show. Nothing is changed in either
+/// case.
 std::optional<ChoicesRefusal> TakeChoices(EngineArrays& engine, CarpetEstimate& estimate,
                                           const EstimateChoices& choices, bool metric);
 

@@ -70,13 +70,17 @@ Single OtherRollWidth(std::string_view feet, std::string_view inches) {
     return CSng(Val(feet) * InchesPerFoot + Val(inches));
 }
 
+bool IsUsableRollWidth(Single width) {
+    RoundedCentimetres(static_cast<Double>(width)); // as every cut list shows it
+    return !IsWithinTolerance(width);
+}
+
 Single ReadRollWidth(const std::string& text) {
     std::optional<Single> width;
+    bool usable = false;
     try {
         width = WidthOf(text);
-        if (width) {
-            RoundedCentimetres(static_cast<Double>(*width)); // as every cut list shows it
-        }
+        usable = width && IsUsableRollWidth(*width);
     } catch (const RunTimeError&) {
         throw std::invalid_argument("The roll width \"" + text + "\" is too large.");
     }
@@ -85,7 +89,7 @@ Single ReadRollWidth(const std::string& text) {
                                     "\" is not readable: write it as 12ft, 13.5ft, 12ft6in, 150in "
                                     "or 366cm.");
     }
-    if (IsWithinTolerance(*width)) {
+    if (!usable) {
         throw std::invalid_argument("The roll width \"" + text + "\" must be more than 0.");
     }
     return *width;

@@ -26,6 +26,10 @@ Single CaptionRollWidth(std::string_view caption, bool metric);
 /// The roll width, in inches, of a free width typed as feet and inches; also in metric mode.
 Single OtherRollWidth(std::string_view feet, std::string_view inches);
 
+/// Whether a roll of that width, inches, can be estimated with: it is more than 0 and not the same
+/// length as it. Raises "Overflow" for one that no cut list could show.
+bool IsUsableRollWidth(Single width);
+
 /// Read a roll width as the command line takes it: 12ft, 13.5ft, 12ft6in, 150in or 366cm, the units
 /// in either case, in inches. Raises std::invalid_argument, with a text for the user, for anything
 /// else, for a width that is the same length as 0 and for one that is too large to be listed.

@@ -6,6 +6,12 @@
 
 namespace tarn {
 
+ConvertResult CutRooms(SharedState& state, EngineArrays& engine, CarpetEstimate& estimate) {
+    EmptyEstimate(state, engine, estimate);
+    BuildAllRoomExtents(state);
+    return ConvertData(state, engine, estimate, engine.LayDir == 0);
+}
+
 ConvertResult RunEstimate(SharedState& state, EngineArrays& engine, CarpetEstimate& estimate,
                           const EstimateRequest& request, SearchObserver& observer) {
     EmptyEstimate(state, engine, estimate);
@@ -18,8 +24,7 @@ ConvertResult RunEstimate(SharedState& state, EngineArrays& engine, CarpetEstima
         SetMatchPattern(estimate, request.Match->Width, request.Match->Length, state.IsMetric());
     }
     try {
-        BuildAllRoomExtents(state);
-        const ConvertResult result = ConvertData(state, engine, estimate, request.DownLay);
+        const ConvertResult result = CutRooms(state, engine, estimate);
         if (result == ConvertResult::Fills &&
             MultiEstimate(state, engine, observer) == SearchOutcome::Stopped) {
             EmptyEstimate(state, engine, estimate);

@@ -25,6 +25,11 @@ struct EstimateRequest {
     std::optional<Repeat> Match;
 };
 
+/// Rebuild the extents of the rooms and cut those of carpet CarpetNo from a roll of RollWidth, with
+/// the lay LayDir. An error leaves an empty estimate. Raises as BuildAllRoomExtents and
+/// ConvertData.
+ConvertResult CutRooms(SharedState& state, EngineArrays& engine, CarpetEstimate& estimate);
+
 /// The whole estimate of one carpet of the open project, as the screens make it: rebuild the
 /// extents of the rooms, cut them, and search for a layout of the pieces if there are any. A search
 /// that the observer stops, and an error, also one of the observer's own, leave an empty estimate.

@@ -3,12 +3,21 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 namespace tarn {
 namespace {
 
 using testing::ErrorOf;
 using testing::Imperial;
 using testing::Job;
+
+constexpr ChoicesRefusal WidthRefused(std::size_t box) {
+    return {ChoicesRefusal::Kind::Width, box};
+}
+constexpr ChoicesRefusal MatchRefused(std::size_t box) {
+    return {ChoicesRefusal::Kind::MatchPattern, box};
+}
 
 EstimateChoices Standard() {
     EstimateChoices choices;
@@ -124,11 +133,12 @@ TEST_F(ChoicesTest, ReadAFreeWidthAsFeetAndInchesInBothUnits) {
 }
 
 TEST_F(ChoicesTest, RefuseAWidthOfNothingAndHalfReadTexts) {
-    const std::pair<const char*, const char*> refused[] = {
-        {"", ""},     {"0", "0"},   {"0", "0.004"}, {"-12", ""},   {"1", "-12"},   {"abc", "abc"},
-        {"12'6", ""}, {"12,5", ""}, {"12", "3,45"}, {"6 1/2", ""}, {"12", "6 1/2"}};
-    for (const auto& [feet, inches] : refused) {
-        EXPECT_EQ(Take(Other(feet, inches)), ChoicesRefusal::Width) << feet << " and " << inches;
+    const std::tuple<const char*, const char*, std::size_t> refused[] = {
+        {"", "", 0},      {"0", "0", 0},     {"0", "0.004", 0},  {"-12", "", 0},
+        {"1", "-12", 0},  {"abc", "abc", 0}, {"12'6", "", 0},    {"12,5", "", 0},
+        {"6 1/2", "", 0}, {"12", "3,45", 1}, {"12", "6 1/2", 1}, {"12'6", "6 1/2", 0}};
+    for (const auto& [feet, inches, box] : refused) {
+        EXPECT_EQ(Take(Other(feet, inches)), WidthRefused(box)) << feet << " and " << inches;
         ExpectUntouched();
     }
     EXPECT_FALSE(Take(Other("0", "0.01")));
@@ -156,9 +166,28 @@ TEST_F(ChoicesTest, RoundARepeat) {
 }
 
 TEST_F(ChoicesTest, RefuseHalfReadRepeats) {
-    EXPECT_EQ(Take(Matching("1'6", "10")), ChoicesRefusal::MatchPattern);
+    EXPECT_EQ(Take(Matching("1'6", "10")), MatchRefused(0));
     ExpectUntouched();
-    EXPECT_EQ(Take(Matching("10", "6 1/2")), ChoicesRefusal::MatchPattern);
+    EXPECT_EQ(Take(Matching("10", "6 1/2")), MatchRefused(1));
+    ExpectUntouched();
+    EXPECT_EQ(Take(Matching("1'6", "6 1/2")), MatchRefused(0));
+    ExpectUntouched();
+}
+
+TEST_F(ChoicesTest, RefuseNegativeRepeats) {
+    for (const bool metric : testing::BothUnits) {
+        EXPECT_EQ(Take(Matching("-5", "10"), metric), MatchRefused(0));
+        ExpectUntouched();
+        EXPECT_EQ(Take(Matching("10", "-0.2"), metric), MatchRefused(1));
+        ExpectUntouched();
+    }
+    EXPECT_FALSE(Take(Matching("0", "0")));
+}
+
+TEST_F(ChoicesTest, RefuseTheWidthFirst) {
+    EstimateChoices choices = Matching("-5", "10");
+    choices.WidthCaption.clear();
+    EXPECT_EQ(Take(choices), WidthRefused(0));
     ExpectUntouched();
 }
 
@@ -171,8 +200,8 @@ TEST_F(ChoicesTest, RaiseForNumbersThatDoNotFitAndChangeNothing) {
 }
 
 TEST_F(ChoicesTest, AreRefusedInWords) {
-    EXPECT_EQ(RefusalMessage(ChoicesRefusal::Width), "The carpet width is not correct.");
-    EXPECT_EQ(RefusalMessage(ChoicesRefusal::MatchPattern), "The match pattern is not correct.");
+    EXPECT_EQ(RefusalMessage(WidthRefused(0)), "The carpet width is not correct.");
+    EXPECT_EQ(RefusalMessage(MatchRefused(1)), "The match pattern is not correct.");
 }
 
 TEST_F(OtherWidthHints, GiveTheWidthInForceInCentimetres) {

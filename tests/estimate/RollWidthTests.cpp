@@ -116,6 +116,16 @@ TEST(ReadRollWidth, RefusesWhatItCannotReadAndNamesIt) {
     EXPECT_NE(Refusal(std::string("12ft\0in", 7)), "");
 }
 
+TEST(IsUsableRollWidth, WantsMoreThanNothingAndNoMoreThanCanBeListed) {
+    for (const Single width : {-1e8F, -1.0F, 0.0F, 0.0049F}) {
+        EXPECT_FALSE(IsUsableRollWidth(width)) << width;
+    }
+    for (const Single width : {0.005001F, 0.01F, 144.0F, 800000000.0F}) {
+        EXPECT_TRUE(IsUsableRollWidth(width)) << width;
+    }
+    EXPECT_THROW(IsUsableRollWidth(1e9F), RunTimeError);
+}
+
 TEST(ReadRollWidth, RefusesZero) {
     for (const std::string text : {"0ft", "0in", "0cm", "0ft0in", "0.0ft", "000cm", "0.00cm"}) {
         EXPECT_EQ(Refusal(text), "The roll width \"" + text + "\" must be more than 0.");
