@@ -6,6 +6,7 @@
 #include "app/QtText.h"
 #include "estimate/PaintDrawing.h"
 
+#include <QContextMenuEvent>
 #include <QHelpEvent>
 #include <QPainter>
 #include <QScrollBar>
@@ -28,6 +29,7 @@ constexpr double WheelNotch = 120;     ///< in the units of a wheel event
 constexpr double MostPixels = 1e9;     ///< scroll bars count in int
 constexpr double RoundingError = 1e-3; ///< pixels
 constexpr double ScrollStep = 600;     ///< twips
+constexpr double KeyPressInset = 100;  ///< twips from the visible top left
 
 /// What is written in a picture, for those who cannot see it.
 QString WrittenIn(const Picture& picture) {
@@ -53,6 +55,8 @@ PictureBox::PictureBox(QWidget* parent, Dialogs& boxes)
     setSizePolicy(policy);
     // It paints its own paper, so that scrolling moves what is there and paints only the rest.
     viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
+    // So that a drag whose release went elsewhere ends with the next move.
+    viewport()->setMouseTracking(true);
     hide();
 }
 
@@ -70,7 +74,7 @@ void PictureBox::ShowChanged() {
 
 void PictureBox::ShowFromStart() {
     fitted_ = true;
-    zoom_ = FirstZoom();
+    FitFirst();
     ShowChanged();
     horizontalScrollBar()->setValue(0);
     verticalScrollBar()->setValue(0);
@@ -133,6 +137,11 @@ double PictureBox::LeastZoom() const {
     return std::min(LeastOwnZoom, FittingZoom());
 }
 
+void PictureBox::FitFirst() {
+    fittedTo_ = maximumViewportSize();
+    Fit(FirstZoom());
+}
+
 void PictureBox::Fit(double zoom) {
     zoom_ = zoom;
     Arrange();
@@ -155,11 +164,22 @@ void PictureBox::ZoomAboutMiddle(double zoom) {
     ZoomAbout(QRectF(viewport()->rect()).center(), zoom);
 }
 
+/// What the scroll bars that such a drawing needs leave of the box. The viewport itself follows
+/// only later, when the bars were shown or hidden.
+QSize PictureBox::RoomFor(QSize drawn) const {
+    const QSize most = maximumViewportSize();
+    const int besideBar = most.width() - verticalScrollBar()->sizeHint().width();
+    const int aboveBar = most.height() - horizontalScrollBar()->sizeHint().height();
+    const bool wide = drawn.width() > most.width();
+    const bool high = drawn.height() > most.height();
+    const bool across = wide || (high && drawn.width() > besideBar);
+    const bool down = high || (wide && drawn.height() > aboveBar);
+    return {down ? besideBar : most.width(), across ? aboveBar : most.height()};
+}
+
 void PictureBox::Arrange() {
     const QSize drawn = Drawn();
-    const QSize most = maximumViewportSize();
-    const bool fits = drawn.width() <= most.width() && drawn.height() <= most.height();
-    const QSize room = fits ? most : viewport()->size();
+    const QSize room = RoomFor(drawn);
     horizontalScrollBar()->setRange(0, std::max(0, drawn.width() - room.width()));
     verticalScrollBar()->setRange(0, std::max(0, drawn.height() - room.height()));
     horizontalScrollBar()->setPageStep(room.width());
@@ -167,6 +187,23 @@ void PictureBox::Arrange() {
     horizontalScrollBar()->setSingleStep(Pixels(ScrollStep));
     verticalScrollBar()->setSingleStep(Pixels(ScrollStep));
     UpdatePointer();
+}
+
+/// The box's own size is what counts: a scroll bar that comes with the picture's growth must not
+/// change the zoom.
+bool PictureBox::event(QEvent* event) {
+    const bool taken = QAbstractScrollArea::event(event);
+    if (event->type() == QEvent::Resize || event->type() == QEvent::StyleChange) {
+        Guard([this] { FollowSize(); });
+    }
+    return taken;
+}
+
+void PictureBox::FollowSize() {
+    if (fitted_ && fittedTo_ != maximumViewportSize()) {
+        FitFirst();
+    }
+    Arrange();
 }
 
 bool PictureBox::viewportEvent(QEvent* event) {
@@ -178,16 +215,21 @@ bool PictureBox::viewportEvent(QEvent* event) {
     return QAbstractScrollArea::viewportEvent(event);
 }
 
+/// A piece's tip goes when the pointer leaves the piece.
 void PictureBox::ShowTip(QPoint position, QPoint global) {
     const QPointF twips = ToTwips(position);
     QString tip = ZoomHint();
+    QRect shownFor;
     for (const DrawingStep& step : picture_.Steps()) {
         const QRectF box(QPointF(step.X1, step.Y1), QPointF(step.X2, step.Y2));
         if (!step.Tip.empty() && box.contains(twips)) {
             tip = ToQt(step.Tip);
+            shownFor = QRectF(ToViewport(box.topLeft()), ToViewport(box.bottomRight()))
+                           .intersected(viewport()->rect())
+                           .toAlignedRect();
         }
     }
-    QToolTip::showText(global, tip, viewport());
+    QToolTip::showText(global, tip, viewport(), shownFor);
 }
 
 void PictureBox::paintEvent(QPaintEvent* event) {
@@ -199,30 +241,28 @@ void PictureBox::paintEvent(QPaintEvent* event) {
     PaintDrawing(painter, picture_);
 }
 
-void PictureBox::resizeEvent(QResizeEvent* event) {
-    QAbstractScrollArea::resizeEvent(event);
-    Guard([this] {
-        if (fitted_) {
-            Fit(FirstZoom());
-        }
-        Arrange();
-    });
-}
-
 void PictureBox::scrollContentsBy(int dx, int dy) {
     viewport()->scroll(dx, dy);
 }
 
 void PictureBox::wheelEvent(QWheelEvent* event) {
-    if (!event->modifiers().testFlag(Qt::ControlModifier)) {
-        QAbstractScrollArea::wheelEvent(event);
-        return;
-    }
-    event->accept();
     Guard([&] {
+        if (!event->modifiers().testFlag(Qt::ControlModifier)) {
+            QAbstractScrollArea::wheelEvent(event);
+            return;
+        }
+        event->accept();
         const double notches = event->angleDelta().y() / WheelNotch;
         ZoomAbout(event->position(), zoom_ * std::pow(ZoomStep, notches));
     });
+}
+
+bool PictureBox::PressWaitedFor(int key) {
+    if (!waiting_ || (key != Qt::Key_Return && key != Qt::Key_Enter && key != Qt::Key_Space)) {
+        return false;
+    }
+    const QPointF corner = ToTwips({0, 0});
+    return MouseDown(corner.x() + KeyPressInset, corner.y() + KeyPressInset);
 }
 
 bool PictureBox::PressZoomKey(int key) {
@@ -252,14 +292,15 @@ bool PictureBox::PressScrollKey(int key) {
 }
 
 void PictureBox::keyPressEvent(QKeyEvent* event) {
-    bool pressed = false;
     Guard([&] {
         const bool plain = !event->modifiers().testFlag(Qt::AltModifier);
-        pressed = plain && (PressZoomKey(event->key()) || PressScrollKey(event->key()));
+        // A key that is still held from pressing a button is none for the picture.
+        const bool pressed = plain && ((!event->isAutoRepeat() && PressWaitedFor(event->key())) ||
+                                       PressZoomKey(event->key()) || PressScrollKey(event->key()));
+        if (!pressed) {
+            QAbstractScrollArea::keyPressEvent(event);
+        }
     });
-    if (!pressed) {
-        QAbstractScrollArea::keyPressEvent(event);
-    }
 }
 
 void PictureBox::mousePressEvent(QMouseEvent* event) {
@@ -277,18 +318,25 @@ void PictureBox::mousePressEvent(QMouseEvent* event) {
 }
 
 void PictureBox::mouseMoveEvent(QMouseEvent* event) {
-    if (dragging_) {
-        Guard([&] {
+    Guard([&] {
+        DropDragUnlessHeld(event->buttons());
+        if (dragging_) {
             const QPoint scrolled = dragScrolled_ + dragFrom_ - event->pos();
             horizontalScrollBar()->setValue(scrolled.x());
             verticalScrollBar()->setValue(scrolled.y());
-        });
-    }
+        }
+    });
 }
 
-void PictureBox::mouseReleaseEvent([[maybe_unused]] QMouseEvent* event) {
-    dragging_ = false;
-    UpdatePointer();
+void PictureBox::mouseReleaseEvent(QMouseEvent* event) {
+    Guard([&] { DropDragUnlessHeld(event->buttons()); });
+}
+
+void PictureBox::DropDragUnlessHeld(Qt::MouseButtons held) {
+    if (dragging_ && held == Qt::NoButton) {
+        dragging_ = false;
+        UpdatePointer();
+    }
 }
 
 /// A double click whose first press was taken is no double click on the paper.
@@ -301,6 +349,12 @@ void PictureBox::mouseDoubleClickEvent(QMouseEvent* event) {
         fitted_ = false;
         Fit(FittingZoom());
     });
+}
+
+void PictureBox::contextMenuEvent(QContextMenuEvent* event) {
+    if (event->reason() != QContextMenuEvent::Mouse || !taken_) {
+        Guard([&] { ContextMenu(event->globalPos()); });
+    }
 }
 
 void PictureBox::UpdatePointer() {

@@ -15,7 +15,7 @@ namespace tarn {
 ///
 /// The wheel scrolls, with Ctrl it zooms about the pointer; + and - zoom, 0 shows the actual size,
 /// a double click fits the whole drawing; arrows, Page Up, Page Down, Home and End scroll; dragging
-/// moves the paper.
+/// moves the paper. While a press is waited for, Enter and Space press near the visible top left.
 class PictureBox : public QAbstractScrollArea {
   public:
     PictureBox(QWidget* parent, Dialogs& boxes);
@@ -33,8 +33,10 @@ class PictureBox : public QAbstractScrollArea {
     /// Called with a mouse press, in twips of the picture. Answers whether it was taken; else the
     /// press begins to drag the paper.
     std::function<bool(Double x, Double y)> MouseDown = [](Double, Double) { return false; };
-    /// Show by the pointer that the next press is waited for.
+    /// Show by the pointer that the next press is waited for, and take a key for it too.
     void SetWaiting(bool waiting);
+    /// Called where a context menu is asked for, in global pixels; not by a press that was taken.
+    std::function<void(QPoint global)> ContextMenu = [](QPoint) {};
 
     /// 1 is actual size.
     double Zoom() const { return zoom_; }
@@ -46,9 +48,9 @@ class PictureBox : public QAbstractScrollArea {
     static QString ZoomHint();
 
   protected:
+    bool event(QEvent* event) override;
     bool viewportEvent(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
-    void resizeEvent(QResizeEvent* event) override;
     void scrollContentsBy(int dx, int dy) override;
     void wheelEvent(QWheelEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
@@ -56,28 +58,35 @@ class PictureBox : public QAbstractScrollArea {
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
 
   private:
     bool Guard(const std::function<void()>& body) const;
     double PixelsPerTwip() const;
     QSizeF DrawnTwips() const;
     QSize Drawn() const;
+    QSize RoomFor(QSize drawn) const;
     double FittingZoom() const;
     double FirstZoom() const;
     double LeastZoom() const;
+    void FitFirst();
+    void FollowSize();
     void Fit(double zoom);
     void ZoomAbout(QPointF position, double zoom);
     void ZoomAboutMiddle(double zoom);
     void Arrange();
+    bool PressWaitedFor(int key);
     bool PressZoomKey(int key);
     bool PressScrollKey(int key);
     void ShowTip(QPoint position, QPoint global);
+    void DropDragUnlessHeld(Qt::MouseButtons held);
     void UpdatePointer();
 
     Dialogs& boxes_;
     Picture picture_;
     double zoom_ = 1;
     bool fitted_ = true;   ///< the zoom follows the box
+    QSize fittedTo_;       ///< the room that it was fitted into last
     bool waiting_ = false; ///< for a press that is taken
     bool taken_ = false;   ///< the last press was
     bool dragging_ = false;

@@ -1,61 +1,13 @@
-#include "app/Display.h"
-#include "estimate/PictureBox.h"
-#include "screens/ScreenTesting.h"
+// What a picture box shows, and how it scrolls and zooms.
 
-#include <QHelpEvent>
+#include "estimate/PictureBoxTesting.h"
+
 #include <QScreen>
-#include <QScrollBar>
-#include <QToolTip>
-#include <QWheelEvent>
-
-#include <gtest/gtest.h>
 
 namespace tarn {
 namespace {
 
 using namespace tarn::testing;
-
-struct PictureBoxTest : ::testing::Test {
-    PictureBoxTest() { box.resize(600, 500); }
-
-    /// Draw a box from the start of a roll to there, and a line of text.
-    void Draw(double right, double bottom) {
-        Picture& picture = box.Drawing();
-        picture.Cls();
-        picture.Line(7500, 500, right, bottom, QBColor::Red, "A: 1'0\" X 2'0\"");
-        picture.CurrentX = 100;
-        picture.CurrentY = 100;
-        picture.Print("Carpet-1");
-        picture.Visible = true;
-        box.ShowFromStart();
-        ASSERT_TRUE(QTest::qWaitForWindowExposed(&box));
-        box.activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&box));
-        Focus(box);
-    }
-    QWidget& Paper() { return *box.viewport(); }
-    int Across() const { return box.horizontalScrollBar()->value(); }
-    int Down() const { return box.verticalScrollBar()->value(); }
-    void Wheel(QPoint at, QPoint delta, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
-        QWheelEvent event(at, Paper().mapToGlobal(at), {}, delta, Qt::NoButton, modifiers,
-                          Qt::NoScrollPhase, false);
-        QApplication::sendEvent(&Paper(), &event);
-    }
-    QString TipAt(QPoint at) {
-        QHelpEvent event(QEvent::ToolTip, at, Paper().mapToGlobal(at));
-        QApplication::sendEvent(&Paper(), &event);
-        return QToolTip::text();
-    }
-    bool ShowsWholeDrawing() const {
-        const QPointF corner =
-            box.ToViewport({box.Drawing().FarthestX(), box.Drawing().FarthestY()});
-        return Across() == 0 && Down() == 0 && corner.x() < box.viewport()->width() &&
-               corner.y() < box.viewport()->height();
-    }
-
-    FakeBoxes boxes;
-    PictureBox box{nullptr, boxes};
-};
 
 TEST_F(PictureBoxTest, IsHiddenUntilThePictureIsVisible) {
     box.ShowFromStart();
@@ -208,79 +160,6 @@ TEST_F(PictureBoxTest, ScrollsWithKeys) {
     EXPECT_EQ(Down(), 0);
 }
 
-TEST_F(PictureBoxTest, FitsEverythingOnADoubleClick) {
-    Draw(9000, 2000000);
-    EXPECT_FALSE(ShowsWholeDrawing());
-    DoubleClick(Paper());
-    EXPECT_TRUE(ShowsWholeDrawing());
-    EXPECT_LT(box.Zoom(), 0.1);
-    Press(box, Qt::Key_Minus);
-    EXPECT_TRUE(ShowsWholeDrawing());
-}
-
-TEST_F(PictureBoxTest, MovesThePaperByDragging) {
-    Draw(60000, 60000);
-    box.verticalScrollBar()->setValue(300);
-    QTest::mousePress(&Paper(), Qt::LeftButton, {}, {200, 200});
-    QTest::mouseMove(&Paper(), {150, 180});
-    QTest::mouseRelease(&Paper(), Qt::LeftButton, {}, {150, 180});
-    EXPECT_EQ(Across(), 50);
-    EXPECT_EQ(Down(), 320);
-    QTest::mouseMove(&Paper(), {10, 10});
-    EXPECT_EQ(Across(), 50);
-}
-
-TEST_F(PictureBoxTest, GivesAPressInTwips) {
-    Draw(60000, 60000);
-    Press(box, Qt::Key_Plus);
-    box.horizontalScrollBar()->setValue(75);
-    box.verticalScrollBar()->setValue(150);
-    std::vector<QPointF> presses;
-    box.MouseDown = [&](Double x, Double y) {
-        presses.emplace_back(x, y);
-        return true;
-    };
-    QTest::mouseClick(&Paper(), Qt::LeftButton, {}, {50, 100});
-    ASSERT_EQ(presses.size(), 1U);
-    EXPECT_NEAR(presses[0].x(), (50 + 75) * 15 / 1.25, 0.5);
-    EXPECT_NEAR(presses[0].y(), (100 + 150) * 15 / 1.25, 0.5);
-}
-
-TEST_F(PictureBoxTest, APressThatIsTakenNeitherDragsNorFits) {
-    Draw(60000, 60000);
-    bool take = true;
-    int presses = 0;
-    box.MouseDown = [&](Double, Double) {
-        ++presses;
-        return std::exchange(take, false);
-    };
-    QTest::mousePress(&Paper(), Qt::LeftButton, {}, {200, 200});
-    QTest::mouseMove(&Paper(), {150, 180});
-    EXPECT_EQ(Across(), 0);
-    QTest::mouseRelease(&Paper(), Qt::LeftButton, {}, {150, 180});
-    take = true;
-    QTest::mouseClick(&Paper(), Qt::LeftButton, {}, {100, 100});
-    QTest::mouseDClick(&Paper(), Qt::LeftButton, {}, {100, 100});
-    EXPECT_EQ(box.Zoom(), 1);
-    EXPECT_EQ(presses, 3);
-}
-
-TEST_F(PictureBoxTest, ShowsByThePointerWhatAPressDoes) {
-    Draw(60000, 60000);
-    EXPECT_EQ(Paper().cursor().shape(), Qt::OpenHandCursor);
-    box.SetWaiting(true);
-    EXPECT_EQ(Paper().cursor().shape(), Qt::CrossCursor);
-    box.SetWaiting(false);
-    Draw(10900, 6900);
-    EXPECT_EQ(Paper().cursor().shape(), Qt::ArrowCursor) << "nothing to scroll";
-}
-
-TEST_F(PictureBoxTest, TellsWhatAPieceIsAndElsewhereHowToZoom) {
-    Draw(10900, 6900);
-    EXPECT_EQ(TipAt(box.ToViewport({8000, 3000}).toPoint()), QStringLiteral("A: 1'0\" X 2'0\""));
-    EXPECT_EQ(TipAt(box.ToViewport({3000, 3000}).toPoint()), PictureBox::ZoomHint());
-}
-
 TEST_F(PictureBoxTest, ShowsWhitePaperAndTheDrawingWhereItIsScrolledTo) {
     Draw(60000, 60000);
     Press(box, Qt::Key_End);
@@ -328,11 +207,29 @@ TEST_F(PictureBoxTest, KeepsWhereItIsLookedAtWhenThePictureChanges) {
     EXPECT_EQ(box.Zoom(), 1);
 }
 
-TEST_F(PictureBoxTest, TurnsAnErrorOfAPressIntoAMessage) {
+TEST_F(PictureBoxTest, KeepsAFittedViewWhenThePictureGrows) {
     Draw(10900, 6900);
-    box.MouseDown = [](Double, Double) -> bool { throw std::runtime_error("No."); };
-    Click(Paper());
-    EXPECT_EQ(boxes.Messages, std::vector<std::string>{"The layout could not be shown. No."});
+    const double zoom = box.Zoom();
+    const QPointF at = box.ToTwips({300, 200});
+    Picture& picture = box.Drawing();
+    for (const QPointF beyond : {QPointF(14000, 3000), QPointF(100, 12000)}) {
+        picture.CurrentX = beyond.x();
+        picture.CurrentY = beyond.y();
+        picture.Print("Carpet-1");
+        box.ShowChanged();
+        QCoreApplication::processEvents();
+        EXPECT_DOUBLE_EQ(box.Zoom(), zoom);
+        EXPECT_EQ(box.ToTwips({300, 200}), at);
+        box.horizontalScrollBar()->setValue(1 << 30);
+        box.verticalScrollBar()->setValue(1 << 30);
+        EXPECT_TRUE(QRectF(Paper().rect())
+                        .contains(box.ToViewport({picture.FarthestX(), picture.FarthestY()})));
+        box.horizontalScrollBar()->setValue(0);
+        box.verticalScrollBar()->setValue(0);
+    }
+    box.resize(1500, 1200);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return box.Zoom() > zoom; })) << "it still follows its size";
+    EXPECT_TRUE(QTest::qWaitFor([&] { return ShowsWholeDrawing(); }));
 }
 
 } // namespace
