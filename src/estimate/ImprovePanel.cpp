@@ -1,0 +1,127 @@
+#include "estimate/ImprovePanel.h"
+
+#include "app/Controls.h"
+#include "app/Display.h"
+#include "app/Lengths.h"
+#include "app/Numbers.h"
+#include "app/QtText.h"
+#include "app/Text.h"
+#include "app/Theme.h"
+#include "estimate/Improvement.h"
+
+#include <QCoreApplication>
+#include <QLabel>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace tarn {
+
+namespace {
+
+constexpr qint64 ShowInterval = 100; ///< between two looks at the figures, milliseconds
+constexpr int MillisecondsPerSecond = 1000;
+constexpr double PanelWidth = 5400; ///< at least, twips
+
+QLabel* NewLine(ImprovePanel& panel, const char* name, TextRole role) {
+    QLabel* label = NewLabel(&panel, QString::fromLatin1(name), {});
+    SetRole(*label, role);
+    return label;
+}
+
+/// A bound in whole inches or centimetres, never more than is proven but for the tolerance of
+/// equal lengths.
+std::string BoundText(Double inches, bool metric) {
+    const Double whole = metric ? inches * CentimetresPerInch : inches;
+    const Long length = ToLong(static_cast<long long>(Int(whole + LengthTolerance)));
+    return metric ? TrimStr(length) : FtInStr(length);
+}
+
+void SetText(QLabel& label, const std::string& text) {
+    label.setText(ToQt(text));
+    label.setAccessibleName(label.text());
+}
+
+} // namespace
+
+ImprovePanel::ImprovePanel(QWidget* parent, bool metric)
+    : QFrame(parent)
+    , metric_(metric) {
+    NameControl(*this, QStringLiteral("Frame8"), QStringLiteral("IMPROVE"));
+    setProperty("panel", true);
+    setMinimumWidth(Pixels(PanelWidth));
+    auto* rows = new QVBoxLayout(this);
+    const int margin = Pixels(Metrics::Margin);
+    rows->setContentsMargins(margin, margin, margin, margin);
+    rows->setSpacing(Pixels(Metrics::Spacing));
+    best_ = NewLine(*this, "Label6(0)", TextRole::Heading);
+    least_ = NewLine(*this, "Label6(1)", TextRole::Label);
+    gap_ = NewLine(*this, "Label6(2)", TextRole::Hint);
+    for (QLabel* line : {best_, least_, gap_}) {
+        rows->addWidget(line);
+    }
+    time_ = new QProgressBar(this);
+    NameControl(*time_, QStringLiteral("ProgressBar1"), QStringLiteral("Time used"));
+    time_->setRange(0, Seconds * MillisecondsPerSecond);
+    time_->setTextVisible(false);
+    rows->addWidget(time_);
+    stop_ = NewButton(this, QStringLiteral("Command1(2)"), "STOP", 'T');
+    connect(stop_, &QPushButton::clicked, this, [this] { Stop(); });
+    rows->addWidget(stop_, 0, Qt::AlignRight);
+    hide();
+}
+
+ImproveResult ImprovePanel::Run(const Search& search) {
+    struct InView {
+        explicit InView(ImprovePanel& panel)
+            : Panel(panel) {
+            Panel.running_ = true;
+            Panel.stopped_ = false;
+            Panel.shown_ = false;
+            SetText(*Panel.best_, "Looking for a better layout");
+            SetText(*Panel.least_, {});
+            SetText(*Panel.gap_, {});
+            Panel.time_->setValue(0);
+            Panel.show();
+            Panel.raise();
+            Panel.stop_->setFocus();
+            Panel.sinceStart_.start();
+        }
+        ~InView() {
+            Panel.running_ = false;
+            Panel.hide();
+        }
+        InView(const InView&) = delete;
+        InView& operator=(const InView&) = delete;
+
+        ImprovePanel& Panel;
+    };
+    const InView inView(*this);
+    ImproveLimits limits;
+    limits.Seconds = Seconds;
+    return search(limits, *this);
+}
+
+bool ImprovePanel::Progress(const ImproveProgress& progress) {
+    if (!shown_ || sinceShown_.elapsed() >= ShowInterval) {
+        Show(progress);
+        shown_ = true;
+        sinceShown_.start();
+    }
+    QCoreApplication::processEvents();
+    return !stopped_;
+}
+
+void ImprovePanel::Show(const ImproveProgress& progress) {
+    SetText(*best_, "Fills so far: " + LengthText(progress.Best, metric_));
+    if (progress.Bound > 0) {
+        SetText(*least_, "No layout takes less than: " + BoundText(progress.Bound, metric_));
+        SetText(*gap_, LeastPossibleText(progress.Best, progress.Bound));
+    }
+    time_->setValue(static_cast<int>(
+        std::min<qint64>(sinceStart_.elapsed(), qint64{Seconds} * MillisecondsPerSecond)));
+}
+
+} // namespace tarn

@@ -1,0 +1,128 @@
+#include "app/Controls.h"
+#include "app/RunTimeError.h"
+#include "estimate/ImprovePanel.h"
+#include "screens/ScreenTesting.h"
+
+#include <QLabel>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QTimer>
+
+namespace tarn {
+namespace {
+
+using namespace tarn::testing;
+
+/// A panel on a parent, and a search of the test's own.
+struct ImprovePanels : ::testing::Test {
+    explicit ImprovePanels(bool metric = false)
+        : Panel(&Parent, metric) {
+        ShowOnDisplay(Parent);
+    }
+    std::string Line(int index) {
+        return FromQt(
+            Find<QLabel>(Panel, IndexedName("Label6", index).toLatin1().constData()).text());
+    }
+
+    QWidget Parent;
+    ImprovePanel Panel;
+};
+
+struct MetricImprovePanels : ImprovePanels {
+    MetricImprovePanels()
+        : ImprovePanels(true) {}
+};
+
+TEST_F(ImprovePanels, StandInViewWhileTheSearchRunsAndSayHowFarItIs) {
+    EXPECT_TRUE(Panel.isHidden());
+    const ImproveResult result =
+        Panel.Run([&](const ImproveLimits& limits, ImproveObserver& observer) {
+            EXPECT_EQ(limits.Seconds, 10);
+            EXPECT_EQ(limits.Steps, 0);
+            EXPECT_TRUE(Panel.isVisible());
+            EXPECT_TRUE(Panel.IsRunning());
+            EXPECT_TRUE(Find<QPushButton>(Panel, "Command1(2)").hasFocus());
+            EXPECT_TRUE(observer.Progress({630, 619}));
+            EXPECT_EQ(Line(0), "Fills so far: 52'6\"");
+            EXPECT_EQ(Line(1), "No layout takes less than: 51'7\"");
+            EXPECT_EQ(Line(2), "at most 1.8% above the least possible");
+            ImproveResult found;
+            found.Improved = true;
+            return found;
+        });
+    EXPECT_TRUE(result.Improved);
+    EXPECT_TRUE(Panel.isHidden());
+    EXPECT_FALSE(Panel.IsRunning());
+}
+
+TEST_F(ImprovePanels, SayNothingOfABoundThatIsNotKnown) {
+    Panel.Run([&](const ImproveLimits&, ImproveObserver& observer) {
+        observer.Progress({630, 0});
+        EXPECT_EQ(Line(0), "Fills so far: 52'6\"");
+        EXPECT_EQ(Line(1), "");
+        EXPECT_EQ(Line(2), "");
+        return ImproveResult{};
+    });
+}
+
+TEST_F(ImprovePanels, NeverClaimABoundThatIsNotProven) {
+    Panel.Run([&](const ImproveLimits&, ImproveObserver& observer) {
+        observer.Progress({630, 619.9});
+        EXPECT_EQ(Line(1), "No layout takes less than: 51'7\"");
+        return ImproveResult{};
+    });
+}
+
+TEST_F(MetricImprovePanels, WriteWholeCentimetres) {
+    Panel.Run([&](const ImproveLimits&, ImproveObserver& observer) {
+        observer.Progress({500 / 2.54, 480.4 / 2.54});
+        EXPECT_EQ(Line(0), "Fills so far: 500");
+        EXPECT_EQ(Line(1), "No layout takes less than: 480");
+        return ImproveResult{};
+    });
+}
+
+TEST_F(ImprovePanels, LetTheWindowSystemWorkAndStopWhenAsked) {
+    int asked = 0;
+    QTimer::singleShot(0, &Panel, [&] { Click(Panel.StopButton()); });
+    Panel.Run([&](const ImproveLimits&, ImproveObserver& observer) {
+        while (observer.Progress({630, 619}) && ++asked < 1000) {
+        }
+        return ImproveResult{};
+    });
+    EXPECT_LT(asked, 1000);
+}
+
+TEST_F(ImprovePanels, StopWithTheKeyOfTheirButton) {
+    QTimer::singleShot(0, &Panel, [&] { Press(Panel, Qt::Key_Space); });
+    int asked = 0;
+    Panel.Run([&](const ImproveLimits&, ImproveObserver& observer) {
+        while (observer.Progress({630, 619}) && ++asked < 1000) {
+        }
+        return ImproveResult{};
+    });
+    EXPECT_LT(asked, 1000);
+}
+
+TEST_F(ImprovePanels, ForgetTheStopOfTheSearchBefore) {
+    Panel.Run([&](const ImproveLimits&, ImproveObserver& observer) {
+        Panel.Stop();
+        EXPECT_FALSE(observer.Progress({630, 619}));
+        return ImproveResult{};
+    });
+    Panel.Run([&](const ImproveLimits&, ImproveObserver& observer) {
+        EXPECT_TRUE(observer.Progress({630, 619}));
+        return ImproveResult{};
+    });
+}
+
+TEST_F(ImprovePanels, GoOutOfViewAndHandOnAnError) {
+    EXPECT_THROW(
+        Panel.Run([](const ImproveLimits&, ImproveObserver&) -> ImproveResult { RaiseInternal(); }),
+        RunTimeError);
+    EXPECT_TRUE(Panel.isHidden());
+    EXPECT_FALSE(Panel.IsRunning());
+}
+
+} // namespace
+} // namespace tarn
