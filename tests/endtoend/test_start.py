@@ -1,13 +1,15 @@
 """How the program starts, and when it does not."""
 
 import os
+import shutil
 import subprocess
 import sys
 import tempfile
 import unittest
 
 import run
-from desktop import Program, wait_for
+from desktop import PATIENCE, Program, wait_for
+from Xlib import X, display
 from house import House
 
 TOO_SMALL = (
@@ -31,20 +33,34 @@ class Case(unittest.TestCase):
         return program
 
 
-class Displays(Case):
-    def start_on(self, size):
-        server, display = run.start_display(size)
+    def new_display(self, size):
+        server, name = run.start_display(size)
         self.addCleanup(server.wait)
         self.addCleanup(server.terminate)
-        return self.start("--config-dir", self.house.config, environment={"DISPLAY": display})
+        return name
+
+
+class Displays(Case):
+    def start_on(self, size, scale="1"):
+        return self.start(
+            "--config-dir",
+            self.house.config,
+            environment={"DISPLAY": self.new_display(size), "QT_SCALE_FACTOR": scale},
+        )
 
     def test_800_by_600_is_accepted(self):
         program = self.start_on("800x600")
         program.see("push button", "SELECT PROJECT")
         self.assertEqual(program.boxes(), [])
 
-    def expect_refused(self, size):
-        program = self.start_on(size)
+    def test_800_by_600_is_accepted_at_scale_factor_2(self):
+        self.start_on("800x600", "2").see("push button", "SELECT PROJECT")
+
+    def test_1600_by_1200_is_accepted_at_scale_factor_2(self):
+        self.start_on("1600x1200", "2").see("push button", "SELECT PROJECT")
+
+    def expect_refused(self, size, scale="1"):
+        program = self.start_on(size, scale)
         self.assertEqual(program.message(), TOO_SMALL)
         self.assertFalse(program.is_there("push button", "SELECT PROJECT"))
         program.do("OK")
@@ -56,6 +72,78 @@ class Displays(Case):
     def test_599_high_is_refused(self):
         self.expect_refused("800x599")
 
+    def test_799_wide_is_refused_at_scale_factor_2(self):
+        self.expect_refused("799x600", "2")
+
+    def test_599_high_is_refused_at_scale_factor_2(self):
+        self.expect_refused("800x599", "2")
+
+    def test_no_display_is_an_error(self):
+        nothing = os.path.join(self.folder, "screens.json")
+        with open(nothing, "w", encoding="utf-8") as file:
+            file.write('{"screens": []}')
+        done = subprocess.run(
+            [self.house.program("tarn"), "--config-dir", self.house.config],
+            env=dict(os.environ, QT_QPA_PLATFORM="offscreen:configfile=" + nothing),
+            capture_output=True,
+            text=True,
+            timeout=PATIENCE,
+            check=False,
+        )
+        self.assertEqual(done.returncode, 1)
+        self.assertIn("tarn: There is no display to show the program on.\n", done.stderr)
+
+
+class WindowManager(Case):
+    """Under a window manager, which draws a frame around the window."""
+
+    def setUp(self):
+        if shutil.which("openbox") is None:
+            self.skipTest("openbox is not installed")
+        super().setUp()
+
+    def test_the_frame_fits_the_display_too(self):
+        name = self.new_display("1024x768")
+        manager = subprocess.Popen(
+            ["openbox", "--sm-disable"],
+            env=dict(os.environ, DISPLAY=name),
+            stdout=subprocess.DEVNULL,
+            stderr=subprocess.DEVNULL,
+        )
+        self.addCleanup(manager.wait)
+        self.addCleanup(manager.terminate)
+        server = display.Display(name)
+        self.addCleanup(server.close)
+        root = server.screen().root
+        supporting = server.intern_atom("_NET_SUPPORTING_WM_CHECK")
+        wait_for(lambda: root.get_full_property(supporting, X.AnyPropertyType), "openbox")
+        program = self.start("--config-dir", self.house.config, environment={"DISPLAY": name})
+        program.see("push button", "SELECT PROJECT")
+        wait_for(
+            lambda: self.outer_area(server, root) == (0, 0, 1024, 768 - 16),
+            "the window to fit the display",
+        )
+
+    @staticmethod
+    def outer_area(server, root):
+        """Where the program's window stands with its frame: left, top, width and height."""
+        clients = root.get_full_property(
+            server.intern_atom("_NET_CLIENT_LIST"), X.AnyPropertyType
+        ).value
+        window = server.create_resource_object("window", clients[0])
+        left, right, top, bottom = window.get_full_property(
+            server.intern_atom("_NET_FRAME_EXTENTS"), X.AnyPropertyType
+        ).value
+        assert top > 0, "openbox draws a title bar"
+        size = window.get_geometry()
+        place = root.translate_coords(window, 0, 0)
+        return (
+            place.x - left,
+            place.y - top,
+            size.width + left + right,
+            size.height + top + bottom,
+        )
+
 
 class Starts(Case):
     def test_without_a_configuration_file(self):
@@ -65,6 +153,30 @@ class Starts(Case):
         self.assertEqual(program.message(), "Couldn't find TarnWin.ini")
         program.answer("OK")
         self.assertEqual(program.wait_for_end(), 1)
+
+    def settle_default_place(self):
+        """Put the configuration where it is looked for without the option."""
+        place = os.path.join(self.folder, "default")
+        shutil.copytree(self.house.config, os.path.join(place, "tarn"))
+        return {"XDG_CONFIG_HOME": place}
+
+    def test_with_the_configuration_in_the_default_place(self):
+        program = self.start(environment=self.settle_default_place())
+        program.press("SELECT PROJECT")
+        program.see("push button", "DONE")
+        self.assertEqual(program.boxes(), [])
+
+    def test_with_a_directory_given_no_other_is_used(self):
+        default = self.settle_default_place()
+        empty = os.path.join(self.folder, "nothing")
+        os.mkdir(empty)
+        for given in (empty, ""):
+            with self.subTest(given), self.start(
+                "--config-dir", given, environment=default
+            ) as program:
+                self.assertEqual(program.message(), "Couldn't find TarnWin.ini")
+                program.answer("OK")
+                self.assertEqual(program.wait_for_end(), 1)
 
     def test_without_a_database_it_says_so_when_it_is_needed(self):
         os.remove(self.house.database)
@@ -79,6 +191,25 @@ class Starts(Case):
     def test_closing_the_window_by_its_frame_ends_it(self):
         program = self.start("--config-dir", self.house.config)
         program.see("push button", "SELECT PROJECT")
+        program.close_by_frame()
+        self.assertEqual(program.wait_for_end(), 0)
+
+    def start_with_a_menu(self):
+        program = self.start("--config-dir", self.house.config)
+        program.press("SELECT PROJECT")
+        program.press("NEW PROJECT")
+        program.type("P")
+        program.press("DONE")
+        program.see("label", "OPERATION MENU")
+        return program
+
+    def test_exit_of_the_menu_ends_it(self):
+        program = self.start_with_a_menu()
+        program.click("menu item", "Exit")
+        self.assertEqual(program.wait_for_end(), 0)
+
+    def test_closing_the_menu_by_its_frame_ends_it(self):
+        program = self.start_with_a_menu()
         program.close_by_frame()
         self.assertEqual(program.wait_for_end(), 0)
 
