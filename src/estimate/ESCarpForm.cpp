@@ -4,20 +4,26 @@
 #include "app/Display.h"
 #include "app/ElidedLabel.h"
 #include "app/Numbers.h"
+#include "app/OutputFile.h"
 #include "app/QtText.h"
 #include "app/RunTimeError.h"
 #include "app/Theme.h"
 #include "estimate/EstimatePage.h"
 #include "estimate/LayoutDrawing.h"
 #include "estimate/RunEstimate.h"
+#include "estimate/Svg.h"
+#include "print/PdfFile.h"
 #include "rooms/Report.h"
 #include "rooms/RoomExtents.h"
 
+#include <QAction>
 #include <QEvent>
+#include <QMenu>
 #include <QPushButton>
+#include <QTimer>
 #include <QVBoxLayout>
 
-#include <algorithm>
+#include <utility>
 
 namespace tarn {
 
@@ -27,6 +33,9 @@ constexpr const char* NoDataMessage = "There is not data in the database";
 constexpr const char* EstimateFailure = "The estimate could not be made.";
 constexpr const char* DrawingFailure = "The layout could not be drawn.";
 constexpr const char* SaveFailure = "The project could not be saved.";
+constexpr const char* PictureFailure = "The picture could not be saved.";
+constexpr const char* PasteHint =
+    "Then click where the cut list is to stand, or press Enter for the top left of the view.";
 constexpr const char* LeaveFailure = "The screen could not be closed.";
 
 constexpr double LeastPictureWidth = 4500; ///< twips
@@ -54,9 +63,15 @@ ESCarpForm::ESCarpForm(Session& session, bool fromMenu)
     panel_->ChooseDefaultWidth();
     panel_->setVisible(carpets.Lowest.has_value());
     if (!carpets.Lowest) {
-        Shared().Boxes.Message(NoDataMessage);
-        buttons_[Back]->setEnabled(true);
+        // When this screen is in front: the box is about it.
+        QTimer::singleShot(0, this, [this] { Guard({}, [this] { TellNoData(); }); });
     }
+}
+
+void ESCarpForm::TellNoData() {
+    Shared().Boxes.Message(NoDataMessage);
+    buttons_[Back]->setEnabled(true);
+    buttons_[Back]->setFocus();
 }
 
 void ESCarpForm::Build() {
@@ -70,6 +85,7 @@ void ESCarpForm::Build() {
 
     picture_ = new PictureBox(&Body(), Shared().Boxes);
     picture_->setMinimumSize(Pixels(LeastPictureWidth), Pixels(LeastPictureHeight));
+    BuildPictureMenu();
     auto* columns = new QHBoxLayout;
     columns->setSpacing(margin);
     columns->addWidget(picture_, 1);
@@ -82,8 +98,8 @@ void ESCarpForm::Build() {
         NewElidedLabel(&Body(), "Label2", QStringLiteral("PROJ: ") + name, TextRole::Label), 1);
     zoomHint_ = NewLabel(&Body(), QStringLiteral("Label5"), FromQt(PictureBox::ZoomHint()));
     SetRole(*zoomHint_, TextRole::Hint);
-    zoomHint_->hide();
     status->addWidget(zoomHint_);
+    OfferDrawing();
     rows->addLayout(status);
 
     panel_ = new ChoicePanel(&Body(), Shared().Boxes, State().IsMetric());
@@ -107,6 +123,7 @@ QVBoxLayout* ESCarpForm::BuildButtons() {
     buttons_[Save] = NewButton(&Body(), QStringLiteral("Command6"), "SAVE", 'S');
     buttons_[Redraw] = NewButton(&Body(), QStringLiteral("Command7"), "REDRAW", 'R');
     SetPrimary(*buttons_[Estimate]);
+    buttons_[PasteCut]->setToolTip(QString::fromLatin1(PasteHint));
     auto* column = new QVBoxLayout;
     column->setSpacing(Pixels(Metrics::Spacing));
     for (const ButtonIndex index : {Estimate, PasteCut, Redraw, Print, Save, Back}) {
@@ -118,6 +135,26 @@ QVBoxLayout* ESCarpForm::BuildButtons() {
         column->addWidget(buttons_[index]);
     }
     return column;
+}
+
+/// A child of the picture that pops up without waiting, so that the screen may close under it.
+void ESCarpForm::BuildPictureMenu() {
+    pictureMenu_ = new QMenu(picture_);
+    const auto add = [this](const char* name, const char* text, std::function<void()> save) {
+        QAction* action = pictureMenu_->addAction(QString::fromLatin1(text));
+        action->setObjectName(QString::fromLatin1(name));
+        connect(action, &QAction::triggered, this,
+                [this, save = std::move(save)] { Guard(PictureFailure, save); });
+    };
+    add("SavePdf", "Save as &PDF", [this] {
+        SavePicture("pdf", [this](const std::string& path) { WriteEstimatePdf(Page(), path); });
+    });
+    add("SaveSvg", "Save as &SVG", [this] {
+        SavePicture("svg", [this](const std::string& path) {
+            WriteOutputFile(path, SvgDocument(picture_->Drawing(), FromQt(windowTitle())));
+        });
+    });
+    picture_->ContextMenu = [this](QPoint global) { pictureMenu_->popup(global); };
 }
 
 void ESCarpForm::Connect() {
@@ -148,14 +185,18 @@ void ESCarpForm::OnUncover() {
 bool ESCarpForm::eventFilter(QObject* watched, QEvent* event) {
     const bool resized = event->type() == QEvent::Resize && watched == &Body();
     if (resized || event->type() == QEvent::LayoutRequest ||
-        event->type() == QEvent::ShowToParent) {
+        event->type() == QEvent::ShowToParent || event->type() == QEvent::HideToParent) {
         Guard(DrawingFailure, [this] { PlacePanel(); });
     }
     return Screen::eventFilter(watched, event);
 }
 
-/// The panel floats over the middle of the screen, which scrolls where the panel does not fit.
+/// The panel floats over the middle of the screen, which scrolls where the open panel does not fit.
 void ESCarpForm::PlacePanel() {
+    if (panel_->isHidden()) {
+        Body().setMinimumSize(0, 0);
+        return;
+    }
     const QSize size = panel_->sizeHint();
     const int margins = 2 * Pixels(Metrics::Margin);
     const QSize least = size + QSize(margins, margins);
@@ -193,6 +234,26 @@ void ESCarpForm::Empty() {
     EmptyEstimate(State(), Shared().Engine, estimate_);
     picture_->Drawing().Cls();
     picture_->ShowFromStart();
+    OfferDrawing();
+}
+
+/// Every change is drawn into a copy first: a failure leaves the picture as it was.
+void ESCarpForm::ShowDrawing(Picture drawing, bool fromStart) {
+    picture_->Drawing() = std::move(drawing);
+    if (fromStart) {
+        picture_->ShowFromStart();
+    } else {
+        picture_->ShowChanged();
+    }
+    OfferDrawing();
+}
+
+void ESCarpForm::OfferDrawing() {
+    const bool drawn = !picture_->Drawing().Steps().empty();
+    zoomHint_->setVisible(drawn);
+    for (QAction* action : pictureMenu_->actions()) {
+        action->setEnabled(drawn);
+    }
 }
 
 void ESCarpForm::TakeOk() {
@@ -228,11 +289,10 @@ void ESCarpForm::MakeEstimate() {
 }
 
 void ESCarpForm::LayoutReady() {
-    Picture& drawing = picture_->Drawing();
+    Picture drawing = picture_->Drawing();
     RedrawPC(drawing, State(), Shared().Engine, estimate_);
     ShowECutsInfo(drawing, State(), Shared().Engine, estimate_, CutListX, CutListY);
-    picture_->ShowFromStart();
-    zoomHint_->show();
+    ShowDrawing(std::move(drawing), true);
 }
 
 void ESCarpForm::NoLayout() {
@@ -240,14 +300,18 @@ void ESCarpForm::NoLayout() {
 }
 
 void ESCarpForm::RedrawLayout() {
-    RedrawPC(picture_->Drawing(), State(), Shared().Engine, estimate_);
-    picture_->ShowChanged();
-    zoomHint_->show();
+    const bool fromStart = picture_->Drawing().Steps().empty();
+    Picture drawing = picture_->Drawing();
+    RedrawPC(drawing, State(), Shared().Engine, estimate_);
+    ShowDrawing(std::move(drawing), fromStart);
 }
 
 void ESCarpForm::SetPasteCuts(bool paste) {
     PasteCuts = paste;
     picture_->SetWaiting(paste);
+    if (paste && !picture_->isHidden()) {
+        picture_->setFocus();
+    }
 }
 
 bool ESCarpForm::PictureMouseDown(Double x, Double y) {
@@ -255,9 +319,10 @@ bool ESCarpForm::PictureMouseDown(Double x, Double y) {
         return false;
     }
     Guard(DrawingFailure, [&] {
+        Picture drawing = picture_->Drawing();
+        ShowECutsInfo(drawing, State(), Shared().Engine, estimate_, x, y);
+        ShowDrawing(std::move(drawing), false);
         SetPasteCuts(false);
-        ShowECutsInfo(picture_->Drawing(), State(), Shared().Engine, estimate_, x, y);
-        picture_->ShowChanged();
     });
     return true;
 }
@@ -279,10 +344,29 @@ void ESCarpForm::SendToPrinter() {
         State().PrnWidth = width;
         State().PrnHeight = height;
     }
+    Shared().Paper.PrintEstimate(Page());
+}
+
+EstimatePage ESCarpForm::Page() const {
     const QDate today = Shared().Today();
-    Shared().Paper.PrintEstimate(
-        MakeEstimatePage(State(), Shared().Engine, estimate_, picture_->Drawing(),
-                         ShortDate(today.year(), today.month(), today.day())));
+    return MakeEstimatePage(State(), Shared().Engine, estimate_, picture_->Drawing(),
+                            ShortDate(today.year(), today.month(), today.day()));
+}
+
+/// Every failure names the file, whoever raises it.
+void ESCarpForm::SavePicture(const char* suffix,
+                             const std::function<void(const std::string& path)>& write) {
+    const auto path = Shared().Boxes.SaveFileName(State().CurProjName, suffix);
+    if (!path) {
+        return;
+    }
+    try {
+        write(*path);
+    } catch (const OutputFileError&) {
+        throw;
+    } catch (const std::exception& error) {
+        throw OutputFileError("The file " + *path + " cannot be written: " + error.what());
+    }
 }
 
 void ESCarpForm::SaveRooms() {
@@ -292,11 +376,19 @@ void ESCarpForm::SaveRooms() {
     Shared().Boxes.Message(std::string(SavedMessage));
 }
 
+/// Loading the menu sets the unit to feet and inches; when that fails this screen goes on in its
+/// own.
 void ESCarpForm::Leave() {
-    if (FromMenu) {
-        Shared().Go.ShowMenu(MenuEntry::Returning);
-    } else {
-        Shared().Go.Return();
+    const Byte metric = State().MetricFlag;
+    try {
+        if (FromMenu) {
+            Shared().Go.ShowMenu(MenuEntry::Returning);
+        } else {
+            Shared().Go.Return();
+        }
+    } catch (...) {
+        State().MetricFlag = metric;
+        throw;
     }
 }
 

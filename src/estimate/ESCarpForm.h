@@ -1,21 +1,28 @@
 #pragma once
 
 #include "app/Screen.h"
+#include "app/Types.h"
 #include "engine/FillsClient.h"
 #include "estimate/CarpetEstimate.h"
 #include "estimate/ChoicePanel.h"
+#include "estimate/EstimatePage.h"
 #include "estimate/PictureBox.h"
 
 #include <array>
+#include <functional>
+#include <string>
 
+class QAction;
+class QLabel;
+class QMenu;
 class QPushButton;
 class QVBoxLayout;
 
 namespace tarn {
 
 /// The carpet estimate: one carpet of the open project at a time is cut, drawn and listed, printed
-/// and pasted. Its buttons can be used once the choice panel was closed for the first time; without
-/// a carpet room there is only the way back.
+/// and pasted. Its buttons can be used from the first OK or CANCEL of the choice panel on, whatever
+/// comes of it; without a carpet room there is only the way back, once a message has said so.
 class ESCarpForm : public Screen, public FillsClient {
   public:
     /// `fromMenu`: the menu opened it and is shown again when it closes; else the screen below it
@@ -37,7 +44,9 @@ class ESCarpForm : public Screen, public FillsClient {
 
     void Build();
     QVBoxLayout* BuildButtons();
+    void BuildPictureMenu();
     void Connect();
+    void TellNoData();
     void PlacePanel();
     void OpenPanel();
     void ClosePanel();
@@ -45,6 +54,8 @@ class ESCarpForm : public Screen, public FillsClient {
     void FocusResult();
 
     void Empty();
+    void ShowDrawing(Picture drawing, bool fromStart);
+    void OfferDrawing();
     void TakeOk();
     void MakeEstimate();
     void RedrawLayout();
@@ -52,6 +63,8 @@ class ESCarpForm : public Screen, public FillsClient {
     void SetPasteCuts(bool paste);
     void PrintPic();
     void SendToPrinter();
+    EstimatePage Page() const;
+    void SavePicture(const char* suffix, const std::function<void(const std::string& path)>& write);
     void SaveRooms();
     void Leave();
 
@@ -60,6 +73,7 @@ class ESCarpForm : public Screen, public FillsClient {
     CarpetEstimate estimate_;
     ChoicePanel* panel_ = nullptr;  ///< Frame7
     PictureBox* picture_ = nullptr; ///< Picture1
+    QMenu* pictureMenu_ = nullptr;
     QLabel* zoomHint_ = nullptr;
     std::array<QPushButton*, ButtonCount> buttons_{};
 };

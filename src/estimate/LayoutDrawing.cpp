@@ -24,6 +24,9 @@ constexpr Double BlockSize = 9;
 constexpr Double PieceSizeSize = 7;
 constexpr Double PieceSizeMargin = 40; ///< kept free at both sides of a size text
 
+constexpr const char* TooShortAdvice =
+    "The fills are shorter than 1 inch: check the sizes of this carpet's rooms.";
+
 /// Brings a picture's font size and colour back.
 class KeepPen {
   public:
@@ -47,7 +50,10 @@ class KeepPen {
 /// Twips per inch of roll: the larger of the two scales, so that neither side falls below its
 /// least.
 Double Scale(const EngineArrays& engine) {
-    if (engine.RollWidth == 0 || engine.ResultLen == 0) {
+    if (engine.ResultLen == 0) {
+        RaiseDivisionByZero(TooShortAdvice);
+    }
+    if (engine.RollWidth == 0) {
         RaiseDivisionByZero();
     }
     return std::max(LeastAcross / static_cast<Double>(engine.RollWidth),

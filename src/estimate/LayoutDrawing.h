@@ -12,8 +12,8 @@ enum class PieceSizes { Hidden, Shown };
 
 /// Clear `picture` and draw the roll with its pieces to scale, X across the roll, Y along it from
 /// the start at the top; or, without a piece, "NO FILLS TO DISPLAY". Leaves font size and colour as
-/// they were and makes the picture visible. Raises "Division by zero" for a RollWidth or ResultLen
-/// of 0 with pieces present.
+/// they were and makes the picture visible. Raises "Division by zero" for a RollWidth of 0 with
+/// pieces present, and for a ResultLen of 0 (fills shorter than an inch), with the way out.
 void RedrawPC(Picture& picture, const SharedState& state, const EngineArrays& engine,
               const CarpetEstimate& estimate, PieceSizes sizes = PieceSizes::Hidden);
 

@@ -2,6 +2,9 @@
 #include "app/Theme.h"
 #include "estimate/EstimateScreenTesting.h"
 
+#include <QScrollArea>
+#include <QScrollBar>
+
 #include <gmock/gmock.h>
 
 #include <set>
@@ -51,9 +54,10 @@ TEST_F(ChoicePanels, OfferTheCarpetsWithRoomsAndChooseTheLowest) {
 
 TEST_F(ChoicePanels, NeedACarpetRoom) {
     Open({{10, 10, 8}, {10, 10, 11}});
+    EXPECT_TRUE(QTest::qWaitFor([&] { return Button("Command2").isEnabled(); }));
     EXPECT_EQ(boxes.Messages, std::vector<std::string>{"There is not data in the database"});
     EXPECT_FALSE(Panel().isVisible());
-    EXPECT_TRUE(Button("Command2").isEnabled());
+    EXPECT_TRUE(Button("Command2").hasFocus());
     for (const char* name : {"Command3", "Command4", "Command5", "Command6", "Command7"}) {
         EXPECT_FALSE(Button(name).isEnabled()) << name;
     }
@@ -61,16 +65,20 @@ TEST_F(ChoicePanels, NeedACarpetRoom) {
     EXPECT_EQ(screens.Calls, std::vector<std::string>{"menu returning"});
 }
 
-TEST_F(ChoicePanels, LeaveBackDisabledWhileTheMessageStands) {
+TEST_F(ChoicePanels, TellThatThereIsNoDataInFrontAndLeaveBackDisabledUntilThen) {
+    bool inFront = false;
     bool enabled = true;
     boxes.OnMessage = [&] {
         for (const QWidget* widget : QApplication::allWidgets()) {
             if (widget->objectName() == QStringLiteral("Command2")) {
+                inFront = widget->isVisible();
                 enabled = widget->isEnabled();
             }
         }
     };
     Open({});
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !boxes.Messages.empty(); }));
+    EXPECT_TRUE(inFront);
     EXPECT_FALSE(enabled);
     EXPECT_TRUE(Button("Command2").isEnabled());
 }
@@ -285,6 +293,47 @@ TEST_F(ChoicePanels, ShareNoMnemonicWithTheRestOfTheScreen) {
         }
         EXPECT_GT(used.size(), 18U);
     }
+}
+
+TEST_F(ChoicePanels, GoToTheirControlsByTheirLetters) {
+    Open({{10, 10, 0}, {10, 10, 3}});
+    const auto press = [&](Qt::Key key) { Press(*form, key, Qt::AltModifier); };
+    press(Qt::Key_4);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return Option("Option1(3)").isChecked(); }));
+    press(Qt::Key_H);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return Option("Option1(15)").isChecked(); }));
+    press(Qt::Key_F);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return Box("Text1(0)").hasFocus(); }));
+    press(Qt::Key_N);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return Box("Text1(1)").hasFocus(); }));
+    press(Qt::Key_L);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return Option("Option2(1)").isChecked(); }));
+    press(Qt::Key_D);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return Option("Option2(0)").isChecked(); }));
+    press(Qt::Key_M);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return Control<QCheckBox>("Check1").isChecked(); }));
+    press(Qt::Key_W);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return Box("Text2(0)").hasFocus(); }));
+    press(Qt::Key_G);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return Box("Text2(1)").hasFocus(); }));
+    press(Qt::Key_O);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return boxes.Messages.size() == 1; })) << "no width";
+    press(Qt::Key_C);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !Panel().isVisible(); }));
+}
+
+TEST_F(ChoicePanels, LetTheScreenBeSmallOnceTheyAreClosed) {
+    Open({{10, 10}});
+    form->resize(500, 340);
+    auto& scroller = *form->findChild<QScrollArea*>();
+    QScrollBar& bar = *scroller.verticalScrollBar();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return bar.maximum() > 0; })) << "the panel needs more";
+    scroller.ensureWidgetVisible(&Button("Command1(1)"));
+    Click(Button("Command1(1)"));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return bar.maximum() == 0; }));
+    EXPECT_EQ(Control("Body").height(), scroller.viewport()->height());
+    Click(Button("Command3"));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return bar.maximum() > 0; }));
 }
 
 TEST_F(ChoicePanels, ScrollIntoReachOnAScreenThatIsTooSmall) {
