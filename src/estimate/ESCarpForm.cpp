@@ -9,6 +9,7 @@
 #include "app/RunTimeError.h"
 #include "app/Theme.h"
 #include "estimate/EstimatePage.h"
+#include "estimate/ImprovePanel.h"
 #include "estimate/LayoutDrawing.h"
 #include "estimate/RunEstimate.h"
 #include "estimate/Svg.h"
@@ -20,6 +21,7 @@
 #include <QEvent>
 #include <QMenu>
 #include <QPushButton>
+#include <QStyle>
 #include <QTimer>
 #include <QVBoxLayout>
 
@@ -104,12 +106,13 @@ void ESCarpForm::Build() {
 
     panel_ = new ChoicePanel(&Body(), Shared().Boxes, State().IsMetric());
     panel_->raise();
+    improvePanel_ = new ImprovePanel(&Body(), State().IsMetric());
     Body().installEventFilter(this);
     panel_->installEventFilter(this);
     QWidget::setTabOrder(&panel_->CancelButton(), buttons_[Estimate]);
     for (const auto& [before, after] :
-         {std::pair(Estimate, PasteCut), std::pair(PasteCut, Redraw), std::pair(Redraw, Print),
-          std::pair(Print, Save), std::pair(Save, Back)}) {
+         {std::pair(Estimate, Improve), std::pair(Improve, PasteCut), std::pair(PasteCut, Redraw),
+          std::pair(Redraw, Print), std::pair(Print, Save), std::pair(Save, Back)}) {
         QWidget::setTabOrder(buttons_[before], buttons_[after]);
     }
     QWidget::setTabOrder(buttons_[Back], picture_);
@@ -122,11 +125,12 @@ QVBoxLayout* ESCarpForm::BuildButtons() {
     buttons_[Print] = NewButton(&Body(), QStringLiteral("Command5"), "PRINT", 'I');
     buttons_[Save] = NewButton(&Body(), QStringLiteral("Command6"), "SAVE", 'S');
     buttons_[Redraw] = NewButton(&Body(), QStringLiteral("Command7"), "REDRAW", 'R');
+    buttons_[Improve] = NewButton(&Body(), QStringLiteral("Command8"), "IMPROVE", 'V');
     SetPrimary(*buttons_[Estimate]);
     buttons_[PasteCut]->setToolTip(QString::fromLatin1(PasteHint));
     auto* column = new QVBoxLayout;
     column->setSpacing(Pixels(Metrics::Spacing));
-    for (const ButtonIndex index : {Estimate, PasteCut, Redraw, Print, Save, Back}) {
+    for (const ButtonIndex index : {Estimate, Improve, PasteCut, Redraw, Print, Save, Back}) {
         if (index == Back) {
             column->addStretch();
         }
@@ -166,6 +170,7 @@ void ESCarpForm::Connect() {
     OnClick(*buttons_[Estimate], EstimateFailure, [this] { OpenPanel(); });
     OnClick(*buttons_[PasteCut], DrawingFailure, [this] { SetPasteCuts(true); });
     OnClick(*buttons_[Redraw], DrawingFailure, [this] { RedrawLayout(); });
+    OnClick(*buttons_[Improve], DrawingFailure, [this] { ImproveLayout(); });
     OnClick(*buttons_[Print], {}, [this] { PrintPic(); });
     OnClick(*buttons_[Save], SaveFailure, [this] { SaveRooms(); });
     OnClick(*buttons_[Back], LeaveFailure, [this] { Leave(); });
@@ -193,6 +198,9 @@ bool ESCarpForm::eventFilter(QObject* watched, QEvent* event) {
 
 /// The panel floats over the middle of the screen, which scrolls where the open panel does not fit.
 void ESCarpForm::PlacePanel() {
+    const QSize improveSize = improvePanel_->sizeHint().expandedTo(improvePanel_->minimumSize());
+    improvePanel_->setGeometry(
+        QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, improveSize, Body().rect()));
     if (panel_->isHidden()) {
         Body().setMinimumSize(0, 0);
         return;
@@ -220,6 +228,7 @@ void ESCarpForm::EnableButtons() {
     for (QPushButton* button : buttons_) {
         button->setEnabled(true);
     }
+    EnableImprove();
 }
 
 void ESCarpForm::FocusResult() {
@@ -251,6 +260,7 @@ void ESCarpForm::ShowDrawing(Picture drawing, bool fromStart) {
 void ESCarpForm::OfferDrawing() {
     const bool drawn = !picture_->Drawing().Steps().empty();
     zoomHint_->setVisible(drawn);
+    EnableImprove();
     for (QAction* action : pictureMenu_->actions()) {
         action->setEnabled(drawn);
     }

@@ -20,6 +20,8 @@ class QVBoxLayout;
 
 namespace tarn {
 
+class ImprovePanel;
+
 /// The carpet estimate: one carpet of the open project at a time is cut, drawn and listed, printed
 /// and pasted. Its buttons can be used from the first OK or CANCEL of the choice panel on, whatever
 /// comes of it; without a carpet room there is only the way back, once a message has said so.
@@ -35,12 +37,12 @@ class ESCarpForm : public Screen, public FillsClient {
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   protected:
-    void OnCloseByFrame() override { Leave(); }
+    void OnCloseByFrame() override;
     void OnUncover() override;
     QWidget* FirstFocus() override;
 
   private:
-    enum ButtonIndex { Back, Estimate, PasteCut, Print, Save, Redraw, ButtonCount };
+    enum ButtonIndex { Back, Estimate, PasteCut, Print, Save, Redraw, Improve, ButtonCount };
 
     void Build();
     QVBoxLayout* BuildButtons();
@@ -51,6 +53,7 @@ class ESCarpForm : public Screen, public FillsClient {
     void OpenPanel();
     void ClosePanel();
     void EnableButtons();
+    void EnableImprove();
     void FocusResult();
 
     void Empty();
@@ -59,6 +62,7 @@ class ESCarpForm : public Screen, public FillsClient {
     void TakeOk();
     void MakeEstimate();
     void RedrawLayout();
+    void ImproveLayout();
     bool PictureMouseDown(Double x, Double y);
     void SetPasteCuts(bool paste);
     void PrintPic();
@@ -73,6 +77,7 @@ class ESCarpForm : public Screen, public FillsClient {
     CarpetEstimate estimate_;
     ChoicePanel* panel_ = nullptr;  ///< Frame7
     PictureBox* picture_ = nullptr; ///< Picture1
+    ImprovePanel* improvePanel_ = nullptr;
     QMenu* pictureMenu_ = nullptr;
     QLabel* zoomHint_ = nullptr;
     std::array<QPushButton*, ButtonCount> buttons_{};

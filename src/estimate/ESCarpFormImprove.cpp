@@ -1,0 +1,91 @@
+// The improving search of the estimate screen.
+
+#include "app/QtText.h"
+#include "estimate/ESCarpForm.h"
+#include "estimate/ImproveEstimate.h"
+#include "estimate/ImprovePanel.h"
+#include "estimate/Improvement.h"
+
+#include <QPushButton>
+
+#include <vector>
+
+namespace tarn {
+
+namespace {
+
+constexpr const char* ImproveFailure = "The layout could not be improved.";
+
+/// Takes every control of `parent` but one out of use while it lives.
+class OthersDisabled {
+  public:
+    OthersDisabled(const QWidget& parent, const QWidget& but) {
+        for (auto* child : parent.findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
+            if (child != &but && child->isEnabled()) {
+                child->setEnabled(false);
+                disabled_.push_back(child);
+            }
+        }
+    }
+    ~OthersDisabled() {
+        for (QWidget* widget : disabled_) {
+            widget->setEnabled(true);
+        }
+    }
+    OthersDisabled(const OthersDisabled&) = delete;
+    OthersDisabled& operator=(const OthersDisabled&) = delete;
+
+  private:
+    std::vector<QWidget*> disabled_;
+};
+
+std::string NothingBetterText(const ImproveResult& result) {
+    std::string text = "No better layout was found";
+    if (result.Bound > 0) {
+        text +=
+            ": this one is " + LeastPossibleText(static_cast<Double>(result.Length), result.Bound);
+    }
+    return text + ".";
+}
+
+} // namespace
+
+void ESCarpForm::EnableImprove() {
+    buttons_[Improve]->setEnabled(buttons_[Estimate]->isEnabled() && Shared().Engine.PosCount > 0);
+}
+
+void ESCarpForm::ImproveLayout() {
+    SetPasteCuts(false);
+    ImproveResult result;
+    const bool done = Guard(ImproveFailure, [&] {
+        const OthersDisabled others(Body(), *improvePanel_);
+        result = improvePanel_->Run([this](const ImproveLimits& limits, ImproveObserver& observer) {
+            return ImproveEstimate(State(), Shared().Engine, estimate_, limits, observer);
+        });
+    });
+    FocusResult();
+    if (!done) {
+        return;
+    }
+    if (!result.Improved) {
+        Shared().Boxes.Message(NothingBetterText(result));
+        return;
+    }
+    try {
+        LayoutReady();
+    } catch (const std::exception&) {
+        Empty();
+        throw;
+    }
+}
+
+/// Closing while a search improves the layout ends the search alone.
+void ESCarpForm::OnCloseByFrame() {
+    if (improvePanel_->IsRunning()) {
+        improvePanel_->Stop();
+        return;
+    }
+    Leave();
+}
+
+} // namespace tarn
