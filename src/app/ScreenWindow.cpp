@@ -95,6 +95,9 @@ void ScreenWindow::Fit() {
 }
 
 void ScreenWindow::FitAgainToANewFrame() {
+    if (windowState() != Qt::WindowNoState) {
+        return; // the user's own doing, in which the frame may be another one
+    }
     // A window manager tells the frame only once it has drawn it, by moving or resizing the window.
     const QMargins frame = FrameMargins(*this);
     if (frame != frame_ && refitsLeft_ > 0) {

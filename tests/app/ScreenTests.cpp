@@ -56,6 +56,13 @@ using TitledScreens = Screens_;
 using Guards = Screens_;
 using ScreenWindows = Screens_;
 
+/// Process what is waiting, and what that sets off.
+void SettleEvents() {
+    for (int i = 0; i < 3; ++i) {
+        QCoreApplication::processEvents();
+    }
+}
+
 int TopInBody(const QWidget& widget) {
     return widget.geometry().top();
 }
@@ -229,12 +236,29 @@ TEST_F(ScreenWindows, AreNotFittedAgainWhenTheyComeBackFromTheTaskBar) {
     ScreenWindow window;
     window.Replace(std::make_unique<PlainScreen>(session));
     window.show();
-    QCoreApplication::processEvents();
+    SettleEvents();
     window.resize(500, 400);
     QShowEvent shown;
     QSpontaneKeyEvent::setSpontaneous(&shown);
     qApp->notify(&window, &shown); // sendEvent would take the mark away
-    QCoreApplication::processEvents();
+    SettleEvents();
+    EXPECT_EQ(window.size(), QSize(500, 400));
+}
+
+TEST_F(ScreenWindows, StayAsLargeAsTheUserMakesThem) {
+    ScreenWindow window;
+    window.Replace(std::make_unique<PlainScreen>(session));
+    window.show();
+    SettleEvents();
+    window.resize(500, 400);
+    SettleEvents();
+    const QMargins frame = FrameMargins(window);
+    window.showFullScreen();
+    SettleEvents();
+    ASSERT_NE(FrameMargins(window), frame);
+    window.showNormal();
+    SettleEvents();
+    ASSERT_EQ(FrameMargins(window), frame);
     EXPECT_EQ(window.size(), QSize(500, 400));
 }
 
