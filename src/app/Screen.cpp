@@ -2,12 +2,43 @@
 
 #include "app/Guard.h"
 
+#include <QCoreApplication>
 #include <QKeyEvent>
 #include <QMenuBar>
 #include <QPushButton>
 #include <QVBoxLayout>
 
 namespace tarn {
+
+namespace {
+
+/// Scrolls to what takes the focus, but not under a mouse that is pressing it: a click whose button
+/// moved away is none. The scroll area itself follows the Tab key alone.
+class FocusFollower : public QObject {
+  public:
+    FocusFollower(QScrollArea& scroller, const QWidget& body)
+        : scroller_(scroller)
+        , body_(body) {
+        QCoreApplication::instance()->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() == QEvent::FocusIn && watched->isWidgetType()) {
+            auto* widget = static_cast<QWidget*>(watched);
+            const auto reason = static_cast<QFocusEvent*>(event)->reason();
+            if (reason != Qt::MouseFocusReason && body_.isAncestorOf(widget)) {
+                scroller_.ensureWidgetVisible(widget);
+            }
+        }
+        return false;
+    }
+
+  private:
+    QScrollArea& scroller_;
+    const QWidget& body_;
+};
+
+} // namespace
 
 Screen::Screen(Session& session, const QString& name)
     : session_(session) {
@@ -21,6 +52,7 @@ Screen::Screen(Session& session, const QString& name)
     body_ = new QWidget;
     body_->setObjectName(QStringLiteral("Body"));
     scroller_->setWidget(body_);
+    follower_ = std::make_unique<FocusFollower>(*scroller_, *body_);
     layout->addWidget(scroller_);
 }
 

@@ -7,6 +7,7 @@
 #include <QWidget>
 
 #include <functional>
+#include <memory>
 #include <string>
 
 class QAbstractButton;
@@ -15,7 +16,8 @@ class QMenuBar;
 namespace tarn {
 
 /// One screen of the program, as the window shows it: an optional menu bar, and a body that scrolls
-/// where it does not fit. Everything that acts runs under the guard (see app/Guard.h).
+/// where it does not fit, to whatever takes the focus. Everything that acts runs under the guard
+/// (see app/Guard.h).
 class Screen : public QWidget {
   public:
     Screen(Session& session, const QString& name);
@@ -58,6 +60,7 @@ class Screen : public QWidget {
     QMenuBar* menus_ = nullptr;
     QScrollArea* scroller_ = nullptr;
     QWidget* body_ = nullptr;
+    std::unique_ptr<QObject> follower_; ///< gone before what it follows
     bool shown_ = false;
 };
 

@@ -67,6 +67,35 @@ int TopInBody(const QWidget& widget) {
     return widget.geometry().top();
 }
 
+/// A screen whose second button stands further down than it shows.
+struct LongScreen : PlainScreen {
+    explicit LongScreen(Session& session)
+        : PlainScreen(session, 2000) {
+        Far = NewButton(First, QStringLiteral("Far"), "FAR");
+        Far->move(0, 1900);
+    }
+    bool IsSeen(const QWidget& widget) {
+        const QRect area(QPoint(), widget.size());
+        return widget.visibleRegion().boundingRect() == area;
+    }
+
+    QPushButton* Far;
+};
+
+TEST_F(TitledScreens, ScrollToWhatTakesTheFocusButNotUnderAMouse) {
+    LongScreen screen(session);
+    ShowOnDisplay(screen);
+    ASSERT_FALSE(screen.IsSeen(*screen.Far));
+    screen.Far->setFocus();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return screen.IsSeen(*screen.Far); }));
+    EXPECT_FALSE(screen.IsSeen(*screen.Button));
+    screen.Button->setFocus(Qt::TabFocusReason);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return screen.IsSeen(*screen.Button); }));
+    screen.Far->setFocus(Qt::MouseFocusReason);
+    EXPECT_TRUE(screen.IsSeen(*screen.Button));
+    EXPECT_TRUE(screen.Far->hasFocus());
+}
+
 TEST_F(TitledScreens, CentreThePanelAndPlaceTheTitlesAboveIt) {
     PlainScreen screen(session);
     ShowOnDisplay(screen);
