@@ -163,6 +163,9 @@ TEST(RedrawPC, AReportedLengthOfZeroWithPiecesIsADivisionByZeroAndLeavesThePen) 
         const RunTimeError error =
             ErrorOf([&] { RedrawPC(picture, job.State, job.Engine, job.Estimate); });
         EXPECT_EQ(error.Number(), DivisionByZeroNumber);
+        EXPECT_EQ(error.Advice(), length > 0 ? ""
+                                             : "The fills are shorter than 1 inch: check the sizes "
+                                               "of this carpet's rooms.");
         EXPECT_EQ(picture.FontSize, 10);
         EXPECT_EQ(picture.ForeColor, QBColor::Green);
         EXPECT_TRUE(picture.Steps().empty());
