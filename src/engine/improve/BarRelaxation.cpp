@@ -12,10 +12,11 @@ namespace tarn {
 
 namespace {
 
-constexpr std::size_t MostRows = 250;     ///< different fills beyond which it would take too long
-constexpr std::size_t FewFills = 80;      ///< up to here every fill has a row of its own
-constexpr Long LargestWidth = 4000;       ///< widths are rounded down to fit below
-constexpr Double PriceScale = 1e6;        ///< prices in whole numbers
+constexpr std::size_t MostRows = 250; ///< different fills beyond which it would take too long
+constexpr std::size_t FewFills = 80;  ///< up to here every fill has a row of its own
+constexpr Long LargestWidth = 4000;   ///< widths are rounded down to fit below
+constexpr Double PriceScale = 1e6;    ///< prices in whole numbers
+constexpr Double Negligible = 1e-6;
 constexpr std::size_t ColumnsPerRow = 12; ///< a limit on the cross sections tried
 
 /// Fills that are counted together: those of one width in a large job.
@@ -68,7 +69,7 @@ Long BoundOf(const std::vector<Row>& rows, const std::vector<std::int64_t>& wort
 
 } // namespace
 
-Long BarRelaxationBound(const ImproveJob& job, const std::function<bool()>& goOn) {
+Long BarRelaxationBound(const ImproveJob& job, Long known, const std::function<bool()>& goOn) {
     const std::vector<Row> rows = RowsOf(job);
     if (rows.empty() || rows.size() > MostRows) {
         return 0;
@@ -89,6 +90,9 @@ Long BarRelaxationBound(const ImproveJob& job, const std::function<bool()>& goOn
     Long bound = 0;
     for (std::size_t tries = 0; tries < ColumnsPerRow * rows.size() && goOn(); ++tries) {
         simplex.RemoveNegativePrices(rows.size());
+        if (simplex.Total() <= known + Negligible) {
+            break; // the least length of cross sections only gets less from here
+        }
         const std::vector<Double> prices = simplex.Prices();
         std::transform(prices.begin(), prices.end(), worth.begin(), [](Double price) {
             const Double scaled = std::floor(price * PriceScale);

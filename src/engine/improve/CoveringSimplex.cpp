@@ -33,6 +33,14 @@ std::vector<Double> CoveringSimplex::Prices() const {
     return prices;
 }
 
+Double CoveringSimplex::Total() const {
+    Double total = 0;
+    for (std::size_t row = 0; row < rows_; ++row) {
+        total += cost_[row] * amount_[row];
+    }
+    return total;
+}
+
 void CoveringSimplex::RemoveNegativePrices(std::size_t most) {
     for (std::size_t tries = 0; tries < most; ++tries) {
         const std::vector<Double> prices = Prices();

@@ -17,6 +17,9 @@ class CoveringSimplex {
 
     /// The prices of the rows in the basis.
     std::vector<Double> Prices() const;
+    /// The sum of x in the basis: the least there is over the columns so far, once no price is
+    /// negative and none of them is worth more than its cost.
+    Double Total() const;
     /// Bring rows with a negative price to 0, as long as that goes on, up to `most` times.
     void RemoveNegativePrices(std::size_t most);
     /// Take a column of cost 1 into the basis. False when it cannot be.

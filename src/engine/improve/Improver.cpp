@@ -14,11 +14,12 @@ namespace tarn {
 
 namespace {
 
-constexpr Double FirstEffort = 2000; ///< steps for one roof in the first round
-constexpr Double EffortGrowth = 1.5; ///< a round
-constexpr std::size_t FirstStarts = 5;
-constexpr std::size_t LaterStarts = 8;
-constexpr int FirstRounds = 3;
+constexpr Double FirstEffort = 8000;  ///< steps from one start in the first round
+constexpr Double EffortGrowth = 1.5;  ///< a round
+constexpr Double ShortenShare = 0.05; ///< of the steps from one start
+constexpr Double PolishShare = 0.05;
+constexpr std::size_t StartsPerRoof = 4;
+constexpr std::size_t BestStarts = 12;     ///< that take turns
 constexpr std::int64_t LastPolish = 20000; ///< steps without a gain, when no layout is shorter
 
 std::unique_ptr<Plan> PlanOf(const ImproveJob& job) {
@@ -39,16 +40,16 @@ class Improver {
         run_.RaiseBound(QuickBound(run_.Job()));
         starts_ = RankedStarts(run_, *plan_);
         if (!run_.IsLeast() && !run_.Stopped()) {
-            run_.RaiseBound(BarRelaxationBound(run_.Job(), [this] { return run_.Ask(); }));
+            run_.RaiseBound(
+                BarRelaxationBound(run_.Job(), run_.Bound(), [this] { return run_.Ask(); }));
         }
         for (int round = 0; !run_.IsLeast() && !run_.Stopped(); ++round) {
-            const std::size_t starts = round < FirstRounds ? FirstStarts : LaterStarts;
-            LowerRoof(std::min(starts, starts_.size()));
+            LowerRoof();
             if (!run_.Stopped()) {
                 ShortenStarts(round);
             }
             if (best_ && !run_.Stopped()) {
-                Polish(run_, *best_, run_.Best().Length, Steps(0.1), random_);
+                Polish(run_, *best_, run_.Best().Length, Steps(PolishShare), random_);
             }
             effort_ *= EffortGrowth;
         }
@@ -61,20 +62,20 @@ class Improver {
     std::int64_t Steps(Double share) const { return static_cast<std::int64_t>(effort_ * share); }
 
     /// Look for the lowest roof between the bound and the best below which all can be packed.
-    void LowerRoof(std::size_t starts) {
+    void LowerRoof() {
         Long low = run_.Bound();
         while (low < run_.Best().Length && !run_.Stopped()) {
             const Long roof = low + (run_.Best().Length - 1 - low) / 2;
-            if (!PackFromAny(roof, starts)) {
+            if (!PackFromAny(roof)) {
                 low = roof + 1;
             }
         }
     }
 
-    bool PackFromAny(Long roof, std::size_t starts) {
-        const std::int64_t steps = Steps(1.0 / static_cast<Double>(starts));
-        for (std::size_t i = 0; i < starts && !run_.Stopped(); ++i) {
-            if (PackBelow(run_, *plan_, starts_[i], roof, steps, random_)) {
+    bool PackFromAny(Long roof) {
+        for (std::size_t i = 0; i < StartsPerRoof && !run_.Stopped(); ++i) {
+            const PlanStart& start = starts_[next_++ % std::min(BestStarts, starts_.size())];
+            if (PackBelow(run_, *plan_, start, roof, Steps(1), random_)) {
                 best_ = plan_->Copy();
                 return true;
             }
@@ -83,16 +84,16 @@ class Improver {
     }
 
     void ShortenStarts(int round) {
-        constexpr std::size_t Tried = 8;
-        const std::size_t count = std::min(Tried, starts_.size());
+        const std::size_t count = std::min(BestStarts, starts_.size());
         const std::size_t start = static_cast<std::size_t>(round) % count;
-        Shorten(run_, *plan_, starts_[start], Steps(0.2), random_);
+        Shorten(run_, *plan_, starts_[start], Steps(ShortenShare), random_);
     }
 
     ImproveRun& run_;
     RandomSteps random_;
     std::unique_ptr<Plan> plan_;
     std::vector<PlanStart> starts_;
+    std::size_t next_ = 0; ///< start
     std::unique_ptr<Plan>
         best_; ///< packed all below the best length, when a roof was lowered to it
     Double effort_ = FirstEffort;

@@ -12,8 +12,7 @@ namespace tarn {
 class LeftFree {
   public:
     bool Holds(std::size_t step) const {
-        const auto* const end = steps_.begin() + count_;
-        return std::find(steps_.begin(), end, step) != end;
+        return std::find(steps_.begin(), steps_.begin() + count_, step) != steps_.begin() + count_;
     }
     /// Add, move or remove one of the steps 0 .. `last`.
     void Change(RandomSteps& random, std::size_t last) {

@@ -32,7 +32,7 @@ struct PartPlan::Choice {
 };
 
 PartPlan::PartPlan(const ImproveJob& job)
-    : job_(job)
+    : job_(&job)
     , area_(TotalArea(job))
     , orders_(StartOrders(job)) {
     for (std::size_t i = 0; i < job.Fills.size(); ++i) {
@@ -50,7 +50,7 @@ PartPlan::PartPlan(const ImproveJob& job)
 }
 
 std::size_t PartPlan::Orders() const {
-    return orders_.size() * static_cast<std::size_t>(LargestMostParts(job_));
+    return orders_.size() * static_cast<std::size_t>(LargestMostParts(*job_));
 }
 
 void PartPlan::Begin(std::size_t order, PlacingRule rule) {
@@ -60,9 +60,9 @@ void PartPlan::Begin(std::size_t order, PlacingRule rule) {
         const std::size_t fill = fills[place];
         const auto turns = static_cast<Long>(firstTurn_[fill + 1] - firstTurn_[fill]);
         const Long parts = std::min(turns, equalParts);
-        const Long share = (job_.Fills[fill].Length + parts - 1) / parts;
-        const Long step = job_.CutStep;
-        states_[fill] = {firstTurn_[fill], job_.Fills[fill].Length};
+        const Long share = (job_->Fills[fill].Length + parts - 1) / parts;
+        const Long step = job_->CutStep;
+        states_[fill] = {firstTurn_[fill], job_->Fills[fill].Length};
         for (std::size_t turn = firstTurn_[fill]; turn < firstTurn_[fill + 1]; ++turn) {
             turns_[turn] = {fill, static_cast<Long>(place), parts > 1 ? Cut::OfLength : Cut::Rest,
                             (share + step - 1) / step * step};
@@ -78,8 +78,12 @@ std::unique_ptr<Plan> PartPlan::Copy() const {
     return std::make_unique<PartPlan>(*this);
 }
 
+void PartPlan::TakeFrom(const Plan& other) {
+    *this = dynamic_cast<const PartPlan&>(other);
+}
+
 Area64 PartPlan::Unpacked(Long roof, Area64 limit) {
-    const Area64 slack = static_cast<Area64>(job_.Width) * roof - area_;
+    const Area64 slack = static_cast<Area64>(job_->Width) * roof - area_;
     if (!LayOut(roof, slack + limit, roof)) {
         return limit + 1;
     }
@@ -87,19 +91,19 @@ Area64 PartPlan::Unpacked(Long roof, Area64 limit) {
 }
 
 Area64 PartPlan::Length(Area64 limit) {
-    const Area64 slack = job_.Width * limit - area_;
+    const Area64 slack = job_->Width * limit - area_;
     return LayOut(NoWall, slack, limit) ? end_ : limit + 1;
 }
 
 bool PartPlan::LayOut(Long roof, Area64 mostWaste, Area64 farthest) {
-    skyline_.Reset(job_.Width);
+    skyline_.Reset(job_->Width);
     placed_.clear();
     placedArea_ = 0;
     end_ = 0;
-    open_.resize(job_.Fills.size());
+    open_.resize(job_->Fills.size());
     std::iota(open_.begin(), open_.end(), std::size_t{0});
     for (const std::size_t fill : open_) {
-        states_[fill] = {firstTurn_[fill], job_.Fills[fill].Length};
+        states_[fill] = {firstTurn_[fill], job_->Fills[fill].Length};
     }
     Area64 waste = 0;
     std::size_t step = 0;
@@ -137,8 +141,8 @@ bool PartPlan::LayOut(Long roof, Area64 mostWaste, Area64 farthest) {
 
 bool PartPlan::MayCut(const State& state, Long length) const {
     const std::size_t fill = turns_[state.Turn].Fill;
-    return state.Turn + 1 < firstTurn_[fill + 1] && length >= job_.MinPart &&
-           state.Rest - length >= job_.MinPart;
+    return state.Turn + 1 < firstTurn_[fill + 1] && length >= job_->MinPart &&
+           state.Rest - length >= job_->MinPart;
 }
 
 Long PartPlan::PartLength(const State& state, const Walls& walls, Long room) const {
@@ -167,15 +171,15 @@ Long PartPlan::PartLength(const State& state, const Walls& walls, Long room) con
 }
 
 PartPlan::Choice PartPlan::Choose(const Gap& gap, const Walls& walls, Long room) const {
-    Long narrowest = job_.Width;
+    Long narrowest = job_->Width;
     for (const std::size_t fill : open_) {
-        narrowest = std::min(narrowest, job_.Fills[fill].Width);
+        narrowest = std::min(narrowest, job_->Fills[fill].Width);
     }
-    const bool leaveRoom = rule_.LeaveRoom && gap.Width < job_.Width;
+    const bool leaveRoom = rule_.LeaveRoom && gap.Width < job_->Width;
     const Long widest = leaveRoom ? gap.Width - narrowest : gap.Width;
     Choice best;
     for (const std::size_t fill : open_) {
-        const Long width = job_.Fills[fill].Width;
+        const Long width = job_->Fills[fill].Width;
         if (width > gap.Width) {
             continue;
         }
@@ -198,7 +202,7 @@ PartPlan::Choice PartPlan::Choose(const Gap& gap, const Walls& walls, Long room)
 }
 
 void PartPlan::Put(const Gap& gap, const Walls& walls, const Choice& choice) {
-    const Long width = job_.Fills[choice.Fill].Width;
+    const Long width = job_->Fills[choice.Fill].Width;
     const Long x = skyline_.Place(gap, StandsLeft(choice.Fit, walls), width, choice.Length);
     placed_.push_back({choice.Fill, x, gap.Y, choice.Length});
     placedArea_ += static_cast<Area64>(width) * choice.Length;
@@ -212,14 +216,14 @@ void PartPlan::Put(const Gap& gap, const Walls& walls, const Choice& choice) {
 }
 
 std::size_t PartPlan::SomeTurn(RandomSteps& random) const {
-    const std::size_t fill = random.Below(job_.Fills.size());
+    const std::size_t fill = random.Below(job_->Fills.size());
     const std::size_t first = firstTurn_[fill];
     const std::size_t last = std::min(states_[fill].Turn, firstTurn_[fill + 1] - 1);
     return first + random.Below(last - first + 1);
 }
 
 Long PartPlan::SomeLength(RandomSteps& random, const ImproveFill& fill) const {
-    const auto other = [&] { return job_.Fills[random.Below(job_.Fills.size())].Length; };
+    const auto other = [&] { return job_->Fills[random.Below(job_->Fills.size())].Length; };
     Long length = 0;
     switch (random.Below(5)) {
     case 0:
@@ -238,7 +242,7 @@ Long PartPlan::SomeLength(RandomSteps& random, const ImproveFill& fill) const {
         length = static_cast<Long>(random.Below(static_cast<std::size_t>(fill.Length)));
         break;
     }
-    return std::max(job_.CutStep, WholeSteps(std::clamp(length, job_.MinPart, fill.Length)));
+    return std::max(job_->CutStep, WholeSteps(std::clamp(length, job_->MinPart, fill.Length)));
 }
 
 void PartPlan::ChangeRule(RandomSteps& random) {
@@ -252,7 +256,7 @@ void PartPlan::ChangeRule(RandomSteps& random) {
     Turn& turn = turns_[number];
     turn.Rule = static_cast<Cut>(random.Below(4));
     if (turn.Rule == Cut::OfLength) {
-        turn.Length = SomeLength(random, job_.Fills[fill]);
+        turn.Length = SomeLength(random, job_->Fills[fill]);
     }
 }
 
@@ -268,7 +272,7 @@ void PartPlan::Change(RandomSteps& random, bool skips) {
     skipsBefore_ = skips_;
     changes_ = 0;
     if (skips && random.Below(OneSkipIn) == 0) {
-        skips_.Change(random, 2 * job_.Fills.size());
+        skips_.Change(random, 2 * job_->Fills.size());
         if (random.Below(2) == 0) {
             return;
         }

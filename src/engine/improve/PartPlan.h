@@ -25,6 +25,7 @@ class PartPlan : public Plan {
     void Undo() override;
     std::vector<ImprovePart> Layout() const override { return placed_; }
     std::unique_ptr<Plan> Copy() const override;
+    void TakeFrom(const Plan& other) override;
 
   private:
     /// How long a part is.
@@ -53,7 +54,7 @@ class PartPlan : public Plan {
     Choice Choose(const Gap& gap, const Walls& walls, Long room) const;
     Long PartLength(const State& state, const Walls& walls, Long room) const;
     bool MayCut(const State& state, Long length) const;
-    Long WholeSteps(Long length) const { return length - length % job_.CutStep; }
+    Long WholeSteps(Long length) const { return length - length % job_->CutStep; }
     void Put(const Gap& gap, const Walls& walls, const Choice& choice);
 
     void ChangeRule(RandomSteps& random);
@@ -62,7 +63,7 @@ class PartPlan : public Plan {
     /// A turn that mattered in the last layout, or the one after it.
     std::size_t SomeTurn(RandomSteps& random) const;
 
-    const ImproveJob& job_;
+    const ImproveJob* job_;
     Area64 area_;
     std::vector<std::vector<std::size_t>> orders_;
     std::vector<std::size_t> firstTurn_; ///< by fill; one more at the end

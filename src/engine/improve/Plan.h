@@ -51,6 +51,8 @@ class Plan {
     virtual std::vector<ImprovePart> Layout() const = 0;
 
     virtual std::unique_ptr<Plan> Copy() const = 0;
+    /// Become the same as another plan of this kind and job.
+    virtual void TakeFrom(const Plan& other) = 0;
 };
 
 } // namespace tarn

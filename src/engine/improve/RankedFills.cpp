@@ -1,24 +1,18 @@
 #include "engine/improve/RankedFills.h"
 
 #include <algorithm>
-#include <bit>
 #include <utility>
 
 namespace tarn {
 
 namespace {
 
-constexpr std::size_t WordBits = 64;
 constexpr Long LargestTable = 4096; ///< values up to here are looked up instead of searched
-
-constexpr std::uint64_t BitOf(std::size_t rank) {
-    return std::uint64_t{1} << (rank % WordBits);
-}
 
 } // namespace
 
 RankedFills::RankedFills(const ImproveJob& job)
-    : job_(job)
+    : job_(&job)
     , words_((job.Fills.size() + WordBits - 1) / WordBits) {
     std::vector<Long> widths;
     std::vector<Long> lengths;
@@ -55,19 +49,6 @@ RankedFills::Measure RankedFills::Measured(const std::vector<Long>& values) {
         }
     }
     return measure;
-}
-
-std::ptrdiff_t RankedFills::Measure::LastUpTo(Long value) const {
-    if (value >= Values.back()) {
-        return static_cast<std::ptrdiff_t>(Values.size()) - 1;
-    }
-    if (value < Values.front()) {
-        return -1;
-    }
-    if (!UpTo.empty()) {
-        return UpTo[static_cast<std::size_t>(value)];
-    }
-    return std::upper_bound(Values.begin(), Values.end(), value) - Values.begin() - 1;
 }
 
 void RankedFills::Rank(const std::vector<std::size_t>& order) {
@@ -121,32 +102,44 @@ void RankedFills::TakeNone() {
     narrowest_ = 0;
 }
 
-void RankedFills::Take(std::size_t rank) {
-    remaining_[rank / WordBits] &= ~BitOf(rank);
-    --countOfWidth_[widths_.IndexOf[order_[rank]]];
-}
-
-Long RankedFills::Narrowest() {
-    while (countOfWidth_[narrowest_] == 0) {
-        ++narrowest_;
+RankedFills::Choice RankedFills::Choose(Long gapWidth, const Walls& walls, Long room, Long widest,
+                                        Long longest) const {
+    const std::ptrdiff_t across = widths_.LastUpTo(gapWidth);
+    if (across < 0) {
+        return {};
     }
-    return widths_.Values[narrowest_];
+    if (widths_.Value(across) == gapWidth && countOfWidth_[static_cast<std::size_t>(across)] > 0) {
+        const Choice filling = Filling(Row(widths_.Equal, across), walls, room);
+        if (filling.Fit != FitClass::None) {
+            return filling;
+        }
+    }
+    const Word* const fitting = Row(widths_.AtMost, across);
+    std::size_t rank = FirstOfLength(fitting, walls.Tall);
+    if (rank != NoRank) {
+        return {rank, FitClass::LevelTall};
+    }
+    rank = FirstOfLength(fitting, walls.Short);
+    if (rank != NoRank) {
+        return {rank, FitClass::LevelShort};
+    }
+    const std::ptrdiff_t narrower = widest == gapWidth ? across : widths_.LastUpTo(widest);
+    const std::ptrdiff_t along = lengths_.LastUpTo(longest);
+    if (narrower < 0 || along < 0) {
+        return {};
+    }
+    rank = FirstIn(Row(widths_.AtMost, narrower), Row(lengths_.AtMost, along));
+    return rank != NoRank ? Choice{rank, FitClass::Fits} : Choice{};
 }
 
-RankedFills::Choice RankedFills::Filling(Long width, Long longest, const Walls& walls) const {
+RankedFills::Choice RankedFills::Filling(const Word* row, const Walls& walls, Long room) const {
     Choice best;
-    const std::ptrdiff_t index = widths_.LastUpTo(width);
-    if (index < 0 || widths_.Values[static_cast<std::size_t>(index)] != width ||
-        countOfWidth_[static_cast<std::size_t>(index)] == 0) {
-        return best;
-    }
-    const Word* row = Row(widths_.Equal, index);
     for (std::size_t word = 0; word < words_; ++word) {
         for (Word bits = row[word] & remaining_[word]; bits != 0; bits &= bits - 1) {
             const std::size_t rank =
                 word * WordBits + static_cast<std::size_t>(std::countr_zero(bits));
-            const Long length = job_.Fills[order_[rank]].Length;
-            if (length > longest) {
+            const Long length = job_->Fills[order_[rank]].Length;
+            if (length > room) {
                 continue;
             }
             const FitClass fit = ClassOf(true, length, walls);
@@ -161,32 +154,12 @@ RankedFills::Choice RankedFills::Filling(Long width, Long longest, const Walls& 
     return best;
 }
 
-std::size_t RankedFills::FirstIn(const Word* a, const Word* b) const {
-    for (std::size_t word = 0; word < words_; ++word) {
-        const Word bits = a[word] & b[word] & remaining_[word];
-        if (bits != 0) {
-            return word * WordBits + static_cast<std::size_t>(std::countr_zero(bits));
-        }
-    }
-    return NoRank;
-}
-
-std::size_t RankedFills::FirstOfLength(Long width, Long length) const {
-    const std::ptrdiff_t across = widths_.LastUpTo(width);
+std::size_t RankedFills::FirstOfLength(const Word* row, Long length) const {
     const std::ptrdiff_t along = lengths_.LastUpTo(length);
-    if (across < 0 || along < 0 || lengths_.Values[static_cast<std::size_t>(along)] != length) {
+    if (along < 0 || lengths_.Value(along) != length) {
         return NoRank;
     }
-    return FirstIn(Row(widths_.AtMost, across), Row(lengths_.Equal, along));
-}
-
-std::size_t RankedFills::FirstUpTo(Long width, Long length) const {
-    const std::ptrdiff_t across = widths_.LastUpTo(width);
-    const std::ptrdiff_t along = lengths_.LastUpTo(length);
-    if (across < 0 || along < 0) {
-        return NoRank;
-    }
-    return FirstIn(Row(widths_.AtMost, across), Row(lengths_.AtMost, along));
+    return FirstIn(row, Row(lengths_.Equal, along));
 }
 
 } // namespace tarn

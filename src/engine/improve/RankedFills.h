@@ -3,6 +3,9 @@
 #include "engine/improve/FitClass.h"
 #include "engine/improve/ImproveJob.h"
 
+#include <algorithm>
+#include <bit>
+#include <cstddef>
 #include <cstdint>
 #include <vector>
 
@@ -24,25 +27,32 @@ class RankedFills {
 
     /// All fills remain.
     void TakeNone();
-    void Take(std::size_t rank);
+    void Take(std::size_t rank) {
+        remaining_[rank / WordBits] &= ~BitOf(rank);
+        --countOfWidth_[widths_.IndexOf[order_[rank]]];
+    }
     /// The least width among the remaining; not to be asked when none remains.
-    Long Narrowest();
+    Long Narrowest() {
+        while (countOfWidth_[narrowest_] == 0) {
+            ++narrowest_;
+        }
+        return widths_.Values[narrowest_];
+    }
 
     static constexpr std::size_t NoRank = static_cast<std::size_t>(-1);
     struct Choice {
         std::size_t Rank = NoRank;
         FitClass Fit = FitClass::None;
     };
-    /// Of the remaining fills exactly as wide as `width` and at most `longest` long, the earliest
-    /// of the best class.
-    Choice Filling(Long width, Long longest, const Walls& walls) const;
-    /// The earliest remaining fill at most `width` wide that is `length` long.
-    std::size_t FirstOfLength(Long width, Long length) const;
-    /// The earliest remaining fill at most `width` wide and at most `length` long.
-    std::size_t FirstUpTo(Long width, Long length) const;
+    /// The fill that is laid in a gap with `room` up to the roof: of the first class with a fill in
+    /// it the earliest one. Fills of no special length are at most `widest` wide and `longest`
+    /// long. No fill when none is left that fits.
+    Choice Choose(Long gapWidth, const Walls& walls, Long room, Long widest, Long longest) const;
 
   private:
     using Word = std::uint64_t;
+    static constexpr std::size_t WordBits = 64;
+    static constexpr Word BitOf(std::size_t rank) { return Word{1} << (rank % WordBits); }
     using Sets = std::vector<Word>;
 
     /// The values that occur, ascending, and the sets of ranks with each and with at most each.
@@ -54,7 +64,19 @@ class RankedFills {
         Sets AtMost;
 
         /// The index of the last value not above `value`; -1 when all are above.
-        std::ptrdiff_t LastUpTo(Long value) const;
+        std::ptrdiff_t LastUpTo(Long value) const {
+            if (value >= Values.back()) {
+                return static_cast<std::ptrdiff_t>(Values.size()) - 1;
+            }
+            if (value < Values.front()) {
+                return -1;
+            }
+            if (!UpTo.empty()) {
+                return UpTo[static_cast<std::size_t>(value)];
+            }
+            return std::upper_bound(Values.begin(), Values.end(), value) - Values.begin() - 1;
+        }
+        Long Value(std::ptrdiff_t index) const { return Values[static_cast<std::size_t>(index)]; }
     };
 
     static Measure Measured(const std::vector<Long>& values);
@@ -63,9 +85,21 @@ class RankedFills {
     const Word* Row(const Sets& sets, std::ptrdiff_t index) const {
         return sets.data() + static_cast<std::size_t>(index) * words_;
     }
-    std::size_t FirstIn(const Word* a, const Word* b) const;
+    /// Of the remaining fills in a row, all as wide as the gap, the earliest of the best class.
+    Choice Filling(const Word* row, const Walls& walls, Long room) const;
+    /// The earliest remaining fill that is in the row and `length` long.
+    std::size_t FirstOfLength(const Word* row, Long length) const;
+    std::size_t FirstIn(const Word* a, const Word* b) const {
+        for (std::size_t word = 0; word < words_; ++word) {
+            const Word bits = a[word] & b[word] & remaining_[word];
+            if (bits != 0) {
+                return word * WordBits + static_cast<std::size_t>(std::countr_zero(bits));
+            }
+        }
+        return NoRank;
+    }
 
-    const ImproveJob& job_;
+    const ImproveJob* job_;
     std::size_t words_;
     std::vector<std::size_t> order_;
     Measure widths_;

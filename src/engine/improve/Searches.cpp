@@ -4,6 +4,13 @@
 
 namespace tarn {
 
+namespace {
+
+constexpr std::int64_t PatiencePerFill = 8; ///< steps without a gain
+constexpr int KickChanges = 3;
+
+} // namespace
+
 std::vector<PlanStart> RankedStarts(ImproveRun& run, Plan& plan) {
     std::vector<PlanStart> starts;
     for (std::size_t order = 0; order < plan.Orders(); ++order) {
@@ -30,11 +37,30 @@ bool PackBelow(ImproveRun& run, Plan& plan, const PlanStart& start, Long roof, s
                RandomSteps& random) {
     plan.Begin(start.Order, start.Rule);
     Area64 unpacked = plan.Unpacked(roof, NoLimit);
+    Area64 least = unpacked;
+    const std::unique_ptr<Plan> best = plan.Copy();
+    const std::int64_t patience =
+        PatiencePerFill * static_cast<std::int64_t>(run.Job().Fills.size());
+    std::int64_t sinceGain = 0;
     bool goOn = run.Spend();
     for (std::int64_t step = 0; unpacked > 0 && goOn && step < steps; ++step) {
-        plan.Change(random, true);
-        const Area64 changed = plan.Unpacked(roof, unpacked);
-        if (changed <= unpacked) {
+        const bool kick = ++sinceGain > patience;
+        if (kick) {
+            if (unpacked <= least) {
+                least = unpacked;
+                best->TakeFrom(plan);
+            } else {
+                plan.TakeFrom(*best);
+            }
+            for (int change = 0; change < KickChanges; ++change) {
+                plan.Change(random, true);
+            }
+        } else {
+            plan.Change(random, true);
+        }
+        const Area64 changed = plan.Unpacked(roof, kick ? NoLimit : unpacked);
+        if (kick || changed <= unpacked) {
+            sinceGain = kick || changed < unpacked ? 0 : sinceGain;
             unpacked = changed;
         } else {
             plan.Undo();

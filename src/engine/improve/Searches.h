@@ -20,7 +20,9 @@ struct PlanStart {
 std::vector<PlanStart> RankedStarts(ImproveRun& run, Plan& plan);
 
 /// Decision search: change the plan, and keep what leaves no more unpacked below `roof`, until all
-/// is packed or after `steps`. True when all was packed; the layout is offered then.
+/// is packed or after `steps`. When that gains nothing for a while, a few changes are made whatever
+/// they do, to go on from there; what comes of it is dropped if it stays worse. True when all was
+/// packed; the layout is offered then.
 bool PackBelow(ImproveRun& run, Plan& plan, const PlanStart& start, Long roof, std::int64_t steps,
                RandomSteps& random);
 

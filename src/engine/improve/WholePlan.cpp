@@ -7,7 +7,7 @@
 namespace tarn {
 
 WholePlan::WholePlan(const ImproveJob& job)
-    : job_(job)
+    : job_(&job)
     , area_(TotalArea(job))
     , orders_(StartOrders(job))
     , fills_(job) {
@@ -30,9 +30,13 @@ std::unique_ptr<Plan> WholePlan::Copy() const {
     return std::make_unique<WholePlan>(*this);
 }
 
+void WholePlan::TakeFrom(const Plan& other) {
+    *this = dynamic_cast<const WholePlan&>(other);
+}
+
 Area64 WholePlan::Unpacked(Long roof, Area64 limit) {
     // What is left free below the roof beyond the slack cannot be packed any more.
-    const Area64 slack = static_cast<Area64>(job_.Width) * roof - area_;
+    const Area64 slack = static_cast<Area64>(job_->Width) * roof - area_;
     if (!LayOut(roof, slack + limit, roof)) {
         return limit + 1;
     }
@@ -40,19 +44,19 @@ Area64 WholePlan::Unpacked(Long roof, Area64 limit) {
 }
 
 Area64 WholePlan::Length(Area64 limit) {
-    const Area64 slack = job_.Width * limit - area_;
+    const Area64 slack = job_->Width * limit - area_;
     return LayOut(NoWall, slack, limit) ? end_ : limit + 1;
 }
 
 bool WholePlan::LayOut(Long roof, Area64 mostWaste, Area64 farthest) {
-    skyline_.Reset(job_.Width);
+    skyline_.Reset(job_->Width);
     fills_.TakeNone();
     placed_.clear();
     placedArea_ = 0;
     end_ = 0;
     Area64 waste = 0;
     std::size_t step = 0;
-    while (placed_.size() < job_.Fills.size()) {
+    while (placed_.size() < job_->Fills.size()) {
         const Gap gap = skyline_.Lowest();
         if (gap.Y >= roof) {
             break;
@@ -61,7 +65,10 @@ bool WholePlan::LayOut(Long roof, Area64 mostWaste, Area64 farthest) {
         const Walls walls(gap, room);
         RankedFills::Choice choice;
         if (fills_.Narrowest() <= gap.Width && !skips_.Holds(step++)) {
-            choice = Choose(gap, walls, room);
+            const bool leaveRoom = rule_.LeaveRoom && gap.Width < job_->Width;
+            choice = fills_.Choose(gap.Width, walls, room,
+                                   leaveRoom ? gap.Width - fills_.Narrowest() : gap.Width,
+                                   rule_.NotAboveWall ? walls.Tall : room);
         }
         if (choice.Fit == FitClass::None) {
             const bool wholeWidth = skyline_.Count() == 1;
@@ -84,29 +91,9 @@ bool WholePlan::LayOut(Long roof, Area64 mostWaste, Area64 farthest) {
     return true;
 }
 
-RankedFills::Choice WholePlan::Choose(const Gap& gap, const Walls& walls, Long room) {
-    const RankedFills::Choice filling = fills_.Filling(gap.Width, room, walls);
-    if (filling.Fit != FitClass::None) {
-        return filling;
-    }
-    std::size_t rank = fills_.FirstOfLength(gap.Width, walls.Tall);
-    if (rank != RankedFills::NoRank) {
-        return {rank, FitClass::LevelTall};
-    }
-    rank = fills_.FirstOfLength(gap.Width, walls.Short);
-    if (rank != RankedFills::NoRank) {
-        return {rank, FitClass::LevelShort};
-    }
-    const bool leaveRoom = rule_.LeaveRoom && gap.Width < job_.Width;
-    const Long widest = leaveRoom ? gap.Width - fills_.Narrowest() : gap.Width;
-    rank = fills_.FirstUpTo(widest, rule_.NotAboveWall ? walls.Tall : room);
-    return rank != RankedFills::NoRank ? RankedFills::Choice{rank, FitClass::Fits}
-                                       : RankedFills::Choice{};
-}
-
 void WholePlan::Put(const Gap& gap, const Walls& walls, const RankedFills::Choice& choice) {
     const std::size_t number = fills_.FillAt(choice.Rank);
-    const ImproveFill& fill = job_.Fills[number];
+    const ImproveFill& fill = job_->Fills[number];
     fills_.Take(choice.Rank);
     const Long x = skyline_.Place(gap, StandsLeft(choice.Fit, walls), fill.Width, fill.Length);
     placed_.push_back({number, x, gap.Y, fill.Length});
@@ -115,8 +102,8 @@ void WholePlan::Put(const Gap& gap, const Walls& walls, const RankedFills::Choic
 }
 
 bool WholePlan::AreUnequal(std::size_t rankA, std::size_t rankB) const {
-    const ImproveFill& a = job_.Fills[fills_.FillAt(rankA)];
-    const ImproveFill& b = job_.Fills[fills_.FillAt(rankB)];
+    const ImproveFill& a = job_->Fills[fills_.FillAt(rankA)];
+    const ImproveFill& b = job_->Fills[fills_.FillAt(rankB)];
     return a.Width != b.Width || a.Length != b.Length;
 }
 

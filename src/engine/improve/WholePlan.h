@@ -20,16 +20,16 @@ class WholePlan : public Plan {
     void Undo() override;
     std::vector<ImprovePart> Layout() const override { return placed_; }
     std::unique_ptr<Plan> Copy() const override;
+    void TakeFrom(const Plan& other) override;
 
   private:
     /// Lay the fills out below the roof, until more than `mostWaste` is left free below them or one
     /// ends above `farthest`. False when it was given up.
     bool LayOut(Long roof, Area64 mostWaste, Area64 farthest);
-    RankedFills::Choice Choose(const Gap& gap, const Walls& walls, Long room);
     void Put(const Gap& gap, const Walls& walls, const RankedFills::Choice& choice);
     bool AreUnequal(std::size_t rankA, std::size_t rankB) const;
 
-    const ImproveJob& job_;
+    const ImproveJob* job_;
     Area64 area_;
     bool allEqual_;
     std::vector<std::vector<std::size_t>> orders_;

@@ -12,7 +12,7 @@ ImproveJob Job(Long width, std::vector<ImproveFill> fills, Long minPart = 1) {
 }
 
 Long BarBound(const ImproveJob& job) {
-    return BarRelaxationBound(job, [] { return true; });
+    return BarRelaxationBound(job, 0, [] { return true; });
 }
 
 TEST(AreaBound, IsTheAreaOverTheWidthRoundedUp) {
@@ -63,10 +63,10 @@ TEST(BarRelaxation, AFillIsInACrossSectionAsOftenAsItMayHaveParts) {
 TEST(BarRelaxation, EndsEarlyWithABoundThatHolds) {
     const ImproveJob job = Job(12, {{7, 10, 1}, {5, 10, 1}, {4, 10, 1}});
     int asked = 0;
-    const Long bound = BarRelaxationBound(job, [&] { return ++asked <= 1; });
+    const Long bound = BarRelaxationBound(job, 0, [&] { return ++asked <= 1; });
     EXPECT_EQ(asked, 2);
     EXPECT_LE(bound, 15);
-    EXPECT_EQ(BarRelaxationBound(job, [] { return false; }), 0);
+    EXPECT_EQ(BarRelaxationBound(job, 0, [] { return false; }), 0);
 }
 
 // Widths of hundredths of thousandths are rounded down: the bound may be smaller, never larger.
@@ -82,6 +82,13 @@ TEST(BarRelaxation, HoldsForVerySmallUnits) {
     fine.Fills.push_back({20, 5, 1});
     EXPECT_LE(BarBound(fine), BarBound(plain));
     EXPECT_GE(BarBound(fine), AreaBound(plain));
+}
+
+TEST(BarRelaxation, EndsWhenNoBetterBoundWillCome) {
+    const ImproveJob job = Job(12, {{7, 10, 1}, {5, 10, 1}, {4, 10, 1}});
+    int asked = 0;
+    EXPECT_LE(BarRelaxationBound(job, 30, [&] { return ++asked > 0; }), 15);
+    EXPECT_EQ(asked, 1) << "the fills one behind the other take 30: no bound is above that";
 }
 
 class BoundsOfSmallJobs : public ::testing::TestWithParam<Long> {};

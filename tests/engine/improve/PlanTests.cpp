@@ -96,6 +96,9 @@ TEST_P(EveryPlan, UndoneAndCopiedPlansGiveTheSame) {
         plan.Undo();
         EXPECT_EQ(plan.Length(LongestRoll), before);
         EXPECT_EQ(copy->Length(LongestRoll), before);
+        plan.Change(steps, true);
+        plan.TakeFrom(*copy);
+        EXPECT_EQ(plan.Length(LongestRoll), before);
     });
 }
 

@@ -21,11 +21,28 @@ class Plain {
     std::vector<std::size_t> Order;
     std::set<std::size_t> Taken;
 
-    std::size_t FirstUpTo(Long width, Long length) const {
-        return First([&](const ImproveFill& f) { return f.Width <= width && f.Length <= length; });
-    }
-    std::size_t FirstOfLength(Long width, Long length) const {
-        return First([&](const ImproveFill& f) { return f.Width <= width && f.Length == length; });
+    RankedFills::Choice Choose(Long gapWidth, const Walls& walls, Long room, Long widest,
+                               Long longest) const {
+        const RankedFills::Choice filling = Filling(gapWidth, room, walls);
+        if (filling.Fit != FitClass::None) {
+            return filling;
+        }
+        const auto first = [&](Long most, Long least, Long length, FitClass fit) {
+            const std::size_t rank = First([&](const ImproveFill& f) {
+                return f.Width <= most && f.Length <= length && f.Length >= least;
+            });
+            return rank != RankedFills::NoRank ? RankedFills::Choice{rank, fit}
+                                               : RankedFills::Choice{};
+        };
+        for (const RankedFills::Choice& choice :
+             {first(gapWidth, walls.Tall, walls.Tall, FitClass::LevelTall),
+              first(gapWidth, walls.Short, walls.Short, FitClass::LevelShort),
+              first(widest, 0, longest, FitClass::Fits)}) {
+            if (choice.Fit != FitClass::None) {
+                return choice;
+            }
+        }
+        return {};
     }
     RankedFills::Choice Filling(Long width, Long longest, const Walls& walls) const {
         RankedFills::Choice best;
@@ -85,12 +102,14 @@ TEST_P(RankedFillsAgainstPlain, AnswersTheSame) {
                 plain.Taken.insert(a);
             }
             const Long width = Between(random, 0, 13) * unit;
-            const Long length = Between(random, 0, 10) * unit;
-            const Walls walls(Gap{0, 0, 0, width, length, Between(random, 1, 9) * unit}, 9 * unit);
-            EXPECT_EQ(fills.FirstUpTo(width, length), plain.FirstUpTo(width, length));
-            EXPECT_EQ(fills.FirstOfLength(width, length), plain.FirstOfLength(width, length));
-            const RankedFills::Choice choice = fills.Filling(width, 8 * unit, walls);
-            const RankedFills::Choice expected = plain.Filling(width, 8 * unit, walls);
+            const Long room = Between(random, 1, 10) * unit;
+            const Gap gap{
+                0, 0, 0, width, Between(random, 1, 9) * unit, Between(random, 1, 9) * unit};
+            const Walls walls(gap, room);
+            const Long widest = width - Between(random, 0, 1) * Between(random, 0, 4) * unit;
+            const Long longest = Between(random, 0, 1) == 0 ? room : walls.Tall;
+            const RankedFills::Choice choice = fills.Choose(width, walls, room, widest, longest);
+            const RankedFills::Choice expected = plain.Choose(width, walls, room, widest, longest);
             EXPECT_EQ(choice.Rank, expected.Rank);
             EXPECT_EQ(choice.Fit, expected.Fit);
         }
