@@ -67,7 +67,7 @@ ImprovePanel::ImprovePanel(QWidget* parent, bool metric)
     time_->setRange(0, Seconds * MillisecondsPerSecond);
     time_->setTextVisible(false);
     rows->addWidget(time_);
-    stop_ = NewButton(this, QStringLiteral("Command1(2)"), "STOP", 'T');
+    stop_ = NewButton(this, QStringLiteral("Command1(2)"), "STOP");
     connect(stop_, &QPushButton::clicked, this, [this] { Stop(); });
     rows->addWidget(stop_, 0, Qt::AlignRight);
     hide();

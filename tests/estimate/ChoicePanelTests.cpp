@@ -324,7 +324,7 @@ TEST_F(ChoicePanels, GoToTheirControlsByTheirLetters) {
 
 TEST_F(ChoicePanels, LetTheScreenBeSmallOnceTheyAreClosed) {
     Open({{10, 10}});
-    form->resize(500, 340);
+    form->resize(500, 400);
     auto& scroller = *form->findChild<QScrollArea*>();
     QScrollBar& bar = *scroller.verticalScrollBar();
     EXPECT_TRUE(QTest::qWaitFor([&] { return bar.maximum() > 0; })) << "the panel needs more";
