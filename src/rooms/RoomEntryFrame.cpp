@@ -8,9 +8,13 @@
 #include "rooms/Coverings.h"
 
 #include <QComboBox>
+#include <QEvent>
 #include <QGridLayout>
+#include <QHelpEvent>
 #include <QLabel>
 #include <QPushButton>
+#include <QStyleOptionGroupBox>
+#include <QToolTip>
 
 #include <algorithm>
 #include <limits>
@@ -107,13 +111,14 @@ void RoomEntryFrame::AddSizeRow(QGridLayout& grid, int row, bool metric) {
         NewLabelFor(major, this, IndexedName("Label1", firstLabel), caption, isWidth ? 'W' : 'L'),
         row, 0);
     grid.addWidget(&major, row, 1);
-    grid.addWidget(NewLabel(this, IndexedName("Label1", firstLabel + 1), metric ? "M" : "FEET"),
-                   row, 2);
+    const std::string_view majorUnit = metric ? "M" : "FEET";
+    const std::string_view minorUnit = metric ? "CM" : "INCHES";
+    grid.addWidget(NewLabel(this, IndexedName("Label1", firstLabel + 1), majorUnit), row, 2);
     grid.addWidget(&minor, row, 3);
-    grid.addWidget(
-        NewLabelFor(minor, this, IndexedName("Label1", firstLabel + 2), metric ? "CM" : "INCHES"),
-        row, 4);
-    minor.setAccessibleDescription(ToQt(caption));
+    grid.addWidget(NewLabelFor(minor, this, IndexedName("Label1", firstLabel + 2), minorUnit), row,
+                   4);
+    major.setAccessibleDescription(ToQt(caption) + QLatin1Char(' ') + ToQt(majorUnit));
+    minor.setAccessibleDescription(ToQt(caption) + QLatin1Char(' ') + ToQt(minorUnit));
 }
 
 QGroupBox* RoomEntryFrame::NewSizeGroup(bool metric) {
@@ -193,6 +198,31 @@ void RoomEntryFrame::Arrange(bool metric) {
 
 void RoomEntryFrame::resizeEvent(QResizeEvent* event) {
     QGroupBox::resizeEvent(event);
+    FitCaption();
+}
+
+void RoomEntryFrame::changeEvent(QEvent* event) {
+    QGroupBox::changeEvent(event);
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) {
+        FitCaption();
+    }
+}
+
+bool RoomEntryFrame::event(QEvent* event) {
+    if (event->type() == QEvent::ToolTip) {
+        QStyleOptionGroupBox option;
+        initStyleOption(&option);
+        const QRect caption =
+            style()->subControlRect(QStyle::CC_GroupBox, &option, QStyle::SC_GroupBoxLabel, this);
+        if (!caption.contains(static_cast<QHelpEvent*>(event)->pos())) {
+            QToolTip::hideText(); // also over a control without a tool tip of its own
+            return true;
+        }
+    }
+    return QGroupBox::event(event);
+}
+
+void RoomEntryFrame::FitCaption() {
     const QString caption = accessibleName();
     const int room = contentsRect().width() - 2 * Pixels(Metrics::Margin);
     const QString fitting = fontMetrics().elidedText(caption, Qt::ElideRight, room);

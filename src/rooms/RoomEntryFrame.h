@@ -46,12 +46,14 @@ class RoomEntryFrame : public QGroupBox {
     void SetItemNumber(Integer number);
 
     /// A long project name asks for no room of its own: the caption is shortened where it does not
-    /// fit, and then shown whole as a tool tip.
+    /// fit, and then shown whole as the caption's tool tip.
     QSize sizeHint() const override { return QWidget::sizeHint(); }
     QSize minimumSizeHint() const override { return QWidget::minimumSizeHint(); }
 
   protected:
     void resizeEvent(QResizeEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    bool event(QEvent* event) override;
 
   private:
     void MakeFields();
@@ -61,6 +63,7 @@ class RoomEntryFrame : public QGroupBox {
     QWidget* NewItemNumberRow();
     void AddSizeRow(QGridLayout& grid, int row, bool metric);
     void Arrange(bool metric);
+    void FitCaption();
 
     std::array<EntryField*, Texts> texts_{};
     std::array<QPushButton*, Buttons> buttons_{};

@@ -3,8 +3,10 @@
 #include "rooms/RoomScreenTesting.h"
 
 #include <QGroupBox>
+#include <QHelpEvent>
 #include <QMenu>
 #include <QScrollBar>
+#include <QToolTip>
 
 #include <set>
 
@@ -13,7 +15,22 @@ namespace {
 
 using namespace tarn::testing;
 
-using EntryControls = RoomScreen;
+struct EntryControls : RoomScreen {
+    void ExpectSizesDescribedAs(const Lines& descriptions) const {
+        for (int i = 0; i < 4; ++i) {
+            EXPECT_EQ(FromQt(Text(i).accessibleDescription()),
+                      descriptions[static_cast<std::size_t>(i)]);
+        }
+    }
+    /// The tool tip that comes up where the mouse rests.
+    QString TipAt(QWidget& widget, const QPoint& at) const {
+        QToolTip::hideText();
+        EXPECT_TRUE(QTest::qWaitFor([] { return !QToolTip::isVisible(); }));
+        QHelpEvent event(QEvent::ToolTip, at, widget.mapToGlobal(at));
+        QApplication::sendEvent(&widget, &event);
+        return QToolTip::isVisible() ? QToolTip::text() : QString();
+    }
+};
 
 QString WithoutMnemonic(QString text) {
     return text.remove(QLatin1Char('&'));
@@ -50,6 +67,8 @@ TEST_F(EntryControls, HaveTheirCaptions) {
     EXPECT_EQ(Text(3).accessibleName(), QStringLiteral("INCHES"));
     EXPECT_EQ(Covering().accessibleName(), QStringLiteral("CARPET TYPE"));
     EXPECT_EQ(Text(6).accessibleName(), QStringLiteral("REMARK"));
+    ExpectSizesDescribedAs(
+        {"ROOM   WIDTH FEET", "ROOM   WIDTH INCHES", "ROOM LENGTH FEET", "ROOM LENGTH INCHES"});
     EXPECT_EQ(Text(4).toolTip(), QStringLiteral("EXAMPLE: W2L1"));
     EXPECT_EQ(Find(*form, "Label1(7)").toolTip(), QStringLiteral("EXAMPLE: W2L1"));
 }
@@ -61,6 +80,8 @@ TEST_F(EntryControls, NameMetresAndCentimetresInMetric) {
     EXPECT_EQ(Find<QLabel>(*form, "Label1(2)").text(), QStringLiteral("CM"));
     EXPECT_EQ(Find<QLabel>(*form, "Label1(4)").text(), QStringLiteral("M"));
     EXPECT_EQ(Find<QLabel>(*form, "Label1(5)").text(), QStringLiteral("CM"));
+    ExpectSizesDescribedAs(
+        {"ROOM   WIDTH M", "ROOM   WIDTH CM", "ROOM LENGTH M", "ROOM LENGTH CM"});
 }
 
 TEST_F(EntryControls, ListTheTwelveCoverings) {
@@ -168,11 +189,32 @@ TEST_F(EntryControls, ShortenAProjectNameThatDoesNotFit) {
     EXPECT_TRUE(frame.title().startsWith(QStringLiteral("PROJECT: WWW")));
     EXPECT_EQ(frame.toolTip(), caption);
     EXPECT_EQ(frame.accessibleName(), caption);
+    EXPECT_EQ(TipAt(frame, QPoint(40, 20)), caption);
+    EXPECT_EQ(TipAt(frame, QPoint(40, frame.height() - 4)), QString());
+    EXPECT_EQ(TipAt(Text(0), Text(0).rect().center()), QString());
+    EXPECT_EQ(TipAt(Text(4), Text(4).rect().center()), QStringLiteral("EXAMPLE: W2L1"));
     form->close();
     state.CurProjName = std::string(20, 'w');
     Open();
     EXPECT_EQ(Find<QGroupBox>(*form, "Frame1").title(), ToQt("PROJECT: " + std::string(20, 'W')));
     EXPECT_EQ(Find(*form, "Frame1").toolTip(), QString());
+}
+
+TEST_F(EntryControls, FitTheProjectsNameAgainWhenTheTypeChanges) {
+    state.CurProjName = std::string(30, 'w');
+    Open(1366, 768);
+    auto& frame = Find<QGroupBox>(*form, "Frame1");
+    const QString whole = frame.title();
+    EXPECT_EQ(whole, frame.accessibleName());
+    QFont font = frame.font();
+    font.setPixelSize(3 * frame.fontMetrics().height());
+    frame.setFont(font);
+    EXPECT_NE(frame.title(), whole);
+    EXPECT_LE(frame.fontMetrics().horizontalAdvance(frame.title()), frame.width() - 32);
+    EXPECT_EQ(frame.toolTip(), whole);
+    frame.setStyleSheet(QStringLiteral("QGroupBox { font-size: 4px; }"));
+    EXPECT_EQ(frame.title(), whole);
+    EXPECT_EQ(frame.toolTip(), QString());
 }
 
 } // namespace
