@@ -32,6 +32,9 @@ ProjectLoad LoadOpenProject(SharedState& state, OpenProject& project);
 /// Shown when a project was saved.
 inline constexpr std::string_view SavedMessage = "Data is saved";
 
+/// What could not be done when saving failed; the cause follows it.
+inline constexpr std::string_view NotSavedMessage = "The project could not be saved.";
+
 /// SaveProject, and remember the rooms as stored when it succeeded. Fails and raises as
 /// SaveProject.
 bool SaveOpenProject(SharedState& state, OpenProject& project);

@@ -16,7 +16,6 @@ namespace tarn {
 namespace {
 
 constexpr const char* DeleteQuestion = "Really want to delete current data?";
-constexpr const char* NotSavedText = "The project could not be saved. ";
 constexpr const char* NothingToEstimateMessage =
     "There is no data to estimate. Please fill in the room information before estimating.";
 
@@ -74,6 +73,12 @@ StoreResult TarnForm::WithRoomTaken(const std::function<void()>& action) {
     return result;
 }
 
+void TarnForm::RunCommand(const std::string& failure, const std::function<void()>& body) {
+    if (!Guard(failure, body)) {
+        FirstFocus()->setFocus();
+    }
+}
+
 void TarnForm::FocusAfter(const StoreResult& result) {
     if (result.What != StoreResult::Outcome::WrongSize) {
         FirstFocus()->setFocus();
@@ -83,8 +88,8 @@ void TarnForm::FocusAfter(const StoreResult& result) {
 void TarnForm::ShowNext() {
     const StoreResult result = SaveRoomInfo(curRoom_);
     if (result.IsStored()) {
+        DispRoomInfo(ToInteger(curRoom_ + 1));
         ++curRoom_;
-        DispRoomInfo(curRoom_);
     }
     FocusAfter(result);
 }
@@ -96,8 +101,8 @@ void TarnForm::ShowPrevious() {
     }
     const StoreResult result = SaveRoomInfo(curRoom_);
     if (!result.Stops()) {
+        DispRoomInfo(ToInteger(curRoom_ - 1));
         --curRoom_;
-        DispRoomInfo(curRoom_);
     }
     FocusAfter(result);
 }
@@ -109,12 +114,20 @@ void TarnForm::AskAndDelete() {
     }
 }
 
+void TarnForm::Save() {
+    RunCommand(std::string(NotSavedMessage), [this] { SaveAll(); });
+}
+
 void TarnForm::SaveAll() {
-    FocusAfter(WithRoomTaken([this] {
-        const bool saved = SaveOpenProject(State(), Shared().Project);
-        Shared().Boxes.Message(saved ? std::string(SavedMessage)
-                                     : NotSavedText + State().DatabaseFailure);
-    }));
+    bool saved = false;
+    const StoreResult result =
+        WithRoomTaken([&] { saved = SaveOpenProject(State(), Shared().Project); });
+    if (!result.Stops()) {
+        Shared().Boxes.Message(saved
+                                   ? std::string(SavedMessage)
+                                   : std::string(NotSavedMessage) + " " + State().DatabaseFailure);
+    }
+    FocusAfter(result);
 }
 
 void TarnForm::Estimate() {

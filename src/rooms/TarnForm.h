@@ -13,8 +13,10 @@ class RoomEntryFrame;
 
 /// The room entry: the rooms of the open project, typed one at a time, and their listing. It opens
 /// on a new room after the last one. Rooms are changed in memory; SAVE writes them to the database.
-/// What the user wanted to do waits while a size on the screen is refused; an action that fails
-/// takes back the room that it stored, which stays on the screen.
+/// NEXT, PREVIOUS, SAVE, ESTIMATE and REPORT wait while a size on the screen is refused or the
+/// project is full. Leaving waits for nothing: a room that cannot be stored without a word with the
+/// user is left as it was in memory, and what was typed is gone. An action that fails takes back
+/// the room that it stored, which stays on the screen.
 class TarnForm : public TitledScreen {
   public:
     explicit TarnForm(Session& session);
@@ -34,7 +36,8 @@ class TarnForm : public TitledScreen {
     void SetTabOrders();
     void ConnectButtons();
     void ConnectFields();
-    /// Run `body` when a button of Command1 is clicked; after an error the focus is on the sizes.
+    /// Run a command of the entry under the guard; after an error the focus is on the sizes.
+    void RunCommand(const std::string& failure, const std::function<void()>& body);
     void OnCommand(QPushButton& button, const std::string& failure, std::function<void()> body);
 
     // The procedures of the screen; `rid` is 0 .. ObjNum, ObjNum being a new room.
@@ -47,6 +50,8 @@ class TarnForm : public TitledScreen {
     void ShowNext();
     void ShowPrevious();
     void AskAndDelete();
+    /// SAVE and File > Save.
+    void Save();
     void SaveAll();
     void Estimate();
     void ShowReport();

@@ -23,7 +23,6 @@ namespace tarn {
 namespace {
 
 constexpr const char* NotStored = "The room could not be stored.";
-constexpr const char* NotSaved = "The project could not be saved.";
 constexpr const char* NotTested = "The text could not be tested.";
 constexpr const char* NotClosed = "The screen could not be closed.";
 
@@ -71,7 +70,7 @@ void TarnForm::MakeMenu() {
     const QAction* save = AddItem(*menu, 1, "&Save");
     menu->addSeparator()->setObjectName(IndexedName("FileMnu", 90));
     const QAction* close = AddItem(*menu, 99, "&Close");
-    connect(save, &QAction::triggered, this, [this] { Guard(NotSaved, [this] { SaveAll(); }); });
+    connect(save, &QAction::triggered, this, [this] { Save(); });
     connect(close, &QAction::triggered, this, [this] { Guard(NotClosed, [this] { Leave(); }); });
 }
 
@@ -116,11 +115,8 @@ void TarnForm::SetTabOrders() {
 
 void TarnForm::OnCommand(QPushButton& button, const std::string& failure,
                          std::function<void()> body) {
-    connect(&button, &QPushButton::clicked, this, [this, failure, body = std::move(body)] {
-        if (!Guard(failure, body)) {
-            FirstFocus()->setFocus();
-        }
-    });
+    connect(&button, &QPushButton::clicked, this,
+            [this, failure, body = std::move(body)] { RunCommand(failure, body); });
 }
 
 void TarnForm::ConnectButtons() {
@@ -128,7 +124,7 @@ void TarnForm::ConnectButtons() {
     OnCommand(entry_->Button(RoomEntryFrame::Previous), NotStored, [this] { ShowPrevious(); });
     OnCommand(entry_->Button(RoomEntryFrame::Delete), "The room could not be deleted.",
               [this] { AskAndDelete(); });
-    OnCommand(*save_, NotSaved, [this] { SaveAll(); });
+    connect(save_, &QPushButton::clicked, this, [this] { Save(); });
     OnClick(entry_->Estimate(), "The estimate could not be opened.", [this] { Estimate(); });
     OnClick(entry_->Report(), "The report could not be made.", [this] { ShowReport(); });
     OnClick(*back_, NotClosed, [this] { Leave(); });

@@ -103,8 +103,9 @@ TEST_F(SizeFields, KeepAPointAndZerosWhileTheyAreTyped) {
 
 TEST_F(SizeFields, CountAPointAsNothingTyped) {
     Open();
-    TypeInto(0, ".");
+    TypeInto(1, ".");
     Press(*form, Qt::Key_N, Qt::AltModifier);
+    EXPECT_TRUE(HasFocus("Text1(0)")) << "the button was pressed";
     EXPECT_TRUE(boxes.Messages.empty());
     EXPECT_EQ(state.ObjNum, 0);
 }
