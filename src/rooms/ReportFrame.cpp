@@ -4,28 +4,21 @@
 #include "app/Display.h"
 #include "app/QtText.h"
 #include "app/Theme.h"
+#include "print/FixedPitchFont.h"
+#include "print/Paper.h"
+#include "rooms/Report.h"
 
-#include <QFont>
+#include <QAction>
 #include <QHBoxLayout>
+#include <QMenu>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
 
 namespace tarn {
 
-namespace {
-
-QFont FixedPitchFont() {
-    QFont font(QStringLiteral("Courier New"));
-    font.setStyleHint(QFont::TypeWriter);
-    font.setFixedPitch(true);
-    return font;
-}
-
-} // namespace
-
 ReportFrame::ReportFrame() {
-    NameControl(*this, QStringLiteral("Frame4"), QStringLiteral("ENTERED DATA REPORT"));
+    NameControl(*this, QStringLiteral("Frame4"), ToQt(ReportTitle));
     setProperty("panel", true);
 
     view_ = new QPlainTextEdit(this);
@@ -33,7 +26,8 @@ ReportFrame::ReportFrame() {
     view_->setReadOnly(true);
     view_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     view_->setLineWrapMode(QPlainTextEdit::NoWrap);
-    view_->setFont(FixedPitchFont());
+    view_->setFont(CourierNew(Pixels(Metrics::ListingFont * TwipsPerPoint)));
+    MakeMenu();
 
     print_ = NewButton(this, IndexedName("Command2", 0), "PRINT", 'I');
     close_ = NewButton(this, IndexedName("Command2", 1), "CLOSE", 'C');
@@ -46,13 +40,27 @@ ReportFrame::ReportFrame() {
     layout->addWidget(view_, 1);
     auto* buttons = new QHBoxLayout;
     buttons->setSpacing(margin);
+    // At the right: nowhere near BACK and SAVE, which the second click of a double click would
+    // press.
     buttons->addStretch();
     for (QPushButton* button : {print_, close_}) {
         button->setMinimumWidth(Pixels(Metrics::ButtonWidth));
         buttons->addWidget(button);
     }
-    buttons->addStretch();
     layout->addLayout(buttons);
+}
+
+void ReportFrame::MakeMenu() {
+    saveAsPdf_ = new QAction(QStringLiteral("Save as &PDF ..."), this);
+    saveAsPdf_->setObjectName(QStringLiteral("SaveAsPdf"));
+    view_->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(view_, &QWidget::customContextMenuRequested, this, [this](const QPoint& at) {
+        QMenu* menu = view_->createStandardContextMenu();
+        menu->setAttribute(Qt::WA_DeleteOnClose);
+        menu->addSeparator();
+        menu->addAction(saveAsPdf_);
+        menu->popup(view_->viewport()->mapToGlobal(at));
+    });
 }
 
 void ReportFrame::SetText(const std::string& text) {

@@ -4,12 +4,13 @@
 
 #include <string>
 
+class QAction;
 class QPlainTextEdit;
 class QPushButton;
 
 namespace tarn {
 
-/// Frame4: the entered-data report, to be read and printed.
+/// Frame4: the entered-data report, to be read, printed and saved as PDF.
 class ReportFrame : public QFrame {
   public:
     ReportFrame();
@@ -21,12 +22,17 @@ class ReportFrame : public QFrame {
     QPlainTextEdit& View() { return *view_; }
     QPushButton& Print() { return *print_; }
     QPushButton& Close() { return *close_; }
+    /// Of the view's context menu.
+    QAction& SaveAsPdf() { return *saveAsPdf_; }
 
   private:
+    void MakeMenu();
+
     std::string text_;
     QPlainTextEdit* view_ = nullptr;
     QPushButton* print_ = nullptr;
     QPushButton* close_ = nullptr;
+    QAction* saveAsPdf_ = nullptr;
 };
 
 } // namespace tarn

@@ -3,6 +3,7 @@
 #include "app/Numbers.h"
 #include "app/QtText.h"
 #include "app/RunTimeError.h"
+#include "print/PdfFile.h"
 #include "rooms/Report.h"
 #include "rooms/ReportFrame.h"
 #include "rooms/RoomEntryFrame.h"
@@ -163,6 +164,12 @@ void TarnForm::PrintReport() {
         return;
     }
     CloseReport();
+}
+
+void TarnForm::SaveReportAsPdf() {
+    if (const auto path = Shared().Boxes.SaveFileName(State().CurProjName, "pdf")) {
+        WriteReportPdf(report_->Text(), *path);
+    }
 }
 
 void TarnForm::CloseReport() {

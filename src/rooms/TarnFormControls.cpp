@@ -129,6 +129,8 @@ void TarnForm::ConnectButtons() {
     OnClick(entry_->Report(), "The report could not be made.", [this] { ShowReport(); });
     OnClick(*back_, NotClosed, [this] { Leave(); });
     OnClick(report_->Print(), "The report could not be printed.", [this] { PrintReport(); });
+    connect(&report_->SaveAsPdf(), &QAction::triggered, this,
+            [this] { Guard("The report could not be saved.", [this] { SaveReportAsPdf(); }); });
     OnClick(report_->Close(), "The report could not be closed.", [this] { CloseReport(); });
 }
 

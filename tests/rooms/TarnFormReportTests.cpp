@@ -1,5 +1,7 @@
 // The room entry screen: the entered-data report.
 
+#include "app/RunTimeError.h"
+#include "print/FixedPitchFont.h"
 #include "rooms/Report.h"
 #include "rooms/RoomScreenTesting.h"
 
@@ -79,7 +81,7 @@ TEST_F(ReportOfRooms, IsReadOnlyInFixedPitchAndScrollsBothWays) {
     const QString before = View().toPlainText();
     Type(View(), "x");
     EXPECT_EQ(View().toPlainText(), before);
-    EXPECT_EQ(View().font().family(), QStringLiteral("Courier New"));
+    EXPECT_EQ(View().font().family(), CourierNew(10).family()) << "the face of the paper";
     EXPECT_TRUE(QFontInfo(View().font()).fixedPitch());
     EXPECT_EQ(View().lineWrapMode(), QPlainTextEdit::NoWrap);
     EXPECT_TRUE(QTest::qWaitFor([&] {
@@ -104,6 +106,58 @@ TEST_F(ReportOfRooms, FillsTheScreenBelowTheTitles) {
         EXPECT_EQ(Find(*form, "PTitle").y(), 0);
         form->close();
     }
+}
+
+TEST_F(ReportOfRooms, HasNoButtonWhereTheEntryHasOne) {
+    const auto areas = [this] {
+        std::vector<std::pair<std::string, QRect>> found;
+        for (const QPushButton* button : form->findChildren<QPushButton*>()) {
+            if (button->isVisible()) {
+                found.emplace_back(FromQt(button->objectName()),
+                                   QRect(button->mapTo(form.get(), QPoint()), button->size()));
+            }
+        }
+        return found;
+    };
+    AddRooms(1);
+    Open();
+    std::vector<QSize> sizes{{960, 524}};
+    for (int width = 800; width <= 1920; width += 80) {
+        for (int height = 584; height <= 1064; height += 20) {
+            sizes.emplace_back(width, height);
+        }
+    }
+    for (const QSize& size : sizes) {
+        form->resize(size);
+        const auto entry = areas();
+        ASSERT_EQ(entry.size(), 7U);
+        ClickOn("RepMnu");
+        const auto report = areas();
+        ASSERT_EQ(report.size(), 2U);
+        for (const auto& [name, area] : report) {
+            for (const auto& [other, otherArea] : entry) {
+                EXPECT_FALSE(area.intersects(otherArea))
+                    << name << " " << other << " " << size.width() << " x " << size.height();
+            }
+        }
+        ClickOn("Command2(1)");
+    }
+}
+
+TEST_F(ReportOfRooms, IsClosedByADoubleClickAndNothingMore) {
+    AddRooms(1);
+    Open(960, 540);
+    ClickOn("RepMnu");
+    QWidget& close = Find(*form, "Command2(1)");
+    const QPoint at = close.mapTo(form.get(), close.rect().center());
+    Click(close);
+    QWidget* below = form->childAt(at);
+    if (below != nullptr) {
+        QTest::mouseClick(below, Qt::LeftButton, {}, below->mapFrom(form.get(), at));
+    }
+    ExpectEntryShown();
+    EXPECT_TRUE(screens.Calls.empty());
+    EXPECT_TRUE(boxes.Messages.empty());
 }
 
 TEST_F(ReportOfRooms, IsPrintedAndClosed) {
@@ -131,6 +185,47 @@ TEST_F(ReportOfRooms, StaysOpenWhenItCannotBePrinted) {
     Press(*form, Qt::Key_Return);
     EXPECT_EQ(printer.Reports.size(), 1U);
     ExpectEntryShown();
+}
+
+TEST_F(ReportOfRooms, StaysOpenWhateverFailsWhileItIsPrinted) {
+    struct BrokenPrinter : FakePrinter {
+        void PrintReport(const std::string& /*text*/) override { RaiseSubscript(); }
+    } broken;
+    Session other{state, engine, project, boxes, broken, screens, session.Today};
+    AddRooms(1);
+    form = std::make_unique<TarnForm>(other);
+    ShowOnDisplay(*form);
+    ClickOn("RepMnu");
+    ClickOn("Command2(0)");
+    EXPECT_EQ(boxes.Messages, Lines{"Warning: Your printer is not ready!\r\n\r\n"
+                                    "You couldn't print in the program"});
+    EXPECT_TRUE(IsReportShown());
+}
+
+TEST_F(ReportOfRooms, IsMadeAnewEachTime) {
+    AddRooms(2);
+    Open();
+    ClickOn("RepMnu");
+    const QString first = View().toPlainText();
+    ClickOn("Command2(1)");
+    TypeSizes({"12", "", "10", ""});
+    ClickOn("RepMnu");
+    EXPECT_NE(View().toPlainText(), first);
+    EXPECT_EQ(View().toPlainText(), ToQtLines(Expected()));
+    EXPECT_EQ(state.ObjNum, 3);
+    ClickOn("Command2(1)");
+    ExpectEntryShown();
+    EXPECT_EQ(Item(), "3");
+}
+
+TEST_F(ReportOfRooms, IsInSquareMetresInMetric) {
+    state.MetricFlag = 1;
+    Open();
+    TypeSizes({"3", "50", "4", "20"});
+    ClickOn("RepMnu");
+    EXPECT_EQ(View().toPlainText(), ToQtLines(Expected()));
+    EXPECT_TRUE(View().toPlainText().contains(QStringLiteral("14.70")));
+    EXPECT_TRUE(View().toPlainText().contains(QStringLiteral("METERS")));
 }
 
 TEST_F(ReportOfRooms, ClosesOntoTheRoomAsItStood) {
