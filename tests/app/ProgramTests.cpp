@@ -1,3 +1,4 @@
+#include "app/Controls.h"
 #include "app/Display.h"
 #include "app/Program.h"
 #include "screens/ScreenTesting.h"
@@ -5,12 +6,18 @@
 #include "store/TestDatabase.h"
 
 #include <QCheckBox>
+#include <QCloseEvent>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QTimer>
+
+#include <array>
+#include <utility>
 
 namespace tarn {
 namespace {
@@ -226,6 +233,105 @@ TEST_F(ProgramTest, ReturnsFromTheEstimateToTheRoomsThatOpenedIt) {
     EXPECT_TRUE(rooms->isEnabled());
     program_.Window().close();
     ExpectFront("MenuForm", 1);
+}
+
+/// The program on the options screen above the estimate of some rooms, opened from the room entry.
+class SearchTest : public ProgramTest {
+  protected:
+    void OpenOptions(bool metric, std::initializer_list<std::array<const char*, 4>> rooms) {
+        ASSERT_TRUE(Start());
+        MakeProject("HOUSE");
+        if (metric) {
+            Click(Control<QCheckBox>("Check1"));
+        }
+        Click(Control("Command1(0)"));
+        bool first = true;
+        for (const auto& room : rooms) {
+            if (!std::exchange(first, false)) {
+                Click(Control("Command1(0)"));
+            }
+            for (int i = 0; i < 4; ++i) {
+                Type(Control<QLineEdit>(FromQt(IndexedName("Text1", i)).c_str()),
+                     room[static_cast<std::size_t>(i)]);
+            }
+        }
+        Click(Control("Command3"));
+        ExpectFront("ESCarpForm", 2);
+        estimate_ = program_.Window().Front();
+        Click(Control("Command1(0)"));
+        ExpectFront("ESTFORM", 3);
+        EXPECT_FALSE(estimate_->isEnabled());
+        EXPECT_FALSE(estimate_->isVisible());
+    }
+    void SearchToTheEnd() {
+        Click(Control<QRadioButton>("Option1(0)"));
+        Click(Control("Command1"));
+        QCoreApplication::processEvents();
+    }
+    /// The estimate is back, can be used and is empty: what is printed carries no carpet, and
+    /// drawing anew finds nothing.
+    void ExpectEmptyEstimateInFront() {
+        ExpectFront("ESCarpForm", 2);
+        ASSERT_EQ(program_.Window().Front(), estimate_);
+        EXPECT_TRUE(estimate_->isEnabled());
+        EXPECT_EQ(program_.State().ECutCount, 0);
+        Click(Control("Command5"));
+        ASSERT_EQ(printer_.Estimates.size(), 1U);
+        EXPECT_TRUE(printer_.Estimates[0].CarpetLines.empty());
+        EXPECT_TRUE(printer_.Estimates[0].Drawing->Steps().empty());
+        Click(Control("Command7"));
+        ASSERT_EQ(printer_.Estimates[0].Drawing->Steps().size(), 1U);
+        EXPECT_EQ(printer_.Estimates[0].Drawing->Steps()[0].Text, "NO FILLS TO DISPLAY");
+    }
+
+    Screen* estimate_ = nullptr;
+};
+
+TEST_F(SearchTest, IsStoppedByClosingTheWindow) {
+    OpenOptions(false, {{"16", "8", "10", "0"}, {"10", "0", "14", "0"}});
+    bool looked = false;
+    QTimer::singleShot(0, &program_.Window(), [&] {
+        looked = true;
+        EXPECT_EQ(Front(), "ESTFORM");
+        EXPECT_FALSE(estimate_->isEnabled()) << "the search is still running";
+        program_.Window().close();
+    });
+    Click(Control<QRadioButton>("Option1(3)"));
+    Click(Control("Command1"));
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(looked);
+    EXPECT_TRUE(boxes_.Messages.empty());
+    ExpectEmptyEstimateInFront();
+}
+
+TEST_F(SearchTest, KeepsAClosingAtItsVeryEndFromTheEstimate) {
+    OpenOptions(false, {{"16", "8", "10", "0"}, {"10", "0", "14", "0"}});
+    const auto& bar = Control<QProgressBar>("ProgressBar1");
+    QObject::connect(&bar, &QProgressBar::valueChanged, &program_.Window(), [&](int value) {
+        if (value == bar.maximum()) {
+            QCoreApplication::postEvent(&program_.Window(), new QCloseEvent);
+        }
+    });
+    SearchToTheEnd();
+    ExpectEmptyEstimateInFront();
+}
+
+TEST_F(SearchTest, LeavesAnEmptyEstimateAfterAnError) {
+    OpenOptions(false, {{"11", "0", "2500", "0"}, {"11", "0", "2500", "0"}});
+    SearchToTheEnd();
+    ASSERT_EQ(boxes_.Messages.size(), 1U);
+    EXPECT_EQ(boxes_.Messages[0].find("Run-time error '6':"), 0U);
+    ExpectEmptyEstimateInFront();
+}
+
+TEST_F(SearchTest, LeavesAnEmptyEstimateWhenTheLayoutCannotBeDrawn) {
+    OpenOptions(true, {{"4", "0", "0", "1"}}); // 1 cm: less than an inch of roll
+    SearchToTheEnd();
+    ASSERT_EQ(boxes_.Messages.size(), 1U);
+    EXPECT_EQ(boxes_.Messages[0],
+              "Run-time error '11':\r\n\r\nDivision by zero\r\nThe fills could not be laid out. "
+              "The fills are shorter than 1 inch: check the sizes of this carpet's rooms.");
+    ExpectEmptyEstimateInFront();
 }
 
 TEST_F(ProgramTest, KeepsUnsavedRoomsAcrossTheMenuAndDropsThemWithTheProject) {

@@ -182,9 +182,14 @@ TEST_F(ESCarpFormActions, SaveTheProjectAndSaySo) {
     database.OpenInto(state);
     ASSERT_EQ(LoadOpenProject(state, project).Result, ProjectLoad::Outcome::Loaded);
     Open({{288, 120, 3}});
+    Click(Option("Option1(3)"));
     PressOk();
+    const auto written = Written();
+    ASSERT_FALSE(written.empty());
     Click(Button("Command6"));
     EXPECT_EQ(boxes.Messages, std::vector<std::string>{"Data is saved"});
+    EXPECT_EQ(Written(), written) << "the picture stays";
+    EXPECT_TRUE(Picture1().isVisible());
     EXPECT_FALSE(HasUnsavedRooms(state, project));
     state.CurDB.reset();
 
@@ -267,6 +272,21 @@ TEST_F(ESCarpFormActions, TellWhenTheWayBackFails) {
     Click(Button("Command2"));
     EXPECT_EQ(boxes.Messages,
               std::vector<std::string>{"The screen could not be closed. No memory."});
+}
+
+TEST_F(ESCarpFormActions, GoOnInTheirOwnUnitWhenTheWayBackFails) {
+    state.MetricFlag = 1;
+    Open({{366, 500}});
+    screens.OnCall = [this] {
+        state.MetricFlag = 0; // as loading the menu does
+        throw std::runtime_error("No memory.");
+    };
+    form->CloseByFrame();
+    ASSERT_EQ(boxes.Messages.size(), 1U);
+    EXPECT_EQ(state.MetricFlag, 1);
+    PressOk();
+    EXPECT_NEAR(engine.RollWidth, 366 / 2.54, 1e-4);
+    EXPECT_EQ(TimesWritten("Cut1: 366 X 500"), 1);
 }
 
 TEST_F(ESCarpFormActions, PressTheirButtonsByLetterAndWithEnter) {

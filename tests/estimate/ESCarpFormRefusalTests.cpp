@@ -40,6 +40,37 @@ struct ESCarpFormRefusals : EstimateScreenTest {
     std::vector<std::string> written;
 };
 
+TEST_F(ESCarpFormRefusals, KeepWhatWasThereForAWrongWidth) {
+    OpenEstimated();
+    Click(Option("Option1(15)"));
+    for (const char* text : {"", "0", "-3", "12'6", "6 1/2"}) {
+        boxes.Messages.clear();
+        Box("Text1(0)").clear();
+        Type(Box("Text1(0)"), text);
+        PressOk();
+        EXPECT_EQ(boxes.Messages, std::vector<std::string>{"The carpet width is not correct."});
+        EXPECT_TRUE(Panel().isVisible());
+        EXPECT_EQ(Box("Text1(0)").text(), QString::fromLatin1(text));
+        EXPECT_TRUE(Box("Text1(0)").hasFocus());
+        EXPECT_EQ(Written(), written);
+        EXPECT_EQ(engine.RollWidth, 144);
+        EXPECT_EQ(state.ECutCount, 2);
+    }
+}
+
+TEST_F(ESCarpFormRefusals, KeepWhatWasThereForAWrongMatchPattern) {
+    OpenEstimated();
+    Click(Option("Option1(11)"));
+    Click(Control<QCheckBox>("Check1"));
+    Type(Box("Text2(0)"), "1'6");
+    PressOk();
+    EXPECT_EQ(boxes.Messages, std::vector<std::string>{"The match pattern is not correct."});
+    EXPECT_TRUE(Panel().isVisible());
+    EXPECT_TRUE(Box("Text2(0)").hasFocus());
+    EXPECT_EQ(Written(), written);
+    EXPECT_EQ(engine.RollWidth, 144);
+}
+
 TEST_F(ESCarpFormRefusals, PutTheFocusIntoTheBoxThatIsWrong) {
     for (const Byte metric : {Byte{0}, Byte{1}}) {
         state.MetricFlag = metric;

@@ -94,6 +94,39 @@ TEST_F(ESCarpForms, KeepChoicesAndResultWhenThePanelIsCancelled) {
     EXPECT_TRUE(Option("Option1(11)").isChecked());
 }
 
+TEST_F(ESCarpForms, KeepAllThatIsChosenAndTypedWhenThePanelIsCancelled) {
+    Open({{288, 120}, {100, 100, 5}});
+    Click(Option("Option1(5)"));
+    Click(Option("Option1(15)"));
+    Type(Box("Text1(0)"), "12'6");
+    Type(Box("Text1(1)"), "7");
+    Click(Option("Option2(1)"));
+    Click(Control<QCheckBox>("Check1"));
+    Type(Box("Text2(0)"), "18");
+    Type(Box("Text2(1)"), "-2");
+    Click(Button("Command1(1)"));
+    EXPECT_TRUE(Button("Command3").hasFocus()) << "there is no picture yet";
+    EXPECT_TRUE(boxes.Messages.empty());
+    Click(Button("Command3"));
+    for (const char* option : {"Option1(5)", "Option1(15)", "Option2(1)"}) {
+        EXPECT_TRUE(Option(option).isChecked()) << option;
+    }
+    EXPECT_TRUE(Control<QCheckBox>("Check1").isChecked());
+    EXPECT_EQ(Box("Text1(0)").text(), QStringLiteral("12'6"));
+    EXPECT_EQ(Box("Text1(1)").text(), QStringLiteral("7"));
+    EXPECT_EQ(Box("Text2(0)").text(), QStringLiteral("18"));
+    EXPECT_EQ(Box("Text2(1)").text(), QStringLiteral("-2"));
+    EXPECT_TRUE(Option("Option1(5)").hasFocus());
+}
+
+TEST_F(ESCarpForms, PutTheFocusOnThePictureWhenThePanelIsCancelledOverOne) {
+    Open({{288, 120}});
+    PressOk();
+    Click(Button("Command3"));
+    Click(Button("Command1(1)"));
+    EXPECT_TRUE(Picture1().hasFocus());
+}
+
 TEST_F(ESCarpForms, DrawAndListACarpetWithoutFillsAtOnce) {
     Open({{288, 120}});
     PressOk();
@@ -231,41 +264,15 @@ TEST_F(ESCarpForms, ListAMatchPattern) {
     EXPECT_EQ(TimesWritten("Match Pattern: 1'6\" X 2'0\""), 0);
 }
 
-TEST_F(ESCarpForms, RefuseAWrongWidthAndKeepWhatWasThere) {
-    Open({{288, 120}});
-    PressOk();
-    const auto written = Written();
-    Click(Button("Command3"));
-    Click(Option("Option1(15)"));
-    for (const char* text : {"", "0", "-3", "12'6", "6 1/2"}) {
-        boxes.Messages.clear();
-        Box("Text1(0)").clear();
-        Type(Box("Text1(0)"), text);
-        PressOk();
-        EXPECT_EQ(boxes.Messages, std::vector<std::string>{"The carpet width is not correct."});
-        EXPECT_TRUE(Panel().isVisible());
-        EXPECT_EQ(Box("Text1(0)").text(), QString::fromLatin1(text));
-        EXPECT_TRUE(Box("Text1(0)").hasFocus());
-        EXPECT_EQ(Written(), written);
-        EXPECT_EQ(engine.RollWidth, 144);
-        EXPECT_EQ(state.ECutCount, 2);
-    }
-}
-
-TEST_F(ESCarpForms, RefuseAWrongMatchPatternAndKeepWhatWasThere) {
-    Open({{288, 120}});
-    PressOk();
-    const auto written = Written();
-    Click(Button("Command3"));
-    Click(Option("Option1(11)"));
+TEST_F(ESCarpForms, ListAMetricRepeatAsItWasTyped) {
+    state.MetricFlag = 1;
+    Open({{366, 500}});
     Click(Control<QCheckBox>("Check1"));
-    Type(Box("Text2(0)"), "1'6");
+    Type(Box("Text2(0)"), "31");
+    Type(Box("Text2(1)"), "47");
     PressOk();
-    EXPECT_EQ(boxes.Messages, std::vector<std::string>{"The match pattern is not correct."});
-    EXPECT_TRUE(Panel().isVisible());
-    EXPECT_TRUE(Box("Text2(0)").hasFocus());
-    EXPECT_EQ(Written(), written);
-    EXPECT_EQ(engine.RollWidth, 144);
+    EXPECT_EQ(TimesWritten("Match Pattern: 31 X 47"), 1);
+    EXPECT_EQ(TimesWritten("Total Match Pattern Length: 517"), 1) << "11 repeats of 47";
 }
 
 TEST_F(ESCarpForms, EnableTheirButtonsAlsoWhenOkIsRefused) {
