@@ -289,14 +289,14 @@ class SearchTest : public ProgramTest {
 
 TEST_F(SearchTest, IsStoppedByClosingTheWindow) {
     OpenOptions(false, {{"16", "8", "10", "0"}, {"10", "0", "14", "0"}});
+    Click(Control<QRadioButton>("Option1(3)"));
     bool looked = false;
-    QTimer::singleShot(0, &program_.Window(), [&] {
+    QTimer::singleShot(0, &program_.Window(), [&] { // the first chance that the search gives
         looked = true;
         EXPECT_EQ(Front(), "ESTFORM");
         EXPECT_FALSE(estimate_->isEnabled()) << "the search is still running";
         program_.Window().close();
     });
-    Click(Control<QRadioButton>("Option1(3)"));
     Click(Control("Command1"));
     QCoreApplication::processEvents();
     EXPECT_TRUE(looked);
