@@ -14,7 +14,7 @@ namespace tarn {
 
 namespace {
 
-constexpr Double FirstEffort = 8000;  ///< steps from one start in the first round
+constexpr Double FirstEffort = 3000;  ///< steps from one start in the first round
 constexpr Double EffortGrowth = 1.5;  ///< a round
 constexpr Double ShortenShare = 0.05; ///< of the steps from one start
 constexpr Double PolishShare = 0.05;
@@ -53,8 +53,8 @@ class Improver {
             }
             effort_ *= EffortGrowth;
         }
-        if (run_.IsLeast() && !run_.Stopped() && best_) {
-            Polish(run_, *best_, run_.Best().Length, LastPolish, random_);
+        if (run_.IsLeast() && !run_.Stopped()) {
+            SaveJoins();
         }
     }
 
@@ -81,6 +81,14 @@ class Improver {
             }
         }
         return false;
+    }
+
+    /// No layout is shorter: look for a better one of the same length.
+    void SaveJoins() {
+        if (!best_ && !PackFromAny(run_.Best().Length)) {
+            return;
+        }
+        Polish(run_, *best_, run_.Best().Length, LastPolish, random_);
     }
 
     void ShortenStarts(int round) {

@@ -167,6 +167,19 @@ TEST(Improver, OfEqualLengthsFewerJoinsWin) {
     EXPECT_EQ(run.Best().Parts, 2);
 }
 
+// The start is the least length already, in more parts than a search from the sorted orders gives
+// at once.
+TEST(Improver, SavesJoinsOfAStartThatIsTheLeast) {
+    const ImproveJob job{
+        12, 2, 1, 100, {{6, 20, 4}, {6, 10, 4}, {12, 5, 4}, {4, 30, 4}, {2, 24, 4}}};
+    const Long least = QuickBound(job);
+    ImproveRun run(job, {least, 12, 0}, Limits(60000), GoOn);
+    Improve(run, 1);
+    EXPECT_EQ(run.Best().Length, least);
+    EXPECT_LT(run.Best().Parts, 12);
+    EXPECT_EQ(FaultOf(job, run.BestParts()), "");
+}
+
 //  0 +--------+--------+          a 12 x 10 roll of 24: c lies behind a and b in any case,
 //    |   a    |   b    |          free are 12 x 5 behind b, when c is behind a
 // 10 +--------+        |
