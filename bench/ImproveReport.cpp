@@ -4,12 +4,13 @@
 #include "app/Format.h"
 #include "bench/ImproveMeasure.h"
 #include "bench/ImprovePlot.h"
+#include "bench/ReportPage.h"
 
 #include <algorithm>
 #include <cstdlib>
-#include <fstream>
 #include <iostream>
 #include <map>
+#include <mutex>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -20,46 +21,59 @@ namespace {
 
 constexpr double FlooringSeconds = 2;
 constexpr std::uint64_t Seeds = 3;
-const std::vector<double> PackingSeconds{1, 10};
 
 std::string Percent(double value) {
     return Format(value, "0.00") + "%";
 }
 
-/// The average gap to the optimum by set, and in how many runs the optimum was found.
+/// The gaps to the optimum of a set's runs, and in how many of them the optimum was found, after
+/// each of the times.
 struct PackingGap {
-    std::vector<double> Sum = std::vector<double>(PackingSeconds.size());
-    std::vector<int> Optimal = std::vector<int>(PackingSeconds.size());
+    std::vector<double> Sum;
+    std::vector<int> Optimal;
     int Runs = 0;
 };
 
-std::string PackingTable(const std::vector<PackingInstance>& instances) {
-    std::vector<std::vector<Long>> best(instances.size() * Seeds);
-    ForEach(best.size(), [&](std::size_t i) {
-        best[i] = BestAfter(instances[i / Seeds], PackingSeconds, i % Seeds + 1);
-    });
+/// The gaps by set over several runs on every instance, one with each seed.
+std::map<std::string, PackingGap> MeasurePacking(const std::vector<PackingInstance>& instances,
+                                                 const std::vector<double>& seconds) {
     std::map<std::string, PackingGap> gaps;
-    for (std::size_t i = 0; i < best.size(); ++i) {
+    std::mutex taking;
+    ForEach(instances.size() * Seeds, [&](std::size_t i) {
         const PackingInstance& instance = instances[i / Seeds];
+        const std::vector<Long> best = BestAfter(instance, seconds, i % Seeds + 1);
+        const std::lock_guard<std::mutex> lock(taking);
         PackingGap& gap = gaps[instance.Set];
+        gap.Sum.resize(seconds.size());
+        gap.Optimal.resize(seconds.size());
         ++gap.Runs;
-        std::cout << instance.Name << " seed " << i % Seeds + 1 << ": ";
-        for (std::size_t k = 0; k < PackingSeconds.size(); ++k) {
-            gap.Sum[k] += 100.0 * (best[i][k] - instance.Best) / instance.Best;
-            gap.Optimal[k] += best[i][k] == instance.Best ? 1 : 0;
-            std::cout << best[i][k] << ' ';
+        std::cout << instance.Name << " seed " << i % Seeds + 1 << ':';
+        for (std::size_t k = 0; k < seconds.size(); ++k) {
+            gap.Sum[k] += 100.0 * (best[k] - instance.Best) / instance.Best;
+            gap.Optimal[k] += best[k] == instance.Best ? 1 : 0;
+            std::cout << ' ' << best[k];
         }
-        std::cout << "of " << instance.Best << '\n';
+        std::cout << " of " << instance.Best << std::endl;
+    });
+    return gaps;
+}
+
+std::string PackingTable(const std::map<std::string, PackingGap>& gaps,
+                         const std::vector<double>& seconds) {
+    std::string table = "| set | runs |";
+    std::string rule = "|---|---:|";
+    for (const double time : seconds) {
+        table += " gap after " + Format(time, "0") + " s | optimal |";
+        rule += "---:|---:|";
     }
-    std::string table = "| set | runs | gap after 1 s | optimal | gap after 10 s | optimal |\n"
-                        "|---|---:|---:|---:|---:|---:|\n";
+    table += "\n" + rule + "\n";
     for (const auto& [set, gap] : gaps) {
-        table += "| " + set + " | " + std::to_string(gap.Runs);
-        for (std::size_t k = 0; k < PackingSeconds.size(); ++k) {
-            table +=
-                " | " + Percent(gap.Sum[k] / gap.Runs) + " | " + std::to_string(gap.Optimal[k]);
+        table += "| " + set + " | " + std::to_string(gap.Runs) + " |";
+        for (std::size_t k = 0; k < seconds.size(); ++k) {
+            table += " " + Percent(gap.Sum[k] / gap.Runs) + " | " + std::to_string(gap.Optimal[k]) +
+                     " |";
         }
-        table += " |\n";
+        table += "\n";
     }
     return table;
 }
@@ -125,31 +139,7 @@ std::string FlooringTable(std::vector<FlooringResult>& all) {
     return table;
 }
 
-void WriteFile(const std::string& path, const std::string& content) {
-    std::ofstream file(path, std::ios::binary);
-    file << content;
-    file.flush();
-    if (!file) {
-        throw std::runtime_error(path + " cannot be written");
-    }
-}
-
-void WritePage(const std::string& docs, const std::string& packing, const std::string& flooring) {
-    std::ifstream input(docs + "/improve.in.md");
-    std::string text((std::istreambuf_iterator<char>(input)), std::istreambuf_iterator<char>());
-    const std::pair<std::string, std::string> fields[] = {{"@PACKING@\n", packing},
-                                                          {"@FLOORING@\n", flooring}};
-    for (const auto& [field, value] : fields) {
-        const std::size_t at = text.find(field);
-        if (at == std::string::npos) {
-            throw std::runtime_error(docs + "/improve.in.md has no place for " + field);
-        }
-        text.replace(at, field.size(), value);
-    }
-    WriteFile(docs + "/improve.md", text);
-}
-
-void Report(const std::string& docs, const char* packingFolder) {
+void Report(const std::string& docs, const char* packingFolder, double mostSeconds) {
     std::vector<FlooringResult> all;
     const std::string flooring = FlooringTable(all);
     if (packingFolder == nullptr) {
@@ -158,9 +148,14 @@ void Report(const std::string& docs, const char* packingFolder) {
                   << docs << "/improve.md stays as it is.\n";
         return;
     }
-    const std::string packing = PackingTable(ReadPackingInstances(packingFolder));
+    std::vector<double> seconds{1};
+    if (mostSeconds > seconds.front()) {
+        seconds.push_back(mostSeconds);
+    }
+    const std::string packing =
+        PackingTable(MeasurePacking(ReadPackingInstances(packingFolder), seconds), seconds);
     std::cout << packing;
-    WritePage(docs, packing, flooring);
+    WritePage(docs, "improve", {{"@PACKING@\n", packing}, {"@FLOORING@\n", flooring}});
     WriteFile(docs + "/images/improve.svg", ImprovePlot(all));
 }
 
@@ -170,11 +165,13 @@ void Report(const std::string& docs, const char* packingFolder) {
 
 int main(int argc, char* argv[]) {
     try {
-        if (argc != 2 && argc != 3) {
-            throw std::runtime_error(
-                "usage: tarn_improve_report DOCS-FOLDER [STRIP-PACKING-FOLDER]");
+        if (argc < 2 || argc > 4) {
+            throw std::runtime_error("usage: tarn_improve_report DOCS-FOLDER "
+                                     "[STRIP-PACKING-FOLDER [MOST-SECONDS]]");
         }
-        tarn::Report(argv[1], argc == 3 ? argv[2] : std::getenv("TARN_STRIP_PACKING"));
+        constexpr double UsualSeconds = 10;
+        tarn::Report(argv[1], argc > 2 ? argv[2] : std::getenv("TARN_STRIP_PACKING"),
+                     argc > 3 ? std::stod(argv[3]) : UsualSeconds);
         return 0;
     } catch (const std::exception& error) {
         std::cerr << "tarn_improve_report: " << error.what() << '\n';

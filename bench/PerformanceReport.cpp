@@ -3,6 +3,7 @@
 
 #include "app/Format.h"
 #include "bench/CostPlot.h"
+#include "bench/ReportPage.h"
 #include "engine/MultiEstimate.h"
 #include "engine/RollLayout.h"
 #include "engine/reference/RandomJobs.h"
@@ -11,10 +12,10 @@
 #include <algorithm>
 #include <chrono>
 #include <cmath>
-#include <fstream>
 #include <iostream>
 #include <limits>
 #include <random>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -150,15 +151,6 @@ double Exponent(const std::vector<CostPoint>& costs) {
     return (n * xy - x * y) / (n * xx - x * x);
 }
 
-void WriteFile(const std::string& path, const std::string& content) {
-    std::ofstream file(path, std::ios::binary);
-    file << content;
-    file.flush();
-    if (!file) {
-        throw std::runtime_error(path + " cannot be written");
-    }
-}
-
 void Report(const std::string& docs) {
     const std::string ratios = RatioTable();
     std::vector<CostPoint> costs;
@@ -166,19 +158,10 @@ void Report(const std::string& docs) {
         costs.push_back({parts, PlacementSeconds(parts)});
     }
     const double exponent = Exponent(costs);
-    std::ifstream input(docs + "/performance.in.md");
-    std::string text((std::istreambuf_iterator<char>(input)), std::istreambuf_iterator<char>());
-    const std::pair<std::string, std::string> fields[] = {{"@RATIOS@\n", ratios},
-                                                          {"@COSTS@\n", CostTable(costs)},
-                                                          {"@EXPONENT@", Format(exponent, "0.00")}};
-    for (const auto& [field, value] : fields) {
-        const std::size_t at = text.find(field);
-        if (at == std::string::npos) {
-            throw std::runtime_error(docs + "/performance.in.md has no place for " + field);
-        }
-        text.replace(at, field.size(), value);
-    }
-    WriteFile(docs + "/performance.md", text);
+    WritePage(docs, "performance",
+              {{"@RATIOS@\n", ratios},
+               {"@COSTS@\n", CostTable(costs)},
+               {"@EXPONENT@", Format(exponent, "0.00")}});
     WriteFile(docs + "/images/placement-cost.svg", CostPlot(costs, exponent));
     std::cout << CostTable(costs) << "Exponent over all: " << Format(exponent, "0.00") << '\n';
 }
