@@ -3,18 +3,12 @@
 #include "app/Controls.h"
 #include "app/Display.h"
 #include "app/ElidedLabel.h"
-#include "app/Numbers.h"
-#include "app/OutputFile.h"
 #include "app/QtText.h"
 #include "app/RunTimeError.h"
 #include "app/Theme.h"
-#include "estimate/EstimatePage.h"
 #include "estimate/ImprovePanel.h"
 #include "estimate/LayoutDrawing.h"
 #include "estimate/RunEstimate.h"
-#include "estimate/Svg.h"
-#include "print/PdfFile.h"
-#include "rooms/Report.h"
 #include "rooms/RoomExtents.h"
 
 #include <QAction>
@@ -34,8 +28,6 @@ namespace {
 constexpr const char* NoDataMessage = "There is not data in the database";
 constexpr const char* EstimateFailure = "The estimate could not be made.";
 constexpr const char* DrawingFailure = "The layout could not be drawn.";
-constexpr const char* SaveFailure = "The project could not be saved.";
-constexpr const char* PictureFailure = "The picture could not be saved.";
 constexpr const char* PasteHint =
     "Then click where the cut list is to stand, or press Enter for the top left of the view.";
 constexpr const char* LeaveFailure = "The screen could not be closed.";
@@ -141,26 +133,6 @@ QVBoxLayout* ESCarpForm::BuildButtons() {
     return column;
 }
 
-/// A child of the picture that pops up without waiting, so that the screen may close under it.
-void ESCarpForm::BuildPictureMenu() {
-    pictureMenu_ = new QMenu(picture_);
-    const auto add = [this](const char* name, const char* text, std::function<void()> save) {
-        QAction* action = pictureMenu_->addAction(QString::fromLatin1(text));
-        action->setObjectName(QString::fromLatin1(name));
-        connect(action, &QAction::triggered, this,
-                [this, save = std::move(save)] { Guard(PictureFailure, save); });
-    };
-    add("SavePdf", "Save as &PDF", [this] {
-        SavePicture("pdf", [this](const std::string& path) { WriteEstimatePdf(Page(), path); });
-    });
-    add("SaveSvg", "Save as &SVG", [this] {
-        SavePicture("svg", [this](const std::string& path) {
-            WriteOutputFile(path, SvgDocument(picture_->Drawing(), FromQt(windowTitle())));
-        });
-    });
-    picture_->ContextMenu = [this](QPoint global) { pictureMenu_->popup(global); };
-}
-
 void ESCarpForm::Connect() {
     OnClick(panel_->OkButton(), EstimateFailure, [this] { TakeOk(); });
     OnClick(panel_->CancelButton(), EstimateFailure, [this] {
@@ -172,7 +144,7 @@ void ESCarpForm::Connect() {
     OnClick(*buttons_[Redraw], DrawingFailure, [this] { RedrawLayout(); });
     OnClick(*buttons_[Improve], DrawingFailure, [this] { ImproveLayout(); });
     OnClick(*buttons_[Print], {}, [this] { PrintPic(); });
-    OnClick(*buttons_[Save], SaveFailure, [this] { SaveRooms(); });
+    OnClick(*buttons_[Save], std::string(NotSavedMessage), [this] { SaveRooms(); });
     OnClick(*buttons_[Back], LeaveFailure, [this] { Leave(); });
     picture_->MouseDown = [this](Double x, Double y) { return PictureMouseDown(x, y); };
 }
@@ -335,48 +307,6 @@ bool ESCarpForm::PictureMouseDown(Double x, Double y) {
         SetPasteCuts(false);
     });
     return true;
-}
-
-/// Whatever fails on the way to the paper is told as the printer's failure.
-void ESCarpForm::PrintPic() {
-    try {
-        SendToPrinter();
-    } catch (const std::exception&) {
-        Shared().Boxes.Message(PrinterNotReadyMessage);
-    }
-}
-
-void ESCarpForm::SendToPrinter() {
-    if (State().PrnWidth == 0 || State().PrnHeight == 0) {
-        const Printer::PageSize size = Shared().Paper.Page();
-        const Integer width = CInt(size.Width);
-        const Integer height = CInt(size.Height);
-        State().PrnWidth = width;
-        State().PrnHeight = height;
-    }
-    Shared().Paper.PrintEstimate(Page());
-}
-
-EstimatePage ESCarpForm::Page() const {
-    const QDate today = Shared().Today();
-    return MakeEstimatePage(State(), Shared().Engine, estimate_, picture_->Drawing(),
-                            ShortDate(today.year(), today.month(), today.day()));
-}
-
-/// Every failure names the file, whoever raises it.
-void ESCarpForm::SavePicture(const char* suffix,
-                             const std::function<void(const std::string& path)>& write) {
-    const auto path = Shared().Boxes.SaveFileName(State().CurProjName, suffix);
-    if (!path) {
-        return;
-    }
-    try {
-        write(*path);
-    } catch (const OutputFileError&) {
-        throw;
-    } catch (const std::exception& error) {
-        throw OutputFileError("The file " + *path + " cannot be written: " + error.what());
-    }
 }
 
 void ESCarpForm::SaveRooms() {

@@ -1,0 +1,83 @@
+// The estimate on paper and in files.
+
+#include "app/OutputFile.h"
+#include "app/QtText.h"
+#include "estimate/ESCarpForm.h"
+#include "estimate/EstimatePage.h"
+#include "estimate/Svg.h"
+#include "print/PdfFile.h"
+#include "print/PrinterPage.h"
+#include "rooms/Report.h"
+
+#include <QAction>
+#include <QMenu>
+
+#include <utility>
+
+namespace tarn {
+
+namespace {
+
+constexpr const char* PictureFailure = "The picture could not be saved.";
+
+} // namespace
+
+/// A child of the picture that pops up without waiting, so that the screen may close under it.
+void ESCarpForm::BuildPictureMenu() {
+    pictureMenu_ = new QMenu(picture_);
+    const auto add = [this](const char* name, const char* text, std::function<void()> save) {
+        QAction* action = pictureMenu_->addAction(QString::fromLatin1(text));
+        action->setObjectName(QString::fromLatin1(name));
+        connect(action, &QAction::triggered, this,
+                [this, save = std::move(save)] { Guard(PictureFailure, save); });
+    };
+    add("SavePdf", "Save as &PDF", [this] {
+        SavePicture("pdf", [this](const std::string& path) { WriteEstimatePdf(Page(), path); });
+    });
+    add("SaveSvg", "Save as &SVG", [this] {
+        SavePicture("svg", [this](const std::string& path) {
+            WriteOutputFile(path, SvgDocument(picture_->Drawing(), FromQt(windowTitle())));
+        });
+    });
+    picture_->ContextMenu = [this](QPoint global) { pictureMenu_->popup(global); };
+}
+
+/// Whatever fails on the way to the paper is told as the printer's failure.
+void ESCarpForm::PrintPic() {
+    try {
+        SendToPrinter();
+    } catch (const std::exception&) {
+        Shared().Boxes.Message(PrinterNotReadyMessage);
+    }
+}
+
+void ESCarpForm::SendToPrinter() {
+    if (State().PrnWidth == 0 || State().PrnHeight == 0) {
+        TakePrinterPage(State(), Shared().Paper);
+    }
+    Shared().Paper.PrintEstimate(Page());
+}
+
+EstimatePage ESCarpForm::Page() const {
+    const QDate today = Shared().Today();
+    return MakeEstimatePage(State(), Shared().Engine, estimate_, picture_->Drawing(),
+                            ShortDate(today.year(), today.month(), today.day()));
+}
+
+/// Every failure names the file, whoever raises it.
+void ESCarpForm::SavePicture(const char* suffix,
+                             const std::function<void(const std::string& path)>& write) {
+    const auto path = Shared().Boxes.SaveFileName(State().CurProjName, suffix);
+    if (!path) {
+        return;
+    }
+    try {
+        write(*path);
+    } catch (const OutputFileError&) {
+        throw;
+    } catch (const std::exception& error) {
+        throw OutputFileError("The file " + *path + " cannot be written: " + error.what());
+    }
+}
+
+} // namespace tarn
