@@ -89,7 +89,7 @@ void Screen::keyPressEvent(QKeyEvent* event) {
     auto* button = qobject_cast<QPushButton*>(focusWidget());
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     if (enter && button != nullptr && !event->isAutoRepeat()) {
-        Guard({}, [&] { button->click(); });
+        button->click(); // whose handler is under the guard
         return;
     }
     QWidget::keyPressEvent(event);

@@ -167,14 +167,6 @@ TEST_F(Guards, ShowTheCauseOfOtherFailures) {
     EXPECT_EQ(boxes.Messages, std::vector<std::string>{"Nothing was done. The file is locked."});
 }
 
-TEST_F(Guards, CatchWhatAButtonRaisesThatEnterPresses) {
-    PlainScreen screen(session);
-    QObject::connect(screen.Button, &QPushButton::clicked, [] { RaiseOverflow(); });
-    ShowOnDisplay(screen);
-    Press(screen, Qt::Key_Return);
-    EXPECT_EQ(boxes.Messages, std::vector<std::string>{"Run-time error '6':\r\n\r\nOverflow"});
-}
-
 TEST_F(TitledScreens, PressNoButtonAgainWhileEnterIsHeldDown) {
     PlainScreen screen(session);
     int pressed = 0;
