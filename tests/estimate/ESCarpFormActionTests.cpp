@@ -171,8 +171,12 @@ TEST_F(ESCarpFormActions, TreatAPageTooLargeAsAPrinterThatIsNotReady) {
     printer.Size = {20000, 40000};
     Click(Button("Command5"));
     EXPECT_EQ(boxes.Messages, std::vector<std::string>{PrinterNotReadyMessage});
-    EXPECT_EQ(state.PrnWidth, 0) << "not half of it";
     EXPECT_EQ(state.PrnHeight, 0);
+    EXPECT_TRUE(printer.Estimates.empty());
+    printer.Size = {16838, 11906};
+    Click(Button("Command5"));
+    EXPECT_EQ(printer.Estimates.size(), 1U);
+    EXPECT_EQ(state.PrnWidth, 16838) << "the page is asked for again";
 }
 
 TEST_F(ESCarpFormActions, SaveTheProjectAndSaySo) {
