@@ -51,7 +51,9 @@ std::string NothingBetterText(const ImproveResult& result) {
 } // namespace
 
 void ESCarpForm::EnableImprove() {
-    buttons_[Improve]->setEnabled(buttons_[Estimate]->isEnabled() && Shared().Engine.PosCount > 0);
+    // A layout becomes ready while the whole screen is still disabled below the options.
+    const bool usable = buttons_[Estimate]->isEnabledTo(&Body());
+    buttons_[Improve]->setEnabled(usable && Shared().Engine.PosCount > 0);
 }
 
 void ESCarpForm::ImproveLayout() {

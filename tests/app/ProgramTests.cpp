@@ -207,6 +207,10 @@ TEST_F(ProgramTest, WalksFromTheMenuToTheLayoutAndBack) {
     ChooseAndSearch();
     ExpectFront("ESCarpForm", 1);
     EXPECT_TRUE(program_.Window().Front()->isEnabled());
+    boxes_.Messages.clear();
+    Click(Control("Command8"));
+    EXPECT_EQ(boxes_.Messages, std::vector<std::string>{"No better layout was found: this one is "
+                                                        "the least possible."});
     Click(Control("Command2"));
     ExpectFront("MenuForm", 1);
     Click(Control("Command1(1)"));
