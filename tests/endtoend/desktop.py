@@ -246,6 +246,19 @@ class Program:
             window.set_input_focus(X.RevertToParent, X.CurrentTime)
         server.close()
 
+    def end_improving(self):
+        """Stop an improving search, unless it has come to its own end, and close what it says."""
+
+        def ended():
+            if self.boxes():
+                self.answer("OK")
+            stop = self.showing("push button", "STOP")
+            if stop:
+                self.click_on(stop[0])
+            return not stop and not self.boxes()
+
+        wait_for(ended, "the end of the search")
+
     def close_by_frame(self):
         """What the window manager does when the window's cross is clicked."""
         server = display.Display()

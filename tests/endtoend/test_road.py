@@ -283,6 +283,38 @@ class MetricRoad(Road):
         )
 
 
+class Improving(Road):
+    def test_a_layout_becomes_as_short_as_can_be(self):
+        ui = self.ui
+        ui.press("SELECT PROJECT")
+        ui.press("NEW PROJECT")
+        ui.type("strips")
+        ui.press("DONE")
+        ui.press("ENTER/EDIT DATA")
+        # Three strips that fit beside each other on the 12 ft roll.
+        for number in range(1, 4):
+            ui.see("label", str(number))
+            for part in ("4", "", "8", "4"):
+                ui.type(part)
+                ui.key("Return")
+            ui.press("NEXT ROOM")
+        ui.see("label", "4")
+        ui.press("SAVE")
+        self.expect_message("Data is saved")
+        ui.press("ESTIMATE")
+        ui.press("OK")
+        ui.choose("1")
+        ui.press("Continue")
+        wait_for(ui.drawn_text, "the drawing")
+        self.expect_drawn("STRIPS", "--carpet", "1", "--roll-width", "12ft")
+        ui.press("IMPROVE")
+        wait_for(lambda: any("Improved" in line for line in ui.drawn_text()), "a shorter layout")
+        self.expect_drawn("STRIPS", "--carpet", "1", "--roll-width", "12ft", "--improve", "10")
+        self.assertIn(
+            "Improved: fills 50.0% shorter, the least possible", ui.drawn_text()
+        )
+
+
 class DatabaseTrouble(Road):
     def type_room(self):
         ui = self.ui
