@@ -2,19 +2,10 @@
 
 #include "app/Numbers.h"
 
-#include <QCoreApplication>
 #include <QLabel>
 #include <QProgressBar>
 
 namespace tarn {
-
-namespace {
-
-/// Long enough that thousands of placements do not wait for the window system after each, short
-/// enough that nobody notices, milliseconds.
-constexpr qint64 YieldInterval = 10;
-
-} // namespace
 
 SearchProgress::SearchProgress(QProgressBar& bar, QLabel& percentage,
                                std::function<void()> finished)
@@ -28,23 +19,21 @@ void SearchProgress::Started(Long maximum) {
     percentage_.setText(QStringLiteral("0%"));
     bar_.show();
     percentage_.show();
-    Yield();
+    yield_.Now();
 }
 
 bool SearchProgress::Scored(Long done) {
     bar_.setValue(done);
     const Double share = static_cast<Double>(done) / bar_.maximum();
     percentage_.setText(QString::number(Int(share * 100)) + QLatin1Char('%'));
-    if (sinceYield_.elapsed() >= YieldInterval) {
-        Yield();
-    }
+    yield_.WhenDue();
     return !stopped_;
 }
 
 /// What the user did until now was meant for the search: it must not wait for the screen below.
 void SearchProgress::Finished() {
     Ended();
-    Yield();
+    yield_.Now();
     if (!stopped_) {
         finished_();
     }
@@ -53,11 +42,6 @@ void SearchProgress::Finished() {
 void SearchProgress::Ended() noexcept {
     bar_.hide();
     percentage_.hide();
-}
-
-void SearchProgress::Yield() {
-    QCoreApplication::processEvents();
-    sinceYield_.start();
 }
 
 } // namespace tarn

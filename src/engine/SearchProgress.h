@@ -1,8 +1,7 @@
 #pragma once
 
+#include "app/EventYield.h"
 #include "engine/SearchObserver.h"
-
-#include <QElapsedTimer>
 
 #include <functional>
 
@@ -28,12 +27,10 @@ class SearchProgress : public SearchObserver {
     void Ended() noexcept override;
 
   private:
-    void Yield();
-
     QProgressBar& bar_;
     QLabel& percentage_;
     std::function<void()> finished_;
-    QElapsedTimer sinceYield_;
+    EventYield yield_;
     bool stopped_ = false;
 };
 

@@ -9,7 +9,6 @@
 #include "app/Theme.h"
 #include "estimate/Improvement.h"
 
-#include <QCoreApplication>
 #include <QLabel>
 #include <QProgressBar>
 #include <QPushButton>
@@ -88,6 +87,7 @@ ImproveResult ImprovePanel::Run(const Search& search) {
             Panel.raise();
             Panel.stop_->setFocus();
             Panel.sinceStart_.start();
+            Panel.yield_ = EventYield();
         }
         ~InView() {
             Panel.running_ = false;
@@ -101,7 +101,10 @@ ImproveResult ImprovePanel::Run(const Search& search) {
     const InView inView(*this);
     ImproveLimits limits;
     limits.Seconds = Seconds;
-    return search(limits, *this);
+    const ImproveResult result = search(limits, *this);
+    // A close that came until now was meant for the search.
+    yield_.Now();
+    return result;
 }
 
 bool ImprovePanel::Progress(const ImproveProgress& progress) {
@@ -110,7 +113,7 @@ bool ImprovePanel::Progress(const ImproveProgress& progress) {
         shown_ = true;
         sinceShown_.start();
     }
-    QCoreApplication::processEvents();
+    yield_.WhenDue();
     return !stopped_;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/EventYield.h"
 #include "engine/improve/ImproveEngine.h"
 
 #include <QElapsedTimer>
@@ -43,6 +44,7 @@ class ImprovePanel : public QFrame, private ImproveObserver {
     bool shown_ = false; ///< the figures of this search, at least once
     QElapsedTimer sinceStart_;
     QElapsedTimer sinceShown_;
+    EventYield yield_;
     QLabel* best_ = nullptr;
     QLabel* least_ = nullptr;
     QLabel* gap_ = nullptr;

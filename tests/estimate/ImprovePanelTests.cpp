@@ -93,6 +93,16 @@ TEST_F(ImprovePanels, LetTheWindowSystemWorkAndStopWhenAsked) {
     EXPECT_LT(asked, 1000);
 }
 
+TEST_F(ImprovePanels, TakeWhatCameLastAsMeantForTheSearch) {
+    bool runningAtLast = false;
+    Panel.Run([&](const ImproveLimits&, ImproveObserver& observer) {
+        observer.Progress({630, 619});
+        QTimer::singleShot(0, &Panel, [&] { runningAtLast = Panel.IsRunning(); });
+        return ImproveResult{};
+    });
+    EXPECT_TRUE(runningAtLast);
+}
+
 TEST_F(ImprovePanels, StopWithTheKeyOfTheirButton) {
     QTimer::singleShot(0, &Panel, [&] { Press(Panel, Qt::Key_Space); });
     int asked = 0;
