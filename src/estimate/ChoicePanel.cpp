@@ -121,7 +121,7 @@ QWidget* ChoicePanel::BuildOther() {
                         0, 2 * index + 1);
     }
     otherHint_ = NewLabel(other_, QStringLiteral("Label4"), "");
-    SetRole(*otherHint_, TextRole::Hint);
+    SetRole(*otherHint_, TextRole::Warning);
     rows->addWidget(otherHint_, 1, 0, 1, 4);
     rows->setColumnStretch(3, 1);
     return other_;
