@@ -46,18 +46,16 @@ QColor ColorOf(Long color) {
 } // namespace
 
 DeviceFont::DeviceFont(const QFont& font, const QPaintDevice& device)
-    : font_(font)
-    , device_(&device) {
+    : font_(font) {
     const QFontMetricsF metrics(font, &device);
     ascent_ = metrics.ascent();
     descent_ = metrics.descent();
 }
 
-DeviceFont::DeviceFont(const FontRecord& record, const DeviceFont& own)
+DeviceFont::DeviceFont(const FontRecord& record, const DeviceFont& own, const QPaintDevice& device)
     : font_(FontOf(record))
-    , direction_(record.Escapement / 10.0)
-    , device_(own.device_) {
-    const QFontMetricsF measured(font_, device_);
+    , direction_(record.Escapement / 10.0) {
+    const QFontMetricsF measured(font_, &device);
     const double cell = measured.ascent() + measured.descent();
     double size = std::abs(static_cast<double>(record.Height)); // of the letters
     if (record.Height >= 0) {
@@ -75,8 +73,8 @@ DeviceFont::DeviceFont(const FontRecord& record, const DeviceFont& own)
     descent_ = measured.descent() * size / MeasuredSize;
 }
 
-double DeviceFont::Advance(const QString& text) const {
-    return QFontMetricsF(font_, device_).horizontalAdvance(text) * scaleX_;
+double DeviceFont::Advance(const QString& text, const QPaintDevice& device) const {
+    return QFontMetricsF(font_, &device).horizontalAdvance(text) * scaleX_;
 }
 
 void DeviceFont::Draw(QPainter& painter, const QString& text) const {
@@ -90,8 +88,12 @@ DeviceContext::DeviceContext(QPainter& painter)
     , ownFont_(std::make_shared<DeviceFont>(painter.font(), *painter.device()))
     , font_(ownFont_) {}
 
+double DeviceContext::OwnAdvance(std::string_view text) const {
+    return ownFont_->Advance(ToQt(text), *painter_.device());
+}
+
 FontHandle DeviceContext::CreateFont(const FontRecord& record) const {
-    return std::make_shared<DeviceFont>(record, *ownFont_);
+    return std::make_shared<DeviceFont>(record, *ownFont_, *painter_.device());
 }
 
 FontHandle DeviceContext::SelectObject(FontHandle font) {
@@ -110,7 +112,7 @@ void DeviceContext::TextOut(Long x, Long y, std::string_view text) {
     const QString line = ToQt(text);
     const int horizontal = align_ & HorizontalMask;
     const int vertical = align_ & VerticalMask;
-    const double advance = font_->Advance(line);
+    const double advance = font_->Advance(line, *painter_.device());
     const double left = horizontal == TA_CENTER  ? -advance / 2
                         : horizontal == TA_RIGHT ? -advance
                                                  : 0;

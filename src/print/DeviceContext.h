@@ -38,10 +38,12 @@ class DeviceFont {
   public:
     /// A surface's own font.
     DeviceFont(const QFont& font, const QPaintDevice& device);
-    /// The font of a record. `own` is the surface's own font.
-    DeviceFont(const FontRecord& record, const DeviceFont& own);
+    /// The font of a record for `device`. `own` is the own font of the surface there.
+    DeviceFont(const FontRecord& record, const DeviceFont& own, const QPaintDevice& device);
 
-    double Advance(const QString& text) const;
+    /// The width of a text on `device`, which may be another one than the font was made for: a font
+    /// can outlive its surface.
+    double Advance(const QString& text, const QPaintDevice& device) const;
     double Ascent() const { return ascent_; }
     double Descent() const { return descent_; }
     /// Draw with the line's beginning at (0, 0) of the painter, its letters standing on that line.
@@ -56,7 +58,6 @@ class DeviceFont {
     double ascent_ = 0;
     double descent_ = 0;
     double direction_ = 0;
-    const QPaintDevice* device_;
 };
 
 using FontHandle = std::shared_ptr<const DeviceFont>;
@@ -77,6 +78,8 @@ class DeviceContext {
     explicit DeviceContext(QPainter& painter);
 
     const DeviceFont& OwnFont() const { return *ownFont_; }
+    /// The width of a text in the surface's own font.
+    double OwnAdvance(std::string_view text) const;
     /// A font of that record for this surface.
     FontHandle CreateFont(const FontRecord& record) const;
     /// Draw with `font` from now on; what was drawn with before. Nothing changes without a font.

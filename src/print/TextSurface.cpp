@@ -11,7 +11,7 @@ namespace tarn {
 Double PainterSurface::TextWidth(std::string_view text) const {
     Double width = 0;
     for (const QString& line : ToQtLines(text).split(QLatin1Char('\n'))) {
-        width = std::max(width, hdc_.OwnFont().Advance(line));
+        width = std::max(width, hdc_.OwnAdvance(FromQt(line)));
     }
     return width;
 }

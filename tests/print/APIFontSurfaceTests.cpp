@@ -132,6 +132,24 @@ TEST(APIFont, ASecondSelectFontKeepsTheFontThatWasSavedFirst) {
     EXPECT_NEAR(canvas.Ink().height(), 20 * 0.688, 1.5); // the surface's own
 }
 
+TEST(APIFont, TheFontSavedFirstOutlivesItsSurface) {
+    APIFont font = Sans(100);
+    {
+        Canvas gone;
+        font.SelectFont(gone.Surface());
+    }
+    Canvas canvas;
+    font.SelectFont(canvas.Surface());
+    font.SelectOrg(canvas.Surface()); // gives it the other surface's font
+    font.SetAlign(canvas.Surface(), True, False, False, False, False, True);
+    font.FontOut("HHH", canvas.Surface(), 350, 50);
+    const QRect ink = canvas.Ink();
+    EXPECT_NEAR(ink.height(), 20 * 0.688, 1.5);
+    EXPECT_NEAR(ink.right(), 350, 3); // measured on the surface that is there
+    const Double width = canvas.Surface().TextWidth("HHH");
+    EXPECT_NEAR(ink.width(), width, 5);
+}
+
 // --- surfaces ---
 
 TEST(PainterSurface, CountsTheLinesOfAText) {
