@@ -2,6 +2,7 @@
 
 #include "app/OutputFile.h"
 #include "app/QtText.h"
+#include "app/SaveAs.h"
 #include "estimate/ESCarpForm.h"
 #include "estimate/EstimatePage.h"
 #include "estimate/Svg.h"
@@ -31,10 +32,10 @@ void ESCarpForm::BuildPictureMenu() {
         connect(action, &QAction::triggered, this,
                 [this, save = std::move(save)] { Guard(PictureFailure, save); });
     };
-    add("SavePdf", "Save as &PDF", [this] {
+    add("SavePdf", SaveAsPdfCaption, [this] {
         SavePicture("pdf", [this](const std::string& path) { WriteEstimatePdf(Page(), path); });
     });
-    add("SaveSvg", "Save as &SVG", [this] {
+    add("SaveSvg", SaveAsSvgCaption, [this] {
         SavePicture("svg", [this](const std::string& path) {
             WriteOutputFile(path, SvgDocument(picture_->Drawing(), FromQt(windowTitle())));
         });
@@ -64,20 +65,9 @@ EstimatePage ESCarpForm::Page() const {
                             ShortDate(today.year(), today.month(), today.day()));
 }
 
-/// Every failure names the file, whoever raises it.
 void ESCarpForm::SavePicture(const char* suffix,
                              const std::function<void(const std::string& path)>& write) {
-    const auto path = Shared().Boxes.SaveFileName(State().CurProjName, suffix);
-    if (!path) {
-        return;
-    }
-    try {
-        write(*path);
-    } catch (const OutputFileError&) {
-        throw;
-    } catch (const std::exception& error) {
-        throw OutputFileError("The file " + *path + " cannot be written: " + error.what());
-    }
+    SaveAs(Shared().Boxes, State().CurProjName, suffix, write);
 }
 
 } // namespace tarn

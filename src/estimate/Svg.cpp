@@ -1,64 +1,32 @@
 #include "estimate/Svg.h"
 
-#include "app/Format.h"
-
-#include <QString>
-
-#include <string_view>
+#include "app/SvgElements.h"
 
 namespace tarn {
 
 namespace {
 
-constexpr Double TwipsPerPixel = 15;
-
-std::string Number(Double value) {
-    return Format(value, "0.00");
-}
-
-/// A text as a document may hold it: blanks for control characters, which are not allowed whatever
-/// their spelling, and the replacement character for bytes and code points that are no character.
-QString Allowed(std::string_view text) {
-    constexpr char16_t FirstNonCharacter = 0xFFFE;
-    QString allowed = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-    for (QChar& c : allowed) {
-        if (c < QLatin1Char(' ')) {
-            c = QLatin1Char(' ');
-        } else if (c.unicode() >= FirstNonCharacter) {
-            c = QChar::ReplacementCharacter;
-        }
-    }
-    return allowed;
-}
-
-std::string Escaped(std::string_view text) {
-    return Allowed(text).toHtmlEscaped().toStdString();
-}
-
-std::string Attribute(std::string_view name, std::string_view value) {
-    return " " + std::string(name) + "=\"" + std::string(value) + "\"";
-}
-
 std::string BoxElement(const DrawingStep& step) {
-    const std::string open =
-        "<rect" + Attribute("x", Number(step.X1)) + Attribute("y", Number(step.Y1)) +
-        Attribute("width", Number(step.X2 - step.X1)) +
-        Attribute("height", Number(step.Y2 - step.Y1)) + Attribute("stroke", ColorText(step.Color));
+    const std::string open = "<rect" + SvgAttribute("x", SvgNumber(step.X1)) +
+                             SvgAttribute("y", SvgNumber(step.Y1)) +
+                             SvgAttribute("width", SvgNumber(step.X2 - step.X1)) +
+                             SvgAttribute("height", SvgNumber(step.Y2 - step.Y1)) +
+                             SvgAttribute("stroke", ColorText(step.Color));
     if (step.Tip.empty()) {
         return open + "/>\n";
     }
-    return open + "><title>" + Escaped(step.Tip) + "</title></rect>\n";
+    return open + "><title>" + SvgEscaped(step.Tip) + "</title></rect>\n";
 }
 
 /// The text keeps its width where the viewer has to take a wider face, so that a size stays inside
 /// its piece.
 std::string TextElement(const DrawingStep& step) {
-    return "<text" + Attribute("x", Number(step.X1)) +
-           Attribute("y", Number(step.Y1 + AscentOfLine(step.FontSize))) +
-           Attribute("font-size", Number(LetterHeight(step.FontSize))) +
-           Attribute("textLength", Number(step.X2 - step.X1)) +
-           " lengthAdjust=\"spacingAndGlyphs\"" + Attribute("fill", ColorText(step.Color)) + ">" +
-           Escaped(step.Text) + "</text>\n";
+    return "<text" + SvgAttribute("x", SvgNumber(step.X1)) +
+           SvgAttribute("y", SvgNumber(step.Y1 + AscentOfLine(step.FontSize))) +
+           SvgAttribute("font-size", SvgNumber(LetterHeight(step.FontSize))) +
+           SvgAttribute("textLength", SvgNumber(step.X2 - step.X1)) +
+           " lengthAdjust=\"spacingAndGlyphs\"" + SvgAttribute("fill", ColorText(step.Color)) +
+           ">" + SvgEscaped(step.Text) + "</text>\n";
 }
 
 } // namespace
@@ -66,20 +34,14 @@ std::string TextElement(const DrawingStep& step) {
 std::string SvgDocument(const Picture& picture, const std::string& title) {
     const Double width = picture.FarthestX() + DrawingMargin;
     const Double height = picture.FarthestY() + DrawingMargin;
-    std::string svg = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
-                      "<svg xmlns=\"http://www.w3.org/2000/svg\"" +
-                      Attribute("width", Number(width / TwipsPerPixel)) +
-                      Attribute("height", Number(height / TwipsPerPixel)) +
-                      Attribute("viewBox", "0 0 " + Number(width) + " " + Number(height)) + ">\n";
-    svg += "<title>" + Escaped(title) + "</title>\n";
-    svg += "<rect width=\"100%\" height=\"100%\" fill=\"#FFFFFF\"/>\n";
-    svg += "<g fill=\"none\"" + Attribute("stroke-width", Number(DrawnLineWidth)) +
+    std::string svg = SvgHead(width, height, title);
+    svg += "<g fill=\"none\"" + SvgAttribute("stroke-width", SvgNumber(DrawnLineWidth)) +
            " font-family=\"Arial, Liberation Sans, Helvetica, sans-serif\""
            " xml:space=\"preserve\" pointer-events=\"all\">\n";
     for (const DrawingStep& step : picture.Steps()) {
         svg += step.What == DrawingStep::Kind::Box ? BoxElement(step) : TextElement(step);
     }
-    svg += "</g>\n</svg>\n";
+    svg += "</g>\n" + std::string(SvgTail);
     return svg;
 }
 

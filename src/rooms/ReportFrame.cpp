@@ -3,6 +3,7 @@
 #include "app/Controls.h"
 #include "app/Display.h"
 #include "app/QtText.h"
+#include "app/SaveAs.h"
 #include "app/Theme.h"
 #include "print/FixedPitchFont.h"
 #include "print/Paper.h"
@@ -51,14 +52,17 @@ ReportFrame::ReportFrame() {
 }
 
 void ReportFrame::MakeMenu() {
-    saveAsPdf_ = new QAction(QStringLiteral("Save as &PDF ..."), this);
+    saveAsPdf_ = new QAction(ToQt(SaveAsPdfCaption), this);
     saveAsPdf_->setObjectName(QStringLiteral("SaveAsPdf"));
+    saveAsSvg_ = new QAction(ToQt(SaveAsSvgCaption), this);
+    saveAsSvg_->setObjectName(QStringLiteral("SaveAsSvg"));
     view_->setContextMenuPolicy(Qt::CustomContextMenu);
     connect(view_, &QWidget::customContextMenuRequested, this, [this](const QPoint& at) {
         QMenu* menu = view_->createStandardContextMenu();
         menu->setAttribute(Qt::WA_DeleteOnClose);
         menu->addSeparator();
         menu->addAction(saveAsPdf_);
+        menu->addAction(saveAsSvg_);
         menu->popup(view_->viewport()->mapToGlobal(at));
     });
 }

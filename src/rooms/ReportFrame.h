@@ -10,7 +10,7 @@ class QPushButton;
 
 namespace tarn {
 
-/// Frame4: the entered-data report, to be read, printed and saved as PDF.
+/// Frame4: the entered-data report, to be read, printed and saved as a file.
 class ReportFrame : public QFrame {
   public:
     ReportFrame();
@@ -24,6 +24,7 @@ class ReportFrame : public QFrame {
     QPushButton& Close() { return *close_; }
     /// Of the view's context menu.
     QAction& SaveAsPdf() { return *saveAsPdf_; }
+    QAction& SaveAsSvg() { return *saveAsSvg_; }
 
   private:
     void MakeMenu();
@@ -33,6 +34,7 @@ class ReportFrame : public QFrame {
     QPushButton* print_ = nullptr;
     QPushButton* close_ = nullptr;
     QAction* saveAsPdf_ = nullptr;
+    QAction* saveAsSvg_ = nullptr;
 };
 
 } // namespace tarn

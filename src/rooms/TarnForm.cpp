@@ -1,11 +1,14 @@
 #include "rooms/TarnForm.h"
 
 #include "app/Numbers.h"
+#include "app/OutputFile.h"
 #include "app/QtText.h"
 #include "app/RunTimeError.h"
+#include "app/SaveAs.h"
 #include "print/PdfFile.h"
 #include "rooms/Report.h"
 #include "rooms/ReportFrame.h"
+#include "rooms/ReportSvg.h"
 #include "rooms/RoomEntryFrame.h"
 
 #include <QLineEdit>
@@ -167,9 +170,13 @@ void TarnForm::PrintReport() {
 }
 
 void TarnForm::SaveReportAsPdf() {
-    if (const auto path = Shared().Boxes.SaveFileName(State().CurProjName, "pdf")) {
-        WriteReportPdf(report_->Text(), *path);
-    }
+    SaveAs(Shared().Boxes, State().CurProjName, "pdf",
+           [this](const std::string& path) { WriteReportPdf(report_->Text(), path); });
+}
+
+void TarnForm::SaveReportAsSvg() {
+    SaveAs(Shared().Boxes, State().CurProjName, "svg",
+           [this](const std::string& path) { WriteOutputFile(path, ReportSvg(report_->Text())); });
 }
 
 void TarnForm::CloseReport() {

@@ -58,8 +58,8 @@ class TarnForm : public TitledScreen {
     /// Whether the entry, BACK, SAVE and the File menu are there to be used.
     void SetEntryEnabled(bool enabled);
     void PrintReport();
-    /// Ask for a file, and write the report to it.
     void SaveReportAsPdf();
+    void SaveReportAsSvg();
     void CloseReport();
     /// Take the fields into memory if that needs no word with the user, and show the menu.
     void Leave();

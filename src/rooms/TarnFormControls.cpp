@@ -23,6 +23,7 @@ namespace tarn {
 namespace {
 
 constexpr const char* NotStored = "The room could not be stored.";
+constexpr const char* ReportNotSaved = "The report could not be saved.";
 constexpr const char* NotTested = "The text could not be tested.";
 constexpr const char* NotClosed = "The screen could not be closed.";
 
@@ -130,7 +131,9 @@ void TarnForm::ConnectButtons() {
     OnClick(*back_, NotClosed, [this] { Leave(); });
     OnClick(report_->Print(), "The report could not be printed.", [this] { PrintReport(); });
     connect(&report_->SaveAsPdf(), &QAction::triggered, this,
-            [this] { Guard("The report could not be saved.", [this] { SaveReportAsPdf(); }); });
+            [this] { Guard(ReportNotSaved, [this] { SaveReportAsPdf(); }); });
+    connect(&report_->SaveAsSvg(), &QAction::triggered, this,
+            [this] { Guard(ReportNotSaved, [this] { SaveReportAsSvg(); }); });
     OnClick(report_->Close(), "The report could not be closed.", [this] { CloseReport(); });
 }
 

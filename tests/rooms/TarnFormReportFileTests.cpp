@@ -1,7 +1,8 @@
-// The room entry screen: the report as a PDF file.
+// The room entry screen: the report as a PDF or SVG file.
 
 #include "print/PdfTesting.h"
 #include "rooms/Report.h"
+#include "rooms/ReportSvg.h"
 #include "rooms/RoomScreenTesting.h"
 
 #include <QContextMenuEvent>
@@ -15,8 +16,8 @@ namespace {
 
 using namespace tarn::testing;
 
-struct ReportAsPdf : RoomScreen {
-    ReportAsPdf() {
+struct ReportAsFile : RoomScreen {
+    ReportAsFile() {
         AddRooms(2);
         Open();
         ClickOn("RepMnu");
@@ -34,8 +35,8 @@ struct ReportAsPdf : RoomScreen {
         }
         return *menu;
     }
-    void Save(QContextMenuEvent::Reason reason) const {
-        QTest::keyClick(&OpenMenu(reason), Qt::Key_P);
+    void Save(QContextMenuEvent::Reason reason, Qt::Key letter = Qt::Key_P) const {
+        QTest::keyClick(&OpenMenu(reason), letter);
     }
     std::string Path(const char* name) const {
         return FromQt(directory.filePath(QString::fromLatin1(name)));
@@ -44,13 +45,15 @@ struct ReportAsPdf : RoomScreen {
     QTemporaryDir directory;
 };
 
-TEST_F(ReportAsPdf, IsInTheMenuBesideTheUsualItems) {
+TEST_F(ReportAsFile, IsInTheMenuBesideTheUsualItems) {
     QMenu& menu = OpenMenu(QContextMenuEvent::Mouse);
     const QList<QAction*> actions = menu.actions();
-    ASSERT_GE(actions.size(), 4);
-    EXPECT_EQ(actions.back()->objectName(), QStringLiteral("SaveAsPdf"));
-    EXPECT_EQ(actions.back()->text(), QStringLiteral("Save as &PDF ..."));
-    EXPECT_TRUE(actions[actions.size() - 2]->isSeparator());
+    ASSERT_GE(actions.size(), 5);
+    EXPECT_EQ(actions.back()->objectName(), QStringLiteral("SaveAsSvg"));
+    EXPECT_EQ(actions.back()->text(), QStringLiteral("Save as &SVG"));
+    EXPECT_EQ(actions[actions.size() - 2]->objectName(), QStringLiteral("SaveAsPdf"));
+    EXPECT_EQ(actions[actions.size() - 2]->text(), QStringLiteral("Save as &PDF"));
+    EXPECT_TRUE(actions[actions.size() - 3]->isSeparator());
     EXPECT_TRUE(std::any_of(actions.begin(), actions.end(), [](const QAction* action) {
         return action->objectName() == QStringLiteral("edit-copy");
     }));
@@ -58,7 +61,19 @@ TEST_F(ReportAsPdf, IsInTheMenuBesideTheUsualItems) {
     EXPECT_TRUE(boxes.SuggestedFiles.empty());
 }
 
-TEST_F(ReportAsPdf, HoldsTheReport) {
+TEST_F(ReportAsFile, HoldsTheReportAsSvg) {
+    const std::string path = Path("report.svg");
+    boxes.Files = {path};
+    Save(QContextMenuEvent::Mouse, Qt::Key_S);
+    EXPECT_EQ(boxes.SuggestedFiles, Lines{"Mill house.svg"});
+    QFile file(ToQt(path));
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    EXPECT_EQ(file.readAll().toStdString(), ReportSvg(LoadReport(state, ShortDate(2026, 3, 14))));
+    EXPECT_TRUE(boxes.Messages.empty());
+    EXPECT_TRUE(View().isVisible()) << "the report stays open";
+}
+
+TEST_F(ReportAsFile, HoldsTheReport) {
     for (const auto reason : {QContextMenuEvent::Mouse, QContextMenuEvent::Keyboard}) {
         const std::string path = Path(reason == QContextMenuEvent::Mouse ? "mouse.pdf" : "key.pdf");
         boxes.Files = {path};
@@ -75,22 +90,26 @@ TEST_F(ReportAsPdf, HoldsTheReport) {
     EXPECT_TRUE(printer.Reports.empty());
 }
 
-TEST_F(ReportAsPdf, IsNotWrittenWithoutAFile) {
-    boxes.Files = {std::nullopt};
+TEST_F(ReportAsFile, IsNotWrittenWithoutAFile) {
+    boxes.Files = {std::nullopt, std::nullopt};
     Save(QContextMenuEvent::Mouse);
-    EXPECT_EQ(boxes.SuggestedFiles.size(), 1U);
+    Save(QContextMenuEvent::Mouse, Qt::Key_S);
+    EXPECT_EQ(boxes.SuggestedFiles, (Lines{"Mill house.pdf", "Mill house.svg"}));
     EXPECT_TRUE(boxes.Messages.empty());
 }
 
-TEST_F(ReportAsPdf, NamesTheFileThatCannotBeWritten) {
-    const std::string path = Path("nowhere/report.pdf");
-    boxes.Files = {path};
-    Save(QContextMenuEvent::Mouse);
-    ASSERT_EQ(boxes.Messages.size(), 1U);
-    EXPECT_TRUE(boxes.Messages[0].starts_with("The report could not be saved. "))
-        << boxes.Messages[0];
-    EXPECT_NE(boxes.Messages[0].find(path), std::string::npos) << boxes.Messages[0];
-    EXPECT_TRUE(View().isVisible());
+TEST_F(ReportAsFile, NamesTheFileThatCannotBeWritten) {
+    for (const auto letter : {Qt::Key_P, Qt::Key_S}) {
+        const std::string path = Path("nowhere/report");
+        boxes.Files = {path};
+        boxes.Messages.clear();
+        Save(QContextMenuEvent::Mouse, letter);
+        ASSERT_EQ(boxes.Messages.size(), 1U);
+        EXPECT_TRUE(boxes.Messages[0].starts_with("The report could not be saved. "))
+            << boxes.Messages[0];
+        EXPECT_NE(boxes.Messages[0].find(path), std::string::npos) << boxes.Messages[0];
+        EXPECT_TRUE(View().isVisible());
+    }
 }
 
 } // namespace

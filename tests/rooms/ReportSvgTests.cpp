@@ -1,0 +1,114 @@
+#include "app/Text.h"
+#include "rooms/Report.h"
+#include "rooms/ReportSvg.h"
+#include "rooms/RoomRecord.h"
+
+#include <QXmlStreamReader>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace tarn {
+namespace {
+
+using ::testing::ElementsAre;
+
+/// What a reader makes of a document.
+struct Document {
+    struct Line {
+        std::string Text;
+        double X = 0;
+        double Y = 0;
+        double Length = 0;
+        bool KeepsBlanks = false;
+    };
+
+    std::string Title;
+    std::string Faces;
+    double Width = 0;
+    double Height = 0;
+    std::vector<Line> Lines;
+
+    std::vector<std::string> Texts() const {
+        std::vector<std::string> texts;
+        for (const Line& line : Lines) {
+            texts.push_back(line.Text);
+        }
+        return texts;
+    }
+};
+
+Document Read(const std::string& svg) {
+    Document document;
+    QXmlStreamReader reader(QByteArray::fromStdString(svg));
+    while (!reader.atEnd()) {
+        reader.readNext();
+        if (!reader.isStartElement()) {
+            continue;
+        }
+        const QXmlStreamAttributes with = reader.attributes();
+        const auto number = [&with](const char* name) {
+            return with.value(QLatin1String(name)).toDouble();
+        };
+        if (reader.name() == QStringLiteral("svg")) {
+            document.Width = 15 * number("width");
+            document.Height = 15 * number("height");
+        } else if (reader.name() == QStringLiteral("title")) {
+            document.Title = reader.readElementText().toStdString();
+        } else if (reader.name() == QStringLiteral("g")) {
+            document.Faces = with.value(QLatin1String("font-family")).toString().toStdString();
+        } else if (reader.name() == QStringLiteral("text")) {
+            const bool keeps = with.value(QLatin1String("xml:space")) == QStringLiteral("preserve");
+            document.Lines.push_back({"", number("x"), number("y"), number("textLength"), keeps});
+            document.Lines.back().Text = reader.readElementText().toStdString();
+        }
+    }
+    EXPECT_FALSE(reader.hasError()) << reader.errorString().toStdString();
+    return document;
+}
+
+TEST(ReportSvg, HasEachLineOfTheReportAsOneTextWithAllItsBlanks) {
+    SharedState state;
+    state.CurProjName = "SMITH & \"SONS\" <UPPER>";
+    PutRooms(state, {{150, 168, 1, 2, "N1", "hall & <stairs>"}, {90, 100, 0, 0, "N2", ""}});
+    const std::string report = LoadReport(state, "11/21/2031");
+    std::string found;
+    const Document document = Read(ReportSvg(report));
+    for (const Document::Line& line : document.Lines) {
+        found += line.Text + std::string(CrLf);
+        EXPECT_TRUE(line.KeepsBlanks);
+    }
+    EXPECT_EQ(found, report);
+    EXPECT_EQ(document.Title, "ENTERED DATA REPORT");
+    EXPECT_TRUE(document.Faces.starts_with("Courier New")) << document.Faces;
+    EXPECT_TRUE(document.Faces.ends_with("monospace")) << document.Faces;
+}
+
+TEST(ReportSvg, GivesEveryLetterTheSameWidthAndEveryLineTheSameHeightOnThePaper) {
+    const Document document = Read(ReportSvg("ab\r\n\r\n  caf\u00e9\r\n"));
+    EXPECT_THAT(document.Texts(), ElementsAre("ab", "", "  caf\u00e9"));
+    ASSERT_EQ(document.Lines.size(), 3U);
+    const double advance = document.Lines[0].Length / 2;
+    EXPECT_NEAR(advance, 144, 0.01); // 12 points
+    EXPECT_NEAR(document.Lines[2].Length, 6 * advance, 0.01);
+    const double step = document.Lines[1].Y - document.Lines[0].Y;
+    EXPECT_GT(step, 240);
+    EXPECT_NEAR(document.Lines[2].Y - document.Lines[1].Y, step, 0.01);
+    for (const Document::Line& line : document.Lines) {
+        EXPECT_EQ(line.X, document.Lines[0].X);
+        EXPECT_LE(line.X + line.Length, document.Width);
+        EXPECT_LE(line.Y, document.Height);
+    }
+}
+
+TEST(ReportSvg, IsWellFormedWhateverTheTextHolds) {
+    EXPECT_THAT(Read(ReportSvg("A\x01\tZ\r\nA\xFF\uFFFEZ")).Texts(),
+                ElementsAre("A  Z", "A\uFFFD\uFFFDZ"));
+    EXPECT_TRUE(Read(ReportSvg("")).Lines.empty());
+}
+
+} // namespace
+} // namespace tarn
