@@ -15,6 +15,14 @@ QRectF Twips(const QRectF& points) {
 
 } // namespace
 
+Paper PaperOf(Integer prnWidth, Integer prnHeight) {
+    Paper paper;
+    if (prnWidth > 0 && prnHeight > 0) {
+        paper.Size = {static_cast<Double>(prnWidth), static_cast<Double>(prnHeight)};
+    }
+    return paper;
+}
+
 QPageLayout LayoutOf(const Paper& paper) {
     // A page size is that of the sheet held upright.
     const QSizeF upright(paper.Size.Height / TwipsPerPoint, paper.Size.Width / TwipsPerPoint);

@@ -26,6 +26,9 @@ struct Paper {
     static constexpr Double LeastMargin = 360;
 };
 
+/// A sheet of the shared PrnWidth by PrnHeight; A4 when either is not known (0).
+Paper PaperOf(Integer prnWidth, Integer prnHeight);
+
 /// The layout of a paged device for such a sheet. Positions on it count from the sheet's corner.
 QPageLayout LayoutOf(const Paper& paper);
 

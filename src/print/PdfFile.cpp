@@ -47,11 +47,7 @@ std::string EstimatePdf(const EstimatePage& page, const Paper& paper) {
 }
 
 std::string EstimatePdf(const EstimatePage& page) {
-    Paper paper;
-    if (page.PrnWidth > 0 && page.PrnHeight > 0) {
-        paper.Size = {static_cast<Double>(page.PrnWidth), static_cast<Double>(page.PrnHeight)};
-    }
-    return EstimatePdf(page, paper);
+    return EstimatePdf(page, PaperOf(page.PrnWidth, page.PrnHeight));
 }
 
 void WriteReportPdf(std::string_view text, const std::string& path, const Paper& paper) {

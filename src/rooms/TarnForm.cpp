@@ -170,8 +170,9 @@ void TarnForm::PrintReport() {
 }
 
 void TarnForm::SaveReportAsPdf() {
-    SaveAs(Shared().Boxes, State().CurProjName, "pdf",
-           [this](const std::string& path) { WriteReportPdf(report_->Text(), path); });
+    SaveAs(Shared().Boxes, State().CurProjName, "pdf", [this](const std::string& path) {
+        WriteReportPdf(report_->Text(), path, PaperOf(State().PrnWidth, State().PrnHeight));
+    });
 }
 
 void TarnForm::SaveReportAsSvg() {

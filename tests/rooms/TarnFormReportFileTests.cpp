@@ -1,5 +1,7 @@
 // The room entry screen: the report as a PDF or SVG file.
 
+#include "app/OutputFile.h"
+#include "app/SaveAs.h"
 #include "print/PdfTesting.h"
 #include "rooms/Report.h"
 #include "rooms/ReportSvg.h"
@@ -90,6 +92,24 @@ TEST_F(ReportAsFile, HoldsTheReport) {
     EXPECT_TRUE(printer.Reports.empty());
 }
 
+TEST_F(ReportAsFile, IsOnThePrintersPageAsFarAsItIsKnown) {
+    const auto sizeWith = [this](Integer width, Integer height) {
+        state.PrnWidth = width;
+        state.PrnHeight = height;
+        const std::string path = Path("sized.pdf");
+        boxes.Files = {path};
+        Save(QContextMenuEvent::Mouse);
+        QFile file(ToQt(path));
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+        return Pdf(file.readAll().toStdString()).PageSize();
+    };
+    const QSizeF a4(842, 595);
+    EXPECT_EQ(sizeWith(15840, 12240), QSizeF(792, 612));
+    EXPECT_EQ(sizeWith(0, 0), a4);
+    EXPECT_EQ(sizeWith(15840, 0), a4);
+    EXPECT_EQ(sizeWith(0, 12240), a4);
+}
+
 TEST_F(ReportAsFile, IsNotWrittenWithoutAFile) {
     boxes.Files = {std::nullopt, std::nullopt};
     Save(QContextMenuEvent::Mouse);
@@ -110,6 +130,22 @@ TEST_F(ReportAsFile, NamesTheFileThatCannotBeWritten) {
         EXPECT_NE(boxes.Messages[0].find(path), std::string::npos) << boxes.Messages[0];
         EXPECT_TRUE(View().isVisible());
     }
+}
+
+TEST_F(ReportAsFile, NamesTheFileWhateverFails) {
+    boxes.Files = {"report.pdf", "report.pdf"};
+    const auto told = [this](const std::function<void()>& failure) -> std::string {
+        try {
+            SaveAs(boxes, "report", "pdf", [&](const std::string& /*path*/) { failure(); });
+        } catch (const OutputFileError& error) {
+            return error.what();
+        }
+        return {};
+    };
+    EXPECT_EQ(told([] { throw PrinterError("There is no page."); }),
+              "The file report.pdf cannot be written: There is no page.");
+    EXPECT_EQ(told([] { throw OutputFileError("report.pdf is a folder."); }),
+              "report.pdf is a folder.");
 }
 
 } // namespace
