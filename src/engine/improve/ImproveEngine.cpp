@@ -14,13 +14,19 @@ namespace tarn {
 namespace {
 
 /// Take the run's best layout over, on a copy, so that a fault leaves the arrays as they were.
-void TakeBest(const RollJob& roll, const ImproveRun& run, EngineArrays& engine, Double dimScale) {
+/// False, with the arrays as they were, when more would have to be ordered: an equal length can lie
+/// just above whole inches where the start lies just below them.
+bool TakeBest(const RollJob& roll, const ImproveRun& run, EngineArrays& engine, Double dimScale) {
     EngineArrays improved = engine;
     TakeLayout(roll, run.BestParts(), improved, dimScale);
     if (!IsWithinTolerance(GetPCLen(improved) - GetPCLen(engine))) {
         RaiseInternal("The improved layout is longer than before and was discarded.");
     }
+    if (improved.ResultLen > engine.ResultLen) {
+        return false;
+    }
     engine = std::move(improved);
+    return true;
 }
 
 } // namespace
@@ -46,8 +52,7 @@ ImproveResult ImproveEngine(const SharedState& state, EngineArrays& engine,
         return observer.Progress({inches(best), inches(bound)});
     });
     Improve(run, limits.Seed);
-    if (!run.BestParts().empty()) {
-        TakeBest(roll, run, engine, state.DimScale);
+    if (!run.BestParts().empty() && TakeBest(roll, run, engine, state.DimScale)) {
         result.Improved = true;
         result.Length = GetPCLen(engine);
         result.Pieces = engine.PieceCount;

@@ -266,6 +266,27 @@ TEST(ImproveEngine, MetricWidthsThatFillTheRollExactlyStandSideBySide) {
     EXPECT_EQ(roll.Job.Fills.at(0).Length, 22);
 }
 
+// 172 + 82 cm are 100 inches; a sum of Singles lies just below or just above that.
+TEST(ImproveEngine, AnEquallyLongLayoutIsNotTakenWhenMoreWouldHaveToBeOrdered) {
+    SharedState state;
+    state.MetricFlag = 1;
+    const double cm = 1 / 2.54;
+    EngineArrays engine =
+        MakeEngine(static_cast<Single>(366 * cm), {{250 * cm, 172 * cm}, {300 * cm, 82 * cm}});
+    Search(state, engine);
+    const EngineArrays before = engine;
+    ASSERT_LT(GetPCLen(before), 100.0F);
+    ASSERT_EQ(before.ResultLen, 99);
+    const ImproveResult result = Improved(state, engine);
+    EXPECT_FALSE(result.Improved);
+    EXPECT_EQ(engine.ResultLen, 99);
+    EXPECT_EQ(GetPCLen(engine), GetPCLen(before));
+    EXPECT_EQ(result.Length, GetPCLen(before));
+    for (Integer i = 0; i < before.PosCount; ++i) {
+        EXPECT_EQ(engine.PosY[i], before.PosY[i]);
+    }
+}
+
 TEST(RollJob, TheMinimumPartIsThatOfTheCaption) {
     SharedState state;
     const auto job = [&](Integer option, bool metric) {
