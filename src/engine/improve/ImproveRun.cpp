@@ -23,14 +23,18 @@ bool ImproveRun::Spend() {
     if (limits_.Steps > 0 && steps_ >= limits_.Steps) {
         stopped_ = true;
     }
-    if (limits_.Seconds > 0 &&
-        std::chrono::duration<Double>(Clock::now() - begin_).count() >= limits_.Seconds) {
-        stopped_ = true;
-    }
+    LookAtTime();
     return steps_ % AskEvery == 0 ? Ask() : !stopped_;
 }
 
+void ImproveRun::LookAtTime() {
+    if (limits_.Seconds > 0 && Passed() >= limits_.Seconds) {
+        stopped_ = true;
+    }
+}
+
 bool ImproveRun::Ask() {
+    LookAtTime();
     if (!stopped_ && !report_(best_.Length, Bound())) {
         stopped_ = true;
     }

@@ -34,8 +34,12 @@ class ImproveRun {
 
     /// Count one step. False when the search has to end.
     bool Spend();
-    /// Ask the caller without counting a step.
+    /// Look at the time and ask the caller without counting a step. False when the search has to
+    /// end.
     bool Ask();
+    const ImproveLimits& Limits() const { return limits_; }
+    /// Seconds since the run began.
+    Double Passed() const { return std::chrono::duration<Double>(Clock::now() - begin_).count(); }
     bool Stopped() const { return stopped_; }
     std::int64_t Steps() const { return steps_; }
 
@@ -52,6 +56,8 @@ class ImproveRun {
 
   private:
     using Clock = std::chrono::steady_clock;
+
+    void LookAtTime();
 
     const ImproveJob& job_;
     ImproveLimits limits_;

@@ -18,6 +18,7 @@ constexpr Double FirstEffort = 3000;  ///< steps from one start in the first rou
 constexpr Double EffortGrowth = 1.5;  ///< a round
 constexpr Double ShortenShare = 0.05; ///< of the steps from one start
 constexpr Double PolishShare = 0.05;
+constexpr Double RelaxationShare = 0.2; ///< of the seconds of a run at most
 constexpr std::size_t StartsPerRoof = 4;
 constexpr std::size_t BestStarts = 12;     ///< that take turns
 constexpr std::int64_t LastPolish = 20000; ///< steps without a gain, when no layout is shorter
@@ -40,8 +41,7 @@ class Improver {
         run_.RaiseBound(QuickBound(run_.Job()));
         starts_ = RankedStarts(run_, *plan_);
         if (!run_.IsLeast() && !run_.Stopped()) {
-            run_.RaiseBound(
-                BarRelaxationBound(run_.Job(), run_.Bound(), [this] { return run_.Ask(); }));
+            RelaxBars();
         }
         for (int round = 0; !run_.IsLeast() && !run_.Stopped(); ++round) {
             LowerRoof();
@@ -60,6 +60,14 @@ class Improver {
 
   private:
     std::int64_t Steps(Double share) const { return static_cast<std::int64_t>(effort_ * share); }
+
+    void RelaxBars() {
+        const Double seconds = run_.Limits().Seconds;
+        const Double end = run_.Passed() + RelaxationShare * seconds;
+        run_.RaiseBound(BarRelaxationBound(run_.Job(), run_.Bound(), [&] {
+            return run_.Ask() && (seconds <= 0 || run_.Passed() < end);
+        }));
+    }
 
     /// Look for the lowest roof between the bound and the best below which all can be packed.
     void LowerRoof() {

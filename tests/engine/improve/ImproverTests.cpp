@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <stdexcept>
 
 namespace tarn {
@@ -212,6 +213,44 @@ TEST(Improver, TheTimeLimitEndsTheSearch) {
     Improve(run, 1);
     EXPECT_TRUE(run.Stopped() || run.IsLeast());
     EXPECT_EQ(FaultOf(job, run.BestParts()), "");
+}
+
+/// Fills of 200 different widths, for which the bar relaxation takes long.
+ImproveJob ManyWidths() {
+    ImproveJob job{3999, 1, 1, 1 << 20, {}};
+    for (Long i = 0; i < 200; ++i) {
+        job.Fills.push_back({300 + 13 * i + i % 7, 400 + 37 * i % 211, 1});
+    }
+    return job;
+}
+
+TEST(Improver, TheTimeLimitEndsTheBarRelaxationToo) {
+    const ImproveJob job = ManyWidths();
+    ImproveRun run(job, Stacked(job), {0.05, 0, 1}, GoOn);
+    Improve(run, 1);
+    EXPECT_TRUE(run.Stopped());
+    EXPECT_LT(run.Passed(), 3);
+}
+
+// The relaxation counts no steps: nothing else is asked so long at one and the same step.
+TEST(Improver, TheBarRelaxationLeavesTimeForTheSearch) {
+    const ImproveJob job = ManyWidths();
+    ImproveRun* running = nullptr;
+    std::int64_t step = -1;
+    Double since = 0;
+    Double longest = 0;
+    ImproveRun run(job, Stacked(job), {1, 0, 1}, [&](Long, Long) {
+        if (running->Steps() != step) {
+            step = running->Steps();
+            since = running->Passed();
+        }
+        longest = std::max(longest, running->Passed() - since);
+        return true;
+    });
+    running = &run;
+    Improve(run, 1);
+    EXPECT_GT(longest, 0);
+    EXPECT_LT(longest, 0.6) << "of 1 second";
 }
 
 } // namespace
