@@ -47,9 +47,11 @@ ImproveResult ImproveEngine(const SharedState& state, EngineArrays& engine,
         return result;
     }
     const auto startLength = static_cast<Double>(result.StartLength);
+    const LayoutMerit start = LayoutMeritOf(roll, engine);
     const auto inches = [&](Long units) { return std::min(startLength, units * roll.AlongUnit); };
-    ImproveRun run(roll.Job, LayoutMeritOf(roll, engine), limits, [&](Long best, Long bound) {
-        return observer.Progress({inches(best), inches(bound)});
+    ImproveRun run(roll.Job, start, limits, [&](Long best, Long bound) {
+        const Double length = best < start.Length ? inches(best) : startLength;
+        return observer.Progress({length, std::min(length, inches(bound))});
     });
     Improve(run, limits.Seed);
     if (!run.BestParts().empty() && TakeBest(roll, run, engine, state.DimScale)) {

@@ -18,7 +18,7 @@ struct ImprovePart {
 /// then the larger undivided free rectangle at the end of the roll.
 struct LayoutMerit {
     Long Length = 0;
-    Long Parts = 0;
+    Long Parts = 0; ///< 0 of a layout that none of its length is better than
     Area64 FreeEnd = 0;
 
     bool BetterThan(const LayoutMerit& other) const;

@@ -85,9 +85,10 @@ RollJob RollJobOf(const SharedState& state, const EngineArrays& engine) {
 LayoutMerit LayoutMeritOf(const RollJob& roll, const EngineArrays& engine) {
     const Double length = static_cast<Double>(GetPCLen(engine));
     LayoutMerit merit;
-    merit.Length = static_cast<Long>(std::floor((length + LengthTolerance) / roll.AlongUnit));
-    if (length - merit.Length * roll.AlongUnit >= LengthTolerance) {
-        merit.Parts = std::numeric_limits<Long>::max();
+    merit.Length = static_cast<Long>(std::llround(length / roll.AlongUnit));
+    if (std::abs(length - merit.Length * roll.AlongUnit) >= LengthTolerance) {
+        merit.Length = static_cast<Long>(std::ceil(length / roll.AlongUnit));
+        merit.FreeEnd = std::numeric_limits<Area64>::max();
         return merit;
     }
     merit.Parts = engine.PieceCount;

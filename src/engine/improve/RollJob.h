@@ -26,8 +26,9 @@ struct RollJob {
 /// The job that MultiEstimate left in `engine` (Undivided, OrgCount, MaxParts).
 RollJob RollJobOf(const SharedState& state, const EngineArrays& engine);
 
-/// The merit of the layout in `engine`: its length in units is rounded down, and when it is no
-/// whole number of units any layout of the rounded length counts as shorter.
+/// The merit of the layout in `engine`. A length that is a whole number of units but for the
+/// tolerance of equal lengths counts as the nearest one. Any other is raised to the next, with a
+/// merit that no layout of that length surpasses, since all of them are longer.
 LayoutMerit LayoutMeritOf(const RollJob& roll, const EngineArrays& engine);
 
 /// Put a whole layout of the job into the arrays in place of the one that is there, as

@@ -69,6 +69,22 @@ Searched SearchedJob(const reference::PlainJob& job) {
     return searched;
 }
 
+class Stopper : public ImproveObserver {
+  public:
+    int StopAt = 0;
+    int RaiseAt = 0;
+    std::vector<ImproveProgress> Told;
+
+    bool Progress(const ImproveProgress& progress) override {
+        Told.push_back(progress);
+        const int asked = static_cast<int>(Told.size());
+        if (asked == RaiseAt) {
+            throw std::runtime_error("the screen's own");
+        }
+        return asked != StopAt;
+    }
+};
+
 /// What is wrong with the layout in the arrays; empty when nothing is. Written from the rules
 /// alone, in Double.
 std::string FaultOf(const EngineArrays& engine) {
@@ -317,18 +333,58 @@ TEST(RollJob, WholeInchesAreTheUnits) {
     EXPECT_EQ(roll.Job.CutStep, 1);
 }
 
-TEST(RollJob, AStartThatIsNoWholeUnitLosesAgainstAnyThatIsNotLonger) {
+TEST(RollJob, AStartThatIsNoWholeUnitLosesAgainstShorterWholeUnitsOnly) {
     SharedState state;
     state.EstOption = 1;
     EngineArrays engine = MakeEngine(144, {{72, 201}});
     Search(state, engine);
     ASSERT_EQ(GetPCLen(engine), 100.5F);
     const LayoutMerit merit = LayoutMeritOf(RollJobOf(state, engine), engine);
-    EXPECT_EQ(merit.Length, 100);
     EXPECT_TRUE((LayoutMerit{100, 9, 0}.BetterThan(merit)));
+    EXPECT_FALSE((LayoutMerit{101, 1, 1 << 29}.BetterThan(merit))) << "it is half an inch longer";
     const ImproveResult result = Improved(state, engine);
     EXPECT_FALSE(result.Improved) << "at whole inches it takes 101";
     EXPECT_EQ(GetPCLen(engine), 100.5F);
+}
+
+/// A fill of that length, which begins `begin` inches behind the roll's start.
+EngineArrays FillBeginningAt(const SharedState& state, double length, Single begin) {
+    EngineArrays engine = MakeEngine(144, {{100, length}});
+    Search(state, engine);
+    engine.PosY[0] = begin;
+    return engine;
+}
+
+TEST(RollJob, AStartThatIsAWholeUnitButForTheToleranceCountsAsThat) {
+    SharedState state;
+    state.EstOption = 1;
+    const auto lengthOf = [&](double length, Single begin) {
+        const EngineArrays engine = FillBeginningAt(state, length, begin);
+        RollJob roll = RollJobOf(state, engine);
+        roll.AlongUnit = length / 100;
+        const LayoutMerit merit = LayoutMeritOf(roll, engine);
+        EXPECT_GT(merit.Parts, 0) << begin;
+        return merit.Length;
+    };
+    EXPECT_EQ(lengthOf(100, 0.004F), 100);
+    EXPECT_EQ(lengthOf(100, 9.996F), 110);
+    // In units below the tolerance the nearest one.
+    EXPECT_EQ(lengthOf(0.1, 0), 100);
+    EXPECT_EQ(lengthOf(0.1, 0.0014F), 101);
+    EXPECT_EQ(lengthOf(0.1, 0.0016F), 102);
+}
+
+TEST(ImproveEngine, AStartBetweenWholeUnitsIsComparedByItsTrueLength) {
+    SharedState state;
+    state.EstOption = 1;
+    EngineArrays engine = FillBeginningAt(state, 133, 0.34F);
+    Stopper watcher;
+    const ImproveResult result = ImproveEngine(state, engine, Limits(500), watcher);
+    ASSERT_FALSE(watcher.Told.empty());
+    EXPECT_NEAR(watcher.Told.front().Best, 133.34, 0.001);
+    EXPECT_TRUE(result.Improved) << "a bound of 133 is not its length";
+    EXPECT_EQ(GetPCLen(engine), 133);
+    EXPECT_EQ(result.Bound, 133);
 }
 
 TEST(ImproveEngine, WithoutAPieceNothingIsTried) {
@@ -348,22 +404,6 @@ TEST(ImproveEngine, WithAPieceThatIsTooWideNothingIsTried) {
     EXPECT_FALSE(result.Improved);
     EXPECT_EQ(result.Bound, 0);
 }
-
-class Stopper : public ImproveObserver {
-  public:
-    int StopAt = 0;
-    int RaiseAt = 0;
-    std::vector<ImproveProgress> Told;
-
-    bool Progress(const ImproveProgress& progress) override {
-        Told.push_back(progress);
-        const int asked = static_cast<int>(Told.size());
-        if (asked == RaiseAt) {
-            throw std::runtime_error("the screen's own");
-        }
-        return asked != StopAt;
-    }
-};
 
 EngineArrays FiveFills(const SharedState& state) {
     EngineArrays engine = MakeEngine(144, {{100, 150}, {60, 170}, {84, 90}, {44, 110}, {80, 60}});
