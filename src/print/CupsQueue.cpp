@@ -4,7 +4,9 @@
 #include <array>
 #include <cups/cups.h>
 #include <cups/pwg.h>
+#include <sstream>
 #include <string_view>
+#include <vector>
 
 namespace tarn {
 
@@ -12,6 +14,8 @@ namespace {
 
 constexpr int ConnectPatienceMs = 3000;
 constexpr double AnswerPatienceSeconds = 5;
+
+constexpr std::size_t LongestJobName = 255; ///< bytes
 
 constexpr std::string_view StoppedState = "5";
 
@@ -50,6 +54,32 @@ void RequireAnswer(http_t* connection) {
     }
 }
 
+/// The parts of a list with commas, without empty ones.
+std::vector<std::string> PartsOf(const std::string& list) {
+    std::vector<std::string> parts;
+    std::istringstream stream(list);
+    for (std::string part; std::getline(stream, part, ',');) {
+        if (!part.empty()) {
+            parts.push_back(part);
+        }
+    }
+    return parts;
+}
+
+/// The beginning of a UTF-8 text of at most `bytes` bytes, without half a character.
+std::string Beginning(const std::string& text, std::size_t bytes) {
+    if (text.size() <= bytes) {
+        return text;
+    }
+    const auto continues = [&text](std::size_t at) {
+        return (static_cast<unsigned char>(text[at]) & 0xC0U) == 0x80U;
+    };
+    while (bytes > 0 && continues(bytes)) {
+        --bytes;
+    }
+    return text.substr(0, bytes);
+}
+
 Double TwipsOfMillimetreHundredths(int hundredths) {
     constexpr Double HundredthsPerInch = 2540;
     return hundredths * TwipsPerInch / HundredthsPerInch;
@@ -77,6 +107,7 @@ struct CupsQueue::Handles {
     std::unique_ptr<cups_dest_t, FreeQueue> Queue;
     std::unique_ptr<cups_dinfo_t, FreeInfo> Info; ///< unset when the queue does not tell
     cups_size_t Media{};                          ///< the default paper; no width when not known
+    std::string OtherMedia; ///< what else is chosen, such as a tray, each behind a comma
 };
 
 CupsQueue::CupsQueue()
@@ -107,70 +138,83 @@ CupsQueue::CupsQueue()
 
 CupsQueue::~CupsQueue() = default;
 
-std::string CupsQueue::MediaName() {
-    cups_dest_t* queue = handles_->Queue.get();
-    for (const char* option : {"media", "PageSize"}) {
-        const std::string chosen = OptionOf(*queue, option);
-        if (!chosen.empty()) {
-            return chosen.substr(0, chosen.find(','));
-        }
-    }
-    ipp_attribute_t* preset =
-        cupsFindDestDefault(handles_->Connection.get(), queue, handles_->Info.get(), "media");
+std::string CupsQueue::PresetMedia() {
+    ipp_attribute_t* preset = cupsFindDestDefault(handles_->Connection.get(), handles_->Queue.get(),
+                                                  handles_->Info.get(), "media");
     const char* name = preset == nullptr ? nullptr : ippGetString(preset, 0, nullptr);
     return name == nullptr ? std::string() : std::string(name);
 }
 
-Paper CupsQueue::DefaultPaper() {
-    http_t* connection = handles_->Connection.get();
-    cups_dest_t* queue = handles_->Queue.get();
-    handles_->Info.reset(cupsCopyDestInfo(connection, queue));
-    if (!handles_->Info) {
-        throw PrinterError("The printer " + name_ + " does not answer: " + cupsLastErrorString() +
-                           ".");
+bool CupsQueue::TakeSize(const std::string& name) {
+    if (name.empty()) {
+        return false;
     }
-    const std::string name = MediaName();
     cups_size_t& size = handles_->Media;
-    if (!name.empty() &&
-        cupsGetDestMediaByName(connection, queue, handles_->Info.get(), name.c_str(),
-                               CUPS_MEDIA_FLAGS_DEFAULT, &size) != 0) {
-        return LandscapeOf(size);
+    if (cupsGetDestMediaByName(handles_->Connection.get(), handles_->Queue.get(),
+                               handles_->Info.get(), name.c_str(), CUPS_MEDIA_FLAGS_DEFAULT,
+                               &size) != 0) {
+        return true;
     }
     size = {};
     const pwg_media_t* known = pwgMediaForPWG(name.c_str());
     if (known == nullptr) {
         known = pwgMediaForPPD(name.c_str());
     }
-    if (known != nullptr) {
-        size.width = known->width;
-        size.length = known->length;
-        std::string_view(known->pwg).copy(size.media, sizeof(size.media) - 1);
-        return LandscapeOf(size);
+    if (known == nullptr) {
+        return false;
     }
-    return {};
+    size.width = known->width;
+    size.length = known->length;
+    std::string_view(known->pwg).copy(size.media, sizeof(size.media) - 1);
+    return true;
+}
+
+Paper CupsQueue::DefaultPaper() {
+    handles_->Info.reset(cupsCopyDestInfo(handles_->Connection.get(), handles_->Queue.get()));
+    if (!handles_->Info) {
+        throw PrinterError("The printer " + name_ + " does not answer: " + cupsLastErrorString() +
+                           ".");
+    }
+    const cups_dest_t& queue = *handles_->Queue;
+    bool sized = false;
+    handles_->OtherMedia.clear();
+    for (const std::string& part : PartsOf(OptionOf(queue, "media"))) {
+        if (!sized && TakeSize(part)) {
+            sized = true;
+        } else {
+            handles_->OtherMedia += "," + part;
+        }
+    }
+    sized = sized || TakeSize(OptionOf(queue, "PageSize")) || TakeSize(PresetMedia());
+    return sized ? LandscapeOf(handles_->Media) : Paper();
 }
 
 void CupsQueue::Submit(const std::string& title, const std::string& path) {
-    // What the user chose for the queue holds, but for what would turn or resize the page.
+    // What the user chose for the queue holds, but for what would turn or resize the page or leave
+    // one out.
     cups_option_t* options = nullptr;
     int count = 0;
     const cups_dest_t& queue = *handles_->Queue;
     for (int i = 0; i < queue.num_options; ++i) {
         count = cupsAddOption(queue.options[i].name, queue.options[i].value, count, &options);
     }
-    constexpr std::array Turning{
-        "landscape", "orientation-requested", "number-up", "fit-to-page", "fitplot", "scaling",
-        "PageSize"};
+    constexpr std::array Turning{"landscape", "orientation-requested",
+                                 "number-up", "fit-to-page",
+                                 "fitplot",   "scaling",
+                                 "PageSize",  "PageRegion",
+                                 "mirror",    "page-ranges",
+                                 "page-set"};
     for (const char* option : Turning) {
         count = cupsRemoveOption(option, count, &options);
     }
     if (handles_->Media.media[0] != '\0') {
-        count = cupsAddOption("media", handles_->Media.media, count, &options);
+        const std::string media = handles_->Media.media + handles_->OtherMedia;
+        count = cupsAddOption("media", media.c_str(), count, &options);
     }
     count = cupsAddOption("print-scaling", "none", count, &options);
     count = cupsAddOption("document-format", CUPS_FORMAT_PDF, count, &options);
     const int job = cupsPrintFile2(handles_->Connection.get(), queue.name, path.c_str(),
-                                   title.c_str(), count, options);
+                                   Beginning(title, LongestJobName).c_str(), count, options);
     cupsFreeOptions(count, options);
     if (job == 0) {
         throw PrinterError("The printer " + name_ + " refused the job: " + cupsLastErrorString() +

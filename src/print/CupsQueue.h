@@ -25,15 +25,18 @@ class CupsQueue {
     /// The paper that the queue takes when nothing else is asked for, with its margins, landscape;
     /// A4 when the queue does not tell.
     Paper DefaultPaper();
-    /// Hand in the PDF file `path`, made for the default paper, as one job. Raises PrinterError
+    /// Hand in the PDF file `path`, made for the default paper, as one job. Of a title (UTF-8) that
+    /// is longer than a job's name may be, 255 bytes, the beginning is taken. Raises PrinterError
     /// when it is refused; no part of it is printed then.
     void Submit(const std::string& title, const std::string& path);
 
   private:
     struct Handles;
 
-    /// The name of the default paper, empty when it is not known.
-    std::string MediaName();
+    /// The queue's own media; empty when it is not known.
+    std::string PresetMedia();
+    /// Whether `name` is a size, which is kept then.
+    bool TakeSize(const std::string& name);
 
     std::unique_ptr<Handles> handles_;
     std::string name_;

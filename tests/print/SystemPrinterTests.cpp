@@ -112,6 +112,26 @@ TEST(SystemPrinter, TheEstimateArrivesAsOneLandscapeJobOfOnePage) {
                                         "Total Length:30'0\" Carpet-1 Width=12'0\" DOWNLAY");
 }
 
+TEST(SystemPrinter, ATitleTooLongForAJobsNameIsCutBetweenCharacters) {
+    const PrintServer server({QueueSetup()});
+    const Picture drawing = CornersDrawing();
+    EstimatePage page = PageOf(drawing);
+    page.Title = std::string(255, 'T');
+    SystemPrinter().PrintEstimate(page);
+    page.Title = std::string(256, 'T');
+    SystemPrinter().PrintEstimate(page);
+    page.Title = std::string(254, 'T') + "\u00c9\u00c9"; // two bytes each
+    SystemPrinter().PrintEstimate(page);
+    page.Title = std::string(252, 'T') + "\U0001F600"; // four bytes
+    SystemPrinter().PrintEstimate(page);
+    const auto jobs = server.Printed(4);
+    ASSERT_EQ(jobs.size(), 4U);
+    EXPECT_EQ(jobs[0].Title, std::string(255, 'T'));
+    EXPECT_EQ(jobs[1].Title, std::string(255, 'T'));
+    EXPECT_EQ(jobs[2].Title, std::string(254, 'T'));
+    EXPECT_EQ(jobs[3].Title, std::string(252, 'T'));
+}
+
 TEST(SystemPrinter, TwoPrintsAreTwoJobs) {
     const PrintServer server({QueueSetup()});
     SystemPrinter printer;
@@ -146,15 +166,16 @@ TEST(SystemPrinter, TheUsersOwnDefaultComesBeforeTheSystems) {
 
 TEST(SystemPrinter, AChoiceOfTheQueueThatWouldTurnOrResizeThePageIsLeftOut) {
     const PrintServer server({QueueSetup()});
-    const UserChoice choice{{"number-up", "4"},
-                            {"landscape", "true"},
-                            {"fit-to-page", "true"},
-                            {"sides", "two-sided-long-edge"}};
+    const UserChoice choice{{"number-up", "4"},      {"landscape", "true"},
+                            {"fit-to-page", "true"}, {"mirror", "true"},
+                            {"page-ranges", "2"},    {"page-set", "even"},
+                            {"PageRegion", "A5"},    {"sides", "two-sided-long-edge"}};
     SystemPrinter().PrintReport(ReportOf(1));
     const std::string options = server.Printed(1).at(0).Options;
     EXPECT_THAT(options, HasSubstr("sides=two-sided-long-edge"));
     EXPECT_THAT(options, HasSubstr("print-scaling=none"));
-    for (const char* option : {"number-up=4", "landscape", "fit-to-page"}) {
+    for (const char* option : {"number-up=4", "landscape", "fit-to-page", "mirror", "page-ranges",
+                               "page-set", "PageRegion"}) {
         EXPECT_THAT(options, Not(HasSubstr(option)));
     }
 }
@@ -181,6 +202,41 @@ TEST(SystemPrinter, TheUsersChoiceOfPaperHoldsAndIsAskedFor) {
     EXPECT_NEAR(SystemPrinter().Page().Width, 16838, 1);
     SystemPrinter().PrintReport(ReportOf(1));
     EXPECT_THAT(server.Printed(1).at(0).Options, HasSubstr("media=iso_a4_210x297mm"));
+}
+
+TEST(SystemPrinter, AChoiceOfMediaWithATrayHoldsInAnyOrder) {
+    for (const char* media : {"A4,Tray2", "Tray2,A4"}) {
+        const PrintServer server({Driven("Letter")});
+        const UserChoice choice{{"media", media}};
+        EXPECT_NEAR(SystemPrinter().Page().Width, 16838, 1) << media;
+        SystemPrinter().PrintReport(ReportOf(1));
+        const std::string options = server.Printed(1).at(0).Options;
+        EXPECT_THAT(options, HasSubstr("media=iso_a4_210x297mm,Tray2")) << media;
+    }
+    for (const char* media : {"Letter,Tray2", "Tray2,Letter"}) {
+        const PrintServer server({QueueSetup()}); // tells no sizes
+        const UserChoice choice{{"media", media}};
+        EXPECT_NEAR(SystemPrinter().Page().Width, 15840, 1) << media;
+        SystemPrinter().PrintReport(ReportOf(1));
+        const std::string options = server.Printed(1).at(0).Options;
+        EXPECT_THAT(options, HasSubstr("media=na_letter_8.5x11in,Tray2")) << media;
+    }
+}
+
+TEST(SystemPrinter, AChoiceOfATrayBesideAPageSizeLeavesTheSize) {
+    const PrintServer server({Driven("Letter")});
+    const UserChoice choice{{"media", "Tray2"}, {"PageSize", "A4"}};
+    EXPECT_NEAR(SystemPrinter().Page().Width, 16838, 1);
+    SystemPrinter().PrintReport(ReportOf(1));
+    EXPECT_THAT(server.Printed(1).at(0).Options, HasSubstr("media=iso_a4_210x297mm,Tray2"));
+}
+
+TEST(SystemPrinter, AChoiceOfATrayAloneIsSentOnForThePrintersOwnPaper) {
+    const PrintServer server({Driven("Letter")});
+    const UserChoice choice{{"media", "Tray2"}};
+    EXPECT_NEAR(SystemPrinter().Page().Width, 15840, 1);
+    SystemPrinter().PrintReport(ReportOf(1));
+    EXPECT_THAT(server.Printed(1).at(0).Options, HasSubstr("Tray2"));
 }
 
 TEST(SystemPrinter, TheReportKeepsItsSizeThroughAPrintersDriver) {
