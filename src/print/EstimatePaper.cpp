@@ -31,14 +31,14 @@ QFont ArialOfPage() {
     return font;
 }
 
-/// A line with its top left at `place`, narrower letters where it does not fit into `width`.
+/// A line with its top left at `place`, smaller letters where it does not fit into `width`.
 void PaintLine(QPainter& painter, QPointF place, double width, const std::string& text) {
     const QString line = ToQt(text);
     const double natural = QFontMetricsF(painter.font(), painter.device()).horizontalAdvance(line);
     painter.save();
     painter.translate(place + QPointF(0, AscentOfLine(TypeSize)));
     if (natural > width) {
-        painter.scale(width / natural, 1);
+        painter.scale(width / natural, width / natural);
     }
     painter.drawText(QPointF(), line);
     painter.restore();

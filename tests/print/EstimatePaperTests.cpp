@@ -195,7 +195,7 @@ TEST(PaintEstimate, IsBlackOnWhiteAlsoWhenTheScreenIsDark) {
     EXPECT_EQ(report.Image(1, 72).pixel(1, 1), qRgb(255, 255, 255));
 }
 
-TEST(PaintEstimate, ATitleThatIsTooLongGetsNarrowerLettersAndLosesNone) {
+TEST(PaintEstimate, ATitleThatIsTooLongGetsSmallerLettersAndLosesNone) {
     const Picture drawing = CornersDrawing();
     EstimatePage page = PageOf(drawing);
     const std::string name(200, 'W');
@@ -204,6 +204,12 @@ TEST(PaintEstimate, ATitleThatIsTooLongGetsNarrowerLettersAndLosesNone) {
     EXPECT_TRUE(pdf.Text().startsWith(testing::Words(page.Title)));
     const QRect ink = InkOf(pdf.Image(1, Dpi));
     EXPECT_LE(ink.right(), Px(PlacesOn(16838, 11906).Drawing.right()) + 2);
+    const auto words = pdf.Words(1);
+    const auto plainWords = Pdf(EstimatePdf(PageOf(drawing))).Words(1);
+    const QRectF small = WordOf(words, "TARN").Box;
+    const QRectF plain = WordOf(plainWords, "TARN").Box;
+    EXPECT_LT(small.width(), plain.width() / 2);
+    EXPECT_NEAR(small.height() / plain.height(), small.width() / plain.width(), 0.02);
 }
 
 TEST(PaintEstimate, AnUnknownPageIsTheSheetOfTheDevice) {
