@@ -12,6 +12,7 @@
 
 #include <QAction>
 #include <QMenu>
+#include <QTimer>
 
 #include <utility>
 
@@ -43,13 +44,20 @@ void ESCarpForm::BuildPictureMenu() {
     picture_->ContextMenu = [this](QPoint global) { pictureMenu_->popup(global); };
 }
 
-/// Whatever fails on the way to the paper is told as the printer's failure.
+/// Whatever fails on the way to the paper is told as the printer's failure. The second click of a
+/// double click, which waited while the first one printed, prints nothing.
 void ESCarpForm::PrintPic() {
+    if (printed_) {
+        return;
+    }
     try {
         SendToPrinter();
     } catch (const std::exception&) {
         Shared().Boxes.Message(PrinterNotReadyMessage);
+        return;
     }
+    printed_ = true;
+    QTimer::singleShot(0, this, [this] { printed_ = false; });
 }
 
 void ESCarpForm::SendToPrinter() {

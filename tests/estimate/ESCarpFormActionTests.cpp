@@ -6,6 +6,7 @@
 #include "store/TestDatabase.h"
 
 #include <QScrollBar>
+#include <QTimer>
 
 #include <gmock/gmock.h>
 
@@ -25,6 +26,12 @@ struct ESCarpFormActions : EstimateScreenTest {
         Search();
     }
     void ClickPaper(QPoint at) { QTest::mouseClick(&Paper(), Qt::LeftButton, {}, at); }
+    /// Wait until all that waits for the event loop was done.
+    static void ReachEventLoop() {
+        bool reached = false;
+        QTimer::singleShot(0, [&reached] { reached = true; });
+        ASSERT_TRUE(QTest::qWaitFor([&reached] { return reached; }));
+    }
 };
 
 TEST_F(ESCarpFormActions, PasteTheCutListOnceWhereTheFirstClickFalls) {
@@ -116,6 +123,17 @@ TEST_F(ESCarpFormActions, PrintThePictureAsItStands) {
     EXPECT_EQ(page.PrnHeight, 11000);
     EXPECT_TRUE(boxes.Messages.empty());
     EXPECT_EQ(TimesWritten(Heading), 1);
+}
+
+TEST_F(ESCarpFormActions, PrintOnceForADoubleClick) {
+    OpenEstimated();
+    QWidget& print = Button("Command5");
+    Click(print);
+    Click(print); // nothing was waited for in between
+    EXPECT_EQ(printer.Estimates.size(), 1U);
+    ReachEventLoop();
+    Click(print);
+    EXPECT_EQ(printer.Estimates.size(), 2U);
 }
 
 TEST_F(ESCarpFormActions, PrintNoCarpetLineBeforeAnEstimate) {
