@@ -1,0 +1,143 @@
+// The printing system behind the screens.
+
+#include "app/Controls.h"
+#include "estimate/EstimateScreenTesting.h"
+#include "print/PdfTesting.h"
+#include "print/PrintServer.h"
+#include "print/SystemPrinter.h"
+#include "rooms/Report.h"
+#include "rooms/RoomRecord.h"
+#include "rooms/TarnForm.h"
+
+#include <functional>
+#include <memory>
+#include <optional>
+
+namespace tarn {
+namespace {
+
+using namespace tarn::testing;
+
+/// How the printing system stands when it is of no use.
+struct Trouble {
+    const char* What;
+    std::optional<std::vector<QueueSetup>> Queues; ///< nothing: there is no server
+};
+
+std::vector<Trouble> Troubles() {
+    QueueSetup stopped;
+    stopped.Stopped = true;
+    return {{"no queue", std::vector<QueueSetup>{}},
+            {"a stopped queue", std::vector<QueueSetup>{stopped}},
+            {"no server", std::nullopt}};
+}
+
+/// Printing fails once with one message in every trouble, and works when the queue is back.
+void ExpectToldOnceAndPrintedLater(FakeBoxes& boxes, const std::function<void()>& press,
+                                   const std::function<void()>& expectUsable) {
+    for (const Trouble& trouble : Troubles()) {
+        SCOPED_TRACE(trouble.What);
+        boxes.Messages.clear();
+        std::optional<PrintServer> server;
+        if (trouble.Queues) {
+            server.emplace(*trouble.Queues);
+        } else {
+            UseServer(DeadAddress());
+        }
+        press();
+        EXPECT_EQ(boxes.Messages, std::vector<std::string>{PrinterNotReadyMessage});
+        expectUsable();
+        if (server) {
+            EXPECT_TRUE(server->JobStates().empty());
+        }
+    }
+    boxes.Messages.clear();
+    const PrintServer server({QueueSetup()});
+    press();
+    EXPECT_EQ(server.Printed(1).size(), 1U);
+    EXPECT_TRUE(boxes.Messages.empty());
+}
+
+struct PrintedFromRooms : ScreenTest {
+    PrintedFromRooms() {
+        state.CurProjName = "MAPLE STREET 9";
+        PutRooms(state, {{150, 168, 1, 2, "N1", "hall"}, {200, 120, 0, 0, "N2", "kitchen"}});
+        project.StoredRooms = TakeRooms(state);
+        form = std::make_unique<TarnForm>(real);
+        ShowOnDisplay(*form);
+        Click(Find(*form, "RepMnu"));
+    }
+    void Print() { Click(Find(*form, "Command2(0)")); }
+    bool IsReportShown() { return Find(*form, "Frame4").isVisible(); }
+
+    SystemPrinter system;
+    Session real{state, engine, project, boxes, system, screens, session.Today};
+    std::unique_ptr<TarnForm> form;
+};
+
+TEST_F(PrintedFromRooms, TheReportArrivesAndIsClosed) {
+    const PrintServer server({QueueSetup()});
+    Print();
+    const PrintedJob job = server.Printed(1).at(0);
+    EXPECT_EQ(job.Title, "ENTERED DATA REPORT");
+    EXPECT_EQ(Pdf(job.Document).Text(), Words(LoadReport(state, ShortDate(2026, 3, 14))));
+    EXPECT_FALSE(IsReportShown());
+    EXPECT_TRUE(boxes.Messages.empty());
+}
+
+TEST_F(PrintedFromRooms, TheReportStaysOpenUntilThePrinterIsThere) {
+    ExpectToldOnceAndPrintedLater(
+        boxes, [this] { Print(); }, [this] { EXPECT_TRUE(IsReportShown()); });
+    EXPECT_FALSE(IsReportShown());
+}
+
+struct PrintedFromEstimate : EstimateScreenTest {
+    PrintedFromEstimate() {
+        Add({200, 120});
+        form = std::make_unique<ESCarpForm>(real, true);
+        ShowOnDisplay(*form);
+        PressOk();
+        Search();
+    }
+    void Print() { Click(Button("Command5")); }
+
+    SystemPrinter system;
+    Session real{state, engine, project, boxes, system, screens, session.Today};
+};
+
+TEST_F(PrintedFromEstimate, TheEstimateArrives) {
+    const PrintServer server({QueueSetup()});
+    Print();
+    const PrintedJob job = server.Printed(1).at(0);
+    EXPECT_EQ(job.Title, "TARN RESULT  (PROJECT: MAPLE STREET 9)  " + ShortDate(2026, 3, 14));
+    const QString text = Pdf(job.Document).Text();
+    for (const std::string& written : Written()) {
+        EXPECT_TRUE(text.contains(Words(written))) << written;
+    }
+    EXPECT_TRUE(text.endsWith(QStringLiteral("DOWNLAY"))) << text.toStdString();
+    EXPECT_TRUE(boxes.Messages.empty());
+    EXPECT_EQ(state.PrnWidth, 16838);
+    EXPECT_EQ(state.PrnHeight, 11906);
+}
+
+TEST_F(PrintedFromEstimate, TheEstimateStaysUsableUntilThePrinterIsThere) {
+    for (const Integer known : {Integer{0}, Integer{1}}) {
+        SCOPED_TRACE(known != 0 ? "the page is known" : "the page is not known");
+        state.PrnWidth = static_cast<Integer>(known * 15840);
+        state.PrnHeight = static_cast<Integer>(known * 12240);
+        const auto written = Written();
+        ExpectToldOnceAndPrintedLater(
+            boxes, [this] { Print(); },
+            [&] {
+                EXPECT_EQ(Written(), written);
+                Click(Button("Command7"));
+                Click(Button("Command4"));
+                QTest::mouseClick(&Paper(), Qt::LeftButton, {}, {50, 50});
+                EXPECT_EQ(Written(), written);
+            });
+        screens.Calls.clear();
+    }
+}
+
+} // namespace
+} // namespace tarn
