@@ -3,6 +3,7 @@
 #include "app/OutputFile.h"
 #include "app/QtText.h"
 #include "app/SaveAs.h"
+#include "app/WaitCursor.h"
 #include "estimate/ESCarpForm.h"
 #include "estimate/EstimatePage.h"
 #include "estimate/Svg.h"
@@ -61,6 +62,7 @@ void ESCarpForm::PrintPic() {
 }
 
 void ESCarpForm::SendToPrinter() {
+    const WaitCursor waiting;
     if (State().PrnWidth == 0 || State().PrnHeight == 0) {
         TakePrinterPage(State(), Shared().Paper);
     }

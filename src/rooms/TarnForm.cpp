@@ -5,6 +5,7 @@
 #include "app/QtText.h"
 #include "app/RunTimeError.h"
 #include "app/SaveAs.h"
+#include "app/WaitCursor.h"
 #include "print/PdfFile.h"
 #include "rooms/Report.h"
 #include "rooms/ReportFrame.h"
@@ -161,6 +162,7 @@ void TarnForm::SetEntryEnabled(bool enabled) {
 
 void TarnForm::PrintReport() {
     try {
+        const WaitCursor waiting;
         Shared().Paper.PrintReport(report_->Text());
     } catch (const std::exception&) {
         Shared().Boxes.Message(PrinterNotReadyMessage);

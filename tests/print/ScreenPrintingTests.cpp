@@ -58,6 +58,46 @@ void ExpectToldOnceAndPrintedLater(FakeBoxes& boxes, const std::function<void()>
     EXPECT_TRUE(boxes.Messages.empty());
 }
 
+/// Whether the user is shown that the program waits.
+bool ShowsWaiting() {
+    const QCursor* cursor = QGuiApplication::overrideCursor();
+    return cursor != nullptr && cursor->shape() == Qt::WaitCursor;
+}
+
+/// The system's printer; notes whether waiting was shown whenever it was used.
+struct WatchedPrinter : Printer {
+    PageSize Page() override {
+        Waiting.push_back(ShowsWaiting());
+        return System.Page();
+    }
+    void PrintReport(const std::string& text) override {
+        Waiting.push_back(ShowsWaiting());
+        System.PrintReport(text);
+    }
+    void PrintEstimate(const EstimatePage& page) override {
+        Waiting.push_back(ShowsWaiting());
+        System.PrintEstimate(page);
+    }
+
+    SystemPrinter System;
+    std::vector<bool> Waiting;
+};
+
+/// Waiting is shown at every use of the printer, without a server and then with one, and neither
+/// behind the message nor afterwards.
+void ExpectWaitingShown(const WatchedPrinter& printer, FakeBoxes& boxes, std::size_t uses,
+                        const std::function<void()>& press) {
+    boxes.OnMessage = [] { EXPECT_FALSE(ShowsWaiting()); };
+    UseServer(DeadAddress());
+    press();
+    EXPECT_EQ(boxes.Messages.size(), 1U);
+    const PrintServer server({QueueSetup()});
+    press();
+    EXPECT_EQ(boxes.Messages.size(), 1U);
+    EXPECT_EQ(printer.Waiting, std::vector<bool>(uses, true));
+    EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+}
+
 struct PrintedFromRooms : ScreenTest {
     PrintedFromRooms() {
         state.CurProjName = "MAPLE STREET 9";
@@ -70,7 +110,7 @@ struct PrintedFromRooms : ScreenTest {
     void Print() { Click(Find(*form, "Command2(0)")); }
     bool IsReportShown() { return Find(*form, "Frame4").isVisible(); }
 
-    SystemPrinter system;
+    WatchedPrinter system;
     Session real{state, engine, project, boxes, system, screens, session.Today};
     std::unique_ptr<TarnForm> form;
 };
@@ -91,6 +131,10 @@ TEST_F(PrintedFromRooms, TheReportStaysOpenUntilThePrinterIsThere) {
     EXPECT_FALSE(IsReportShown());
 }
 
+TEST_F(PrintedFromRooms, WaitingIsShownWhileThePrinterIsAsked) {
+    ExpectWaitingShown(system, boxes, 2, [this] { Print(); });
+}
+
 struct PrintedFromEstimate : EstimateScreenTest {
     PrintedFromEstimate() {
         Add({200, 120});
@@ -101,7 +145,7 @@ struct PrintedFromEstimate : EstimateScreenTest {
     }
     void Print() { Click(Button("Command5")); }
 
-    SystemPrinter system;
+    WatchedPrinter system;
     Session real{state, engine, project, boxes, system, screens, session.Today};
 };
 
@@ -137,6 +181,10 @@ TEST_F(PrintedFromEstimate, TheEstimateStaysUsableUntilThePrinterIsThere) {
             });
         screens.Calls.clear();
     }
+}
+
+TEST_F(PrintedFromEstimate, WaitingIsShownWhileThePrinterIsAsked) {
+    ExpectWaitingShown(system, boxes, 3, [this] { Print(); }); // Page twice, and the job
 }
 
 } // namespace
