@@ -87,6 +87,7 @@ FlooringResult MeasureFlooring(FlooringJob& job, double seconds) {
         ImproveEstimate(job.State, engine, estimate, ImproveLimits(), limit);
     result.Improved = static_cast<double>(improved.Length);
     result.Bound = improved.Bound;
+    result.StartBelowRules = improved.StartBelowRules;
     result.PiecesBefore = improved.StartPieces;
     result.Pieces = improved.Pieces;
     return result;

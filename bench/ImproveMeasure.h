@@ -26,7 +26,8 @@ struct FlooringResult {
     bool Metric = false;
     double Searched = 0; ///< by the search alone
     double Improved = 0;
-    double Bound = 0;
+    double Bound = 0;             ///< 0 = not known
+    bool StartBelowRules = false; ///< the search's layout is shorter than any that keeps the rules
     int PiecesBefore = 0;
     int Pieces = 0;
 };

@@ -113,16 +113,19 @@ double MedianShorter(const std::vector<FlooringResult>& results) {
 std::string FlooringTable(std::vector<FlooringResult>& all) {
     std::string table =
         "| rooms | jobs | search, over the bound | improved, over the bound | least possible "
-        "reached | median job shorter by | parts, search | parts, improved |\n"
-        "|---:|---:|---:|---:|---:|---:|---:|---:|\n";
+        "reached | below the rules | median job shorter by | parts, search | parts, improved |\n"
+        "|---:|---:|---:|---:|---:|---:|---:|---:|---:|\n";
     for (const RoomGroup& group : Groups) {
         const std::vector<FlooringResult> results = MeasureGroup(group);
         const AverageGaps gaps = GapsOf(results);
         int least = 0;
+        int below = 0;
         int before = 0;
         int after = 0;
         for (const FlooringResult& result : results) {
-            least += result.Improved - result.Bound < 0.005 ? 1 : 0;
+            const bool isLeast = result.Bound > 0 && result.Improved - result.Bound < 0.005;
+            least += isLeast && !result.StartBelowRules ? 1 : 0;
+            below += result.StartBelowRules ? 1 : 0;
             before += result.PiecesBefore;
             after += result.Pieces;
         }
@@ -131,8 +134,8 @@ std::string FlooringTable(std::vector<FlooringResult>& all) {
                  (group.Least == group.Most ? rooms : rooms + " to " + std::to_string(group.Most)) +
                  " | " + std::to_string(gaps.Jobs) + " | " + Percent(gaps.Searched) + " | " +
                  Percent(gaps.Improved) + " | " + std::to_string(least) + " | " +
-                 Percent(MedianShorter(results)) + " | " + std::to_string(before) + " | " +
-                 std::to_string(after) + " |\n";
+                 std::to_string(below) + " | " + Percent(MedianShorter(results)) + " | " +
+                 std::to_string(before) + " | " + std::to_string(after) + " |\n";
         all.insert(all.end(), results.begin(), results.end());
         std::cout << table.substr(table.rfind('\n', table.size() - 2) + 1) << std::flush;
     }

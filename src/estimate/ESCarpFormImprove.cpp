@@ -40,12 +40,8 @@ class OthersDisabled {
 };
 
 std::string NothingBetterText(const ImproveResult& result) {
-    std::string text = "No better layout was found";
-    if (result.Bound > 0) {
-        text +=
-            ": this one is " + LeastPossibleText(static_cast<Double>(result.Length), result.Bound);
-    }
-    return text + ".";
+    const std::string reason = NothingBetterReason(result);
+    return "No better layout was found" + (reason.empty() ? "" : ": " + reason) + ".";
 }
 
 } // namespace

@@ -119,10 +119,10 @@ bool ImprovePanel::Progress(const ImproveProgress& progress) {
 
 void ImprovePanel::Show(const ImproveProgress& progress) {
     SetText(*best_, "Fills so far: " + LengthText(progress.Best, metric_));
-    if (progress.Bound > 0) {
-        SetText(*least_, "No layout takes less than: " + BoundText(progress.Bound, metric_));
-        SetText(*gap_, LeastPossibleText(progress.Best, progress.Bound));
-    }
+    const bool proven = progress.Bound > 0 && !progress.StartBelowRules;
+    SetText(*least_, proven ? "No layout takes less than: " + BoundText(progress.Bound, metric_)
+                            : std::string());
+    SetText(*gap_, GapText(progress));
     time_->setValue(static_cast<int>(
         std::min<qint64>(sinceStart_.elapsed(), qint64{Seconds} * MillisecondsPerSecond)));
 }

@@ -9,6 +9,8 @@ namespace tarn {
 
 namespace {
 
+constexpr const char* NoneAsShort = "none whose parts keep the minimum cut is as short";
+
 bool IsShorter(Double a, Double b) {
     return b - a >= LengthTolerance;
 }
@@ -42,6 +44,22 @@ std::string LeastPossibleText(Double length, Double bound) {
     constexpr Double TenthsInWhole = 1000;
     const Double tenths = -Int(-(length - bound) / bound * TenthsInWhole);
     return "at most " + PercentText(tenths) + " above the least possible";
+}
+
+std::string GapText(const ImproveProgress& progress) {
+    if (progress.StartBelowRules) {
+        return NoneAsShort;
+    }
+    return progress.Bound > 0 ? LeastPossibleText(progress.Best, progress.Bound) : "";
+}
+
+std::string NothingBetterReason(const ImproveResult& result) {
+    if (result.StartBelowRules) {
+        return NoneAsShort;
+    }
+    return result.Bound > 0 ? "this one is " + LeastPossibleText(static_cast<Double>(result.Length),
+                                                                 result.Bound)
+                            : "";
 }
 
 std::string ImprovementText(const Improvement& improvement) {

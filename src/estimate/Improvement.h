@@ -1,12 +1,14 @@
 #pragma once
 
 #include "app/Types.h"
+#include "engine/improve/ImproveEngine.h"
 
 #include <string>
 
 namespace tarn {
 
-/// The record of an improved layout: lengths of the fills along the roll, inches.
+/// The record of an improved layout, which keeps the improving search's rules: lengths of the fills
+/// along the roll, inches.
 struct Improvement {
     Double StartLength = 0; ///< of the layout that the search before gave
     Double Length = 0;
@@ -23,5 +25,13 @@ std::string ImprovementText(const Improvement& improvement);
 /// What may be left: by how many percent a layout of `length` may be above the least possible, as
 /// the line above says it: "the least possible" or "at most 1.8% above the least possible".
 std::string LeastPossibleText(Double length, Double bound);
+
+/// What may be left, while a search goes on: LeastPossibleText, or, when only layouts whose parts
+/// are too short are as short as the start, that. Empty while nothing is known.
+std::string GapText(const ImproveProgress& progress);
+
+/// The same of a search that found nothing better: "this one is the least possible", "none whose
+/// parts keep the minimum cut is as short". Empty when nothing is known.
+std::string NothingBetterReason(const ImproveResult& result);
 
 } // namespace tarn

@@ -54,7 +54,7 @@ class ProgressLine : public ImproveObserver {
         if (isTerminal_ && progress.Bound > 0 && (!written_ || now - last_ >= Pause)) {
             constexpr const char* StartOfLine = "\r\033[K";
             std::cerr << StartOfLine << "Fills: " << LengthText(progress.Best, metric_) << ", "
-                      << LeastPossibleText(progress.Best, progress.Bound) << std::flush;
+                      << GapText(progress) << std::flush;
             last_ = now;
             written_ = true;
         }
@@ -84,9 +84,9 @@ void ImproveFor(const EstimateOptions& options, const SharedState& state, Engine
         ProgressLine line(state.IsMetric());
         result = ImproveEstimate(state, engine, estimate, limits, line);
     }
-    if (!result.Improved && result.Bound > 0) {
-        std::cerr << "Note: no better layout was found; this one is "
-                  << LeastPossibleText(static_cast<Double>(result.Length), result.Bound) << ".\n";
+    const std::string reason = NothingBetterReason(result);
+    if (!result.Improved && !reason.empty()) {
+        std::cerr << "Note: no better layout was found; " << reason << ".\n";
     }
 }
 

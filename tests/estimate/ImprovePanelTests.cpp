@@ -65,6 +65,15 @@ TEST_F(ImprovePanels, SayNothingOfABoundThatIsNotKnown) {
     });
 }
 
+TEST_F(ImprovePanels, ClaimNoLeastForAStartThatIsShorterThanTheRulesAllow) {
+    Panel.Run([&](const ImproveLimits&, ImproveObserver& observer) {
+        observer.Progress({630, 630, true});
+        EXPECT_EQ(Line(1), "");
+        EXPECT_EQ(Line(2), "none whose parts keep the minimum cut is as short");
+        return ImproveResult{};
+    });
+}
+
 TEST_F(ImprovePanels, NeverClaimABoundThatIsNotProven) {
     Panel.Run([&](const ImproveLimits&, ImproveObserver& observer) {
         observer.Progress({630, 619.9});

@@ -71,6 +71,22 @@ TEST(ImprovementText, NamesTheGainOfALayoutOfTheSameLength) {
               "Improved: larger free end, the least possible");
 }
 
+TEST(GapText, ClaimsNothingOfAStartThatIsShorterThanTheRulesAllow) {
+    EXPECT_EQ(GapText({110, 0, false}), "");
+    EXPECT_EQ(GapText({110, 100, false}), "at most 10.0% above the least possible");
+    EXPECT_EQ(GapText({110, 110, true}), "none whose parts keep the minimum cut is as short");
+}
+
+// At whole inches the halves take 101 inches.
+TEST(ImproveEstimate, ClaimsNothingOfAStartThatIsShorterThanTheRulesAllow) {
+    Job job = Imperial({{72, 201}});
+    MakeEstimate(job, Request(144, true, 1));
+    const ImproveResult result = Improve(job);
+    EXPECT_FALSE(result.Improved);
+    EXPECT_EQ(result.Length, 100.5F);
+    EXPECT_EQ(NothingBetterReason(result), "none whose parts keep the minimum cut is as short");
+}
+
 TEST(ImproveEstimate, ListsTheImprovedPiecesAndSaysSoBelowTheFills) {
     Job job = Estimated();
     const std::vector<std::string> before = CutListLines(job.State, job.Engine, job.Estimate);

@@ -49,9 +49,12 @@ ImproveResult ImproveEngine(const SharedState& state, EngineArrays& engine,
     const auto startLength = static_cast<Double>(result.StartLength);
     const LayoutMerit start = LayoutMeritOf(roll, engine);
     const auto inches = [&](Long units) { return std::min(startLength, units * roll.AlongUnit); };
+    const auto isBelow = [&](Long bound) {
+        return startLength <= bound * roll.AlongUnit - LengthTolerance;
+    };
     ImproveRun run(roll.Job, start, limits, [&](Long best, Long bound) {
         const Double length = best < start.Length ? inches(best) : startLength;
-        return observer.Progress({length, std::min(length, inches(bound))});
+        return observer.Progress({length, std::min(length, inches(bound)), isBelow(bound)});
     });
     Improve(run, limits.Seed);
     if (!run.BestParts().empty() && TakeBest(roll, run, engine, state.DimScale)) {
@@ -60,6 +63,7 @@ ImproveResult ImproveEngine(const SharedState& state, EngineArrays& engine,
         result.Pieces = engine.PieceCount;
     }
     result.Bound = std::min(static_cast<Double>(result.Length), run.Bound() * roll.AlongUnit);
+    result.StartBelowRules = isBelow(run.RulesBound());
     result.Steps = run.Steps();
     return result;
 }

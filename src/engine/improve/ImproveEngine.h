@@ -12,6 +12,9 @@ namespace tarn {
 struct ImproveProgress {
     Double Best = 0;  ///< length of the best layout so far
     Double Bound = 0; ///< no layout is shorter; 0 while that is not known
+    /// The start is shorter than any layout that keeps the improving search's rules (it may have
+    /// shorter parts): nothing better will be found, and whether it is the least is not known.
+    bool StartBelowRules = false;
     Double GapPercent() const;
 };
 
@@ -32,8 +35,9 @@ class ImproveObserver {
 struct ImproveResult {
     bool Improved = false; ///< the arrays hold a better layout than before
     Single StartLength = 0;
-    Single Length = 0; ///< of the layout in the arrays now, inches
-    Double Bound = 0;  ///< no layout is shorter, inches; 0 = not known
+    Single Length = 0;            ///< of the layout in the arrays now, inches
+    Double Bound = 0;             ///< no layout is shorter, inches; 0 = not known
+    bool StartBelowRules = false; ///< see ImproveProgress; the bound then proves nothing
     Integer StartPieces = 0;
     Integer Pieces = 0; ///< parts in all
     std::int64_t Steps = 0;

@@ -35,7 +35,7 @@ void ImproveRun::LookAtTime() {
 
 bool ImproveRun::Ask() {
     LookAtTime();
-    if (!stopped_ && !report_(best_.Length, Bound())) {
+    if (!stopped_ && !report_(best_.Length, bound_)) {
         stopped_ = true;
     }
     return !stopped_;

@@ -18,7 +18,7 @@ struct ImproveLimits {
 };
 
 /// What a running search is asked now and then: the best length and the bound so far, in the job's
-/// units. False stops the search.
+/// units. The bound is that of RulesBound. False stops the search.
 using ImproveReport = std::function<bool(Long best, Long bound)>;
 
 /// What the parts of one improving search share: the best layout and the bound so far, and whether
@@ -50,7 +50,10 @@ class ImproveRun {
     const LayoutMerit& Best() const { return best_; }
     /// The best layout; empty while that is the start.
     const std::vector<ImprovePart>& BestParts() const { return bestParts_; }
-    /// No layout is shorter. Never above the best length.
+    /// No layout of the job's rules is shorter. Above the best length when the start, which may
+    /// keep other rules, is shorter than all of them.
+    Long RulesBound() const { return bound_; }
+    /// The same, but never above the best length.
     Long Bound() const { return std::min(bound_, best_.Length); }
     bool IsLeast() const { return best_.Length <= bound_; }
 

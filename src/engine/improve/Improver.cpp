@@ -53,7 +53,7 @@ class Improver {
             }
             effort_ *= EffortGrowth;
         }
-        if (run_.IsLeast() && !run_.Stopped() && run_.Best().Parts > 0) {
+        if (run_.Best().Length == run_.RulesBound() && run_.Best().Parts > 0 && !run_.Stopped()) {
             SaveJoins();
         }
     }

@@ -344,6 +344,7 @@ TEST(RollJob, AStartThatIsNoWholeUnitLosesAgainstShorterWholeUnitsOnly) {
     EXPECT_FALSE((LayoutMerit{101, 1, 1 << 29}.BetterThan(merit))) << "it is half an inch longer";
     const ImproveResult result = Improved(state, engine);
     EXPECT_FALSE(result.Improved) << "at whole inches it takes 101";
+    EXPECT_TRUE(result.StartBelowRules);
     EXPECT_EQ(GetPCLen(engine), 100.5F);
 }
 
@@ -385,6 +386,7 @@ TEST(ImproveEngine, AStartBetweenWholeUnitsIsComparedByItsTrueLength) {
     EXPECT_TRUE(result.Improved) << "a bound of 133 is not its length";
     EXPECT_EQ(GetPCLen(engine), 133);
     EXPECT_EQ(result.Bound, 133);
+    EXPECT_FALSE(result.StartBelowRules);
 }
 
 TEST(ImproveEngine, WithoutAPieceNothingIsTried) {

@@ -157,6 +157,8 @@ TEST(Improver, NoBoundIsAboveTheStart) {
     Improve(run, 1);
     EXPECT_TRUE(run.BestParts().empty());
     EXPECT_EQ(run.Bound(), 8);
+    EXPECT_EQ(run.RulesBound(), 10);
+    EXPECT_LT(run.Steps(), 1000) << "nothing is left to be found";
 }
 
 TEST(Improver, OfEqualLengthsFewerJoinsWin) {
