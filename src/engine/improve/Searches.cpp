@@ -71,7 +71,7 @@ bool PackBelow(ImproveRun& run, Plan& plan, const PlanStart& start, Long roof, s
         return false;
     }
     run.Offer(plan.Layout());
-    return true;
+    return run.Best().Length <= roof;
 }
 
 void Shorten(ImproveRun& run, Plan& plan, const PlanStart& start, std::int64_t steps,

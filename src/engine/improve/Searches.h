@@ -21,8 +21,9 @@ std::vector<PlanStart> RankedStarts(ImproveRun& run, Plan& plan);
 
 /// Decision search: change the plan, and keep what leaves no more unpacked below `roof`, until all
 /// is packed or after `steps`. When that gains nothing for a while, a few changes are made whatever
-/// they do, to go on from there; what comes of it is dropped if it stays worse. True when all was
-/// packed; the layout is offered then.
+/// they do, to go on from there; what comes of it is dropped if it stays worse. What was packed is
+/// offered. True when the best layout ends below `roof` then: all may be packed in more parts than
+/// a layout may have.
 bool PackBelow(ImproveRun& run, Plan& plan, const PlanStart& start, Long roof, std::int64_t steps,
                RandomSteps& random);
 

@@ -1,6 +1,8 @@
 #include "engine/improve/Bounds.h"
 #include "engine/improve/ImproveTesting.h"
 #include "engine/improve/Improver.h"
+#include "engine/improve/PartPlan.h"
+#include "engine/improve/Searches.h"
 
 #include <gtest/gtest.h>
 
@@ -199,6 +201,21 @@ TEST(Improver, NeverLaysMorePartsThanThereIsRoomFor) {
     ImproveRun run(job, {31, 1, 0}, Limits(Steps), GoOn);
     Improve(run, 1);
     EXPECT_EQ(run.Best().Length, 30) << "10 would take three parts";
+}
+
+TEST(PackBelow, IsNotDoneByALayoutOfTooManyParts) {
+    const ImproveJob job{12, 1, 1, 1, {{4, 30, 3}}};
+    ImproveRun run(job, {31, 1, 0}, Limits(Steps), GoOn);
+    PartPlan plan(job);
+    RandomSteps random(1);
+    std::size_t packed = 0;
+    for (std::size_t order = 0; order < plan.Orders(); ++order) {
+        plan.Begin(order, {});
+        packed += plan.Unpacked(15, NoLimit) == 0 ? 1 : 0;
+        EXPECT_FALSE(PackBelow(run, plan, {order, {}, 0}, 15, 10, random));
+    }
+    EXPECT_GT(packed, 0U);
+    EXPECT_TRUE(PackBelow(run, plan, {0, {}, 0}, 30, 10, random)) << "in one part";
 }
 
 TEST(Improver, AJobWithoutFillsIsLeftAlone) {
