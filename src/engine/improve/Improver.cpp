@@ -48,14 +48,10 @@ class Improver {
             if (!run_.Stopped()) {
                 ShortenStarts(round);
             }
-            if (best_ && !run_.Stopped()) {
-                Polish(run_, *best_, run_.Best().Length, Steps(PolishShare), random_);
-            }
+            PolishBest(Steps(PolishShare));
             effort_ *= EffortGrowth;
         }
-        if (run_.Best().Length == run_.RulesBound() && run_.Best().Parts > 0 && !run_.Stopped()) {
-            SaveJoins();
-        }
+        PolishBest(LastPolish);
     }
 
   private:
@@ -91,12 +87,22 @@ class Improver {
         return false;
     }
 
-    /// No layout is shorter: look for a better one of the same length.
-    void SaveJoins() {
-        if (!best_ && !PackFromAny(run_.Best().Length)) {
+    /// Look for a better layout of the best length, where there can be one.
+    void PolishBest(std::int64_t steps) {
+        const LayoutMerit& best = run_.Best();
+        if (best.Length < run_.RulesBound() || best.Parts == 0 || run_.Stopped()) {
             return;
         }
-        Polish(run_, *best_, run_.Best().Length, LastPolish, random_);
+        if (HaveBest() && !run_.Stopped()) {
+            Polish(run_, *best_, run_.Best().Length, steps, random_);
+        }
+    }
+
+    /// Have a plan that packs all below the best length. The one of a roof lowered earlier may be
+    /// longer than what was found since by other ways, or there was none.
+    bool HaveBest() {
+        const Long length = run_.Best().Length;
+        return (best_ && best_->Unpacked(length, 0) == 0) || PackFromAny(length);
     }
 
     void ShortenStarts(int round) {
@@ -109,9 +115,8 @@ class Improver {
     RandomSteps random_;
     std::unique_ptr<Plan> plan_;
     std::vector<PlanStart> starts_;
-    std::size_t next_ = 0; ///< start
-    std::unique_ptr<Plan>
-        best_; ///< packed all below the best length, when a roof was lowered to it
+    std::size_t next_ = 0;       ///< start
+    std::unique_ptr<Plan> best_; ///< the last that packed all below a roof
     Double effort_ = FirstEffort;
 };
 

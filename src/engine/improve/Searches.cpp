@@ -84,7 +84,7 @@ void Shorten(ImproveRun& run, Plan& plan, const PlanStart& start, std::int64_t s
         const Area64 changed = plan.Length(length);
         if (changed <= length) {
             length = changed;
-            if (length < run.Best().Length) {
+            if (length <= run.Best().Length) {
                 run.Offer(plan.Layout());
             }
         } else {

@@ -28,7 +28,7 @@ bool PackBelow(ImproveRun& run, Plan& plan, const PlanStart& start, Long roof, s
                RandomSteps& random);
 
 /// Length search: change the plan, and keep what is not longer, for `steps`. Offers what is
-/// shorter.
+/// as short as the best.
 void Shorten(ImproveRun& run, Plan& plan, const PlanStart& start, std::int64_t steps,
              RandomSteps& random);
 

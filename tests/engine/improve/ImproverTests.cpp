@@ -203,6 +203,42 @@ TEST(Improver, NeverLaysMorePartsThanThereIsRoomFor) {
     EXPECT_EQ(run.Best().Length, 30) << "10 would take three parts";
 }
 
+// Where no bound proves that the start is the least, its joins are looked for all the same.
+TEST(Improver, SavesJoinsOfAStartThatIsTheLeastWithoutAProof) {
+    int unproven = 0;
+    int saved = 0;
+    for (unsigned seed = 1; seed <= 60; ++seed) {
+        std::mt19937 random(seed);
+        const ImproveJob job = RandomFills(random, 14, 24, 2, 60);
+        ImproveRun first(job, Stacked(job), Limits(60000), GoOn);
+        Improve(first, seed);
+        if (first.IsLeast()) {
+            continue;
+        }
+        ++unproven;
+        ImproveRun run(job, {first.Best().Length, 1000, 0}, Limits(60000), GoOn);
+        Improve(run, seed);
+        if (!run.BestParts().empty()) {
+            ++saved;
+            EXPECT_EQ(FaultOf(job, run.BestParts()), "") << seed;
+        }
+    }
+    ASSERT_GT(unproven, 5);
+    EXPECT_GT(saved, unproven * 3 / 4);
+}
+
+TEST(Shorten, OffersWhatIsAsShortAsTheBestInFewerParts) {
+    std::mt19937 random(3);
+    const ImproveJob job = RandomFills(random, 20, 24, 3, 60);
+    PartPlan plan(job);
+    plan.Begin(0, {});
+    const auto length = static_cast<Long>(plan.Length(LongestRoll));
+    ImproveRun run(job, {length, 1000, 0}, Limits(Steps), GoOn);
+    RandomSteps steps(1);
+    Shorten(run, plan, {0, {}, length}, 50, steps);
+    EXPECT_FALSE(run.BestParts().empty());
+}
+
 TEST(PackBelow, IsNotDoneByALayoutOfTooManyParts) {
     const ImproveJob job{12, 1, 1, 1, {{4, 30, 3}}};
     ImproveRun run(job, {31, 1, 0}, Limits(Steps), GoOn);
