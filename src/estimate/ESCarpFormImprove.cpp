@@ -8,6 +8,7 @@
 
 #include <QPushButton>
 
+#include <optional>
 #include <vector>
 
 namespace tarn {
@@ -55,6 +56,7 @@ void ESCarpForm::EnableImprove() {
 void ESCarpForm::ImproveLayout() {
     SetPasteCuts(false);
     ImproveResult result;
+    const std::optional<Improvement> before = estimate_.Improved;
     const bool done = Guard(ImproveFailure, [&] {
         const OthersDisabled others(Body(), *improvePanel_);
         result = improvePanel_->Run([this](const ImproveLimits& limits, ImproveObserver& observer) {
@@ -65,15 +67,17 @@ void ESCarpForm::ImproveLayout() {
     if (!done) {
         return;
     }
+    // Without a better layout the list may still know a better bound.
+    if (estimate_.Improved != before) {
+        try {
+            LayoutReady();
+        } catch (const std::exception&) {
+            Empty();
+            throw;
+        }
+    }
     if (!result.Improved) {
         Shared().Boxes.Message(NothingBetterText(result));
-        return;
-    }
-    try {
-        LayoutReady();
-    } catch (const std::exception&) {
-        Empty();
-        throw;
     }
 }
 

@@ -7,7 +7,7 @@ namespace tarn {
 ImproveResult ImproveEstimate(const SharedState& state, EngineArrays& engine,
                               CarpetEstimate& estimate, const ImproveLimits& limits,
                               ImproveObserver& observer) {
-    const ImproveResult result = ImproveEngine(state, engine, limits, observer);
+    ImproveResult result = ImproveEngine(state, engine, limits, observer);
     if (!result.Improved && !estimate.Improved) {
         return result;
     }
@@ -19,6 +19,7 @@ ImproveResult ImproveEstimate(const SharedState& state, EngineArrays& engine,
     record.Length = static_cast<Double>(result.Length);
     record.Pieces = result.Pieces;
     record.Bound = std::min(std::max(record.Bound, result.Bound), record.Length);
+    result.Bound = record.Bound;
     return result;
 }
 

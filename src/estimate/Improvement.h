@@ -15,6 +15,8 @@ struct Improvement {
     Double Bound = 0; ///< no layout is shorter
     Integer StartPieces = 0;
     Integer Pieces = 0; ///< parts in all: one more is one join more
+
+    bool operator==(const Improvement&) const = default;
 };
 
 /// The line by which the cut list says that its layout was improved, for example

@@ -161,6 +161,18 @@ TEST(ImproveEstimate, CountsTheGainFromTheFirstLayoutAndKeepsTheBestBound) {
     EXPECT_EQ(job.Estimate.Improved->Pieces, job.Engine.PieceCount);
 }
 
+// One layout is tried: the bound that was known before counts all the same.
+TEST(ImproveEstimate, HandsTheBestBoundOfAllBack) {
+    Job job = Estimated();
+    Improve(job, 3000);
+    ASSERT_TRUE(job.Estimate.Improved.has_value());
+    ASSERT_GT(job.Estimate.Improved->Bound, 0);
+    job.Estimate.Improved->Bound = job.Estimate.Improved->Length;
+    const ImproveResult result = Improve(job, 1);
+    EXPECT_FALSE(result.Improved);
+    EXPECT_EQ(result.Bound, static_cast<Double>(result.Length));
+}
+
 TEST(ImproveEstimate, LeavesAnEstimateThatCannotBeImprovedAsItIs) {
     Job job = Imperial({{144, 100}, {72, 90}, {72, 90}});
     MakeEstimate(job, Request(144));
