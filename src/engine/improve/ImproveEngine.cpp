@@ -15,14 +15,16 @@ namespace {
 
 /// Take the run's best layout over, on a copy, so that a fault leaves the arrays as they were.
 /// False, with the arrays as they were, when more would have to be ordered: an equal length can lie
-/// just above whole inches where the start lies just below them.
-bool TakeBest(const RollJob& roll, const ImproveRun& run, EngineArrays& engine, Double dimScale) {
+/// just above whole inches where the start lies just below them. Nor is one taken that is no better
+/// than `start` once it is finished, pushed to the left.
+bool TakeBest(const RollJob& roll, const ImproveRun& run, const LayoutMerit& start,
+              EngineArrays& engine, Double dimScale) {
     EngineArrays improved = engine;
     TakeLayout(roll, run.BestParts(), improved, dimScale);
     if (!IsWithinTolerance(GetPCLen(improved) - GetPCLen(engine))) {
         RaiseInternal("The improved layout is longer than before and was discarded.");
     }
-    if (improved.ResultLen > engine.ResultLen) {
+    if (improved.ResultLen > engine.ResultLen || !LayoutMeritOf(roll, improved).BetterThan(start)) {
         return false;
     }
     engine = std::move(improved);
@@ -57,7 +59,7 @@ ImproveResult ImproveEngine(const SharedState& state, EngineArrays& engine,
         return observer.Progress({length, std::min(length, inches(bound)), isBelow(bound)});
     });
     Improve(run, limits.Seed);
-    if (!run.BestParts().empty() && TakeBest(roll, run, engine, state.DimScale)) {
+    if (!run.BestParts().empty() && TakeBest(roll, run, start, engine, state.DimScale)) {
         result.Improved = true;
         result.Length = GetPCLen(engine);
         result.Pieces = engine.PieceCount;

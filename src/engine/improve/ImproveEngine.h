@@ -25,9 +25,9 @@ class ImproveObserver {
   public:
     virtual ~ImproveObserver() = default;
 
-    /// Called after every 16 layouts that were tried, and whenever the best or the bound changes:
-    /// many times a second, for a house's fills thousands of times. False stops the search; the
-    /// best layout so far is taken all the same.
+    /// Called after every 16 layouts that were tried, or after 20 ms, and whenever the best or the
+    /// bound changes: many times a second, for a house's fills thousands of times. False stops the
+    /// search; the best layout so far is taken all the same.
     virtual bool Progress([[maybe_unused]] const ImproveProgress& progress) { return true; }
 };
 

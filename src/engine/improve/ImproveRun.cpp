@@ -8,6 +8,7 @@ namespace tarn {
 namespace {
 
 constexpr std::int64_t AskEvery = 16; ///< steps
+constexpr Double AskAfter = 0.02;     ///< seconds
 
 } // namespace
 
@@ -24,7 +25,8 @@ bool ImproveRun::Spend() {
         stopped_ = true;
     }
     LookAtTime();
-    return steps_ % AskEvery == 0 ? Ask() : !stopped_;
+    const bool due = steps_ % AskEvery == 0 || Passed() - told_ >= AskAfter;
+    return due ? Ask() : !stopped_;
 }
 
 void ImproveRun::LookAtTime() {
@@ -35,10 +37,18 @@ void ImproveRun::LookAtTime() {
 
 bool ImproveRun::Ask() {
     LookAtTime();
-    if (!stopped_ && !report_(best_.Length, bound_)) {
-        stopped_ = true;
+    if (!stopped_) {
+        Tell();
     }
     return !stopped_;
+}
+
+/// A gain that the last step of a limit brings is told too.
+void ImproveRun::Tell() {
+    if (!refused_ && !report_(best_.Length, bound_)) {
+        refused_ = stopped_ = true;
+    }
+    told_ = Passed();
 }
 
 LayoutMerit ImproveRun::Offer(std::vector<ImprovePart> parts) {
@@ -47,7 +57,7 @@ LayoutMerit ImproveRun::Offer(std::vector<ImprovePart> parts) {
     if (merit.Parts <= job_.MostPieces && merit.BetterThan(best_)) {
         best_ = merit;
         bestParts_ = std::move(parts);
-        Ask();
+        Tell();
     }
     return merit;
 }
@@ -55,7 +65,7 @@ LayoutMerit ImproveRun::Offer(std::vector<ImprovePart> parts) {
 void ImproveRun::RaiseBound(Long bound) {
     if (bound > bound_) {
         bound_ = bound;
-        Ask();
+        Tell();
     }
 }
 

@@ -61,6 +61,7 @@ class ImproveRun {
     using Clock = std::chrono::steady_clock;
 
     void LookAtTime();
+    void Tell();
 
     const ImproveJob& job_;
     ImproveLimits limits_;
@@ -68,6 +69,8 @@ class ImproveRun {
     Clock::time_point begin_ = Clock::now();
     std::int64_t steps_ = 0;
     bool stopped_ = false;
+    bool refused_ = false; ///< stopped by the caller, who is not asked again
+    Double told_ = 0;      ///< seconds when the caller was last asked
     Long bound_ = 0;
     LayoutMerit best_;
     std::vector<ImprovePart> bestParts_;

@@ -179,7 +179,13 @@ TEST(ImproveEngine, KeepsRandomJobsWholeAndNeverMakesThemLonger) {
         SCOPED_TRACE(std::to_string(seed) + " " + reference::Describe(job));
         Searched searched = SearchedJob(job);
         const EngineArrays before = searched.Engine;
-        const ImproveResult result = Improved(searched.State, searched.Engine, 250);
+        Stopper watcher;
+        const ImproveResult result =
+            ImproveEngine(searched.State, searched.Engine, Limits(250), watcher);
+        if (!watcher.Told.empty()) {
+            EXPECT_NEAR(watcher.Told.back().Best, static_cast<double>(GetPCLen(searched.Engine)),
+                        0.005);
+        }
         EXPECT_EQ(result.StartLength, GetPCLen(before));
         EXPECT_EQ(result.Length, GetPCLen(searched.Engine));
         EXPECT_LT(static_cast<double>(result.Length) - static_cast<double>(result.StartLength),
@@ -191,6 +197,8 @@ TEST(ImproveEngine, KeepsRandomJobsWholeAndNeverMakesThemLonger) {
             continue;
         }
         ++improved;
+        const RollJob roll = RollJobOf(searched.State, searched.Engine);
+        EXPECT_TRUE(LayoutMeritOf(roll, searched.Engine).BetterThan(LayoutMeritOf(roll, before)));
         EXPECT_EQ(FaultOf(searched.Engine), "");
         EXPECT_NO_THROW(CheckFill(searched.Engine));
         ExpectFillsWhole(searched);

@@ -7,7 +7,9 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <chrono>
 #include <stdexcept>
+#include <thread>
 
 namespace tarn {
 namespace {
@@ -102,18 +104,19 @@ TEST_P(ImproverByParts, StoppedAtAnyMomentItHoldsAWholeLayout) {
     const ImproveJob job = RandomFills(random, 20, 24, GetParam(), 60);
     SCOPED_TRACE(testing::Describe(job));
     bool wasStopped = true;
-    Long before = Stacked(job).Length;
     for (int stop = 1; wasStopped; ++stop) {
         int asked = 0;
+        Long told = Stacked(job).Length;
         ImproveRun run(job, Stacked(job), Limits(Steps), [&](Long best, Long bound) {
             EXPECT_LE(bound, best);
+            EXPECT_LE(best, told);
+            told = best;
             return ++asked != stop;
         });
         Improve(run, 1);
         wasStopped = asked == stop;
         EXPECT_LE(asked, stop) << "not asked again after it was stopped";
-        EXPECT_LE(run.Best().Length, before) << "what was found earlier is kept";
-        before = run.Best().Length;
+        EXPECT_LE(run.Best().Length, told) << "what was found earlier is kept";
         if (!run.BestParts().empty()) {
             EXPECT_EQ(FaultOf(job, run.BestParts()), "");
         }
@@ -237,6 +240,28 @@ TEST(Shorten, OffersWhatIsAsShortAsTheBestInFewerParts) {
     RandomSteps steps(1);
     Shorten(run, plan, {0, {}, length}, 50, steps);
     EXPECT_FALSE(run.BestParts().empty());
+}
+
+TEST(ImproveRun, AsksAfterALongStepToo) {
+    const ImproveJob job{12, 1, 1, 1, {{4, 30, 3}}};
+    int asked = 0;
+    ImproveRun run(job, {31, 1, 0}, ImproveLimits(), [&](Long, Long) { return ++asked > 0; });
+    std::this_thread::sleep_for(std::chrono::milliseconds(25));
+    run.Spend();
+    EXPECT_EQ(run.Steps(), 1);
+    EXPECT_EQ(asked, 1);
+}
+
+TEST(ImproveRun, TellsAGainOfTheLastStep) {
+    const ImproveJob job{12, 1, 1, 1, {{4, 30, 1}}};
+    Long told = 0;
+    ImproveRun run(job, {31, 1, 0}, Limits(1), [&](Long best, Long) {
+        told = best;
+        return true;
+    });
+    EXPECT_FALSE(run.Spend());
+    run.Offer({{0, 0, 0, 30}});
+    EXPECT_EQ(told, 30);
 }
 
 TEST(PackBelow, IsNotDoneByALayoutOfTooManyParts) {
