@@ -67,7 +67,7 @@ void AddChoices(CLI::App& app, EstimateOptions& options, std::string& lay) {
            "--min-cut", options.MinCut,
            "Minimum cut: 0 = 3 FT, 1 = 1FT 6, 2 = 1/2FT. Despite their names these keep the "
            "parts of a divided fill at 3, 1.5 or 0.5 inch or more (7.62, 3.81 or 1.27 inch "
-           "with --metric)")
+           "with --metric); --improve keeps them at 36, 18 or 6 inches or more (91, 46 or 15 cm)")
         ->check(CLI::Range(0, 2))
         ->capture_default_str()
         ->type_name("N");
@@ -101,7 +101,9 @@ void AddImprovement(CLI::App& app, EstimateOptions& options) {
     auto* seconds =
         app.add_option("--improve", options.ImproveSeconds,
                        "Then look for a better layout, for so many seconds at most or until it is "
-                       "the least possible; Ctrl+C ends that earlier and keeps the best")
+                       "the least possible, with the parts of a divided fill at 36, 18 or 6 inches "
+                       "or more (91, 46 or 15 cm with --metric) by --min-cut; Ctrl+C ends that "
+                       "earlier and keeps the best")
             ->check(CLI::PositiveNumber)
             ->type_name("SECONDS");
     auto* steps = app.add_option("--improve-steps", options.ImproveSteps,
