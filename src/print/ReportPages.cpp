@@ -34,16 +34,6 @@ std::string Utf8(const Characters& characters) {
     return QString::fromStdU32String(characters.substr(0, end)).toStdString();
 }
 
-std::vector<std::string_view> LinesOf(std::string_view text) {
-    std::vector<std::string_view> lines;
-    while (!text.empty()) {
-        const std::size_t end = std::min(text.find(CrLf), text.size());
-        lines.push_back(text.substr(0, end));
-        text.remove_prefix(std::min(end + CrLf.size(), text.size()));
-    }
-    return lines;
-}
-
 bool IsMark(char32_t c) {
     const QChar::Category category = QChar::category(c);
     return category == QChar::Mark_NonSpacing || category == QChar::Mark_SpacingCombining ||
@@ -124,7 +114,7 @@ std::vector<PaperPage> ReportPages(std::string_view text, std::size_t columns, s
     pager.Add({PaperLine()});
     PaperPage heads;
     std::size_t number = 0;
-    for (const std::string_view line : LinesOf(text)) {
+    for (const std::string_view line : ReportLines(text)) {
         const PaperPage broken = Broken(line, columns);
         pager.Add(broken);
         ++number;

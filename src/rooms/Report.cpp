@@ -240,4 +240,14 @@ std::string ShortDateOfToday() {
     return ShortDate(today.year(), today.month(), today.day());
 }
 
+std::vector<std::string_view> ReportLines(std::string_view text) {
+    std::vector<std::string_view> lines;
+    while (!text.empty()) {
+        const std::size_t end = std::min(text.find(CrLf), text.size());
+        lines.push_back(text.substr(0, end));
+        text.remove_prefix(std::min(end + CrLf.size(), text.size()));
+    }
+    return lines;
+}
+
 } // namespace tarn

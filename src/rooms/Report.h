@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace tarn {
 
@@ -33,6 +34,9 @@ inline constexpr int ReportHeadingWidth = 87; ///< characters of the widest head
 /// line that is no row. A room number of more characters than its column holds is taken to end with
 /// the column.
 std::size_t RemarkColumn(std::string_view line);
+
+/// The lines of a report, without the CrLf that ends each.
+std::vector<std::string_view> ReportLines(std::string_view text);
 
 /// A date in the short form of the system's locale.
 std::string ShortDate(int year, int month, int day);

@@ -17,16 +17,6 @@ constexpr Double LineHeight = 1.2 * TypeSize;
 constexpr Double Ascent = 0.9 * TypeSize;
 constexpr Double Margin = 360;
 
-std::vector<std::string_view> LinesOf(std::string_view text) {
-    std::vector<std::string_view> lines;
-    while (!text.empty()) {
-        const std::size_t end = std::min(text.find(CrLf), text.size());
-        lines.push_back(text.substr(0, end));
-        text.remove_prefix(std::min(end + CrLf.size(), text.size()));
-    }
-    return lines;
-}
-
 Double WidthOf(std::string_view line) {
     return static_cast<Double>(Len(line)) * Advance;
 }
@@ -46,7 +36,7 @@ std::string TextElement(std::string_view line, Double top) {
 } // namespace
 
 std::string ReportSvg(std::string_view text) {
-    const std::vector<std::string_view> lines = LinesOf(text);
+    const std::vector<std::string_view> lines = ReportLines(text);
     Double width = 0;
     for (const std::string_view line : lines) {
         width = std::max(width, WidthOf(line));
