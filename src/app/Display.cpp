@@ -1,5 +1,7 @@
 #include "app/Display.h"
 
+#include "app/Twips.h"
+
 #include <QGuiApplication>
 #include <QPixmap>
 #include <QScreen>
@@ -9,12 +11,6 @@
 #include <cmath>
 
 namespace tarn {
-
-namespace {
-
-constexpr double TwipsPerInch = 1440;
-
-} // namespace
 
 QSize PhysicalSize(const QScreen& screen) {
     const double factor = screen.devicePixelRatio();

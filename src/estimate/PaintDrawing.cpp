@@ -1,6 +1,7 @@
 #include "estimate/PaintDrawing.h"
 
 #include "app/QtText.h"
+#include "print/Arial.h"
 
 #include <QFont>
 #include <QFontMetricsF>
@@ -19,11 +20,7 @@ QColor ColorOf(QBColor color) {
 }
 
 QFont FontOf(Double fontSize) {
-    QFont font(QStringLiteral("Arial"));
-    font.setPixelSize(std::max(1, static_cast<int>(std::lround(LetterHeight(fontSize)))));
-    font.setHintingPreference(QFont::PreferNoHinting);
-    font.setKerning(false);
-    return font;
+    return Arial(std::max(1, static_cast<int>(std::lround(LetterHeight(fontSize)))));
 }
 
 /// The painting of one drawing: what stays the same from step to step.

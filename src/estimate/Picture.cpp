@@ -1,6 +1,7 @@
 #include "estimate/Picture.h"
 
 #include "app/Text.h"
+#include "app/Twips.h"
 
 #include <algorithm>
 #include <array>
@@ -9,7 +10,6 @@ namespace tarn {
 
 namespace {
 
-constexpr Double TwipsPerPoint = 20;
 constexpr Double ArialLineHeight = 1.15; ///< of the type size
 constexpr Double ArialAscent = 0.905;    ///< of the type size
 

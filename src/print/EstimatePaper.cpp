@@ -3,6 +3,7 @@
 #include "app/Printer.h"
 #include "app/QtText.h"
 #include "estimate/PaintDrawing.h"
+#include "print/Arial.h"
 #include "print/Paper.h"
 
 #include <QFontMetricsF>
@@ -21,15 +22,6 @@ constexpr Double TitleTop = 400;
 constexpr Double DrawingTop = 800;
 constexpr Double CarpetLinesBelow = 600;
 constexpr int CarpetLineCount = 2;
-
-QFont ArialOfPage() {
-    QFont font(QStringLiteral("Arial"));
-    font.setStyleHint(QFont::SansSerif);
-    font.setPixelSize(static_cast<int>(LetterHeight(TypeSize)));
-    font.setBold(false);
-    font.setHintingPreference(QFont::PreferNoHinting);
-    return font;
-}
 
 /// A line with its top left at `place`, smaller letters where it does not fit into `width`.
 void PaintLine(QPainter& painter, QPointF place, double width, const std::string& text) {
@@ -105,7 +97,7 @@ void PaintEstimate(QPagedPaintDevice& device, const EstimatePage& page) {
     const EstimatePlaces places =
         sized ? PlacesOn(page.PrnWidth, page.PrnHeight) : PlacesOn(sheet.width(), sheet.height());
     painter.setTransform(FitInto(places.All, PrintableOf(device)), true);
-    painter.setFont(ArialOfPage());
+    painter.setFont(Arial(static_cast<int>(LetterHeight(TypeSize))));
     painter.setPen(Qt::black);
     PaintLine(painter, places.Title, places.All.right() - places.Title.x(), page.Title);
     if (page.Drawing != nullptr) {

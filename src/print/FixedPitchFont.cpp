@@ -1,5 +1,7 @@
 #include "print/FixedPitchFont.h"
 
+#include "rooms/ReportType.h"
+
 #include <QFontDatabase>
 #include <QFontInfo>
 #include <QFontMetricsF>

@@ -5,11 +5,6 @@
 
 namespace tarn {
 
-/// The width of every letter of "Courier New", of its size; its line height and ascent likewise.
-inline constexpr double CourierAdvance = 0.6;
-inline constexpr double CourierLineHeight = 1.1328;
-inline constexpr double CourierAscent = 0.8333;
-
 /// "Courier New" in that size (in the painter's units), not bold; where it is missing the first of
 /// its stand-ins with letters of the same width. With none of them, another fixed-pitch face in the
 /// size that gives letters of that width, so that columns stay where they are.

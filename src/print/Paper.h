@@ -1,7 +1,7 @@
 #pragma once
 
 #include "app/Printer.h"
-#include "app/Types.h"
+#include "app/Twips.h"
 
 #include <QPageLayout>
 #include <QRectF>
@@ -10,9 +10,6 @@ class QPagedPaintDevice;
 class QPainter;
 
 namespace tarn {
-
-inline constexpr Double TwipsPerInch = 1440;
-inline constexpr Double TwipsPerPoint = 20;
 
 /// A sheet in landscape and the edges that stay white on it, twips.
 struct Paper {

@@ -5,6 +5,7 @@
 #include "print/Paper.h"
 #include "print/ReportPages.h"
 #include "rooms/Report.h"
+#include "rooms/ReportType.h"
 
 #include <QFontMetricsF>
 #include <QPagedPaintDevice>
@@ -16,8 +17,6 @@
 namespace tarn {
 
 namespace {
-
-constexpr double TypeSize = 12 * TwipsPerPoint;
 
 /// Where letters stand on a page, twips.
 struct Grid {
@@ -32,7 +31,7 @@ struct Grid {
 
 Grid GridOf(const QRectF& area) {
     const double fitting = std::floor(area.width() / (ReportHeadingWidth * CourierAdvance));
-    return {area, static_cast<int>(std::clamp(fitting, 1.0, TypeSize))};
+    return {area, static_cast<int>(std::clamp(fitting, 1.0, ReportTypeSize))};
 }
 
 /// Paints the lines of pages, field by field: what two blanks part is a field, and so is the

@@ -28,7 +28,7 @@ inline constexpr std::string_view ReportTitle = "ENTERED DATA REPORT";
 /// are the heads of the columns, then the rows.
 inline constexpr std::size_t ReportHeadingLines = 9;
 inline constexpr std::size_t ReportColumnHeadLines = 3;
-inline constexpr int ReportHeadingWidth = 87; ///< characters of the widest head
+inline constexpr std::size_t ReportHeadingWidth = 87; ///< characters of the widest head
 
 /// Where the remark begins in a row of the report, counted in characters from its left; 0 for a
 /// line that is no row. A room number of more characters than its column holds is taken to end with

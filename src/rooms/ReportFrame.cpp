@@ -5,8 +5,8 @@
 #include "app/QtText.h"
 #include "app/SaveAs.h"
 #include "app/Theme.h"
+#include "app/Twips.h"
 #include "print/FixedPitchFont.h"
-#include "print/Paper.h"
 #include "rooms/Report.h"
 
 #include <QAction>

@@ -3,6 +3,7 @@
 #include "app/SvgElements.h"
 #include "app/Text.h"
 #include "rooms/Report.h"
+#include "rooms/ReportType.h"
 
 #include <algorithm>
 #include <vector>
@@ -11,10 +12,10 @@ namespace tarn {
 
 namespace {
 
-constexpr Double TypeSize = 240; ///< 12 points; all in twips
-constexpr Double Advance = 0.6 * TypeSize;
-constexpr Double LineHeight = 1.2 * TypeSize;
-constexpr Double Ascent = 0.9 * TypeSize;
+// All in twips.
+constexpr Double Advance = CourierAdvance * ReportTypeSize;
+constexpr Double LineHeight = CourierLineHeight * ReportTypeSize;
+constexpr Double Ascent = CourierAscent * ReportTypeSize;
 constexpr Double Margin = 360;
 
 Double WidthOf(std::string_view line) {
@@ -44,7 +45,7 @@ std::string ReportSvg(std::string_view text) {
     std::string svg =
         SvgHead(width + 2 * Margin, static_cast<Double>(lines.size()) * LineHeight + 2 * Margin,
                 ReportTitle);
-    svg += "<g" + SvgAttribute("font-size", SvgNumber(TypeSize)) +
+    svg += "<g" + SvgAttribute("font-size", SvgNumber(ReportTypeSize)) +
            " font-family=\"Courier New, Liberation Mono, Courier, monospace\""
            " fill=\"#000000\">\n";
     Double top = Margin;

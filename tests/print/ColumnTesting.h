@@ -2,9 +2,9 @@
 
 // Where the words of a printed report stand.
 
-#include "print/FixedPitchFont.h"
 #include "print/PdfTesting.h"
 #include "print/ReportPages.h"
+#include "rooms/ReportType.h"
 
 #include <gtest/gtest.h>
 

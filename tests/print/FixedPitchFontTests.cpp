@@ -1,4 +1,5 @@
 #include "print/FixedPitchFont.h"
+#include "rooms/ReportType.h"
 
 #include <QFontInfo>
 #include <QFontMetricsF>

@@ -209,7 +209,7 @@ TEST(LoadReport, HasTheHeadingThatItsConstantsTell) {
         }
         begin = end + 2;
     }
-    EXPECT_EQ(widest, static_cast<std::size_t>(ReportHeadingWidth));
+    EXPECT_EQ(widest, ReportHeadingWidth);
 }
 
 TEST(ShortDate, FollowsTheLocaleOfTheSystem) {
