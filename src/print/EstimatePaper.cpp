@@ -96,7 +96,11 @@ void PaintEstimate(QPagedPaintDevice& device, const EstimatePage& page) {
     const QRectF sheet = SheetOf(device);
     const EstimatePlaces places =
         sized ? PlacesOn(page.PrnWidth, page.PrnHeight) : PlacesOn(sheet.width(), sheet.height());
-    painter.setTransform(FitInto(places.All, PrintableOf(device)), true);
+    const QTransform fit = FitInto(places.All, PrintableOf(device));
+    if (fit.m11() * LetterHeight(TypeSize) < LeastLetters) {
+        throw PrinterError("The paper is too small for the estimate.");
+    }
+    painter.setTransform(fit, true);
     painter.setFont(Arial(static_cast<int>(LetterHeight(TypeSize))));
     painter.setPen(Qt::black);
     PaintLine(painter, places.Title, places.All.right() - places.Title.x(), page.Title);

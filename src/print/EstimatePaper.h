@@ -30,7 +30,7 @@ QTransform FitInto(const QRectF& all, const QRectF& printable);
 
 /// Paint an estimate's page, "Arial" 12 and the drawing as lines and text, in black (and the
 /// drawing's own colours) on the bare paper. A PrnWidth or PrnHeight of 0 stands for the device's
-/// own sheet. Raises PrinterError when the device cannot be painted on.
+/// own sheet. Raises PrinterError when the device cannot be painted on or its sheet is too small.
 void PaintEstimate(QPagedPaintDevice& device, const EstimatePage& page);
 
 } // namespace tarn

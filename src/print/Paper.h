@@ -23,6 +23,9 @@ struct Paper {
     static constexpr Double LeastMargin = 360;
 };
 
+/// Letters smaller than this, twips, are of no use to anybody.
+inline constexpr Double LeastLetters = 3 * TwipsPerPoint;
+
 /// A sheet of the shared PrnWidth by PrnHeight; A4 when either is not known (0).
 Paper PaperOf(Integer prnWidth, Integer prnHeight);
 

@@ -26,7 +26,9 @@ std::string Document(const QString& title, const Paper& paper,
     {
         QPdfWriter writer(&buffer);
         writer.setResolution(Resolution);
-        writer.setPageLayout(LayoutOf(paper));
+        if (!writer.setPageLayout(LayoutOf(paper))) {
+            throw PrinterError("No page can be made on paper of that size.");
+        }
         writer.setTitle(title);
         writer.setCreator(ToQt(ApplicationTitle));
         paint(writer);

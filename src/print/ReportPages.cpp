@@ -15,7 +15,7 @@ namespace {
 using Characters = std::u32string;
 
 /// A part of a line that is too short for words is not worth an indent.
-constexpr std::size_t LeastContinuation = 20;
+constexpr std::size_t LeastContinuation = LeastPageColumns / 2;
 
 Characters CharactersOf(std::string_view line) {
     Characters characters =
@@ -107,10 +107,8 @@ class Pager {
 } // namespace
 
 std::vector<PaperPage> ReportPages(std::string_view text, std::size_t columns, std::size_t lines) {
-    constexpr std::size_t LeastColumns = 2 * LeastContinuation;
-    constexpr std::size_t LeastLines = 6;
-    columns = std::max(columns, LeastColumns);
-    Pager pager(std::max(lines, LeastLines));
+    columns = std::max(columns, LeastPageColumns);
+    Pager pager(std::max(lines, LeastPageLines));
     pager.Add({PaperLine()});
     PaperPage heads;
     std::size_t number = 0;
@@ -121,7 +119,7 @@ std::vector<PaperPage> ReportPages(std::string_view text, std::size_t columns, s
         if (number > ReportHeadingLines - ReportColumnHeadLines && number <= ReportHeadingLines) {
             heads.insert(heads.end(), broken.begin(), broken.end());
         }
-        if (number == ReportHeadingLines && heads.size() < LeastLines) {
+        if (number == ReportHeadingLines && heads.size() < LeastPageLines) {
             pager.Repeat(heads);
         }
     }

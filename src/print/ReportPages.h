@@ -17,12 +17,16 @@ struct PaperLine {
 
 using PaperPage = std::vector<PaperLine>;
 
-/// The entered-data report (lines ended by CrLf) as pages of at most `lines` lines (at least 6) of
-/// at most `columns` characters (at least 40). Before it stands one empty line; a page after the
-/// first begins with the heads of the columns. A line that is too long goes on in the next,
-/// indented to its remark; it is broken behind a blank if there is one. No character is lost, but
-/// for blanks at the end of a line, and control characters inside one become blanks. A row with
-/// its continuation stays on one page unless it is longer than that.
+/// A page has room for that much at least.
+inline constexpr std::size_t LeastPageLines = 6;
+inline constexpr std::size_t LeastPageColumns = 40;
+
+/// The entered-data report (lines ended by CrLf) as pages of at most `lines` lines (at least
+/// LeastPageLines) of at most `columns` characters (at least LeastPageColumns). Before it stands
+/// one empty line; a page after the first begins with the heads of the columns. A line that is too
+/// long goes on in the next, indented to its remark; it is broken behind a blank if there is one.
+/// No character is lost, but for blanks at the end of a line, and control characters inside one
+/// become blanks. A row with its continuation stays on one page unless it is longer than that.
 std::vector<PaperPage> ReportPages(std::string_view text, std::size_t columns, std::size_t lines);
 
 } // namespace tarn

@@ -30,8 +30,14 @@ struct Grid {
 };
 
 Grid GridOf(const QRectF& area) {
-    const double fitting = std::floor(area.width() / (ReportHeadingWidth * CourierAdvance));
-    return {area, static_cast<int>(std::clamp(fitting, 1.0, ReportTypeSize))};
+    static_assert(ReportHeadingWidth >= LeastPageColumns);
+    const double size =
+        std::min({ReportTypeSize, area.width() / (ReportHeadingWidth * CourierAdvance),
+                  area.height() / (LeastPageLines * CourierLineHeight)});
+    if (size < LeastLetters) {
+        throw PrinterError("The paper is too small for the report.");
+    }
+    return {area, static_cast<int>(size)};
 }
 
 /// Paints the lines of pages, field by field: what two blanks part is a field, and so is the
