@@ -69,6 +69,12 @@ QString Pdf::Layout(int page) const {
     return Run(S("pdftotext"), {S("-layout"), S("-f"), number, S("-l"), number, Path(), S("-")});
 }
 
+QString Pdf::FixedPitchLayout(int page, double advance) const {
+    const QString number = QString::number(page);
+    return Run(S("pdftotext"), {S("-fixed"), QString::number(advance), S("-f"), number, S("-l"),
+                                number, Path(), S("-")});
+}
+
 QString Pdf::Text() const {
     return Run(S("pdftotext"), {S("-layout"), Path(), S("-")}).simplified();
 }

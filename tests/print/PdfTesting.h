@@ -33,6 +33,9 @@ class Pdf {
     int Images() const;
     /// The text of one page (from 1), laid out as on the page.
     QString Layout(int page) const;
+    /// The text of one page (from 1) in letters that are all that wide, points: every blank between
+    /// its first and its last column is there.
+    QString FixedPitchLayout(int page, double advance) const;
     /// The text of all pages in reading order, words parted by one blank.
     QString Text() const;
     /// The words of one page, from 1.

@@ -57,6 +57,31 @@ TEST(PaintReport, ReadsLineByLineAsTheReportDoes) {
     EXPECT_EQ(found, expected);
 }
 
+TEST(PaintReport, HasEveryBlankOfTheReportWhereReadersCountColumns) {
+    for (const bool metric : {false, true}) {
+        const std::string report = ReportOf(30, metric);
+        const QString margin(static_cast<qsizetype>(std::lround(Margin / Advance)), u' ');
+        QStringList found;
+        for (const QString& line :
+             Pdf(ReportPdf(report)).FixedPitchLayout(1, Advance).split(u'\n')) {
+            if (!line.trimmed().isEmpty()) {
+                found << line;
+            }
+        }
+        QStringList expected;
+        for (const std::string& line : LinesOf(report)) {
+            QString text = margin + QString::fromStdString(line);
+            while (text.endsWith(u' ')) {
+                text.chop(1);
+            }
+            if (!text.isEmpty()) {
+                expected << text;
+            }
+        }
+        EXPECT_EQ(found, expected);
+    }
+}
+
 TEST(PaintReport, NothingIsNearerToTheEdgeThanTheMargin) {
     SharedState state;
     PutRooms(state,
