@@ -32,8 +32,7 @@ struct PartPlan::Choice {
 };
 
 PartPlan::PartPlan(const ImproveJob& job)
-    : job_(&job)
-    , area_(TotalArea(job))
+    : SkylinePlan(job)
     , orders_(StartOrders(job)) {
     for (std::size_t i = 0; i < job.Fills.size(); ++i) {
         firstTurn_.push_back(turns_.size());
@@ -50,7 +49,7 @@ PartPlan::PartPlan(const ImproveJob& job)
 }
 
 std::size_t PartPlan::Orders() const {
-    return orders_.size() * static_cast<std::size_t>(LargestMostParts(*job_));
+    return orders_.size() * static_cast<std::size_t>(LargestMostParts(Job()));
 }
 
 void PartPlan::Begin(std::size_t order, PlacingRule rule) {
@@ -60,17 +59,15 @@ void PartPlan::Begin(std::size_t order, PlacingRule rule) {
         const std::size_t fill = fills[place];
         const auto turns = static_cast<Long>(firstTurn_[fill + 1] - firstTurn_[fill]);
         const Long parts = std::min(turns, equalParts);
-        const Long share = (job_->Fills[fill].Length + parts - 1) / parts;
-        const Long step = job_->CutStep;
-        states_[fill] = {firstTurn_[fill], job_->Fills[fill].Length};
+        const Long share = (Job().Fills[fill].Length + parts - 1) / parts;
+        const Long step = Job().CutStep;
+        states_[fill] = {firstTurn_[fill], Job().Fills[fill].Length};
         for (std::size_t turn = firstTurn_[fill]; turn < firstTurn_[fill + 1]; ++turn) {
             turns_[turn] = {fill, static_cast<Long>(place), parts > 1 ? Cut::OfLength : Cut::Rest,
                             (share + step - 1) / step * step};
         }
     }
-    rule_ = rule;
-    skips_ = LeftFree();
-    skipsBefore_ = skips_;
+    BeginWith(rule);
     changes_ = 0;
 }
 
@@ -82,67 +79,31 @@ void PartPlan::TakeFrom(const Plan& other) {
     *this = dynamic_cast<const PartPlan&>(other);
 }
 
-Area64 PartPlan::Unpacked(Long roof, Area64 limit) {
-    const Area64 slack = static_cast<Area64>(job_->Width) * roof - area_;
-    if (!LayOut(roof, slack + limit, roof)) {
-        return limit + 1;
-    }
-    return area_ - placedArea_;
-}
-
-Area64 PartPlan::Length(Area64 limit) {
-    const Area64 slack = job_->Width * limit - area_;
-    return LayOut(NoWall, slack, limit) ? end_ : limit + 1;
-}
-
-bool PartPlan::LayOut(Long roof, Area64 mostWaste, Area64 farthest) {
-    skyline_.Reset(job_->Width);
-    placed_.clear();
-    placedArea_ = 0;
-    end_ = 0;
-    open_.resize(job_->Fills.size());
+bool PartPlan::LayOut(const Limits& limits) {
+    open_.resize(Job().Fills.size());
     std::iota(open_.begin(), open_.end(), std::size_t{0});
     for (const std::size_t fill : open_) {
-        states_[fill] = {firstTurn_[fill], job_->Fills[fill].Length};
+        states_[fill] = {firstTurn_[fill], Job().Fills[fill].Length};
     }
-    Area64 waste = 0;
-    std::size_t step = 0;
-    while (!open_.empty()) {
-        const Gap gap = skyline_.Lowest();
-        if (gap.Y >= roof) {
-            break;
-        }
-        const Long room = roof - gap.Y;
-        const Walls walls(gap, room);
-        Choice choice = Choose(gap, walls, room);
-        if (choice.Fit != FitClass::None && skips_.Holds(step++)) {
-            choice = Choice();
-        }
-        if (choice.Fit == FitClass::None) {
-            const bool wholeWidth = skyline_.Count() == 1;
-            if (wholeWidth && roof == NoWall) {
-                continue; // the step was only left out: the whole width takes any fill
+    return FillGaps(
+        limits, [this] { return !open_.empty(); },
+        [this](const Gap& gap, const Walls& walls, Long room) {
+            Choice choice = Choose(gap, walls, room);
+            if (choice.Fit != FitClass::None && LeavesNextFree()) {
+                choice.Fit = FitClass::None;
             }
-            const Long height = wholeWidth ? room : walls.Short;
-            waste += static_cast<Area64>(gap.Width) * height;
-            if (waste > mostWaste) {
-                return false;
-            }
-            skyline_.Raise(gap, height);
-            continue;
-        }
-        Put(gap, walls, choice);
-        if (end_ > farthest) {
-            return false;
-        }
-    }
-    return true;
+            return choice;
+        },
+        [this](const Gap& gap, const Walls& walls, const Choice& choice) {
+            Lay(choice.Fill, choice.Length, gap, walls, choice.Fit);
+            TakeOff(choice);
+        });
 }
 
 bool PartPlan::MayCut(const State& state, Long length) const {
     const std::size_t fill = turns_[state.Turn].Fill;
-    return state.Turn + 1 < firstTurn_[fill + 1] && length >= job_->MinPart &&
-           state.Rest - length >= job_->MinPart;
+    return state.Turn + 1 < firstTurn_[fill + 1] && length >= Job().MinPart &&
+           state.Rest - length >= Job().MinPart;
 }
 
 Long PartPlan::PartLength(const State& state, const Walls& walls, Long room) const {
@@ -171,15 +132,14 @@ Long PartPlan::PartLength(const State& state, const Walls& walls, Long room) con
 }
 
 PartPlan::Choice PartPlan::Choose(const Gap& gap, const Walls& walls, Long room) const {
-    Long narrowest = job_->Width;
+    Long narrowest = Job().Width;
     for (const std::size_t fill : open_) {
-        narrowest = std::min(narrowest, job_->Fills[fill].Width);
+        narrowest = std::min(narrowest, Job().Fills[fill].Width);
     }
-    const bool leaveRoom = rule_.LeaveRoom && gap.Width < job_->Width;
-    const Long widest = leaveRoom ? gap.Width - narrowest : gap.Width;
+    const Long widest = WidestFor(gap, narrowest);
     Choice best;
     for (const std::size_t fill : open_) {
-        const Long width = job_->Fills[fill].Width;
+        const Long width = Job().Fills[fill].Width;
         if (width > gap.Width) {
             continue;
         }
@@ -190,7 +150,7 @@ PartPlan::Choice PartPlan::Choose(const Gap& gap, const Walls& walls, Long room)
         }
         const FitClass fit = ClassOf(width == gap.Width, length, walls);
         if (fit == FitClass::Fits &&
-            (width > widest || (rule_.NotAboveWall && length > walls.Tall))) {
+            (width > widest || (Rule().NotAboveWall && length > walls.Tall))) {
             continue;
         }
         const Choice choice{fill, fit, turns_[state.Turn].Place, length};
@@ -201,12 +161,7 @@ PartPlan::Choice PartPlan::Choose(const Gap& gap, const Walls& walls, Long room)
     return best;
 }
 
-void PartPlan::Put(const Gap& gap, const Walls& walls, const Choice& choice) {
-    const Long width = job_->Fills[choice.Fill].Width;
-    const Long x = skyline_.Place(gap, StandsLeft(choice.Fit, walls), width, choice.Length);
-    placed_.push_back({choice.Fill, x, gap.Y, choice.Length});
-    placedArea_ += static_cast<Area64>(width) * choice.Length;
-    end_ = std::max(end_, static_cast<Area64>(gap.Y) + choice.Length);
+void PartPlan::TakeOff(const Choice& choice) {
     State& state = states_[choice.Fill];
     state.Rest -= choice.Length;
     ++state.Turn;
@@ -216,14 +171,14 @@ void PartPlan::Put(const Gap& gap, const Walls& walls, const Choice& choice) {
 }
 
 std::size_t PartPlan::SomeTurn(RandomSteps& random) const {
-    const std::size_t fill = random.Below(job_->Fills.size());
+    const std::size_t fill = random.Below(Job().Fills.size());
     const std::size_t first = firstTurn_[fill];
     const std::size_t last = std::min(states_[fill].Turn, firstTurn_[fill + 1] - 1);
     return first + random.Below(last - first + 1);
 }
 
 Long PartPlan::SomeLength(RandomSteps& random, const ImproveFill& fill) const {
-    const auto other = [&] { return job_->Fills[random.Below(job_->Fills.size())].Length; };
+    const auto other = [&] { return Job().Fills[random.Below(Job().Fills.size())].Length; };
     Long length = 0;
     switch (random.Below(5)) {
     case 0:
@@ -242,7 +197,7 @@ Long PartPlan::SomeLength(RandomSteps& random, const ImproveFill& fill) const {
         length = static_cast<Long>(random.Below(static_cast<std::size_t>(fill.Length)));
         break;
     }
-    return std::max(job_->CutStep, WholeSteps(std::clamp(length, job_->MinPart, fill.Length)));
+    return std::max(Job().CutStep, WholeSteps(std::clamp(length, Job().MinPart, fill.Length)));
 }
 
 void PartPlan::ChangeRule(RandomSteps& random) {
@@ -256,7 +211,7 @@ void PartPlan::ChangeRule(RandomSteps& random) {
     Turn& turn = turns_[number];
     turn.Rule = static_cast<Cut>(random.Below(4));
     if (turn.Rule == Cut::OfLength) {
-        turn.Length = SomeLength(random, job_->Fills[fill]);
+        turn.Length = SomeLength(random, Job().Fills[fill]);
     }
 }
 
@@ -268,14 +223,10 @@ void PartPlan::ChangePlaces(RandomSteps& random) {
 }
 
 void PartPlan::Change(RandomSteps& random, bool skips) {
-    constexpr std::size_t OneSkipIn = 10;
-    skipsBefore_ = skips_;
+    KeepSkips();
     changes_ = 0;
-    if (skips && random.Below(OneSkipIn) == 0) {
-        skips_.Change(random, 2 * job_->Fills.size());
-        if (random.Below(2) == 0) {
-            return;
-        }
+    if (skips && ChangeSkips(random, 2 * Job().Fills.size())) {
+        return;
     }
     if (!divisible_.empty() && random.Below(3) == 0) {
         ChangeRule(random);
@@ -285,7 +236,7 @@ void PartPlan::Change(RandomSteps& random, bool skips) {
 }
 
 void PartPlan::Undo() {
-    skips_ = skipsBefore_;
+    UndoSkips();
     for (std::size_t i = changes_; i > 0; --i) {
         turns_[changed_.at(i - 1)] = before_.at(i - 1);
     }

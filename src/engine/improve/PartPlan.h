@@ -1,9 +1,6 @@
 #pragma once
 
-#include "engine/improve/FitClass.h"
-#include "engine/improve/LeftFree.h"
-#include "engine/improve/Plan.h"
-#include "engine/improve/Skyline.h"
+#include "engine/improve/SkylinePlan.h"
 
 #include <array>
 
@@ -12,18 +9,15 @@ namespace tarn {
 /// A plan that divides fills. Every part that a fill may have holds a place in the order and a rule
 /// that says how long the part is; a fill's next part is laid when its turn comes, until the fill
 /// is used up. A division that leaves less than the minimum part on either side does not happen.
-class PartPlan : public Plan {
+class PartPlan : public SkylinePlan {
   public:
     /// `job` has at least one fill and must outlive the plan.
     explicit PartPlan(const ImproveJob& job);
 
     std::size_t Orders() const override;
     void Begin(std::size_t order, PlacingRule rule) override;
-    Area64 Unpacked(Long roof, Area64 limit) override;
-    Area64 Length(Area64 limit) override;
     void Change(RandomSteps& random, bool skips) override;
     void Undo() override;
-    std::vector<ImprovePart> Layout() const override { return placed_; }
     std::unique_ptr<Plan> Copy() const override;
     void TakeFrom(const Plan& other) override;
 
@@ -50,12 +44,13 @@ class PartPlan : public Plan {
     /// A part that may be laid in a gap.
     struct Choice;
 
-    bool LayOut(Long roof, Area64 mostWaste, Area64 farthest);
+    bool LayOut(const Limits& limits) override;
     Choice Choose(const Gap& gap, const Walls& walls, Long room) const;
     Long PartLength(const State& state, const Walls& walls, Long room) const;
     bool MayCut(const State& state, Long length) const;
-    Long WholeSteps(Long length) const { return length - length % job_->CutStep; }
-    void Put(const Gap& gap, const Walls& walls, const Choice& choice);
+    Long WholeSteps(Long length) const { return length - length % Job().CutStep; }
+    /// What was laid is taken off its fill.
+    void TakeOff(const Choice& choice);
 
     void ChangeRule(RandomSteps& random);
     void ChangePlaces(RandomSteps& random);
@@ -63,26 +58,17 @@ class PartPlan : public Plan {
     /// A turn that mattered in the last layout, or the one after it.
     std::size_t SomeTurn(RandomSteps& random) const;
 
-    const ImproveJob* job_;
-    Area64 area_;
     std::vector<std::vector<std::size_t>> orders_;
     std::vector<std::size_t> firstTurn_; ///< by fill; one more at the end
     std::vector<std::size_t> divisible_; ///< fills that may be divided
     std::vector<Turn> turns_;
-    PlacingRule rule_;
-    LeftFree skips_;
 
-    LeftFree skipsBefore_;
     std::array<std::size_t, 2> changed_{}; ///< turns as they were before the change
     std::array<Turn, 2> before_{};
     std::size_t changes_ = 0;
 
-    Skyline skyline_;
     std::vector<State> states_;
     std::vector<std::size_t> open_; ///< fills that are not used up
-    std::vector<ImprovePart> placed_;
-    Area64 placedArea_ = 0;
-    Area64 end_ = 0;
 };
 
 } // namespace tarn
