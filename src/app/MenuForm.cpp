@@ -12,7 +12,6 @@
 #include <QLabel>
 #include <QMenuBar>
 #include <QPushButton>
-#include <QTimer>
 #include <QVBoxLayout>
 
 namespace tarn {
@@ -39,9 +38,7 @@ MenuForm::MenuForm(Session& session, MenuEntry entry)
     ShowUnits();
     if (!load.Message.empty()) {
         // When this screen is in front: the box is about it.
-        QTimer::singleShot(0, this, [this, message = load.Message] {
-            Guard({}, [&] { Shared().Boxes.Message(message); });
-        });
+        Later([this, message = load.Message] { Shared().Boxes.Message(message); });
     }
 }
 

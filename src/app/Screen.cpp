@@ -6,6 +6,7 @@
 #include <QKeyEvent>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QTimer>
 #include <QVBoxLayout>
 
 namespace tarn {
@@ -83,6 +84,10 @@ bool Screen::Guard(const std::string& failure, const std::function<void()>& body
 void Screen::OnClick(QAbstractButton& button, std::string failure, std::function<void()> body) {
     connect(&button, &QAbstractButton::clicked, this,
             [this, failure = std::move(failure), body = std::move(body)] { Guard(failure, body); });
+}
+
+void Screen::Later(std::function<void()> body) {
+    QTimer::singleShot(0, this, [this, body = std::move(body)] { Guard({}, body); });
 }
 
 void Screen::keyPressEvent(QKeyEvent* event) {

@@ -51,6 +51,9 @@ class Screen : public QWidget {
     bool Guard(const std::string& failure, const std::function<void()>& body) const noexcept;
     /// Run `body` under the guard whenever the button is clicked.
     void OnClick(QAbstractButton& button, std::string failure, std::function<void()> body);
+    /// Run `body` under the guard once the events that wait now have been handled; not at all when
+    /// the screen is gone by then.
+    void Later(std::function<void()> body);
 
     void keyPressEvent(QKeyEvent* event) override;
     void showEvent(QShowEvent* event) override;

@@ -11,9 +11,12 @@
 
 #include <CLI/CLI.hpp>
 
+#include <exception>
 #include <iostream>
 
-int main(int argc, char* argv[]) {
+namespace {
+
+int Run(int argc, char* argv[]) {
     CLI::App options{"Estimate how carpets are cut from the roll."};
     std::string configDirectory;
     options.set_version_flag("--version", std::string("tarn ") + std::string(tarn::Version));
@@ -52,4 +55,15 @@ int main(int argc, char* argv[]) {
         return 1;
     }
     return QApplication::exec();
+}
+
+} // namespace
+
+int main(int argc, char* argv[]) {
+    try {
+        return Run(argc, argv);
+    } catch (const std::exception& error) {
+        std::cerr << "tarn: " << error.what() << '\n';
+        return 1;
+    }
 }

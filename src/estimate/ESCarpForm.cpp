@@ -16,7 +16,6 @@
 #include <QMenu>
 #include <QPushButton>
 #include <QStyle>
-#include <QTimer>
 #include <QVBoxLayout>
 
 #include <utility>
@@ -58,7 +57,7 @@ ESCarpForm::ESCarpForm(Session& session, bool fromMenu)
     panel_->setVisible(carpets.Lowest.has_value());
     if (!carpets.Lowest) {
         // When this screen is in front: the box is about it.
-        QTimer::singleShot(0, this, [this] { Guard({}, [this] { TellNoData(); }); });
+        Later([this] { TellNoData(); });
     }
 }
 

@@ -13,7 +13,6 @@
 
 #include <QAction>
 #include <QMenu>
-#include <QTimer>
 
 #include <utility>
 
@@ -58,7 +57,7 @@ void ESCarpForm::PrintPic() {
         return;
     }
     printed_ = true;
-    QTimer::singleShot(0, this, [this] { printed_ = false; });
+    Later([this] { printed_ = false; });
 }
 
 void ESCarpForm::SendToPrinter() {

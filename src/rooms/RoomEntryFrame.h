@@ -48,6 +48,7 @@ class RoomEntryFrame : public QGroupBox {
     /// A long project name asks for no room of its own: the caption is shortened where it does not
     /// fit, and then shown whole as the caption's tool tip.
     QSize sizeHint() const override { return QWidget::sizeHint(); }
+    // NOLINTNEXTLINE(bugprone-parent-virtual-call): a group box asks for room for its caption
     QSize minimumSizeHint() const override { return QWidget::minimumSizeHint(); }
 
   protected:

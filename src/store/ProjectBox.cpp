@@ -73,11 +73,9 @@ void ProjectBox::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void ProjectBox::keyPressEvent(QKeyEvent* event) {
-    if (IsLocked()) {
-        QLineEdit::keyPressEvent(event);
-    } else if (event->matches(QKeySequence::Paste)) {
+    if (!IsLocked() && event->matches(QKeySequence::Paste)) {
         PasteClipboard();
-    } else if (IsCharacter(*event)) {
+    } else if (!IsLocked() && IsCharacter(*event)) {
         Enter(TypedNameText(FromQt(event->text())));
     } else {
         QLineEdit::keyPressEvent(event);

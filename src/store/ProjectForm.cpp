@@ -118,8 +118,10 @@ void ProjectForm::OpenSelection() {
     const auto directories = ListDirectories(State());
     const auto projects = ListProjects(State(), CurrentMonth());
 
+    constexpr int MonthsOfAYear = 12;
     std::vector<std::string> months;
-    for (int i = 0; i < 12; ++i) {
+    months.reserve(MonthsOfAYear);
+    for (int i = 0; i < MonthsOfAYear; ++i) {
         months.push_back(State().MonthStr[i]);
     }
     frame5_->List1[Months]->SetEntries(months);

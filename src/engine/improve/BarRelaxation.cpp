@@ -41,6 +41,7 @@ std::vector<Row> RowsOf(const ImproveJob& job) {
         row.Length += fill.Length;
     }
     std::vector<Row> list;
+    list.reserve(rows.size());
     for (const auto& [key, row] : rows) {
         list.push_back(row);
     }

@@ -191,7 +191,8 @@ Long PartPlan::SomeLength(RandomSteps& random, const ImproveFill& fill) const {
         length = fill.Length - other();
         break;
     case 3:
-        length = other() - other();
+        length = other(); // in this order with every compiler
+        length -= other();
         break;
     default:
         length = static_cast<Long>(random.Below(static_cast<std::size_t>(fill.Length)));
