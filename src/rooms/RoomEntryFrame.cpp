@@ -139,13 +139,13 @@ QGroupBox* RoomEntryFrame::NewItemGroup() {
     SetSpacing(*grid, Metrics::Spacing);
     const struct {
         QWidget* Control;
-        int Label;
         std::string_view Caption;
+        int Label;
         char Mnemonic;
-    } rows[] = {{covering_, 6, "CARPET TYPE", 'T'},
-                {&Text(Base), 7, "BASE", 'A'},
-                {&Text(RoomNo), 8, "ROOM No.", 'O'},
-                {&Text(Remark), 9, "REMARK", 'K'}};
+    } rows[] = {{covering_, "CARPET TYPE", 6, 'T'},
+                {&Text(Base), "BASE", 7, 'A'},
+                {&Text(RoomNo), "ROOM No.", 8, 'O'},
+                {&Text(Remark), "REMARK", 9, 'K'}};
     int row = 0;
     for (const auto& each : rows) {
         QLabel* label = NewLabelFor(*each.Control, this, IndexedName("Label1", each.Label),

@@ -27,7 +27,9 @@ class InterruptStops {
         : before_(std::signal(SIGINT, NoteInterrupt)) {
         interrupted = 0;
     }
-    ~InterruptStops() { std::signal(SIGINT, before_ == SIG_ERR ? SIG_DFL : before_); }
+    ~InterruptStops() {
+        static_cast<void>(std::signal(SIGINT, before_ == SIG_ERR ? SIG_DFL : before_));
+    }
     InterruptStops(const InterruptStops&) = delete;
     InterruptStops& operator=(const InterruptStops&) = delete;
 
