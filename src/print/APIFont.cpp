@@ -1,36 +1,17 @@
 #include "print/APIFont.h"
 
 #include "app/Numbers.h"
-#include "app/Text.h"
 
 namespace tarn {
 
 namespace {
 
 constexpr Integer True = -1;
-constexpr long long FaceNameLength = 50;
-
-/// The first `count` characters of a UTF-8 text.
-std::string_view FirstCharacters(std::string_view utf8, long long count) {
-    std::size_t end = 0;
-    for (; end < utf8.size(); ++end) {
-        const bool begins = (static_cast<unsigned char>(utf8[end]) & 0xC0U) != 0x80U;
-        if (begins && count-- == 0) {
-            break;
-        }
-    }
-    return utf8.substr(0, end);
-}
 
 } // namespace
 
-APIFont::APIFont() {
-    FaceName(std::string_view("Verdana\0", 8));
-}
-
 void APIFont::FaceName(std::string_view value) {
-    record_.FaceName = FirstCharacters(value, FaceNameLength);
-    record_.FaceName += Space(FaceNameLength - Len(record_.FaceName));
+    record_.FaceName = FaceField(value);
 }
 
 void APIFont::CharPlace(TextSurface& o, std::string_view txt, Double x, Double y) {
@@ -71,7 +52,7 @@ void APIFont::SelectOrg(TextSurface& o) {
 }
 
 void APIFont::SelectFont(TextSurface& o) {
-    font_ = o.hdc().CreateFont(record_);
+    font_ = o.hdc().CreateFont(EncodeFont(record_));
     FontHandle before = o.hdc().SelectObject(font_);
     if (!original_) {
         original_ = std::move(before);

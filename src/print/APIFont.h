@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/Types.h"
+#include "print/LogicalFont.h"
 #include "print/TextSurface.h"
 
 #include <string>
@@ -11,11 +12,10 @@ namespace tarn {
 /// Writes text on any surface: turned, aligned, coloured and clipped. Set the properties, call
 /// SelectFont on a surface, write with FontOut or CharPlace, then call SelectOrg on the same
 /// surface. Properties take effect at the next SelectFont. Positions are in the surface's units.
-/// Nothing fails but a position that is no Long ("Overflow").
+/// Nothing fails but a position that is no Long ("Overflow"): what cannot be drawn is not drawn,
+/// and for a face that is not there the system takes another.
 class APIFont {
   public:
-    APIFont();
-
     Long Height() const { return record_.Height; }
     void Height(Long value) { record_.Height = value; }
     Long Width() const { return record_.Width; }
@@ -32,7 +32,7 @@ class APIFont {
     void StrikeOut(Byte value) { record_.StrikeOut = value; }
     /// All 50 characters of the field, UTF-8: "Verdana", a NUL and blanks at first.
     std::string FaceName() const { return record_.FaceName; }
-    /// Puts the name at the field's left; blanks fill it up, characters past the 50th are cut off.
+    /// Puts the name into the field (FaceField).
     void FaceName(std::string_view value);
 
     /// Clip the surface to the rectangle at (x, y) that is twice as wide and high as `txt` in the
@@ -47,8 +47,9 @@ class APIFont {
     /// Give the surface back the font that it had, and free this object's own. Without a selected
     /// font nothing happens.
     void SelectOrg(TextSurface& o);
-    /// Make a font from the properties and select it into the surface. A second call keeps the font
-    /// that was saved first.
+    /// Make a font from the properties, laid out as a LogicalFont, and select it into the surface.
+    /// A face is found by its name in ANSI; the texts that it writes are Unicode. A second call
+    /// keeps the font that was saved first.
     void SelectFont(TextSurface& o);
     /// Write `text` at (XX, YY).
     void FontOut(std::string_view text, TextSurface& o, Double XX, Double YY);

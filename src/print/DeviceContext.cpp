@@ -16,16 +16,10 @@ constexpr int MeasuredSize = 1000; ///< large enough for no rounding to matter
 constexpr int HorizontalMask = 6;
 constexpr int VerticalMask = 24;
 
-QString FamilyOf(const std::string& faceName) {
-    std::string family = faceName.substr(0, faceName.find('\0'));
-    family.resize(family.find_last_not_of(' ') + 1);
-    return ToQt(family);
-}
-
 QFont FontOf(const FontRecord& record) {
     constexpr Long Regular = 400;
     constexpr Long Heaviest = 1000;
-    QFont font(FamilyOf(record.FaceName));
+    QFont font(ToQt(FaceIn(record.FaceName)));
     font.setPixelSize(MeasuredSize);
     font.setWeight(static_cast<QFont::Weight>(
         record.Weight == 0 ? Regular : std::clamp(record.Weight, Long{1}, Heaviest)));
@@ -92,8 +86,8 @@ double DeviceContext::OwnAdvance(std::string_view text) const {
     return ownFont_->Advance(ToQt(text), *painter_.device());
 }
 
-FontHandle DeviceContext::CreateFont(const FontRecord& record) const {
-    return std::make_shared<DeviceFont>(record, *ownFont_, *painter_.device());
+FontHandle DeviceContext::CreateFont(const LogicalFont& description) const {
+    return std::make_shared<DeviceFont>(DecodeFont(description), *ownFont_, *painter_.device());
 }
 
 FontHandle DeviceContext::SelectObject(FontHandle font) {

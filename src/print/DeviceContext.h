@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/Types.h"
+#include "print/LogicalFont.h"
 
 #include <QFont>
 #include <QRectF>
@@ -13,24 +14,6 @@ class QPaintDevice;
 class QPainter;
 
 namespace tarn {
-
-/// The description of a font, in the units of the surface that it is selected into.
-struct FontRecord {
-    Long Height = 10;     ///< above 0 the cell's, below 0 the letters'; 0 the surface's own font's
-    Long Width = 6;       ///< of the average letter; 0 as the face has it
-    Long Escapement = 0;  ///< tenths of a degree, counter-clockwise
-    Long Orientation = 0; ///< of no effect: letters turn with their line
-    Long Weight = 600;    ///< 400 regular, 700 bold; 0 is regular
-    Byte Italic = 0;
-    Byte UnderLine = 0;
-    Byte StrikeOut = 0;
-    Byte CharacterSet = 0; ///< this and what follows is of no effect
-    Byte OutputPrecision = 0;
-    Byte ClipPrecision = 0;
-    Byte Quality = 0;
-    Byte PitchAndFamily = 0;
-    std::string FaceName; ///< 50 characters; the face's name ends at the first NUL or at the blanks
-};
 
 /// A font that can be drawn with: a face, how far its letters are stretched, and the direction of
 /// the line.
@@ -80,8 +63,9 @@ class DeviceContext {
     const DeviceFont& OwnFont() const { return *ownFont_; }
     /// The width of a text in the surface's own font.
     double OwnAdvance(std::string_view text) const;
-    /// A font of that record for this surface.
-    FontHandle CreateFont(const FontRecord& record) const;
+    /// The font of a description for this surface. For a face that is not there the system takes
+    /// another.
+    FontHandle CreateFont(const LogicalFont& description) const;
     /// Draw with `font` from now on; what was drawn with before. Nothing changes without a font.
     FontHandle SelectObject(FontHandle font);
     int TextAlign() const { return align_; }

@@ -2,11 +2,14 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 namespace tarn {
 namespace {
 
 using testing::Canvas;
 using testing::False;
+using testing::InkOf;
 using testing::InkWith;
 using testing::Sans;
 using testing::True;
@@ -25,6 +28,34 @@ long long Blackness(APIFont font) {
     return sum;
 }
 
+constexpr const char* FaceSample = "Rag";
+constexpr int FaceSize = 40; ///< of the letters
+
+APIFont FaceOf(std::string_view name) {
+    APIFont font = Sans(-FaceSize);
+    font.FaceName(name);
+    return font;
+}
+
+QImage PaintedWith(APIFont font) {
+    Canvas canvas;
+    font.SelectFont(canvas.Surface());
+    font.SetAlign(canvas.Surface(), False, True, False, False, False, False);
+    font.FontOut(FaceSample, canvas.Surface(), 50, 100);
+    return canvas.Image().copy();
+}
+
+/// The same, as the toolkit writes in that family.
+QImage PaintedBy(const QString& family) {
+    Canvas canvas;
+    QFont font(family);
+    font.setPixelSize(FaceSize);
+    font.setHintingPreference(QFont::PreferNoHinting);
+    canvas.Painter().setFont(font);
+    canvas.Painter().drawText(QPointF(50, 100), QString::fromUtf8(FaceSample));
+    return canvas.Image().copy();
+}
+
 // --- properties ---
 
 TEST(APIFont, BeginsWithItsDefaults) {
@@ -37,11 +68,6 @@ TEST(APIFont, BeginsWithItsDefaults) {
     EXPECT_EQ(font.UnderLine(), 0);
     EXPECT_EQ(font.StrikeOut(), 0);
     EXPECT_EQ(font.FaceName(), "Verdana" + std::string(1, '\0') + std::string(42, ' '));
-    const FontRecord record;
-    EXPECT_EQ(record.Orientation, 0);
-    EXPECT_EQ(record.CharacterSet + record.OutputPrecision + record.ClipPrecision + record.Quality +
-                  record.PitchAndFamily,
-              0);
 }
 
 TEST(APIFont, EveryPropertyKeepsWhatItIsSetTo) {
@@ -74,16 +100,41 @@ TEST(APIFont, AFaceNameFillsItsFieldOfFiftyCharacters) {
     EXPECT_EQ(font.FaceName(), "é" + std::string(49, 'x'));
     font.FaceName(font.FaceName());
     EXPECT_EQ(font.FaceName(), "é" + std::string(49, 'x'));
+    font.FaceName("Шрифт"); // kept as it was set, though a font is made of its ANSI form
+    EXPECT_EQ(font.FaceName(), "Шрифт" + std::string(45, ' '));
 }
 
-TEST(APIFont, TheFaceEndsAtTheFirstNulOrTheBlanks) {
-    APIFont plain = Sans(48);
-    APIFont withNul = Sans(48);
-    withNul.FaceName(std::string_view("Liberation Sans\0Mono", 20));
-    APIFont other = Sans(48);
-    other.FaceName("Liberation Mono");
-    EXPECT_EQ(InkWith(withNul), InkWith(plain));
-    EXPECT_NE(InkWith(other), InkWith(plain));
+TEST(APIFont, TheFaceEndsAtTheFirstNulAndItsBlanks) {
+    using namespace std::string_view_literals;
+    const QImage mono = PaintedBy(QStringLiteral("Liberation Mono"));
+    ASSERT_NE(mono, PaintedBy(QStringLiteral("Liberation Sans")));
+    ASSERT_NE(mono, PaintedWith(FaceOf("No Such Face"))); // nor is it what such a face gives
+    for (const auto name :
+         {"Liberation Mono"sv, "Liberation Mono       "sv, "Liberation Mono\0garbage"sv,
+          "Liberation Mono  \0 Sans"sv, "Liberation Mono\0"sv}) {
+        EXPECT_EQ(PaintedWith(FaceOf(name)), mono) << name;
+    }
+}
+
+TEST(APIFont, AFaceThatIsNotThereIsReplacedByAnother) {
+    const QImage substitute = PaintedWith(FaceOf("No Such Face"));
+    EXPECT_FALSE(InkOf(substitute).isEmpty());
+    EXPECT_EQ(substitute, PaintedBy(QStringLiteral("No Such Face")));
+}
+
+TEST(APIFont, AFontIsMadeOfTheBytesOfItsDescription) {
+    LogicalFont description{};
+    description.fill(' ');
+    std::fill_n(description.begin(), 28, std::uint8_t{0});
+    std::fill_n(description.begin(), 4, std::uint8_t{0xFF});
+    description[0] = 0xD8; // -40: the letters' height
+    constexpr std::string_view Face = "Liberation Mono";
+    std::copy(Face.begin(), Face.end(), description.begin() + 28);
+    Canvas canvas;
+    canvas.Surface().hdc().SelectObject(canvas.Surface().hdc().CreateFont(description));
+    canvas.Surface().hdc().SetTextAlign(TA_BASELINE);
+    canvas.Surface().hdc().TextOut(50, 100, FaceSample);
+    EXPECT_EQ(canvas.Image(), PaintedBy(QStringLiteral("Liberation Mono")));
 }
 
 TEST(APIFont, PropertiesTakeEffectAtTheNextSelectFont) {
