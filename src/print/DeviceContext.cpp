@@ -12,14 +12,16 @@ namespace tarn {
 
 namespace {
 
-constexpr int MeasuredSize = 1000; ///< large enough for no rounding to matter
+constexpr int MeasuredSize = 1000;    ///< large enough for no rounding to matter
+constexpr double LargestSize = 32767; ///< in either direction: beyond, outlines get lost
 constexpr int HorizontalMask = 6;
 constexpr int VerticalMask = 24;
 
 QFont FontOf(const FontRecord& record) {
     constexpr Long Regular = 400;
     constexpr Long Heaviest = 1000;
-    QFont font(ToQt(FaceIn(record.FaceName)));
+    QFont font;
+    font.setFamilies({ToQt(FaceIn(record.FaceName))}); // one name, commas and all
     font.setPixelSize(MeasuredSize);
     font.setWeight(static_cast<QFont::Weight>(
         record.Weight == 0 ? Regular : std::clamp(record.Weight, Long{1}, Heaviest)));
@@ -56,12 +58,16 @@ DeviceFont::DeviceFont(const FontRecord& record, const DeviceFont& own, const QP
         const double height = record.Height > 0 ? size : own.ascent_ + own.descent_;
         size = height * MeasuredSize / cell;
     }
+    const double width = std::abs(static_cast<double>(record.Width));
+    drawable_ = size <= LargestSize && width <= LargestSize;
+    if (!drawable_) {
+        return;
+    }
     // The nearest whole size, stretched by what is left.
-    const int whole = std::max(1, static_cast<int>(std::lround(std::min(size, 1e6))));
+    const int whole = std::max(1, static_cast<int>(std::lround(size)));
     font_.setPixelSize(whole);
     scaleY_ = size / whole;
     const double average = measured.averageCharWidth() * size / MeasuredSize;
-    const double width = std::abs(static_cast<double>(record.Width));
     scaleX_ = width > 0 && average > 0 ? scaleY_ * width / average : scaleY_;
     ascent_ = measured.ascent() * size / MeasuredSize;
     descent_ = measured.descent() * size / MeasuredSize;
@@ -72,6 +78,9 @@ double DeviceFont::Advance(const QString& text, const QPaintDevice& device) cons
 }
 
 void DeviceFont::Draw(QPainter& painter, const QString& text) const {
+    if (!drawable_) {
+        return;
+    }
     painter.setFont(font_);
     painter.scale(scaleX_, scaleY_);
     painter.drawText(QPointF(), text);

@@ -21,7 +21,8 @@ class DeviceFont {
   public:
     /// A surface's own font.
     DeviceFont(const QFont& font, const QPaintDevice& device);
-    /// The font of a record for `device`. `own` is the own font of the surface there.
+    /// The font of a record for `device`. `own` is the own font of the surface there. Letters of
+    /// more than 32767 units, in height or as the width asked for, are not drawn.
     DeviceFont(const FontRecord& record, const DeviceFont& own, const QPaintDevice& device);
 
     /// The width of a text on `device`, which may be another one than the font was made for: a font
@@ -36,6 +37,7 @@ class DeviceFont {
 
   private:
     QFont font_;
+    bool drawable_ = true;
     double scaleX_ = 1;
     double scaleY_ = 1;
     double ascent_ = 0;

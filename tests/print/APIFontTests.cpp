@@ -120,6 +120,7 @@ TEST(APIFont, AFaceThatIsNotThereIsReplacedByAnother) {
     const QImage substitute = PaintedWith(FaceOf("No Such Face"));
     EXPECT_FALSE(InkOf(substitute).isEmpty());
     EXPECT_EQ(substitute, PaintedBy(QStringLiteral("No Such Face")));
+    EXPECT_EQ(substitute, PaintedWith(FaceOf("No Such Face,Liberation Mono"))); // no list of faces
 }
 
 TEST(APIFont, AFontIsMadeOfTheBytesOfItsDescription) {
