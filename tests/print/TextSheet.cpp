@@ -1,104 +1,167 @@
 #include "print/TextSheet.h"
 
-#include <QPainter>
-
 #include <array>
 
 namespace tarn::testing {
 
 namespace {
 
-constexpr int CellSize = 200;
 constexpr Integer True = -1;
 constexpr Integer False = 0;
+constexpr int Columns = 9;
+constexpr int OwnSize = 14; ///< of the letters of the surface's own font, pixels
+constexpr QPoint SecondText{14, 12};
 
-/// Of Liberation Sans, which has the letters of Arial, of its size.
-constexpr double Ascent = 0.905;
-constexpr double Descent = 0.212;
-constexpr double WordAdvance = 0.722 + 0.500 + 0.556;
+constexpr std::array<const char*, 3> Verticals{"top", "baseline", "bottom"};
+constexpr std::array<const char*, 3> Horizontals{"left", "center", "right"};
+
+constexpr SheetColor Black{0, qRgb(0, 0, 0)};
+constexpr SheetColor Red{255, qRgb(255, 0, 0)};
+constexpr std::array<SheetColor, Columns> Colors{{
+    Red,
+    {65280, qRgb(0, 255, 0)},
+    {16711680, qRgb(0, 0, 255)},
+    {33023, qRgb(255, 128, 0)},
+    {8388736, qRgb(128, 0, 128)},
+    {8421376, qRgb(0, 128, 128)},
+    {8421504, qRgb(128, 128, 128)},
+    {13107200, qRgb(0, 0, 200)},
+    {1973790, qRgb(30, 30, 30)},
+}};
+
+SheetCell CellAt(const SheetRow& row, int number, int column) {
+    SheetCell cell;
+    cell.BaseLine = column / 3 == 1;
+    cell.Bottom = column / 3 == 2;
+    cell.Center = column % 3 == 1;
+    cell.Right = column % 3 == 2;
+    cell.Row = row;
+    cell.Area = {column * SheetCellSize, number * SheetCellSize, SheetCellSize, SheetCellSize};
+    const QPoint middle = cell.Area.topLeft() + QPoint(SheetCellSize / 2, SheetCellSize / 2);
+    cell.Texts.push_back(
+        {middle, row.Colored ? Colors.at(static_cast<std::size_t>(column)) : Black});
+    if (row.Twice) {
+        cell.Texts.push_back({middle + SecondText, Red});
+    }
+    return cell;
+}
+
+void PaintMarks(QPainter& painter, const SheetCell& cell) {
+    const QColor line(215, 215, 215);
+    const QColor mark(120, 160, 220);
+    const auto outline = [&painter](const QRect& around, const QColor& color) {
+        painter.fillRect(QRect(around.left(), around.top(), around.width(), 1), color);
+        painter.fillRect(QRect(around.left(), around.bottom(), around.width(), 1), color);
+        painter.fillRect(QRect(around.left(), around.top(), 1, around.height()), color);
+        painter.fillRect(QRect(around.right(), around.top(), 1, around.height()), color);
+    };
+    outline(cell.Area, line);
+    if (cell.Row.Clipped) {
+        outline(ClipOf(cell).adjusted(-1, -1, 1, 1), mark);
+    }
+    for (const SheetText& text : cell.Texts) {
+        painter.fillRect(QRect(text.Position - QPoint(8, 0), QSize(17, 1)), mark);
+        painter.fillRect(QRect(text.Position - QPoint(0, 8), QSize(1, 17)), mark);
+    }
+}
+
+void PaintTexts(QPainter& painter, const SheetCell& cell, bool clipped) {
+    painter.save(); // the clip stays in force on the surface
+    PainterSurface surface(painter);
+    const auto truth = [](bool value) { return value ? True : False; };
+    APIFont font;
+    font.FaceName("Liberation Sans");
+    font.Height(SheetTextHeight);
+    font.Width(0);
+    font.Weight(400);
+    font.Escapement(cell.Row.Escapement);
+    font.SelectFont(surface);
+    font.SetAlign(surface, False, truth(cell.BaseLine), truth(cell.Bottom), False,
+                  truth(cell.Center), truth(cell.Right));
+    for (const SheetText& text : cell.Texts) {
+        font.setcolor(surface, text.Color.Value);
+        if (clipped && &text == &cell.Texts.front()) {
+            font.CharPlace(surface, SheetWord, text.Position.x(), text.Position.y());
+        } else {
+            font.FontOut(SheetWord, surface, text.Position.x(), text.Position.y());
+        }
+    }
+    font.SelectOrg(surface);
+    painter.restore();
+}
 
 } // namespace
 
-std::vector<SheetText> SheetTexts() {
-    constexpr std::array<Long, 9> Escapements{0, 300, 900, 1350, 1800, 2250, 2700, -450, 3600};
-    std::vector<SheetText> texts;
-    int row = 0;
-    for (const Long escapement : Escapements) {
-        int column = 0;
-        for (int vertical = 0; vertical < 3; ++vertical) {
-            for (int horizontal = 0; horizontal < 3; ++horizontal) {
-                SheetText text;
-                text.BaseLine = vertical == 1;
-                text.Bottom = vertical == 2;
-                text.Center = horizontal == 1;
-                text.Right = horizontal == 2;
-                text.Escapement = escapement;
-                text.Cell = {column * CellSize, row * CellSize, CellSize, CellSize};
-                text.Anchor = text.Cell.center();
-                texts.push_back(text);
-                ++column;
-            }
+std::vector<SheetRow> SheetRows() {
+    std::vector<SheetRow> rows;
+    for (const Long escapement : {0, 300, 900, 1350, 1800, 2250, 2700, -450, 3600}) {
+        rows.push_back({"FontOut", escapement});
+    }
+    for (const Long escapement : {0, 300}) {
+        rows.push_back({"setcolor", escapement, true});
+    }
+    for (const Long escapement : {0, 300, -450, 1800}) {
+        rows.push_back({"CharPlace", escapement, false, true});
+    }
+    for (const Long escapement : {0, -450}) {
+        rows.push_back({"CharPlace, FontOut", escapement, false, true, true});
+    }
+    return rows;
+}
+
+std::vector<std::string> SheetColumns() {
+    std::vector<std::string> columns;
+    for (const char* vertical : Verticals) {
+        for (const char* horizontal : Horizontals) {
+            columns.push_back(std::string(vertical) + " " + horizontal);
         }
-        ++row;
     }
-    return texts;
+    return columns;
 }
 
-QImage PaintTextSheet() {
-    const auto texts = SheetTexts();
-    QRect all;
-    for (const SheetText& text : texts) {
-        all |= text.Cell;
+std::vector<SheetCell> SheetCells() {
+    std::vector<SheetCell> cells;
+    int number = 0;
+    for (const SheetRow& row : SheetRows()) {
+        for (int column = 0; column < Columns; ++column) {
+            cells.push_back(CellAt(row, number, column));
+        }
+        ++number;
     }
-    QImage image(all.size(), QImage::Format_RGB32);
-    image.fill(Qt::white);
-    QPainter painter(&image);
+    return cells;
+}
+
+QSize SheetSize() {
+    return QSize(Columns, static_cast<int>(SheetRows().size())) * SheetCellSize;
+}
+
+std::string NameOf(const SheetCell& cell) {
+    const auto column = static_cast<std::size_t>(cell.Area.left() / SheetCellSize);
+    return cell.Row.Label + " " + SheetColumns().at(column) + ", escapement " +
+           std::to_string(cell.Row.Escapement);
+}
+
+QRect ClipOf(const SheetCell& cell) {
+    // Of 14 pixels "Hxg" is 24.9 wide and 15.6 high in Liberation Sans; twice that is left.
+    return {cell.Texts.front().Position, QSize(50, 31)};
+}
+
+void PaintTextSheet(QPainter& painter, SheetInk ink) {
     painter.setRenderHint(QPainter::Antialiasing);
-    PainterSurface surface(painter);
-    const auto truth = [](bool value) { return value ? True : False; };
-    for (const SheetText& text : texts) {
-        painter.setPen(QColor(200, 200, 200));
-        painter.drawRect(text.Cell);
-        painter.drawLine(text.Anchor - QPointF(8, 0), text.Anchor + QPointF(8, 0));
-        painter.drawLine(text.Anchor - QPointF(0, 8), text.Anchor + QPointF(0, 8));
-        APIFont font;
-        font.FaceName("Liberation Sans");
-        font.Height(SheetTextHeight);
-        font.Width(0);
-        font.Weight(400);
-        font.Escapement(text.Escapement);
-        font.SelectFont(surface);
-        font.SetAlign(surface, False, truth(text.BaseLine), truth(text.Bottom), False,
-                      truth(text.Center), truth(text.Right));
-        font.FontOut(SheetWord, surface, text.Anchor.x(), text.Anchor.y());
-        font.SelectOrg(surface);
+    QFont own(QStringLiteral("Liberation Sans"));
+    own.setPixelSize(OwnSize);
+    own.setHintingPreference(QFont::PreferNoHinting);
+    painter.setFont(own);
+    painter.fillRect(QRect(QPoint(), SheetSize()), Qt::white);
+    const auto cells = SheetCells();
+    for (const SheetCell& cell : cells) {
+        PaintMarks(painter, cell);
     }
-    return image;
-}
-
-double SheetTypeSize() {
-    return SheetTextHeight / (Ascent + Descent);
-}
-
-QTransform FrameOf(const SheetText& text) {
-    QTransform frame;
-    frame.translate(text.Anchor.x(), text.Anchor.y());
-    frame.rotate(-text.Escapement / 10.0);
-    return frame;
-}
-
-QRectF BoxOf(const SheetText& text) {
-    const double width = WordAdvance * SheetTypeSize();
-    const double left = text.Center ? -width / 2 : text.Right ? -width : 0;
-    return {left, BaseLineOf(text) - Ascent * SheetTypeSize(), width, SheetTextHeight};
-}
-
-double BaseLineOf(const SheetText& text) {
-    return text.BaseLine ? 0 : text.Bottom ? -Descent * SheetTypeSize() : Ascent * SheetTypeSize();
-}
-
-bool IsInk(QRgb pixel) {
-    return qGray(pixel) < 128;
+    for (const SheetCell& cell : cells) {
+        if (ink != SheetInk::None) {
+            PaintTexts(painter, cell, cell.Row.Clipped && ink == SheetInk::All);
+        }
+    }
 }
 
 } // namespace tarn::testing

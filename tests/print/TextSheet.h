@@ -1,48 +1,73 @@
 #pragma once
 
-// A picture of every alignment at a number of escapements, and where ink may be on it.
+// A sheet of texts: every alignment at a number of escapements, in colours, clipped, and written
+// into a clip that another text left.
 
 #include "print/APIFont.h"
 
-#include <QImage>
-#include <QPolygonF>
-#include <QTransform>
+#include <QPainter>
+#include <QRect>
+#include <QRgb>
 
+#include <string>
 #include <vector>
 
 namespace tarn::testing {
 
-/// One text on the sheet.
+/// A colour as it is set, and as it shows.
+struct SheetColor {
+    Long Value = 0;
+    QRgb Ink = qRgb(0, 0, 0);
+};
+
+/// The word of the sheet, written once.
 struct SheetText {
+    QPoint Position;
+    SheetColor Color;
+};
+
+struct SheetRow {
+    std::string Label;
+    Long Escapement = 0;
+    bool Colored = false;
+    bool Clipped = false; ///< the first text is written with CharPlace
+    bool Twice = false;   ///< a second one is written with FontOut after it
+};
+
+/// What is written with one alignment and escapement.
+struct SheetCell {
     bool BaseLine = false; ///< else Bottom, else top
     bool Bottom = false;
     bool Center = false; ///< else Right, else left
     bool Right = false;
-    Long Escapement = 0;
-    QRect Cell;     ///< pixels; nothing else is drawn in it
-    QPointF Anchor; ///< the text's position, marked by a faint cross
+    SheetRow Row;
+    QRect Area; ///< pixels; nothing else is drawn in it
+    std::vector<SheetText> Texts;
 };
 
 inline constexpr const char* SheetWord = "Hxg";
-inline constexpr Long SheetTextHeight = 48; ///< of the cell of its letters, pixels
+inline constexpr Long SheetTextHeight = 56; ///< of the cell of its letters, pixels
+inline constexpr int SheetCellSize = 220;   ///< pixels
 
-/// All nine alignments in columns, for each escapement a row.
-std::vector<SheetText> SheetTexts();
+std::vector<SheetRow> SheetRows();
+/// The heading of each column: its alignment.
+std::vector<std::string> SheetColumns();
+/// All cells, row by row, nine in each: an alignment in every column.
+std::vector<SheetCell> SheetCells();
+QSize SheetSize();
+/// "top left, escapement 300".
+std::string NameOf(const SheetCell& cell);
+/// The rectangle that the first text of a clipped cell leaves for ink, from the size of the word in
+/// the surface's own font.
+QRect ClipOf(const SheetCell& cell);
 
-/// The sheet: each text in "Liberation Sans", black on white.
-QImage PaintTextSheet();
+enum class SheetInk {
+    None,      ///< paper and marks: an outline around each cell, a cross at each position, the clip
+    Unclipped, ///< FontOut for CharPlace
+    All,
+};
 
-/// From a text's own frame to the sheet: (0, 0) is its anchor, x runs along the line.
-QTransform FrameOf(const SheetText& text);
-/// The text's cell in its own frame.
-QRectF BoxOf(const SheetText& text);
-/// Where the letters of the text stand, in its own frame.
-double BaseLineOf(const SheetText& text);
-
-/// The size of its letters, pixels.
-double SheetTypeSize();
-
-/// Whether a pixel is part of a letter, not of paper or a mark.
-bool IsInk(QRgb pixel);
+/// Paint the sheet in "Liberation Sans" at (0, 0), a unit of the painter for a pixel.
+void PaintTextSheet(QPainter& painter, SheetInk ink);
 
 } // namespace tarn::testing

@@ -1,81 +1,112 @@
-// Every alignment at a number of escapements: where ink is, and where there is none.
+// Every alignment at a number of escapements, in colours and clipped: where ink is, and where there
+// is none, pixel by pixel, on each kind of surface.
 
-#include "print/TextSheet.h"
+#include "print/PdfTesting.h"
+#include "print/TextSheetChecks.h"
+
+#include <QFile>
+#include <QPdfWriter>
+#include <QTemporaryDir>
+#include <QWidget>
 
 #include <gtest/gtest.h>
 
 namespace tarn {
 namespace {
 
-using testing::BaseLineOf;
-using testing::BoxOf;
-using testing::FrameOf;
-using testing::IsInk;
 using testing::PaintTextSheet;
-using testing::SheetText;
-using testing::SheetTexts;
-using testing::SheetTypeSize;
+using testing::Pdf;
+using testing::SheetCell;
+using testing::SheetCells;
+using testing::SheetInk;
+using testing::SheetPictures;
+using testing::SheetSize;
 
-std::string NameOf(const SheetText& text) {
-    return std::string(text.BaseLine ? "baseline"
-                       : text.Bottom ? "bottom"
-                                     : "top") +
-           (text.Center  ? " centre "
-            : text.Right ? " right "
-                         : " left ") +
-           std::to_string(text.Escapement);
+QImage OnImage(SheetInk ink) {
+    QImage image(SheetSize(), QImage::Format_RGB32);
+    QPainter painter(&image);
+    PaintTextSheet(painter, ink);
+    return image;
 }
 
-/// The ink of a text's cell in the text's own frame.
-QRectF InkInFrame(const QImage& sheet, const SheetText& text) {
-    const QTransform toFrame = FrameOf(text).inverted();
-    QRectF ink;
-    for (int y = text.Cell.top(); y <= text.Cell.bottom(); ++y) {
-        for (int x = text.Cell.left(); x <= text.Cell.right(); ++x) {
-            if (IsInk(sheet.pixel(x, y))) {
-                const QPointF place = toFrame.map(QPointF(x + 0.5, y + 0.5));
-                ink |= QRectF(place - QPointF(0.5, 0.5), QSizeF(1, 1));
-            }
+QImage OnWidget(SheetInk ink) {
+    struct Sheet : QWidget {
+        explicit Sheet(SheetInk drawn)
+            : ink(drawn) {}
+        void paintEvent(QPaintEvent*) override {
+            QPainter painter(this);
+            PaintTextSheet(painter, ink);
         }
-    }
-    return ink;
+        SheetInk ink;
+    } sheet(ink);
+    sheet.resize(SheetSize());
+    return sheet.grab().toImage().convertToFormat(QImage::Format_RGB32);
 }
 
-TEST(TextSheet, InkIsInsideTheBoxOfEachAlignmentAndEscapementAlone) {
-    const QImage sheet = PaintTextSheet();
-    for (const SheetText& text : SheetTexts()) {
-        const QRectF ink = InkInFrame(sheet, text);
-        const QRectF box = BoxOf(text).adjusted(-1.5, -1.5, 1.5, 1.5);
-        EXPECT_FALSE(ink.isEmpty()) << NameOf(text);
-        EXPECT_TRUE(box.contains(ink)) << NameOf(text) << ": " << ink.left() << ' ' << ink.top()
-                                       << ' ' << ink.right() << ' ' << ink.bottom();
+/// A page of the same size in points, rendered twice as large, for the renderer puts letters on
+/// whole pixels, and brought down to a pixel for each point.
+QImage OnPage(SheetInk ink) {
+    constexpr int PointsPerInch = 72;
+    const QTemporaryDir directory;
+    const QString path = directory.filePath(QStringLiteral("sheet.pdf"));
+    {
+        QPdfWriter page(path);
+        page.setPageMargins({});
+        page.setPageSize(
+            QPageSize(QSizeF(SheetSize()), QPageSize::Point, {}, QPageSize::ExactMatch));
+        QPainter painter(&page);
+        painter.scale(page.resolution() / double{PointsPerInch},
+                      page.resolution() / double{PointsPerInch});
+        PaintTextSheet(painter, ink);
     }
+    QFile file(path);
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+    return Pdf(file.readAll().toStdString())
+        .Image(1, 2 * PointsPerInch)
+        .convertToFormat(QImage::Format_RGB32)
+        .scaled(SheetSize(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
 }
 
-TEST(TextSheet, InkFillsTheBoxAsTheLettersOfTheWordDo) {
-    const QImage sheet = PaintTextSheet();
-    const double size = SheetTypeSize();
-    for (const SheetText& text : SheetTexts()) {
-        const QRectF ink = InkInFrame(sheet, text);
-        const QRectF box = BoxOf(text);
-        const double baseLine = BaseLineOf(text);
-        EXPECT_NEAR(ink.left(), box.left() + 0.08 * size, 2) << NameOf(text);   // of the H
-        EXPECT_NEAR(ink.right(), box.right() - 0.07 * size, 2) << NameOf(text); // of the g
-        EXPECT_NEAR(ink.top(), baseLine - 0.69 * size, 2) << NameOf(text);      // of the H
-        EXPECT_NEAR(ink.bottom(), baseLine + 0.21 * size, 2) << NameOf(text);   // of the g
-    }
+using Paint = QImage (*)(SheetInk);
+
+SheetPictures Pictures(Paint paint, double letterEdge, int clipEdge) {
+    return {paint(SheetInk::None), paint(SheetInk::Unclipped), paint(SheetInk::All), letterEdge,
+            clipEdge};
+}
+
+void ExpectSheet(const SheetPictures& pictures) {
+    ASSERT_EQ(pictures.All.size(), SheetSize());
+    ExpectPaperAroundLetters(pictures);
+    ExpectInkInStrokes(pictures);
+    ExpectPaperInCounters(pictures);
+    ExpectClipsToCutExactly(pictures);
+}
+
+TEST(TextSheet, OnAnImageEachPixelIsInkOrPaperAsItsTextSays) {
+    ExpectSheet(Pictures(OnImage, 1.25, 0));
+}
+
+TEST(TextSheet, OnAWidgetItIsTheSame) {
+    ExpectSheet(Pictures(OnWidget, 1.25, 0));
+}
+
+TEST(TextSheet, OnAPageItIsTheSame) {
+    ExpectSheet(Pictures(OnPage, 1.5, 1));
 }
 
 TEST(TextSheet, AFullTurnIsNoTurn) {
-    const QImage sheet = PaintTextSheet();
-    const auto texts = SheetTexts();
-    const std::size_t last = texts.size() - 9;
-    for (std::size_t i = 0; i < 9; ++i) {
-        ASSERT_EQ(texts[i].Escapement, 0);
-        ASSERT_EQ(texts[last + i].Escapement, 3600);
-        EXPECT_EQ(sheet.copy(texts[i].Cell.adjusted(1, 1, -1, -1)),
-                  sheet.copy(texts[last + i].Cell.adjusted(1, 1, -1, -1)));
+    const QImage sheet = OnImage(SheetInk::All);
+    int compared = 0;
+    for (const SheetCell& turned : SheetCells()) {
+        for (const SheetCell& level : SheetCells()) {
+            if (turned.Row.Escapement == 3600 && level.Row.Escapement == 0 &&
+                level.Row.Label == turned.Row.Label && turned.Area.left() == level.Area.left()) {
+                EXPECT_EQ(sheet.copy(turned.Area), sheet.copy(level.Area));
+                ++compared;
+            }
+        }
     }
+    EXPECT_EQ(compared, 9);
 }
 
 } // namespace
