@@ -1,5 +1,7 @@
 #include "print/TextSheet.h"
 
+#include <QRegion>
+
 #include <array>
 
 namespace tarn::testing {
@@ -9,8 +11,9 @@ namespace {
 constexpr Integer True = -1;
 constexpr Integer False = 0;
 constexpr int Columns = 9;
-constexpr int OwnSize = 14; ///< of the letters of the surface's own font, pixels
-constexpr QPoint SecondText{14, 12};
+constexpr int MarkWidth = 2;
+constexpr int OwnSize = 20; ///< of the letters of the surface's own font, pixels
+constexpr QPoint SecondText{20, 24};
 
 constexpr std::array<const char*, 3> Verticals{"top", "baseline", "bottom"};
 constexpr std::array<const char*, 3> Horizontals{"left", "center", "right"};
@@ -47,21 +50,21 @@ SheetCell CellAt(const SheetRow& row, int number, int column) {
 }
 
 void PaintMarks(QPainter& painter, const SheetCell& cell) {
-    const QColor line(215, 215, 215);
+    const QColor line(225, 225, 225);
     const QColor mark(120, 160, 220);
     const auto outline = [&painter](const QRect& around, const QColor& color) {
-        painter.fillRect(QRect(around.left(), around.top(), around.width(), 1), color);
-        painter.fillRect(QRect(around.left(), around.bottom(), around.width(), 1), color);
-        painter.fillRect(QRect(around.left(), around.top(), 1, around.height()), color);
-        painter.fillRect(QRect(around.right(), around.top(), 1, around.height()), color);
+        const QRect inside = around.adjusted(MarkWidth, MarkWidth, -MarkWidth, -MarkWidth);
+        for (const QRect& part : QRegion(around) - inside) {
+            painter.fillRect(part, color);
+        }
     };
     outline(cell.Area, line);
     if (cell.Row.Clipped) {
-        outline(ClipOf(cell).adjusted(-1, -1, 1, 1), mark);
+        outline(ClipOf(cell).adjusted(-MarkWidth, -MarkWidth, MarkWidth, MarkWidth), mark);
     }
     for (const SheetText& text : cell.Texts) {
-        painter.fillRect(QRect(text.Position - QPoint(8, 0), QSize(17, 1)), mark);
-        painter.fillRect(QRect(text.Position - QPoint(0, 8), QSize(1, 17)), mark);
+        painter.fillRect(QRect(text.Position - QPoint(8, 1), QSize(16, MarkWidth)), mark);
+        painter.fillRect(QRect(text.Position - QPoint(1, 8), QSize(MarkWidth, 16)), mark);
     }
 }
 
@@ -103,7 +106,7 @@ std::vector<SheetRow> SheetRows() {
     for (const Long escapement : {0, 300, -450, 1800}) {
         rows.push_back({"CharPlace", escapement, false, true});
     }
-    for (const Long escapement : {0, -450}) {
+    for (const Long escapement : {0, 1800}) {
         rows.push_back({"CharPlace, FontOut", escapement, false, true, true});
     }
     return rows;
@@ -142,8 +145,8 @@ std::string NameOf(const SheetCell& cell) {
 }
 
 QRect ClipOf(const SheetCell& cell) {
-    // Of 14 pixels "Hxg" is 24.9 wide and 15.6 high in Liberation Sans; twice that is left.
-    return {cell.Texts.front().Position, QSize(50, 31)};
+    // Of 20 pixels "Hxg" is 35.56 wide and 22.34 high in Liberation Sans; twice that is left.
+    return {cell.Texts.front().Position, QSize(71, 45)};
 }
 
 void PaintTextSheet(QPainter& painter, SheetInk ink) {
