@@ -3,13 +3,26 @@
 
 run.py WIDTHxHEIGHT TEST.py [ARGUMENT...]
 
-The display is an Xvfb of that size; both end with the test, whose exit status is handed on.
+The display is an Xvfb of that size; both end with the test, whose exit status is handed on. There
+is no printer: where the program looks for the print server, nothing listens.
 """
 
 import os
+import socket
 import subprocess
 import sys
 import tempfile
+
+# What would lead the program to the developer's own printer, or to another look.
+FOREIGN = (
+    "CUPS_USER",
+    "CUPS_ENCRYPTION",
+    "LPDEST",
+    "PRINTER",
+    "QT_QPA_PLATFORMTHEME",
+    "QT_STYLE_OVERRIDE",
+    "XDG_CURRENT_DESKTOP",
+)
 
 
 def start_display(size):
@@ -32,9 +45,11 @@ def start_display(size):
 def main():
     size, *command = sys.argv[1:]
     server, display = start_display(size)
-    with tempfile.TemporaryDirectory(prefix="tarn-e2e-") as folder:
+    with tempfile.TemporaryDirectory(prefix="tarn-e2e-") as folder, socket.socket() as nobody:
+        nobody.bind(("127.0.0.1", 0))  # held, so that no other program comes to listen there
         environment = dict(
-            os.environ,
+            {name: value for name, value in os.environ.items() if name not in FOREIGN},
+            CUPS_SERVER="%s:%d" % nobody.getsockname(),
             DISPLAY=display,
             HOME=folder,
             XDG_RUNTIME_DIR=folder,
