@@ -4,6 +4,8 @@ import os
 import sqlite3
 import subprocess
 
+SAMPLES = os.path.join(os.path.dirname(__file__), "..", "..", "samples")
+
 
 class House:
     """Made with `tarn-data create`, below `folder`; `programs` holds the built programs."""
@@ -13,6 +15,18 @@ class House:
         self.config = os.path.join(folder, "config-dir")
         self.data = os.path.join(folder, "estimates")
         self.run("tarn-data", "create", self.data, "--config-dir", self.config)
+
+    def bring_in(self, project, file, *options):
+        """Import a project from CSV, into the directory SAMPLES."""
+        self.run(
+            "tarn-data", "import", "--database", self.database, "--directory", "SAMPLES",
+            "--project", project, *options, file,
+        )
+
+    def bring_in_samples(self):
+        """MAPLE STREET 9, in feet and inches, and KANAALHUIS, in centimetres."""
+        self.bring_in("MAPLE STREET 9", os.path.join(SAMPLES, "maple-street-9.csv"))
+        self.bring_in("KANAALHUIS", os.path.join(SAMPLES, "kanaalhuis-metric.csv"), "--metric")
 
     @property
     def database(self):

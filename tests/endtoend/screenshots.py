@@ -13,22 +13,13 @@ from Xlib import display
 from desktop import Program, wait_for
 from house import House
 
-SAMPLES = os.path.join(os.path.dirname(__file__), "..", "..", "samples")
-
 
 class Photographer:
     def __init__(self, programs, folder):
         self.folder = folder
         self.data = tempfile.TemporaryDirectory()
         self.house = House(programs, self.data.name)
-        for project, file, options in (
-            ("MAPLE STREET 9", "maple-street-9.csv", []),
-            ("KANAALHUIS", "kanaalhuis-metric.csv", ["--metric"]),
-        ):
-            self.house.run(
-                "tarn-data", "import", "--database", self.house.database, "--directory", "SAMPLES",
-                "--project", project, *options, os.path.join(SAMPLES, file),
-            )
+        self.house.bring_in_samples()
         self.ui = Program(self.house.program("tarn"), "--config-dir", self.house.config)
 
     def take(self, name):
