@@ -24,6 +24,7 @@ KEYS = {
     "Down": 0xFF54,
     "End": 0xFF57,
     "Delete": 0xFFFF,
+    "Menu": 0xFF67,
 }
 
 
@@ -70,6 +71,7 @@ class Program:
     def __init__(self, path, *arguments, environment=None):
         pyatspi.Registry.getDesktop(0)  # a program that starts before the bus is not seen on it
         self.started = time.monotonic()
+        self.menus = 0  # opened so far
         self.process = subprocess.Popen(
             [path, *arguments], env=dict(os.environ, **(environment or {}))
         )
@@ -167,10 +169,44 @@ class Program:
 
     # --- acting ---
 
-    def click_on(self, accessible, double=False, offset=None):
+    def click_on(self, accessible, double=False, offset=None, button="b1"):
         area = accessible.queryComponent().getExtents(pyatspi.DESKTOP_COORDS)
         x = area.x + (area.width // 2 if offset is None else offset)
-        pyatspi.Registry.generateMouseEvent(x, area.y + area.height // 2, "b1d" if double else "b1c")
+        pyatspi.Registry.generateMouseEvent(
+            x, area.y + area.height // 2, button + ("d" if double else "c")
+        )
+
+    def choose_in_menu_of(self, accessible, letter):
+        """Open the menu of that with a right click, and choose by an underlined letter."""
+        # Not where the last one was: two quick clicks would be a double click.
+        self.menus += 1
+        self.click_on(accessible, offset=20 + 20 * (self.menus % 2), button="b3")
+        self.choose_in_open_menu(letter)
+
+    def choose_in_open_menu(self, letter):
+        wait_for(self._is_popup_open, "the menu")
+        self.type(letter)
+        wait_for(lambda: not self._is_popup_open(), "the menu to go")
+
+    @staticmethod
+    def _is_popup_open():
+        # The bus does not list a menu that belongs to no menu bar.
+        server = display.Display()
+        try:
+            return any(
+                each.override_redirect and each.map_state == X.IsViewable
+                for each in (
+                    window.get_attributes() for window in server.screen().root.query_tree().children
+                )
+            )
+        finally:
+            server.close()
+
+    def save_as(self, name):
+        """Type a file's name into the box that asks for one, as the only text in it."""
+        self.box()
+        self.fill("File name:", name)
+        self.key("Return")
 
     def click(self, role, name, position=0):
         button = self.see(role, name, position)
