@@ -3,6 +3,7 @@
 #include "app/QtText.h"
 
 #include <QAbstractButton>
+#include <QEvent>
 #include <QLabel>
 #include <QPushButton>
 
@@ -20,6 +21,16 @@ QString WithMnemonic(std::string_view caption, char mnemonic) {
     }
     return text;
 }
+
+class SecondClickFilter : public QObject {
+  public:
+    using QObject::QObject;
+
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        return event->type() == QEvent::MouseButtonDblClick || QObject::eventFilter(watched, event);
+    }
+};
 
 } // namespace
 
@@ -55,6 +66,10 @@ QPushButton* NewButton(QWidget* parent, const QString& name, std::string_view ca
     button->setObjectName(name);
     SetCaption(*button, caption, mnemonic);
     return button;
+}
+
+void IgnoreSecondClick(QAbstractButton& button) {
+    button.installEventFilter(new SecondClickFilter(&button));
 }
 
 QLabel* NewLabel(QWidget* parent, const QString& name, std::string_view caption) {

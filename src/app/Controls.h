@@ -28,6 +28,9 @@ QString CaptionOf(const QAbstractButton& button);
 
 QPushButton* NewButton(QWidget* parent, const QString& name, std::string_view caption,
                        char mnemonic = 0);
+/// Have a double click on the button press it once.
+void IgnoreSecondClick(QAbstractButton& button);
+
 QLabel* NewLabel(QWidget* parent, const QString& name, std::string_view caption);
 
 /// A label for `control`: gives the control its accessible name, and takes Alt and `mnemonic` to

@@ -143,6 +143,7 @@ void ESCarpForm::Connect() {
     OnClick(*buttons_[Redraw], DrawingFailure, [this] { RedrawLayout(); });
     OnClick(*buttons_[Improve], DrawingFailure, [this] { ImproveLayout(); });
     OnClick(*buttons_[Print], {}, [this] { PrintPic(); });
+    IgnoreSecondClick(*buttons_[Print]);
     OnClick(*buttons_[Save], std::string(NotSavedMessage), [this] { SaveRooms(); });
     OnClick(*buttons_[Back], LeaveFailure, [this] { Leave(); });
     picture_->MouseDown = [this](Double x, Double y) { return PictureMouseDown(x, y); };

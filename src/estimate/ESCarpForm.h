@@ -74,7 +74,6 @@ class ESCarpForm : public Screen, public FillsClient {
 
     bool FromMenu;
     bool PasteCuts = false;
-    bool printed_ = false; ///< and the event loop was not reached since
     CarpetEstimate estimate_;
     ChoicePanel* panel_ = nullptr;  ///< Frame7
     PictureBox* picture_ = nullptr; ///< Picture1

@@ -44,20 +44,13 @@ void ESCarpForm::BuildPictureMenu() {
     picture_->ContextMenu = [this](QPoint global) { pictureMenu_->popup(global); };
 }
 
-/// Whatever fails on the way to the paper is told as the printer's failure. The second click of a
-/// double click, which waited while the first one printed, prints nothing.
+/// Whatever fails on the way to the paper is told as the printer's failure.
 void ESCarpForm::PrintPic() {
-    if (printed_) {
-        return;
-    }
     try {
         SendToPrinter();
     } catch (const std::exception&) {
         Shared().Boxes.Message(PrinterNotReadyMessage);
-        return;
     }
-    printed_ = true;
-    Later([this] { printed_ = false; });
 }
 
 void ESCarpForm::SendToPrinter() {

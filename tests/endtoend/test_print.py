@@ -113,6 +113,18 @@ class PrintingEstimates(PrintCase):
             server.jobs(2)[1], "MAPLE STREET 9", False, "Carpet-1 Width=12'0\"", "CROSSLAY"
         )
 
+    def test_a_double_click_prints_one_page(self):
+        server = self.have_printer()
+        self.open_project("MAPLE STREET 9")
+        self.estimate()
+        self.ui.click_on(self.ui.see("push button", "PRINT"), double=True)
+        server.jobs(1)
+        self.ui.press("REDRAW")
+        wait_for(lambda: not any("Total" in line for line in self.ui.drawn_text()), "no list")
+        self.ui.press("PRINT")
+        pages = [job.document.lines() for job in server.jobs(2)]
+        self.assertEqual([any("Total" in line for line in page) for page in pages], [True, False])
+
     def test_metric_by_keys_alone(self):
         server = self.have_printer()
         self.open_project("KANAALHUIS", metric=True)
