@@ -5,6 +5,7 @@
 
 #include <QDir>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QInputDialog>
 #include <QMessageBox>
 
@@ -55,11 +56,21 @@ std::optional<std::string> MessageBoxes::SaveFileName(const std::string& suggest
     QFileDialog box(parent_, ToQt(ApplicationTitle), QDir::homePath(), ToQt("*." + suffix));
     box.setAcceptMode(QFileDialog::AcceptSave);
     box.setDefaultSuffix(ToQt(suffix));
-    box.selectFile(ToQt(suggestedName));
-    if (box.exec() != QDialog::Accepted || box.selectedFiles().isEmpty()) {
-        return std::nullopt;
+    box.selectFile(ToQt(suggestedName + "." + suffix));
+    const QString ending = ToQt("." + suffix);
+    while (box.exec() == QDialog::Accepted && !box.selectedFiles().isEmpty()) {
+        QString path = box.selectedFiles().constFirst();
+        if (path.endsWith(ending, Qt::CaseInsensitive)) {
+            return FromQt(path);
+        }
+        // The box adds its suffix to names without a point only.
+        path += ending;
+        if (!QFileInfo::exists(path)) {
+            return FromQt(path);
+        }
+        box.selectFile(path); // shown as it will be called, and asked about before it is replaced
     }
-    return FromQt(box.selectedFiles().constFirst());
+    return std::nullopt;
 }
 
 } // namespace tarn

@@ -3,6 +3,7 @@
 #include "store/TestDatabase.h"
 
 #include <QDialogButtonBox>
+#include <QFile>
 #include <QFileDialog>
 #include <QInputDialog>
 #include <QLabel>
@@ -127,12 +128,43 @@ TEST_F(RealBoxes, AddTheSuffixToAFilesName) {
     const TestFolder folder;
     WhenOpen<QFileDialog>([&](QFileDialog& box) {
         auto& field = Find<QLineEdit>(box, "fileNameEdit");
-        EXPECT_EQ(field.text(), QStringLiteral("HOUSE"));
+        EXPECT_EQ(field.text(), QStringLiteral("HOUSE.csv"));
         field.setText(ToQt(folder.Path("plan")));
         Click(*box.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Save));
     });
     EXPECT_EQ(boxes.SaveFileName("HOUSE", "csv"), folder.Path("plan.csv"));
     WhenOpen<QFileDialog>([](QFileDialog& box) { Press(box, Qt::Key_Escape); });
+    EXPECT_EQ(boxes.SaveFileName("HOUSE", "csv"), std::nullopt);
+    EXPECT_EQ(shown, 2);
+}
+
+TEST_F(RealBoxes, AddTheSuffixToAFilesNameThatHoldsPoints) {
+    const TestFolder folder;
+    WhenOpen<QFileDialog>([](QFileDialog& box) {
+        EXPECT_EQ(Find<QLineEdit>(box, "fileNameEdit").text(), QStringLiteral("ST. MARY 4.csv"));
+    });
+    EXPECT_EQ(boxes.SaveFileName("ST. MARY 4", "csv"), std::nullopt);
+    const auto type = [&](QFileDialog& box) {
+        Find<QLineEdit>(box, "fileNameEdit").setText(ToQt(folder.Path("plan.2")));
+        Click(*box.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Save));
+    };
+    WhenOpen<QFileDialog>(type);
+    EXPECT_EQ(boxes.SaveFileName("HOUSE", "csv"), folder.Path("plan.2.csv"));
+    EXPECT_EQ(shown, 2);
+}
+
+TEST_F(RealBoxes, AskAgainWhenTheFileWithTheSuffixIsThereAlready) {
+    const TestFolder folder;
+    QFile there(ToQt(folder.Path("plan.2.csv")));
+    ASSERT_TRUE(there.open(QIODevice::WriteOnly));
+    WhenOpen<QFileDialog>([&](QFileDialog& box) {
+        Find<QLineEdit>(box, "fileNameEdit").setText(ToQt(folder.Path("plan.2")));
+        WhenOpen<QFileDialog>([](QFileDialog& again) {
+            EXPECT_EQ(Find<QLineEdit>(again, "fileNameEdit").text(), QStringLiteral("plan.2.csv"));
+            Press(again, Qt::Key_Escape);
+        });
+        Click(*box.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Save));
+    });
     EXPECT_EQ(boxes.SaveFileName("HOUSE", "csv"), std::nullopt);
     EXPECT_EQ(shown, 2);
 }

@@ -7,6 +7,7 @@ import unittest
 from xml.etree import ElementTree
 
 from desktop import wait_for
+from house import SAMPLES
 from pdf import Pdf
 from printing import A4, PrintCase, whole_lines
 
@@ -69,7 +70,7 @@ class PrintingToFiles(PrintCase):
         for answer in ("No", "Yes"):
             self.ui.choose_in_menu_of(self.report(), "p")
             wait_for(lambda: self.ui.focused() == "File name:", "the focus on the name")
-            self.assertEqual(self.ui.field("File name:"), "MAPLE STREET 9")
+            self.assertEqual(self.ui.field("File name:"), "MAPLE STREET 9.pdf")
             self.ui.key("Return")
             wait_for(lambda: self.ui.showing("alert"), "the question")
             self.assertIn("MAPLE STREET 9.pdf already exists", self.ui.message())
@@ -85,6 +86,15 @@ class PrintingToFiles(PrintCase):
     def content_of(path):
         with open(path, "rb") as file:
             return file.read()
+
+    def test_a_project_with_a_point_in_its_name_becomes_a_pdf_too(self):
+        self.house.bring_in("ST. MARY 4", os.path.join(SAMPLES, "maple-street-9.csv"))
+        self.open_project("ST. MARY 4")
+        self.open_report()
+        self.ui.choose_in_menu_of(self.report(), "p")
+        wait_for(lambda: self.ui.focused() == "File name:", "the focus on the name")
+        self.ui.key("Return")
+        self.assertEqual(Pdf.of_file(self.saved("ST. MARY 4.pdf")).page_size(), A4)
 
     def test_the_menus_open_by_key_too(self):
         self.open_project("MAPLE STREET 9")
