@@ -3,6 +3,7 @@
 #include "app/Display.h"
 #include "app/Guard.h"
 #include "app/StartModule.h"
+#include "app/WaitCursor.h"
 #include "print/PrinterPage.h"
 
 namespace tarn {
@@ -36,7 +37,10 @@ bool Program::Start(const std::vector<std::filesystem::path>& configurationDirec
     }
     screens_.ShowProjects();
     // A print server that is slow to answer must not keep the first screen from being drawn.
-    window_.AfterFirstPaint([this] { ReadPrinterPage(state_, printer_); });
+    window_.AfterFirstPaint([this] {
+        const WaitCursor waiting;
+        ReadPrinterPage(state_, printer_);
+    });
     window_.show();
     return true;
 }

@@ -132,6 +132,8 @@ TEST_F(ProgramTest, PaintsTheFirstScreenBeforeItAsksThePrinter) {
     printer_.OnPage = [&] {
         ++asked;
         EXPECT_TRUE(watch.Painted);
+        ASSERT_NE(QGuiApplication::overrideCursor(), nullptr);
+        EXPECT_EQ(QGuiApplication::overrideCursor()->shape(), Qt::WaitCursor);
     };
     ASSERT_TRUE(Start());
     Control("Command3").installEventFilter(&watch);
@@ -139,6 +141,7 @@ TEST_F(ProgramTest, PaintsTheFirstScreenBeforeItAsksThePrinter) {
     program_.Window().update();
     QCoreApplication::processEvents();
     EXPECT_EQ(asked, 1);
+    EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
 }
 
 TEST_F(ProgramTest, ChecksTheDisplayBeforeTheConfiguration) {
