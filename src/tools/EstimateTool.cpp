@@ -45,9 +45,9 @@ std::string CutListText(const SharedState& state, const EngineArrays& engine,
 }
 
 Picture DrawingOf(const SharedState& state, const EngineArrays& engine,
-                  const CarpetEstimate& estimate) {
+                  const CarpetEstimate& estimate, PieceSizes sizes) {
     Picture picture;
-    RedrawPC(picture, state, engine, estimate, PieceSizes::Shown);
+    RedrawPC(picture, state, engine, estimate, sizes);
     ShowECutsInfo(picture, state, engine, estimate, CutListX, CutListY);
     return picture;
 }
@@ -55,14 +55,14 @@ Picture DrawingOf(const SharedState& state, const EngineArrays& engine,
 std::string SvgOf(const SharedState& state, const EngineArrays& engine,
                   const CarpetEstimate& estimate) {
     const std::string carpet = CoveringCaption(estimate.CarpetNo);
-    return SvgDocument(DrawingOf(state, engine, estimate),
+    return SvgDocument(DrawingOf(state, engine, estimate, PieceSizes::Shown),
                        state.CurProjName.empty() ? carpet : state.CurProjName + ", " + carpet);
 }
 
 std::string PdfOf(SharedState& state, const EngineArrays& engine, const CarpetEstimate& estimate) {
     SystemPrinter printer;
     ReadPrinterPage(state, printer);
-    const Picture drawing = DrawingOf(state, engine, estimate);
+    const Picture drawing = DrawingOf(state, engine, estimate, PieceSizes::Hidden);
     return EstimatePdf(MakeEstimatePage(state, engine, estimate, drawing, ShortDateOfToday()));
 }
 

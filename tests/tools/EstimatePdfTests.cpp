@@ -47,6 +47,7 @@ TEST_F(EstimatePdf, IsThePrintedPageOnA4WithoutAPrinterAndADisplay) {
     for (const char* part : {"Cut1: 12'0\" X 12'0\"", "A: 3'0\" X 12'0\"", "Total Cuts:1"}) {
         EXPECT_TRUE(text.contains(S(part))) << part;
     }
+    EXPECT_EQ(text.count(S("3'0\" X 12'0\"")), 1); // in the cut list, as on the screen
     EXPECT_FALSE(page.Fonts().isEmpty());
     EXPECT_EQ(page.Images(), 0);
 }
