@@ -1,69 +1,24 @@
 #include "print/CupsQueue.h"
 
-#include <algorithm>
+#include "print/JobOptions.h"
+
 #include <array>
 #include <cups/cups.h>
-#include <cups/pwg.h>
-#include <sstream>
-#include <string_view>
 #include <vector>
 
 namespace tarn {
 
 namespace {
 
-constexpr int ConnectPatienceMs = 3000;
-constexpr double AnswerPatienceSeconds = 5;
-
 constexpr std::size_t LongestJobName = 255; ///< bytes
 
-constexpr std::string_view StoppedState = "5";
-
-/// Gives up a request whose answer does not come in time.
-int GiveUp(http_t*, void*) {
-    return 0;
+bool Succeeded(const Ipp& answer) {
+    return ippGetStatusCode(answer.get()) <= IPP_STATUS_OK_EVENTS_COMPLETE;
 }
 
-/// Never asks for a password: there is nobody at the terminal.
-const char* NoPassword(const char*, http_t*, const char*, const char*, void*) {
-    return nullptr;
-}
-
-std::string OptionOf(const cups_dest_t& queue, const char* option) {
-    const char* value = cupsGetOption(option, queue.num_options, queue.options);
-    return value == nullptr ? std::string() : std::string(value);
-}
-
-struct CloseConnection {
-    void operator()(http_t* connection) const { httpClose(connection); }
-};
-struct FreeQueue {
-    void operator()(cups_dest_t* queue) const { cupsFreeDests(1, queue); }
-};
-struct FreeInfo {
-    void operator()(cups_dinfo_t* info) const { cupsFreeDestInfo(info); }
-};
-
-/// A first, small request: a server that keeps silent is given up before it is asked for more.
-void RequireAnswer(http_t* connection) {
-    ippDelete(cupsDoRequest(connection, ippNewRequest(IPP_OP_CUPS_GET_DEFAULT), "/"));
-    const ipp_status_t status = cupsLastError();
-    if (status > IPP_STATUS_OK_EVENTS_COMPLETE && status != IPP_STATUS_ERROR_NOT_FOUND) {
-        throw PrinterError(
-            "The printing system does not answer: " + std::string(cupsLastErrorString()) + ".");
-    }
-}
-
-/// The parts of a list with commas, without empty ones.
-std::vector<std::string> PartsOf(const std::string& list) {
-    std::vector<std::string> parts;
-    std::istringstream stream(list);
-    for (std::string part; std::getline(stream, part, ',');) {
-        if (!part.empty()) {
-            parts.push_back(part);
-        }
-    }
-    return parts;
+std::string MessageOf(const Ipp& answer) {
+    const std::string text = TextIn(answer.get(), "status-message");
+    return text.empty() ? ippErrorString(ippGetStatusCode(answer.get())) : text;
 }
 
 /// The beginning of a UTF-8 text of at most `bytes` bytes, without half a character.
@@ -80,145 +35,147 @@ std::string Beginning(const std::string& text, std::size_t bytes) {
     return text.substr(0, bytes);
 }
 
-Double TwipsOfMillimetreHundredths(int hundredths) {
-    constexpr Double HundredthsPerInch = 2540;
-    return hundredths * TwipsPerInch / HundredthsPerInch;
+void AddText(const Ipp& request, ipp_tag_t kind, const char* name, const std::string& text) {
+    ippAddString(request.get(), IPP_TAG_OPERATION, kind, name, nullptr, text.c_str());
 }
 
-/// A sheet as the queue describes it, held upright, turned a quarter to the left: its right edge
-/// is on top then.
-Paper LandscapeOf(const cups_size_t& size) {
-    const auto margin = [](int hundredths) {
-        return std::max(Paper::LeastMargin, TwipsOfMillimetreHundredths(hundredths));
-    };
-    Paper paper;
-    paper.Size = {TwipsOfMillimetreHundredths(std::max(size.width, size.length)),
-                  TwipsOfMillimetreHundredths(std::min(size.width, size.length))};
-    // Drivers turn either way, so each pair of edges keeps the larger margin.
-    paper.Left = paper.Right = std::max(margin(size.top), margin(size.bottom));
-    paper.Top = paper.Bottom = std::max(margin(size.left), margin(size.right));
-    return paper;
+void AskFor(const Ipp& request, const std::vector<std::string>& attributes) {
+    std::vector<const char*> names;
+    names.reserve(attributes.size());
+    for (const std::string& attribute : attributes) {
+        names.push_back(attribute.c_str());
+    }
+    ippAddStrings(request.get(), IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes",
+                  static_cast<int>(names.size()), nullptr, names.data());
+}
+
+void AddJobOptions(const Ipp& request, const QueueOptions& options) {
+    cups_option_t* list = nullptr;
+    int count = 0;
+    for (const auto& [name, value] : options) {
+        count = cupsAddOption(name.c_str(), value.c_str(), count, &list);
+    }
+    for (const ipp_tag_t group : {IPP_TAG_OPERATION, IPP_TAG_JOB, IPP_TAG_SUBSCRIPTION}) {
+        cupsEncodeOptions2(request.get(), count, list, group);
+    }
+    cupsFreeOptions(count, list);
+}
+
+/// What is asked of a queue.
+std::vector<std::string> QueueAttributes() {
+    std::vector<std::string> names = JobDefaults();
+    names.insert(names.end(), {"printer-name", "printer-state", "printer-state-reasons",
+                               "printer-is-accepting-jobs"});
+    return names;
 }
 
 } // namespace
 
-struct CupsQueue::Handles {
-    std::unique_ptr<http_t, CloseConnection> Connection;
-    std::unique_ptr<cups_dest_t, FreeQueue> Queue;
-    std::unique_ptr<cups_dinfo_t, FreeInfo> Info; ///< unset when the queue does not tell
-    cups_size_t Media{};                          ///< the default paper; no width when not known
-    std::string OtherMedia; ///< what else is chosen, such as a tray, each behind a comma
-};
-
-CupsQueue::CupsQueue()
-    : handles_(std::make_unique<Handles>()) {
-    cupsSetPasswordCB2(NoPassword, nullptr);
-    handles_->Connection.reset(httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC,
-                                            cupsEncryption(), 1, ConnectPatienceMs, nullptr));
-    http_t* connection = handles_->Connection.get();
-    if (connection == nullptr) {
-        throw PrinterError("The printing system (" + std::string(cupsServer()) +
-                           ") cannot be reached.");
-    }
-    httpSetTimeout(connection, AnswerPatienceSeconds, GiveUp, nullptr);
-    RequireAnswer(connection);
-    handles_->Queue.reset(cupsGetNamedDest(connection, nullptr, nullptr));
-    const cups_dest_t* queue = handles_->Queue.get();
-    if (queue == nullptr) {
+CupsQueue::CupsQueue(CupsPatience patience)
+    : server_(patience) {
+    QueueChoice choice = ChosenQueue();
+    name_ = choice.Name;
+    const Ipp request =
+        NewRequest(name_.empty() ? IPP_OP_CUPS_GET_DEFAULT : IPP_OP_GET_PRINTER_ATTRIBUTES);
+    AskFor(request, QueueAttributes());
+    const Ipp queue = server_.Ask(request, "/");
+    if (ippGetStatusCode(queue.get()) == IPP_STATUS_ERROR_NOT_FOUND) {
         throw PrinterError("There is no default printer.");
     }
-    name_ = queue->name;
-    if (OptionOf(*queue, "printer-state") == StoppedState) {
+    choice.Name = name_ = TextIn(queue.get(), "printer-name");
+    if (!Succeeded(queue) || name_.empty()) {
+        throw PrinterError(
+            "The printing system does not name the default printer: " + MessageOf(queue) + ".");
+    }
+    RequireReady(queue.get());
+    const QueueOptions chosen = ChosenOptions(choice);
+    media_ = MediaOf(queue.get(), chosen);
+    options_ = JobOptions(chosen, media_);
+}
+
+void CupsQueue::RequireReady(ipp_t* queue) const {
+    const int state = NumberIn(queue, "printer-state");
+    if (state == IPP_PSTATE_STOPPED) {
         throw PrinterError("The printer " + name_ + " is stopped.");
     }
-    if (OptionOf(*queue, "printer-is-accepting-jobs") == "false") {
+    ipp_attribute_t* accepting =
+        ippFindAttribute(queue, "printer-is-accepting-jobs", IPP_TAG_BOOLEAN);
+    if (accepting != nullptr && ippGetBoolean(accepting, 0) == 0) {
         throw PrinterError("The printer " + name_ + " takes no jobs.");
     }
 }
 
-CupsQueue::~CupsQueue() = default;
-
-std::string CupsQueue::PresetMedia() {
-    ipp_attribute_t* preset = cupsFindDestDefault(handles_->Connection.get(), handles_->Queue.get(),
-                                                  handles_->Info.get(), "media");
-    const char* name = preset == nullptr ? nullptr : ippGetString(preset, 0, nullptr);
-    return name == nullptr ? std::string() : std::string(name);
+Ipp CupsQueue::NewRequest(ipp_op_t operation) const {
+    Ipp request(ippNewRequest(operation));
+    if (!name_.empty()) {
+        std::array<char, HTTP_MAX_URI> uri{};
+        httpAssembleURIf(HTTP_URI_CODING_ALL, uri.data(), static_cast<int>(uri.size()), "ipp",
+                         nullptr, "localhost", 0, "/printers/%s", name_.c_str());
+        AddText(request, IPP_TAG_URI, "printer-uri", uri.data());
+    }
+    AddText(request, IPP_TAG_NAME, "requesting-user-name", cupsUser());
+    return request;
 }
 
-bool CupsQueue::TakeSize(const std::string& name) {
-    if (name.empty()) {
-        return false;
-    }
-    cups_size_t& size = handles_->Media;
-    if (cupsGetDestMediaByName(handles_->Connection.get(), handles_->Queue.get(),
-                               handles_->Info.get(), name.c_str(), CUPS_MEDIA_FLAGS_DEFAULT,
-                               &size) != 0) {
-        return true;
-    }
-    size = {};
-    const pwg_media_t* known = pwgMediaForPWG(name.c_str());
-    if (known == nullptr) {
-        known = pwgMediaForPPD(name.c_str());
-    }
-    if (known == nullptr) {
-        return false;
-    }
-    size.width = known->width;
-    size.length = known->length;
-    std::string_view(known->pwg).copy(size.media, sizeof(size.media) - 1);
-    return true;
+Ipp CupsQueue::NewJobRequest(ipp_op_t operation, int job) const {
+    Ipp request = NewRequest(operation);
+    ippAddInteger(request.get(), IPP_TAG_OPERATION, IPP_TAG_INTEGER, "job-id", job);
+    return request;
 }
 
-Paper CupsQueue::DefaultPaper() {
-    handles_->Info.reset(cupsCopyDestInfo(handles_->Connection.get(), handles_->Queue.get()));
-    if (!handles_->Info) {
-        throw PrinterError("The printer " + name_ + " does not answer: " + cupsLastErrorString() +
-                           ".");
+PrinterError CupsQueue::Refusal(const Ipp& answer) const {
+    return PrinterError("The printer " + name_ + " refused the job: " + MessageOf(answer) + ".");
+}
+
+int CupsQueue::CreateJob(const std::string& title) {
+    const Ipp request = NewRequest(IPP_OP_CREATE_JOB);
+    AddText(request, IPP_TAG_NAME, "job-name", Beginning(title, LongestJobName));
+    AddJobOptions(request, options_);
+    // Should the answer get lost: a job without a document is never printed.
+    const Ipp answer = server_.Ask(request, "/printers/" + name_);
+    const int job = NumberIn(answer.get(), "job-id");
+    if (!Succeeded(answer) || job == 0) {
+        throw Refusal(answer);
     }
-    const cups_dest_t& queue = *handles_->Queue;
-    bool sized = false;
-    handles_->OtherMedia.clear();
-    for (const std::string& part : PartsOf(OptionOf(queue, "media"))) {
-        if (!sized && TakeSize(part)) {
-            sized = true;
-        } else {
-            handles_->OtherMedia += "," + part;
+    return job;
+}
+
+bool CupsQueue::Arrived(int job, const PrinterError& failure) {
+    server_.GrantRest();
+    try {
+        const Ipp request = NewJobRequest(IPP_OP_GET_JOB_ATTRIBUTES, job);
+        AskFor(request, {"job-state", "number-of-documents"});
+        const Ipp answer = server_.Ask(request, "/jobs/");
+        const int state = NumberIn(answer.get(), "job-state");
+        const bool ended = state == IPP_JSTATE_CANCELED || state == IPP_JSTATE_ABORTED;
+        if (state == IPP_JSTATE_COMPLETED ||
+            (!ended && NumberIn(answer.get(), "number-of-documents") > 0)) {
+            return true;
         }
+        if (!ended) {
+            server_.Ask(NewJobRequest(IPP_OP_CANCEL_JOB, job), "/jobs/");
+        }
+    } catch (const PrinterError&) {
+        throw PrinterError("The printer " + name_ + " does not tell whether it took the job. " +
+                           failure.what());
     }
-    sized = sized || TakeSize(OptionOf(queue, "PageSize")) || TakeSize(PresetMedia());
-    return sized ? LandscapeOf(handles_->Media) : Paper();
+    return false;
 }
 
-void CupsQueue::Submit(const std::string& title, const std::string& path) {
-    // What the user chose for the queue holds, but for what would turn or resize the page or leave
-    // one out.
-    cups_option_t* options = nullptr;
-    int count = 0;
-    const cups_dest_t& queue = *handles_->Queue;
-    for (int i = 0; i < queue.num_options; ++i) {
-        count = cupsAddOption(queue.options[i].name, queue.options[i].value, count, &options);
-    }
-    constexpr std::array Turning{"landscape", "orientation-requested",
-                                 "number-up", "fit-to-page",
-                                 "fitplot",   "scaling",
-                                 "PageSize",  "PageRegion",
-                                 "mirror",    "page-ranges",
-                                 "page-set"};
-    for (const char* option : Turning) {
-        count = cupsRemoveOption(option, count, &options);
-    }
-    if (handles_->Media.media[0] != '\0') {
-        const std::string media = handles_->Media.media + handles_->OtherMedia;
-        count = cupsAddOption("media", media.c_str(), count, &options);
-    }
-    count = cupsAddOption("print-scaling", "none", count, &options);
-    count = cupsAddOption("document-format", CUPS_FORMAT_PDF, count, &options);
-    const int job = cupsPrintFile2(handles_->Connection.get(), queue.name, path.c_str(),
-                                   Beginning(title, LongestJobName).c_str(), count, options);
-    cupsFreeOptions(count, options);
-    if (job == 0) {
-        throw PrinterError("The printer " + name_ + " refused the job: " + cupsLastErrorString() +
-                           ".");
+void CupsQueue::Submit(const std::string& title, const std::string& document) {
+    const int job = CreateJob(title);
+    const Ipp request = NewJobRequest(IPP_OP_SEND_DOCUMENT, job);
+    AddText(request, IPP_TAG_MIMETYPE, "document-format", CUPS_FORMAT_PDF);
+    ippAddBoolean(request.get(), IPP_TAG_OPERATION, "last-document", 1);
+    try {
+        const Ipp answer = server_.Ask(request, "/printers/" + name_, document);
+        if (!Succeeded(answer)) {
+            throw Refusal(answer);
+        }
+    } catch (const PrinterError& error) {
+        if (!Arrived(job, error)) {
+            throw;
+        }
     }
 }
 

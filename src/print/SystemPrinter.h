@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/Printer.h"
+#include "print/CupsPatience.h"
 
 namespace tarn {
 
@@ -10,9 +11,15 @@ namespace tarn {
 /// QGuiApplication, on whatever platform.
 class SystemPrinter : public Printer {
   public:
+    explicit SystemPrinter(CupsPatience patience = {})
+        : patience_(patience) {}
+
     PageSize Page() override;
     void PrintReport(const std::string& text) override;
     void PrintEstimate(const EstimatePage& page) override;
+
+  private:
+    CupsPatience patience_;
 };
 
 } // namespace tarn

@@ -40,19 +40,33 @@ std::string Read(const QString& path) {
     return file.readAll().toStdString();
 }
 
-/// Keeps each job's document, title and options in the directory that the queue's address names.
+/// Keeps each job's document, title, options and number of copies in the directory that the queue's
+/// address names.
 constexpr const char* KeepingBackend = R"(#!/bin/sh
 if [ $# -eq 0 ]; then
     echo 'direct keep "Unknown" "Keeps its jobs"'
     exit 0
 fi
-folder=${DEVICE_URI#keep:}
+place=${DEVICE_URI#keep:}
+folder=${place%%\?*}
+trouble=${place#"$folder"}
+trouble=${trouble#\?}
+stays=${trouble#"${trouble%+}"}
+trouble=${trouble%+}
+if [ -n "$trouble" ]; then
+    echo "STATE: +$trouble" >&2
+    while [ ! -e "$folder/go-on" ]; do
+        sleep 0.02
+    done
+    [ "$stays" ] || echo "STATE: -$trouble" >&2
+fi
 if [ $# -ge 6 ]; then
     cat "$6" >"$folder/$1.document"
 else
     cat >"$folder/$1.document"
 fi
 printf '%s' "$3" >"$folder/$1.title"
+printf '%s' "$4" >"$folder/$1.copies"
 printf '%s' "$5" >"$folder/$1.options"
 : >"$folder/$1.done"
 )";
@@ -88,10 +102,18 @@ std::string Driver(const QueueSetup& queue) {
 std::string QueueEntry(const QueueSetup& queue, const std::string& folder) {
     const std::string kind = queue.Default ? "DefaultPrinter" : "Printer";
     std::string entry = "<" + kind + " " + queue.Name + ">\nInfo Test\nDeviceURI keep:" + folder +
-                        "\nState " + (queue.Stopped ? "Stopped" : "Idle") + "\nAccepting " +
+                        (queue.Trouble.empty() ? "" : "?" + queue.Trouble) +
+                        (queue.TroubleStays ? "+" : "") + "\nState " +
+                        (queue.Stopped ? "Stopped" : "Idle") + "\nAccepting " +
                         (queue.Accepting ? "Yes" : "No") + "\n";
     if (!queue.OnlyUser.empty()) {
         entry += "AllowUser " + queue.OnlyUser + "\n";
+    }
+    if (queue.OnlyKnownUsers) {
+        entry += "OpPolicy known\n";
+    }
+    for (const std::string& option : queue.Options) {
+        entry += "Option " + option + "\n";
     }
     return entry + "</" + kind + ">\n";
 }
@@ -106,6 +128,16 @@ bool Answers(int port) {
     QTcpSocket socket;
     socket.connectToHost(QHostAddress(QHostAddress::LocalHost), static_cast<quint16>(port));
     return socket.waitForConnected(PatienceMs);
+}
+
+/// What libcups has of a queue; empty when nothing.
+std::string TellsOf(const std::string& queue, const char* attribute) {
+    cups_dest_t* found = cupsGetNamedDest(CUPS_HTTP_DEFAULT, queue.c_str(), nullptr);
+    const char* text =
+        found == nullptr ? nullptr : cupsGetOption(attribute, found->num_options, found->options);
+    const std::string told = text == nullptr ? "" : text;
+    cupsFreeDests(found == nullptr ? 0 : 1, found);
+    return told;
 }
 
 /// How many processes have `text` in their command line, other than this one.
@@ -123,6 +155,24 @@ int ProcessesNaming(const QString& text) {
 }
 
 } // namespace
+
+QueueSetup Driven(const std::string& paper, int shortEdgeMargin) {
+    QueueSetup queue;
+    queue.DriverPaper = paper;
+    queue.ShortEdgeMargin = shortEdgeMargin;
+    return queue;
+}
+
+void UserChoice::Store(std::initializer_list<Option> options) {
+    cups_dest_t* queues = nullptr;
+    const int count = cupsAddDest("Paper", nullptr, 0, &queues);
+    for (const Option& option : options) {
+        queues->num_options =
+            cupsAddOption(option.Name, option.Value, queues->num_options, &queues->options);
+    }
+    EXPECT_EQ(cupsSetDests2(CUPS_HTTP_DEFAULT, count, queues), 0) << cupsLastErrorString();
+    cupsFreeDests(count, queues);
+}
 
 void UseServer(const QString& address) {
     cupsSetServer(address.toUtf8().constData());
@@ -158,7 +208,7 @@ void PrintServer::WriteFiles(const std::vector<QueueSetup>& queues, int mostByte
     QFile::setPermissions(root.path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner |
                                            QFile::ReadOther | QFile::ExeOther);
     for (const char* folder :
-         {"bin/backend", "root/ppd", "spool/tmp", "cache", "run", "log", "jobs"}) {
+         {"bin/backend", "root/ppd", "root/ssl", "spool/tmp", "cache", "run", "log", "jobs"}) {
         ASSERT_TRUE(root.mkpath(S(folder)));
     }
     for (const char* folder : {"filter", "daemon", "notifier"}) {
@@ -168,13 +218,16 @@ void PrintServer::WriteFiles(const std::vector<QueueSetup>& queues, int mostByte
 
     const std::string path = directory_.path().toStdString();
     const std::string size = std::to_string(mostBytes);
-    Write(Path("cupsd.conf"), "Listen 127.0.0.1:" + std::to_string(port) +
-                                  "\nBrowsing No\nWebInterface No\nDefaultAuthType None\n"
-                                  "LogLevel debug\nPreserveJobHistory Yes\nLimitRequestBody " +
-                                  size +
-                                  "\n<Location />\nOrder allow,deny\nAllow localhost\n</Location>\n"
-                                  "<Policy default>\n<Limit All>\nOrder deny,allow\n</Limit>\n"
-                                  "</Policy>\n");
+    Write(Path("cupsd.conf"),
+          "Listen 127.0.0.1:" + std::to_string(port) + "\nListen " + path +
+              "/run/socket\nBrowsing No\nWebInterface No\nDefaultAuthType None\n"
+              "LogLevel debug\nPreserveJobHistory Yes\nLimitRequestBody " +
+              size +
+              "\n<Location />\nOrder allow,deny\nAllow localhost\n</Location>\n"
+              "<Policy default>\n<Limit All>\nOrder deny,allow\n</Limit>\n"
+              "</Policy>\n<Policy known>\n<Limit Create-Job Send-Document>\n"
+              "AuthType Basic\nRequire valid-user\n</Limit>\n<Limit All>\n"
+              "Order deny,allow\n</Limit>\n</Policy>\n");
     Write(Path("files.conf"), "ServerRoot " + path + "/root\nServerBin " + path +
                                   "/bin\nCacheDir " + path + "/cache\nStateDir " + path +
                                   "/run\nRequestRoot " + path + "/spool\nTempDir " + path +
@@ -218,7 +271,7 @@ std::vector<PrintedJob> PrintServer::Printed(std::size_t count) const {
         const QString name = file.section(u'.', 0, 0);
         const QString base = jobs.filePath(name);
         byNumber[name.toInt()] = {Read(base + S(".document")), Read(base + S(".title")),
-                                  Read(base + S(".options"))};
+                                  Read(base + S(".options")), Read(base + S(".copies"))};
     }
     std::vector<PrintedJob> printed;
     for (auto& [number, job] : byNumber) {
@@ -242,6 +295,33 @@ std::map<int, int> PrintServer::JobStates() const {
     }
     cupsFreeJobs(count, jobs);
     return states;
+}
+
+void PrintServer::EndTrouble() const {
+    Write(Path("jobs/go-on"), "");
+}
+
+void PrintServer::AwaitTrouble(const std::string& queue) const {
+    EXPECT_TRUE(QTest::qWaitFor(
+        [&queue] {
+            const std::string reasons = TellsOf(queue, "printer-state-reasons");
+            return !reasons.empty() && reasons != "none";
+        },
+        PatienceMs));
+}
+
+void PrintServer::AwaitIdle(const std::string& queue) const {
+    EXPECT_TRUE(
+        QTest::qWaitFor([&queue] { return TellsOf(queue, "printer-state") == "3"; }, PatienceMs));
+}
+
+void PrintServer::Kill() const {
+    ::kill(static_cast<pid_t>(process_.processId()), SIGKILL);
+}
+
+void PrintServer::StartAgain() {
+    EXPECT_TRUE(process_.state() == QProcess::NotRunning || process_.waitForFinished(PatienceMs));
+    EXPECT_TRUE(Start());
 }
 
 int PrintServer::Stop() {
