@@ -90,7 +90,7 @@ CupsQueue::CupsQueue(CupsPatience patience)
     RequireReady(queue.get());
     const QueueOptions chosen = ChosenOptions(choice);
     media_ = MediaOf(queue.get(), chosen);
-    options_ = JobOptions(chosen, media_);
+    options_ = JobOptions(queue.get(), chosen, media_);
 }
 
 void CupsQueue::RequireReady(ipp_t* queue) const {
