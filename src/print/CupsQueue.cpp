@@ -1,6 +1,7 @@
 #include "print/CupsQueue.h"
 
 #include "print/JobOptions.h"
+#include "print/PrinterTrouble.h"
 
 #include <array>
 #include <cups/cups.h>
@@ -102,6 +103,10 @@ void CupsQueue::RequireReady(ipp_t* queue) const {
         ippFindAttribute(queue, "printer-is-accepting-jobs", IPP_TAG_BOOLEAN);
     if (accepting != nullptr && ippGetBoolean(accepting, 0) == 0) {
         throw PrinterError("The printer " + name_ + " takes no jobs.");
+    }
+    const std::string trouble = PrinterTrouble(state, TextsIn(queue, "printer-state-reasons"));
+    if (!trouble.empty()) {
+        throw PrinterError("The printer " + name_ + " " + trouble + ".");
     }
 }
 

@@ -16,8 +16,9 @@ namespace tarn {
 /// does not tell a stopped queue apart, and says nothing of a job that was refused.
 class CupsQueue {
   public:
-    /// Raises PrinterError when the server does not answer, when there is no default queue, and
-    /// when it is stopped or takes no jobs.
+    /// Raises PrinterError when the server does not answer, when there is no default queue, when
+    /// it is stopped or takes no jobs, and when it is busy with a job whose paper cannot come out
+    /// (see PrinterTrouble).
     explicit CupsQueue(CupsPatience patience = {});
 
     const std::string& Name() const { return name_; }
