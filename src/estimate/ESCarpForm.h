@@ -66,7 +66,6 @@ class ESCarpForm : public Screen, public FillsClient {
     bool PictureMouseDown(Double x, Double y);
     void SetPasteCuts(bool paste);
     void PrintPic();
-    void SendToPrinter();
     EstimatePage Page() const;
     void SavePicture(const char* suffix, const std::function<void(const std::string& path)>& write);
     void SaveRooms();

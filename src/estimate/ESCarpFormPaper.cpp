@@ -1,9 +1,9 @@
 // The estimate on paper and in files.
 
 #include "app/OutputFile.h"
+#include "app/Printing.h"
 #include "app/QtText.h"
 #include "app/SaveAs.h"
-#include "app/WaitCursor.h"
 #include "estimate/ESCarpForm.h"
 #include "estimate/EstimatePage.h"
 #include "estimate/Svg.h"
@@ -44,21 +44,13 @@ void ESCarpForm::BuildPictureMenu() {
     picture_->ContextMenu = [this](QPoint global) { pictureMenu_->popup(global); };
 }
 
-/// Whatever fails on the way to the paper is told as the printer's failure.
 void ESCarpForm::PrintPic() {
-    try {
-        SendToPrinter();
-    } catch (const std::exception&) {
-        Shared().Boxes.Message(PrinterNotReadyMessage);
-    }
-}
-
-void ESCarpForm::SendToPrinter() {
-    const WaitCursor waiting;
-    if (State().PrnWidth == 0 || State().PrnHeight == 0) {
-        TakePrinterPage(State(), Shared().Paper);
-    }
-    Shared().Paper.PrintEstimate(Page());
+    Printed(Shared().Boxes, [this] {
+        if (State().PrnWidth == 0 || State().PrnHeight == 0) {
+            TakePrinterPage(State(), Shared().Paper);
+        }
+        Shared().Paper.PrintEstimate(Page());
+    });
 }
 
 EstimatePage ESCarpForm::Page() const {

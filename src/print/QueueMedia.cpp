@@ -36,13 +36,14 @@ Paper LandscapeOf(const Sheet& sheet) {
     return paper;
 }
 
-/// The size with that name, as standards or drivers call it.
+/// The size with that name, as standards or drivers call it; none for a roll without an end.
 const pwg_media_t* SizeNamed(const std::string& name) {
     if (name.empty()) {
         return nullptr;
     }
     const pwg_media_t* known = pwgMediaForPWG(name.c_str());
-    return known == nullptr ? pwgMediaForPPD(name.c_str()) : known;
+    known = known == nullptr ? pwgMediaForPPD(name.c_str()) : known;
+    return known != nullptr && known->width > 0 && known->length > 0 ? known : nullptr;
 }
 
 /// What the queue has of that size, with the largest margins that it lists for it; the size alone

@@ -2,10 +2,10 @@
 
 #include "app/Numbers.h"
 #include "app/OutputFile.h"
+#include "app/Printing.h"
 #include "app/QtText.h"
 #include "app/RunTimeError.h"
 #include "app/SaveAs.h"
-#include "app/WaitCursor.h"
 #include "print/PdfFile.h"
 #include "rooms/Report.h"
 #include "rooms/ReportFrame.h"
@@ -161,14 +161,9 @@ void TarnForm::SetEntryEnabled(bool enabled) {
 }
 
 void TarnForm::PrintReport() {
-    try {
-        const WaitCursor waiting;
-        Shared().Paper.PrintReport(report_->Text());
-    } catch (const std::exception&) {
-        Shared().Boxes.Message(PrinterNotReadyMessage);
-        return;
+    if (Printed(Shared().Boxes, [this] { Shared().Paper.PrintReport(report_->Text()); })) {
+        CloseReport();
     }
-    CloseReport();
 }
 
 void TarnForm::SaveReportAsPdf() {
