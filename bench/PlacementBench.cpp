@@ -36,7 +36,7 @@ void PlaceAll(benchmark::State& bench) {
         sizes.push_back({engine.PieceWid[i], engine.PieceLen[i]});
     }
     tarn::RollLayout layout;
-    for (auto _ : bench) {
+    for ([[maybe_unused]] const auto _ : bench) {
         benchmark::DoNotOptimize(
             layout.PlaceAll(sizes, engine.RollWidth, std::numeric_limits<tarn::Long>::max()));
     }

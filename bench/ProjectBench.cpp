@@ -48,14 +48,14 @@ struct FullProject {
 
 void OpenDatabase(benchmark::State& bench) {
     const FullProject project;
-    for (auto _ : bench) {
+    for ([[maybe_unused]] const auto _ : bench) {
         benchmark::DoNotOptimize(tarn::OpenSqlDatabase(project.File));
     }
 }
 
 void Load501Rooms(benchmark::State& bench) {
     FullProject project;
-    for (auto _ : bench) {
+    for ([[maybe_unused]] const auto _ : bench) {
         const tarn::ProjectLoad load = tarn::LoadProject(project.State);
         if (load.Result != tarn::ProjectLoad::Outcome::Loaded) {
             bench.SkipWithError("the project was not loaded");
@@ -65,7 +65,7 @@ void Load501Rooms(benchmark::State& bench) {
 
 void Save501Rooms(benchmark::State& bench) {
     FullProject project;
-    for (auto _ : bench) {
+    for ([[maybe_unused]] const auto _ : bench) {
         if (!tarn::SaveProject(project.State)) {
             bench.SkipWithError("the project was not saved");
         }
@@ -75,7 +75,7 @@ void Save501Rooms(benchmark::State& bench) {
 void Report501Rooms(benchmark::State& bench) {
     tarn::SharedState state;
     FillRooms(state);
-    for (auto _ : bench) {
+    for ([[maybe_unused]] const auto _ : bench) {
         benchmark::DoNotOptimize(tarn::LoadReport(state, "2026-01-31"));
     }
 }
@@ -85,12 +85,14 @@ void Draw3000Parts(benchmark::State& bench) {
     tarn::CarpetEstimate estimate;
     tarn::EngineArrays engine;
     engine.RollWidth = 144;
+    constexpr int PiecesAcross = 6;
     for (Integer i = 0; i < tarn::MaxPiece; ++i) {
+        const int row = i / PiecesAcross;
         engine.PCX2[i] = 2400;
         engine.PCY2[i] = 1200;
-        engine.OrgPC[i] = static_cast<Integer>(i / 6);
-        engine.PosX[i] = static_cast<tarn::Single>(24 * (i % 6));
-        engine.PosY[i] = static_cast<tarn::Single>(12 * (i / 6));
+        engine.OrgPC[i] = static_cast<Integer>(row);
+        engine.PosX[i] = static_cast<tarn::Single>(24 * (i % PiecesAcross));
+        engine.PosY[i] = static_cast<tarn::Single>(12 * row);
         engine.PosW[i] = 24;
         engine.PosL[i] = 12;
     }
@@ -98,7 +100,7 @@ void Draw3000Parts(benchmark::State& bench) {
     engine.PosCount = tarn::MaxPiece;
     engine.ResultLen = 6000;
     estimate.SavedFillCount = 500;
-    for (auto _ : bench) {
+    for ([[maybe_unused]] const auto _ : bench) {
         tarn::Picture picture;
         tarn::RedrawPC(picture, state, engine, estimate);
         tarn::ShowECutsInfo(picture, state, engine, estimate, tarn::CutListX, tarn::CutListY);

@@ -33,7 +33,7 @@ void WholeSearch(benchmark::State& bench) {
     const tarn::EngineArrays fills = Fills(static_cast<int>(bench.range(0)));
     tarn::EngineArrays engine;
     tarn::SearchObserver nobody;
-    for (auto _ : bench) {
+    for ([[maybe_unused]] const auto _ : bench) {
         bench.PauseTiming();
         engine = fills;
         bench.ResumeTiming();

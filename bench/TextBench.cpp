@@ -8,13 +8,13 @@
 namespace {
 
 void ReadNumber(benchmark::State& bench, const std::string& text) {
-    for (auto _ : bench) {
+    for ([[maybe_unused]] const auto _ : bench) {
         benchmark::DoNotOptimize(tarn::Val(text));
     }
 }
 
 void FormatNumber(benchmark::State& bench, double value) {
-    for (auto _ : bench) {
+    for ([[maybe_unused]] const auto _ : bench) {
         benchmark::DoNotOptimize(tarn::Format(value, "#,##0.00"));
     }
 }

@@ -118,9 +118,9 @@ class SearchOfLargeJobs : public ::testing::TestWithParam<int> {};
 TEST_P(SearchOfLargeJobs, GivesTheSameAsThePlainOne) {
     const int fills = GetParam();
     reference::RandomSource random(static_cast<std::uint32_t>(fills));
-    std::vector<reference::Extent> extents;
-    for (int i = 0; i < fills; ++i) {
-        extents.push_back({random.Whole(1, 143), random.Whole(12, 60)});
+    std::vector<reference::Extent> extents(static_cast<std::size_t>(fills));
+    for (reference::Extent& extent : extents) {
+        extent = {random.Whole(1, 143), random.Whole(12, 60)};
     }
     for (const int option : {0, 1, 25}) {
         SCOPED_TRACE(option);

@@ -78,10 +78,12 @@ TEST(TypedText, IsNeverLongerThanAllowedAndKeepsBothSides) {
         const std::u32string removed = randomText(random, 3);
         const std::u32string right = randomText(random, 5);
         const std::u32string inserted = randomText(random, 8);
-        const std::u32string before = left + removed + right;
+        std::u32string before = left;
+        before.append(removed).append(right);
+        std::u32string typed = left;
+        typed.append(inserted).append(right);
         const FieldRule rule{6, i % 2 == 0 ? Breaks::Blanks : Breaks::EndOnly};
-        const TypedText fitted =
-            Fitted(before, {left + inserted + right, left.size() + inserted.size()}, rule);
+        const TypedText fitted = Fitted(before, {typed, left.size() + inserted.size()}, rule);
         ASSERT_LE(fitted.Text.size(), std::max(before.size(), std::size_t{6}));
         ASSERT_EQ(fitted.Text.substr(0, left.size()), left);
         ASSERT_EQ(fitted.Text.substr(fitted.Cursor), right);
