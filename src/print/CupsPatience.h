@@ -10,7 +10,7 @@ struct CupsPatience {
     /// document to be taken; half of it again for what tidies up after a failed job.
     std::chrono::milliseconds Answers{5000};
     /// For the document of one job.
-    std::chrono::milliseconds Upload{60000};
+    std::chrono::milliseconds Upload{20000};
 };
 
 } // namespace tarn

@@ -25,7 +25,7 @@ class CupsProxy {
         DrippingAnswer ///< the answer comes byte by byte, each after a while
     };
     static constexpr qint64 UploadBytes = 20000;
-    static constexpr int LateMs = 800;
+    static constexpr int LateMs = 1500;
 
     /// One fault for each connection, in their order; the last one is that of all others, too.
     /// `onFault` is called in a thread of the proxy's when an upload gets stuck or is hung up.
