@@ -7,7 +7,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <chrono>
 #include <stdexcept>
 #include <thread>
 
@@ -246,7 +245,10 @@ TEST(ImproveRun, AsksAfterALongStepToo) {
     const ImproveJob job{12, 1, 1, 1, {{4, 30, 3}}};
     int asked = 0;
     ImproveRun run(job, {31, 1, 0}, ImproveLimits(), [&](Long, Long) { return ++asked > 0; });
-    std::this_thread::sleep_for(std::chrono::milliseconds(25));
+    constexpr Double LongStep = 0.025; // seconds
+    while (run.Passed() < LongStep) {
+        std::this_thread::yield();
+    }
     run.Spend();
     EXPECT_EQ(run.Steps(), 1);
     EXPECT_EQ(asked, 1);
