@@ -66,6 +66,7 @@ class ESCarpForm : public Screen, public FillsClient {
     bool PictureMouseDown(Double x, Double y);
     void SetPasteCuts(bool paste);
     void PrintPic();
+    void AskForPage();
     EstimatePage Page() const;
     void SavePicture(const char* suffix, const std::function<void(const std::string& path)>& write);
     void SaveRooms();

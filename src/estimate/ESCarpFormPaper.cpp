@@ -3,6 +3,7 @@
 #include "app/OutputFile.h"
 #include "app/Printing.h"
 #include "app/QtText.h"
+#include "app/RunTimeError.h"
 #include "app/SaveAs.h"
 #include "estimate/ESCarpForm.h"
 #include "estimate/EstimatePage.h"
@@ -47,10 +48,19 @@ void ESCarpForm::BuildPictureMenu() {
 void ESCarpForm::PrintPic() {
     Printed(Shared().Boxes, [this] {
         if (State().PrnWidth == 0 || State().PrnHeight == 0) {
-            TakePrinterPage(State(), Shared().Paper);
+            AskForPage();
         }
         Shared().Paper.PrintEstimate(Page());
     });
+}
+
+void ESCarpForm::AskForPage() {
+    try {
+        TakePrinterPage(State(), Shared().Paper);
+    } catch (const RunTimeError&) {
+        // A sheet of more than 22 inches: the printer knows its size, PrnWidth and PrnHeight
+        // cannot.
+    }
 }
 
 EstimatePage ESCarpForm::Page() const {

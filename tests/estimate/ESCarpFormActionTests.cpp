@@ -177,16 +177,17 @@ TEST_F(ESCarpFormActions, TellOnceThatThePrinterIsNotReadyAndStayUsable) {
     }
 }
 
-TEST_F(ESCarpFormActions, TreatAPageTooLargeAsAPrinterThatIsNotReady) {
+TEST_F(ESCarpFormActions, PrintOnASheetThatIsTooLargeForTheSharedSize) {
     OpenEstimated();
     printer.Size = {20000, 40000};
     Click(Button("Command5"));
-    EXPECT_EQ(boxes.Messages, std::vector<std::string>{PrinterNotReadyMessage});
+    EXPECT_TRUE(boxes.Messages.empty());
     EXPECT_EQ(state.PrnHeight, 0);
-    EXPECT_TRUE(printer.Estimates.empty());
+    ASSERT_EQ(printer.Estimates.size(), 1U);
+    EXPECT_EQ(printer.Estimates[0].PrnHeight, 0) << "which stands for the printer's own sheet";
     printer.Size = {16838, 11906};
     Click(Button("Command5"));
-    EXPECT_EQ(printer.Estimates.size(), 1U);
+    EXPECT_EQ(printer.Estimates.size(), 2U);
     EXPECT_EQ(state.PrnWidth, 16838) << "the page is asked for again";
 }
 
