@@ -6,11 +6,12 @@ namespace tarn {
 
 namespace {
 
+constexpr std::string_view ByteOrderMark = "\xEF\xBB\xBF";
+
 class CsvSplitter {
   public:
     explicit CsvSplitter(std::string_view text)
         : rest_(text) {
-        constexpr std::string_view ByteOrderMark = "\xEF\xBB\xBF";
         if (rest_.starts_with(ByteOrderMark)) {
             rest_.remove_prefix(ByteOrderMark.size());
         }
@@ -118,7 +119,9 @@ void AppendCsvRecord(std::string& text, const std::vector<std::string>& fields) 
     for (const std::string& field : fields) {
         text += separator;
         separator = ",";
-        if (field.find_first_of(",\"\r\n") == std::string::npos) {
+        // A mark at the start of the text would be taken for the file's.
+        if (field.find_first_of(",\"\r\n") == std::string::npos &&
+            !(text.empty() && field.starts_with(ByteOrderMark))) {
             text += field;
             continue;
         }

@@ -30,8 +30,8 @@ struct CsvRecord {
 std::vector<CsvRecord> SplitCsv(std::string_view text);
 
 /// Append one record with a line end (CR LF) to `text`. A field is quoted when it holds a comma, a
-/// quote or a line end; SplitCsv gives the same fields back, except that one empty field alone is
-/// an empty line.
+/// quote or a line end, or would begin the text with a byte-order mark; SplitCsv gives the same
+/// fields back, except that one empty field alone is an empty line.
 void AppendCsvRecord(std::string& text, const std::vector<std::string>& fields);
 
 } // namespace tarn

@@ -102,6 +102,18 @@ TEST(AppendCsvRecord, QuotesOnlyWhereItMust) {
     EXPECT_EQ(text, "a b,\"1,2\",\"12'6\"\"\",\"x\ny\",\"x\ry\",\r\n");
 }
 
+TEST(AppendCsvRecord, DoesNotBeginATextWithAByteOrderMarkOfAField) {
+    const Fields fields{"\xEF\xBB\xBFone", "two"};
+    std::string text;
+    AppendCsvRecord(text, fields);
+    AppendCsvRecord(text, fields);
+    EXPECT_EQ(text, "\"\xEF\xBB\xBFone\",two\r\n\xEF\xBB\xBFone,two\r\n");
+    const auto records = SplitCsv(text);
+    ASSERT_EQ(records.size(), 2U);
+    EXPECT_EQ(records[0].Fields, fields);
+    EXPECT_EQ(records[1].Fields, fields);
+}
+
 TEST(AppendCsvRecord, IsReadBackWhateverTheTexts) {
     for (unsigned seed = 1; seed <= 300; ++seed) {
         SCOPED_TRACE(seed);

@@ -1,0 +1,55 @@
+#include "rooms/RoomCsv.h"
+
+#include "Fuzzing.h"
+#include "rooms/CsvText.h"
+
+#include <algorithm>
+
+namespace tarn {
+namespace {
+
+void CheckRecords(std::string_view text) {
+    const auto lines =
+        1 + std::count_if(text.begin(), text.end(), [](char c) { return c == '\n' || c == '\r'; });
+    long long line = 0;
+    for (const CsvRecord& record : SplitCsv(text)) {
+        Require(record.Line > line && record.Line <= lines, "records begin on lines of their own");
+        line = record.Line;
+        Require(!record.Fields.empty(), "a record has a field");
+        if (record.Fault == CsvFault::None) {
+            std::string again;
+            AppendCsvRecord(again, record.Fields);
+            const auto back = SplitCsv(again);
+            const bool oneEmpty = record.Fields == std::vector<std::string>{""};
+            Require(oneEmpty ? back.empty() : back.size() == 1 && back[0].Fields == record.Fields,
+                    "fields that are written are read back");
+        }
+    }
+}
+
+void CheckRooms(std::string_view text, bool metric) {
+    const RoomCsvReading reading = ReadRoomCsv(text, metric);
+    Require(reading.Rooms.empty() || reading.Errors.empty(), "rooms or mistakes");
+    for (const RoomCsvError& error : reading.Errors) {
+        Require(error.Line >= 1 && !error.Problem.empty(), "a mistake has a place and a cause");
+        Require(ErrorText(error).find('\n') == std::string::npos, "a mistake is one line");
+    }
+    if (reading.Succeeded()) {
+        const RoomCsvReading back = ReadRoomCsv(WriteRoomCsv(reading.Rooms), metric);
+        Require(back.Succeeded() && back.Rooms == reading.Rooms, "rooms are read back");
+    }
+}
+
+} // namespace
+} // namespace tarn
+
+/// The first byte is the unit, the rest is the file.
+int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    if (size == 0) {
+        return 0;
+    }
+    const std::string_view text = tarn::TextOf(data + 1, size - 1);
+    tarn::CheckRecords(text);
+    tarn::CheckRooms(text, data[0] % 2 == 1);
+    return 0;
+}
