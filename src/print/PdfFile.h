@@ -8,11 +8,13 @@
 
 namespace tarn {
 
-/// The pages that a printer gets, as a PDF document: landscape, real text in embedded faces. They
-/// need a QGuiApplication, on whatever platform. Raise PrinterError when the pages cannot be made.
+/// The pages that a printer gets, as a PDF document: landscape, real text in embedded faces, inside
+/// the margins of `paper`. They need a QGuiApplication, on whatever platform. Raise PrinterError
+/// when the pages cannot be made.
 std::string ReportPdf(std::string_view text, const Paper& paper = {});
 std::string EstimatePdf(const EstimatePage& page, const Paper& paper);
-/// The same on a sheet of the page's PrnWidth by PrnHeight; A4 when either is 0.
+/// The same on a sheet of the page's PrnWidth by PrnHeight, with the least margins; A4 when either
+/// is 0.
 std::string EstimatePdf(const EstimatePage& page);
 
 /// Write such a document to a file, whole or not at all. Raise OutputFileError, which names the

@@ -1,5 +1,6 @@
 // The clip, the selecting and the kinds of surfaces.
 
+#include "app/Numbers.h"
 #include "app/RunTimeError.h"
 #include "print/APIFontTesting.h"
 
@@ -38,6 +39,24 @@ TEST(APIFont, CharPlaceClipsToTwiceTheSizeInTheSurfacesOwnFont) {
     EXPECT_GE(ink.left(), 40);
     EXPECT_NEAR(ink.right() + 1, 40 + 2 * own.horizontalAdvance(QStringLiteral("HHH")), 1);
     EXPECT_NEAR(ink.bottom() + 1, 30 + 2 * (own.ascent() + own.descent()), 1);
+}
+
+TEST(APIFont, EveryEdgeOfTheClipIsRoundedByItself) {
+    bool told = false; // rounding the width apart would give another edge
+    for (int tenths = 0; tenths < 20; ++tenths) {
+        Canvas canvas;
+        const Double at = 40 + tenths / 10.0;
+        APIFont font = Sans(20);
+        font.SelectFont(canvas.Surface());
+        font.CharPlace(canvas.Surface(), "HiH", at, at);
+        const Double width = 2 * canvas.Surface().TextWidth("HiH");
+        const Double height = 2 * canvas.Surface().TextHeight("HiH");
+        const QRectF clip = canvas.Painter().clipBoundingRect();
+        EXPECT_EQ(clip.topLeft(), QPointF(CLng(at), CLng(at)));
+        EXPECT_EQ(clip.bottomRight(), QPointF(CLng(at + width), CLng(at + height)));
+        told = told || CLng(at + width) != CLng(at) + CLng(width);
+    }
+    EXPECT_TRUE(told);
 }
 
 TEST(APIFont, TheClipOfCharPlaceStaysInForce) {

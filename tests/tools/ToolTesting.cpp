@@ -59,7 +59,7 @@ QString ToolTest::MakeDatabase() const {
 
 QString ToolTest::MakeDatabase(const QString& project, const QByteArray& csv,
                                const QStringList& options) const {
-    const QString database = MakeDatabase();
+    QString database = MakeDatabase();
     const QStringList arguments{QStringLiteral("import"),
                                 QStringLiteral("--database"),
                                 database,
