@@ -64,6 +64,15 @@ std::string RoomList(const Slots& slots) {
     return list;
 }
 
+/// "the project A", "the projects A, B".
+std::string ProjectList(const std::vector<std::string>& projects) {
+    std::string list;
+    for (const std::string& project : projects) {
+        list += (list.empty() ? "" : ", ") + project;
+    }
+    return (projects.size() == 1 ? "the project " : "the projects ") + list;
+}
+
 /// The slots of the rows for which `holds` is true.
 template <typename Condition>
 Slots SlotsWhere(const std::vector<RoomRow>& rows, Condition holds) {
@@ -119,7 +128,8 @@ std::vector<RoomRow> ReadRoomRows(SharedState& state, Integer tid) {
     return read;
 }
 
-std::vector<std::string> RoomFindings(const std::vector<RoomRow>& rows, Integer objNum) {
+std::vector<std::string> RoomFindings(const std::vector<RoomRow>& rows, Integer objNum,
+                                      const std::vector<std::string>& sharing) {
     std::vector<std::string> lines;
     const auto add = [&lines](const std::string& kind, const Slots& slots) {
         if (!slots.empty()) {
@@ -130,6 +140,11 @@ std::vector<std::string> RoomFindings(const std::vector<RoomRow>& rows, Integer 
         add(kind, SlotsWhere(rows, holds));
     };
 
+    if (!sharing.empty()) {
+        addWhere("Stored under one number with " + ProjectList(sharing) +
+                     ", whose rooms they may be",
+                 [](const RoomRow&) { return true; });
+    }
     add("Missing, read as empty", MissingSlots(rows, objNum));
     addWhere("Beyond the end of the project, dropped by SAVE",
              [objNum](const RoomRow& row) { return *row.Slot >= objNum; });

@@ -26,6 +26,8 @@ std::vector<RoomRow> ReadRoomRows(SharedState& state, Integer tid);
 /// What is odd about the rows of a project of `objNum` rooms: rooms without a row, rows beyond the
 /// project, several rows for one room, nulls in numbers, unknown coverings and wall bases. One line
 /// for each kind, with the rooms counted from 1: "Missing, read as empty: rooms 2, 4 to 6."
-std::vector<std::string> RoomFindings(const std::vector<RoomRow>& rows, Integer objNum);
+/// `sharing` names the other projects under the same sheet number: a row does not tell whose it is.
+std::vector<std::string> RoomFindings(const std::vector<RoomRow>& rows, Integer objNum,
+                                      const std::vector<std::string>& sharing);
 
 } // namespace tarn

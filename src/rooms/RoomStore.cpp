@@ -28,21 +28,24 @@ void AddRoomRow(Recordset& rows, std::int64_t number, const RoomRecord& room, st
     rows.Update();
 }
 
-bool BelongsToAnother(SharedState& state, Integer sheet) {
+/// The other projects that have a sheet under that number, as stored.
+std::vector<std::string> OthersUnder(SharedState& state, Integer sheet) {
     const auto rows = OpenedDatabase(state).OpenSnapshot(SheetQuery(MainTab, sheet));
+    std::vector<std::string> others;
     for (; !rows->AtEnd(); rows->MoveNext()) {
-        if (StoredName(TextIn(*rows, "ProjName")) != StoredName(state.CurProjName)) {
-            return true;
+        const std::string project = TextIn(*rows, "ProjName");
+        if (StoredName(project) != StoredName(state.CurProjName)) {
+            others.push_back(project);
         }
     }
-    return false;
+    return others;
 }
 
 /// The number under which to save the open project; see SaveProject.
 Integer SheetToSave(SharedState& state) {
     const auto own = FindProjTabIndex(state);
     const Long sheet = own.value_or(state.CurTabIndex);
-    if (sheet != NoSheet && !BelongsToAnother(state, ToInteger(sheet))) {
+    if (sheet != NoSheet && OthersUnder(state, ToInteger(sheet)).empty()) {
         return ToInteger(sheet);
     }
     if (own) { // under a number that two projects share
@@ -74,7 +77,7 @@ void LoadSheetAndRooms(SharedState& state, Integer sheet, ProjectLoad& load) {
             PutRoom(state, *row.Slot, row.Room);
         }
     }
-    load.Findings = RoomFindings(rows, state.ObjNum);
+    load.Findings = RoomFindings(rows, state.ObjNum, OthersUnder(state, sheet));
     state.CurTabIndex = number;
     state.NewSheetFlag = false;
 }

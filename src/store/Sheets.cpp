@@ -6,6 +6,7 @@
 #include "store/Deletions.h"
 #include "store/Failure.h"
 #include "store/Fields.h"
+#include "store/Names.h"
 #include "store/Schema.h"
 #include "store/SharedRows.h"
 
@@ -18,6 +19,18 @@ namespace {
 
 constexpr std::string_view EnteredMetricField = "EnteredMetric";
 
+/// Stand the rows of one sheet number on that of CurProjName: older files may have several projects
+/// under one number. On the first row when that project has none.
+void MoveToOwnRow(Recordset& sheets, const SharedState& state) {
+    const std::string own = StoredName(state.CurProjName);
+    while (!sheets.AtEnd() && StoredName(TextIn(sheets, "ProjName")) != own) {
+        sheets.MoveNext();
+    }
+    if (sheets.AtEnd()) {
+        sheets.MoveFirst();
+    }
+}
+
 /// The current row's EnteredMetric.
 bool EnteredMetricOf(const Recordset& sheet) {
     const auto entered =
@@ -27,7 +40,9 @@ bool EnteredMetricOf(const Recordset& sheet) {
 
 void StoreSheet(SharedState& state, Integer tabIndex) {
     const auto sheet = OpenedDatabase(state).OpenDynaset(SheetQuery(MainTab, tabIndex));
+    MoveToOwnRow(*sheet, state);
     const bool wasMetric = !sheet->AtEnd() && EnteredMetricOf(*sheet);
+    sheet->MoveFirst();
     DeleteAllRows(*sheet);
 
     sheet->AddNew();
@@ -66,6 +81,7 @@ void RequireGood(bool good, std::string_view field) {
 
 void LoadSheet(SharedState& state, Integer& tabIndex) {
     const auto sheet = OpenedDatabase(state).OpenSnapshot(SheetQuery(MainTab, tabIndex));
+    MoveToOwnRow(*sheet, state);
     if (sheet->AtEnd()) {
         throw DatabaseError("The project's sheet, number " + TrimStr(tabIndex) + ", is missing.");
     }
@@ -106,6 +122,7 @@ bool LoadMainTab(SharedState& state, Integer& tabIndex) {
 
 bool WasEnteredInMetric(SharedState& state, Integer tabIndex) {
     const auto sheet = OpenedDatabase(state).OpenSnapshot(SheetQuery(MainTab, tabIndex));
+    MoveToOwnRow(*sheet, state);
     return !sheet->AtEnd() && EnteredMetricOf(*sheet);
 }
 

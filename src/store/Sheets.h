@@ -10,6 +10,9 @@ namespace tarn {
 /// What GetProjTabIndex answers for a project without a sheet. Never stored.
 inline constexpr Long NoSheet = -100;
 
+/// A sheet number belongs to one project. Where a file has several projects under one, the row of
+/// CurProjName counts, and the first one when that project has none.
+
 /// Replace the sheet rows of `tabIndex` by one that holds CurProjName, ObjNum, DimScale and
 /// MetricFlag. EnteredMetric, where the table has that field, becomes 0 without rooms, else 1 with
 /// MetricFlag 1, else keeps its value. False, with the cause in DatabaseFailure, at the first

@@ -214,6 +214,39 @@ TEST_F(LoadingAProject, NamesUnknownCoveringsAndWallBasesAndKeepsThem) {
     EXPECT_EQ(state_.RoomBase[2], 9);
 }
 
+TEST_F(LoadingAProject, ReadsItsOwnSheetUnderANumberThatProjectsShare) {
+    file_.AddProject("MARCH", "A", 5, 0);
+    file_.AddProject("MARCH", "P", 5, 1);
+    file_.Run("UPDATE MainTab SET EnteredMetric = 1 WHERE ProjName = 'P'");
+    const ProjectLoad load = LoadProject(state_);
+    EXPECT_EQ(load.Result, Outcome::Loaded) << load.Cause;
+    EXPECT_EQ(state_.ObjNum, 1);
+    EXPECT_EQ(state_.RoomWidth[0], 100);
+    EXPECT_TRUE(load.EnteredMetric);
+    EXPECT_EQ(
+        load.Findings,
+        Lines{"Stored under one number with the project A, whose rooms they may be: room 1."});
+
+    EXPECT_TRUE(SaveProject(state_)) << state_.DatabaseFailure;
+    EXPECT_EQ(file_.Rows("SELECT TabIndex, ProjName, ObjNum FROM MainTab ORDER BY TabIndex"),
+              (Lines{"5|A|0", "6|P|1"}));
+    EXPECT_EQ(file_.Rows("SELECT RoomW FROM InputData WHERE TabIndex = 6"), Lines{"100"});
+    EXPECT_EQ(Findings(), Lines{}) << "told apart from now on";
+}
+
+TEST_F(LoadingAProject, NamesTheRoomsThatMayBeThoseOfOtherProjects) {
+    AddProject(1);
+    file_.AddProject("MARCH", "B", 5, 2);
+    file_.AddProject("MARCH", "C", 5, 0);
+    EXPECT_EQ(Findings(), (Lines{"Stored under one number with the projects B, C, whose rooms they "
+                                 "may be: rooms 1, 2.",
+                                 "Beyond the end of the project, dropped by SAVE: room 2.",
+                                 "Stored more than once, the last row is used: room 1."}));
+    file_.Run("DELETE FROM InputData");
+    file_.Run("UPDATE MainTab SET ObjNum = 0");
+    EXPECT_EQ(Findings(), Lines{}) << "no room, no doubt";
+}
+
 TEST_F(LoadingAProject, WhatIsSavedLoadsWithoutFindings) {
     AddProject(3);
     file_.Run("UPDATE MainTab SET ObjNum = 2");

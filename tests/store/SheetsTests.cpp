@@ -217,6 +217,35 @@ TEST_F(Sheets, AMissingFieldFailsToLoad) {
     EXPECT_NE(state_.DatabaseFailure.find("ScaleTop"), std::string::npos);
 }
 
+TEST_F(Sheets, OfSeveralUnderOneNumberTheProjectsOwnIsLoaded) {
+    file_.AddProject("MARCH", "A", 4, 2);
+    file_.AddProject("MARCH", "P", 4, 3);
+    file_.AddProject("MARCH", "Z", 4, 5);
+    file_.Run("UPDATE MainTab SET EnteredMetric = 1 WHERE ProjName = 'P'");
+    Integer number = 4;
+    EXPECT_TRUE(LoadMainTab(state_, number));
+    EXPECT_EQ(state_.ObjNum, 3);
+    EXPECT_TRUE(WasEnteredInMetric(state_, 4));
+
+    state_.CurProjName = "Z";
+    EXPECT_TRUE(LoadMainTab(state_, number));
+    EXPECT_EQ(state_.ObjNum, 5);
+    EXPECT_FALSE(WasEnteredInMetric(state_, 4));
+
+    state_.CurProjName = "NONE OF THEM";
+    EXPECT_TRUE(LoadMainTab(state_, number));
+    EXPECT_EQ(state_.ObjNum, 2) << "the first";
+}
+
+TEST_F(Sheets, SaveKeepsTheUnitsOfTheProjectsOwnRow) {
+    file_.AddProject("MARCH", "A", 4, 2);
+    file_.AddProject("MARCH", "P", 4, 3);
+    file_.Run("UPDATE MainTab SET EnteredMetric = 1 WHERE ProjName = 'P'");
+    state_.ObjNum = 3;
+    EXPECT_TRUE(SaveMainTab(state_, 4));
+    EXPECT_EQ(file_.Rows("SELECT ProjName, EnteredMetric FROM MainTab"), Lines{"P|1"});
+}
+
 // --- numbers ---
 
 TEST_F(Sheets, TheFirstSheetIsNumberZero) {
