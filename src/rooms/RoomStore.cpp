@@ -41,6 +41,17 @@ std::vector<std::string> OthersUnder(SharedState& state, Integer sheet) {
     return others;
 }
 
+/// Give every sheet of the open project that number.
+void RenumberSheets(SharedState& state, Integer number) {
+    const auto rows =
+        OpenedDatabase(state).OpenDynaset(TextQuery(MainTab, "ProjName", state.CurProjName));
+    for (; !rows->AtEnd(); rows->MoveNext()) {
+        rows->Edit();
+        rows->SetField("TabIndex", std::int64_t{number});
+        rows->Update();
+    }
+}
+
 /// The number under which to save the open project; see SaveProject.
 Integer SheetToSave(SharedState& state) {
     const auto own = FindProjTabIndex(state);
@@ -48,11 +59,13 @@ Integer SheetToSave(SharedState& state) {
     if (sheet != NoSheet && OthersUnder(state, ToInteger(sheet)).empty()) {
         return ToInteger(sheet);
     }
-    if (own) { // under a number that two projects share
-        DeleteAllRows(
-            *OpenedDatabase(state).OpenDynaset(TextQuery(MainTab, "ProjName", state.CurProjName)));
+    const Integer free = ToInteger(NewTabIndex(state));
+    if (own) {
+        // Under a number that two projects share. Saving replaces the row, and keeps from it
+        // whether the rooms were entered in metric.
+        RenumberSheets(state, free);
     }
-    return ToInteger(NewTabIndex(state));
+    return free;
 }
 
 std::string CauseOf(const RunTimeError& error) {

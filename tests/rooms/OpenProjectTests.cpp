@@ -145,6 +145,16 @@ TEST_F(OpenProjects, SavingWithoutMetricKeepsTheUnitsStored) {
     }
 }
 
+TEST_F(OpenProjects, RememberTheUnitsThatAreStoredAfterLeavingASharedNumber) {
+    file.AddProject("MARCH", "OTHER", 5);
+    file.Run("UPDATE MainTab SET EnteredMetric = 1 WHERE ProjName = 'P'");
+    Load();
+    EXPECT_TRUE(SaveOpenProject(state, project)) << state.DatabaseFailure;
+    EXPECT_EQ(state.CurTabIndex, 6);
+    EXPECT_TRUE(project.StoredInMetric);
+    EXPECT_TRUE(Load().EnteredMetric) << "as stored";
+}
+
 TEST_F(OpenProjects, SavingNoRoomForgetsTheUnits) {
     file.Run("UPDATE MainTab SET EnteredMetric = 1");
     Load();

@@ -215,6 +215,28 @@ TEST_F(SavingAProject, LeavesANumberThatTwoProjectsShare) {
     EXPECT_EQ(GetProjTabIndex(state_), 6) << "what was saved is what opens next time";
 }
 
+TEST_F(SavingAProject, KeepsItsUnitsWhenItLeavesASharedNumber) {
+    for (const char* stored : {"EnteredMetric = 1", "EnteredMetric = NULL, TileLabelNUm = 1"}) {
+        SCOPED_TRACE(stored);
+        file_.Run("DELETE FROM MainTab");
+        file_.AddProject("MARCH", "OTHER", 5);
+        file_.AddProject("MARCH", "P", 5);
+        file_.Run("UPDATE MainTab SET " + std::string(stored) + " WHERE ProjName = 'P'");
+        EXPECT_TRUE(SaveProject(state_)) << state_.DatabaseFailure;
+        EXPECT_EQ(file_.Rows("SELECT TabIndex, ProjName, EnteredMetric FROM MainTab "
+                             "ORDER BY TabIndex"),
+                  (Lines{"5|OTHER|0", "6|P|1"}));
+    }
+}
+
+TEST_F(SavingAProject, TakesNoUnitsFromTheProjectThatSharesItsNumber) {
+    file_.AddProject("MARCH", "OTHER", 5);
+    file_.Run("UPDATE MainTab SET EnteredMetric = 1 WHERE ProjName = 'OTHER'");
+    EXPECT_TRUE(SaveProject(state_)) << state_.DatabaseFailure;
+    EXPECT_EQ(file_.Rows("SELECT TabIndex, ProjName, EnteredMetric FROM MainTab ORDER BY TabIndex"),
+              (Lines{"5|OTHER|1", "6|P|0"}));
+}
+
 TEST_F(SavingAProject, NeverStoresTheNumberThatMeansNoSheet) {
     state_.CurProjName = "NEW";
     state_.CurTabIndex = NoSheet;
