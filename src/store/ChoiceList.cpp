@@ -6,6 +6,8 @@
 #include <QMouseEvent>
 #include <QSignalBlocker>
 
+#include <algorithm>
+
 namespace tarn {
 
 ChoiceList::ChoiceList(QWidget* parent)
@@ -43,6 +45,22 @@ void ChoiceList::Remove(int row) {
     const QSignalBlocker quiet(this);
     delete takeItem(row);
     Choose(-1);
+}
+
+void ChoiceList::KeepOnly(const std::vector<std::string>& names) {
+    const QSignalBlocker quiet(this);
+    const QListWidgetItem* chosen = item(Chosen());
+    bool dropped = false;
+    for (int row = count() - 1; row >= 0; --row) {
+        if (std::find(names.begin(), names.end(), FromQt(item(row)->text())) == names.end()) {
+            chosen = item(row) == chosen ? nullptr : chosen;
+            delete takeItem(row);
+            dropped = true;
+        }
+    }
+    if (dropped) {
+        Choose(chosen != nullptr ? row(chosen) : -1);
+    }
 }
 
 int ChoiceList::Chosen() const {

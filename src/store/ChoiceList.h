@@ -30,6 +30,8 @@ class ChoiceList : public QListWidget {
     void SetEntry(int row, const std::string& name);
     /// Remove an entry; none is chosen then.
     void Remove(int row);
+    /// Remove the entries that are not among `names`. The chosen one stays chosen unless it goes.
+    void KeepOnly(const std::vector<std::string>& names);
 
     /// The chosen row; -1 for none.
     int Chosen() const;

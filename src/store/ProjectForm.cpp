@@ -96,16 +96,6 @@ void ProjectForm::ShowSettings() {
     frame1_->Show(State().CurDirName, State().CurProjName);
 }
 
-void ProjectForm::ShowSettingsAfter(const std::function<void()>& change) {
-    try {
-        change();
-    } catch (...) {
-        ShowSettings();
-        throw;
-    }
-    ShowSettings();
-}
-
 std::string ProjectForm::CurrentMonth() const {
     return State().MonthStr[Shared().Today().month() - 1];
 }
@@ -302,6 +292,40 @@ void ProjectForm::AskProjectName() {
             });
 }
 
+void ProjectForm::Delete(const std::function<void()>& deletion) {
+    try {
+        deletion();
+    } catch (...) {
+        ShowSettings();
+        try {
+            DropMissingEntries();
+        } catch (const DatabaseError&) {
+            // What is gone cannot be told: the lists stay. The deletion's own failure is reported.
+        }
+        throw;
+    }
+    ShowSettings();
+}
+
+void ProjectForm::DropMissingEntries() {
+    ChoiceList& directories = *frame5_->List1[Directories];
+    ProjectBox& box = *frame5_->Text1;
+    const auto directory = ChosenDirectory();
+    const auto directoriesThere = ListDirectories(State());
+    const auto projectsThere =
+        directory ? ListProjects(State(), *directory) : std::vector<std::string>();
+    const bool boxHoldsMissing = box.IsLocked() && CheckProjName(State(), box.Name());
+
+    directories.KeepOnly(directoriesThere);
+    if (shownList_ == Directories) {
+        shownRow_ = directories.Chosen();
+    }
+    frame5_->List2->KeepOnly(ChosenDirectory() ? projectsThere : std::vector<std::string>());
+    if (boxHoldsMissing) {
+        box.SetName({});
+    }
+}
+
 void ProjectForm::AskDeleteDirectory() {
     if (!Shared().Boxes.AskYesNo(
             "Warning: Delete directory will make data under this directory lost!" +
@@ -310,7 +334,7 @@ void ProjectForm::AskDeleteDirectory() {
     }
     ChoiceList& list = *frame5_->List1[Directories];
     const int row = list.Chosen();
-    ShowSettingsAfter([&] { DeleteDirectory(State(), list.ChosenName().value(), CurrentMonth()); });
+    Delete([&] { DeleteDirectory(State(), list.ChosenName().value(), CurrentMonth()); });
     list.Remove(row);
     shownRow_ = -1;
     frame5_->List2->SetEntries({});
@@ -331,7 +355,7 @@ void ProjectForm::AskDeleteProject() {
     }
     ChoiceList& list = *frame5_->List2;
     const int row = list.Chosen();
-    ShowSettingsAfter([&] { DeleteProject(State(), list.ChosenName().value()); });
+    Delete([&] { DeleteProject(State(), list.ChosenName().value()); });
     list.Remove(row);
     const int neighbour = NeighbourOf(row, list);
     if (neighbour >= 0) {

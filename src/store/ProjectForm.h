@@ -57,8 +57,10 @@ class ProjectForm : public TitledScreen {
     void AskDeleteDirectory();
     void AskDeleteProject();
     void ShowSettings();
-    /// Show the settings as `change` left them, also when it raises.
-    void ShowSettingsAfter(const std::function<void()>& change);
+    /// Run a deletion and show the settings as it left them. When it raises half-way, what it took
+    /// is no longer offered, and all else stays as it was.
+    void Delete(const std::function<void()>& deletion);
+    void DropMissingEntries();
 
     SettingsPanel* frame1_;
     SelectionPanel* frame5_;

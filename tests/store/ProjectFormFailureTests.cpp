@@ -168,6 +168,89 @@ TEST_F(FailingProjects, ADeletionThatFailsHalfWayTakesTheLabelOfAProjectThatIsGo
     EXPECT_EQ(Selected(Directories()), "HOUSES");
 }
 
+TEST_F(FailingProjects, ADirectoryDeletedHalfWayOffersOnlyTheProjectsThatItStillHas) {
+    file.Run("CREATE TRIGGER Stop BEFORE DELETE ON ProjTab WHEN OLD.ProjName = 'TOWER' "
+             "BEGIN SELECT RAISE(ABORT, 'stop'); END");
+    Open();
+    boxes.OnMessage = [&] { EXPECT_EQ(Entries(Projects()), Lines{"TOWER"}) << "by the message"; };
+    ClickEntry(Directories(), "HOUSES");
+    ClickEntry(Projects(), "VILLA");
+    DeleteEntry(Directories(), "HOUSES");
+    ExpectMessage("The directory could not be deleted.", "stop");
+    EXPECT_EQ(file.Rows("SELECT ProjName FROM ProjTab WHERE Dir = 'HOUSES'"), Lines{"TOWER"});
+    EXPECT_EQ(Entries(Directories()), (Lines{"HOUSES", "SHOPS"}));
+    EXPECT_EQ(Selected(Directories()), "HOUSES");
+    EXPECT_EQ(Entries(Projects()), Lines{"TOWER"});
+    EXPECT_EQ(Selected(Projects()), "(none)");
+    EXPECT_EQ(BoxText(), "") << "it held a project that is gone";
+
+    file.Run("DROP TRIGGER Stop");
+    boxes.OnMessage = {};
+    DeleteEntry(Directories(), "HOUSES");
+    EXPECT_EQ(Entries(Directories()), Lines{"SHOPS"});
+}
+
+TEST_F(FailingProjects, ADirectoryDeletedHalfWayKeepsTheChoiceOfAProjectThatIsStillThere) {
+    file.Run("CREATE TRIGGER Stop BEFORE DELETE ON ProjTab WHEN OLD.ProjName = 'TOWER' "
+             "BEGIN SELECT RAISE(ABORT, 'stop'); END");
+    Open();
+    ClickEntry(Directories(), "HOUSES");
+    ClickEntry(Projects(), "TOWER");
+    boxes.YesNo.push_back(true);
+    QTest::keyClick(&Directories(), Qt::Key_Delete);
+    ExpectMessage("The directory could not be deleted.", "stop");
+    EXPECT_EQ(Entries(Projects()), Lines{"TOWER"});
+    EXPECT_EQ(Selected(Projects()), "TOWER");
+    EXPECT_EQ(BoxText(), "TOWER");
+}
+
+TEST_F(FailingProjects, ADeletionThatFailsHalfWayKeepsANameBeingTyped) {
+    file.Run("CREATE TRIGGER Stop BEFORE DELETE ON DirTab BEGIN SELECT RAISE(ABORT, 'stop'); END");
+    Open();
+    ClickEntry(Directories(), "HOUSES");
+    TypeNew("HUT");
+    DeleteEntry(Directories(), "HOUSES");
+    ExpectMessage("The directory could not be deleted.", "stop");
+    EXPECT_EQ(Entries(Projects()), Lines{});
+    EXPECT_EQ(BoxText(), "HUT");
+}
+
+TEST_F(FailingProjects, AnEntryThatAFailedDeletionFindsGoneIsNoLongerOffered) {
+    // Another program deletes the directory and locks the file.
+    Open();
+    ClickEntry(Directories(), "HOUSES");
+    RawDatabase other(file.Path());
+    other.Run("DELETE FROM DirTab WHERE Directory = 'HOUSES'");
+    other.Run("BEGIN IMMEDIATE");
+    boxes.YesNo.push_back(true);
+    QTest::keyClick(&Directories(), Qt::Key_Delete);
+    ExpectMessage("The directory could not be deleted.", "another program");
+    other.Run("ROLLBACK");
+    EXPECT_EQ(Entries(Directories()), Lines{"SHOPS"});
+    EXPECT_EQ(Selected(Directories()), "(none)");
+    EXPECT_EQ(Entries(Projects()), Lines{});
+
+    // A list that cannot be read has nothing to go back to but that: no entry.
+    file.Run("ALTER TABLE ProjTab RENAME TO Gone");
+    ClickEntry(Directories(), "SHOPS");
+    ExpectMessage("The projects could not be listed.", "ProjTab");
+    EXPECT_EQ(Selected(Directories()), "(none)");
+}
+
+TEST_F(FailingProjects, ListsThatCannotBeReadAfterAFailedDeletionStayAsTheyAre) {
+    Open();
+    ClickEntry(Directories(), "HOUSES");
+    ClickEntry(Projects(), "VILLA");
+    file.Run("ALTER TABLE ProjTab RENAME TO Gone");
+    boxes.YesNo.push_back(true);
+    QTest::keyClick(&Directories(), Qt::Key_Delete);
+    ExpectMessage("The directory could not be deleted.", "ProjTab");
+    EXPECT_EQ(Selected(Directories()), "HOUSES");
+    EXPECT_EQ(Entries(Projects()), (Lines{"VILLA", "TOWER"}));
+    EXPECT_EQ(Selected(Projects()), "VILLA");
+    EXPECT_EQ(BoxText(), "VILLA");
+}
+
 TEST_F(FailingProjects, ASheetNumberThatDoesNotFitIsARunTimeError) {
     file.AddProject("SHOPS", "STALL", 40000);
     Open();
