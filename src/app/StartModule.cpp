@@ -3,6 +3,7 @@
 #include "app/Configuration.h"
 #include "store/Failure.h"
 #include "store/Names.h"
+#include "store/ProjectNames.h"
 #include "store/SharedRows.h"
 #include "store/SqlDatabase.h"
 
@@ -78,7 +79,7 @@ bool RetryDataBase(SharedState& state) {
 }
 
 void FillMonthStr(SharedState& state) {
-    constexpr std::array<std::string_view, 12> Names = {
+    constexpr std::array<std::string_view, MonthsOfAYear> Names = {
         "JANUARY", "FEBRUARY", "MARCH",     "APRIL",   "MAY",      "JUNE",
         "JULY",    "AUGUST",   "SEPTEMBER", "OCTOBER", "NOVEMBER", "DECEMBER"};
     Integer month = 0;

@@ -108,13 +108,7 @@ void ProjectForm::OpenSelection() {
     const auto directories = ListDirectories(State());
     const auto projects = ListProjects(State(), CurrentMonth());
 
-    constexpr int MonthsOfAYear = 12;
-    std::vector<std::string> months;
-    months.reserve(MonthsOfAYear);
-    for (int i = 0; i < MonthsOfAYear; ++i) {
-        months.push_back(State().MonthStr[i]);
-    }
-    frame5_->List1[Months]->SetEntries(months);
+    frame5_->List1[Months]->SetEntries(MonthNames(State()));
     frame5_->List1[Directories]->SetEntries(directories);
     frame5_->List2->SetEntries(projects);
     frame5_->Text1->SetName({});

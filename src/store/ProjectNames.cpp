@@ -31,6 +31,15 @@ NameText Without(std::string_view text, Test isForbidden) {
 
 } // namespace
 
+std::vector<std::string> MonthNames(const SharedState& state) {
+    std::vector<std::string> names;
+    names.reserve(MonthsOfAYear);
+    for (Integer month = 0; month < MonthsOfAYear; ++month) {
+        names.push_back(state.MonthStr[month]);
+    }
+    return names;
+}
+
 NameText TypedNameText(std::string_view text) {
     NameText typed = Without(text, [](const std::string& c) {
         return c.find_first_of(ForbiddenInProjectName) != std::string::npos;
@@ -60,12 +69,10 @@ std::string FittingNameText(std::string_view text, long long length) {
 
 bool IsDirectoryTaken(SharedState& state, std::string_view name) {
     const std::string stored = StoredName(name);
-    for (Integer month = 0; month < 12; ++month) {
-        if (StoredName(state.MonthStr[month]) == stored) {
-            return true;
-        }
-    }
-    return CheckDir(state, stored);
+    const auto months = MonthNames(state);
+    return std::any_of(months.begin(), months.end(),
+                       [&](const std::string& month) { return StoredName(month) == stored; }) ||
+           CheckDir(state, stored);
 }
 
 std::optional<std::string> DirectoryNameRefusal(SharedState& state, std::string_view name) {

@@ -5,8 +5,14 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace tarn {
+
+inline constexpr int MonthsOfAYear = 12;
+
+/// The names of MonthStr, January first. The last element of MonthStr is none.
+std::vector<std::string> MonthNames(const SharedState& state);
 
 /// Shown when something was left out of a project name, and when one is refused for a character.
 inline constexpr std::string_view ForbiddenCharactersMessage =

@@ -1,6 +1,7 @@
 #include "app/StartModule.h"
 #include "rooms/RoomStore.h"
 #include "store/Names.h"
+#include "store/ProjectNames.h"
 #include "store/Projects.h"
 #include "store/SqlDatabase.h"
 #include "tools/DataCommands.h"
@@ -20,23 +21,13 @@ void Require(bool done, const SharedState& state) {
     }
 }
 
-bool IsMonth(SharedState& state, const std::string& directory) {
-    FillMonthStr(state);
-    for (int month = 0; month < 12; ++month) {
-        if (state.MonthStr[month] == directory) {
-            return true;
-        }
-    }
-    return false;
-}
-
 void AddNewProject(SharedState& state, const std::string& wantedDirectory) {
     const std::string directory = wantedDirectory.empty()
                                       ? MonthDirectoryName(QDate::currentDate(), QLocale::system())
                                       : StoredName(wantedDirectory);
-    const bool isThere = IsMonth(state, directory) || CheckDir(state, directory);
+    FillMonthStr(state);
     // The current month needs no row of its own, in whatever language it is written.
-    if (!isThere && !wantedDirectory.empty()) {
+    if (!wantedDirectory.empty() && !IsDirectoryTaken(state, directory)) {
         Require(AddDirectory(state, directory), state);
     }
     Require(AddProject(state, directory, state.CurProjName), state);

@@ -67,6 +67,13 @@ struct NewNames : ::testing::Test {
     SharedState state;
 };
 
+TEST_F(NewNames, TheTwelveMonthsAreListedFromJanuaryOn) {
+    const auto months = MonthNames(state);
+    ASSERT_EQ(months.size(), 12U);
+    EXPECT_EQ(months.front(), "JANUARY");
+    EXPECT_EQ(months.back(), "DECEMBER");
+}
+
 TEST_F(NewNames, TheTwelveMonthsAreTakenDirectories) {
     for (int month = 0; month < 12; ++month) {
         EXPECT_TRUE(IsDirectoryTaken(state, state.MonthStr[month])) << month;
