@@ -1,11 +1,11 @@
 #include "rooms/RoomSize.h"
 
 #include "app/Numbers.h"
+#include "app/QtText.h"
 #include "app/RunTimeError.h"
 #include "app/Text.h"
 
 #include <QList>
-#include <QString>
 
 #include <algorithm>
 #include <limits>
@@ -21,8 +21,7 @@ Integer SmallUnits(bool metric) {
 /// Digits of every script, and signs such as ½ that stand for digits: dropping one would shorten
 /// the room.
 bool HasDigit(std::string_view utf8) {
-    const auto characters =
-        QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size())).toUcs4();
+    const auto characters = ToQt(utf8).toUcs4();
     return std::any_of(characters.begin(), characters.end(),
                        [](char32_t character) { return QChar::isNumber(character); });
 }

@@ -1,8 +1,7 @@
 #include "rooms/WallBase.h"
 
 #include "app/Numbers.h"
-
-#include <QString>
+#include "store/Names.h"
 
 #include <algorithm>
 #include <array>
@@ -10,12 +9,6 @@
 namespace tarn {
 
 namespace {
-
-std::string UpperCase(std::string_view utf8) {
-    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()))
-        .toUpper()
-        .toStdString();
-}
 
 /// The count behind the first `side` of an upper-case text.
 Integer CountOf(std::string_view text, char side) {

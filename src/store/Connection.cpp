@@ -1,6 +1,7 @@
 #include "store/Connection.h"
 
 #include "app/Database.h"
+#include "app/QtText.h"
 
 #include <QFileInfo>
 #include <QSqlDatabase>
@@ -80,7 +81,7 @@ std::string Cause(const QSqlError& error) {
 } // namespace
 
 QVariant TextValue(std::string_view utf8) {
-    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
+    return ToQt(utf8);
 }
 
 Connection::Connection(const std::string& path, Access access, int busyWait)

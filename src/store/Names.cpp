@@ -1,18 +1,13 @@
 #include "store/Names.h"
 
+#include "app/QtText.h"
 #include "app/Text.h"
-
-#include <QString>
 
 #include <algorithm>
 
 namespace tarn {
 
 namespace {
-
-QString Decoded(std::string_view utf8) {
-    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
-}
 
 bool IsControlCharacter(QChar c) {
     return c.category() == QChar::Other_Control || c.category() == QChar::Separator_Line ||
@@ -22,11 +17,11 @@ bool IsControlCharacter(QChar c) {
 } // namespace
 
 std::string UpperCase(std::string_view text) {
-    return Decoded(text).toUpper().toStdString();
+    return FromQt(ToQt(text).toUpper());
 }
 
 bool HoldsControlCharacter(std::string_view text) {
-    const QString decoded = Decoded(text);
+    const QString decoded = ToQt(text);
     return std::any_of(decoded.begin(), decoded.end(), IsControlCharacter);
 }
 

@@ -1,10 +1,9 @@
 #include "store/ProjectNames.h"
 
+#include "app/QtText.h"
 #include "app/Text.h"
 #include "store/Names.h"
 #include "store/Projects.h"
-
-#include <QString>
 
 #include <algorithm>
 
@@ -13,11 +12,11 @@ namespace tarn {
 namespace {
 
 std::u32string Characters(std::string_view utf8) {
-    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size())).toStdU32String();
+    return ToQt(utf8).toStdU32String();
 }
 
 std::string Encoded(const std::u32string& characters) {
-    return QString::fromStdU32String(characters).toStdString();
+    return FromQt(QString::fromStdU32String(characters));
 }
 
 /// `text` without the characters for which `isForbidden`, which takes each as UTF-8.
