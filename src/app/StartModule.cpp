@@ -13,9 +13,6 @@ namespace tarn {
 
 namespace {
 
-/// Where the database file lies below the data folder.
-constexpr std::string_view DatabaseFileBelowDataPath = "\\DATA\\Tarn.mdb";
-
 bool OpenDatabaseFile(SharedState& state) {
     return Succeeds(state,
                     [&] { state.CurDB = OpenSqlDatabase(WithNativeSeparators(state.DBName)); });
@@ -51,8 +48,8 @@ bool OpenDataBase(SharedState& state,
         return false;
     }
     state.DataPath = configuration.DataPath;
-    state.DBName = state.DataPath;
-    state.DBName += DatabaseFileBelowDataPath;
+    state.DBName = state.DataPath + "\\";
+    state.DBName += DatabaseFileInDataFolder;
     if (OpenDatabaseFile(state)) {
         OpenSharedRows(state);
     } else if (state.DataPath.empty()) {

@@ -17,6 +17,9 @@ namespace tarn {
 /// ends.
 inline constexpr std::string_view ConfigurationMissingMessage = "Couldn't find TarnWin.ini";
 
+/// The database file below the data folder, with a backslash as its path is kept as text.
+inline constexpr std::string_view DatabaseFileInDataFolder = "DATA\\Tarn.mdb";
+
 /// Prepare the shared state as the program finds it at its start: options and counts, the database
 /// (OpenDataBase), the month names, the arrays, no project, and the directory of the current month.
 /// False when there is no usable configuration file: the caller shows ConfigurationMissingMessage

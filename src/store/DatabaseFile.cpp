@@ -1,5 +1,6 @@
 #include "store/DatabaseFile.h"
 
+#include "app/Configuration.h"
 #include "store/Connection.h"
 
 #include <QDir>
@@ -12,6 +13,11 @@ namespace {
 
 [[noreturn]] void Refuse(const std::string& path, const std::string& cause) {
     throw DatabaseError("The database file " + path + " " + cause);
+}
+
+/// What to do about a path that leads to the wrong place.
+std::string CorrectThePath() {
+    return "Correct its path or the data folder in " + std::string(ConfigurationFileName);
 }
 
 bool TakesWriting(const QFileInfo& info) {
@@ -39,12 +45,11 @@ bool BeginsAsJet(const QByteArray& header) {
 
 void RequireSqliteFile(const std::string& path, const QFileInfo& info) {
     if (!info.exists()) {
-        Refuse(path,
-               "is missing. Correct its path or the data folder in TarnWin.INI, or make a new data "
-               "folder with \"tarn-data create\".");
+        Refuse(path, "is missing. " + CorrectThePath() +
+                         ", or make a new data folder with \"tarn-data create\".");
     }
     if (info.isDir()) {
-        Refuse(path, "is a folder. Correct its path or the data folder in TarnWin.INI.");
+        Refuse(path, "is a folder. " + CorrectThePath() + ".");
     }
     QFile file(info.filePath());
     if (!file.open(QIODevice::ReadOnly)) {
@@ -59,9 +64,8 @@ void RequireSqliteFile(const std::string& path, const QFileInfo& info) {
                      "folder with \"tarn-data create\" and enter its projects there.");
     }
     if (!BeginsAsSqlite(header)) {
-        Refuse(path, "is not a database of this program. Correct its path or the data folder in "
-                     "TarnWin.INI, "
-                     "or put a backup in its place.");
+        Refuse(path, "is not a database of this program. " + CorrectThePath() +
+                         ", or put a backup in its place.");
     }
 }
 

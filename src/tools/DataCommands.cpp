@@ -105,7 +105,7 @@ void ListProject(std::ostream& out, SharedState& state, const std::string& proje
 
 void CreateData(const std::string& folder, const std::string& configDirectory) {
     const auto path = FolderPath(folder);
-    const auto database = path / "DATA" / "Tarn.mdb";
+    const auto database = path / WithNativeSeparators(DatabaseFileInDataFolder);
     CreateDatabaseFile(database.string());
     std::cout << "Made " << database.string() << ".\n";
     try {

@@ -1,5 +1,7 @@
 #include "tools/DataOptions.h"
 
+#include "app/Configuration.h"
+#include "app/StartModule.h"
 #include "app/Version.h"
 #include "tools/DataCommands.h"
 #include "tools/Files.h"
@@ -58,11 +60,14 @@ void AddFileCommands(CLI::App& app, Arguments& arguments, Command& chosen) {
     auto& create = AddCommand(
         app, "create", "Make a data folder with an empty database", chosen,
         [arguments = &arguments] { CreateData(arguments->Folder, arguments->ConfigDirectory); });
-    create.add_option("FOLDER", arguments.Folder, "Folder to be made; it will hold DATA/Tarn.mdb")
+    create
+        .add_option("FOLDER", arguments.Folder,
+                    "Folder to be made; it will hold " +
+                        WithNativeSeparators(DatabaseFileInDataFolder))
         ->required();
     create
         .add_option("--config-dir", arguments.ConfigDirectory,
-                    "Directory of the configuration file TarnWin.INI")
+                    "Directory of the configuration file " + std::string(ConfigurationFileName))
         ->type_name("DIR");
 
     auto& check =

@@ -70,18 +70,21 @@ TEST_P(RefusedFile, IsLeftAsItIs) {
 INSTANTIATE_TEST_SUITE_P(
     SqlDatabase, RefusedFile,
     ::testing::Values(
-        BadFile{"Missing", [](const std::string& path) { fs::remove(path); }, "is missing"},
+        BadFile{"Missing", [](const std::string& path) { fs::remove(path); },
+                "is missing. Correct its path or the data folder in TarnWin.INI, or make a new "
+                "data folder with \"tarn-data create\"."},
         BadFile{"Folder",
                 [](const std::string& path) {
                     fs::remove(path);
                     fs::create_directory(path);
                 },
-                "is a folder"},
+                "is a folder. Correct its path or the data folder in TarnWin.INI."},
         BadFile{"Empty", [](const std::string& path) { WriteFile(path, ""); }, "is empty"},
         BadFile{"OneByte", [](const std::string& path) { WriteFile(path, "S"); },
                 "is not a database"},
         BadFile{"Foreign", [](const std::string& path) { WriteFile(path, std::string(5000, 'x')); },
-                "is not a database"},
+                "is not a database of this program. Correct its path or the data folder in "
+                "TarnWin.INI, or put a backup in its place."},
         BadFile{"OlderJet",
                 [](const std::string& path) {
                     WriteFile(path, std::string("\0\1\0\0Standard Jet DB\0", 20) +
