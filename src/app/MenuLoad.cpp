@@ -3,7 +3,7 @@
 #include "app/Numbers.h"
 #include "app/RunTimeError.h"
 #include "app/Text.h"
-#include "rooms/Coverings.h"
+#include "estimate/EstimateChoices.h"
 #include "rooms/RoomExtents.h"
 #include "store/Sheets.h"
 
@@ -29,7 +29,7 @@ std::string ExtentsFailure(SharedState& state) {
         BuildAllRoomExtents(state);
         return {};
     } catch (const RunTimeError& error) {
-        return "The size of a room: " + error.Text() + ".";
+        return "The size of a room: " + SentencesOf(error);
     }
 }
 
@@ -74,12 +74,7 @@ void TakeSheetNumber(SharedState& state, const OpenProject& project) {
 }
 
 bool LoadData(const SharedState& state) {
-    for (Integer room = 0; room < state.ObjNum; ++room) {
-        if (IsCarpet(state.RoomCarpet[room])) {
-            return true;
-        }
-    }
-    return false;
+    return FindCarpets(state).Lowest.has_value();
 }
 
 } // namespace tarn

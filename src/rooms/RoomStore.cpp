@@ -68,10 +68,6 @@ Integer SheetToSave(SharedState& state) {
     return free;
 }
 
-std::string CauseOf(const RunTimeError& error) {
-    return error.Text() + "." + (error.Advice().empty() ? "" : " " + error.Advice());
-}
-
 /// The project has no sheet: allocate a number for it.
 void PrepareNewSheet(SharedState& state) {
     state.CurTabIndex = ToInteger(NewTabIndex(state));
@@ -150,6 +146,10 @@ bool SaveProject(SharedState& state) {
     });
 }
 
+std::string SentencesOf(const RunTimeError& error) {
+    return error.Text() + "." + (error.Advice().empty() ? "" : " " + error.Advice());
+}
+
 ProjectLoad LoadProject(SharedState& state) {
     ProjectLoad load;
     EmptyRooms(state);
@@ -167,7 +167,7 @@ ProjectLoad LoadProject(SharedState& state) {
     } catch (const DatabaseError& error) {
         load.Cause = error.what();
     } catch (const RunTimeError& error) {
-        load.Cause = CauseOf(error);
+        load.Cause = SentencesOf(error);
     }
     state.ObjNum = 0;
     return load;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/RunTimeError.h"
 #include "app/SharedState.h"
 
 #include <string>
@@ -35,6 +36,9 @@ bool SaveProject(SharedState& state);
 /// commits it. Answers the sheet number used; the shared state is not changed. Raises DatabaseError
 /// and as SaveProject.
 Integer StoreProject(SharedState& state);
+
+/// The error's text and its advice, as the cause of what could not be loaded.
+std::string SentencesOf(const RunTimeError& error);
 
 /// What LoadProject found.
 struct ProjectLoad {
