@@ -25,7 +25,7 @@ MenuLoad LoadMenu(SharedState& state, OpenProject& project, MenuEntry entry);
 /// the database. Raises DatabaseError and as FindProjTabIndex.
 void TakeSheetNumber(SharedState& state, const OpenProject& project);
 
-/// Whether one of the rooms is a carpet.
+/// Whether one of the rooms is a carpet. Loads nothing, in spite of its name.
 bool LoadData(const SharedState& state);
 
 } // namespace tarn

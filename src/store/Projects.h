@@ -13,10 +13,10 @@ namespace tarn {
 /// compared in full upper case and without the blanks at both ends (StoredName). Everything here
 /// raises DatabaseError when the database fails, but the two that add a row.
 
-/// Whether the directory exists as a row. The months are none.
+/// True when the directory exists: a row holds its name. The months have none.
 bool CheckDir(SharedState& state, std::string_view name);
 
-/// Whether the project name is free: no row holds it.
+/// True when the project name is free, the opposite of CheckDir: no row holds it.
 bool CheckProjName(SharedState& state, std::string_view name);
 
 /// The directory of a project; nothing when there is no such project.
