@@ -41,31 +41,31 @@ std::vector<std::string> OthersUnder(SharedState& state, Integer sheet) {
     return others;
 }
 
-/// Give every sheet of the open project that number.
+/// Give every sheet of the open project that number: saving then replaces them all, and keeps from
+/// the first whether the rooms were entered in metric.
 void RenumberSheets(SharedState& state, Integer number) {
     const auto rows =
         OpenedDatabase(state).OpenDynaset(TextQuery(MainTab, "ProjName", state.CurProjName));
     for (; !rows->AtEnd(); rows->MoveNext()) {
-        rows->Edit();
-        rows->SetField("TabIndex", std::int64_t{number});
-        rows->Update();
+        if (NumberIn(*rows, "TabIndex") != number) {
+            rows->Edit();
+            rows->SetField("TabIndex", std::int64_t{number});
+            rows->Update();
+        }
     }
 }
 
 /// The number under which to save the open project; see SaveProject.
 Integer SheetToSave(SharedState& state) {
     const auto own = FindProjTabIndex(state);
-    const Long sheet = own.value_or(state.CurTabIndex);
-    if (sheet != NoSheet && OthersUnder(state, ToInteger(sheet)).empty()) {
-        return ToInteger(sheet);
+    Long sheet = own.value_or(state.CurTabIndex);
+    if (sheet == NoSheet || !OthersUnder(state, ToInteger(sheet)).empty()) {
+        sheet = NewTabIndex(state);
     }
-    const Integer free = ToInteger(NewTabIndex(state));
     if (own) {
-        // Under a number that two projects share. Saving replaces the row, and keeps from it
-        // whether the rooms were entered in metric.
-        RenumberSheets(state, free);
+        RenumberSheets(state, ToInteger(sheet));
     }
-    return free;
+    return ToInteger(sheet);
 }
 
 /// The project has no sheet: allocate a number for it.

@@ -237,6 +237,16 @@ TEST_F(SavingAProject, TakesNoUnitsFromTheProjectThatSharesItsNumber) {
               (Lines{"5|OTHER|1", "6|P|0"}));
 }
 
+TEST_F(SavingAProject, OpensNextTimeAsItWasSavedThoughItHadTwoSheets) {
+    file_.AddProject("MARCH", "P", 7, 1);
+    ASSERT_EQ(GetProjTabIndex(state_), 5) << "the first one counts";
+    EXPECT_TRUE(SaveProject(state_)) << state_.DatabaseFailure;
+    EXPECT_EQ(Sheets(), Lines{"5|P|4"});
+    EXPECT_EQ(GetProjTabIndex(state_), 5);
+    EXPECT_EQ(Widths(5), newWidths_);
+    EXPECT_EQ(Widths(7), Lines{"100"}) << "no room is deleted that was not seen";
+}
+
 TEST_F(SavingAProject, NeverStoresTheNumberThatMeansNoSheet) {
     state_.CurProjName = "NEW";
     state_.CurTabIndex = NoSheet;
