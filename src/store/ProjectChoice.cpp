@@ -5,6 +5,7 @@
 #include "store/Names.h"
 #include "store/Projects.h"
 #include "store/Renames.h"
+#include "store/Sheets.h"
 
 namespace tarn {
 
@@ -99,6 +100,7 @@ void RenameProject(SharedState& state, const std::string& oldName, const std::st
 
 void DeleteDirectory(SharedState& state, const std::string& name, const std::string& month) {
     const auto holder = DirectoryOf(state, state.CurProjName);
+    LeaveSharedNumbers(state, ListProjects(state, name));
     RequireDeleted(DeleteDirData(state, name), state);
     if (holder && IsSameName(*holder, name)) {
         state.CurProjName.clear();
@@ -109,6 +111,7 @@ void DeleteDirectory(SharedState& state, const std::string& name, const std::str
 }
 
 void DeleteProject(SharedState& state, const std::string& name) {
+    LeaveSharedNumbers(state, {name});
     RequireDeleted(DeleteProjectData(state, name), state);
     if (IsSameName(state.CurProjName, name)) {
         state.CurProjName.clear();

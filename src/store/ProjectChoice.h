@@ -33,9 +33,10 @@ ChoiceResult AcceptProject(SharedState& state, const ProjectChoice& choice);
 
 /// Rename or delete a directory or a project, with everything that belongs to it, and let
 /// CurDirName and CurProjName follow: a renamed one has its new name; a deleted directory makes way
-/// for `month`, a deleted project for none. `newName` is stored as StoredName makes it. Raise
-/// DatabaseError, with CurDirName and CurProjName as they were, but CurProjName empty when a
-/// deletion took its row before it failed; and "Overflow" as DeleteDirData.
+/// for `month`, a deleted project for none. `newName` is stored as StoredName makes it. A
+/// project that shares its sheet number with a deleted one keeps its sheet and all rooms under it.
+/// Raise DatabaseError, with CurDirName and CurProjName as they were, but CurProjName empty when a
+/// deletion took its row before it failed; and "Overflow" as DeleteDirData and NewTabIndex.
 void RenameDirectory(SharedState& state, const std::string& oldName, const std::string& newName);
 void RenameProject(SharedState& state, const std::string& oldName, const std::string& newName);
 void DeleteDirectory(SharedState& state, const std::string& name, const std::string& month);

@@ -12,6 +12,7 @@
 
 #include <cmath>
 #include <limits>
+#include <set>
 
 namespace tarn {
 
@@ -159,6 +160,33 @@ Long GetProjTabIndex(SharedState& state) {
     Long number = NoSheet;
     Succeeds(state, [&] { number = FindProjTabIndex(state).value_or(NoSheet); });
     return number;
+}
+
+void LeaveSharedNumbers(SharedState& state, const std::vector<std::string>& projects) {
+    std::set<std::string> leaving;
+    for (const std::string& project : projects) {
+        leaving.insert(StoredName(project));
+    }
+    Transaction transaction(OpenedDatabase(state));
+    Recordset& sheets = RowsOf(state, SharedRows::Sheets);
+    const auto isLeaving = [&] { return leaving.contains(StoredName(TextIn(sheets, "ProjName"))); };
+
+    // As texts, so that a number out of order in a row of another project stops no deletion.
+    std::set<std::string> others;
+    for (sheets.MoveFirst(); !sheets.AtEnd(); sheets.MoveNext()) {
+        if (!isLeaving()) {
+            others.insert(TextIn(sheets, "TabIndex"));
+        }
+    }
+    others.erase(std::string()); // of sheets without a number
+    for (sheets.MoveFirst(); !sheets.AtEnd(); sheets.MoveNext()) {
+        if (isLeaving() && others.contains(TextIn(sheets, "TabIndex"))) {
+            sheets.Edit();
+            sheets.SetField("TabIndex", std::int64_t{NewTabIndex(state)});
+            sheets.Update();
+        }
+    }
+    transaction.Commit();
 }
 
 } // namespace tarn

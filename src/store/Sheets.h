@@ -3,7 +3,9 @@
 #include "app/SharedState.h"
 
 #include <optional>
+#include <string>
 #include <string_view>
+#include <vector>
 
 namespace tarn {
 
@@ -40,6 +42,11 @@ std::optional<Long> FindProjTabIndex(SharedState& state);
 /// As FindProjTabIndex, but NoSheet for "no sheet" and for a database failure, whose cause is then
 /// in DatabaseFailure.
 Long GetProjTabIndex(SharedState& state);
+
+/// Before `projects` are deleted by their sheet numbers: give each of their sheets that shares its
+/// number with another project the next free one. The room rows stay under the old number, since
+/// they do not tell whose they are. Raises, with nothing changed, DatabaseError and as NewTabIndex.
+void LeaveSharedNumbers(SharedState& state, const std::vector<std::string>& projects);
 
 /// The query for the rows of `table` that belong to a sheet.
 std::string SheetQuery(std::string_view table, Long tabIndex);

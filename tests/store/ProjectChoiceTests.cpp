@@ -1,3 +1,4 @@
+#include "app/RunTimeError.h"
 #include "store/ProjectChoice.h"
 #include "store/TestDatabase.h"
 
@@ -138,6 +139,63 @@ TEST_F(ProjectChoices, DeletionsOfOthersLeaveTheCurrentNames) {
     DeleteProject(state, "CABIN");
     ExpectCurrent("MARCH", "");
     EXPECT_EQ(file.Rows("SELECT * FROM ProjTab"), Lines{});
+}
+
+struct SharedNumbers : ProjectChoices {
+    /// VILLA, in the directory HOUSES, and HUT, elsewhere, have a sheet numbered 1.
+    SharedNumbers() { file.AddProject("MAY", "HUT", 1, 4); }
+    Lines Sheets() const {
+        return file.Rows("SELECT TabIndex, ProjName, ObjNum FROM MainTab ORDER BY rowid");
+    }
+    Lines Rooms() const {
+        return file.Rows("SELECT TabIndex, count(*) FROM InputData GROUP BY TabIndex");
+    }
+};
+
+TEST_F(SharedNumbers, ADeletedProjectLeavesTheSheetAndTheRoomsOfTheOther) {
+    DeleteProject(state, "VILLA");
+    EXPECT_EQ(Sheets(), (Lines{"2|CABIN|1", "1|HUT|4"}));
+    EXPECT_EQ(Rooms(), (Lines{"1|6", "2|1"})) << "whose the rows are cannot be told";
+    DeleteProject(state, "hut");
+    EXPECT_EQ(Sheets(), Lines{"2|CABIN|1"});
+    EXPECT_EQ(Rooms(), Lines{"2|1"}) << "with the last project of the number they go";
+}
+
+TEST_F(SharedNumbers, ADeletedDirectoryLeavesTheSheetsAndTheRoomsOfOthers) {
+    file.AddProject("HOUSES", "TOWER", 1, 1);
+    DeleteDirectory(state, "HOUSES", "JULY");
+    EXPECT_EQ(Sheets(), (Lines{"2|CABIN|1", "1|HUT|4"}));
+    EXPECT_EQ(Rooms(), (Lines{"1|7", "2|1"}));
+    EXPECT_EQ(file.Rows("SELECT ProjName FROM ProjTab ORDER BY rowid"), (Lines{"CABIN", "HUT"}));
+}
+
+TEST_F(SharedNumbers, ADirectoryWhoseProjectsShareANumberAmongThemselvesIsDeletedWhole) {
+    DeleteDirectory(state, "MAY", "JULY"); // HUT leaves number 1 to VILLA
+    ASSERT_EQ(Sheets(), Lines{"1|VILLA|2"});
+    file.AddProject("HOUSES", "TOWER", 1, 1);
+    DeleteDirectory(state, "HOUSES", "JULY");
+    EXPECT_EQ(Sheets(), Lines{});
+    EXPECT_EQ(Rooms(), Lines{});
+}
+
+TEST_F(SharedNumbers, AnotherSheetsBadNumberStopsNoDeletion) {
+    for (const char* bad : {"NULL", "'many'"}) {
+        SCOPED_TRACE(bad);
+        file.AddProject("MAY", "SHED", 9);
+        file.Run("UPDATE MainTab SET TabIndex = " + std::string(bad) + " WHERE ProjName = 'HUT'");
+        DeleteProject(state, "SHED");
+        EXPECT_EQ(file.Rows("SELECT ProjName FROM MainTab ORDER BY rowid"),
+                  (Lines{"VILLA", "CABIN", "HUT"}));
+    }
+}
+
+TEST_F(SharedNumbers, ADeletionThatNeedsANumberAndFindsNoneChangesNothing) {
+    file.AddProject("HOUSES", "TOWER", 1, 1);
+    file.AddProject("MAY", "LAST", 32766);
+    const Lines sheets = Sheets();
+    EXPECT_THROW(DeleteDirectory(state, "HOUSES", "JULY"), RunTimeError) << "it needs two";
+    EXPECT_EQ(Sheets(), sheets);
+    EXPECT_EQ(Rooms(), (Lines{"1|7", "2|1"}));
 }
 
 TEST_F(ProjectChoices, ACurrentProjectGoesWithItsRowWhenADeletionFailsHalfWay) {
