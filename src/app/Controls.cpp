@@ -6,6 +6,7 @@
 #include <QEvent>
 #include <QLabel>
 #include <QPushButton>
+#include <QTextDocument>
 
 namespace tarn {
 
@@ -41,6 +42,10 @@ QString IndexedName(std::string_view name, int index) {
 void NameControl(QWidget& control, const QString& name, const QString& accessibleName) {
     control.setObjectName(name);
     control.setAccessibleName(accessibleName);
+}
+
+void SetToolTip(QWidget& control, const QString& text) {
+    control.setToolTip(Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text) : text);
 }
 
 void SetCaption(QAbstractButton& button, std::string_view caption, char mnemonic) {

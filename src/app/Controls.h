@@ -20,6 +20,10 @@ QString IndexedName(std::string_view name, int index);
 /// Give any control its names.
 void NameControl(QWidget& control, const QString& name, const QString& accessibleName);
 
+/// Set a tool tip that is shown as it is written, also where it looks like rich text: what stands
+/// in it may have been typed. An empty text takes it away.
+void SetToolTip(QWidget& control, const QString& text);
+
 /// Set a button's caption and accessible name. `mnemonic`, a letter of the caption, is underlined
 /// and presses the button together with Alt; 0 for none.
 void SetCaption(QAbstractButton& button, std::string_view caption, char mnemonic = 0);

@@ -1,5 +1,7 @@
 #include "app/ElidedLabel.h"
 
+#include "app/Controls.h"
+
 #include <QPainter>
 #include <QStyle>
 
@@ -22,7 +24,7 @@ QString ElidedLabel::Shown() const {
 void ElidedLabel::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     const QString shown = Shown();
-    setToolTip(shown == text() ? QString() : text().toHtmlEscaped());
+    SetToolTip(*this, shown == text() ? QString() : text());
     style()->drawItemText(&painter, contentsRect(), static_cast<int>(alignment()), palette(),
                           isEnabled(), shown, foregroundRole());
 }

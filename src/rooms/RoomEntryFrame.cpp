@@ -227,7 +227,7 @@ void RoomEntryFrame::FitCaption() {
     const int room = contentsRect().width() - 2 * Pixels(Metrics::Margin);
     const QString fitting = fontMetrics().elidedText(caption, Qt::ElideRight, room);
     SetPlainTitle(*this, fitting);
-    setToolTip(fitting == caption ? QString() : caption);
+    SetToolTip(*this, fitting == caption ? QString() : caption);
 }
 
 std::optional<int> RoomEntryFrame::IndexOf(const QObject* object) const {

@@ -200,6 +200,12 @@ TEST_F(EntryControls, ShortenAProjectNameThatDoesNotFit) {
     EXPECT_EQ(Find(*form, "Frame1").toolTip(), QString());
 }
 
+TEST_F(EntryControls, ShowAProjectNameLikeRichTextAsItIsWritten) {
+    state.CurProjName = "<B>SMITH</B> & SONS " + std::string(40, 'W');
+    Open();
+    EXPECT_EQ(ShownToolTip(Find(*form, "Frame1")), "PROJECT: " + state.CurProjName);
+}
+
 TEST_F(EntryControls, FitTheProjectsNameAgainWhenTheTypeChanges) {
     state.CurProjName = std::string(30, 'w');
     Open(1366, 768);

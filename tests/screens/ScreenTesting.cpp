@@ -5,6 +5,8 @@
 #include <QAbstractButton>
 #include <QCheckBox>
 #include <QRadioButton>
+#include <QTextDocument>
+#include <QTextDocumentFragment>
 
 namespace tarn::testing {
 
@@ -134,6 +136,12 @@ void Focus(QWidget& widget) {
     widget.setFocus(Qt::MouseFocusReason);
     EXPECT_TRUE(QTest::qWaitFor([&] { return widget.hasFocus(); }))
         << FromQt(widget.objectName()) << " does not take the focus";
+}
+
+std::string ShownToolTip(const QWidget& widget) {
+    const QString tip = widget.toolTip();
+    return FromQt(Qt::mightBeRichText(tip) ? QTextDocumentFragment::fromHtml(tip).toPlainText()
+                                           : tip);
 }
 
 ScreenTest::ScreenTest() {

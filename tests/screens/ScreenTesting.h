@@ -105,6 +105,9 @@ void Press(QWidget& screen, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::N
 /// Move the focus there as a click would, and wait until it is there.
 void Focus(QWidget& widget);
 
+/// What a widget's tool tip shows: the toolkit takes what looks like rich text for it.
+std::string ShownToolTip(const QWidget& widget);
+
 /// A session with everything recorded: no database, arrays at their bounds, no project.
 struct ScreenTest : ::testing::Test {
     ScreenTest();

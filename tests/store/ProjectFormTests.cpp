@@ -38,6 +38,16 @@ TEST_F(ProjectForms, ShowALongNameWithinTheScreenAndWholeInTheToolTip) {
     EXPECT_EQ(Find<QLabel>(*form, "Label1(0)").toolTip(), QString());
 }
 
+TEST_F(ProjectForms, ShowALongNameInTheToolTipAsItIsWritten) {
+    state.CurDirName = "<I>" + std::string(61, 'W');
+    state.CurProjName = "SMITH & SONS " + std::string(51, 'W');
+    Load();
+    const auto shown = [&](const char* name) { return ShownToolTip(Find(*form, name)); };
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !shown("Label1(1)").empty(); }));
+    EXPECT_EQ(shown("Label1(0)"), "DIRECTORY:" + state.CurDirName);
+    EXPECT_EQ(shown("Label1(1)"), "PROJECT:" + state.CurProjName);
+}
+
 TEST_F(ProjectForms, DropTheRoomsOfTheProjectThatWasOpen) {
     state.ObjNum = 3;
     state.RoomWidth[2] = 100;
