@@ -105,7 +105,7 @@ QBoxLayout* ChoicePanel::BuildWidths() {
 /// The boxes of a free width keep their room while they are hidden, so that nothing jumps.
 QWidget* ChoicePanel::BuildOther() {
     other_ = new QWidget;
-    other_->setObjectName(QStringLiteral("Frame8"));
+    other_->setObjectName(QStringLiteral("OtherWidth"));
     QSizePolicy policy = other_->sizePolicy();
     policy.setRetainSizeWhenHidden(true);
     other_->setSizePolicy(policy);

@@ -1,6 +1,7 @@
 #include "app/Controls.h"
 #include "app/Display.h"
 #include "app/MenuForm.h"
+#include "screens/ControlChecks.h"
 #include "screens/ScreenTesting.h"
 #include "store/TestDatabase.h"
 
@@ -53,6 +54,11 @@ TEST_F(MenuForms, CarryTheirCaptions) {
     EXPECT_EQ(CaptionOf(Button(Backward)), QStringLiteral("BACKWARD"));
     EXPECT_EQ(CaptionOf(Button(Estimate)), QStringLiteral("ESTIMATE"));
     EXPECT_EQ(Find<QAction>(*menu, "EXmnu").text(), QStringLiteral("E&xit"));
+}
+
+TEST_F(MenuForms, UseEachNameAndMnemonicOnce) {
+    Load();
+    ExpectNamesAndMnemonicsOnce(*menu, 5);
 }
 
 TEST_F(MenuForms, StandInTheMiddleWithTheTitlesAbove) {

@@ -4,6 +4,7 @@
 #include "engine/EngineTesting.h"
 #include "engine/EstOptions.h"
 #include "engine/MultiEstimate.h"
+#include "screens/ControlChecks.h"
 #include "screens/ScreenTesting.h"
 
 #include <QLabel>
@@ -85,6 +86,11 @@ TEST_F(OptionsScreen, HasItsTitlesAndCaptions) {
         EXPECT_EQ(option.accessibleName(), QString::number(i + 1));
     }
     EXPECT_EQ(CaptionOf(Continue()), QStringLiteral("Continue"));
+}
+
+TEST_F(OptionsScreen, UsesEachNameAndMnemonicOnce) {
+    Open();
+    ExpectNamesAndMnemonicsOnce(*form, 7);
 }
 
 TEST_F(OptionsScreen, HasMetricCaptionsAndTellsTheLengthsInForce) {

@@ -1,14 +1,13 @@
 // The room entry screen: its controls and where they stand.
 
 #include "rooms/RoomScreenTesting.h"
+#include "screens/ControlChecks.h"
 
 #include <QGroupBox>
 #include <QHelpEvent>
 #include <QMenu>
 #include <QScrollBar>
 #include <QToolTip>
-
-#include <set>
 
 namespace tarn {
 namespace {
@@ -108,25 +107,9 @@ TEST_F(EntryControls, HaveAFileMenu) {
     EXPECT_EQ(WithoutMnemonic(menu.actions()[2]->text()), QStringLiteral("Close"));
 }
 
-TEST_F(EntryControls, ShareNoMnemonic) {
+TEST_F(EntryControls, ShareNoNameAndNoMnemonic) {
     Open();
-    std::multiset<QChar> letters{QLatin1Char('F')};
-    const auto add = [&](const QString& text) {
-        const auto at = text.indexOf(QLatin1Char('&'));
-        if (at >= 0) {
-            letters.insert(text[at + 1].toUpper());
-        }
-    };
-    for (const QLabel* label : form->findChildren<QLabel*>()) {
-        add(label->text());
-    }
-    for (const QPushButton* button : form->findChildren<QPushButton*>()) {
-        add(button->text());
-    }
-    EXPECT_GT(letters.size(), 10U);
-    for (const QChar letter : letters) {
-        EXPECT_EQ(letters.count(letter), 1U) << letter.toLatin1();
-    }
+    ExpectNamesAndMnemonicsOnce(*form, 16);
     Press(*form, Qt::Key_K, Qt::AltModifier);
     EXPECT_TRUE(HasFocus("Text1(6)"));
 }

@@ -1,4 +1,5 @@
 #include "app/Controls.h"
+#include "screens/ControlChecks.h"
 #include "store/ProjectFormTesting.h"
 
 #include <QGroupBox>
@@ -319,24 +320,9 @@ TEST_F(ProjectForms, AreReachedByTabInTheirOrderButTheBox) {
     EXPECT_TRUE(Box().isReadOnly());
 }
 
-TEST_F(ProjectForms, UseEachMnemonicOnce) {
+TEST_F(ProjectForms, UseEachNameAndMnemonicOnce) {
     Open();
-    std::vector<QChar> letters;
-    for (const auto* button : form->findChildren<QAbstractButton*>()) {
-        const auto at = button->text().indexOf(QLatin1Char('&'));
-        if (at >= 0) {
-            letters.push_back(button->text()[at + 1]);
-        }
-    }
-    for (const auto* label : form->findChildren<QLabel*>()) {
-        const auto at = label->text().indexOf(QLatin1Char('&'));
-        if (at >= 0) {
-            letters.push_back(label->text()[at + 1]);
-        }
-    }
-    EXPECT_EQ(letters.size(), 9U);
-    std::sort(letters.begin(), letters.end());
-    EXPECT_EQ(std::unique(letters.begin(), letters.end()), letters.end());
+    ExpectNamesAndMnemonicsOnce(*form, 9);
 }
 
 } // namespace
