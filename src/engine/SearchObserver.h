@@ -4,7 +4,8 @@
 
 namespace tarn {
 
-/// What a search tells its caller while it runs. The default does nothing and never stops.
+/// What a search tells its caller while it runs: Started, Scored after each placement, Ended, and
+/// then, if it was neither stopped nor failed, Finished. The default does nothing and never stops.
 /// Nothing it calls may touch the engine's arrays before Finished.
 class SearchObserver {
   public:
@@ -14,10 +15,10 @@ class SearchObserver {
     virtual void Started([[maybe_unused]] Long maximum) {}
     /// `done` of `maximum` placements are scored. False stops the search.
     virtual bool Scored([[maybe_unused]] Long done) { return true; }
-    /// The layout is final and back in the caller's orientation: draw it.
-    virtual void Finished() {}
-    /// The search is over, in whatever way, also by an error.
+    /// The search is over, in whatever way, also by an error, and also before it could start.
     virtual void Ended() noexcept {}
+    /// The layout is final and back in the caller's orientation: draw it. May raise.
+    virtual void Finished() {}
 };
 
 } // namespace tarn

@@ -30,18 +30,17 @@ bool SearchProgress::Scored(Long done) {
     return !stopped_;
 }
 
+void SearchProgress::Ended() noexcept {
+    bar_.hide();
+    percentage_.hide();
+}
+
 /// What the user did until now was meant for the search: it must not wait for the screen below.
 void SearchProgress::Finished() {
-    Ended();
     yield_.Now();
     if (!stopped_) {
         finished_();
     }
-}
-
-void SearchProgress::Ended() noexcept {
-    bar_.hide();
-    percentage_.hide();
 }
 
 } // namespace tarn

@@ -23,8 +23,8 @@ class SearchProgress : public SearchObserver {
 
     void Started(Long maximum) override;
     bool Scored(Long done) override;
-    void Finished() override;
     void Ended() noexcept override;
+    void Finished() override;
 
   private:
     QProgressBar& bar_;
