@@ -15,8 +15,7 @@ std::string Joined(const std::string& first, const std::string& second) {
 
 std::string MessageOf(const RunTimeError& error, const std::string& failure) {
     const std::string lineBreak(CrLf);
-    const std::string text =
-        "Run-time error '" + TrimStr(error.Number()) + "':" + lineBreak + lineBreak + error.Text();
+    const std::string text = error.Heading() + lineBreak + lineBreak + error.Text();
     const std::string sentence = Joined(failure, error.Advice());
     return sentence.empty() ? text : text + lineBreak + sentence;
 }

@@ -9,6 +9,14 @@ RunTimeError::RunTimeError(int number, std::string text, std::string advice)
     , text_(std::move(text))
     , advice_(std::move(advice)) {}
 
+std::string RunTimeError::Heading() const {
+    return "Run-time error '" + std::to_string(number_) + "':";
+}
+
+std::string RunTimeError::Sentences() const {
+    return text_ + "." + (advice_.empty() ? "" : " " + advice_);
+}
+
 RunTimeError RunTimeError::WithAdvice(std::string advice) const {
     return RunTimeError(number_, text_, std::move(advice));
 }

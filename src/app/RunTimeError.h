@@ -17,6 +17,10 @@ class RunTimeError : public std::exception {
     const std::string& Text() const noexcept { return text_; }
     /// One sentence for the user, or empty.
     const std::string& Advice() const noexcept { return advice_; }
+    /// What it is called: "Run-time error '9':".
+    std::string Heading() const;
+    /// The text and the advice in a row, for where there is one line: "Overflow. Choose fewer."
+    std::string Sentences() const;
     /// The same error with `advice` in place of its own.
     RunTimeError WithAdvice(std::string advice) const;
 

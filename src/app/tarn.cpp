@@ -1,5 +1,6 @@
 #include "app/Configuration.h"
 #include "app/Display.h"
+#include "app/ExitStatus.h"
 #include "app/MessageBoxes.h"
 #include "app/Program.h"
 #include "app/Theme.h"
@@ -19,7 +20,7 @@ namespace {
 int Run(int argc, char* argv[]) {
     CLI::App options{"Estimate how carpets are cut from the roll."};
     std::string configDirectory;
-    options.set_version_flag("--version", std::string("tarn ") + std::string(tarn::Version));
+    options.set_version_flag("--version", tarn::VersionText("tarn"));
     const CLI::Option* givenDirectory =
         options
             .add_option("--config-dir", configDirectory,
@@ -28,8 +29,7 @@ int Run(int argc, char* argv[]) {
     try {
         options.parse(argc, argv);
     } catch (const CLI::ParseError& error) {
-        constexpr int WrongUsage = 2;
-        return options.exit(error) == 0 ? 0 : WrongUsage;
+        return options.exit(error) == 0 ? tarn::Done : tarn::WrongUsage;
     }
 
     QApplication application(argc, argv);
@@ -38,7 +38,7 @@ int Run(int argc, char* argv[]) {
     const QScreen* display = QGuiApplication::primaryScreen();
     if (display == nullptr) {
         std::cerr << "tarn: There is no display to show the program on.\n";
-        return 1;
+        return tarn::Refused;
     }
     const tarn::Theme theme(application);
     tarn::MessageBoxes boxes;
@@ -52,7 +52,7 @@ int Run(int argc, char* argv[]) {
     }
     if (!program.Main(directories, tarn::PhysicalSize(*display), &QDate::currentDate,
                       QLocale::system())) {
-        return 1;
+        return tarn::Refused;
     }
     return QApplication::exec();
 }
@@ -64,6 +64,6 @@ int main(int argc, char* argv[]) {
         return Run(argc, argv);
     } catch (const std::exception& error) {
         std::cerr << "tarn: " << error.what() << '\n';
-        return 1;
+        return tarn::Refused;
     }
 }

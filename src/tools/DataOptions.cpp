@@ -1,11 +1,11 @@
 #include "tools/DataOptions.h"
 
 #include "app/Configuration.h"
+#include "app/ExitStatus.h"
 #include "app/StartModule.h"
 #include "app/Version.h"
 #include "tools/DataCommands.h"
 #include "tools/Files.h"
-#include "tools/Refusal.h"
 
 #include <CLI/CLI.hpp>
 
@@ -123,7 +123,7 @@ void AddProjectCommands(CLI::App& app, Arguments& arguments, Command& chosen) {
 std::function<void()> ReadDataCommand(int argc, const char* const* argv, int& status) {
     CLI::App app(Description, "tarn-data");
     app.footer(Footer);
-    app.set_version_flag("--version", std::string(Version));
+    app.set_version_flag("--version", VersionText(app.get_name()));
     app.require_subcommand(1);
     const auto arguments = std::make_shared<Arguments>();
     Command chosen;

@@ -1,5 +1,6 @@
 #include "tools/EstimateOptions.h"
 
+#include "app/ExitStatus.h"
 #include "app/Version.h"
 #include "engine/EstOptions.h"
 #include "estimate/RollWidth.h"
@@ -164,7 +165,7 @@ EstimateRequest::Repeat RepeatOf(const std::string& text) {
 std::optional<EstimateOptions> ReadEstimateOptions(int argc, const char* const* argv, int& status) {
     CLI::App app(Description, "tarn-estimate");
     app.footer(Footer);
-    app.set_version_flag("--version", std::string(Version));
+    app.set_version_flag("--version", VersionText(app.get_name()));
     app.get_formatter()->column_width(28);
     EstimateOptions options;
     std::string lay = "down";

@@ -11,7 +11,4 @@ class Refusal : public std::runtime_error {
     using std::runtime_error::runtime_error;
 };
 
-/// Exit statuses of the command-line programs.
-enum ExitStatus : int { Done = 0, Refused = 1, WrongUsage = 2 };
-
 } // namespace tarn

@@ -1,7 +1,7 @@
 #include "tools/ToolMain.h"
 
+#include "app/ExitStatus.h"
 #include "app/RunTimeError.h"
-#include "tools/Refusal.h"
 
 #include <iostream>
 
@@ -12,12 +12,7 @@ int RunTool(std::string_view program, const std::function<void()>& body) {
         body();
         return Done;
     } catch (const RunTimeError& error) {
-        std::cerr << program << ": Run-time error '" << error.Number() << "': " << error.Text()
-                  << ".";
-        if (!error.Advice().empty()) {
-            std::cerr << ' ' << error.Advice();
-        }
-        std::cerr << '\n';
+        std::cerr << program << ": " << error.Heading() << ' ' << error.Sentences() << '\n';
     } catch (const std::exception& error) {
         std::cerr << program << ": " << error.what() << '\n';
     }

@@ -35,6 +35,13 @@ TEST(RunTimeError, HasTheNumberAndTextOfEachKind) {
     EXPECT_EQ(internal.Text(), "Internal error");
 }
 
+TEST(RunTimeError, TellsItselfInOneLine) {
+    const RunTimeError error = Raised([] { RaiseOverflow(); });
+    EXPECT_EQ(error.Heading(), "Run-time error '6':");
+    EXPECT_EQ(error.Sentences(), "Overflow.");
+    EXPECT_EQ(error.WithAdvice("Choose fewer.").Sentences(), "Overflow. Choose fewer.");
+}
+
 TEST(RunTimeError, CarriesTheAdviceOfEachKind) {
     EXPECT_EQ(Raised([] { RaiseOverflow("a"); }).Advice(), "a");
     EXPECT_EQ(Raised([] { RaiseSubscript("b"); }).Advice(), "b");

@@ -12,6 +12,7 @@ from desktop import PATIENCE, Program, wait_for
 from Xlib import X, display
 from house import House
 
+PROGRAMS = ["tarn", "tarn-estimate", "tarn-data"]
 TOO_SMALL = (
     "Sorry, the program must run under display resolution 800 X 600 or higher\n"
     "Please change the display resolution!"
@@ -222,6 +223,11 @@ class Starts(Case):
                 check=False,
             )
             self.assertEqual(done.returncode, status, arguments)
+
+    def test_every_program_tells_its_version_behind_its_name(self):
+        lines = [self.house.run(name, "--version").split() for name in PROGRAMS]
+        self.assertEqual([name for name, _ in lines], PROGRAMS)
+        self.assertEqual(len({version for _, version in lines}), 1, lines)
 
 
 if __name__ == "__main__":

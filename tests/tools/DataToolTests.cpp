@@ -357,7 +357,7 @@ TEST_F(DataTool, HelpTellsEveryCommand) {
         EXPECT_TRUE(run.Out.contains(command)) << command;
     }
     EXPECT_TRUE(Data({S("import"), S("--help")}).Out.contains("--replace"));
-    EXPECT_EQ(Data({S("--version")}).Out.trimmed().toStdString(), TARN_VERSION);
+    EXPECT_EQ(Data({S("--version")}).Out.toStdString(), "tarn-data " TARN_VERSION "\n");
 }
 
 } // namespace

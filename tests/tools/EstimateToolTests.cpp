@@ -377,7 +377,7 @@ TEST_F(EstimateTool, HelpTellsEveryOption) {
 TEST_F(EstimateTool, TellsItsVersion) {
     const ToolRun run = Estimate({S("--version")});
     EXPECT_EQ(run.Status, 0);
-    EXPECT_EQ(run.Out.trimmed().toStdString(), TARN_VERSION);
+    EXPECT_EQ(run.Out.toStdString(), "tarn-estimate " TARN_VERSION "\n");
 }
 
 } // namespace
