@@ -5,7 +5,6 @@
 #include "app/Numbers.h"
 #include "app/QtText.h"
 #include "app/Theme.h"
-#include "engine/EstOptions.h"
 #include "engine/MultiEstimate.h"
 #include "engine/SearchProgress.h"
 

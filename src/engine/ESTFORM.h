@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/TitledScreen.h"
+#include "engine/EstOptions.h"
 #include "engine/FillsClient.h"
 
 #include <array>
@@ -35,12 +36,12 @@ class ESTFORM : public TitledScreen {
     Integer ChosenOption() const;
 
     FillsClient& client_;
-    std::array<QRadioButton*, 3> minCuts_{}; ///< Option2
-    std::array<QRadioButton*, 6> pieces_{};  ///< Option1
-    QPushButton* continue_ = nullptr;        ///< Command1
-    QProgressBar* bar_ = nullptr;            ///< ProgressBar1
-    QLabel* percentage_ = nullptr;           ///< Label6
-    SearchProgress* search_ = nullptr;       ///< while a search runs
+    std::array<QRadioButton*, MinCuts> minCuts_{};   ///< Option2
+    std::array<QRadioButton*, MostPieces> pieces_{}; ///< Option1
+    QPushButton* continue_ = nullptr;                ///< Command1
+    QProgressBar* bar_ = nullptr;                    ///< ProgressBar1
+    QLabel* percentage_ = nullptr;                   ///< Label6
+    SearchProgress* search_ = nullptr;               ///< while a search runs
 };
 
 } // namespace tarn

@@ -1,6 +1,7 @@
 #include "tools/EstimateOptions.h"
 
 #include "app/ExitStatus.h"
+#include "app/Format.h"
 #include "app/Version.h"
 #include "engine/EstOptions.h"
 #include "estimate/RollWidth.h"
@@ -9,6 +10,9 @@
 #include "tools/Refusal.h"
 
 #include <CLI/CLI.hpp>
+
+#include <functional>
+#include <string>
 
 namespace tarn {
 
@@ -31,6 +35,43 @@ constexpr const char* Footer =
 /// Refuses an option that is given without its value ("--match=").
 std::string NotEmpty(const std::string& value) {
     return value.empty() ? "the value is empty" : "";
+}
+
+/// "a, b or c": what `textOf` says of each minimum cut.
+std::string EachMinCut(const std::function<std::string(Integer)>& textOf) {
+    std::string list = textOf(0);
+    for (Integer i = 1; i < MinCuts; ++i) {
+        list += (i < MinCuts - 1 ? ", " : " or ") + textOf(i);
+    }
+    return list;
+}
+
+/// The shortest parts that the search leaves.
+std::string LengthsInForce(bool metric) {
+    SharedState state;
+    state.MetricFlag = metric ? 1 : 0;
+    return EachMinCut([&](Integer i) { return MinCutInForce(state, i); });
+}
+
+/// The shortest parts that the improving search leaves: those that the captions name.
+std::string LengthsOfCaptions() {
+    const SharedState state;
+    const auto inches = [&](Integer i) { return Format(MinCutOfCaption(state, i), "##0"); };
+    const auto metric = [](Integer i) {
+        return std::string(MetricMinCutCaptions.at(static_cast<std::size_t>(i)));
+    };
+    return EachMinCut(inches) + " inches or more (" + EachMinCut(metric) + " with --metric)";
+}
+
+std::string MinCutDescription() {
+    const auto choice = [](Integer i) {
+        return std::to_string(i) + " = " +
+               std::string(ImperialMinCutCaptions.at(static_cast<std::size_t>(i)));
+    };
+    return "Minimum cut: " + EachMinCut(choice) +
+           ". Despite their names these keep the parts of a divided fill at " +
+           LengthsInForce(false) + " or more (" + LengthsInForce(true) +
+           " with --metric); --improve keeps them at " + LengthsOfCaptions();
 }
 
 void AddInput(CLI::App& app, EstimateOptions& options) {
@@ -64,17 +105,14 @@ void AddChoices(CLI::App& app, EstimateOptions& options, std::string& lay) {
                    "Pattern repeat across x along, in inches (centimetres with --metric)")
         ->check(NotEmpty)
         ->type_name("18x24");
-    app.add_option(
-           "--min-cut", options.MinCut,
-           "Minimum cut: 0 = 3 FT, 1 = 1FT 6, 2 = 1/2FT. Despite their names these keep the "
-           "parts of a divided fill at 3, 1.5 or 0.5 inch or more (7.62, 3.81 or 1.27 inch "
-           "with --metric); --improve keeps them at 36, 18 or 6 inches or more (91, 46 or 15 cm)")
-        ->check(CLI::Range(0, 2))
+    app.add_option("--min-cut", options.MinCut, MinCutDescription())
+        ->check(CLI::Range(0, MinCuts - 1))
         ->capture_default_str()
         ->type_name("N");
     app.add_option("--max-pieces", options.MaxPieces,
-                   "Maximum number of parts into which a fill is divided, 1 to 6")
-        ->check(CLI::Range(1, 6))
+                   "Maximum number of parts into which a fill is divided, 1 to " +
+                       std::to_string(MostPieces))
+        ->check(CLI::Range(1, static_cast<int>(MostPieces)))
         ->capture_default_str()
         ->type_name("N");
 }
@@ -102,9 +140,9 @@ void AddImprovement(CLI::App& app, EstimateOptions& options) {
     auto* seconds =
         app.add_option("--improve", options.ImproveSeconds,
                        "Then look for a better layout, for so many seconds at most or until it is "
-                       "the least possible, with the parts of a divided fill at 36, 18 or 6 inches "
-                       "or more (91, 46 or 15 cm with --metric) by --min-cut; Ctrl+C ends that "
-                       "earlier and keeps the best")
+                       "the least possible, with the parts of a divided fill at " +
+                           LengthsOfCaptions() +
+                           " by --min-cut; Ctrl+C ends that earlier and keeps the best")
             ->check(CLI::PositiveNumber)
             ->type_name("SECONDS");
     auto* steps = app.add_option("--improve-steps", options.ImproveSteps,

@@ -17,9 +17,9 @@ struct EstimateOptions {
     std::string RollWidth;
     bool CrossLay = false;
     std::string Match; ///< WxL; empty without a pattern
-    int MinCut = 0;    ///< 0..2
-    int MaxPieces = 1; ///< 1..6
-    std::string Text;  ///< output files; empty = not wanted
+    int MinCut = 0;    ///< see PackEstOption
+    int MaxPieces = 1;
+    std::string Text; ///< output files; empty = not wanted
     std::string Json;
     std::string Svg;
     std::string Pdf;

@@ -7,7 +7,9 @@ namespace tarn {
 namespace {
 
 TEST(PackEstOption, PacksEveryChoice) {
-    for (Integer minCut = 0; minCut <= 2; ++minCut) {
+    EXPECT_EQ(MinCuts, 3);
+    EXPECT_EQ(MostPieces, 6);
+    for (Integer minCut = 0; minCut < MinCuts; ++minCut) {
         for (Integer pieces = 1; pieces <= MostPieces; ++pieces) {
             EXPECT_EQ(PackEstOption(minCut, pieces), 10 * minCut + (pieces - 1));
         }

@@ -374,6 +374,18 @@ TEST_F(EstimateTool, HelpTellsEveryOption) {
     }
 }
 
+TEST_F(EstimateTool, HelpTellsWhatTheMinimumCutsKeep) {
+    const QString help = Estimate({S("--help")}).Out.simplified();
+    for (const char* text :
+         {"0 = 3 FT, 1 = 1FT 6\" or 2 = 1/2FT.",
+          "at 3 inches, 1.5 inch or 0.5 inch or more (19.4 cm, 9.7 cm or 3.2 cm with --metric)",
+          "--improve keeps them at 36, 18 or 6 inches or more (91 cm, 46 cm or 15 cm with "
+          "--metric)",
+          "divided, 1 to 6"}) {
+        EXPECT_TRUE(help.contains(QLatin1String(text))) << text << " in " << help.toStdString();
+    }
+}
+
 TEST_F(EstimateTool, TellsItsVersion) {
     const ToolRun run = Estimate({S("--version")});
     EXPECT_EQ(run.Status, 0);
