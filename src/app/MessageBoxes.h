@@ -5,6 +5,9 @@
 #include <QPointer>
 #include <QWidget>
 
+#include <optional>
+#include <string>
+
 namespace tarn {
 
 /// The real boxes, modal to `parent`, which may be none.

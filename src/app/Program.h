@@ -9,7 +9,6 @@
 
 #include <filesystem>
 #include <functional>
-#include <memory>
 #include <vector>
 
 namespace tarn {

@@ -32,7 +32,6 @@ const Colours& DarkColours();
 struct Metrics {
     static constexpr double Spacing = 120; ///< between controls
     static constexpr double Margin = 240;  ///< inside panels
-    static constexpr double ControlHeight = 480;
     static constexpr double ButtonWidth = 1800; ///< at least
     static constexpr double BaseFont = 11;
     static constexpr double ListingFont = 10; ///< fixed pitch

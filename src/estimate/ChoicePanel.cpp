@@ -232,7 +232,7 @@ void ChoicePanel::LoadCData(const CarpetsFound& carpets) {
     for (QAbstractButton* option : carpets_.buttons()) {
         const auto code = static_cast<std::size_t>(carpets_.id(option));
         option->setEnabled(carpets.HasRooms[code]);
-        SetForeColor(*option, 0);
+        SetForeColor(*option, static_cast<int>(QBColor::Black));
     }
     if (carpets.Lowest) {
         carpets_.button(*carpets.Lowest)->setChecked(true);

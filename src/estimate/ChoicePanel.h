@@ -6,6 +6,8 @@
 #include <QButtonGroup>
 #include <QFrame>
 
+#include <array>
+
 class QBoxLayout;
 class QCheckBox;
 class QLabel;

@@ -4,7 +4,6 @@
 #include "app/Display.h"
 #include "app/ElidedLabel.h"
 #include "app/QtText.h"
-#include "app/RunTimeError.h"
 #include "app/Theme.h"
 #include "estimate/ImprovePanel.h"
 #include "estimate/LayoutDrawing.h"

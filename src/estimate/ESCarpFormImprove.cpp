@@ -1,6 +1,5 @@
 // The improving search of the estimate screen.
 
-#include "app/QtText.h"
 #include "estimate/ESCarpForm.h"
 #include "estimate/ImproveEstimate.h"
 #include "estimate/ImprovePanel.h"

@@ -53,12 +53,12 @@ void EntryField::FitLastChange() {
     const TypedText fitted = Fitted(
         before_.toStdU32String(),
         {typed.toStdU32String(), typed.left(cursorPosition()).toStdU32String().size()}, rule_);
-    const QString text = QString::fromStdU32String(fitted.Text);
-    if (text == typed) {
+    const QString allowed = QString::fromStdU32String(fitted.Text);
+    if (allowed == typed) {
         return;
     }
-    ReplaceLastChange(text);
-    if (this->text() == text) {
+    ReplaceLastChange(allowed);
+    if (text() == allowed) {
         const auto left = QString::fromStdU32String(fitted.Text.substr(0, fitted.Cursor));
         setCursorPosition(static_cast<int>(left.size()));
     }

@@ -3,6 +3,9 @@
 #include "app/TitledScreen.h"
 #include "rooms/RoomEntry.h"
 
+#include <functional>
+#include <string>
+
 class QLineEdit;
 class QPushButton;
 

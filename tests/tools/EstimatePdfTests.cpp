@@ -2,8 +2,6 @@
 #include "print/PrintServer.h"
 #include "tools/ToolTesting.h"
 
-#include <QElapsedTimer>
-
 namespace tarn {
 namespace {
 
