@@ -85,6 +85,11 @@ QLabel* NewLabel(QWidget* parent, const QString& name, std::string_view caption)
     return label;
 }
 
+void SetText(QLabel& label, std::string_view text) {
+    label.setText(ToQt(text));
+    label.setAccessibleName(label.text());
+}
+
 QLabel* NewLabelFor(QWidget& control, QWidget* parent, const QString& name,
                     std::string_view caption, char mnemonic) {
     QLabel* label = NewLabel(parent, name, caption);

@@ -37,6 +37,9 @@ void IgnoreSecondClick(QAbstractButton& button);
 
 QLabel* NewLabel(QWidget* parent, const QString& name, std::string_view caption);
 
+/// Give a label another text, which is its accessible name, too.
+void SetText(QLabel& label, std::string_view text);
+
 /// A label for `control`: gives the control its accessible name, and takes Alt and `mnemonic` to
 /// it.
 QLabel* NewLabelFor(QWidget& control, QWidget* parent, const QString& name,

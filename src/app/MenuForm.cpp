@@ -1,5 +1,6 @@
 #include "app/MenuForm.h"
 
+#include "app/Arrangement.h"
 #include "app/Controls.h"
 #include "app/Display.h"
 #include "app/MenuLoad.h"
@@ -45,7 +46,7 @@ MenuForm::MenuForm(Session& session, MenuEntry entry)
 void MenuForm::BuildPanel() {
     auto* frame1 = new QFrame;
     frame1->setObjectName(QStringLiteral("Frame1"));
-    frame1->setProperty("panel", true);
+    SetPanel(*frame1);
     frame1->setMinimumWidth(Pixels(PanelWidth));
 
     auto* heading = NewLabel(frame1, QStringLiteral("Label1"), "OPERATION MENU");
@@ -84,10 +85,8 @@ void MenuForm::BuildPanel() {
     OnClick(*command1_[EstimateCarpet], "The estimate could not be opened.",
             [this] { Estimate(); });
 
-    const int margin = Pixels(Metrics::Margin);
     auto* layout = new QVBoxLayout(frame1);
-    layout->setContentsMargins(margin, margin, margin, margin);
-    layout->setSpacing(Pixels(Metrics::Spacing));
+    SetSpacing(*layout, Metrics::Margin);
     layout->addWidget(heading);
     layout->addWidget(notSaved_);
     layout->addLayout(units);
@@ -96,9 +95,8 @@ void MenuForm::BuildPanel() {
     layout->addWidget(command1_[Backward]);
     AddPanel(*frame1);
 
-    setTabOrder(check1_, command1_[EnterEditData]);
-    setTabOrder(command1_[EnterEditData], command1_[EstimateCarpet]);
-    setTabOrder(command1_[EstimateCarpet], command1_[Backward]);
+    SetTabOrders(
+        {check1_, command1_[EnterEditData], command1_[EstimateCarpet], command1_[Backward]});
 }
 
 void MenuForm::BuildExit() {

@@ -199,6 +199,10 @@ void SetRole(QWidget& widget, TextRole role) {
     SetStyled(widget, RoleProperty, QString::fromLatin1(RoleName(role)));
 }
 
+void SetPanel(QWidget& frame) {
+    SetStyled(frame, "panel", true);
+}
+
 void SetPrimary(QWidget& button) {
     SetStyled(button, PrimaryProperty, true);
 }

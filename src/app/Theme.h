@@ -30,8 +30,8 @@ const Colours& DarkColours();
 
 /// Sizes that every screen shares, twips; type sizes in points.
 struct Metrics {
-    static constexpr double Spacing = 120; ///< between controls
-    static constexpr double Margin = 240;  ///< inside panels
+    static constexpr double Spacing = 120;      ///< between controls
+    static constexpr double Margin = 240;       ///< inside panels
     static constexpr double ButtonWidth = 1800; ///< at least
     static constexpr double BaseFont = 11;
     static constexpr double ListingFont = 10; ///< fixed pitch
@@ -45,6 +45,8 @@ enum class TextRole { Label, Heading, FormTitle, ProductTitle, Hint, Warning };
 
 /// Give a widget the looks of a role.
 void SetRole(QWidget& widget, TextRole role);
+/// Give a frame or a group box the looks of a panel.
+void SetPanel(QWidget& frame);
 /// Mark the button that a screen is mostly used for.
 void SetPrimary(QWidget& button);
 /// Set the text colour of a control on a panel: QBColor code 0 (text) or 2 (green). A disabled

@@ -1,5 +1,6 @@
 #include "engine/ESTFORM.h"
 
+#include "app/Arrangement.h"
 #include "app/Controls.h"
 #include "app/Display.h"
 #include "app/Numbers.h"
@@ -103,11 +104,9 @@ void ESTFORM::BuildPieces(QWidget& frame) {
 
 void ESTFORM::BuildFrame() {
     QFrame* frame10 = NewFrame(&Body(), "Frame10");
-    frame10->setProperty("panel", true);
+    SetPanel(*frame10);
     auto* layout = new QVBoxLayout(frame10);
-    const int margin = Pixels(Metrics::Margin);
-    layout->setContentsMargins(margin, margin, margin, margin);
-    layout->setSpacing(Pixels(Metrics::Spacing));
+    SetSpacing(*layout, Metrics::Margin);
 
     QLabel* heading = NewLabel(frame10, QStringLiteral("Label5"), "ESTIMATING FILLS MENU");
     SetRole(*heading, TextRole::Heading);
@@ -115,7 +114,7 @@ void ESTFORM::BuildFrame() {
     layout->addWidget(heading);
 
     auto* choices = new QHBoxLayout;
-    choices->setSpacing(2 * margin);
+    choices->setSpacing(2 * Pixels(Metrics::Margin));
     QFrame* frame2 = NewFrame(frame10, "Frame2");
     BuildMinCuts(*frame2);
     choices->addWidget(frame2);
@@ -133,9 +132,7 @@ void ESTFORM::BuildFrame() {
     percentage_->setMinimumWidth(
         percentage_->fontMetrics().horizontalAdvance(QStringLiteral("100%")));
     for (QWidget* progress : {static_cast<QWidget*>(bar_), static_cast<QWidget*>(percentage_)}) {
-        QSizePolicy policy = progress->sizePolicy();
-        policy.setRetainSizeWhenHidden(true);
-        progress->setSizePolicy(policy);
+        KeepRoom(*progress);
         progress->hide();
     }
     continue_ = NewButton(frame10, QStringLiteral("Command1"), "Continue", 'C');

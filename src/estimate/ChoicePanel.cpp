@@ -1,5 +1,6 @@
 #include "estimate/ChoicePanel.h"
 
+#include "app/Arrangement.h"
 #include "app/Controls.h"
 #include "app/Display.h"
 #include "app/Guard.h"
@@ -48,8 +49,7 @@ void AddOption(QBoxLayout& column, QButtonGroup& group, const char* array, int i
 }
 
 void SpaceOut(QLayout& layout) {
-    layout.setContentsMargins(0, 0, 0, 0);
-    layout.setSpacing(Pixels(Metrics::Spacing / 2));
+    SetSpacing(layout, 0, Metrics::Spacing / 2);
 }
 
 } // namespace
@@ -59,11 +59,9 @@ ChoicePanel::ChoicePanel(QWidget* parent, Dialogs& boxes, bool metric)
     , boxes_(boxes)
     , metric_(metric) {
     NameControl(*this, QStringLiteral("Frame7"), QStringLiteral("Estimate choices"));
-    setProperty("panel", true);
+    SetPanel(*this);
     auto* rows = new QVBoxLayout(this);
-    const int margin = Pixels(Metrics::Margin);
-    rows->setContentsMargins(margin, margin, margin, margin);
-    rows->setSpacing(margin);
+    SetSpacing(*rows, Metrics::Margin, Metrics::Margin);
     auto* columns = new QHBoxLayout;
     columns->setSpacing(Pixels(2 * Metrics::Margin));
     columns->addLayout(BuildCarpets());
@@ -102,13 +100,10 @@ QBoxLayout* ChoicePanel::BuildWidths() {
     return column;
 }
 
-/// The boxes of a free width keep their room while they are hidden, so that nothing jumps.
 QWidget* ChoicePanel::BuildOther() {
     other_ = new QWidget;
     other_->setObjectName(QStringLiteral("OtherWidth"));
-    QSizePolicy policy = other_->sizePolicy();
-    policy.setRetainSizeWhenHidden(true);
-    other_->setSizePolicy(policy);
+    KeepRoom(*other_);
     auto* rows = new QGridLayout(other_);
     SpaceOut(*rows);
     for (std::size_t i = 0; i < otherBoxes_.size(); ++i) {
@@ -184,27 +179,18 @@ QLineEdit* ChoicePanel::NewBox(const char* array, int index) {
 }
 
 void ChoicePanel::SetTabOrder() {
-    QWidget* last = nullptr;
-    const auto next = [&last](QWidget* widget) {
-        if (last != nullptr) {
-            setTabOrder(last, widget);
+    std::vector<QWidget*> order;
+    const auto add = [&order](const QButtonGroup& group) {
+        for (QAbstractButton* option : group.buttons()) {
+            order.push_back(option);
         }
-        last = widget;
     };
-    for (const QButtonGroup* group : {&carpets_, &widths_}) {
-        for (QAbstractButton* option : group->buttons()) {
-            next(option);
-        }
-    }
-    next(otherBoxes_[0]);
-    next(otherBoxes_[1]);
-    for (QAbstractButton* option : lays_.buttons()) {
-        next(option);
-    }
-    for (QWidget* widget :
-         std::initializer_list<QWidget*>{match_, repeatBoxes_[0], repeatBoxes_[1], ok_, cancel_}) {
-        next(widget);
-    }
+    add(carpets_);
+    add(widths_);
+    order.insert(order.end(), otherBoxes_.begin(), otherBoxes_.end());
+    add(lays_);
+    order.insert(order.end(), {match_, repeatBoxes_[0], repeatBoxes_[1], ok_, cancel_});
+    SetTabOrders(order);
 }
 
 void ChoicePanel::Connect() {
@@ -295,9 +281,8 @@ void ChoicePanel::MatchClicked() {
 
 void ChoicePanel::ShowOtherHint() {
     if (metric_) {
-        otherHint_->setText(
-            ToQt(OtherWidthHint(FromQt(otherBoxes_[0]->text()), FromQt(otherBoxes_[1]->text()))));
-        otherHint_->setAccessibleName(otherHint_->text());
+        SetText(*otherHint_,
+                OtherWidthHint(FromQt(otherBoxes_[0]->text()), FromQt(otherBoxes_[1]->text())));
     }
 }
 

@@ -1,5 +1,6 @@
 #include "estimate/ESCarpForm.h"
 
+#include "app/Arrangement.h"
 #include "app/Controls.h"
 #include "app/Display.h"
 #include "app/ElidedLabel.h"
@@ -70,22 +71,20 @@ void ESCarpForm::Build() {
     const QString name = ToQt(State().CurProjName);
     setWindowTitle(QStringLiteral("ESTIMATE FOR PROJECT: ") + name);
     auto* rows = new QVBoxLayout(&Body());
-    const int margin = Pixels(Metrics::Margin);
-    rows->setContentsMargins(margin, margin, margin, margin);
-    rows->setSpacing(Pixels(Metrics::Spacing));
+    SetSpacing(*rows, Metrics::Margin);
     rows->addWidget(NewElidedLabel(&Body(), "FTitle", windowTitle(), TextRole::FormTitle));
 
     picture_ = new PictureBox(&Body(), Shared().Boxes);
     picture_->setMinimumSize(Pixels(LeastPictureWidth), Pixels(LeastPictureHeight));
     BuildPictureMenu();
     auto* columns = new QHBoxLayout;
-    columns->setSpacing(margin);
+    columns->setSpacing(Pixels(Metrics::Margin));
     columns->addWidget(picture_, 1);
     columns->addLayout(BuildButtons());
     rows->addLayout(columns, 1);
 
     auto* status = new QHBoxLayout;
-    status->setSpacing(margin);
+    status->setSpacing(Pixels(Metrics::Margin));
     status->addWidget(
         NewElidedLabel(&Body(), "Label2", QStringLiteral("PROJ: ") + name, TextRole::Label), 1);
     zoomHint_ = NewLabel(&Body(), QStringLiteral("Label5"), FromQt(PictureBox::ZoomHint()));
@@ -99,13 +98,9 @@ void ESCarpForm::Build() {
     improvePanel_ = new ImprovePanel(&Body(), State().IsMetric());
     Body().installEventFilter(this);
     panel_->installEventFilter(this);
-    QWidget::setTabOrder(&panel_->CancelButton(), buttons_[Estimate]);
-    for (const auto& [before, after] :
-         {std::pair(Estimate, Improve), std::pair(Improve, PasteCut), std::pair(PasteCut, Redraw),
-          std::pair(Redraw, Print), std::pair(Print, Save), std::pair(Save, Back)}) {
-        QWidget::setTabOrder(buttons_[before], buttons_[after]);
-    }
-    QWidget::setTabOrder(buttons_[Back], picture_);
+    SetTabOrders({&panel_->CancelButton(), buttons_[Estimate], buttons_[Improve],
+                  buttons_[PasteCut], buttons_[Redraw], buttons_[Print], buttons_[Save],
+                  buttons_[Back], picture_});
 }
 
 QVBoxLayout* ESCarpForm::BuildButtons() {

@@ -1,10 +1,10 @@
 #include "estimate/ImprovePanel.h"
 
+#include "app/Arrangement.h"
 #include "app/Controls.h"
 #include "app/Display.h"
 #include "app/Lengths.h"
 #include "app/Numbers.h"
-#include "app/QtText.h"
 #include "app/Text.h"
 #include "app/Theme.h"
 #include "estimate/Improvement.h"
@@ -38,23 +38,16 @@ std::string BoundText(Double inches, bool metric) {
     return metric ? TrimStr(length) : FtInStr(length);
 }
 
-void SetText(QLabel& label, const std::string& text) {
-    label.setText(ToQt(text));
-    label.setAccessibleName(label.text());
-}
-
 } // namespace
 
 ImprovePanel::ImprovePanel(QWidget* parent, bool metric)
     : QFrame(parent)
     , metric_(metric) {
     NameControl(*this, QStringLiteral("Frame8"), QStringLiteral("IMPROVE"));
-    setProperty("panel", true);
+    SetPanel(*this);
     setMinimumWidth(Pixels(PanelWidth));
     auto* rows = new QVBoxLayout(this);
-    const int margin = Pixels(Metrics::Margin);
-    rows->setContentsMargins(margin, margin, margin, margin);
-    rows->setSpacing(Pixels(Metrics::Spacing));
+    SetSpacing(*rows, Metrics::Margin);
     best_ = NewLine(*this, "Label6(0)", TextRole::Heading);
     least_ = NewLine(*this, "Label6(1)", TextRole::Label);
     gap_ = NewLine(*this, "Label6(2)", TextRole::Hint);

@@ -1,5 +1,6 @@
 #include "estimate/PictureBox.h"
 
+#include "app/Arrangement.h"
 #include "app/Controls.h"
 #include "app/Display.h"
 #include "app/Guard.h"
@@ -50,9 +51,8 @@ PictureBox::PictureBox(QWidget* parent, Dialogs& boxes)
     NameControl(*this, QStringLiteral("Picture1"), QStringLiteral("Layout drawing"));
     setToolTip(ZoomHint());
     setFocusPolicy(Qt::StrongFocus);
-    QSizePolicy policy(QSizePolicy::Expanding, QSizePolicy::Expanding);
-    policy.setRetainSizeWhenHidden(true);
-    setSizePolicy(policy);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    KeepRoom(*this);
     // It paints its own paper, so that scrolling moves what is there and paints only the rest.
     viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
     // So that a drag whose release went elsewhere ends with the next move.

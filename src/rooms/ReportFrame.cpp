@@ -1,5 +1,6 @@
 #include "rooms/ReportFrame.h"
 
+#include "app/Arrangement.h"
 #include "app/Controls.h"
 #include "app/Display.h"
 #include "app/QtText.h"
@@ -20,7 +21,7 @@ namespace tarn {
 
 ReportFrame::ReportFrame() {
     NameControl(*this, QStringLiteral("Frame4"), ToQt(ReportTitle));
-    setProperty("panel", true);
+    SetPanel(*this);
 
     view_ = new QPlainTextEdit(this);
     NameControl(*view_, QStringLiteral("Text2"), accessibleName());
@@ -34,13 +35,11 @@ ReportFrame::ReportFrame() {
     close_ = NewButton(this, IndexedName("Command2", 1), "CLOSE", 'C');
     SetPrimary(*print_);
 
-    const int margin = Pixels(Metrics::Spacing);
     auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(margin, margin, margin, margin);
-    layout->setSpacing(margin);
+    SetSpacing(*layout, Metrics::Spacing);
     layout->addWidget(view_, 1);
     auto* buttons = new QHBoxLayout;
-    buttons->setSpacing(margin);
+    buttons->setSpacing(Pixels(Metrics::Spacing));
     // At the right: nowhere near BACK and SAVE, which the second click of a double click would
     // press.
     buttons->addStretch();

@@ -1,5 +1,6 @@
 #include "rooms/RoomEntryFrame.h"
 
+#include "app/Arrangement.h"
 #include "app/Controls.h"
 #include "app/Display.h"
 #include "app/QtText.h"
@@ -25,12 +26,6 @@ namespace {
 
 /// Width of a size field, twips.
 constexpr double SizeFieldWidth = 1050;
-
-void SetSpacing(QLayout& layout, double margin) {
-    const int edge = Pixels(margin);
-    layout.setContentsMargins(edge, edge, edge, edge);
-    layout.setSpacing(Pixels(Metrics::Spacing));
-}
 
 /// A title as it is written, without mnemonics.
 void SetPlainTitle(QGroupBox& group, QString title) {
@@ -67,7 +62,7 @@ std::string TextOf(const QLineEdit& field, const std::string& stored) {
 
 RoomEntryFrame::RoomEntryFrame(const std::string& project, bool metric) {
     SetGroupCaption(*this, QStringLiteral("Frame1"), ToQt("PROJECT: " + project).toUpper());
-    setProperty("panel", true);
+    SetPanel(*this);
     MakeFields();
     MakeButtons();
     Arrange(metric);
@@ -166,8 +161,7 @@ QGroupBox* RoomEntryFrame::NewItemGroup() {
 QWidget* RoomEntryFrame::NewItemNumberRow() {
     auto* row = new QWidget(this);
     auto* layout = new QHBoxLayout(row);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(Pixels(Metrics::Spacing));
+    SetSpacing(*layout, 0);
     QLabel* caption = NewLabel(row, IndexedName("Label1", 10), "PROJECT ITEM No.");
     itemNumber_ = NewLabel(row, IndexedName("Label1", 11), "");
     SetRole(*caption, TextRole::Hint);
@@ -179,8 +173,7 @@ QWidget* RoomEntryFrame::NewItemNumberRow() {
 
 void RoomEntryFrame::Arrange(bool metric) {
     auto* grid = new QGridLayout(this);
-    SetSpacing(*grid, Metrics::Margin);
-    grid->setSpacing(Pixels(Metrics::Margin));
+    SetSpacing(*grid, Metrics::Margin, Metrics::Margin);
     grid->addWidget(NewSizeGroup(metric), 0, 0);
     grid->addWidget(NewItemNumberRow(), 1, 0, Qt::AlignCenter);
     grid->addWidget(NewItemGroup(), 0, 1, 2, 1);
@@ -270,9 +263,7 @@ void RoomEntryFrame::ShowNewRoom() {
 }
 
 void RoomEntryFrame::SetItemNumber(Integer number) {
-    const QString text = ToQt(TrimStr(number));
-    itemNumber_->setText(text);
-    itemNumber_->setAccessibleName(text);
+    SetText(*itemNumber_, TrimStr(number));
 }
 
 } // namespace tarn

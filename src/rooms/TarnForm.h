@@ -36,7 +36,7 @@ class TarnForm : public TitledScreen {
     // Building
     void MakeMenu();
     void MakeButtonsBelow();
-    void SetTabOrders();
+    void SetTabOrder();
     void ConnectButtons();
     void ConnectFields();
     /// Run a command of the entry under the guard; after an error the focus is on the sizes.

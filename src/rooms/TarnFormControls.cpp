@@ -1,5 +1,6 @@
 // The building of the room entry screen, and what its fields do as they are typed in.
 
+#include "app/Arrangement.h"
 #include "app/Controls.h"
 #include "app/Display.h"
 #include "app/QtText.h"
@@ -59,7 +60,7 @@ TarnForm::TarnForm(Session& session)
     AddPanel(*entry_);
     AddPanel(*report_, PanelSize::Filling);
     MakeButtonsBelow();
-    SetTabOrders();
+    SetTabOrder();
     ConnectButtons();
     ConnectFields();
     DispRoomInfo(curRoom_);
@@ -80,8 +81,7 @@ void TarnForm::MakeButtonsBelow() {
     back_ = NewButton(below_, QStringLiteral("Back"), "BACK", 'B');
     save_ = NewButton(below_, IndexedName("Command1", 3), "SAVE", 'S');
     auto* row = new QHBoxLayout(below_);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(Pixels(Metrics::Margin));
+    SetSpacing(*row, 0, Metrics::Margin);
     for (QPushButton* button : {back_, save_}) {
         button->setMinimumWidth(Pixels(Metrics::ButtonWidth));
         row->addWidget(button);
@@ -89,29 +89,20 @@ void TarnForm::MakeButtonsBelow() {
     SetBelow(*below_);
 }
 
-void TarnForm::SetTabOrders() {
-    QWidget* last = &entry_->Text(0);
-    const auto then = [&last](QWidget& next) {
-        setTabOrder(last, &next);
-        last = &next;
-    };
-    for (int i = 1; i < RoomEntryFrame::SizeTexts; ++i) {
-        then(entry_->Text(i));
-    }
-    then(entry_->Covering());
-    for (int i = RoomEntryFrame::SizeTexts; i < RoomEntryFrame::Texts; ++i) {
-        then(entry_->Text(i));
+void TarnForm::SetTabOrder() {
+    std::vector<QWidget*> order;
+    for (int i = 0; i < RoomEntryFrame::Texts; ++i) {
+        if (i == RoomEntryFrame::SizeTexts) {
+            order.push_back(&entry_->Covering());
+        }
+        order.push_back(&entry_->Text(i));
     }
     for (int i = 0; i < RoomEntryFrame::Buttons; ++i) {
-        then(entry_->Button(i));
+        order.push_back(&entry_->Button(i));
     }
-    then(entry_->Estimate());
-    then(entry_->Report());
-    then(*back_);
-    then(*save_);
-    then(report_->View());
-    then(report_->Print());
-    then(report_->Close());
+    order.insert(order.end(), {&entry_->Estimate(), &entry_->Report(), back_, save_,
+                               &report_->View(), &report_->Print(), &report_->Close()});
+    SetTabOrders(order);
 }
 
 void TarnForm::OnCommand(QPushButton& button, const std::string& failure,

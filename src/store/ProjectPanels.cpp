@@ -1,9 +1,9 @@
 #include "store/ProjectPanels.h"
 
+#include "app/Arrangement.h"
 #include "app/Controls.h"
 #include "app/Display.h"
 #include "app/ElidedLabel.h"
-#include "app/QtText.h"
 #include "app/Theme.h"
 #include "store/ChoiceList.h"
 #include "store/ProjectBox.h"
@@ -24,17 +24,6 @@ constexpr double MonthsWidth = 2250;
 constexpr double DirectoriesWidth = 3300;
 constexpr double ProjectsWidth = 4500;
 
-void MakePanel(QFrame& frame, const char* name) {
-    frame.setObjectName(QString::fromLatin1(name));
-    frame.setProperty("panel", true);
-}
-
-void SetSpacing(QLayout& layout) {
-    const int margin = Pixels(Metrics::Margin);
-    layout.setContentsMargins(margin, margin, margin, margin);
-    layout.setSpacing(Pixels(Metrics::Spacing));
-}
-
 QPushButton* NewNamedButton(QWidget* parent, const char* name, std::string_view caption,
                             char mnemonic) {
     QPushButton* button = NewButton(parent, QString::fromLatin1(name), caption, mnemonic);
@@ -42,16 +31,11 @@ QPushButton* NewNamedButton(QWidget* parent, const char* name, std::string_view 
     return button;
 }
 
-/// Give `label` a text that is its accessible name, too.
-void SetLabelText(QLabel& label, const std::string& text) {
-    label.setText(ToQt(text));
-    label.setAccessibleName(ToQt(text));
-}
-
 } // namespace
 
 SettingsPanel::SettingsPanel() {
-    MakePanel(*this, "Frame1");
+    setObjectName(QStringLiteral("Frame1"));
+    SetPanel(*this);
     setMinimumWidth(Pixels(SettingsWidth));
     auto* frame3 = new QGroupBox(this);
     frame3->setTitle(QStringLiteral(" CURRENT SETTING"));
@@ -81,19 +65,20 @@ SettingsPanel::SettingsPanel() {
     buttons->addWidget(Command4, 1);
     buttons->addWidget(Command2);
     auto* layout = new QVBoxLayout(this);
-    SetSpacing(*layout);
+    SetSpacing(*layout, Metrics::Margin);
     layout->addWidget(frame3);
     layout->addLayout(buttons);
     setTabOrder(Command3, Command2);
 }
 
 void SettingsPanel::Show(const std::string& directory, const std::string& project) {
-    SetLabelText(*label1_[0], "DIRECTORY:" + directory);
-    SetLabelText(*label1_[1], project.empty() ? "No Project Selected" : "PROJECT:" + project);
+    SetText(*label1_[0], "DIRECTORY:" + directory);
+    SetText(*label1_[1], project.empty() ? "No Project Selected" : "PROJECT:" + project);
 }
 
 SelectionPanel::SelectionPanel() {
-    MakePanel(*this, "Frame5");
+    setObjectName(QStringLiteral("Frame5"));
+    SetPanel(*this);
     setMinimumHeight(Pixels(MostPanelHeight));
     MakeControls();
     LayOut();
@@ -133,7 +118,7 @@ void SelectionPanel::LayOut() {
         buttons->addWidget(button);
     }
     auto* layout = new QGridLayout(this);
-    SetSpacing(*layout);
+    SetSpacing(*layout, Metrics::Margin);
     for (int column = 0; column < 3; ++column) {
         layout->addWidget(label2_[static_cast<std::size_t>(column)], 0, column);
     }
@@ -144,11 +129,7 @@ void SelectionPanel::LayOut() {
     layout->addLayout(buttons, 3, 0, 1, 3);
     layout->setRowStretch(1, 1);
 
-    const std::array<QWidget*, 8> order{List1[0], List1[1], List2,    Text1,
-                                        Command1, Command7, Command5, Command6};
-    for (std::size_t i = 1; i < order.size(); ++i) {
-        setTabOrder(order[i - 1], order[i]);
-    }
+    SetTabOrders({List1[0], List1[1], List2, Text1, Command1, Command7, Command5, Command6});
 }
 
 } // namespace tarn

@@ -34,5 +34,13 @@ TEST(ElidedLabels, ShowACutTextWholeAndAsItIsWrittenInTheToolTip) {
     EXPECT_EQ(label.toolTip(), QString());
 }
 
+TEST(SetText, GivesALabelItsAccessibleName) {
+    const std::unique_ptr<QLabel> label(NewLabel(nullptr, QStringLiteral("Label1"), "before"));
+    SetText(*label, "5 < 6 & \"7\"");
+    EXPECT_EQ(label->text(), QStringLiteral("5 < 6 & \"7\""));
+    EXPECT_EQ(label->accessibleName(), label->text());
+    EXPECT_EQ(label->objectName(), QStringLiteral("Label1"));
+}
+
 } // namespace
 } // namespace tarn
