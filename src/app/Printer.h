@@ -7,6 +7,7 @@
 
 namespace tarn {
 
+struct EnteredDataReport;
 struct EstimatePage;
 
 /// The printer cannot be used, or refused the job; what() says why.
@@ -20,8 +21,8 @@ inline constexpr const char* PrinterNotReadyMessage =
     "Warning: Your printer is not ready!\r\n\r\nYou couldn't print in the program";
 
 /// The system's default printer. Every member raises PrinterError when there is none, when it takes
-/// no jobs, and when it refuses the job. A job that failed leaves no page, unless the printing system
-/// fell silent after it had the whole of it; the error says so.
+/// no jobs, and when it refuses the job. A job that failed leaves no page, unless the printing
+/// system fell silent after it had the whole of it; the error says so.
 class Printer {
   public:
     virtual ~Printer() = default;
@@ -33,8 +34,8 @@ class Printer {
     };
     virtual PageSize Page() = 0;
 
-    /// Print the entered-data report (lines ended by CrLf) as one job, landscape.
-    virtual void PrintReport(const std::string& text) = 0;
+    /// Print the entered-data report as one job, landscape.
+    virtual void PrintReport(const EnteredDataReport& report) = 0;
     /// Print an estimate as one job of one landscape page.
     virtual void PrintEstimate(const EstimatePage& page) = 0;
 };

@@ -38,9 +38,9 @@ std::string Document(const QString& title, const Paper& paper,
 
 } // namespace
 
-std::string ReportPdf(std::string_view text, const Paper& paper) {
+std::string ReportPdf(const EnteredDataReport& report, const Paper& paper) {
     return Document(ToQt(ReportTitle), paper,
-                    [&](QPagedPaintDevice& device) { PaintReport(device, text); });
+                    [&](QPagedPaintDevice& device) { PaintReport(device, report); });
 }
 
 std::string EstimatePdf(const EstimatePage& page, const Paper& paper) {
@@ -52,8 +52,8 @@ std::string EstimatePdf(const EstimatePage& page) {
     return EstimatePdf(page, PaperOf(page.PrnWidth, page.PrnHeight));
 }
 
-void WriteReportPdf(std::string_view text, const std::string& path, const Paper& paper) {
-    WriteOutputFile(path, ReportPdf(text, paper));
+void WriteReportPdf(const EnteredDataReport& report, const std::string& path, const Paper& paper) {
+    WriteOutputFile(path, ReportPdf(report, paper));
 }
 
 void WriteEstimatePdf(const EstimatePage& page, const std::string& path) {

@@ -1,8 +1,5 @@
 #include "print/ReportPages.h"
 
-#include "app/Text.h"
-#include "rooms/Report.h"
-
 #include <QChar>
 #include <QString>
 
@@ -40,7 +37,8 @@ bool IsMark(char32_t c) {
            category == QChar::Mark_Enclosing;
 }
 
-/// How many of `rest` go into a line of `width`, behind the `fixed` ones that are no words.
+/// How many of `rest` go into a line of `width`. The first `fixed` are columns, not words: no line
+/// ends among them unless they do not fit.
 std::size_t LineLength(const Characters& rest, std::size_t fixed, std::size_t width) {
     if (rest.size() <= width) {
         return rest.size();
@@ -50,20 +48,20 @@ std::size_t LineLength(const Characters& rest, std::size_t fixed, std::size_t wi
         return blank + 1; // a blank behind the last column is not seen
     }
     std::size_t length = width;
-    while (length > fixed + 1 && IsMark(rest[length])) {
+    const std::size_t least = fixed < width ? fixed + 1 : 1;
+    while (length > least && IsMark(rest[length])) {
         --length; // an accent stays with its letter
     }
     return length;
 }
 
 /// A line of the report as lines of at most `columns` characters.
-PaperPage Broken(std::string_view line, std::size_t columns) {
-    Characters rest = CharactersOf(line);
-    const std::size_t remark = RemarkColumn(line);
-    const std::size_t indent = std::min(remark, columns - LeastContinuation);
+PaperPage Broken(const ReportLine& line, std::size_t columns) {
+    Characters rest = CharactersOf(line.Text);
+    const std::size_t indent = std::min(line.Remark, columns - LeastContinuation);
     PaperPage broken;
-    std::size_t length = LineLength(rest, remark, columns);
-    broken.push_back({Utf8(rest.substr(0, length)), remark});
+    std::size_t length = LineLength(rest, line.Remark, columns);
+    broken.push_back({Utf8(rest.substr(0, length)), line.Remark});
     rest.erase(0, length);
     while (!rest.empty()) {
         length = LineLength(rest, 0, columns - indent);
@@ -87,7 +85,7 @@ class Pager {
         if (group.size() > left && fitsOnNext) {
             Turn();
         }
-        for (const PaperLine& line : group) {
+        for (const ReportLine& line : group) {
             if (pages_.back().size() == lines_) {
                 Turn();
             }
@@ -106,13 +104,14 @@ class Pager {
 
 } // namespace
 
-std::vector<PaperPage> ReportPages(std::string_view text, std::size_t columns, std::size_t lines) {
+std::vector<PaperPage> ReportPages(const EnteredDataReport& report, std::size_t columns,
+                                   std::size_t lines) {
     columns = std::max(columns, LeastPageColumns);
     Pager pager(std::max(lines, LeastPageLines));
-    pager.Add({PaperLine()});
+    pager.Add({ReportLine()});
     PaperPage heads;
     std::size_t number = 0;
-    for (const std::string_view line : ReportLines(text)) {
+    for (const ReportLine& line : report.Lines) {
         const PaperPage broken = Broken(line, columns);
         pager.Add(broken);
         ++number;

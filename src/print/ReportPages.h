@@ -1,32 +1,25 @@
 #pragma once
 
-#include <string>
-#include <string_view>
+#include "rooms/Report.h"
+
+#include <cstddef>
 #include <vector>
 
 namespace tarn {
 
-/// One line on paper, UTF-8, without its line break.
-struct PaperLine {
-    std::string Text;
-    /// Where the remark begins in it, characters; 0 for lines without one.
-    std::size_t Remark = 0;
-
-    bool operator==(const PaperLine&) const = default;
-};
-
-using PaperPage = std::vector<PaperLine>;
+using PaperPage = std::vector<ReportLine>;
 
 /// A page has room for that much at least.
 inline constexpr std::size_t LeastPageLines = 6;
 inline constexpr std::size_t LeastPageColumns = 40;
 
-/// The entered-data report (lines ended by CrLf) as pages of at most `lines` lines (at least
+/// The entered-data report as pages of at most `lines` lines (at least
 /// LeastPageLines) of at most `columns` characters (at least LeastPageColumns). Before it stands
 /// one empty line; a page after the first begins with the heads of the columns. A line that is too
 /// long goes on in the next, indented to its remark; it is broken behind a blank if there is one.
 /// No character is lost, but for blanks at the end of a line, and control characters inside one
 /// become blanks. A row with its continuation stays on one page unless it is longer than that.
-std::vector<PaperPage> ReportPages(std::string_view text, std::size_t columns, std::size_t lines);
+std::vector<PaperPage> ReportPages(const EnteredDataReport& report, std::size_t columns,
+                                   std::size_t lines);
 
 } // namespace tarn

@@ -4,7 +4,6 @@
 #include "print/FixedPitchFont.h"
 #include "print/Paper.h"
 #include "print/ReportPages.h"
-#include "rooms/Report.h"
 #include "rooms/ReportType.h"
 
 #include <QFontMetricsF>
@@ -52,7 +51,7 @@ class LinePainter {
         painter_.setPen(Qt::black);
     }
 
-    void Line(const PaperLine& line, std::size_t number) {
+    void Line(const ReportLine& line, std::size_t number) {
         const std::u32string text = QString::fromStdString(line.Text).toStdU32String();
         std::size_t begin = 0;
         while ((begin = text.find_first_not_of(U' ', begin)) != std::u32string::npos) {
@@ -88,7 +87,7 @@ class LinePainter {
 
 } // namespace
 
-void PaintReport(QPagedPaintDevice& device, std::string_view text) {
+void PaintReport(QPagedPaintDevice& device, const EnteredDataReport& report) {
     QPainter painter;
     if (!painter.begin(&device)) {
         throw PrinterError("The report could not be put on paper.");
@@ -97,7 +96,7 @@ void PaintReport(QPagedPaintDevice& device, std::string_view text) {
     const Grid grid = GridOf(PrintableOf(device));
     LinePainter lines(painter, grid);
     bool first = true;
-    for (const PaperPage& page : ReportPages(text, grid.Columns(), grid.Lines())) {
+    for (const PaperPage& page : ReportPages(report, grid.Columns(), grid.Lines())) {
         if (!first && !device.newPage()) {
             throw PrinterError("The report could not be put on a further page.");
         }

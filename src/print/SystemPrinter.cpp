@@ -12,9 +12,9 @@ Printer::PageSize SystemPrinter::Page() {
     return CupsQueue(patience_).DefaultPaper().Size;
 }
 
-void SystemPrinter::PrintReport(const std::string& text) {
+void SystemPrinter::PrintReport(const EnteredDataReport& report) {
     CupsQueue queue(patience_);
-    queue.Submit(std::string(ReportTitle), ReportPdf(text, queue.DefaultPaper()));
+    queue.Submit(std::string(ReportTitle), ReportPdf(report, queue.DefaultPaper()));
 }
 
 void SystemPrinter::PrintEstimate(const EstimatePage& page) {

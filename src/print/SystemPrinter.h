@@ -15,7 +15,7 @@ class SystemPrinter : public Printer {
         : patience_(patience) {}
 
     PageSize Page() override;
-    void PrintReport(const std::string& text) override;
+    void PrintReport(const EnteredDataReport& report) override;
     void PrintEstimate(const EstimatePage& page) override;
 
   private:

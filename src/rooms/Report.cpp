@@ -10,8 +10,6 @@
 #include <QDate>
 #include <QLocale>
 
-#include <algorithm>
-
 namespace tarn {
 
 namespace {
@@ -38,24 +36,16 @@ constexpr long long NoBaseWidth = 12;    ///< less the covering's number
 constexpr long long ImperialBaseGap = 9; ///< less the covering's number
 constexpr long long RoomNumberWidth = 9;
 
-/// What a base length of so many characters counts as in the imperial column.
-long long CountedBaseLength(long long characters) {
-    return characters == 4 ? 4 : characters == 5 ? 6 : characters + 2;
-}
-
-std::string Heading(const SharedState& state, std::string_view date) {
-    std::string text;
-    const auto addLine = [&text](std::string_view line) { text.append(line).append(CrLf); };
-    addLine("");
-    addLine(Space(55).append(ReportTitle));
-    addLine("");
-    addLine(Space(5).append(date));
-    addLine(Space(5) + "PROJECT NAME:   " + Padded(state.CurProjName, 30));
-    addLine("");
-    addLine(FirstHeading);
-    addLine(state.IsMetric() ? MetricHeading : ImperialHeading);
-    addLine(std::string(75, '='));
-    return text;
+std::vector<ReportLine> Heading(const SharedState& state, std::string_view date) {
+    return {{""},
+            {Space(55).append(ReportTitle)},
+            {""},
+            {Space(5).append(date)},
+            {Space(5) + "PROJECT NAME:   " + Padded(state.CurProjName, 30)},
+            {""},
+            {std::string(FirstHeading)},
+            {std::string(state.IsMetric() ? MetricHeading : ImperialHeading)},
+            {std::string(75, '=')}};
 }
 
 /// Width, X, length and the gap before the area.
@@ -106,11 +96,12 @@ std::string BaseColumns(const SharedState& state, Integer room, long long number
         return Padded(base, MetricBaseWidth) + Padded(TrimStr(baseLen), BaseLengthWidth);
     }
     const std::string text = FtInStr(baseLen);
-    return base + Space(ImperialBaseGap - numberLength) + text +
-           Space(BaseLengthWidth - CountedBaseLength(Len(text)));
+    const long long characters = Len(text);
+    const long long counted = characters == 4 ? 4 : characters == 5 ? 6 : characters + 2;
+    return base + Space(ImperialBaseGap - numberLength) + text + Space(BaseLengthWidth - counted);
 }
 
-std::string Row(const SharedState& state, Integer room) {
+ReportLine Row(const SharedState& state, Integer room) {
     const Integer width = state.RoomWidth[room];
     const Integer length = state.RoomLength[room];
     const Byte covering = state.RoomCarpet[room];
@@ -122,113 +113,26 @@ std::string Row(const SharedState& state, Integer room) {
     row += CoveringReportText(covering) + Space(TypeWidth - numberLength);
     row += BaseColumns(state, room, numberLength);
     row += Padded(state.RoomNoStr[room], RoomNumberWidth);
-    row += state.RoomRemark[room] + Space(4);
-    return row.append(CrLf);
-}
-
-/// Reads a row from its left.
-class RowReader {
-  public:
-    explicit RowReader(std::string_view row)
-        : row_(row) {}
-
-    std::size_t Position() const { return position_; }
-    /// Go on over all characters of `set`; how many there were.
-    long long Skip(std::string_view set) {
-        const std::size_t from = position_;
-        position_ = std::min(row_.find_first_not_of(set, from), row_.size());
-        return static_cast<long long>(position_ - from);
-    }
-    void Move(long long count) {
-        position_ =
-            std::min(position_ + static_cast<std::size_t>(std::max(count, 0LL)), row_.size());
-    }
-    /// The character `ahead` places further on; a blank behind the row's end.
-    char At(long long ahead) const {
-        const std::size_t place = position_ + static_cast<std::size_t>(ahead);
-        return place < row_.size() ? row_[place] : ' ';
-    }
-
-  private:
-    std::string_view row_;
-    std::size_t position_ = 0;
-};
-
-constexpr std::string_view Digits = "0123456789";
-constexpr std::string_view Blank = " ";
-
-bool IsDigit(char c) {
-    return c >= '0' && c <= '9';
-}
-
-/// Item, width, X, length and area; false when that is not what stands there.
-bool SkipSizes(RowReader& row) {
-    constexpr std::string_view Size = "-0123456789'\"";
-    constexpr std::string_view SizeAndArea = "-0123456789'\".";
-    if (row.Skip(Blank) != ItemIndent || row.Skip(Digits) == 0) {
-        return false;
-    }
-    row.Skip(Blank);
-    if (row.Skip(Size) == 0) {
-        return false;
-    }
-    row.Skip(Blank);
-    if (row.Skip("X") != 1) {
-        return false;
-    }
-    row.Skip(Blank);
-    bool any = row.Skip(SizeAndArea) > 0; // a long size leaves no blank before the area
-    row.Skip(Blank);
-    row.Skip(SizeAndArea);
-    row.Skip(Blank);
-    return any;
-}
-
-/// Base, base length and the gap behind. `numberLength` is that of the covering's number.
-void SkipBase(RowReader& row, bool metric, long long numberLength) {
-    constexpr std::string_view BaseLetters = "WL0123456789";
-    const bool named = row.At(0) == 'W' || row.At(0) == 'L';
-    if (metric &&
-        (named || (row.At(NoBaseWidth - numberLength) == ' ' &&
-                   row.At(MetricBaseWidth - 1) == ' ' && IsDigit(row.At(MetricBaseWidth))))) {
-        row.Move(MetricBaseWidth + BaseLengthWidth);
-        return;
-    }
-    const long long gap = ImperialBaseGap - numberLength;
-    if (!metric && (named || IsDigit(row.At(gap)))) {
-        row.Skip(BaseLetters);
-        row.Skip(Blank);
-        const long long characters = row.Skip("0123456789'\"");
-        row.Move(BaseLengthWidth - CountedBaseLength(characters));
-        return;
-    }
-    row.Move(NoBaseWidth - numberLength);
+    const auto remark = static_cast<std::size_t>(Len(row));
+    return {row + state.RoomRemark[room] + Space(4), remark};
 }
 
 } // namespace
 
-std::size_t RemarkColumn(std::string_view line) {
-    RowReader row(line);
-    if (!SkipSizes(row) || row.Skip("CT") != 1) {
-        return 0;
-    }
-    const bool metric = line.substr(0, row.Position()).find('\'') == std::string_view::npos;
-    const long long numberLength = row.Skip(Digits);
-    if (numberLength == 0) {
-        return 0;
-    }
-    row.Move(TypeWidth - numberLength);
-    SkipBase(row, metric, numberLength);
-    // Only the room number and what follows may hold other than one-byte characters.
-    return row.Position() + static_cast<std::size_t>(RoomNumberWidth);
-}
-
-std::string LoadReport(const SharedState& state, std::string_view date) {
-    std::string text = Heading(state, date);
-    for (Integer room = 0; room < state.ObjNum; ++room) {
-        text += Row(state, room);
+std::string EnteredDataReport::Text() const {
+    std::string text;
+    for (const ReportLine& line : Lines) {
+        text.append(line.Text).append(CrLf);
     }
     return text;
+}
+
+EnteredDataReport LoadReport(const SharedState& state, std::string_view date) {
+    EnteredDataReport report{Heading(state, date)};
+    for (Integer room = 0; room < state.ObjNum; ++room) {
+        report.Lines.push_back(Row(state, room));
+    }
+    return report;
 }
 
 std::string ShortDate(int year, int month, int day) {
@@ -238,16 +142,6 @@ std::string ShortDate(int year, int month, int day) {
 std::string ShortDateOfToday() {
     const QDate today = QDate::currentDate();
     return ShortDate(today.year(), today.month(), today.day());
-}
-
-std::vector<std::string_view> ReportLines(std::string_view text) {
-    std::vector<std::string_view> lines;
-    while (!text.empty()) {
-        const std::size_t end = std::min(text.find(CrLf), text.size());
-        lines.push_back(text.substr(0, end));
-        text.remove_prefix(std::min(end + CrLf.size(), text.size()));
-    }
-    return lines;
 }
 
 } // namespace tarn

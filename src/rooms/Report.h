@@ -9,8 +9,24 @@
 
 namespace tarn {
 
-/// The entered-data report of the open project: heading, then one row for each room, every line
-/// ended by CrLf. `date` is printed as it is.
+/// One line of the report, UTF-8, without its line break.
+struct ReportLine {
+    std::string Text;
+    /// Where the remark begins, characters from the left; 0 for a line that is no row.
+    std::size_t Remark = 0;
+
+    bool operator==(const ReportLine&) const = default;
+};
+
+/// The entered-data report: what the report frame shows, the printer prints and files hold.
+struct EnteredDataReport {
+    std::vector<ReportLine> Lines;
+
+    /// The lines, each ended by CrLf.
+    std::string Text() const;
+};
+
+/// The report of the open project: heading, then one row for each room. `date` is printed as it is.
 ///
 /// The columns are padded as installers know them from earlier listings, with all their oddities:
 /// the gaps around the X follow the plain number of the width on both sides, the imperial gap
@@ -19,7 +35,7 @@ namespace tarn {
 ///
 /// Raises "Overflow", with an advice that names the room, when a room's base length does not fit an
 /// Integer.
-std::string LoadReport(const SharedState& state, std::string_view date);
+EnteredDataReport LoadReport(const SharedState& state, std::string_view date);
 
 /// The title of the report, in its heading and of what is printed.
 inline constexpr std::string_view ReportTitle = "ENTERED DATA REPORT";
@@ -29,14 +45,6 @@ inline constexpr std::string_view ReportTitle = "ENTERED DATA REPORT";
 inline constexpr std::size_t ReportHeadingLines = 9;
 inline constexpr std::size_t ReportColumnHeadLines = 3;
 inline constexpr std::size_t ReportHeadingWidth = 87; ///< characters of the widest head
-
-/// Where the remark begins in a row of the report, counted in characters from its left; 0 for a
-/// line that is no row. A room number of more characters than its column holds is taken to end with
-/// the column.
-std::size_t RemarkColumn(std::string_view line);
-
-/// The lines of a report, without the CrLf that ends each.
-std::vector<std::string_view> ReportLines(std::string_view text);
 
 /// A date in the short form of the system's locale.
 std::string ShortDate(int year, int month, int day);

@@ -8,7 +8,6 @@
 #include "app/Theme.h"
 #include "app/Twips.h"
 #include "print/FixedPitchFont.h"
-#include "rooms/Report.h"
 
 #include <QAction>
 #include <QHBoxLayout>
@@ -16,6 +15,8 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
+
+#include <utility>
 
 namespace tarn {
 
@@ -66,9 +67,9 @@ void ReportFrame::MakeMenu() {
     });
 }
 
-void ReportFrame::SetText(const std::string& text) {
-    text_ = text;
-    view_->setPlainText(ToQtLines(text));
+void ReportFrame::Show(EnteredDataReport report) {
+    shown_ = std::move(report);
+    view_->setPlainText(ToQtLines(shown_.Text()));
 }
 
 } // namespace tarn

@@ -1,8 +1,8 @@
 #pragma once
 
-#include <QFrame>
+#include "rooms/Report.h"
 
-#include <string>
+#include <QFrame>
 
 class QAction;
 class QPlainTextEdit;
@@ -15,9 +15,9 @@ class ReportFrame : public QFrame {
   public:
     ReportFrame();
 
-    /// The report as LoadReport made it, its lines ended by CrLf.
-    void SetText(const std::string& text);
-    const std::string& Text() const { return text_; }
+    void Show(EnteredDataReport report);
+    /// What the view shows, as LoadReport made it.
+    const EnteredDataReport& Shown() const { return shown_; }
 
     QPlainTextEdit& View() { return *view_; }
     QPushButton& Print() { return *print_; }
@@ -29,7 +29,7 @@ class ReportFrame : public QFrame {
   private:
     void MakeMenu();
 
-    std::string text_;
+    EnteredDataReport shown_;
     QPlainTextEdit* view_ = nullptr;
     QPushButton* print_ = nullptr;
     QPushButton* close_ = nullptr;

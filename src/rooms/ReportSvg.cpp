@@ -6,7 +6,6 @@
 #include "rooms/ReportType.h"
 
 #include <algorithm>
-#include <vector>
 
 namespace tarn {
 
@@ -36,21 +35,20 @@ std::string TextElement(std::string_view line, Double top) {
 
 } // namespace
 
-std::string ReportSvg(std::string_view text) {
-    const std::vector<std::string_view> lines = ReportLines(text);
+std::string ReportSvg(const EnteredDataReport& report) {
     Double width = 0;
-    for (const std::string_view line : lines) {
-        width = std::max(width, WidthOf(line));
+    for (const ReportLine& line : report.Lines) {
+        width = std::max(width, WidthOf(line.Text));
     }
     std::string svg =
-        SvgHead(width + 2 * Margin, static_cast<Double>(lines.size()) * LineHeight + 2 * Margin,
-                ReportTitle);
+        SvgHead(width + 2 * Margin,
+                static_cast<Double>(report.Lines.size()) * LineHeight + 2 * Margin, ReportTitle);
     svg += "<g" + SvgAttribute("font-size", SvgNumber(ReportTypeSize)) +
            " font-family=\"Courier New, Liberation Mono, Courier, monospace\""
            " fill=\"#000000\">\n";
     Double top = Margin;
-    for (const std::string_view line : lines) {
-        svg += TextElement(line, top);
+    for (const ReportLine& line : report.Lines) {
+        svg += TextElement(line.Text, top);
         top += LineHeight;
     }
     return svg + "</g>\n" + std::string(SvgTail);

@@ -147,7 +147,7 @@ void TarnForm::Estimate() {
 
 void TarnForm::ShowReport() {
     WithRoomTaken([this] {
-        report_->SetText(LoadReport(State(), Date(Shared().Today())));
+        report_->Show(LoadReport(State(), Date(Shared().Today())));
         SetEntryEnabled(false);
         ShowPanel(*report_);
         report_->View().setFocus();
@@ -161,20 +161,20 @@ void TarnForm::SetEntryEnabled(bool enabled) {
 }
 
 void TarnForm::PrintReport() {
-    if (Printed(Shared().Boxes, [this] { Shared().Paper.PrintReport(report_->Text()); })) {
+    if (Printed(Shared().Boxes, [this] { Shared().Paper.PrintReport(report_->Shown()); })) {
         CloseReport();
     }
 }
 
 void TarnForm::SaveReportAsPdf() {
     SaveAs(Shared().Boxes, State().CurProjName, "pdf", [this](const std::string& path) {
-        WriteReportPdf(report_->Text(), path, PaperOf(State().PrnWidth, State().PrnHeight));
+        WriteReportPdf(report_->Shown(), path, PaperOf(State().PrnWidth, State().PrnHeight));
     });
 }
 
 void TarnForm::SaveReportAsSvg() {
     SaveAs(Shared().Boxes, State().CurProjName, "svg",
-           [this](const std::string& path) { WriteOutputFile(path, ReportSvg(report_->Text())); });
+           [this](const std::string& path) { WriteOutputFile(path, ReportSvg(report_->Shown())); });
 }
 
 void TarnForm::CloseReport() {

@@ -151,7 +151,7 @@ void ReportProject(const std::string& database, const std::string& project, bool
                             "centimetres.");
     }
     state.MetricFlag = metric ? 1 : 0;
-    std::string report = LoadReport(state, ShortDateOfToday());
+    std::string report = LoadReport(state, ShortDateOfToday()).Text();
     report.erase(std::remove(report.begin(), report.end(), '\r'), report.end());
     WriteWholeFile(StandardOutput, report);
 }

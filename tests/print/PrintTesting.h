@@ -15,7 +15,7 @@ inline constexpr double A4Width = 842; ///< landscape, points
 inline constexpr double A4Height = 595;
 
 /// The report of `count` rooms of different sizes, coverings and bases.
-inline std::string ReportOf(int count, bool metric = false) {
+inline EnteredDataReport ReportOf(int count, bool metric = false) {
     std::vector<RoomRecord> rooms;
     for (int i = 0; i < count; ++i) {
         RoomRecord room;
@@ -32,17 +32,6 @@ inline std::string ReportOf(int count, bool metric = false) {
     state.CurProjName = "MAPLE HOUSE";
     PutRooms(state, rooms);
     return LoadReport(state, "11/21/2031");
-}
-
-/// The lines of a text that are broken by CrLf.
-inline std::vector<std::string> LinesOf(const std::string& text) {
-    std::vector<std::string> lines;
-    for (std::size_t begin = 0; begin < text.size();) {
-        const std::size_t end = text.find(CrLf, begin);
-        lines.push_back(text.substr(begin, end - begin));
-        begin = end + CrLf.size();
-    }
-    return lines;
 }
 
 /// A drawing with a box in every corner of 12000 by 7000 twips, and a text.

@@ -19,7 +19,7 @@ struct SheetPrinter : Printer {
         }
         return Size;
     }
-    void PrintReport(const std::string&) override {}
+    void PrintReport(const EnteredDataReport&) override {}
     void PrintEstimate(const EstimatePage&) override {}
 };
 

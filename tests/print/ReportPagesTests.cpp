@@ -6,7 +6,6 @@
 namespace tarn {
 namespace {
 
-using testing::LinesOf;
 using testing::ReportOf;
 
 constexpr std::size_t Columns = 111;
@@ -17,16 +16,16 @@ std::string WithoutBlanksAtTheEnd(std::string line) {
     return line;
 }
 
-std::vector<std::string> TextsOf(const PaperPage& page) {
+std::vector<std::string> TextsOf(const std::vector<ReportLine>& lines) {
     std::vector<std::string> texts;
-    for (const PaperLine& line : page) {
+    for (const ReportLine& line : lines) {
         texts.push_back(line.Text);
     }
     return texts;
 }
 
 /// A report whose only room has that room number and remark.
-std::string ReportWith(const std::string& roomNo, const std::string& remark) {
+EnteredDataReport ReportWith(const std::string& roomNo, const std::string& remark) {
     SharedState state;
     PutRooms(state, {{150, 168, 0, 0, roomNo, remark}});
     return LoadReport(state, "");
@@ -44,12 +43,12 @@ std::string Ink(const std::string& text) {
 }
 
 TEST(ReportPages, AShortReportIsOnePageBelowAnEmptyLine) {
-    const std::string report = ReportOf(5);
+    const EnteredDataReport report = ReportOf(5);
     const auto pages = ReportPages(report, Columns, Lines);
     ASSERT_EQ(pages.size(), 1U);
     std::vector<std::string> expected{""};
-    for (const std::string& line : LinesOf(report)) {
-        expected.push_back(WithoutBlanksAtTheEnd(line));
+    for (const ReportLine& line : report.Lines) {
+        expected.push_back(WithoutBlanksAtTheEnd(line.Text));
     }
     EXPECT_EQ(TextsOf(pages[0]), expected);
 }
@@ -66,8 +65,8 @@ TEST(ReportPages, APageThatIsExactlyFullHasNoEmptyOneBehind) {
 }
 
 TEST(ReportPages, FurtherPagesBeginWithTheHeadsOfTheColumnsAndEveryRowIsThereOnce) {
-    const std::string report = ReportOf(501, true);
-    const std::vector<std::string> lines = LinesOf(report);
+    const EnteredDataReport report = ReportOf(501, true);
+    const std::vector<std::string> lines = TextsOf(report.Lines);
     const auto pages = ReportPages(report, Columns, Lines);
     ASSERT_EQ(pages.size(), 1U + (501 - 31 + 37) / 38);
     std::size_t row = ReportHeadingLines;
@@ -93,7 +92,7 @@ TEST(ReportPages, ALongRemarkGoesOnBelowItselfBrokenBehindABlank) {
     for (int word = 1; remark.size() < 230; ++word) {
         remark += (word > 1 ? " word" : "word") + std::to_string(word);
     }
-    const std::string report = ReportWith("12", remark);
+    const EnteredDataReport report = ReportWith("12", remark);
     // With every number of columns, so that a blank falls behind the last one too.
     for (std::size_t columns = 100; columns < 120; ++columns) {
         const auto pages = ReportPages(report, columns, Lines);
@@ -114,7 +113,7 @@ TEST(ReportPages, ALongRemarkGoesOnBelowItselfBrokenBehindABlank) {
 }
 
 TEST(ReportPages, WordsThatFillTheLineToItsLastColumnStayOnIt) {
-    const std::string report = ReportWith("12", "first second third");
+    const EnteredDataReport report = ReportWith("12", "first second third");
     const std::size_t column = ReportPages(report, Columns, Lines)[0][10].Remark;
     const std::size_t columns = column + std::string("first second").size();
     const PaperPage page = ReportPages(report, columns, Lines)[0];
@@ -135,15 +134,17 @@ TEST(ReportPages, ARemarkWithoutABlankIsBrokenWhereTheLineEnds) {
 }
 
 TEST(ReportPages, NoInkIsLostWhateverTheNumbersOfColumnsAndLines) {
-    const std::string report =
-        ReportWith("TOO LONG A NUMBER", "Küche, 浴室 and a " + std::string(90, 'y') + " hall") +
-        std::string(300, 'z') + "\r\n" + ReportOf(7);
+    EnteredDataReport report =
+        ReportWith("TOO LONG A NUMBER", "Küche, 浴室 and a " + std::string(90, 'y') + " hall");
+    report.Lines.push_back({std::string(300, 'z')});
+    const EnteredDataReport more = ReportOf(7);
+    report.Lines.insert(report.Lines.end(), more.Lines.begin(), more.Lines.end());
     for (const std::size_t columns : {1U, 40U, 74U, 87U, 111U, 400U}) {
         for (const std::size_t lines : {1U, 6U, 15U, 60U}) {
             std::string ink;
             for (const PaperPage& page : ReportPages(report, columns, lines)) {
                 EXPECT_LE(page.size(), std::max<std::size_t>(lines, 6));
-                for (const PaperLine& line : page) {
+                for (const ReportLine& line : page) {
                     EXPECT_LE(Len(line.Text),
                               static_cast<long long>(std::max(columns, std::size_t{40})));
                     ink += Ink(line.Text);
@@ -151,7 +152,7 @@ TEST(ReportPages, NoInkIsLostWhateverTheNumbersOfColumnsAndLines) {
             }
             // Heads are repeated, so that the report's ink is in there in its order.
             std::size_t found = 0;
-            const std::string whole = Ink(report);
+            const std::string whole = Ink(report.Text());
             for (const char c : ink) {
                 found += found < whole.size() && c == whole[found] ? 1 : 0;
             }
@@ -161,10 +162,8 @@ TEST(ReportPages, NoInkIsLostWhateverTheNumbersOfColumnsAndLines) {
 }
 
 TEST(ReportPages, ARowStaysWithItsContinuationOnOnePage) {
-    std::string report = ReportOf(30); // 40 lines with the empty one: one is left on the page
-    SharedState state;
-    PutRooms(state, {{100, 100, 0, 0, "", std::string(60, 'x')}});
-    report += LinesOf(LoadReport(state, "")).back() + "\r\n";
+    EnteredDataReport report = ReportOf(30); // 40 lines with the empty one: one is left on the page
+    report.Lines.push_back(ReportWith("", std::string(60, 'x')).Lines.back());
     const auto pages = ReportPages(report, Columns, Lines);
     ASSERT_EQ(pages.size(), 2U);
     EXPECT_EQ(pages[0].size(), Lines - 1);
@@ -175,6 +174,39 @@ TEST(ReportPages, ControlCharactersBecomeBlanks) {
     const auto pages = ReportPages(ReportWith("1\t2", "a\nb\rc"), Columns, Lines);
     EXPECT_NE(pages[0][10].Text.find("1 2"), std::string::npos);
     EXPECT_NE(pages[0][10].Text.find("a b c"), std::string::npos);
+}
+
+TEST(ReportPages, WhateverTheRoomNumberIsTheRemarkGoesOnBelowItself) {
+    std::string remark;
+    for (int word = 10; word < 40; ++word) {
+        remark += "word" + std::to_string(word) + " ";
+    }
+    for (const bool metric : {false, true}) {
+        for (const Byte base : {Byte{0}, Byte{5}}) {
+            for (const char* number : {"", "  12", "1 2", " A  B ", "TEN LETTER"}) {
+                SharedState state;
+                state.MetricFlag = metric ? 1 : 0;
+                PutRooms(state, {{150, 168, 0, base, number, remark}});
+                const PaperPage page = ReportPages(LoadReport(state, ""), Columns, Lines)[0];
+                const std::size_t column = page[10].Text.find("word10");
+                SCOPED_TRACE(page[10].Text);
+                EXPECT_EQ(page[10].Remark, column);
+                ASSERT_GT(page.size(), 12U);
+                for (std::size_t i = 11; i < page.size(); ++i) {
+                    EXPECT_EQ(page[i].Remark, column);
+                    EXPECT_EQ(page[i].Text.find("word"), column);
+                    EXPECT_EQ(page[i].Text.find_first_not_of(' '), column);
+                }
+            }
+        }
+    }
+}
+
+TEST(ReportPages, ARoomNumberIsNotTakenForWords) {
+    // The last blank of the line stands inside the room number.
+    const PaperPage page = ReportPages(ReportWith("A B", std::string(60, 'x')), Columns, Lines)[0];
+    EXPECT_NE(page[10].Text.find("A B      xxx"), std::string::npos) << page[10].Text;
+    EXPECT_EQ(page[10].Text.size(), Columns);
 }
 
 TEST(ReportPages, AnAccentStaysWithItsLetter) {
@@ -190,8 +222,8 @@ TEST(ReportPages, AnAccentStaysWithItsLetter) {
     }
 }
 
-TEST(ReportPages, ATextThatIsNoReportIsStillPaged) {
-    const auto pages = ReportPages("one\r\ntwo", Columns, Lines);
+TEST(ReportPages, LinesWithoutAHeadingAreStillPaged) {
+    const auto pages = ReportPages({{{"one"}, {"two"}}}, Columns, Lines);
     ASSERT_EQ(pages.size(), 1U);
     EXPECT_EQ(TextsOf(pages[0]), (std::vector<std::string>{"", "one", "two"}));
 }

@@ -20,7 +20,6 @@ using testing::A4Height;
 using testing::A4Width;
 using testing::Advance;
 using testing::ExpectColumns;
-using testing::LinesOf;
 using testing::Margin;
 using testing::Pdf;
 using testing::PdfWord;
@@ -28,7 +27,7 @@ using testing::ReportOf;
 
 TEST(PaintReport, EveryWordStandsInItsColumnOnEveryPage) {
     for (const bool metric : {false, true}) {
-        const std::string report = ReportOf(120, metric);
+        const EnteredDataReport report = ReportOf(120, metric);
         const Pdf pdf(ReportPdf(report));
         const auto pages = ReportPages(report, 111, 41);
         ASSERT_EQ(pdf.Pages(), static_cast<int>(pages.size()));
@@ -40,7 +39,7 @@ TEST(PaintReport, EveryWordStandsInItsColumnOnEveryPage) {
 }
 
 TEST(PaintReport, ReadsLineByLineAsTheReportDoes) {
-    const std::string report = ReportOf(20);
+    const EnteredDataReport report = ReportOf(20);
     QStringList found;
     for (const QString& line : Pdf(ReportPdf(report)).Layout(1).split(u'\n')) {
         if (!line.trimmed().isEmpty()) {
@@ -48,8 +47,8 @@ TEST(PaintReport, ReadsLineByLineAsTheReportDoes) {
         }
     }
     QStringList expected;
-    for (const std::string& line : LinesOf(report)) {
-        const QString words = testing::Words(line);
+    for (const ReportLine& line : report.Lines) {
+        const QString words = testing::Words(line.Text);
         if (!words.isEmpty()) {
             expected << words;
         }
@@ -59,7 +58,7 @@ TEST(PaintReport, ReadsLineByLineAsTheReportDoes) {
 
 TEST(PaintReport, HasEveryBlankOfTheReportWhereReadersCountColumns) {
     for (const bool metric : {false, true}) {
-        const std::string report = ReportOf(30, metric);
+        const EnteredDataReport report = ReportOf(30, metric);
         const QString margin(static_cast<qsizetype>(std::lround(Margin / Advance)), u' ');
         QStringList found;
         for (const QString& line :
@@ -69,8 +68,8 @@ TEST(PaintReport, HasEveryBlankOfTheReportWhereReadersCountColumns) {
             }
         }
         QStringList expected;
-        for (const std::string& line : LinesOf(report)) {
-            QString text = margin + QString::fromStdString(line);
+        for (const ReportLine& line : report.Lines) {
+            QString text = margin + QString::fromStdString(line.Text);
             while (text.endsWith(u' ')) {
                 text.chop(1);
             }
@@ -100,7 +99,7 @@ TEST(PaintReport, NothingIsNearerToTheEdgeThanTheMargin) {
 TEST(PaintReport, OnASmallSheetTheLettersGetSmallerUntilTheHeadingFits) {
     Paper a5;
     a5.Size = {11906, 8391};
-    const std::string report = ReportOf(3);
+    const EnteredDataReport report = ReportOf(3);
     const Pdf pdf(ReportPdf(report, a5));
     const double advance = 0.6 * std::floor((11906 - 720) / (87 * 0.6)) / 20;
     ExpectColumns(pdf.Words(1), ReportPages(report, 87, 41)[0], advance);
@@ -136,7 +135,7 @@ TEST(PaintReport, WiderLettersOfAnotherFaceKeepToTheirCells) {
 TEST(PaintReport, PaintsOnAPrinterThatCountsFromItsMarginsToo) {
     const QTemporaryDir directory;
     const QString path = directory.filePath(QStringLiteral("printer.pdf"));
-    const std::string report = ReportOf(40);
+    const EnteredDataReport report = ReportOf(40);
     {
         QPrinter printer(QPrinter::HighResolution);
         printer.setOutputFormat(QPrinter::PdfFormat);

@@ -70,9 +70,9 @@ struct WatchedPrinter : Printer {
         Waiting.push_back(ShowsWaiting());
         return System.Page();
     }
-    void PrintReport(const std::string& text) override {
+    void PrintReport(const EnteredDataReport& report) override {
         Waiting.push_back(ShowsWaiting());
-        System.PrintReport(text);
+        System.PrintReport(report);
     }
     void PrintEstimate(const EstimatePage& page) override {
         Waiting.push_back(ShowsWaiting());
@@ -120,7 +120,7 @@ TEST_F(PrintedFromRooms, TheReportArrivesAndIsClosed) {
     Print();
     const PrintedJob job = server.Printed(1).at(0);
     EXPECT_EQ(job.Title, "ENTERED DATA REPORT");
-    EXPECT_EQ(Pdf(job.Document).Text(), Words(LoadReport(state, ShortDate(2026, 3, 14))));
+    EXPECT_EQ(Pdf(job.Document).Text(), Words(LoadReport(state, ShortDate(2026, 3, 14)).Text()));
     EXPECT_FALSE(IsReportShown());
     EXPECT_TRUE(boxes.Messages.empty());
 }

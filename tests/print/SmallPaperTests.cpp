@@ -40,8 +40,8 @@ void ExpectWhole(const std::string& document, const QString& words) {
 TEST(SmallPaper, TheReportIsWholeOnALabelOrANarrowRoll) {
     for (const auto& [width, height] : {std::pair{8640, 5760}, {16838, 2200}, {4535, 4535}}) {
         SCOPED_TRACE(width);
-        const std::string report = ReportOf(1);
-        ExpectWhole(ReportPdf(report, SheetOf(width, height)), testing::Words(report));
+        const EnteredDataReport report = ReportOf(1);
+        ExpectWhole(ReportPdf(report, SheetOf(width, height)), testing::Words(report.Text()));
     }
 }
 

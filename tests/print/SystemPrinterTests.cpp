@@ -53,7 +53,7 @@ void ExpectRefused(const std::string& reason) {
 
 TEST(SystemPrinter, TheReportArrivesAsOneLandscapeJobWithAllItsTextInItsColumns) {
     const PrintServer server({QueueSetup()});
-    const std::string report = ReportOf(100);
+    const EnteredDataReport report = ReportOf(100);
     SystemPrinter().PrintReport(report);
     const PrintedJob job = server.Printed(1).at(0);
     EXPECT_EQ(job.Title, "ENTERED DATA REPORT");
@@ -71,7 +71,7 @@ TEST(SystemPrinter, TheReportArrivesAsOneLandscapeJobWithAllItsTextInItsColumns)
             words += ToQt(pages[page][line].Text) + u' ';
         }
     }
-    EXPECT_EQ(words.simplified(), testing::Words(report));
+    EXPECT_EQ(words.simplified(), testing::Words(report.Text()));
     EXPECT_EQ(server.JobStates().size(), 1U);
 }
 

@@ -50,7 +50,7 @@ TEST_F(EntryFields, MakeOneLineOfTheReportEach) {
     Paste(5, "1\n2");
     Paste(6, "hall\r\nand\u2028stairs\u2029");
     ClickOn(NextButton);
-    const std::string report = LoadReport(state, "");
+    const std::string report = LoadReport(state, "").Text();
     EXPECT_EQ(std::count(report.begin(), report.end(), '\n'), 10);
     EXPECT_EQ(state.RoomNoStr[0], "1 2");
     EXPECT_EQ(state.RoomRemark[0], "hall and stairs");

@@ -8,13 +8,13 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 namespace tarn {
 namespace {
 
 using testing::Below;
 using testing::RandomText;
-using testing::RowOf;
 using testing::RowsOf;
 using testing::StateWith;
 
@@ -126,7 +126,7 @@ TEST(LoadReport, ListsRandomRoomsByTheRules) {
             for (int number = 1; number <= 120; ++number) {
                 rooms.push_back(RandomRoom(random));
             }
-            const std::string rows = RowsOf(LoadReport(StateWith(rooms, metric), ""));
+            const std::string rows = RowsOf(LoadReport(StateWith(rooms, metric), "").Text());
             std::size_t begin = 0;
             for (int number = 1; number <= 120; ++number) {
                 const std::string expected =
@@ -139,46 +139,58 @@ TEST(LoadReport, ListsRandomRoomsByTheRules) {
     }
 }
 
-/// The characters before the remark in a row of the rules, for a room number that fits.
-std::size_t ExpectedRemarkColumn(RoomRecord room, bool metric) {
-    room.Remark.clear();
-    return static_cast<std::size_t>(Characters(ExpectedRow(room, 1, metric)) - 6);
+/// The last `count` bytes of a text, and the characters before them.
+std::pair<std::string, std::size_t> Split(const std::string& text, std::size_t count) {
+    const std::size_t before = text.size() - count;
+    return {text.substr(before), static_cast<std::size_t>(Characters(text.substr(0, before)))};
 }
 
-TEST(RemarkColumn, IsWhereTheRemarkOfARandomRowBegins) {
-    for (unsigned seed = 1; seed <= 20; ++seed) {
+TEST(LoadReport, TellsWhereTheRemarkOfEveryRowBegins) {
+    for (unsigned seed = 1; seed <= 10; ++seed) {
         for (const bool metric : {false, true}) {
             SCOPED_TRACE("seed " + std::to_string(seed) + (metric ? " metric" : " imperial"));
             std::mt19937 random(seed);
-            for (int i = 0; i < 60; ++i) {
-                RoomRecord room = RandomRoom(random);
-                room.RoomNo = "R" + std::to_string(Below(random, 10000000));
-                std::string row = RowOf(room, metric);
-                row.resize(row.size() - 2);
-                EXPECT_EQ(RemarkColumn(row), ExpectedRemarkColumn(room, metric)) << row;
+            std::vector<RoomRecord> rooms;
+            for (const char* number : {"", "7", "  12", "1 0", " C 3 ", "        ", "12'6\"X3'0\"",
+                                       "T1    L2   40     9", "B\u00fcro", "\u6d74\u5ba4"}) {
+                for (const char* remark : {"", "hall", "  12", "   W2L1  1122 "}) {
+                    for (int i = 0; i < 10; ++i) {
+                        rooms.push_back(RandomRoom(random));
+                        rooms.back().RoomNo = number;
+                        rooms.back().Remark = remark;
+                    }
+                }
+            }
+            const EnteredDataReport report = LoadReport(StateWith(rooms, metric), "11/21/2031");
+            ASSERT_EQ(report.Lines.size(), ReportHeadingLines + rooms.size());
+            for (std::size_t i = 0; i < rooms.size(); ++i) {
+                const std::string& remark = rooms[i].Remark;
+                const std::string expected = ExpectedRow(rooms[i], static_cast<int>(i) + 1, metric);
+                const auto [tail, column] = Split(expected, remark.size() + 6);
+                ASSERT_EQ(tail, remark + "    \r\n");
+                const ReportLine& line = report.Lines[ReportHeadingLines + i];
+                EXPECT_EQ(line.Remark, column) << line.Text;
+                EXPECT_EQ(line.Text + "\r\n", expected);
             }
         }
     }
 }
 
-TEST(RemarkColumn, IsKnownWithoutARoomNumberAndForAnUnknownBaseCode) {
+TEST(LoadReport, TellsWhereTheRemarkBeginsForAnUnknownBaseCode) {
     for (const bool metric : {false, true}) {
-        for (const Byte base : {Byte{0}, Byte{5}, Byte{9}}) {
-            std::string with = RowOf({100, 120, 0, base, "", "remark"}, metric);
-            EXPECT_EQ(RemarkColumn(with), with.find("remark")) << with;
-        }
+        const auto report = LoadReport(StateWith({{100, 120, 0, 9, "", "remark"}}, metric), "");
+        const ReportLine& row = report.Lines.back();
+        EXPECT_EQ(row.Remark, row.Text.find("remark")) << row.Text;
     }
 }
 
-TEST(RemarkColumn, IsNoneInTheHeading) {
-    std::string report = LoadReport(StateWith({}, true, "4 ROOMS X 2"), "11/21/2031");
-    for (std::size_t end = 0; (end = report.find("\r\n")) != std::string::npos;
-         report.erase(0, end + 2)) {
-        EXPECT_EQ(RemarkColumn(report.substr(0, end)), 0U) << report.substr(0, end);
+TEST(LoadReport, HasNoRemarkInTheHeading) {
+    const SharedState state = StateWith({{100, 120, 0, 0, "", "remark"}}, true, "    4 ROOMS X 2");
+    const EnteredDataReport report = LoadReport(state, "11/21/2031");
+    for (std::size_t i = 0; i < ReportHeadingLines; ++i) {
+        EXPECT_EQ(report.Lines[i].Remark, 0U) << report.Lines[i].Text;
     }
-    EXPECT_EQ(RemarkColumn("    12 rooms"), 0U);
-    EXPECT_EQ(RemarkColumn("    1         100  X  100"), 0U);
-    EXPECT_EQ(RemarkColumn("    1         100  X  100    1.00       C"), 0U);
+    EXPECT_NE(report.Lines[ReportHeadingLines].Remark, 0U);
 }
 
 } // namespace

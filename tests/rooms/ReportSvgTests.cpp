@@ -74,21 +74,23 @@ TEST(ReportSvg, HasEachLineOfTheReportAsOneTextWithAllItsBlanks) {
     SharedState state;
     state.CurProjName = "SMITH & \"SONS\" <UPPER>";
     PutRooms(state, {{150, 168, 1, 2, "N1", "hall & <stairs>"}, {90, 100, 0, 0, "N2", ""}});
-    const std::string report = LoadReport(state, "11/21/2031");
-    std::string found;
+    const EnteredDataReport report = LoadReport(state, "11/21/2031");
+    std::vector<std::string> lines;
+    for (const ReportLine& line : report.Lines) {
+        lines.push_back(line.Text);
+    }
     const Document document = Read(ReportSvg(report));
     for (const Document::Line& line : document.Lines) {
-        found += line.Text + std::string(CrLf);
         EXPECT_TRUE(line.KeepsBlanks);
     }
-    EXPECT_EQ(found, report);
+    EXPECT_EQ(document.Texts(), lines);
     EXPECT_EQ(document.Title, "ENTERED DATA REPORT");
     EXPECT_TRUE(document.Faces.starts_with("Courier New")) << document.Faces;
     EXPECT_TRUE(document.Faces.ends_with("monospace")) << document.Faces;
 }
 
 TEST(ReportSvg, GivesEveryLetterTheSameWidthAndEveryLineTheSameHeightOnThePaper) {
-    const Document document = Read(ReportSvg("ab\r\n\r\n  caf\u00e9\r\n"));
+    const Document document = Read(ReportSvg({{{"ab"}, {""}, {"  caf\u00e9"}}}));
     EXPECT_THAT(document.Texts(), ElementsAre("ab", "", "  caf\u00e9"));
     ASSERT_EQ(document.Lines.size(), 3U);
     const double advance = document.Lines[0].Length / 2;
@@ -105,9 +107,9 @@ TEST(ReportSvg, GivesEveryLetterTheSameWidthAndEveryLineTheSameHeightOnThePaper)
 }
 
 TEST(ReportSvg, IsWellFormedWhateverTheTextHolds) {
-    EXPECT_THAT(Read(ReportSvg("A\x01\tZ\r\nA\xFF\uFFFEZ")).Texts(),
+    EXPECT_THAT(Read(ReportSvg({{{"A\x01\tZ"}, {"A\xFF\uFFFEZ"}}})).Texts(),
                 ElementsAre("A  Z", "A\uFFFD\uFFFDZ"));
-    EXPECT_TRUE(Read(ReportSvg("")).Lines.empty());
+    EXPECT_TRUE(Read(ReportSvg({})).Lines.empty());
 }
 
 } // namespace

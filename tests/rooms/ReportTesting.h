@@ -29,7 +29,7 @@ inline std::string RowsOf(const std::string& report) {
 }
 
 inline std::string RowOf(const RoomRecord& room, bool metric) {
-    return RowsOf(LoadReport(StateWith({room}, metric), ""));
+    return RowsOf(LoadReport(StateWith({room}, metric), "").Text());
 }
 
 } // namespace tarn::testing

@@ -29,7 +29,7 @@ TEST(LoadReport, ListsAnImperialProjectToTheCharacter) {
                                          {9, 8, 9, 1, "", "Closet"},
                                          {1211, 1319, 2, 6, "GROUND-7", "Hall, \"long\""},
                                          {0, 150, 0, 0, "9", "not cut"}}, false);
-    EXPECT_EQ(LoadReport(state, "11/21/2031"), WithCrLf(
+    EXPECT_EQ(LoadReport(state, "11/21/2031").Text(), WithCrLf(
 "\n"
 "                                                       ENTERED DATA REPORT\n"
 "\n"
@@ -52,7 +52,7 @@ TEST(LoadReport, ListsAMetricProjectToTheCharacter) {
                                          {7, 12345, 7, 1, "A", "x"},
                                          {32767, 32767, 0, 0, "", "Halle"}},
                                         true, "EINFAMILIENHAUS MÜLLER, ERLENGRUND");
-    EXPECT_EQ(LoadReport(state, "21.11.31"), WithCrLf(
+    EXPECT_EQ(LoadReport(state, "21.11.31").Text(), WithCrLf(
 "\n"
 "                                                       ENTERED DATA REPORT\n"
 "\n"
@@ -82,7 +82,7 @@ TEST(LoadReport, ListsEveryCoveringAndBaseToTheCharacter) {
                                          {100, 50, 10, 3, "11", "wc"},
                                          {600, 300, 11, 6, "BEL-12", "Garage"}},
                                         true, "KANAALHUIS");
-    EXPECT_EQ(LoadReport(state, "21-11-31"), WithCrLf(
+    EXPECT_EQ(LoadReport(state, "21-11-31").Text(), WithCrLf(
 "\n"
 "                                                       ENTERED DATA REPORT\n"
 "\n"
@@ -107,7 +107,7 @@ TEST(LoadReport, ListsEveryCoveringAndBaseToTheCharacter) {
 }
 
 TEST(LoadReport, EndsAfterTheRuleWhenThereAreNoRooms) {
-    EXPECT_EQ(LoadReport(StateWith({}, false, ""), ""), WithCrLf(
+    EXPECT_EQ(LoadReport(StateWith({}, false, ""), "").Text(), WithCrLf(
 "\n"
 "                                                       ENTERED DATA REPORT\n"
 "\n"
@@ -162,7 +162,7 @@ TEST(LoadReport, PadsNothingWhereATextIsTooLong) {
 TEST(LoadReport, CountsCharactersNotBytes) {
     EXPECT_EQ(RowOf({100, 100, 0, 0, "Büro", "x"}, true),
               "    1         100  X  100    1.00       C1               Büro     x    \r\n");
-    const std::string report = LoadReport(StateWith({}, true, "浴室"), "");
+    const std::string report = LoadReport(StateWith({}, true, "浴室"), "").Text();
     EXPECT_NE(report.find("NAME:   浴室" + std::string(28, ' ') + "\r\n"), std::string::npos);
 }
 
@@ -183,7 +183,8 @@ TEST(LoadReport, NamesTheRoomWhoseBaseLengthOverflows) {
 }
 
 TEST(LoadReport, EndsEveryLineWithBothCharacters) {
-    const std::string report = LoadReport(StateWith(std::vector<RoomRecord>(12), false), "x");
+    const std::string report =
+        LoadReport(StateWith(std::vector<RoomRecord>(12), false), "x").Text();
     int lines = 0;
     for (std::size_t i = 0; i < report.size(); ++i) {
         if (report[i] == '\n') {
@@ -196,7 +197,7 @@ TEST(LoadReport, EndsEveryLineWithBothCharacters) {
     EXPECT_EQ(report.substr(report.size() - 2), "\r\n");
 }
 TEST(LoadReport, HasTheHeadingThatItsConstantsTell) {
-    const std::string report = LoadReport(StateWith({{100, 100, 0, 0, "", ""}}, true), "");
+    const std::string report = LoadReport(StateWith({{100, 100, 0, 0, "", ""}}, true), "").Text();
     const std::string rows = RowsOf(report); // skips nine lines
     EXPECT_EQ(ReportHeadingLines, 9U);
     EXPECT_EQ(rows.substr(0, 5), "    1");

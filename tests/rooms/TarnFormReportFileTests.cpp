@@ -84,7 +84,7 @@ TEST_F(ReportAsFile, HoldsTheReport) {
         QFile file(ToQt(path));
         ASSERT_TRUE(file.open(QIODevice::ReadOnly));
         const Pdf pdf(file.readAll().toStdString());
-        EXPECT_EQ(pdf.Text(), Words(LoadReport(state, ShortDate(2026, 3, 14))));
+        EXPECT_EQ(pdf.Text(), Words(LoadReport(state, ShortDate(2026, 3, 14)).Text()));
         EXPECT_EQ(pdf.InfoOf("Title"), QStringLiteral("ENTERED DATA REPORT"));
     }
     EXPECT_TRUE(boxes.Messages.empty());

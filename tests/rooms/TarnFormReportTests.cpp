@@ -26,7 +26,7 @@ struct ReportOfRooms : RoomScreen {
         }
         EXPECT_TRUE(Find<QMenu>(*form, "FMnu").menuAction()->isEnabled());
     }
-    std::string Expected() const { return LoadReport(state, ShortDate(2026, 3, 14)); }
+    std::string Expected() const { return LoadReport(state, ShortDate(2026, 3, 14)).Text(); }
 };
 
 TEST_F(ReportOfRooms, ListsAllRoomsWithTheOneOnTheScreen) {
@@ -189,7 +189,7 @@ TEST_F(ReportOfRooms, StaysOpenWhenItCannotBePrinted) {
 
 TEST_F(ReportOfRooms, StaysOpenWhateverFailsWhileItIsPrinted) {
     struct BrokenPrinter : FakePrinter {
-        void PrintReport(const std::string& /*text*/) override { RaiseSubscript(); }
+        void PrintReport(const EnteredDataReport& /*report*/) override { RaiseSubscript(); }
     } broken;
     Session other{state, engine, project, boxes, broken, screens, session.Today};
     AddRooms(1);

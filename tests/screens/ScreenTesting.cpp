@@ -1,6 +1,7 @@
 #include "screens/ScreenTesting.h"
 
 #include "app/Display.h"
+#include "rooms/Report.h"
 
 #include <QAbstractButton>
 #include <QCheckBox>
@@ -59,9 +60,9 @@ Printer::PageSize FakePrinter::Page() {
     return Size;
 }
 
-void FakePrinter::PrintReport(const std::string& text) {
+void FakePrinter::PrintReport(const EnteredDataReport& report) {
     Page();
-    Reports.push_back(text);
+    Reports.push_back(report.Text());
 }
 
 void FakePrinter::PrintEstimate(const EstimatePage& page) {

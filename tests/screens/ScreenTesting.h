@@ -50,11 +50,11 @@ struct FakeBoxes : Dialogs {
 struct FakePrinter : Printer {
     std::string Failure;
     PageSize Size{16838, 11906};
-    std::vector<std::string> Reports;
+    std::vector<std::string> Reports; ///< their texts
     std::vector<EstimatePage> Estimates;
 
     PageSize Page() override;
-    void PrintReport(const std::string& text) override;
+    void PrintReport(const EnteredDataReport& report) override;
     void PrintEstimate(const EstimatePage& page) override;
 };
 
