@@ -24,11 +24,19 @@ void WriteStandardOutput(const std::string& content) {
     }
 }
 
-/// A file's name without links and dots; that of a file that is not there without dots.
+/// A file's name without links and dots, as far as its folders are there.
 QString PlainName(const std::string& path) {
-    const QFileInfo info(QString::fromStdString(path));
-    const QString canonical = info.canonicalFilePath();
-    return canonical.isEmpty() ? QDir::cleanPath(info.absoluteFilePath()) : canonical;
+    constexpr int MostLinks = 40; // as many as the system follows
+    QFileInfo info(QString::fromStdString(path));
+    for (int links = 0; info.isSymLink() && !info.exists() && links < MostLinks; ++links) {
+        info.setFile(info.symLinkTarget());
+    }
+    if (info.exists()) {
+        return info.canonicalFilePath();
+    }
+    const QString folder = QFileInfo(info.path()).canonicalFilePath();
+    return QDir::cleanPath(folder.isEmpty() ? info.absoluteFilePath()
+                                            : folder + u'/' + info.fileName());
 }
 
 } // namespace

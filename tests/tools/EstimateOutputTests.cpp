@@ -79,6 +79,25 @@ TEST_F(EstimateOutput, APipeIsWrittenToAndNotReplaced) {
     EXPECT_TRUE(S_ISFIFO(there.st_mode));
 }
 
+TEST_F(EstimateOutput, TwoOutputsInOneFileThatIsNotThereYetAreRefused) {
+    ASSERT_TRUE(QDir(Path(S("."))).mkdir(S("real")));
+    ASSERT_TRUE(QFile::link(S("real"), Path(S("link"))));
+    ASSERT_TRUE(QFile::link(S("real/out"), Path(S("later"))));
+    for (const char* other : {"real/out", "./real/../real/out", "link/out", "link/../real/out",
+                              "later", "link/../later"}) {
+        const ToolRun run =
+            Estimate(Arguments("--json", S("real/out")) + QStringList{S("--svg"), S(other)});
+        EXPECT_NE(run.Status, 0) << other;
+        EXPECT_TRUE(run.Error.contains("--json and --svg cannot both go to")) << other;
+        EXPECT_TRUE(QDir(Path(S("real"))).isEmpty()) << other;
+    }
+    EXPECT_EQ(Estimate(Arguments("--json", S("real/out")) + QStringList{S("--svg"), S("link/new")})
+                  .Status,
+              0);
+    EXPECT_TRUE(Read(S("real/out")).startsWith("{"));
+    EXPECT_TRUE(Read(S("real/new")).startsWith("<"));
+}
+
 TEST_F(EstimateOutput, AFullStandardOutputIsRefused) {
     QProcess process;
     process.setStandardOutputFile(S("/dev/full"));
