@@ -2,6 +2,7 @@
 
 #include "app/Format.h"
 #include "app/QtText.h"
+#include "app/Text.h"
 
 namespace tarn {
 
@@ -14,7 +15,7 @@ QString Allowed(std::string_view text) {
     constexpr char16_t FirstNonCharacter = 0xFFFE;
     QString allowed = ToQt(text);
     for (QChar& c : allowed) {
-        if (c < QLatin1Char(' ')) {
+        if (IsControlCharacter(c.unicode())) {
             c = QLatin1Char(' ');
         } else if (c.unicode() >= FirstNonCharacter) {
             c = QChar::ReplacementCharacter;

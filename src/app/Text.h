@@ -24,6 +24,11 @@ std::string Space(long long count);
 /// Number of characters (not bytes) of a UTF-8 text.
 long long Len(std::string_view utf8);
 
+/// Whether a character is a control character: U+0000 to U+001F and U+007F to U+009F.
+constexpr bool IsControlCharacter(char32_t c) {
+    return c < 0x20 || (c >= 0x7F && c < 0xA0);
+}
+
 /// A length in whole inches as feet-and-inches text: Int(inches / 12), an apostrophe, inches Mod 12
 /// (with the sign of the length), a double quote. 30 gives 2'6".
 std::string FtInStr(Long inches);

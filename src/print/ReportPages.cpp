@@ -1,5 +1,7 @@
 #include "print/ReportPages.h"
 
+#include "app/Text.h"
+
 #include <QChar>
 #include <QString>
 
@@ -18,7 +20,7 @@ Characters CharactersOf(std::string_view line) {
     Characters characters =
         QString::fromUtf8(line.data(), static_cast<qsizetype>(line.size())).toStdU32String();
     for (char32_t& c : characters) {
-        if (QChar::category(c) == QChar::Other_Control) {
+        if (IsControlCharacter(c)) {
             c = U' ';
         }
     }

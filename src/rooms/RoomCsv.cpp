@@ -280,7 +280,7 @@ std::string Shown(std::string_view value) {
     constexpr qsizetype Most = 40;
     QString text = ToQString(value);
     std::replace_if(
-        text.begin(), text.end(), [](QChar c) { return c.category() == QChar::Other_Control; },
+        text.begin(), text.end(), [](QChar c) { return IsControlCharacter(c.unicode()); },
         QLatin1Char(' '));
     if (text.size() > Most) {
         text.truncate(Most);

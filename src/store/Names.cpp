@@ -9,8 +9,8 @@ namespace tarn {
 
 namespace {
 
-bool IsControlCharacter(QChar c) {
-    return c.category() == QChar::Other_Control || c.category() == QChar::Separator_Line ||
+bool IsControlOrBreak(QChar c) {
+    return IsControlCharacter(c.unicode()) || c.category() == QChar::Separator_Line ||
            c.category() == QChar::Separator_Paragraph;
 }
 
@@ -22,7 +22,7 @@ std::string UpperCase(std::string_view text) {
 
 bool HoldsControlCharacter(std::string_view text) {
     const QString decoded = ToQt(text);
-    return std::any_of(decoded.begin(), decoded.end(), IsControlCharacter);
+    return std::any_of(decoded.begin(), decoded.end(), IsControlOrBreak);
 }
 
 bool HoldsForbiddenCharacter(std::string_view name) {

@@ -47,6 +47,16 @@ TEST(Len, CountsCharactersNotBytes) {
     EXPECT_EQ(Len("\xD0\x94\xD0\xBE\xD0\xBC \xE5\xAE\xB6"), 5); // three alphabets
 }
 
+TEST(IsControlCharacter, IsTrueForThoseOfAsciiAndOfLatin1AndNoOthers) {
+    for (char32_t c = 0; c <= 0x300; ++c) {
+        const bool expected = c <= 0x1F || (c >= 0x7F && c <= 0x9F);
+        EXPECT_EQ(IsControlCharacter(c), expected) << static_cast<unsigned>(c);
+    }
+    for (const char32_t c : {U'\u2028', U'\u200B', U'\uFEFF', U'\U0001F600', U'\U00100001'}) {
+        EXPECT_FALSE(IsControlCharacter(c)) << static_cast<unsigned>(c);
+    }
+}
+
 TEST(CrLf, IsCarriageReturnAndLineFeed) {
     EXPECT_EQ(CrLf, "\x0D\x0A");
 }

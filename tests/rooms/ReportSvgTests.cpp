@@ -109,6 +109,8 @@ TEST(ReportSvg, GivesEveryLetterTheSameWidthAndEveryLineTheSameHeightOnThePaper)
 TEST(ReportSvg, IsWellFormedWhateverTheTextHolds) {
     EXPECT_THAT(Read(ReportSvg({{{"A\x01\tZ"}, {"A\xFF\uFFFEZ"}}})).Texts(),
                 ElementsAre("A  Z", "A\uFFFD\uFFFDZ"));
+    EXPECT_THAT(Read(ReportSvg({{{"A\u007F\u0080\u0085\u009FZ\u00A0"}}})).Texts(),
+                ElementsAre("A    Z\u00A0"));
     EXPECT_TRUE(Read(ReportSvg({})).Lines.empty());
 }
 
