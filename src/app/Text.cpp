@@ -23,9 +23,14 @@ std::string Space(long long count) {
 }
 
 long long Len(std::string_view utf8) {
-    // Every byte but a continuation byte (10xxxxxx) begins a character.
-    return std::count_if(utf8.begin(), utf8.end(),
-                         [](char c) { return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U; });
+    return std::count_if(utf8.begin(), utf8.end(), [](char c) { return !ContinuesCharacter(c); });
+}
+
+bool EqualsIgnoringCase(std::string_view a, std::string_view b) {
+    // Whatever the locale says, and for single bytes of UTF-8 as well.
+    const auto small = [](char c) { return c >= 'A' && c <= 'Z' ? c - 'A' + 'a' : +c; };
+    return std::equal(a.begin(), a.end(), b.begin(), b.end(),
+                      [&small](char x, char y) { return small(x) == small(y); });
 }
 
 std::string FtInStr(Long inches) {

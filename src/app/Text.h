@@ -24,6 +24,14 @@ std::string Space(long long count);
 /// Number of characters (not bytes) of a UTF-8 text.
 long long Len(std::string_view utf8);
 
+/// Whether a byte of a UTF-8 text continues a character instead of beginning one.
+constexpr bool ContinuesCharacter(char byte) {
+    return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U;
+}
+
+/// Whether two texts are the same but for the case of the letters A to Z.
+bool EqualsIgnoringCase(std::string_view a, std::string_view b);
+
 /// Whether a character is a control character: U+0000 to U+001F and U+007F to U+009F.
 constexpr bool IsControlCharacter(char32_t c) {
     return c < 0x20 || (c >= 0x7F && c < 0xA0);

@@ -98,9 +98,7 @@ Double Picture::LineHeight() const {
 Double Picture::TextWidth(std::string_view utf8) const {
     int thousandths = 0;
     for (const char c : utf8) {
-        const auto byte = static_cast<unsigned char>(c);
-        const bool continues = (byte & 0xC0U) == 0x80U;
-        thousandths += continues ? 0 : LetterWidth(byte);
+        thousandths += ContinuesCharacter(c) ? 0 : LetterWidth(static_cast<unsigned char>(c));
     }
     return thousandths * FontSize * TwipsPerPoint / 1000;
 }

@@ -3,9 +3,9 @@
 #include "app/Lengths.h"
 #include "app/Numbers.h"
 #include "app/RunTimeError.h"
+#include "app/Text.h"
 #include "estimate/TakeNumber.h"
 
-#include <algorithm>
 #include <optional>
 #include <stdexcept>
 
@@ -22,13 +22,9 @@ Single FromCentimetres(Double centimetres) {
     return CSng(static_cast<Double>(asFeet) / CentimetresPerInch / InchesPerFoot);
 }
 
-/// Take `unit` (lower case) off `text`, where it begins with it in either case.
+/// Take `unit` off `text`, where it begins with it in either case.
 bool TakeUnit(std::string_view& text, std::string_view unit) {
-    const auto same = [](char a, char b) {
-        return a == b || (a >= 'A' && a <= 'Z' && a + 32 == b);
-    };
-    const std::string_view front = text.substr(0, unit.size());
-    if (!std::equal(front.begin(), front.end(), unit.begin(), unit.end(), same)) {
+    if (!EqualsIgnoringCase(text.substr(0, unit.size()), unit)) {
         return false;
     }
     text.remove_prefix(unit.size());

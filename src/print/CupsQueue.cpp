@@ -1,5 +1,6 @@
 #include "print/CupsQueue.h"
 
+#include "app/Text.h"
 #include "print/JobOptions.h"
 #include "print/PrinterTrouble.h"
 
@@ -27,10 +28,7 @@ std::string Beginning(const std::string& text, std::size_t bytes) {
     if (text.size() <= bytes) {
         return text;
     }
-    const auto continues = [&text](std::size_t at) {
-        return (static_cast<unsigned char>(text[at]) & 0xC0U) == 0x80U;
-    };
-    while (bytes > 0 && continues(bytes)) {
+    while (bytes > 0 && ContinuesCharacter(text[bytes])) {
         --bytes;
     }
     return text.substr(0, bytes);

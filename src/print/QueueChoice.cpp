@@ -1,12 +1,12 @@
 #include "print/QueueChoice.h"
 
-#include <algorithm>
+#include "app/Text.h"
+
 #include <cstdlib>
 #include <cups/cups.h>
 #include <fstream>
 #include <functional>
 #include <sstream>
-#include <string_view>
 
 namespace tarn {
 
@@ -39,13 +39,6 @@ struct Line {
     std::string Options;
 };
 
-bool SameWord(std::string_view left, std::string_view right) {
-    return std::equal(left.begin(), left.end(), right.begin(), right.end(), [](char a, char b) {
-        const auto small = [](char c) { return c >= 'A' && c <= 'Z' ? c - 'A' + 'a' : +c; };
-        return small(a) == small(b);
-    });
-}
-
 void ForEachLine(const std::string& path, const std::function<void(const Line&)>& take) {
     std::ifstream file(path);
     for (std::string text; std::getline(file, text);) {
@@ -53,8 +46,8 @@ void ForEachLine(const std::string& path, const std::function<void(const Line&)>
         std::string kind;
         std::string name;
         stream >> kind >> name;
-        const bool isDefault = SameWord(kind, "default");
-        if (!name.empty() && (isDefault || SameWord(kind, "dest"))) {
+        const bool isDefault = EqualsIgnoringCase(kind, "default");
+        if (!name.empty() && (isDefault || EqualsIgnoringCase(kind, "dest"))) {
             Line line{isDefault, ChoiceOf(name), {}};
             std::getline(stream, line.Options);
             take(line);
@@ -96,8 +89,8 @@ QueueOptions ChosenOptions(const QueueChoice& queue) {
     QueueOptions options;
     for (const std::string& path : {EverybodysFile(), UsersFile()}) {
         ForEachLine(path, [&](const Line& line) {
-            if (SameWord(line.Queue.Name, queue.Name) &&
-                SameWord(line.Queue.Instance, queue.Instance)) {
+            if (EqualsIgnoringCase(line.Queue.Name, queue.Name) &&
+                EqualsIgnoringCase(line.Queue.Instance, queue.Instance)) {
                 AddOptions(line.Options, options);
             }
         });

@@ -1,6 +1,7 @@
 #include "store/QueryText.h"
 
 #include "app/Database.h"
+#include "app/Text.h"
 
 #include <algorithm>
 #include <cctype>
@@ -40,17 +41,12 @@ std::pair<std::string, std::optional<std::string>> SplitLiteral(std::string_view
             std::string(text.substr(open + 1, close - open - 1))};
 }
 
-bool EqualsKeyword(std::string_view word, std::string_view keyword) {
-    return std::equal(word.begin(), word.end(), keyword.begin(), keyword.end(),
-                      [](unsigned char a, char b) { return std::tolower(a) == b; });
-}
-
 /// Where `keyword` stands as a word of its own; npos when it does not.
 std::size_t FindKeyword(std::string_view text, std::string_view keyword) {
     std::size_t begin = text.find_first_not_of(Blanks);
     while (begin != std::string_view::npos) {
         const std::size_t end = std::min(text.find_first_of(Blanks, begin), text.size());
-        if (EqualsKeyword(text.substr(begin, end - begin), keyword)) {
+        if (EqualsIgnoringCase(text.substr(begin, end - begin), keyword)) {
             return begin;
         }
         begin = text.find_first_not_of(Blanks, end);

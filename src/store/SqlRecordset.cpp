@@ -1,17 +1,12 @@
 #include "store/SqlRecordset.h"
 
+#include "app/Text.h"
+
 #include <algorithm>
-#include <cctype>
 
 namespace tarn {
 
 namespace {
-
-bool SameName(std::string_view a, std::string_view b) {
-    return std::equal(a.begin(), a.end(), b.begin(), b.end(), [](unsigned char x, unsigned char y) {
-        return std::tolower(x) == std::tolower(y);
-    });
-}
 
 /// A field's name as SQL takes it, whatever its characters.
 std::string Quoted(std::string_view field) {
@@ -115,7 +110,7 @@ const SqlRecordset::Row& SqlRecordset::Current() const {
 qsizetype SqlRecordset::Column(std::string_view name) const {
     const auto found =
         std::find_if(fields_.begin(), fields_.end(),
-                     [name](const std::string& field) { return SameName(field, name); });
+                     [name](const std::string& field) { return EqualsIgnoringCase(field, name); });
     return found == fields_.end() ? -1 : found - fields_.begin();
 }
 

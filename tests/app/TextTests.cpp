@@ -47,6 +47,32 @@ TEST(Len, CountsCharactersNotBytes) {
     EXPECT_EQ(Len("\xD0\x94\xD0\xBE\xD0\xBC \xE5\xAE\xB6"), 5); // three alphabets
 }
 
+TEST(ContinuesCharacter, IsTrueForTheBytesBehindTheFirstOfACharacter) {
+    for (int byte = 0; byte < 256; ++byte) {
+        EXPECT_EQ(ContinuesCharacter(static_cast<char>(byte)), byte >= 0x80 && byte < 0xC0) << byte;
+    }
+}
+
+TEST(EqualsIgnoringCase, TakesTheCaseOfAsciiLettersAlone) {
+    EXPECT_TRUE(EqualsIgnoringCase("", ""));
+    EXPECT_TRUE(EqualsIgnoringCase("Order BY", "oRDER by"));
+    EXPECT_TRUE(EqualsIgnoringCase("caf\u00e9", "CAF\u00e9"));
+    EXPECT_FALSE(EqualsIgnoringCase("caf\u00e9", "CAF\u00c9"));
+    EXPECT_FALSE(EqualsIgnoringCase("order", "orde"));
+    EXPECT_FALSE(EqualsIgnoringCase("orde", "order"));
+    for (int a = 0; a < 256; ++a) {
+        for (int b = 0; b < 256; ++b) {
+            const int apart = a > b ? a - b : b - a;
+            const int greater = a > b ? a : b;
+            const bool same = a == b || (apart == 32 && greater >= 'a' && greater <= 'z');
+            EXPECT_EQ(EqualsIgnoringCase(std::string(1, static_cast<char>(a)),
+                                         std::string(1, static_cast<char>(b))),
+                      same)
+                << a << " " << b;
+        }
+    }
+}
+
 TEST(IsControlCharacter, IsTrueForThoseOfAsciiAndOfLatin1AndNoOthers) {
     for (char32_t c = 0; c <= 0x300; ++c) {
         const bool expected = c <= 0x1F || (c >= 0x7F && c <= 0x9F);
