@@ -41,8 +41,12 @@ Long RoundedCentimetres(Double inches) {
     return CLng(Int(inches * CentimetresPerInch + 0.5));
 }
 
+std::string WholeLengthText(Long length, bool metric) {
+    return metric ? TrimStr(length) : FtInStr(length);
+}
+
 std::string LengthText(Double inches, bool metric) {
-    return metric ? TrimStr(WholeCentimetres(inches)) : FtInStr(WholeInches(inches));
+    return WholeLengthText(metric ? WholeCentimetres(inches) : WholeInches(inches), metric);
 }
 
 std::optional<Long> ReadFtIn(std::string_view text) {

@@ -34,6 +34,10 @@ Long WholeCentimetres(Double inches);
 /// "Overflow" beyond a Long.
 Long RoundedCentimetres(Double inches);
 
+/// A whole length of the project's unit as text: centimetres when `metric`, else inches as feet and
+/// inches (FtInStr).
+std::string WholeLengthText(Long length, bool metric);
+
 /// A length text as a cut list shows it: FtInStr of WholeInches, or WholeCentimetres when `metric`.
 std::string LengthText(Double inches, bool metric);
 

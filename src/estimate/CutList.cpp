@@ -25,7 +25,7 @@ Double Inches(Single from, Single to, Double dimScale) {
 
 /// A length of roll in inches as totals show it.
 std::string TotalText(Double inches, bool metric) {
-    return metric ? TrimStr(RoundedCentimetres(inches)) : FtInStr(WholeInches(inches));
+    return WholeLengthText(metric ? RoundedCentimetres(inches) : WholeInches(inches), metric);
 }
 
 class CutList {
@@ -94,11 +94,10 @@ class CutList {
 
     void AddMatchTotals() {
         const MatchTotals totals = TotalMatch(state_, engine_, estimate_);
-        const std::string length = metric_ ? TrimStr(totals.Length) : FtInStr(totals.Length);
         const std::string size = metric_ ? Format(totals.Size.SquareMeters, "###0.00 SQ. Meters   ")
                                          : Format(totals.Size.SquareFeet, "###0.00 SQ. FT.   ") +
                                                Format(totals.Size.SquareYards, "###0.00 SQ. Yards");
-        lines_.push_back("Total Match Pattern Length: " + length);
+        lines_.push_back("Total Match Pattern Length: " + WholeLengthText(totals.Length, metric_));
         lines_.push_back("Total Match Pattern Size: " + size);
     }
 

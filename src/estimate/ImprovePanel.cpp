@@ -5,7 +5,6 @@
 #include "app/Display.h"
 #include "app/Lengths.h"
 #include "app/Numbers.h"
-#include "app/Text.h"
 #include "app/Theme.h"
 #include "estimate/Improvement.h"
 
@@ -35,7 +34,7 @@ QLabel* NewLine(ImprovePanel& panel, const char* name, TextRole role) {
 std::string BoundText(Double inches, bool metric) {
     const Double whole = metric ? inches * CentimetresPerInch : inches;
     const Long length = ToLong(static_cast<long long>(Int(whole + LengthTolerance)));
-    return metric ? TrimStr(length) : FtInStr(length);
+    return WholeLengthText(length, metric);
 }
 
 } // namespace

@@ -51,8 +51,9 @@ void SetMatchPattern(CarpetEstimate& estimate, std::string_view width, std::stri
 }
 
 std::string RepeatText(const CarpetEstimate& estimate, bool metric) {
-    return metric ? TrimStr(estimate.MatchWidthCm) + " X " + TrimStr(estimate.MatchLengthCm)
-                  : FtInStr(estimate.MatchWidth) + " X " + FtInStr(estimate.MatchLength);
+    const Integer width = metric ? estimate.MatchWidthCm : estimate.MatchWidth;
+    const Integer length = metric ? estimate.MatchLengthCm : estimate.MatchLength;
+    return WholeLengthText(width, metric) + " X " + WholeLengthText(length, metric);
 }
 
 MatchTotals TotalMatch(const SharedState& state, const EngineArrays& engine,

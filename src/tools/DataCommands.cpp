@@ -1,6 +1,7 @@
 #include "tools/DataCommands.h"
 
 #include "app/Configuration.h"
+#include "app/Lengths.h"
 #include "app/StartModule.h"
 #include "app/Text.h"
 #include "rooms/Coverings.h"
@@ -70,9 +71,7 @@ std::map<std::string, std::vector<std::string>> AllProjects(SharedState& state) 
 }
 
 std::string RoomLine(const SharedState& state, Integer room) {
-    const auto size = [&](Integer length) {
-        return state.IsMetric() ? TrimStr(length) : FtInStr(length);
-    };
+    const auto size = [&](Integer length) { return WholeLengthText(length, state.IsMetric()); };
     std::string line = "    " + TrimStr(room + 1) + ": " + size(state.RoomWidth[room]) + " X " +
                        size(state.RoomLength[room]) + (state.IsMetric() ? " CM" : "") + "  " +
                        CoveringCaption(state.RoomCarpet[room]);

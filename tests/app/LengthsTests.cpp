@@ -91,6 +91,13 @@ TEST(RoundedCentimetres, OverflowsBeyondALong) {
     EXPECT_EQ(ErrorNumber([] { return RoundedCentimetres(Greatest); }), OverflowNumber);
 }
 
+TEST(WholeLengthText, ShowsTheLengthInTheUnitThatItIsIn) {
+    EXPECT_EQ(WholeLengthText(366, true), "366");
+    EXPECT_EQ(WholeLengthText(366, false), "30'6\"");
+    EXPECT_EQ(WholeLengthText(-5, true), "-5");
+    EXPECT_EQ(WholeLengthText(0, false), "0'0\"");
+}
+
 TEST(LengthText, ShowsFeetAndInchesOrCentimetres) {
     EXPECT_EQ(LengthText(144, false), "12'0\"");
     EXPECT_EQ(LengthText(144.01, false), "12'1\"");
