@@ -163,14 +163,18 @@ std::string CutSizeText(const SharedState& state, const EngineArrays& engine, In
     return engine.LayDir != 0 ? SizeText(y, x, state.IsMetric()) : SizeText(x, y, state.IsMetric());
 }
 
-std::string RollWidthText(const SharedState& state, const EngineArrays& engine) {
-    return TotalText(static_cast<Double>(engine.RollWidth), state.IsMetric());
+std::array<std::string, 2> CarpetHeadingLines(const SharedState& state, const EngineArrays& engine,
+                                              const CarpetEstimate& estimate) {
+    const auto width = static_cast<Double>(engine.RollWidth);
+    return {"Carpet-" + TrimStr(estimate.CarpetNo + 1) +
+                "  Width=" + TotalText(width, state.IsMetric()),
+            engine.LayDir != 0 ? "CROSSLAY" : "DOWNLAY"};
 }
 
 std::string CarpetHeading(const SharedState& state, const EngineArrays& engine,
                           const CarpetEstimate& estimate) {
-    return "Carpet-" + TrimStr(estimate.CarpetNo + 1) + "  Width=" + RollWidthText(state, engine) +
-           (engine.LayDir != 0 ? "  CROSSLAY" : "  DOWNLAY");
+    const auto [carpet, lay] = CarpetHeadingLines(state, engine, estimate);
+    return carpet + "  " + lay;
 }
 
 std::vector<std::string> CutListLines(const SharedState& state, const EngineArrays& engine,

@@ -4,6 +4,7 @@
 #include "engine/EngineArrays.h"
 #include "estimate/CarpetEstimate.h"
 
+#include <array>
 #include <string>
 #include <vector>
 
@@ -21,10 +22,11 @@ std::string SizeText(Double across, Double along, bool metric);
 std::string PieceSizeText(const SharedState& state, const EngineArrays& engine, Integer i);
 std::string CutSizeText(const SharedState& state, const EngineArrays& engine, Integer i);
 
-/// The roll width as shown: feet and inches, or whole centimetres when metric.
-std::string RollWidthText(const SharedState& state, const EngineArrays& engine);
-
-/// The carpet's heading: number, roll width, lay.
+/// The carpet's number with its roll width (feet and inches, or whole centimetres when metric), and
+/// its lay.
+std::array<std::string, 2> CarpetHeadingLines(const SharedState& state, const EngineArrays& engine,
+                                              const CarpetEstimate& estimate);
+/// Both in one line.
 std::string CarpetHeading(const SharedState& state, const EngineArrays& engine,
                           const CarpetEstimate& estimate);
 

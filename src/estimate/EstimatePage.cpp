@@ -15,9 +15,8 @@ EstimatePage MakeEstimatePage(const SharedState& state, const EngineArrays& engi
     page.PrnWidth = state.PrnWidth;
     page.PrnHeight = state.PrnHeight;
     if (estimate.CarpetNo != NoCarpet && (state.ECutCount > 0 || engine.PieceCount > 0)) {
-        page.CarpetLines = {"Carpet-" + TrimStr(estimate.CarpetNo + 1) +
-                                "  Width=" + RollWidthText(state, engine),
-                            engine.LayDir != 0 ? "CROSSLAY" : "DOWNLAY"};
+        const auto lines = CarpetHeadingLines(state, engine, estimate);
+        page.CarpetLines.assign(lines.begin(), lines.end());
     }
     return page;
 }

@@ -213,12 +213,13 @@ TEST(CarpetHeading, NamesCarpetRollAndLay) {
     EXPECT_EQ(CarpetHeading(job.State, job.Engine, job.Estimate), "Carpet-8  Width=382  DOWNLAY");
 }
 
-TEST(RollWidthText, RoundsCentimetresToTheNearest) {
+TEST(CarpetHeading, RoundsTheCentimetresOfTheRollToTheNearest) {
     Job job = Metric({});
+    job.Estimate.CarpetNo = 0;
     job.Engine.RollWidth = Centimetres("366.4");
-    EXPECT_EQ(RollWidthText(job.State, job.Engine), "366");
+    EXPECT_EQ(CarpetHeadingLines(job.State, job.Engine, job.Estimate)[0], "Carpet-1  Width=366");
     job.Engine.RollWidth = Centimetres("366.6");
-    EXPECT_EQ(RollWidthText(job.State, job.Engine), "367");
+    EXPECT_EQ(CarpetHeadingLines(job.State, job.Engine, job.Estimate)[0], "Carpet-1  Width=367");
 }
 
 TEST(SizeText, RaisesToWholeInches) {
