@@ -9,6 +9,7 @@
 namespace tarn {
 
 constexpr Double CentimetresPerInch = 2.54;
+constexpr Double InchesPerFoot = 12;
 
 /// Two lengths in inches that differ by less than this, half a coordinate unit, are the same
 /// length.

@@ -2,6 +2,7 @@
 
 #include "app/Lengths.h"
 #include "app/Numbers.h"
+#include "app/Text.h"
 #include "engine/Pieces.h"
 #include "engine/Placement.h"
 
@@ -25,7 +26,8 @@ void SwitchFill(EngineArrays& engine, Integer i, Integer parts, const PartEdges&
 Integer AppendCopy(EngineArrays& engine, Integer i) {
     const Integer row = engine.PieceCount;
     if (row >= MaxPiece) {
-        RaiseSubscript("There are more than 3000 pieces: estimate the rooms in two projects.");
+        RaiseSubscript("There are more than " + TrimStr(MaxPiece) +
+                       " pieces: estimate the rooms in two projects.");
     }
     CopyRow(engine, i, engine, row);
     CountUp(engine.PieceCount);

@@ -17,7 +17,6 @@ Integer MinCutUnits(const SharedState& state, long long minCut) {
 }
 
 Double MinCutOfCaption(const SharedState& state, long long minCut) {
-    constexpr Double InchesPerFoot = 12;
     const Double inches = static_cast<Double>(state.MinCutLen[minCut]) * InchesPerFoot;
     return state.IsMetric() ? CInt(inches * CentimetresPerInch) / CentimetresPerInch : inches;
 }

@@ -2,25 +2,23 @@
 
 #include "app/Numbers.h"
 #include "app/RunTimeError.h"
+#include "app/Text.h"
 #include "engine/CleanUp.h"
 #include "engine/Pieces.h"
 #include "engine/Placement.h"
 
+#include <limits>
+
 namespace tarn {
-
-namespace {
-
-constexpr const char* TooLongAdvice =
-    "The fills need more than 32767 inches of roll: estimate the rooms in two projects.";
-
-} // namespace
 
 void ShowResultPic(EngineArrays& engine) {
     const Double length = static_cast<Double>(GetPCLen(engine));
     try {
         engine.ResultLen = CInt(3 * Int((length + 2) / 3));
     } catch (const RunTimeError& error) {
-        throw error.WithAdvice(TooLongAdvice);
+        throw error.WithAdvice("The fills need more than " +
+                               TrimStr(std::numeric_limits<Integer>::max()) +
+                               " inches of roll: estimate the rooms in two projects.");
     }
 }
 

@@ -10,6 +10,7 @@
 #include "engine/TrialPieces.h"
 
 #include <array>
+#include <limits>
 
 namespace tarn {
 
@@ -20,7 +21,8 @@ namespace {
 constexpr std::array<Integer, 3> Modes{1, 0, 2};
 constexpr Long ModeCount = 3;
 
-constexpr Long NoLength = 32767; ///< best length before the first case
+/// Best length before the first case.
+constexpr Long NoLength = std::numeric_limits<Integer>::max();
 
 /// One search: scores cases and keeps the record of the best.
 class Search {

@@ -14,7 +14,6 @@ namespace tarn {
 namespace {
 
 constexpr std::size_t CaptionNumberAt = 12; ///< behind "CARPET WIDTH"
-constexpr Double InchesPerFoot = 12;
 
 /// Centimetres as a standard metric roll has them: rounded as a caption's figure is.
 Single FromCentimetres(Double centimetres) {

@@ -10,6 +10,8 @@
 #include <QDate>
 #include <QLocale>
 
+#include <limits>
+
 namespace tarn {
 
 namespace {
@@ -78,9 +80,10 @@ Integer BaseLenOfRoom(const SharedState& state, Integer room) {
     try {
         return BaseLen(state.RoomWidth[room], state.RoomLength[room], state.RoomBase[room]);
     } catch (const RunTimeError& error) {
-        throw error.WithAdvice(
-            "The wall base of room " + TrimStr(room + 1) + " is longer than 32767 " +
-            (state.IsMetric() ? "centimetres" : "inches") + ": correct its size or its base.");
+        throw error.WithAdvice("The wall base of room " + TrimStr(room + 1) + " is longer than " +
+                               TrimStr(std::numeric_limits<Integer>::max()) +
+                               (state.IsMetric() ? " centimetres" : " inches") +
+                               ": correct its size or its base.");
     }
 }
 

@@ -7,6 +7,7 @@
 #include "rooms/WallBase.h"
 
 #include <algorithm>
+#include <limits>
 
 namespace tarn {
 
@@ -19,8 +20,9 @@ std::optional<Integer> SizeOf(const SizeParts& typed, bool metric, const std::st
     try {
         return ReadSize(typed.Major, typed.Minor, metric);
     } catch (const RunTimeError& error) {
-        throw error.WithAdvice("The " + side + " of a room can be 32767 " +
-                               (metric ? "centimetres" : "inches") + " at most.");
+        throw error.WithAdvice("The " + side + " of a room can be " +
+                               TrimStr(std::numeric_limits<Integer>::max()) +
+                               (metric ? " centimetres" : " inches") + " at most.");
     }
 }
 
