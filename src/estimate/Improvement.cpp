@@ -9,6 +9,7 @@ namespace tarn {
 
 namespace {
 
+constexpr Double TenthsInWhole = 1000; ///< of a percent
 constexpr const char* NoneAsShort = "none whose parts keep the minimum cut is as short";
 
 bool IsShorter(Double a, Double b) {
@@ -21,7 +22,6 @@ std::string PercentText(Double tenths) {
 }
 
 std::string GainText(const Improvement& improvement) {
-    constexpr Double TenthsInWhole = 1000;
     if (IsShorter(improvement.Length, improvement.StartLength)) {
         const Double share =
             (improvement.StartLength - improvement.Length) / improvement.StartLength;
@@ -41,7 +41,6 @@ std::string LeastPossibleText(Double length, Double bound) {
     if (!IsShorter(bound, length)) {
         return "the least possible";
     }
-    constexpr Double TenthsInWhole = 1000;
     const Double tenths = -Int(-(length - bound) / bound * TenthsInWhole);
     return "at most " + PercentText(tenths) + " above the least possible";
 }

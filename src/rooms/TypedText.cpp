@@ -7,8 +7,8 @@ namespace tarn {
 
 namespace {
 
-constexpr std::u32string_view LineBreaks = U"\n\r\v\f\u0085\u2028\u2029";
 constexpr std::u32string_view BreaksAndTabs = U"\n\r\v\f\u0085\u2028\u2029\t";
+constexpr std::u32string_view LineBreaks = BreaksAndTabs.substr(0, BreaksAndTabs.size() - 1);
 
 void DropAtEnd(std::u32string& text, std::u32string_view characters) {
     text.resize(text.find_last_not_of(characters) + 1); // npos + 1 is 0

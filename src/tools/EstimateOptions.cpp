@@ -11,8 +11,10 @@
 
 #include <CLI/CLI.hpp>
 
+#include <array>
 #include <functional>
 #include <string>
+#include <utility>
 
 namespace tarn {
 
@@ -159,12 +161,20 @@ void AddImprovement(CLI::App& app, EstimateOptions& options) {
 }
 
 /// Raises CLI::ValidationError when two outputs would overwrite or mix with each other.
-void RequireDifferent(const char* option, const std::string& path, const char* otherOption,
-                      const std::string& otherPath) {
-    if (!path.empty() && !otherPath.empty() && IsSameFile(path, otherPath)) {
-        throw CLI::ValidationError(std::string(option) + " and " + otherOption +
-                                   " cannot both go to " +
-                                   (path == StandardOutput ? "standard output" : path));
+void RequireDifferentOutputs(const EstimateOptions& options) {
+    const std::array<std::pair<std::string, std::string>, 4> outputs{{{"--text", options.Text},
+                                                                      {"--json", options.Json},
+                                                                      {"--svg", options.Svg},
+                                                                      {"--pdf", options.Pdf}}};
+    for (auto output = outputs.begin(); output != outputs.end(); ++output) {
+        for (auto other = output + 1; other != outputs.end(); ++other) {
+            const std::string& path = output->second;
+            if (!path.empty() && !other->second.empty() && IsSameFile(path, other->second)) {
+                throw CLI::ValidationError(output->first + " and " + other->first +
+                                           " cannot both go to " +
+                                           (path == StandardOutput ? "standard output" : path));
+            }
+        }
     }
 }
 
@@ -173,12 +183,7 @@ void CheckTogether(EstimateOptions& options) {
     if (options.Database.empty() && options.Rooms.empty()) {
         throw CLI::ValidationError("either --database and --project, or --rooms is required");
     }
-    RequireDifferent("--text", options.Text, "--json", options.Json);
-    RequireDifferent("--text", options.Text, "--svg", options.Svg);
-    RequireDifferent("--json", options.Json, "--svg", options.Svg);
-    RequireDifferent("--text", options.Text, "--pdf", options.Pdf);
-    RequireDifferent("--json", options.Json, "--pdf", options.Pdf);
-    RequireDifferent("--svg", options.Svg, "--pdf", options.Pdf);
+    RequireDifferentOutputs(options);
     if (options.Text.empty() && options.Json.empty() && options.Svg.empty() &&
         options.Pdf.empty()) {
         options.Text = StandardOutput;

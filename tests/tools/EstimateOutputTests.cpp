@@ -7,6 +7,7 @@
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
+#include <utility>
 
 namespace tarn {
 namespace {
@@ -77,6 +78,24 @@ TEST_F(EstimateOutput, APipeIsWrittenToAndNotReplaced) {
     struct stat there {};
     ASSERT_EQ(stat(pipe.constData(), &there), 0);
     EXPECT_TRUE(S_ISFIFO(there.st_mode));
+}
+
+TEST_F(EstimateOutput, NoTwoOutputsGoToOnePlace) {
+    const std::array outputs{"--text", "--json", "--svg", "--pdf"};
+    for (std::size_t first = 0; first < outputs.size(); ++first) {
+        for (std::size_t second = first + 1; second < outputs.size(); ++second) {
+            const QByteArray names = QByteArray(outputs[first]) + " and " + outputs[second];
+            for (const auto& [file, place] : {std::pair("out", "out"), {"-", "standard output"}}) {
+                const ToolRun run = Estimate(Arguments(outputs[first], S(file)) +
+                                             QStringList{S(outputs[second]), S(file)});
+                EXPECT_NE(run.Status, 0);
+                EXPECT_TRUE(run.Out.isEmpty());
+                EXPECT_TRUE(run.Error.contains(names + " cannot both go to " + place))
+                    << run.Error.toStdString();
+                EXPECT_FALSE(QFile::exists(Path(S("out"))));
+            }
+        }
+    }
 }
 
 TEST_F(EstimateOutput, TwoOutputsInOneFileThatIsNotThereYetAreRefused) {

@@ -122,8 +122,7 @@ void TakeLayout(const RollJob& roll, const std::vector<ImprovePart>& parts, Engi
                        ? engine.Undivided.PCY2[fill]
                        : CSng(top + along * roll.AlongUnit / dimScale);
         };
-        engine.PCY1[row] =
-            used[part.Fill] == 0 ? engine.Undivided.PCY1[fill] : edge(used[part.Fill]);
+        engine.PCY1[row] = first ? engine.Undivided.PCY1[fill] : edge(used[part.Fill]);
         used[part.Fill] += part.Length;
         engine.PCY2[row] = edge(used[part.Fill]);
         GetPieceSZ(engine, row, dimScale);
