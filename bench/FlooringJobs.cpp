@@ -41,9 +41,9 @@ std::unique_ptr<FlooringJob> RandomFlooringJob(int rooms, std::uint32_t number) 
     const auto width = static_cast<std::size_t>(Between(random, 1, 3));
     job->Request.RollWidth = CaptionRollWidth(WidthCaptions(metric).at(width), metric);
     job->Request.DownLay = number % 2 == 0;
-    job->Request.EstOption =
-        PackEstOption(static_cast<Integer>(Between(random, 0, 2)),
-                      static_cast<Integer>(number % static_cast<std::uint32_t>(MostPieces) + 1));
+    job->Request.EstOption = PackEstOption(
+        static_cast<Integer>(Between(random, 0, 2)),
+        static_cast<Integer>(number % static_cast<std::uint32_t>(MostPiecesPerFill) + 1));
     return job;
 }
 

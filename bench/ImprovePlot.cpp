@@ -57,7 +57,7 @@ AverageGaps GapsOf(const std::vector<FlooringResult>& results) {
 std::string ImprovePlot(const std::vector<FlooringResult>& results) {
     std::vector<AverageGaps> groups;
     double highest = 1;
-    for (int pieces = 1; pieces <= MostPieces; ++pieces) {
+    for (int pieces = 1; pieces <= MostPiecesPerFill; ++pieces) {
         std::vector<FlooringResult> group;
         std::copy_if(results.begin(), results.end(), std::back_inserter(group),
                      [&](const FlooringResult& result) { return result.MaxPieces == pieces; });
@@ -75,7 +75,7 @@ std::string ImprovePlot(const std::vector<FlooringResult>& results) {
                "\" y2=\"" + Number(y) + "\" stroke=\"#DDDDDD\"/>\n" +
                Text(Left - 8, y + 4, "end", Format(percent, "0") + "%");
     }
-    const double step = (Right - Left) / MostPieces;
+    const double step = (Right - Left) / MostPiecesPerFill;
     for (std::size_t i = 0; i < groups.size(); ++i) {
         const double middle = Left + step * (static_cast<double>(i) + 0.5);
         svg +=

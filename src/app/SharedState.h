@@ -59,8 +59,10 @@ struct SharedState {
     BoundedArray<Byte> RoomBase;      ///< wall base: widths + 3 × lengths, each 0..2
     BoundedArray<std::string> RoomNoStr;
     BoundedArray<std::string> RoomRemark;
-    BoundedTable<Single> RoomX; ///< (room, corner 0 or 1): hundredths of an inch across
-    BoundedTable<Single> RoomY; ///< (room, corner 0 or 1): hundredths of an inch along
+    /// (room, corner), hundredths of an inch across and along: corner 0 is the near one, 1 the far
+    /// one; 2 is there and not used.
+    BoundedTable<Single> RoomX;
+    BoundedTable<Single> RoomY;
 
     // --- whole-width cuts, by cut 0 .. ECutCount - 1, hundredths of an inch ---
     Integer ECutCount = 0;

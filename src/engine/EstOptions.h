@@ -10,14 +10,14 @@
 namespace tarn {
 
 /// What the estimation options offer: one of these minimum cuts, by its position, and 1 to
-/// MostPieces pieces per fill.
+/// MostPiecesPerFill pieces per fill.
 inline constexpr Integer MinCuts = 3;
 using MinCutCaptions = std::array<std::string_view, MinCuts>;
 inline constexpr MinCutCaptions ImperialMinCutCaptions{"3 FT", "1FT 6\"", "1/2FT"};
 inline constexpr MinCutCaptions MetricMinCutCaptions{"91 cm", "46 cm", "15 cm"};
-inline constexpr Integer MostPieces = 6;
+inline constexpr Integer MostPiecesPerFill = 6;
 
-/// The two choices as EstOption: `minCut` 0 to MinCuts - 1 and `pieces` 1 to MostPieces.
+/// The two choices as EstOption: `minCut` 0 to MinCuts - 1 and `pieces` 1 to MostPiecesPerFill.
 Integer PackEstOption(Integer minCut, Integer pieces);
 
 /// The minimum cut at position `minCut` of MinCutLen in coordinate units: MinCutLen divided by

@@ -33,7 +33,7 @@ constexpr bool PTInbox(Single px, Single py, const Box& box) {
 /// parallel segments never intersect, and boxes that only touch do not.
 bool ISLineInsect(const Segment& a, const Segment& b);
 
-/// As ISLineInsect, but boxes that touch intersect too.
+/// As ISLineInsect, but boxes that touch intersect too. No part of the program needs it.
 bool ISLineInsect2(const Segment& a, const Segment& b);
 
 /// Whether a segment crosses an edge of a box, or spans the box exactly from side to side between
@@ -41,7 +41,7 @@ bool ISLineInsect2(const Segment& a, const Segment& b);
 bool ISLinePass(const Segment& segment, const Box& box);
 
 /// Whether any of the four edges of `a` passes `b`. A box wholly inside another, without an edge
-/// that meets, is not found: see Overlaps for pieces.
+/// that meets, is not found: pieces are tried with Overlaps, and no part of the program needs this.
 bool ISInsect(const Box& a, const Box& b);
 
 /// The side of the common box of `a` and `b` across and along (inches, rounded to Single);

@@ -44,7 +44,8 @@ enum class ConvertResult {
 
 /// Cut every room of carpet CarpetNo into whole-width cuts (ECutX1 .. ECutY2, ECutCount) and the
 /// leftover strips into pieces (PCX1 .., PieceCount, OrgCount), from RoomX and RoomY, across the
-/// roll's width RollWidth: along X for down lay, along Y for cross lay. Empties the estimate first;
+/// roll's width RollWidth: along X when `downLay`, along Y for cross lay; RunEstimate passes what
+/// the engine's LayDir says, which ConvertData itself does not read. Empties the estimate first;
 /// sets FillFlag and keeps the pieces with SaveFill when there are any. Rooms without an area are
 /// not cut.
 ///

@@ -57,10 +57,6 @@ SizeParts SplitSize(Integer size, bool metric) {
     return {TrimStr(static_cast<long long>(major)), TrimStr(Mod(size, units))};
 }
 
-Integer JoinSize(std::string_view major, std::string_view minor, bool metric) {
-    return CInt(Joined(major, minor, metric));
-}
-
 bool IsRefusedSizeText(std::string_view text) {
     const std::size_t length = ReadVal(text).Length;
     return HasDigit(text.substr(length)) || HasBlankBetweenDigits(text.substr(0, length));

@@ -22,11 +22,6 @@ struct SizeParts {
 /// joining the two does not give it back unless the minor part is 0.
 SizeParts SplitSize(Integer size, bool metric);
 
-/// The stored size that two typed texts make: CInt(Val(major) × 12 + Val(minor)), or × 100 when
-/// `metric`. Fractions count (12.5 feet are 150 inches), and so do 13 inches or 120 centimetres.
-/// Raises "Overflow" outside -32768 .. 32767.
-Integer JoinSize(std::string_view major, std::string_view minor, bool metric);
-
 /// Whether Val would read a size text otherwise than it looks: a further digit follows what Val
 /// reads (12'6, 3,45, 6½), or a blank or tab stands between two digits that it reads together
 /// (6 1/2 reads as 61). Text without digits behind the number (12 ft) is not refused. Raises
@@ -39,9 +34,11 @@ enum class SizePart { Major, Minor };
 /// Double is none that is refused.
 std::optional<SizePart> RefusedPart(std::string_view major, std::string_view minor);
 
-/// JoinSize of two texts that may be stored; nothing when either text is refused or the size is
-/// negative, be it as large as it may. Raises "Overflow" for a size above 32767, and for a number
-/// too large for a Double beside a text that is not refused.
+/// The stored size that two typed texts make: CInt(Val(major) × 12 + Val(minor)), or × 100 when
+/// `metric`. Fractions count (12.5 feet are 150 inches), and so do 13 inches or 120 centimetres.
+/// Nothing when either text is refused or the size is negative, be it as large as it may. Raises
+/// "Overflow" for a size above 32767, and for a number too large for a Double beside a text that is
+/// not refused.
 std::optional<Integer> ReadSize(std::string_view major, std::string_view minor, bool metric);
 
 } // namespace tarn

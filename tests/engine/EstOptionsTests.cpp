@@ -8,9 +8,9 @@ namespace {
 
 TEST(PackEstOption, PacksEveryChoice) {
     EXPECT_EQ(MinCuts, 3);
-    EXPECT_EQ(MostPieces, 6);
+    EXPECT_EQ(MostPiecesPerFill, 6);
     for (Integer minCut = 0; minCut < MinCuts; ++minCut) {
-        for (Integer pieces = 1; pieces <= MostPieces; ++pieces) {
+        for (Integer pieces = 1; pieces <= MostPiecesPerFill; ++pieces) {
             EXPECT_EQ(PackEstOption(minCut, pieces), 10 * minCut + (pieces - 1));
         }
     }

@@ -36,14 +36,12 @@ TEST_P(EverySize, SplitsIntoAFlooredMajorAndAMinorWithItsSign) {
 TEST_P(EverySize, FromZeroOnIsJoinedBackAndAccepted) {
     for (int size = 0; size <= Most; ++size) {
         const SizeParts parts = SplitSize(static_cast<Integer>(size), Metric());
-        ASSERT_EQ(JoinSize(parts.Major, parts.Minor, Metric()), size);
         ASSERT_EQ(ReadSize(parts.Major, parts.Minor, Metric()), size);
     }
 }
 
 TEST_P(EverySize, BelowZeroIsRefusedInWhateverWayItIsTyped) {
     for (int size = Least; size < 0; ++size) {
-        ASSERT_EQ(JoinSize("", std::to_string(size), Metric()), size);
         ASSERT_EQ(ReadSize("", std::to_string(size), Metric()), std::nullopt) << size;
     }
 }
@@ -55,44 +53,40 @@ TEST(SplitSize, ShowsAHundredAndFiftyAsTwelveFeetSixOrOneMetreFifty) {
     EXPECT_EQ(SplitSize(-1, false), (SizeParts{"-1", "-1"}));
 }
 
-TEST(JoinSize, StoresElevenFeetThirteenAs145AndItIsShownAsTwelveFeetOne) {
-    const Integer size = JoinSize("11", "13", false);
-    EXPECT_EQ(size, 145);
-    EXPECT_EQ(SplitSize(size, false), (SizeParts{"12", "1"}));
+TEST(ReadSize, StoresElevenFeetThirteenAs145AndItIsShownAsTwelveFeetOne) {
+    EXPECT_EQ(ReadSize("11", "13", false), 145);
+    EXPECT_EQ(SplitSize(145, false), (SizeParts{"12", "1"}));
 }
 
-TEST(JoinSize, AddsCentimetresAboveNinetyNine) {
-    EXPECT_EQ(JoinSize("2", "150", true), 350);
+TEST(ReadSize, AddsCentimetresAboveNinetyNine) {
+    EXPECT_EQ(ReadSize("2", "150", true), 350);
 }
 
-TEST(JoinSize, ReadsEmptyAndNonNumericTextsAsZero) {
-    EXPECT_EQ(JoinSize("", "", false), 0);
-    EXPECT_EQ(JoinSize("ft", "7", false), 7);
-    EXPECT_EQ(JoinSize("3", "", true), 300);
-    EXPECT_EQ(JoinSize("12 ft", "6 in", false), 150);
+TEST(ReadSize, ReadsEmptyAndNonNumericTextsAsZero) {
+    EXPECT_EQ(ReadSize("", "", false), 0);
+    EXPECT_EQ(ReadSize("ft", "7", false), 7);
+    EXPECT_EQ(ReadSize("3", "", true), 300);
+    EXPECT_EQ(ReadSize("12 ft", "6 in", false), 150);
 }
 
-TEST(JoinSize, KeepsFractionsUntilTheSumIsRounded) {
-    EXPECT_EQ(JoinSize("12.5", "", false), 150);
-    EXPECT_EQ(JoinSize(".85", "", true), 85);
-    EXPECT_EQ(JoinSize("0.125", "0.5", false), 2); // 1.5 + 0.5
+TEST(ReadSize, KeepsFractionsUntilTheSumIsRounded) {
+    EXPECT_EQ(ReadSize("12.5", "", false), 150);
+    EXPECT_EQ(ReadSize(".85", "", true), 85);
+    EXPECT_EQ(ReadSize("0.125", "0.5", false), 2); // 1.5 + 0.5
 }
 
-TEST(JoinSize, RoundsHalvesToEven) {
-    EXPECT_EQ(JoinSize("", "0.5", false), 0);
-    EXPECT_EQ(JoinSize("", "1.5", false), 2);
-    EXPECT_EQ(JoinSize("", "2.5", true), 2);
-    EXPECT_EQ(JoinSize("", "-1.5", true), -2);
+TEST(ReadSize, RoundsHalvesToEven) {
+    EXPECT_EQ(ReadSize("", "0.5", false), 0);
+    EXPECT_EQ(ReadSize("", "1.5", false), 2);
+    EXPECT_EQ(ReadSize("", "2.5", true), 2);
 }
 
-TEST(JoinSize, OverflowsOutsideAnInteger) {
-    EXPECT_EQ(JoinSize("2730", "7", false), 32767);
-    EXPECT_EQ(ErrorNumberOf([] { JoinSize("2730", "8", false); }), OverflowNumber);
-    EXPECT_EQ(JoinSize("327", "67", true), 32767);
-    EXPECT_EQ(ErrorNumberOf([] { JoinSize("327", "68", true); }), OverflowNumber);
-    EXPECT_EQ(JoinSize("-327", "-68", true), -32768);
-    EXPECT_EQ(ErrorNumberOf([] { JoinSize("-327", "-69", true); }), OverflowNumber);
-    EXPECT_EQ(ErrorNumberOf([] { JoinSize("1e999", "", true); }), OverflowNumber);
+TEST(ReadSize, OverflowsOutsideAnInteger) {
+    EXPECT_EQ(ReadSize("2730", "7", false), 32767);
+    EXPECT_EQ(ErrorNumberOf([] { ReadSize("2730", "8", false); }), OverflowNumber);
+    EXPECT_EQ(ReadSize("327", "67", true), 32767);
+    EXPECT_EQ(ErrorNumberOf([] { ReadSize("327", "68", true); }), OverflowNumber);
+    EXPECT_EQ(ErrorNumberOf([] { ReadSize("1e999", "", true); }), OverflowNumber);
 }
 
 TEST(IsRefusedSizeText, RefusesAFurtherDigitBehindTheNumber) {

@@ -33,10 +33,6 @@ bool TakeBest(const RollJob& roll, const ImproveRun& run, const LayoutMerit& sta
 
 } // namespace
 
-Double ImproveProgress::GapPercent() const {
-    return Bound > 0 ? std::max(0.0, 100 * (Best - Bound) / Bound) : 0;
-}
-
 ImproveResult ImproveEngine(const SharedState& state, EngineArrays& engine,
                             const ImproveLimits& limits, ImproveObserver& observer) {
     ImproveResult result;

@@ -15,7 +15,6 @@ struct ImproveProgress {
     /// The start is shorter than any layout that keeps the improving search's rules (it may have
     /// shorter parts): nothing better will be found, and whether it is the least is not known.
     bool StartBelowRules = false;
-    Double GapPercent() const;
 };
 
 /// What an improving search tells its caller while it runs. The default does nothing and never
