@@ -1,7 +1,6 @@
 #include "engine/CleanUp.h"
 
 #include "app/Lengths.h"
-#include "app/Numbers.h"
 #include "engine/Geometry.h"
 #include "engine/Pieces.h"
 #include "engine/Placement.h"

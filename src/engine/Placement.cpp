@@ -1,6 +1,5 @@
 #include "engine/Placement.h"
 
-#include "app/Numbers.h"
 #include "engine/Pieces.h"
 #include "engine/RollLayout.h"
 

@@ -1,8 +1,6 @@
 #include "estimate/LayoutDrawing.h"
 
 #include "app/RunTimeError.h"
-#include "engine/Geometry.h"
-#include "engine/Pieces.h"
 #include "estimate/CutList.h"
 
 #include <algorithm>

@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <cstdlib>
 #include <cups/pwg.h>
-#include <optional>
 #include <sstream>
 
 namespace tarn {

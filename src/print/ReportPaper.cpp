@@ -4,6 +4,7 @@
 #include "print/FixedPitchFont.h"
 #include "print/Paper.h"
 #include "print/ReportPages.h"
+#include "rooms/Report.h"
 #include "rooms/ReportType.h"
 
 #include <QFontMetricsF>
@@ -11,7 +12,6 @@
 #include <QPainter>
 
 #include <algorithm>
-#include <cmath>
 
 namespace tarn {
 

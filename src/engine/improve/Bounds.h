@@ -2,8 +2,6 @@
 
 #include "engine/improve/ImproveJob.h"
 
-#include <functional>
-
 namespace tarn {
 
 /// Lengths below which no layout of the job ends, whatever the search finds. All of them are whole

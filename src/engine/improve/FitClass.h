@@ -3,7 +3,6 @@
 #include "engine/improve/Skyline.h"
 
 #include <algorithm>
-#include <utility>
 
 namespace tarn {
 

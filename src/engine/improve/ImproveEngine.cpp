@@ -1,7 +1,6 @@
 #include "engine/improve/ImproveEngine.h"
 
 #include "app/Lengths.h"
-#include "app/Numbers.h"
 #include "engine/Placement.h"
 #include "engine/improve/Improver.h"
 #include "engine/improve/RollJob.h"

@@ -7,7 +7,6 @@
 #include "engine/improve/WholePlan.h"
 
 #include <algorithm>
-#include <cmath>
 #include <memory>
 
 namespace tarn {

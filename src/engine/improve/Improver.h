@@ -2,6 +2,8 @@
 
 #include "engine/improve/ImproveRun.h"
 
+#include <cstdint>
+
 namespace tarn {
 
 /// Search for layouts of the run's job that are better than its best, until one is the least

@@ -3,6 +3,10 @@
 #include "engine/improve/SkylinePlan.h"
 
 #include <array>
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <vector>
 
 namespace tarn {
 

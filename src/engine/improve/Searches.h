@@ -3,7 +3,8 @@
 #include "engine/improve/ImproveRun.h"
 #include "engine/improve/Plan.h"
 
-#include <memory>
+#include <cstddef>
+#include <cstdint>
 #include <vector>
 
 namespace tarn {

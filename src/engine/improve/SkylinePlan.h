@@ -5,6 +5,10 @@
 #include "engine/improve/Plan.h"
 #include "engine/improve/Skyline.h"
 
+#include <algorithm>
+#include <cstddef>
+#include <vector>
+
 namespace tarn {
 
 /// What plans have in common that fill the skyline gap by gap: the gaps, the limits, the layout
