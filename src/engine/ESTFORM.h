@@ -36,12 +36,12 @@ class ESTFORM : public TitledScreen {
     Integer ChosenOption() const;
 
     FillsClient& client_;
-    std::array<QRadioButton*, MinCuts> minCuts_{};   ///< Option2
-    std::array<QRadioButton*, MostPieces> pieces_{}; ///< Option1
-    QPushButton* continue_ = nullptr;                ///< Command1
-    QProgressBar* bar_ = nullptr;                    ///< ProgressBar1
-    QLabel* percentage_ = nullptr;                   ///< Label6
-    SearchProgress* search_ = nullptr;               ///< while a search runs
+    std::array<QRadioButton*, MinCuts> minCuts_{};          ///< Option2
+    std::array<QRadioButton*, MostPiecesPerFill> pieces_{}; ///< Option1
+    QPushButton* continue_ = nullptr;                       ///< Command1
+    QProgressBar* bar_ = nullptr;                           ///< ProgressBar1
+    QLabel* percentage_ = nullptr;                          ///< Label6
+    SearchProgress* search_ = nullptr;                      ///< while a search runs
 };
 
 } // namespace tarn

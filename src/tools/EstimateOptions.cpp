@@ -113,8 +113,8 @@ void AddChoices(CLI::App& app, EstimateOptions& options, std::string& lay) {
         ->type_name("N");
     app.add_option("--max-pieces", options.MaxPieces,
                    "Maximum number of parts into which a fill is divided, 1 to " +
-                       std::to_string(MostPieces))
-        ->check(CLI::Range(1, static_cast<int>(MostPieces)))
+                       std::to_string(MostPiecesPerFill))
+        ->check(CLI::Range(1, static_cast<int>(MostPiecesPerFill)))
         ->capture_default_str()
         ->type_name("N");
 }

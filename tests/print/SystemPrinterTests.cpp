@@ -8,7 +8,6 @@
 #include "print/ReportPages.h"
 #include "print/SystemPrinter.h"
 
-
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
