@@ -29,7 +29,7 @@ std::string ExtentsFailure(SharedState& state) {
         BuildAllRoomExtents(state);
         return {};
     } catch (const RunTimeError& error) {
-        return "The size of a room: " + SentencesOf(error);
+        return "The size of a room: " + error.Sentences();
     }
 }
 

@@ -13,11 +13,9 @@ constexpr Double TwipsPerPixel = 15;
 /// Control characters are not allowed whatever their spelling.
 QString Allowed(std::string_view text) {
     constexpr char16_t FirstNonCharacter = 0xFFFE;
-    QString allowed = ToQt(text);
+    QString allowed = ToQt(OneLine(text));
     for (QChar& c : allowed) {
-        if (IsControlCharacter(c.unicode())) {
-            c = QLatin1Char(' ');
-        } else if (c.unicode() >= FirstNonCharacter) {
+        if (c.unicode() >= FirstNonCharacter) {
             c = QChar::ReplacementCharacter;
         }
     }

@@ -38,4 +38,20 @@ std::string FtInStr(Long inches) {
     return TrimStr(feet) + "'" + TrimStr(Mod(inches, 12)) + "\"";
 }
 
+std::string OneLine(std::string_view utf8) {
+    constexpr char LeadOfHighControls = '\xC2'; // U+0080 to U+009F are C2 80 to C2 9F
+    std::string line;
+    line.reserve(utf8.size());
+    for (const char byte : utf8) {
+        const auto value = static_cast<unsigned char>(byte);
+        const bool second = !line.empty() && line.back() == LeadOfHighControls && value >= 0x80U;
+        if (second && IsControlCharacter(value)) {
+            line.back() = ' ';
+        } else {
+            line += value < 0x80U && IsControlCharacter(value) ? ' ' : byte;
+        }
+    }
+    return line;
+}
+
 } // namespace tarn

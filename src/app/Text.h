@@ -37,6 +37,9 @@ constexpr bool IsControlCharacter(char32_t c) {
     return c < 0x20 || (c >= 0x7F && c < 0xA0);
 }
 
+/// The text with a blank for each control character: what can stand in one line.
+std::string OneLine(std::string_view utf8);
+
 /// A length in whole inches as feet-and-inches text: Int(inches / 12), an apostrophe, inches Mod 12
 /// (with the sign of the length), a double quote. 30 gives 2'6".
 std::string FtInStr(Long inches);

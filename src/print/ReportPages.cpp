@@ -1,6 +1,6 @@
 #include "print/ReportPages.h"
 
-#include "app/Text.h"
+#include "app/QtText.h"
 
 #include <QChar>
 #include <QString>
@@ -17,13 +17,7 @@ using Characters = std::u32string;
 constexpr std::size_t LeastContinuation = LeastPageColumns / 2;
 
 Characters CharactersOf(std::string_view line) {
-    Characters characters =
-        QString::fromUtf8(line.data(), static_cast<qsizetype>(line.size())).toStdU32String();
-    for (char32_t& c : characters) {
-        if (IsControlCharacter(c)) {
-            c = U' ';
-        }
-    }
+    Characters characters = ToQt(line).toStdU32String();
     characters.resize(characters.find_last_not_of(U' ') + 1); // nothing to break there
     return characters;
 }

@@ -43,7 +43,7 @@ std::vector<ReportLine> Heading(const SharedState& state, std::string_view date)
             {Space(55).append(ReportTitle)},
             {""},
             {Space(5).append(date)},
-            {Space(5) + "PROJECT NAME:   " + Padded(state.CurProjName, 30)},
+            {Space(5) + "PROJECT NAME:   " + Padded(OneLine(state.CurProjName), 30)},
             {""},
             {std::string(FirstHeading)},
             {std::string(state.IsMetric() ? MetricHeading : ImperialHeading)},
@@ -115,9 +115,9 @@ ReportLine Row(const SharedState& state, Integer room) {
     row += AreaColumn(width, length, state.IsMetric());
     row += CoveringReportText(covering) + Space(TypeWidth - numberLength);
     row += BaseColumns(state, room, numberLength);
-    row += Padded(state.RoomNoStr[room], RoomNumberWidth);
+    row += Padded(OneLine(state.RoomNoStr[room]), RoomNumberWidth);
     const auto remark = static_cast<std::size_t>(Len(row));
-    return {row + state.RoomRemark[room] + Space(4), remark};
+    return {row + OneLine(state.RoomRemark[room]) + Space(4), remark};
 }
 
 } // namespace

@@ -9,7 +9,8 @@
 
 namespace tarn {
 
-/// One line of the report, UTF-8, without its line break.
+/// One line of the report, UTF-8, without its line break. Control characters, such as a line break
+/// in a remark that was brought in from elsewhere, are blanks in it.
 struct ReportLine {
     std::string Text;
     /// Where the remark begins, characters from the left; 0 for a line that is no row.

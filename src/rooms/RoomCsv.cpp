@@ -1,6 +1,7 @@
 #include "rooms/RoomCsv.h"
 
 #include "app/Lengths.h"
+#include "app/QtText.h"
 #include "app/Text.h"
 #include "rooms/Coverings.h"
 #include "rooms/CsvText.h"
@@ -31,10 +32,6 @@ std::string_view NameOf(Column column) {
     return ColumnNames[static_cast<std::size_t>(column)];
 }
 
-QString ToQString(std::string_view utf8) {
-    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
-}
-
 bool IsUtf8(std::string_view bytes) {
     QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
     const QString decoded =
@@ -63,7 +60,7 @@ std::string FormProblem(std::string_view text, const CsvRecord& header) {
 }
 
 std::optional<Column> ColumnOf(std::string_view headerField) {
-    const std::string name = ToQString(headerField).trimmed().toLower().toStdString();
+    const std::string name = ToQt(headerField).trimmed().toLower().toStdString();
     const auto* const found = std::find(ColumnNames.begin(), ColumnNames.end(), name);
     if (found == ColumnNames.end()) {
         return std::nullopt;
@@ -278,10 +275,7 @@ class RoomCsvReader {
 /// characters, and not too long.
 std::string Shown(std::string_view value) {
     constexpr qsizetype Most = 40;
-    QString text = ToQString(value);
-    std::replace_if(
-        text.begin(), text.end(), [](QChar c) { return IsControlCharacter(c.unicode()); },
-        QLatin1Char(' '));
+    QString text = ToQt(OneLine(value));
     if (text.size() > Most) {
         text.truncate(Most);
         if (text.back().isHighSurrogate()) {

@@ -146,10 +146,6 @@ bool SaveProject(SharedState& state) {
     });
 }
 
-std::string SentencesOf(const RunTimeError& error) {
-    return error.Text() + "." + (error.Advice().empty() ? "" : " " + error.Advice());
-}
-
 ProjectLoad LoadProject(SharedState& state) {
     ProjectLoad load;
     EmptyRooms(state);
@@ -167,7 +163,7 @@ ProjectLoad LoadProject(SharedState& state) {
     } catch (const DatabaseError& error) {
         load.Cause = error.what();
     } catch (const RunTimeError& error) {
-        load.Cause = SentencesOf(error);
+        load.Cause = error.Sentences();
     }
     state.ObjNum = 0;
     return load;

@@ -37,9 +37,6 @@ bool SaveProject(SharedState& state);
 /// and as SaveProject.
 Integer StoreProject(SharedState& state);
 
-/// The error's text and its advice, as the cause of what could not be loaded.
-std::string SentencesOf(const RunTimeError& error);
-
 /// What LoadProject found.
 struct ProjectLoad {
     enum class Outcome {

@@ -87,5 +87,14 @@ TEST(CrLf, IsCarriageReturnAndLineFeed) {
     EXPECT_EQ(CrLf, "\x0D\x0A");
 }
 
+TEST(OneLine, HasABlankForEachControlCharacterAndAllElseAsItIs) {
+    EXPECT_EQ(OneLine("a\r\nb\tc\x7F"), "a  b c ");
+    EXPECT_EQ(OneLine(std::string_view("\0x", 2)), " x");
+    EXPECT_EQ(OneLine("\u0080\u009F|\u00A0\u00C2\u0100\u2028\uFEFF"),
+              "  |\u00A0\u00C2\u0100\u2028\uFEFF");
+    EXPECT_EQ(OneLine("\xC2"), "\xC2"); // half a character
+    EXPECT_EQ(OneLine(""), "");
+}
+
 } // namespace
 } // namespace tarn

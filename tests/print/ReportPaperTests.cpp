@@ -132,6 +132,20 @@ TEST(PaintReport, WiderLettersOfAnotherFaceKeepToTheirCells) {
     EXPECT_EQ(found, 1);
 }
 
+TEST(PaintReport, ARemarkStandsInItsColumnBehindARoomNumberOfWideLetters) {
+    SharedState state;
+    const std::string eight = QStringLiteral("⨌⨌⨌⨌⨌⨌⨌⨌").toStdString(); // one blank is left
+    PutRooms(state, {{150, 168, 0, 0, eight, "Remark"}, {150, 168, 0, 0, "12", "Remark"}});
+    std::vector<double> lefts;
+    for (const PdfWord& word : Pdf(ReportPdf(LoadReport(state, ""))).Words(1)) {
+        if (word.Text == QStringLiteral("Remark")) {
+            lefts.push_back(word.Box.left());
+        }
+    }
+    ASSERT_EQ(lefts.size(), 2U);
+    EXPECT_NEAR(lefts[0], lefts[1], 0.1);
+}
+
 TEST(PaintReport, PaintsOnAPrinterThatCountsFromItsMarginsToo) {
     const QTemporaryDir directory;
     const QString path = directory.filePath(QStringLiteral("printer.pdf"));

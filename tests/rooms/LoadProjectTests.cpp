@@ -112,12 +112,6 @@ TEST_F(LoadingAProject, FailsForASheetNumberThatDoesNotFit) {
     ExpectFailure("99999999999999");
 }
 
-TEST(LoadingAProjectFails, ForACauseWithTheAdviceThatThereIs) {
-    EXPECT_EQ(SentencesOf(RunTimeError(6, "Overflow", "Use a smaller room.")),
-              "Overflow. Use a smaller room.");
-    EXPECT_EQ(SentencesOf(RunTimeError(6, "Overflow")), "Overflow.");
-}
-
 TEST_F(LoadingAProject, FailsForABadSheet) {
     AddProject(2);
     file_.Run("UPDATE MainTab SET ObjNum = 502");

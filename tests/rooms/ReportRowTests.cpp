@@ -96,7 +96,11 @@ std::string ExpectedRow(const RoomRecord& room, int number, bool metric) {
         const long long n = Characters(text);
         row += Blanks(8) + text + Blanks(12 - (n == 4 ? 4 : n == 5 ? 6 : n + 2));
     }
-    return row + room.RoomNo + Blanks(9 - Characters(room.RoomNo)) + room.Remark + "    \r\n";
+    row += room.RoomNo + Blanks(9 - Characters(room.RoomNo)) + room.Remark;
+    // A row is one line: line breaks, tabs and the like are blanks.
+    std::replace_if(
+        row.begin(), row.end(), [](char c) { return (c >= 0 && c < ' ') || c == 0x7F; }, ' ');
+    return row + "    \r\n";
 }
 
 RoomRecord RandomRoom(std::mt19937& random) {

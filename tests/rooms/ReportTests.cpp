@@ -213,6 +213,19 @@ TEST(LoadReport, HasTheHeadingThatItsConstantsTell) {
     EXPECT_EQ(widest, ReportHeadingWidth);
 }
 
+TEST(LoadReport, HasOneLineForARoomWhateverItsTextsHold) {
+    SharedState state = StateWith(
+        {{150, 168, 0, 0, "1\t2", "one\r\ntwo\x7F\u0085."}, {150, 168, 0, 0, "9", "next"}}, false);
+    state.CurProjName = "A\nB";
+    const EnteredDataReport report = LoadReport(state, "");
+    ASSERT_EQ(report.Lines.size(), ReportHeadingLines + 2);
+    EXPECT_EQ(report.Lines[4].Text.substr(5, 19), "PROJECT NAME:   A B");
+    const ReportLine& row = report.Lines[ReportHeadingLines];
+    EXPECT_EQ(row.Text.substr(row.Remark - 9), "1 2      one  two  .    ");
+    EXPECT_EQ(report.Lines[ReportHeadingLines + 1].Text.substr(row.Remark - 9),
+              "9        next    ");
+}
+
 TEST(ShortDate, FollowsTheLocaleOfTheSystem) {
     // The locale is read at its first use, which is here.
     qputenv("LC_ALL", "de_DE.UTF-8");
