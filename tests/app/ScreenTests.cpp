@@ -50,11 +50,9 @@ struct PlainScreen : TitledScreen {
     int Uncovered = 0;
 };
 
-struct Screens_ : ScreenTest {};
-
-using TitledScreens = Screens_;
-using Guards = Screens_;
-using ScreenWindows = Screens_;
+using TitledScreens = ScreenTest;
+using Guards = ScreenTest;
+using ScreenWindows = ScreenTest;
 
 /// Process what is waiting, and what that sets off.
 void SettleEvents() {

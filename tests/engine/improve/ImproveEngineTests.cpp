@@ -27,7 +27,6 @@ using testing::Improved;
 using testing::Limits;
 using testing::MakeEngine;
 using testing::Search;
-using testing::Size;
 
 /// A search's pieces and the arrays after it.
 struct Searched {
