@@ -10,11 +10,7 @@ namespace tarn {
 namespace {
 
 using testing::FakeBoxes;
-
-bool ShowsWaiting() {
-    const QCursor* cursor = QGuiApplication::overrideCursor();
-    return cursor != nullptr && cursor->shape() == Qt::WaitCursor;
-}
+using testing::ShowsWaiting;
 
 /// What printing said on standard error.
 template <class Print>

@@ -58,12 +58,6 @@ void ExpectToldOnceAndPrintedLater(FakeBoxes& boxes, const std::function<void()>
     EXPECT_TRUE(boxes.Messages.empty());
 }
 
-/// Whether the user is shown that the program waits.
-bool ShowsWaiting() {
-    const QCursor* cursor = QGuiApplication::overrideCursor();
-    return cursor != nullptr && cursor->shape() == Qt::WaitCursor;
-}
-
 /// The system's printer; notes whether waiting was shown whenever it was used.
 struct WatchedPrinter : Printer {
     PageSize Page() override {

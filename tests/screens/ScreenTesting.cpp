@@ -5,6 +5,8 @@
 
 #include <QAbstractButton>
 #include <QCheckBox>
+#include <QCursor>
+#include <QGuiApplication>
 #include <QRadioButton>
 #include <QTextDocument>
 #include <QTextDocumentFragment>
@@ -137,6 +139,11 @@ void Focus(QWidget& widget) {
     widget.setFocus(Qt::MouseFocusReason);
     EXPECT_TRUE(QTest::qWaitFor([&] { return widget.hasFocus(); }))
         << FromQt(widget.objectName()) << " does not take the focus";
+}
+
+bool ShowsWaiting() {
+    const QCursor* cursor = QGuiApplication::overrideCursor();
+    return cursor != nullptr && cursor->shape() == Qt::WaitCursor;
 }
 
 std::string ShownToolTip(const QWidget& widget) {

@@ -107,6 +107,9 @@ void Press(QWidget& screen, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::N
 /// Move the focus there as a click would, and wait until it is there.
 void Focus(QWidget& widget);
 
+/// Whether the user is shown that the program waits.
+bool ShowsWaiting();
+
 /// What a widget's tool tip shows: the toolkit takes what looks like rich text for it.
 std::string ShownToolTip(const QWidget& widget);
 
