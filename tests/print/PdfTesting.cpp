@@ -103,7 +103,7 @@ QImage Pdf::Image(int page, int dotsPerInch) const {
     const QString number = QString::number(page);
     Run(S("pdftoppm"), {S("-r"), QString::number(dotsPerInch), S("-f"), number, S("-l"), number,
                         S("-singlefile"), S("-png"), Path(), name});
-    const QImage image(name + S(".png"));
+    QImage image(name + S(".png"));
     EXPECT_FALSE(image.isNull());
     return image;
 }

@@ -20,6 +20,7 @@ std::string WithoutBlanksAtTheEnd(std::string line) {
 
 std::vector<std::string> TextsOf(const std::vector<ReportLine>& lines) {
     std::vector<std::string> texts;
+    texts.reserve(lines.size());
     for (const ReportLine& line : lines) {
         texts.push_back(line.Text);
     }

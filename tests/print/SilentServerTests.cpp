@@ -31,7 +31,7 @@ constexpr std::size_t RequestsOfAPrint = 3;
 constexpr CupsPatience ShortPatience{std::chrono::milliseconds(2500),
                                      std::chrono::milliseconds(60000)};
 static_assert(CupsProxy::LateMs < ShortPatience.Answers.count() &&
-              2 * CupsProxy::LateMs > ShortPatience.Answers.count());
+              2L * CupsProxy::LateMs > ShortPatience.Answers.count());
 constexpr int HangMs = 70000; ///< more than any patience
 
 /// More than the buffers of two connections hold.
