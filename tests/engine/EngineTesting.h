@@ -8,7 +8,7 @@
 
 namespace tarn::testing {
 
-/// A whole number 0 .. `bound` - 1, the same for a seed with every standard library.
+/// A whole number 0 .. `bound` - 1, the same for equal seeds with every standard library.
 inline int Below(std::mt19937& random, int bound) {
     return static_cast<int>(random() % static_cast<unsigned>(bound));
 }

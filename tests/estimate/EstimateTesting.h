@@ -163,7 +163,7 @@ inline void ExpectEmpty(const Job& job) {
     EXPECT_EQ(job.Estimate.SavedFillCount, 0);
 }
 
-/// A whole number `least` .. `most`, the same for a seed with every standard library.
+/// A whole number `least` .. `most`, the same for equal seeds with every standard library.
 inline int Between(std::mt19937& random, int least, int most) {
     return least + static_cast<int>(random() % static_cast<unsigned>(most - least + 1));
 }

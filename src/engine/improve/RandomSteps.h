@@ -4,7 +4,7 @@
 
 namespace tarn {
 
-/// Random choices that are the same for a seed with every standard library (SplitMix64).
+/// Random choices that are the same for equal seeds with every standard library (SplitMix64).
 class RandomSteps {
   public:
     explicit RandomSteps(std::uint64_t seed)
