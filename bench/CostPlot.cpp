@@ -1,6 +1,6 @@
 #include "bench/CostPlot.h"
 
-#include "app/Format.h"
+#include "base/Format.h"
 
 #include <cmath>
 

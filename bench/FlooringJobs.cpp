@@ -1,6 +1,6 @@
 #include "bench/FlooringJobs.h"
 
-#include "engine/EstOptions.h"
+#include "estimate/MinCuts.h"
 #include "estimate/RollWidth.h"
 
 #include <random>
@@ -16,34 +16,34 @@ int Between(std::mt19937& random, int least, int most) {
     return least + static_cast<int>(random() % static_cast<unsigned>(most - least + 1));
 }
 
-void AddRoom(SharedState& state, std::mt19937& random) {
-    const double unit = state.IsMetric() ? 30 : 12; // about a foot
+Room RandomRoom(std::mt19937& random, Units units) {
+    const double unit = units == Units::Metric ? 30 : 12; // about a foot
     const auto side = [&] {
         return static_cast<Integer>(
             Between(random, static_cast<int>(3 * unit), static_cast<int>(20 * unit)));
     };
-    const Integer row = state.ObjNum++;
-    state.RoomWidth[row] = side();
-    state.RoomLength[row] = side();
+    Room room;
+    room.Width = side();
+    room.Length = side();
+    return room;
 }
 
 } // namespace
 
-std::unique_ptr<FlooringJob> RandomFlooringJob(int rooms, std::uint32_t number) {
+FlooringJob RandomFlooringJob(int rooms, std::uint32_t number) {
     std::mt19937 random(Seed + number);
-    auto job = std::make_unique<FlooringJob>();
-    job->Rooms = rooms;
-    job->State.MetricFlag = number / 2 % 2 == 1 ? 1 : 0;
+    FlooringJob job;
+    EstimateRequest& request = job.Request;
+    request.In = number / 2 % 2 == 1 ? Units::Metric : Units::Imperial;
     for (int room = 0; room < rooms; ++room) {
-        AddRoom(job->State, random);
+        job.Rooms.Rooms.push_back(RandomRoom(random, request.In));
     }
-    const bool metric = job->State.IsMetric();
     const auto width = static_cast<std::size_t>(Between(random, 1, 3));
-    job->Request.RollWidth = CaptionRollWidth(WidthCaptions(metric).at(width), metric);
-    job->Request.DownLay = number % 2 == 0;
-    job->Request.EstOption = PackEstOption(
-        static_cast<Integer>(Between(random, 0, 2)),
-        static_cast<Integer>(number % static_cast<std::uint32_t>(MostPiecesPerFill) + 1));
+    request.RollWidth = CaptionRollWidth(WidthCaptions(request.In).at(width), request.In);
+    request.Direction = number % 2 == 0 ? Lay::Down : Lay::Cross;
+    request.ShortestPart = AllMinCuts.at(static_cast<std::size_t>(Between(random, 0, 2)));
+    request.PiecesPerFill =
+        static_cast<Integer>(number % static_cast<std::uint32_t>(MostPiecesPerFill) + 1);
     return job;
 }
 

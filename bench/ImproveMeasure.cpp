@@ -1,8 +1,8 @@
 #include "bench/ImproveMeasure.h"
 
-#include "engine/Placement.h"
-#include "engine/improve/Improver.h"
 #include "estimate/ImproveEstimate.h"
+#include "estimate/MakeEstimate.h"
+#include "improve/Improver.h"
 
 #include <algorithm>
 #include <atomic>
@@ -72,19 +72,16 @@ std::vector<Long> BestAfter(const PackingInstance& instance, const std::vector<d
     return best;
 }
 
-FlooringResult MeasureFlooring(FlooringJob& job, double seconds) {
-    EngineArrays engine;
-    CarpetEstimate estimate;
+FlooringResult MeasureFlooring(const FlooringJob& job, double seconds) {
     SearchObserver nobody;
-    RunEstimate(job.State, engine, estimate, job.Request, nobody);
+    const Estimate searched = MakeEstimate(job.Rooms, job.Request, nobody);
     FlooringResult result;
-    result.Rooms = job.Rooms;
-    result.MaxPieces = job.Request.EstOption % 10 + 1;
-    result.Metric = job.State.IsMetric();
-    result.Searched = static_cast<double>(GetPCLen(engine));
+    result.Rooms = static_cast<int>(job.Rooms.Rooms.size());
+    result.MaxPieces = job.Request.PiecesPerFill;
+    result.Metric = job.Request.In == Units::Metric;
     ComputingLimit limit(seconds);
-    const ImproveResult improved =
-        ImproveEstimate(job.State, engine, estimate, ImproveLimits(), limit);
+    const ImproveResult improved = ImproveEstimate(searched, ImproveLimits(), limit).Result;
+    result.Searched = static_cast<double>(improved.StartLength);
     result.Improved = static_cast<double>(improved.Length);
     result.Bound = improved.Bound;
     result.StartBelowRules = improved.StartBelowRules;

@@ -1,3 +1,6 @@
+// What the report on the improving search measures: runs on strip-packing instances and on flooring
+// jobs, in computing time.
+
 #pragma once
 
 #include "bench/FlooringJobs.h"
@@ -34,6 +37,6 @@ struct FlooringResult {
 
 /// Estimate a job, then improve it for so many seconds of computing. A job without fills gives
 /// lengths of 0.
-FlooringResult MeasureFlooring(FlooringJob& job, double seconds);
+FlooringResult MeasureFlooring(const FlooringJob& job, double seconds);
 
 } // namespace tarn

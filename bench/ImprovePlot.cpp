@@ -1,7 +1,7 @@
 #include "bench/ImprovePlot.h"
 
-#include "app/Format.h"
-#include "engine/EstOptions.h"
+#include "base/Format.h"
+#include "estimate/EstimateRequest.h"
 
 #include <algorithm>
 #include <cmath>

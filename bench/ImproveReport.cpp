@@ -1,7 +1,7 @@
 // Measures the improving search on public strip-packing sets and on random flooring jobs; writes
 // docs/improve.md and its plot.
 
-#include "app/Format.h"
+#include "base/Format.h"
 #include "bench/ImproveMeasure.h"
 #include "bench/ImprovePlot.h"
 #include "bench/ReportPage.h"
@@ -94,7 +94,7 @@ std::vector<FlooringResult> MeasureGroup(const RoomGroup& group) {
         const int rooms = group.Least + static_cast<int>(i) * 5 % spread;
         const auto number =
             static_cast<std::uint32_t>(1000 * group.Least) + static_cast<std::uint32_t>(i);
-        results[i] = MeasureFlooring(*RandomFlooringJob(rooms, number), FlooringSeconds);
+        results[i] = MeasureFlooring(RandomFlooringJob(rooms, number), FlooringSeconds);
     });
     return results;
 }

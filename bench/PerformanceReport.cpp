@@ -1,11 +1,12 @@
 // Measures the search beside the plain reference search of the tests, and the cost of a placement
 // by the number of parts; writes docs/performance.md and its plot.
 
-#include "app/Format.h"
+#include "base/Format.h"
 #include "bench/CostPlot.h"
 #include "bench/ReportPage.h"
-#include "engine/MultiEstimate.h"
-#include "engine/RollLayout.h"
+#include "engine/PiecePlacer.h"
+#include "engine/Search.h"
+#include "engine/reference/JobOfPlain.h"
 #include "engine/reference/RandomJobs.h"
 #include "engine/reference/StoredJobs.h"
 
@@ -46,30 +47,11 @@ double Seconds(Action&& action) {
 reference::PlainJob Fills(int count, int pieces) {
     reference::RandomSource random(Seed);
     std::vector<reference::Extent> extents;
+    extents.reserve(static_cast<std::size_t>(count));
     for (int i = 0; i < count; ++i) {
         extents.push_back({random.Whole(1, 143), random.Whole(24, 144)});
     }
-    return reference::DownLayJob(144, pieces - 1, extents);
-}
-
-/// Search as the program does; returns the best length.
-Long SearchLength(const reference::PlainJob& job) {
-    SharedState state;
-    state.EstOption = static_cast<Integer>(job.estOption);
-    EngineArrays engine;
-    engine.RollWidth = job.rollWidth;
-    engine.FillFlag = 1;
-    for (const reference::PlainPiece& piece : job.pieces) {
-        const Integer row = engine.PieceCount++;
-        engine.PCX2[row] = piece.x2;
-        engine.PCY2[row] = piece.y2;
-        engine.OrgPC[row] = row;
-        engine.PCDivide[row] = 1;
-    }
-    engine.OrgCount = engine.PieceCount;
-    SearchObserver nobody;
-    MultiEstimate(state, engine, nobody);
-    return engine.BestLen;
+    return reference::DownLayJob(144, pieces, extents);
 }
 
 std::string Milliseconds(double seconds) {
@@ -81,12 +63,14 @@ std::string RatioTable() {
                         "|---:|---:|---:|---:|---:|\n";
     for (const int fills : {10, 30, 100, 270, 500}) {
         for (const int pieces : {1, 2, 5, 6}) {
-            const reference::PlainJob job = Fills(fills, pieces);
+            const reference::PlainJob plainJob = Fills(fills, pieces);
+            const SearchJob job = reference::JobOfPlain(plainJob);
+            SearchObserver nobody;
             Long length = 0;
             long plainLength = 0;
-            const double own = Seconds([&] { length = SearchLength(job); });
+            const double own = Seconds([&] { length = Search(job, nobody).BestLength; });
             const double plain =
-                Seconds([&] { plainLength = reference::PlainMultiEstimate(job).bestLen; });
+                Seconds([&] { plainLength = reference::RunPlainSearch(plainJob).bestLength; });
             if (length != plainLength) {
                 throw std::runtime_error("the two searches disagree");
             }
@@ -103,6 +87,7 @@ std::string RatioTable() {
 double PlacementSeconds(int count) {
     std::mt19937 random(Seed);
     std::vector<PieceSize> parts;
+    parts.reserve(static_cast<std::size_t>(count));
     for (int i = 0; i < count; ++i) {
         parts.push_back(
             {static_cast<Single>(1 + random() % 143), static_cast<Single>(1 + random() % 18)});
@@ -110,8 +95,8 @@ double PlacementSeconds(int count) {
     std::sort(parts.begin(), parts.end(), [](const PieceSize& a, const PieceSize& b) {
         return a.Width * a.Length > b.Width * b.Length;
     });
-    RollLayout layout;
-    return Seconds([&] { layout.PlaceAll(parts, 144, std::numeric_limits<Long>::max()); });
+    PiecePlacer placer;
+    return Seconds([&] { placer.PlaceAll(parts, 144, std::numeric_limits<Long>::max()); });
 }
 
 std::string CostTable(const std::vector<CostPoint>& costs) {

@@ -1,44 +1,40 @@
-#include "engine/Pieces.h"
-#include "engine/Placement.h"
-#include "engine/RollLayout.h"
+#include "engine/PieceOrder.h"
+#include "engine/PiecePlacer.h"
 
 #include <benchmark/benchmark.h>
 
 #include <limits>
 #include <random>
+#include <vector>
 
 namespace {
 
 constexpr unsigned Seed = 20261;
 
-/// `count` parts of 1 to 143 by 1 to 18 inches, so that 3000 of them stay within the longest roll.
-tarn::EngineArrays Parts(int count) {
+/// `count` parts of 1 to 143 by 1 to 18 inches, so that 3000 of them stay within the longest roll,
+/// in the order of their areas.
+std::vector<tarn::PieceSize> Parts(int count) {
     std::mt19937 random(Seed);
-    tarn::EngineArrays engine;
-    engine.RollWidth = 144;
-    engine.FillFlag = 1;
-    for (tarn::Integer i = 0; i < count; ++i) {
-        engine.PCX2[i] = static_cast<tarn::Single>(100 * (1 + random() % 143));
-        engine.PCY2[i] = static_cast<tarn::Single>(100 * (1 + random() % 18));
-        engine.OrgPC[i] = i;
+    std::vector<tarn::PieceSize> sizes;
+    for (int i = 0; i < count; ++i) {
+        const auto width = static_cast<tarn::Single>(1 + random() % 143);
+        sizes.push_back({width, static_cast<tarn::Single>(1 + random() % 18)});
     }
-    engine.PieceCount = static_cast<tarn::Integer>(count);
-    engine.CutCount = engine.PieceCount;
-    return engine;
+    tarn::PieceOrder order;
+    std::vector<tarn::PieceSize> ordered;
+    for (const std::size_t i : order.LargestFirst(sizes, 1)) {
+        ordered.push_back(sizes[i]);
+    }
+    return ordered;
 }
 
 /// One placement of all parts.
 void PlaceAll(benchmark::State& bench) {
-    tarn::EngineArrays engine = Parts(static_cast<int>(bench.range(0)));
-    tarn::ReorderPiece(engine, 1, 0.01);
-    std::vector<tarn::PieceSize> sizes;
-    for (tarn::Integer i = 0; i < engine.PieceCount; ++i) {
-        sizes.push_back({engine.PieceWid[i], engine.PieceLen[i]});
-    }
-    tarn::RollLayout layout;
+    const std::vector<tarn::PieceSize> sizes = Parts(static_cast<int>(bench.range(0)));
+    tarn::PiecePlacer placer;
     for ([[maybe_unused]] const auto _ : bench) {
         benchmark::DoNotOptimize(
-            layout.PlaceAll(sizes, engine.RollWidth, std::numeric_limits<tarn::Long>::max()));
+            placer.PlaceAll(sizes, 144, std::numeric_limits<tarn::Long>::max()));
     }
     bench.SetComplexityN(bench.range(0));
 }

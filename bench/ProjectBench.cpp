@@ -1,10 +1,10 @@
-#include "app/SharedState.h"
+// A project as full as it may be, and a layout as full as it may be: stored, loaded, listed, drawn.
+
+#include "engine/Search.h"
 #include "estimate/LayoutDrawing.h"
-#include "rooms/Report.h"
-#include "rooms/RoomStore.h"
-#include "store/Projects.h"
+#include "project/Report.h"
+#include "store/ProjectStore.h"
 #include "store/Schema.h"
-#include "store/SqlDatabase.h"
 
 #include <QCoreApplication>
 #include <QTemporaryDir>
@@ -12,99 +12,118 @@
 #include <benchmark/benchmark.h>
 
 #include <string>
+#include <vector>
 
 namespace {
 
+using tarn::Byte;
 using tarn::Integer;
+using tarn::Single;
+using tarn::Units;
 
-/// The fullest project there is, not yet stored.
-void FillRooms(tarn::SharedState& state) {
-    state.ObjNum = tarn::MaxRoom + 1;
-    for (Integer room = 0; room < state.ObjNum; ++room) {
-        state.RoomWidth[room] = static_cast<Integer>(60 + room % 200);
-        state.RoomLength[room] = static_cast<Integer>(72 + room % 300);
-        state.RoomCarpet[room] = static_cast<tarn::Byte>(room % 12);
-        state.RoomBase[room] = static_cast<tarn::Byte>(room % 9);
-        state.RoomNoStr[room] = std::to_string(room + 1);
-        state.RoomRemark[room] = "remark of room " + state.RoomNoStr[room];
+constexpr const char* ProjectName = "FULL";
+
+/// As many rooms as a project may have.
+std::vector<tarn::Room> FullRooms() {
+    std::vector<tarn::Room> rooms;
+    for (int room = 0; room < static_cast<int>(tarn::RoomCapacity); ++room) {
+        const std::string number = std::to_string(room + 1);
+        rooms.push_back({static_cast<Integer>(60 + room % 200),
+                         static_cast<Integer>(72 + room % 300), static_cast<Byte>(room % 12),
+                         static_cast<Byte>(room % 9), number, "remark of room " + number});
     }
+    return rooms;
 }
 
-/// A database in a directory of its own with that project saved and open.
-struct FullProject {
+/// An empty database in a directory of its own.
+struct DatabaseInFolder {
     QTemporaryDir Directory;
     std::string File = Directory.filePath(QStringLiteral("Tarn.mdb")).toStdString();
-    tarn::SharedState State;
 
-    FullProject() {
-        tarn::CreateDatabaseFile(File);
-        State.CurDB = tarn::OpenSqlDatabase(File);
-        State.CurProjName = "FULL";
-        tarn::AddProject(State, "MARCH", State.CurProjName);
-        FillRooms(State);
-        tarn::SaveProject(State);
+    DatabaseInFolder() { tarn::CreateDatabaseFile(File); }
+};
+
+/// The same with a project of those rooms stored in it.
+struct StoredProject {
+    DatabaseInFolder Database;
+    tarn::ProjectStore Store{Database.File, tarn::DatabaseAccess::ReadWrite};
+    tarn::Project Project;
+
+    StoredProject() {
+        Store.AddProject("MARCH", ProjectName);
+        Project = Store.Load(ProjectName).Value;
+        Project.Rooms = FullRooms();
+        Project = Store.Save(Project, Units::Imperial);
     }
 };
 
 void OpenDatabase(benchmark::State& bench) {
-    const FullProject project;
+    const StoredProject stored;
     for ([[maybe_unused]] const auto _ : bench) {
-        benchmark::DoNotOptimize(tarn::OpenSqlDatabase(project.File));
+        benchmark::DoNotOptimize(
+            tarn::ProjectStore(stored.Database.File, tarn::DatabaseAccess::ReadWrite));
     }
 }
 
 void Load501Rooms(benchmark::State& bench) {
-    FullProject project;
+    StoredProject stored;
     for ([[maybe_unused]] const auto _ : bench) {
-        const tarn::ProjectLoad load = tarn::LoadProject(project.State);
-        if (load.Result != tarn::ProjectLoad::Outcome::Loaded) {
-            bench.SkipWithError("the project was not loaded");
+        const tarn::LoadedProject loaded = stored.Store.Load(ProjectName);
+        if (loaded.Value.Rooms.size() != tarn::RoomCapacity) {
+            bench.SkipWithError("the project was not loaded whole");
         }
     }
 }
 
 void Save501Rooms(benchmark::State& bench) {
-    FullProject project;
+    StoredProject stored;
     for ([[maybe_unused]] const auto _ : bench) {
-        if (!tarn::SaveProject(project.State)) {
-            bench.SkipWithError("the project was not saved");
-        }
+        benchmark::DoNotOptimize(stored.Store.Save(stored.Project, Units::Imperial));
     }
 }
 
 void Report501Rooms(benchmark::State& bench) {
-    tarn::SharedState state;
-    FillRooms(state);
+    tarn::Project project;
+    project.Name = ProjectName;
+    project.Rooms = FullRooms();
     for ([[maybe_unused]] const auto _ : bench) {
-        benchmark::DoNotOptimize(tarn::LoadReport(state, "2026-01-31"));
+        benchmark::DoNotOptimize(tarn::MakeReport(project, Units::Imperial, "2026-01-31"));
     }
 }
 
-void Draw3000Parts(benchmark::State& bench) {
-    const tarn::SharedState state;
-    tarn::CarpetEstimate estimate;
-    tarn::EngineArrays engine;
-    engine.RollWidth = 144;
+/// An estimate whose layout has as many parts as there may be, six across a roll of 144 inches.
+tarn::Estimate FullEstimate() {
     constexpr int PiecesAcross = 6;
-    for (Integer i = 0; i < tarn::MaxPiece; ++i) {
+    constexpr Single Width = 24;
+    constexpr Single Length = 12;
+    tarn::Estimate estimate;
+    estimate.Request.RollWidth = estimate.Job.RollWidth = Width * PiecesAcross;
+    for (int i = 0; i < tarn::MaxPieces; ++i) {
         const int row = i / PiecesAcross;
-        engine.PCX2[i] = 2400;
-        engine.PCY2[i] = 1200;
-        engine.OrgPC[i] = static_cast<Integer>(row);
-        engine.PosX[i] = static_cast<tarn::Single>(24 * (i % PiecesAcross));
-        engine.PosY[i] = static_cast<tarn::Single>(12 * row);
-        engine.PosW[i] = 24;
-        engine.PosL[i] = 12;
+        tarn::Placed placed;
+        placed.Part.X2 = 100 * Width;
+        placed.Part.Y2 = 100 * Length;
+        placed.Part.Number = static_cast<Integer>(row);
+        placed.X = Width * static_cast<Single>(i % PiecesAcross);
+        placed.Y = Length * static_cast<Single>(row);
+        placed.Width = Width;
+        placed.Length = Length;
+        if (i % PiecesAcross == 0) {
+            estimate.Job.Pieces.push_back(placed.Part);
+        }
+        estimate.Fills.Layout.push_back(placed);
     }
-    engine.PieceCount = tarn::MaxPiece;
-    engine.PosCount = tarn::MaxPiece;
-    engine.ResultLen = 6000;
-    estimate.SavedFillCount = 500;
+    estimate.Fills.Length = static_cast<Integer>(Length * tarn::MaxPieces / PiecesAcross);
+    return estimate;
+}
+
+void Draw3000Parts(benchmark::State& bench) {
+    const tarn::Estimate estimate = FullEstimate();
     for ([[maybe_unused]] const auto _ : bench) {
-        tarn::Picture picture;
-        tarn::RedrawPC(picture, state, engine, estimate);
-        tarn::ShowECutsInfo(picture, state, engine, estimate, tarn::CutListX, tarn::CutListY);
-        benchmark::DoNotOptimize(picture.Steps().size());
+        tarn::Drawing drawing;
+        tarn::DrawLayout(drawing, estimate);
+        tarn::DrawCutList(drawing, estimate, tarn::CutListX, tarn::CutListY);
+        benchmark::DoNotOptimize(drawing.Steps().size());
     }
 }
 

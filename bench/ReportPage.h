@@ -1,3 +1,5 @@
+// Pages of the documentation with measured figures put in.
+
 #pragma once
 
 #include <string>

@@ -1,4 +1,4 @@
-#include "engine/MultiEstimate.h"
+#include "engine/Search.h"
 
 #include <benchmark/benchmark.h>
 
@@ -10,37 +10,33 @@ constexpr unsigned Seed = 20260;
 
 /// Fills as a down lay on a 12 ft roll leaves them: 1 to 143 inches wide, 2 to 12 feet long, so
 /// that 500 of them stay within the longest roll.
-tarn::EngineArrays Fills(int count) {
+tarn::SearchJob Fills(int count, int pieces) {
     std::mt19937 random(Seed);
-    tarn::EngineArrays engine;
-    engine.RollWidth = 144;
-    engine.FillFlag = 1;
-    for (tarn::Integer i = 0; i < count; ++i) {
-        engine.PCX2[i] = static_cast<tarn::Single>(100 * (1 + random() % 143));
-        engine.PCY2[i] = static_cast<tarn::Single>(100 * (24 + random() % 121));
-        engine.OrgPC[i] = i;
-        engine.PCDivide[i] = 1;
+    tarn::SearchJob job;
+    job.RollWidth = 144;
+    job.MostParts = static_cast<tarn::Integer>(pieces);
+    job.MinCut = 300;
+    for (int i = 0; i < count; ++i) {
+        tarn::Piece piece;
+        piece.X2 = static_cast<tarn::Single>(100 * (1 + random() % 143));
+        piece.Y2 = static_cast<tarn::Single>(100 * (24 + random() % 121));
+        piece.Number = static_cast<tarn::Integer>(i);
+        job.Pieces.push_back(piece);
     }
-    engine.PieceCount = static_cast<tarn::Integer>(count);
-    engine.OrgCount = engine.PieceCount;
-    return engine;
+    return job;
 }
 
 /// The whole search; arguments: fills, pieces per fill.
 void WholeSearch(benchmark::State& bench) {
-    tarn::SharedState state;
-    state.EstOption = static_cast<tarn::Integer>(bench.range(1) - 1);
-    const tarn::EngineArrays fills = Fills(static_cast<int>(bench.range(0)));
-    tarn::EngineArrays engine;
+    const tarn::SearchJob job =
+        Fills(static_cast<int>(bench.range(0)), static_cast<int>(bench.range(1)));
     tarn::SearchObserver nobody;
+    tarn::SearchResult result;
     for ([[maybe_unused]] const auto _ : bench) {
-        bench.PauseTiming();
-        engine = fills;
-        bench.ResumeTiming();
-        tarn::MultiEstimate(state, engine, nobody);
+        result = tarn::Search(job, nobody);
     }
-    bench.counters["parts"] = engine.PieceCount;
-    bench.counters["inches"] = static_cast<double>(engine.BestLen);
+    bench.counters["parts"] = static_cast<double>(result.Layout.size());
+    bench.counters["inches"] = static_cast<double>(result.BestLength);
 }
 
 } // namespace

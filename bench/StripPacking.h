@@ -1,6 +1,8 @@
+// Public strip-packing instances as files.
+
 #pragma once
 
-#include "engine/improve/ImproveJob.h"
+#include "improve/ImproveJob.h"
 
 #include <string>
 #include <vector>

@@ -1,5 +1,5 @@
-#include "app/Format.h"
-#include "app/Numbers.h"
+#include "base/Format.h"
+#include "base/Numbers.h"
 
 #include <benchmark/benchmark.h>
 

@@ -4,6 +4,9 @@ add_library(tarn_options INTERFACE)
 target_compile_features(tarn_options INTERFACE cxx_std_20)
 # Layouts must come out the same to the last bit on every build: no fused multiply-add.
 target_compile_options(tarn_options INTERFACE -ffp-contract=off)
+# In everything alike, so that precompiled headers fit everywhere.
+target_compile_definitions(tarn_options INTERFACE QT_NO_KEYWORDS QT_NO_CAST_FROM_ASCII
+                                                  QT_NO_CAST_TO_ASCII)
 
 if(TARN_SANITIZE)
   target_compile_options(
@@ -32,6 +35,13 @@ endif()
 find_program(TARN_CCACHE ccache)
 if(TARN_CCACHE)
   # Paths are made relative, so that another clone or work tree finds what this one has compiled.
-  set(CMAKE_CXX_COMPILER_LAUNCHER ${CMAKE_COMMAND} -E env CCACHE_BASEDIR=${PROJECT_SOURCE_DIR}
-                                  CCACHE_NOHASHDIR=true ${TARN_CCACHE})
+  # The sloppiness is what precompiled headers take.
+  set(CMAKE_CXX_COMPILER_LAUNCHER
+      ${CMAKE_COMMAND}
+      -E
+      env
+      CCACHE_BASEDIR=${PROJECT_SOURCE_DIR}
+      CCACHE_NOHASHDIR=true
+      CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime
+      ${TARN_CCACHE})
 endif()

@@ -1,8 +1,8 @@
-#include "app/Format.h"
+#include "base/Format.h"
 
 #include "Fuzzing.h"
-#include "app/Numbers.h"
-#include "app/RunTimeError.h"
+#include "base/Numbers.h"
+#include "base/RunTimeError.h"
 
 #include <algorithm>
 #include <cmath>

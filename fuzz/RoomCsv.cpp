@@ -1,7 +1,7 @@
-#include "rooms/RoomCsv.h"
+#include "files/RoomCsv.h"
 
 #include "Fuzzing.h"
-#include "rooms/CsvText.h"
+#include "files/CsvText.h"
 
 #include <algorithm>
 
@@ -27,15 +27,15 @@ void CheckRecords(std::string_view text) {
     }
 }
 
-void CheckRooms(std::string_view text, bool metric) {
-    const RoomCsvReading reading = ReadRoomCsv(text, metric);
+void CheckRooms(std::string_view text, Units units) {
+    const RoomCsvReading reading = ReadRoomCsv(text, units);
     Require(reading.Rooms.empty() || reading.Errors.empty(), "rooms or mistakes");
     for (const RoomCsvError& error : reading.Errors) {
         Require(error.Line >= 1 && !error.Problem.empty(), "a mistake has a place and a cause");
         Require(ErrorText(error).find('\n') == std::string::npos, "a mistake is one line");
     }
     if (reading.Succeeded()) {
-        const RoomCsvReading back = ReadRoomCsv(WriteRoomCsv(reading.Rooms), metric);
+        const RoomCsvReading back = ReadRoomCsv(WriteRoomCsv(reading.Rooms), units);
         Require(back.Succeeded() && back.Rooms == reading.Rooms, "rooms are read back");
     }
 }
@@ -50,6 +50,6 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     }
     const std::string_view text = tarn::TextOf(data + 1, size - 1);
     tarn::CheckRecords(text);
-    tarn::CheckRooms(text, data[0] % 2 == 1);
+    tarn::CheckRooms(text, data[0] % 2 == 1 ? tarn::Units::Metric : tarn::Units::Imperial);
     return 0;
 }

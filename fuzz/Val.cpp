@@ -1,6 +1,6 @@
 #include "Fuzzing.h"
-#include "app/Numbers.h"
-#include "app/RunTimeError.h"
+#include "base/Numbers.h"
+#include "base/RunTimeError.h"
 
 #include <algorithm>
 #include <cmath>

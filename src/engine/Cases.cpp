@@ -1,7 +1,6 @@
 #include "engine/Cases.h"
 
-#include "app/Numbers.h"
-#include "engine/EstOptions.h"
+#include "base/Numbers.h"
 
 #include <algorithm>
 #include <cmath>
@@ -12,69 +11,69 @@ namespace {
 
 constexpr Double CaseBudget = 80;
 
-/// How many pieces may vary, so that MaxParts to that power is about the budget.
-Long VaryingPieces(Integer maxParts) {
-    if (maxParts <= 1) {
+/// How many pieces may vary, so that `mostParts` to that power is about the budget.
+std::size_t VaryingPieces(Integer mostParts) {
+    if (mostParts <= 1) {
         return 0;
     }
-    return CLng(Int(std::log(CaseBudget) / std::log(static_cast<Double>(maxParts)) + 0.5));
+    const Double varying = std::log(CaseBudget) / std::log(static_cast<Double>(mostParts));
+    return static_cast<std::size_t>(CLng(Int(varying + 0.5)));
 }
 
-Integer RadixOf(const EngineArrays& engine, Integer k) {
-    if (engine.PCDivide[k] != 1) {
+Integer AlternativesOf(const Piece& piece, Integer mostParts, Integer minCut) {
+    if (!piece.IsDivisible) {
         return 1;
     }
-    const Single length = engine.PCY2[k] - engine.PCY1[k];
-    const Double fitting = Int((static_cast<Double>(length) + 1) / engine.MinCut);
-    return CInt(std::min(fitting, static_cast<Double>(engine.MaxParts)));
+    const Single length = piece.Y2 - piece.Y1;
+    const Double fitting = Int((static_cast<Double>(length) + 1) / minCut);
+    return CInt(std::min(fitting, static_cast<Double>(mostParts)));
 }
 
 } // namespace
 
-void DecodeOptions(const SharedState& state, EngineArrays& engine) {
-    const Long option = state.EstOption;
-    engine.MaxParts = ToInteger(Mod(option, 10) + 1);
-    const auto choice = static_cast<long long>(Int(static_cast<Double>(option) / 10));
-    engine.MinCut = MinCutUnits(state, choice);
-    if (engine.MinCut == 0) {
-        RaiseDivisionByZero();
+std::vector<Integer> AlternativesOf(const std::vector<Piece>& pieces, Integer mostParts,
+                                    Integer minCut) {
+    std::vector<Integer> alternatives(pieces.size(), 1);
+    const std::size_t varying = std::min(VaryingPieces(mostParts), pieces.size());
+    for (std::size_t k = 0; k < varying; ++k) {
+        alternatives[k] = AlternativesOf(pieces[k], mostParts, minCut);
     }
+    return alternatives;
 }
 
-Long GetTotalCase(EngineArrays& engine) {
-    const Long varying = VaryingPieces(engine.MaxParts);
+Long CountCases(const std::vector<Integer>& alternatives) {
     long long cases = 1;
-    for (Integer k = 0; k < engine.PieceCount; ++k) {
-        engine.CaseRadix[k] = k < varying ? RadixOf(engine, k) : Integer{1};
-        cases *= engine.CaseRadix[k];
+    for (const Integer radix : alternatives) {
+        cases *= radix;
     }
-    engine.CaseCount = ToLong(cases);
-    return engine.CaseCount;
+    return ToLong(cases);
 }
 
-Long DecodeCase(EngineArrays& engine, Long number) {
+Long FirstPassCase(Long number, const std::vector<Integer>& alternatives, CaseCuts& cuts) {
+    cuts.clear();
     Long rest = number;
     Long parts = 0;
-    for (Integer k = 0; k < engine.OrgCount; ++k) {
-        const Long digit = Mod(rest, engine.CaseRadix[k]);
-        engine.CaseDigit[k] = ToInteger(digit);
-        rest = (rest - digit) / engine.CaseRadix[k];
+    for (const Integer radix : alternatives) {
+        const Long digit = Mod(rest, radix);
+        cuts.push_back(ToInteger(digit));
+        rest = (rest - digit) / radix;
         parts += digit + 1;
     }
     return parts;
 }
 
-Long DeriveCase(EngineArrays& engine, Integer most) {
-    const PieceRows& pieces = engine.Undivided;
+Long SecondPassCase(Integer mostCuts, const std::vector<Piece>& pieces, Integer minCut,
+                    CaseCuts& cuts) {
+    cuts.clear();
     Long parts = 0;
-    for (Integer k = 0; k < engine.OrgCount; ++k) {
-        Double digit = 0;
-        if (pieces.PCDivide[k] == 1) {
-            const Single length = pieces.PCY2[k] - pieces.PCY1[k];
-            digit = Int(static_cast<Double>(length) / engine.MinCut) - 1;
+    for (const Piece& piece : pieces) {
+        Double fitting = 0;
+        if (piece.IsDivisible) {
+            const Single length = piece.Y2 - piece.Y1;
+            fitting = Int(static_cast<Double>(length) / minCut) - 1;
         }
-        engine.CaseDigit[k] = CInt(std::clamp(digit, 0.0, static_cast<Double>(most)));
-        parts += engine.CaseDigit[k] + 1;
+        cuts.push_back(CInt(std::clamp(fitting, 0.0, static_cast<Double>(mostCuts))));
+        parts += cuts.back() + 1;
     }
     return parts;
 }

@@ -1,30 +1,34 @@
 #pragma once
 
-#include "app/SharedState.h"
-#include "engine/EngineArrays.h"
+#include "engine/Piece.h"
+
+#include <vector>
 
 namespace tarn {
 
-/// Set MaxParts and MinCut from the estimate options.
-///
-/// MaxParts is the units digit of EstOption + 1. MinCut is MinCutUnits of the tens of EstOption.
-/// Raises "Subscript out of range" for tens beyond MinCutLen, "Division by zero" for
-/// a minimum cut of 0.
-void DecodeOptions(const SharedState& state, EngineArrays& engine);
+/// A case of the search: for each undivided piece the number of cuts, so that it is laid in one
+/// part more. The first pass tries every combination of the first few pieces; the second divides
+/// all pieces alike, as far as their lengths allow. Pieces lie along Y here.
+using CaseCuts = std::vector<Integer>;
 
-/// The number of cases of the first pass, also set as CaseCount; fills CaseRadix of the pieces
-/// 0 .. PieceCount - 1. Only the first few pieces vary, so that there are about 80 cases whatever
-/// the options. 0 when one of those that vary is shorter than the minimum cut.
-Long GetTotalCase(EngineArrays& engine);
+/// The alternatives of each piece in the first pass: whole, in two parts, .. as many as minimum
+/// cuts fit its length, at most `mostParts`. Only the first few pieces have any, so that there are
+/// about 80 cases whatever the options. 0 for one of those that is shorter than the minimum cut.
+std::vector<Integer> AlternativesOf(const std::vector<Piece>& pieces, Integer mostParts,
+                                    Integer minCut);
 
-/// Set CaseDigit of the undivided pieces to case `number` (0 .. cases - 1) of the first pass: the
-/// digits of the number, the radix of each being CaseRadix, the lowest digit first. Returns the
-/// number of parts that makes in all.
-Long DecodeCase(EngineArrays& engine, Long number);
+/// The number of cases of the first pass: the product of the alternatives.
+Long CountCases(const std::vector<Integer>& alternatives);
 
-/// Set CaseDigit of the undivided pieces to case `most` (0 .. MaxParts - 1) of the second pass: as
-/// many cuts as the saved length of each holds minimum cuts, but at most `most`. Returns the number
-/// of parts that makes in all.
-Long DeriveCase(EngineArrays& engine, Integer most);
+/// Case `number` (0 .. cases - 1) of the first pass: the digits of the number, the radix of each
+/// being the alternatives of its piece, the lowest digit first. Returns the number of parts that it
+/// makes in all.
+Long FirstPassCase(Long number, const std::vector<Integer>& alternatives, CaseCuts& cuts);
+
+/// Case `mostCuts` (0 and up) of the second pass: as many cuts as the length of each piece holds
+/// minimum cuts, less one, but at most `mostCuts`. Returns the number of parts that it makes in
+/// all.
+Long SecondPassCase(Integer mostCuts, const std::vector<Piece>& pieces, Integer minCut,
+                    CaseCuts& cuts);
 
 } // namespace tarn

@@ -1,9 +1,8 @@
 #include "engine/CleanUp.h"
 
-#include "app/Lengths.h"
-#include "engine/Geometry.h"
-#include "engine/Pieces.h"
-#include "engine/Placement.h"
+#include "base/Lengths.h"
+#include "base/RunTimeError.h"
+#include "engine/PieceGeometry.h"
 
 #include <cmath>
 
@@ -21,41 +20,26 @@ bool IsExtent(Single extent) {
     return !IsWithinTolerance(extent);
 }
 
-/// Whether part `j` continues part `i` of the same piece, both in the piece and on the roll.
-bool Continues(const EngineArrays& engine, Integer i, Integer j) {
-    return engine.OrgPC[i] == engine.OrgPC[j] && engine.PCX1[i] == engine.PCX1[j] &&
-           engine.PCX2[i] == engine.PCX2[j] && engine.PCY2[i] == engine.PCY1[j] &&
-           SameEdge(engine.PosX[i], engine.PosX[j]) &&
-           SameEdge(engine.PosY[i] + engine.PosL[i], engine.PosY[j]);
+/// Whether part `b` continues part `a` of the same piece, both in the piece and on the roll.
+bool Continues(const Placed& a, const Placed& b) {
+    return a.Part.Number == b.Part.Number && a.Part.X1 == b.Part.X1 && a.Part.X2 == b.Part.X2 &&
+           a.Part.Y2 == b.Part.Y1 && SameEdge(a.X, b.X) && SameEdge(a.Y + a.Length, b.Y);
 }
 
-/// Take row `row` out of all arrays; the rows behind it move up.
-void RemoveRow(EngineArrays& engine, Integer row) {
-    for (long long k = row; k + 1 < engine.PieceCount; ++k) {
-        SwitchFillPC(engine, k, k + 1);
+/// The number of the first part that continues part `i`; the number of parts when none does.
+std::size_t FirstContinuation(const std::vector<Placed>& layout, std::size_t i) {
+    std::size_t j = 0;
+    while (j < layout.size() && (j == i || !Continues(layout[i], layout[j]))) {
+        ++j;
     }
-    --engine.PieceCount;
-    --engine.PosCount;
-    --engine.CutCount;
+    return j;
 }
 
-/// Join row `j` to row `i`; the end of the strip does not move.
-void CombineTwo(EngineArrays& engine, Integer i, Integer j, Double dimScale) {
-    engine.PCY2[i] = engine.PCY2[j];
-    GetPieceSZ(engine, i, dimScale);
-    const Single end = engine.PosY[j] + engine.PosL[j];
-    engine.PosL[i] = end - engine.PosY[i];
-    RemoveRow(engine, j);
-}
-
-/// The first row that continues row `i`; -1 when none does.
-Integer FirstContinuation(const EngineArrays& engine, Integer i) {
-    for (Integer j = 0; j < engine.PieceCount; ++j) {
-        if (j != i && Continues(engine, i, j)) {
-            return j;
-        }
-    }
-    return -1;
+/// Join part `b` to part `a`; the end of the strip does not move.
+void Join(Placed& a, const Placed& b) {
+    a.Part.Y2 = b.Part.Y2;
+    const Single end = b.Y + b.Length;
+    a.Length = end - a.Y;
 }
 
 bool Touch(const Box& a, const Box& b) {
@@ -64,13 +48,13 @@ bool Touch(const Box& a, const Box& b) {
     return (beside && IsExtent(CommonLength(a, b))) || (behind && IsExtent(CommonWidth(a, b)));
 }
 
-bool TouchesAnything(const EngineArrays& engine, Integer i) {
-    const Box piece = PlacedBox(engine, i);
-    if (SameEdge(piece.X1, 0) || SameEdge(piece.X2, UsableWidth(engine))) {
+bool TouchesAnything(const std::vector<Placed>& layout, std::size_t i, Single rollWidth) {
+    const Box piece = BoxOf(layout[i]);
+    if (SameEdge(piece.X1, 0) || SameEdge(piece.X2, rollWidth)) {
         return true;
     }
-    for (Integer j = 0; j < engine.PosCount; ++j) {
-        if (j != i && Touch(piece, PlacedBox(engine, j))) {
+    for (std::size_t j = 0; j < layout.size(); ++j) {
+        if (j != i && Touch(piece, BoxOf(layout[j]))) {
             return true;
         }
     }
@@ -78,11 +62,11 @@ bool TouchesAnything(const EngineArrays& engine, Integer i) {
 }
 
 /// The nearest right edge to the left of piece `i` along its extent; the roll's edge without one.
-Single EdgeToTheLeft(const EngineArrays& engine, Integer i) {
-    const Box piece = PlacedBox(engine, i);
+Single EdgeToTheLeft(const std::vector<Placed>& layout, std::size_t i) {
+    const Box piece = BoxOf(layout[i]);
     Single edge = 0;
-    for (Integer j = 0; j < engine.PosCount; ++j) {
-        const Box other = PlacedBox(engine, j);
+    for (std::size_t j = 0; j < layout.size(); ++j) {
+        const Box other = BoxOf(layout[j]);
         if (j != i && IsExtent(CommonLength(piece, other)) &&
             IsWithinTolerance(other.X2 - piece.X1) && other.X2 > edge) {
             edge = other.X2;
@@ -93,15 +77,15 @@ Single EdgeToTheLeft(const EngineArrays& engine, Integer i) {
 
 } // namespace
 
-void CheckFill(const EngineArrays& engine) {
-    const Single usable = UsableWidth(engine);
-    bool sound = engine.PosCount == engine.PieceCount;
-    for (Integer i = 0; sound && i < engine.PosCount; ++i) {
-        const Box piece = PlacedBox(engine, i);
-        const bool tooWide = IsExtent(engine.PosW[i] - usable);
-        sound = piece.X1 >= 0 && piece.Y1 >= 0 && (tooWide || IsWithinTolerance(piece.X2 - usable));
-        for (Integer j = 0; sound && j < i; ++j) {
-            sound = !Overlaps(piece, PlacedBox(engine, j));
+void CheckLayout(const std::vector<Placed>& layout, Single rollWidth) {
+    bool sound = true;
+    for (std::size_t i = 0; sound && i < layout.size(); ++i) {
+        const Box piece = BoxOf(layout[i]);
+        const bool tooWide = IsExtent(layout[i].Width - rollWidth);
+        sound =
+            piece.X1 >= 0 && piece.Y1 >= 0 && (tooWide || IsWithinTolerance(piece.X2 - rollWidth));
+        for (std::size_t j = 0; sound && j < i; ++j) {
+            sound = !Overlaps(piece, BoxOf(layout[j]));
         }
     }
     if (!sound) {
@@ -109,27 +93,28 @@ void CheckFill(const EngineArrays& engine) {
     }
 }
 
-void CombinePiece(EngineArrays& engine, Double dimScale) {
-    Integer i = 0;
-    while (i < engine.PieceCount) {
-        const Integer j = FirstContinuation(engine, i);
-        if (j < 0) {
+void JoinParts(std::vector<Placed>& layout) {
+    std::size_t i = 0;
+    while (i < layout.size()) {
+        const std::size_t j = FirstContinuation(layout, i);
+        if (j == layout.size()) {
             ++i;
             continue;
         }
-        CombineTwo(engine, i, j, dimScale);
-        // A join changes no piece's beginning, so the rows before i still have nothing to join;
-        // only row i itself is looked at again, one place further up if j stood before it.
+        Join(layout[i], layout[j]);
+        layout.erase(layout.begin() + static_cast<std::ptrdiff_t>(j));
+        // A join changes no piece's beginning, so those before i still have nothing to join; only
+        // part i itself is looked at again, one place further up if j stood before it.
         if (j < i) {
             --i;
         }
     }
 }
 
-void ShiftLeft(EngineArrays& engine) {
-    for (Integer i = 0; i < engine.PosCount; ++i) {
-        if (!TouchesAnything(engine, i)) {
-            engine.PosX[i] = EdgeToTheLeft(engine, i);
+void ShiftLooseLeft(std::vector<Placed>& layout, Single rollWidth) {
+    for (std::size_t i = 0; i < layout.size(); ++i) {
+        if (!TouchesAnything(layout, i, rollWidth)) {
+            layout[i].X = EdgeToTheLeft(layout, i);
         }
     }
 }

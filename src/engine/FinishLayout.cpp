@@ -1,38 +1,28 @@
 #include "engine/FinishLayout.h"
 
-#include "app/Numbers.h"
-#include "app/RunTimeError.h"
-#include "app/Text.h"
 #include "engine/CleanUp.h"
-#include "engine/Pieces.h"
-#include "engine/Placement.h"
+#include "engine/PieceGeometry.h"
+#include "engine/ResultLength.h"
 
-#include <limits>
+#include <algorithm>
+#include <utility>
 
 namespace tarn {
 
-void ShowResultPic(EngineArrays& engine) {
-    const Double length = static_cast<Double>(GetPCLen(engine));
-    try {
-        engine.ResultLen = CInt(3 * Int((length + 2) / 3));
-    } catch (const RunTimeError& error) {
-        throw error.WithAdvice("The fills need more than " +
-                               TrimStr(std::numeric_limits<Integer>::max()) +
-                               " inches of roll: estimate the rooms in two projects.");
+void FinishLayout(std::vector<Placed> layout, const SearchJob& job, SearchResult& result) {
+    CheckLayout(layout, job.RollWidth);
+    JoinParts(layout);
+    ShiftLooseLeft(layout, job.RollWidth);
+    result.Length = ResultLength(layout);
+    if (job.Direction == Lay::Cross) {
+        for (Placed& placed : layout) {
+            placed.Part = Transposed(placed.Part);
+        }
     }
-}
-
-void FinishLayout(EngineArrays& engine, Double dimScale) {
-    QuickSortPCOrder(engine, 0, engine.PieceCount);
-    CheckFill(engine);
-    CombinePiece(engine, dimScale);
-    ShiftLeft(engine);
-    ShowResultPic(engine);
-    if (engine.LayDir == 1) {
-        SwitchXY(engine);
-    }
-    QuickSortOrgpc(engine, 0, engine.PieceCount);
-    SwitchXY2(engine);
+    std::stable_sort(layout.begin(), layout.end(), [](const Placed& a, const Placed& b) {
+        return a.Part.Number < b.Part.Number;
+    });
+    result.Layout = std::move(layout);
 }
 
 } // namespace tarn

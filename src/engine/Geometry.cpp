@@ -6,30 +6,24 @@ namespace {
 
 /// The box that a segment spans, whichever way it runs.
 Box Spanned(const Segment& s) {
-    return {SingMin(s.X1, s.X2), SingMin(s.Y1, s.Y2), SingMax(s.X1, s.X2), SingMax(s.Y1, s.Y2)};
+    return {Smaller(s.X1, s.X2), Smaller(s.Y1, s.Y2), Larger(s.X1, s.X2), Larger(s.Y1, s.Y2)};
 }
 
 } // namespace
 
-bool ISLineInsect(const Segment& a, const Segment& b) {
+bool Intersect(const Segment& a, const Segment& b) {
     const Box boxA = Spanned(a);
     const Box boxB = Spanned(b);
     return boxA.X2 > boxB.X1 && boxA.X1 < boxB.X2 && boxA.Y2 > boxB.Y1 && boxA.Y1 < boxB.Y2;
 }
 
-bool ISLineInsect2(const Segment& a, const Segment& b) {
-    const Box boxA = Spanned(a);
-    const Box boxB = Spanned(b);
-    return boxA.X2 >= boxB.X1 && boxA.X1 <= boxB.X2 && boxA.Y2 >= boxB.Y1 && boxA.Y1 <= boxB.Y2;
-}
-
-bool ISLinePass(const Segment& segment, const Box& box) {
+bool Crosses(const Segment& segment, const Box& box) {
     const Segment top{box.X1, box.Y1, box.X2, box.Y1};
     const Segment right{box.X2, box.Y1, box.X2, box.Y2};
     const Segment bottom{box.X1, box.Y2, box.X2, box.Y2};
     const Segment left{box.X1, box.Y1, box.X1, box.Y2};
-    if (ISLineInsect(segment, top) || ISLineInsect(segment, right) ||
-        ISLineInsect(segment, bottom) || ISLineInsect(segment, left)) {
+    if (Intersect(segment, top) || Intersect(segment, right) || Intersect(segment, bottom) ||
+        Intersect(segment, left)) {
         return true;
     }
     const bool spansAcross =
@@ -37,11 +31,6 @@ bool ISLinePass(const Segment& segment, const Box& box) {
     const bool spansAlong =
         segment.Y1 == box.Y1 && segment.Y2 == box.Y2 && box.X1 < segment.X1 && segment.X1 < box.X2;
     return spansAcross || spansAlong;
-}
-
-bool ISInsect(const Box& a, const Box& b) {
-    return ISLinePass({a.X1, a.Y1, a.X2, a.Y1}, b) || ISLinePass({a.X1, a.Y1, a.X1, a.Y2}, b) ||
-           ISLinePass({a.X2, a.Y1, a.X2, a.Y2}, b) || ISLinePass({a.X1, a.Y2, a.X2, a.Y2}, b);
 }
 
 } // namespace tarn

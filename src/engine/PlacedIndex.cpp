@@ -35,8 +35,8 @@ void PlacedIndex::Clear() {
 }
 
 void PlacedIndex::Add(const Box& piece) {
-    const std::size_t first = BandOf(SingMin(piece.Y1, piece.Y2));
-    const std::size_t last = BandOf(SingMax(piece.Y1, piece.Y2));
+    const std::size_t first = BandOf(Smaller(piece.Y1, piece.Y2));
+    const std::size_t last = BandOf(Larger(piece.Y1, piece.Y2));
     if (last >= bands_.size()) {
         bands_.resize(last + 1);
     }
@@ -46,7 +46,7 @@ void PlacedIndex::Add(const Box& piece) {
     }
 }
 
-std::optional<Box> PlacedIndex::PCOverLap(const Box& piece) const {
+std::optional<Box> PlacedIndex::FindOverlap(const Box& piece) const {
     const std::size_t end = std::min(BandOf(piece.Y2) + 1, used_);
     for (std::size_t band = BandOf(piece.Y1); band < end; ++band) {
         for (const Box& placed : bands_[band]) {
@@ -58,15 +58,15 @@ std::optional<Box> PlacedIndex::PCOverLap(const Box& piece) const {
     return std::nullopt;
 }
 
-bool PlacedIndex::IsAnyRightSide(Single x, Single y, Single usableWidth) const {
+bool PlacedIndex::IsAnyToTheRight(Single x, Single y, Single usableWidth) const {
     const Segment row{x, y, usableWidth, y};
     const Band& near = At(y);
     return std::any_of(near.begin(), near.end(), [&](const Box& placed) {
-        return ISLinePass(row, placed) || (placed.Y1 == y && placed.X1 > x);
+        return Crosses(row, placed) || (placed.Y1 == y && placed.X1 > x);
     });
 }
 
-Single PlacedIndex::scanleftnew(Single px, Single py) const {
+Single PlacedIndex::NearestEdgeToTheLeft(Single px, Single py) const {
     Single limit = 0;
     for (const Box& placed : At(py)) {
         if (placed.X2 >= limit && placed.X2 <= px && placed.Y1 <= py && py < placed.Y2) {
@@ -76,7 +76,7 @@ Single PlacedIndex::scanleftnew(Single px, Single py) const {
     return limit;
 }
 
-Single PlacedIndex::scanupnew(Single px, Single py) const {
+Single PlacedIndex::NearestEndUpTheRoll(Single px, Single py) const {
     Single limit = 0;
     for (std::size_t band = std::min(BandOf(py) + 1, used_); band > 0; --band) {
         for (const Box& placed : bands_[band - 1]) {

@@ -20,21 +20,21 @@ class PlacedIndex {
 
     /// A placed piece that `piece` would overlap (see Overlaps), if there is one. Pieces that touch
     /// do not overlap.
-    std::optional<Box> PCOverLap(const Box& piece) const;
+    std::optional<Box> FindOverlap(const Box& piece) const;
 
     /// Whether a placed piece stands to the right of a corner at (x, y): its rectangle meets the
-    /// row from the corner to the usable edge (see ISLinePass), or it starts on the very same row
+    /// row from the corner to the usable edge (see Crosses), or it starts on the very same row
     /// further right.
-    bool IsAnyRightSide(Single x, Single y, Single usableWidth) const;
+    bool IsAnyToTheRight(Single x, Single y, Single usableWidth) const;
 
     /// Where a point that moves left from (px, py) is stopped: the rightmost right edge, not right
     /// of px, of a placed piece that covers the row py; the roll's left edge, 0, without one. A
     /// piece that ends exactly at py does not cover it.
-    Single scanleftnew(Single px, Single py) const;
+    Single NearestEdgeToTheLeft(Single px, Single py) const;
 
     /// Where a point that moves up the roll from (px, py) is stopped: the furthest end, not beyond
     /// py, of a placed piece that covers the column px; the roll's start, 0, without one.
-    Single scanupnew(Single px, Single py) const;
+    Single NearestEndUpTheRoll(Single px, Single py) const;
 
   private:
     using Band = std::vector<Box>;

@@ -1,12 +1,11 @@
 #pragma once
 
-#include "app/Types.h"
+#include "base/Types.h"
 
 namespace tarn {
 
-/// What a search tells its caller while it runs: Started, Scored after each placement, Ended, and
-/// then, if it was neither stopped nor failed, Finished. The default does nothing and never stops.
-/// Nothing it calls may touch the engine's arrays before Finished.
+/// What a search tells its caller while it runs: Started, Scored after each placement, and Ended.
+/// The default does nothing and never stops.
 class SearchObserver {
   public:
     virtual ~SearchObserver() = default;
@@ -17,8 +16,6 @@ class SearchObserver {
     virtual bool Scored([[maybe_unused]] Long done) { return true; }
     /// The search is over, in whatever way, also by an error, and also before it could start.
     virtual void Ended() noexcept {}
-    /// The layout is final and back in the caller's orientation: draw it. May raise.
-    virtual void Finished() {}
 };
 
 } // namespace tarn

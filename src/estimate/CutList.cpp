@@ -1,13 +1,13 @@
 #include "estimate/CutList.h"
 
-#include "app/Format.h"
-#include "app/Lengths.h"
-#include "app/Numbers.h"
-#include "app/Text.h"
-#include "engine/Placement.h"
-#include "estimate/MatchPattern.h"
+#include "base/Format.h"
+#include "base/Lengths.h"
+#include "base/Numbers.h"
+#include "base/Text.h"
+#include "engine/ResultLength.h"
+#include "estimate/FillLabels.h"
 #include "estimate/Totals.h"
-#include "rooms/Coverings.h"
+#include "project/Coverings.h"
 
 namespace tarn {
 
@@ -15,174 +15,151 @@ namespace {
 
 using Lines = std::vector<std::string>;
 
-constexpr std::string_view TotalPattern = "#,##0.00";
-constexpr std::string_view BasePattern = "###0.00";
-
-/// An extent in coordinate units as inches.
-Double Inches(Single from, Single to, Double dimScale) {
-    return static_cast<Double>(to - from) * dimScale;
-}
+constexpr std::string_view TotalFormat = "#,##0.00";
+constexpr std::string_view BaseFormat = "###0.00";
 
 /// A length of roll in inches as totals show it.
-std::string TotalText(Double inches, bool metric) {
-    return WholeLengthText(metric ? RoundedCentimetres(inches) : WholeInches(inches), metric);
+std::string TotalText(Double inches, Units units) {
+    return WholeLengthText(
+        units == Units::Metric ? RoundedCentimetres(inches) : WholeInches(inches), units);
 }
 
-class CutList {
-  public:
-    CutList(const SharedState& state, const EngineArrays& engine, const CarpetEstimate& estimate)
-        : state_(state)
-        , engine_(engine)
-        , estimate_(estimate)
-        , metric_(state.IsMetric()) {}
+/// The size of a cut or piece from its edges in coordinate units.
+template <typename Edges>
+std::string SizeOfEdges(const Estimate& estimate, const Edges& edges) {
+    const Double scale = estimate.Job.Scale;
+    const Double x = static_cast<Double>(edges.X2 - edges.X1) * scale;
+    const Double y = static_cast<Double>(edges.Y2 - edges.Y1) * scale;
+    return estimate.Request.Direction == Lay::Cross ? SizeText(y, x, estimate.Request.In)
+                                                    : SizeText(x, y, estimate.Request.In);
+}
 
-    Lines Build() {
-        lines_.push_back(CarpetHeading(state_, engine_, estimate_));
+class ListWriter {
+  public:
+    explicit ListWriter(const Estimate& estimate)
+        : estimate_(estimate)
+        , units_(estimate.Request.In)
+        , metric_(units_ == Units::Metric) {}
+
+    Lines Write() {
+        lines_.push_back(CarpetHeading(estimate_.Request));
         AddCuts();
         AddPieces();
-        const RollTotals totals = TotalRoll(state_, engine_);
+        const RollTotals totals = TotalRoll(estimate_);
         AddCounts(totals);
-        AddRoll(totals);
-        if (estimate_.MatchFlag) {
-            AddMatchTotals();
+        AddRollTotals(totals);
+        if (estimate_.Request.Repeat) {
+            AddPatternTotals(TotalPattern(estimate_, *estimate_.Request.Repeat));
         }
         AddBase();
-        AddTiles();
+        for (const TileFloor& tile : estimate_.Tiles) {
+            AddTile(tile);
+        }
         return std::move(lines_);
     }
 
   private:
     void AddCuts() {
-        for (Integer i = 0; i < state_.ECutCount; ++i) {
-            lines_.push_back("Cut" + TrimStr(i + 1) + ": " + CutSizeText(state_, engine_, i));
+        Integer number = 0;
+        for (const Cut& cut : estimate_.Cuts) {
+            lines_.push_back("Cut" + TrimStr(++number) + ": " + SizeOf(estimate_, cut));
         }
     }
 
     void AddPieces() {
-        for (Integer i = 0; i < engine_.PieceCount; ++i) {
-            lines_.push_back(PieceLabel(engine_.OrgPC[i], estimate_.SavedFillCount) + ": " +
-                             PieceSizeText(state_, engine_, i));
+        for (const Placed& placed : estimate_.Fills.Layout) {
+            lines_.push_back(LabelOf(estimate_, placed.Part) + ": " +
+                             SizeOf(estimate_, placed.Part));
         }
-        if (estimate_.MatchFlag) {
-            lines_.push_back("Match Pattern: " + RepeatText(estimate_, metric_));
+        if (estimate_.Request.Repeat) {
+            lines_.push_back("Match Pattern: " + RepeatText(*estimate_.Request.Repeat, units_));
         }
     }
 
     void AddCounts(const RollTotals& totals) {
-        lines_.push_back("Total Cuts:" + TrimStr(state_.ECutCount) +
-                         "   Total Cut-Len:" + TotalText(totals.CutLength, metric_));
-        lines_.push_back("Total Fills:" + TrimStr(engine_.PieceCount) +
-                         "   Total Fill-Len:" + TotalText(engine_.ResultLen, metric_));
-        const Single end = GetPCLen(engine_);
-        if (!IsWithinTolerance(end - static_cast<Single>(engine_.ResultLen))) {
-            lines_.push_back("Fills end at:" + LengthText(static_cast<Double>(end), metric_));
+        const auto count = [](std::size_t number) { return TrimStr(static_cast<Long>(number)); };
+        const Integer reported = estimate_.Fills.Length;
+        lines_.push_back("Total Cuts:" + count(estimate_.Cuts.size()) +
+                         "   Total Cut-Len:" + TotalText(totals.CutLength, units_));
+        lines_.push_back("Total Fills:" + count(estimate_.Fills.Layout.size()) +
+                         "   Total Fill-Len:" + TotalText(reported, units_));
+        const Single end = LengthInUse(estimate_.Fills.Layout);
+        if (!IsWithinTolerance(end - static_cast<Single>(reported))) {
+            lines_.push_back("Fills end at:" + LengthText(static_cast<Double>(end), units_));
         }
         if (estimate_.Improved) {
             lines_.push_back(ImprovementText(*estimate_.Improved));
         }
     }
 
-    void AddRoll(const RollTotals& totals) {
-        lines_.push_back("Total Length:" + TotalText(totals.Length, metric_));
+    void AddRollTotals(const RollTotals& totals) {
+        lines_.push_back("Total Length:" + TotalText(totals.Length, units_));
         if (metric_) {
-            lines_.push_back("Total SQ. Meters:" + Format(totals.Size.SquareMeters, TotalPattern));
+            lines_.push_back("Total SQ. Meters:" + Format(totals.Size.SquareMeters, TotalFormat));
         } else {
-            lines_.push_back("Total SQ. Yards:" + Format(totals.Size.SquareYards, TotalPattern));
-            lines_.push_back("Total SQ. FT.:" + Format(totals.Size.SquareFeet, TotalPattern));
+            lines_.push_back("Total SQ. Yards:" + Format(totals.Size.SquareYards, TotalFormat));
+            lines_.push_back("Total SQ. FT.:" + Format(totals.Size.SquareFeet, TotalFormat));
         }
     }
 
-    void AddMatchTotals() {
-        const MatchTotals totals = TotalMatch(state_, engine_, estimate_);
+    void AddPatternTotals(const PatternTotals& totals) {
         const std::string size = metric_ ? Format(totals.Size.SquareMeters, "###0.00 SQ. Meters   ")
                                          : Format(totals.Size.SquareFeet, "###0.00 SQ. FT.   ") +
                                                Format(totals.Size.SquareYards, "###0.00 SQ. Yards");
-        lines_.push_back("Total Match Pattern Length: " + WholeLengthText(totals.Length, metric_));
+        lines_.push_back("Total Match Pattern Length: " + WholeLengthText(totals.Length, units_));
         lines_.push_back("Total Match Pattern Size: " + size);
     }
 
     void AddBase() {
-        const auto base = static_cast<Double>(TotalBase(state_));
+        const auto base = static_cast<Double>(estimate_.Base);
         lines_.push_back("Total BASE: " + (metric_ ? TrimStr(CLng(base)) + " CM"
-                                                   : Format(base / 12, BasePattern) + " FEET"));
+                                                   : Format(base / 12, BaseFormat) + " FEET"));
     }
 
-    void AddTiles() {
-        for (Integer code = FirstTileCode; code <= LastTileCode; ++code) {
-            if (HasRooms(state_, code)) {
-                lines_.push_back(TileLine(static_cast<Byte>(code)));
-            }
-        }
-    }
-
-    std::string TileLine(Byte code) const {
-        const auto area = static_cast<Double>(CarpetArea(state_, code));
-        const auto perimeter = static_cast<Double>(CarpetPerimeter(state_, code));
-        const std::string size =
-            metric_ ? Format(AreaOf(area).SquareMeters, " ##0.00") + " SQ. Meters.  "
-                    : Format(AreaOf(area).SquareFeet, " ##0.00 SQ. FT.  ");
+    void AddTile(const TileFloor& tile) {
+        const Area area = AreaOf(static_cast<Double>(tile.Area));
+        const auto perimeter = static_cast<Double>(tile.Perimeter);
+        const std::string size = metric_ ? Format(area.SquareMeters, " ##0.00") + " SQ. Meters.  "
+                                         : Format(area.SquareFeet, " ##0.00 SQ. FT.  ");
         const std::string base = metric_ ? TrimStr(RoundedCentimetres(perimeter)) + " CM"
-                                         : Format(perimeter / 12, BasePattern) + " FEET";
-        return "Tile-" + TrimStr(CoveringNumber(code)) + ": " + size + "Tile Base: " + base;
+                                         : Format(perimeter / 12, BaseFormat) + " FEET";
+        lines_.push_back("Tile-" + TrimStr(CoveringNumber(tile.Covering)) + ": " + size +
+                         "Tile Base: " + base);
     }
 
-    const SharedState& state_;
-    const EngineArrays& engine_;
-    const CarpetEstimate& estimate_;
+    const Estimate& estimate_;
+    Units units_;
     bool metric_;
     Lines lines_;
 };
 
 } // namespace
 
-std::string PieceLabel(Integer number, Integer savedFillCount) {
-    constexpr Integer Letters = 26;
-    const auto letter = [](Integer index) {
-        return std::string(1, static_cast<char>('A' + index));
-    };
-    if (savedFillCount <= Letters) {
-        return letter(number);
-    }
-    return letter(static_cast<Integer>(number / Letters)) +
-           letter(static_cast<Integer>(number % Letters));
+std::vector<std::string> CutListLines(const Estimate& estimate) {
+    return HasNothingToCut(estimate) ? Lines() : ListWriter(estimate).Write();
 }
 
-std::string SizeText(Double across, Double along, bool metric) {
-    return LengthText(across, metric) + " X " + LengthText(along, metric);
+std::array<std::string, 2> CarpetHeadingLines(const EstimateRequest& request) {
+    const auto width = static_cast<Double>(request.RollWidth);
+    return {"Carpet-" + TrimStr(request.Carpet + 1) + "  Width=" + TotalText(width, request.In),
+            request.Direction == Lay::Cross ? "CROSSLAY" : "DOWNLAY"};
 }
 
-std::string PieceSizeText(const SharedState& state, const EngineArrays& engine, Integer i) {
-    const Double x = Inches(engine.PCX1[i], engine.PCX2[i], state.DimScale);
-    const Double y = Inches(engine.PCY1[i], engine.PCY2[i], state.DimScale);
-    return engine.LayDir != 0 ? SizeText(y, x, state.IsMetric()) : SizeText(x, y, state.IsMetric());
-}
-
-std::string CutSizeText(const SharedState& state, const EngineArrays& engine, Integer i) {
-    const Double x = Inches(state.ECutX1[i], state.ECutX2[i], state.DimScale);
-    const Double y = Inches(state.ECutY1[i], state.ECutY2[i], state.DimScale);
-    return engine.LayDir != 0 ? SizeText(y, x, state.IsMetric()) : SizeText(x, y, state.IsMetric());
-}
-
-std::array<std::string, 2> CarpetHeadingLines(const SharedState& state, const EngineArrays& engine,
-                                              const CarpetEstimate& estimate) {
-    const auto width = static_cast<Double>(engine.RollWidth);
-    return {"Carpet-" + TrimStr(estimate.CarpetNo + 1) +
-                "  Width=" + TotalText(width, state.IsMetric()),
-            engine.LayDir != 0 ? "CROSSLAY" : "DOWNLAY"};
-}
-
-std::string CarpetHeading(const SharedState& state, const EngineArrays& engine,
-                          const CarpetEstimate& estimate) {
-    const auto [carpet, lay] = CarpetHeadingLines(state, engine, estimate);
+std::string CarpetHeading(const EstimateRequest& request) {
+    const auto [carpet, lay] = CarpetHeadingLines(request);
     return carpet + "  " + lay;
 }
 
-std::vector<std::string> CutListLines(const SharedState& state, const EngineArrays& engine,
-                                      const CarpetEstimate& estimate) {
-    if (state.ECutCount == 0 && engine.PieceCount == 0) {
-        return {};
-    }
-    return CutList(state, engine, estimate).Build();
+std::string SizeText(Double across, Double along, Units units) {
+    return LengthText(across, units) + " X " + LengthText(along, units);
+}
+
+std::string SizeOf(const Estimate& estimate, const Piece& piece) {
+    return SizeOfEdges(estimate, piece);
+}
+
+std::string SizeOf(const Estimate& estimate, const Cut& cut) {
+    return SizeOfEdges(estimate, cut);
 }
 
 } // namespace tarn

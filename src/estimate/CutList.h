@@ -1,8 +1,10 @@
+// The cut list: what the block beside the drawing, the text file and the totals' lines say, word
+// for word, and how sizes are written everywhere. The figures of the totals are in
+// Totals.h.
+
 #pragma once
 
-#include "app/SharedState.h"
-#include "engine/EngineArrays.h"
-#include "estimate/CarpetEstimate.h"
+#include "estimate/Estimate.h"
 
 #include <array>
 #include <string>
@@ -10,31 +12,21 @@
 
 namespace tarn {
 
-/// The letter label of piece number `number` (OrgPC): A, B, .. while fewer than 27 pieces were
-/// saved, else two letters AA .. AZ, BA ..
-std::string PieceLabel(Integer number, Integer savedFillCount);
+/// The cut list of an estimate, line by line: heading, cuts, fills, match pattern, totals, wall
+/// base, tiles. When the layout was improved, one line below the fills' total says so. Empty when
+/// there is neither a cut nor a fill. Raises "Overflow" when a length does not fit.
+std::vector<std::string> CutListLines(const Estimate& estimate);
+
+/// The carpet's number with its roll width (feet and inches, or whole centimetres), and its lay.
+std::array<std::string, 2> CarpetHeadingLines(const EstimateRequest& request);
+/// Both in one line, as the list's heading.
+std::string CarpetHeading(const EstimateRequest& request);
 
 /// A size as the cut list shows it: the extent across the roll, " X ", the extent along it (both
-/// inches), in feet and inches or, when `metric`, whole centimetres.
-std::string SizeText(Double across, Double along, bool metric);
-
-/// The size of piece or cut number `i`, from its coordinates and the lay.
-std::string PieceSizeText(const SharedState& state, const EngineArrays& engine, Integer i);
-std::string CutSizeText(const SharedState& state, const EngineArrays& engine, Integer i);
-
-/// The carpet's number with its roll width (feet and inches, or whole centimetres when metric), and
-/// its lay.
-std::array<std::string, 2> CarpetHeadingLines(const SharedState& state, const EngineArrays& engine,
-                                              const CarpetEstimate& estimate);
-/// Both in one line.
-std::string CarpetHeading(const SharedState& state, const EngineArrays& engine,
-                          const CarpetEstimate& estimate);
-
-/// The cut list, line by line: heading, cuts, pieces, match pattern, totals, wall base, tiles.
-/// When the layout was improved, one line below the fills' total says so.
-/// Empty when there is neither a cut nor a piece. Reads RoomX and RoomY for the tiles. Raises
-/// "Overflow" when a length does not fit.
-std::vector<std::string> CutListLines(const SharedState& state, const EngineArrays& engine,
-                                      const CarpetEstimate& estimate);
+/// inches), in feet and inches or whole centimetres.
+std::string SizeText(Double across, Double along, Units units);
+/// The size of one of the estimate's pieces or cuts.
+std::string SizeOf(const Estimate& estimate, const Piece& piece);
+std::string SizeOf(const Estimate& estimate, const Cut& cut);
 
 } // namespace tarn

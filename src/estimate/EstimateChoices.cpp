@@ -1,15 +1,12 @@
 #include "estimate/EstimateChoices.h"
 
-#include "app/Lengths.h"
-#include "app/Numbers.h"
-#include "app/RunTimeError.h"
-#include "app/Text.h"
-#include "estimate/MatchPattern.h"
+#include "base/Lengths.h"
+#include "base/Numbers.h"
+#include "base/RunTimeError.h"
+#include "base/Text.h"
 #include "estimate/RollWidth.h"
 #include "estimate/Totals.h"
-#include "rooms/RoomSize.h"
-
-#include <variant>
+#include "project/RoomSize.h"
 
 namespace tarn {
 
@@ -30,9 +27,9 @@ std::optional<std::size_t> FirstRefused(std::string_view first, std::string_view
 }
 
 /// The roll width, inches, or why it cannot be estimated with.
-std::variant<Single, ChoicesRefusal> WidthOf(const EstimateChoices& choices, bool metric) {
+std::variant<Single, ChoicesRefusal> WidthOf(const EstimateChoices& choices, Units units) {
     if (!choices.WidthCaption.empty()) {
-        return CaptionRollWidth(choices.WidthCaption, metric);
+        return CaptionRollWidth(choices.WidthCaption, units);
     }
     const auto refused = FirstRefused(choices.OtherFeet, choices.OtherInches, IsRefusedSizeText);
     if (!refused) {
@@ -46,10 +43,10 @@ std::variant<Single, ChoicesRefusal> WidthOf(const EstimateChoices& choices, boo
 
 } // namespace
 
-CarpetsFound FindCarpets(const SharedState& state) {
+CarpetsFound FindCarpets(const Project& project) {
     CarpetsFound found;
     for (Byte code = 0; code < FirstTileCode; ++code) {
-        const bool hasRooms = HasRooms(state, code);
+        const bool hasRooms = HasRooms(project, code);
         found.HasRooms[code] = hasRooms;
         if (hasRooms && !found.Lowest) {
             found.Lowest = code;
@@ -62,25 +59,25 @@ std::string_view RefusalMessage(const ChoicesRefusal& refusal) {
     return refusal.What == ChoicesRefusal::Kind::Width ? WrongWidthMessage : WrongMatchMessage;
 }
 
-std::optional<ChoicesRefusal> TakeChoices(EngineArrays& engine, CarpetEstimate& estimate,
-                                          const EstimateChoices& choices, bool metric) {
-    const auto width = WidthOf(choices, metric);
+std::variant<EstimateRequest, ChoicesRefusal> RequestOf(const EstimateChoices& choices,
+                                                        Units units) {
+    const auto width = WidthOf(choices, units);
     if (const auto* refusal = std::get_if<ChoicesRefusal>(&width)) {
         return *refusal;
     }
+    EstimateRequest request;
+    request.Carpet = choices.Carpet;
+    request.RollWidth = std::get<Single>(width);
+    request.Direction = choices.Direction;
+    request.In = units;
     if (choices.Match) {
         const auto refused = FirstRefused(choices.MatchWidth, choices.MatchLength, IsRefusedRepeat);
         if (refused) {
             return ChoicesRefusal{ChoicesRefusal::Kind::MatchPattern, *refused};
         }
-        SetMatchPattern(estimate, choices.MatchWidth, choices.MatchLength, metric);
-    } else {
-        estimate.MatchFlag = false;
+        request.Repeat = ReadPatternRepeat(choices.MatchWidth, choices.MatchLength);
     }
-    engine.LayDir = choices.DownLay ? 0 : 1;
-    estimate.CarpetNo = choices.Carpet.value_or(estimate.CarpetNo);
-    engine.RollWidth = std::get<Single>(width);
-    return std::nullopt;
+    return request;
 }
 
 std::string OtherWidthHint(std::string_view feet, std::string_view inches) {
@@ -88,7 +85,7 @@ std::string OtherWidthHint(std::string_view feet, std::string_view inches) {
     choices.OtherFeet = feet;
     choices.OtherInches = inches;
     try {
-        const auto reading = WidthOf(choices, true);
+        const auto reading = WidthOf(choices, Units::Metric);
         const auto* width = std::get_if<Single>(&reading);
         return width != nullptr
                    ? "= " + TrimStr(RoundedCentimetres(static_cast<Double>(*width))) + " CM"

@@ -1,34 +1,38 @@
+// From the choices for an estimate, as they stand on the choice panel in texts, to a request; and
+// what there is to choose from.
+
 #pragma once
 
-#include "app/SharedState.h"
-#include "engine/EngineArrays.h"
-#include "estimate/CarpetEstimate.h"
+#include "estimate/EstimateRequest.h"
+#include "project/Coverings.h"
+#include "project/Project.h"
 
 #include <array>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <variant>
 
 namespace tarn {
 
-/// The carpets of the open project.
+/// The carpets of a project.
 struct CarpetsFound {
     std::array<bool, FirstTileCode> HasRooms{}; ///< by covering code
     std::optional<Byte> Lowest; ///< none when every room has tiles, or there is none
 };
 
-/// Which carpets have rooms among rooms 0 .. ObjNum - 1, also rooms without an area.
-CarpetsFound FindCarpets(const SharedState& state);
+/// Which carpets have rooms, also rooms without an area.
+CarpetsFound FindCarpets(const Project& project);
 
 /// What is chosen for one estimate, as it stands on the choice panel: texts as typed.
 struct EstimateChoices {
-    bool DownLay = true;
-    std::optional<Byte> Carpet; ///< covering code; none keeps the carpet in hand
-    std::string WidthCaption;   ///< of the standard width; empty for a free width
-    std::string OtherFeet;      ///< the free width: feet and inches, also in metric mode
+    Lay Direction = Lay::Down;
+    Byte Carpet = 0;          ///< covering code 0 .. 7
+    std::string WidthCaption; ///< of the standard width; empty for a free width
+    std::string OtherFeet;    ///< the free width: feet and inches, also in metric units
     std::string OtherInches;
-    bool Match = false;
-    std::string MatchWidth; ///< the pattern repeat
+    bool Match = false; ///< the carpet has a pattern repeat
+    std::string MatchWidth;
     std::string MatchLength;
 };
 
@@ -48,19 +52,17 @@ struct ChoicesRefusal {
 /// The message for the user.
 std::string_view RefusalMessage(const ChoicesRefusal& refusal);
 
-/// Take the choices over into LayDir, CarpetNo, RollWidth and the match pattern. Without a match
-/// pattern its sizes stay as they were.
+/// The request that the choices make, with the first of the options that the panel does not offer.
 ///
 /// Refused are a roll width that is the same length as 0 or less, a repeat of less than 0, and a
 /// text of a free width or of a match pattern that would be read otherwise than it looks (see
 /// IsRefusedSizeText); texts that are not in use are not looked at. Raises "Overflow" for a number
-/// that does not fit and for a width that no cut list could show. Nothing is changed in either
-/// case.
-std::optional<ChoicesRefusal> TakeChoices(EngineArrays& engine, CarpetEstimate& estimate,
-                                          const EstimateChoices& choices, bool metric);
+/// that does not fit and for a width that no cut list could show.
+std::variant<EstimateRequest, ChoicesRefusal> RequestOf(const EstimateChoices& choices,
+                                                        Units units);
 
-/// What stands below the boxes of a free width in metric mode: the width in force, "= 259 CM".
-/// Empty for a width that TakeChoices would refuse or raise for.
+/// What stands below the boxes of a free width in metric units: the width in force, "= 259 CM".
+/// Empty for a width that RequestOf would refuse or raise for.
 std::string OtherWidthHint(std::string_view feet, std::string_view inches);
 
 } // namespace tarn

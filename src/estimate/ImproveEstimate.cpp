@@ -1,26 +1,42 @@
 #include "estimate/ImproveEstimate.h"
 
+#include "estimate/MinCuts.h"
+
 #include <algorithm>
 
 namespace tarn {
 
-ImproveResult ImproveEstimate(const SharedState& state, EngineArrays& engine,
-                              CarpetEstimate& estimate, const ImproveLimits& limits,
-                              ImproveObserver& observer) {
-    ImproveResult result = ImproveEngine(state, engine, limits, observer);
-    if (!result.Improved && !estimate.Improved) {
-        return result;
-    }
-    if (!estimate.Improved) {
-        estimate.Improved =
-            Improvement{static_cast<Double>(result.StartLength), 0, 0, result.StartPieces, 0};
-    }
-    Improvement& record = *estimate.Improved;
+namespace {
+
+/// Take over what an improvement found into the record of all of them.
+void KeepRecord(Improvement& record, ImproveResult& result) {
     record.Length = static_cast<Double>(result.Length);
     record.Pieces = result.Pieces;
     record.Bound = std::min(std::max(record.Bound, result.Bound), record.Length);
     result.Bound = record.Bound;
-    return result;
+}
+
+} // namespace
+
+ImprovedEstimate ImproveEstimate(const Estimate& estimate, const ImproveLimits& limits,
+                                 ImproveObserver& observer) {
+    const EstimateRequest& request = estimate.Request;
+    const ImproveRules rules{request.In, MinCutOfCaption(request.ShortestPart, request.In)};
+    ImprovedEstimate improved{estimate,
+                              ImproveFills(estimate.Job, estimate.Fills, rules, limits, observer)};
+    ImproveResult& result = improved.Result;
+    std::optional<Improvement>& record = improved.Value.Improved;
+    if (result.Improved) {
+        improved.Value.Fills = result.Fills;
+        if (!record) {
+            record =
+                Improvement{static_cast<Double>(result.StartLength), 0, 0, result.StartPieces, 0};
+        }
+    }
+    if (record) {
+        KeepRecord(*record, result);
+    }
+    return improved;
 }
 
 } // namespace tarn

@@ -1,18 +1,22 @@
 #pragma once
 
-#include "app/SharedState.h"
-#include "engine/EngineArrays.h"
-#include "engine/improve/ImproveEngine.h"
-#include "estimate/CarpetEstimate.h"
+#include "estimate/Estimate.h"
+#include "improve/ImproveFills.h"
 
 namespace tarn {
 
-/// Improve the layout of an estimate that is done (see ImproveEngine) and keep the record of it in
-/// the estimate: what was gained counts from the layout that the estimate began with, over several
-/// improvements, and the best bound of all is kept and handed back. Raises as ImproveEngine; the
-/// estimate is then as it was.
-ImproveResult ImproveEstimate(const SharedState& state, EngineArrays& engine,
-                              CarpetEstimate& estimate, const ImproveLimits& limits,
-                              ImproveObserver& observer);
+/// An estimate after an improving search, and how that went.
+struct ImprovedEstimate {
+    Estimate Value;
+    ImproveResult Result;
+};
+
+/// Look for a better layout of an estimate's fills (see ImproveFills), in parts no shorter than the
+/// request's minimum cut. The estimate that is handed back holds the best layout and the record of
+/// it: what was gained counts from the layout that the estimate began with, over several
+/// improvements, and the best bound of all is kept and handed back. It equals the one given when
+/// nothing better was ever found. Raises as ImproveFills.
+ImprovedEstimate ImproveEstimate(const Estimate& estimate, const ImproveLimits& limits,
+                                 ImproveObserver& observer);
 
 } // namespace tarn

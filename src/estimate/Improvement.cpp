@@ -1,9 +1,9 @@
 #include "estimate/Improvement.h"
 
-#include "app/Format.h"
-#include "app/Lengths.h"
-#include "app/Numbers.h"
-#include "app/Text.h"
+#include "base/Format.h"
+#include "base/Lengths.h"
+#include "base/Numbers.h"
+#include "base/Text.h"
 
 namespace tarn {
 

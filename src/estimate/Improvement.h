@@ -1,7 +1,9 @@
+// How an improvement of the layout is recorded and worded.
+
 #pragma once
 
-#include "app/Types.h"
-#include "engine/improve/ImproveEngine.h"
+#include "base/Types.h"
+#include "improve/ImproveFills.h"
 
 #include <string>
 

@@ -1,7 +1,8 @@
 #include "estimate/LayoutDrawing.h"
 
-#include "app/RunTimeError.h"
+#include "base/RunTimeError.h"
 #include "estimate/CutList.h"
+#include "estimate/FillLabels.h"
 
 #include <algorithm>
 
@@ -25,106 +26,109 @@ constexpr Double PieceSizeMargin = 40; ///< kept free at both sides of a size te
 constexpr const char* TooShortAdvice =
     "The fills are shorter than 1 inch: check the sizes of this carpet's rooms.";
 
-/// Brings a picture's font size and colour back.
+/// Brings a drawing's font size and colour back.
 class KeepPen {
   public:
-    explicit KeepPen(Picture& picture)
-        : picture_(picture)
-        , size_(picture.FontSize)
-        , color_(picture.ForeColor) {}
+    explicit KeepPen(Drawing& drawing)
+        : drawing_(drawing)
+        , size_(drawing.FontSize)
+        , color_(drawing.Color) {}
     ~KeepPen() {
-        picture_.FontSize = size_;
-        picture_.ForeColor = color_;
+        drawing_.FontSize = size_;
+        drawing_.Color = color_;
     }
     KeepPen(const KeepPen&) = delete;
     KeepPen& operator=(const KeepPen&) = delete;
 
   private:
-    Picture& picture_;
+    Drawing& drawing_;
     Double size_;
-    QBColor color_;
+    DrawingColor color_;
 };
 
 /// Twips per inch of roll: the larger of the two scales, so that neither side falls below its
 /// least.
-Double Scale(const EngineArrays& engine) {
-    if (engine.ResultLen == 0) {
+Double TwipsPerRollInch(const Estimate& estimate) {
+    if (estimate.Fills.Length == 0) {
         RaiseDivisionByZero(TooShortAdvice);
     }
-    if (engine.RollWidth == 0) {
+    if (estimate.Request.RollWidth == 0) {
         RaiseDivisionByZero();
     }
-    return std::max(LeastAcross / static_cast<Double>(engine.RollWidth),
-                    LeastAlong / engine.ResultLen);
+    return std::max(LeastAcross / static_cast<Double>(estimate.Request.RollWidth),
+                    LeastAlong / estimate.Fills.Length);
 }
 
-void PrintPieceSize(Picture& picture, const std::string& size, Double centreX, Double bottom,
+void WritePieceSize(Drawing& drawing, const std::string& size, Double centreX, Double bottom,
                     Double width) {
-    picture.FontSize = PieceSizeSize;
-    const Double textWidth = picture.TextWidth(size);
-    if (textWidth + 2 * PieceSizeMargin <= width &&
-        picture.CurrentY + picture.LineHeight() <= bottom) {
-        picture.CurrentX = centreX - textWidth / 2;
-        picture.Print(size);
+    drawing.FontSize = PieceSizeSize;
+    const Double textWidth = drawing.TextWidth(size);
+    if (textWidth + 2 * PieceSizeMargin <= width && drawing.PenY + drawing.LineHeight() <= bottom) {
+        drawing.PenX = centreX - textWidth / 2;
+        drawing.WriteLine(size);
     }
 }
 
-void DrawPiece(Picture& picture, const SharedState& state, const EngineArrays& engine,
-               const CarpetEstimate& estimate, Integer i, PieceSizes sizes) {
-    const Double scale = Scale(engine);
-    const auto x = static_cast<Double>(engine.PosX[i]);
-    const auto y = static_cast<Double>(engine.PosY[i]);
-    const auto w = static_cast<Double>(engine.PosW[i]);
-    const auto l = static_cast<Double>(engine.PosL[i]);
-    const std::string label = PieceLabel(engine.OrgPC[i], estimate.SavedFillCount);
-    const std::string size = PieceSizeText(state, engine, i);
+void DrawPiece(Drawing& drawing, const Estimate& estimate, const Placed& placed, Double scale,
+               PieceSizes sizes) {
+    const auto x = static_cast<Double>(placed.X);
+    const auto y = static_cast<Double>(placed.Y);
+    const auto w = static_cast<Double>(placed.Width);
+    const auto l = static_cast<Double>(placed.Length);
+    const std::string label = LabelOf(estimate, placed.Part);
+    const std::string size = SizeOf(estimate, placed.Part);
     const Double bottom = RollTop + (y + l) * scale;
     const Double centreX = RollLeft + (x + w / 2) * scale;
 
-    picture.Line(RollLeft + x * scale, RollTop + y * scale, RollLeft + (x + w) * scale, bottom,
-                 QBColor::Red, label + ": " + size);
-    const KeepPen pen(picture);
-    picture.ForeColor = QBColor::Black;
-    picture.CurrentX = centreX - LabelOffset;
-    picture.CurrentY = RollTop - LabelOffset + (y + l / 2) * scale;
-    picture.Print(label);
+    drawing.AddBox(RollLeft + x * scale, RollTop + y * scale, RollLeft + (x + w) * scale, bottom,
+                   DrawingColor::Red, label + ": " + size);
+    const KeepPen pen(drawing);
+    drawing.Color = DrawingColor::Black;
+    drawing.PenX = centreX - LabelOffset;
+    drawing.PenY = RollTop - LabelOffset + (y + l / 2) * scale;
+    drawing.WriteLine(label);
     if (sizes == PieceSizes::Shown) {
-        PrintPieceSize(picture, size, centreX, bottom, w * scale);
+        WritePieceSize(drawing, size, centreX, bottom, w * scale);
     }
 }
 
 } // namespace
 
-void RedrawPC(Picture& picture, const SharedState& state, const EngineArrays& engine,
-              const CarpetEstimate& estimate, PieceSizes sizes) {
-    picture.Cls();
-    if (engine.PieceCount == 0) {
-        const KeepPen pen(picture);
-        picture.CurrentX = RollLeft;
-        picture.CurrentY = NoticeTop;
-        picture.FontSize = NoticeSize;
-        picture.ForeColor = QBColor::Red;
-        picture.Print("NO FILLS TO DISPLAY");
-    } else {
-        for (Integer i = 0; i < engine.PieceCount; ++i) {
-            DrawPiece(picture, state, engine, estimate, i, sizes);
-        }
-        const Double scale = Scale(engine);
-        picture.Line(RollLeft, RollTop, RollLeft + static_cast<Double>(engine.RollWidth) * scale,
-                     RollTop + engine.ResultLen * scale, QBColor::Black);
+void DrawLayout(Drawing& drawing, const Estimate& estimate, PieceSizes sizes) {
+    if (estimate.Fills.Layout.empty()) {
+        DrawNoFills(drawing);
+        return;
     }
-    picture.Visible = true;
+    drawing.Clear();
+    const Double scale = TwipsPerRollInch(estimate);
+    for (const Placed& placed : estimate.Fills.Layout) {
+        DrawPiece(drawing, estimate, placed, scale, sizes);
+    }
+    drawing.AddBox(RollLeft, RollTop,
+                   RollLeft + static_cast<Double>(estimate.Request.RollWidth) * scale,
+                   RollTop + estimate.Fills.Length * scale, DrawingColor::Black);
+    drawing.Visible = true;
 }
 
-void ShowECutsInfo(Picture& picture, const SharedState& state, const EngineArrays& engine,
-                   const CarpetEstimate& estimate, Double x, Double y) {
-    const KeepPen pen(picture);
-    picture.FontSize = BlockSize;
-    picture.ForeColor = QBColor::Black;
-    picture.CurrentY = y;
-    for (const std::string& line : CutListLines(state, engine, estimate)) {
-        picture.CurrentX = x;
-        picture.Print(line);
+void DrawNoFills(Drawing& drawing) {
+    drawing.Clear();
+    const KeepPen pen(drawing);
+    drawing.PenX = RollLeft;
+    drawing.PenY = NoticeTop;
+    drawing.FontSize = NoticeSize;
+    drawing.Color = DrawingColor::Red;
+    drawing.WriteLine("NO FILLS TO DISPLAY");
+    drawing.Visible = true;
+}
+
+void DrawCutList(Drawing& drawing, const Estimate& estimate, Double x, Double y) {
+    const KeepPen pen(drawing);
+    drawing.FontSize = BlockSize;
+    drawing.Color = DrawingColor::Black;
+    drawing.PenY = y;
+    for (const std::string& line : CutListLines(estimate)) {
+        drawing.PenX = x;
+        drawing.WriteLine(line);
     }
 }
 

@@ -1,10 +1,10 @@
 #include "estimate/RollWidth.h"
 
-#include "app/Lengths.h"
-#include "app/Numbers.h"
-#include "app/RunTimeError.h"
-#include "app/Text.h"
-#include "estimate/TakeNumber.h"
+#include "base/Lengths.h"
+#include "base/Numbers.h"
+#include "base/RunTimeError.h"
+#include "base/TakeNumber.h"
+#include "base/Text.h"
 
 #include <optional>
 #include <stdexcept>
@@ -52,13 +52,13 @@ std::optional<Single> WidthOf(std::string_view text) {
 
 } // namespace
 
-const std::array<std::string_view, 4>& WidthCaptions(bool metric) {
-    return metric ? MetricWidthCaptions : ImperialWidthCaptions;
+const std::array<std::string_view, 4>& WidthCaptions(Units units) {
+    return units == Units::Metric ? MetricWidthCaptions : ImperialWidthCaptions;
 }
 
-Single CaptionRollWidth(std::string_view caption, bool metric) {
+Single CaptionRollWidth(std::string_view caption, Units units) {
     const Double number = Val(caption.substr(CaptionNumberAt));
-    return metric ? FromCentimetres(number) : CSng(number * InchesPerFoot);
+    return units == Units::Metric ? FromCentimetres(number) : CSng(number * InchesPerFoot);
 }
 
 Single OtherRollWidth(std::string_view feet, std::string_view inches) {

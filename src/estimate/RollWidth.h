@@ -1,6 +1,10 @@
+// Roll widths: the standard ones of the choice panel, a free one in feet and inches, and one as the
+// command line takes it.
+
 #pragma once
 
-#include "app/Types.h"
+#include "base/Types.h"
+#include "base/Units.h"
 
 #include <array>
 #include <string>
@@ -17,13 +21,13 @@ inline constexpr std::array<std::string_view, 4> MetricWidthCaptions{
 inline constexpr std::size_t DefaultWidth = 1;
 
 /// The captions in the unit in force.
-const std::array<std::string_view, 4>& WidthCaptions(bool metric);
+const std::array<std::string_view, 4>& WidthCaptions(Units units);
 
 /// The roll width, in inches, that a caption names: the number behind "CARPET WIDTH", in feet, or
-/// in centimetres when metric.
-Single CaptionRollWidth(std::string_view caption, bool metric);
+/// in centimetres in metric units.
+Single CaptionRollWidth(std::string_view caption, Units units);
 
-/// The roll width, in inches, of a free width typed as feet and inches; also in metric mode.
+/// The roll width, in inches, of a free width typed as feet and inches; also in metric units.
 Single OtherRollWidth(std::string_view feet, std::string_view inches);
 
 /// Whether a roll of that width, inches, can be estimated with: it is more than 0 and not the same

@@ -1,26 +1,26 @@
 #include "estimate/Totals.h"
 
-#include "app/Lengths.h"
-#include "app/Numbers.h"
-#include "rooms/WallBase.h"
+#include "base/Lengths.h"
+#include "base/Numbers.h"
+#include "project/Coverings.h"
+#include "project/RoomExtents.h"
+#include "project/WallBase.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace tarn {
 
 namespace {
 
-Single Extent(const BoundedTable<Single>& corners, Integer room) {
-    return corners(room, 1) - corners(room, 0);
-}
-
-/// The sum over the rooms with covering `code`, accumulated in Single.
-template <typename OfRoom>
-Single SumOverRooms(const SharedState& state, Byte code, OfRoom ofRoom) {
+/// The sum over the rooms with covering `code`, accumulated in Single. Coordinate units.
+template <typename OfExtent>
+Single SumOverRooms(const Project& project, Byte code, Units units, OfExtent ofExtent) {
     Single sum = 0;
-    for (Integer room = 0; room < state.ObjNum; ++room) {
-        if (state.RoomCarpet[room] == code) {
-            sum = CSng(static_cast<Double>(sum + ofRoom(room)));
+    for (const Room& room : project.Rooms) {
+        if (room.Covering == code) {
+            const RoomExtent extent = ExtentOf(room, units, project.Scale);
+            sum = CSng(static_cast<Double>(sum + ofExtent(extent)));
         }
     }
     return sum;
@@ -28,50 +28,55 @@ Single SumOverRooms(const SharedState& state, Byte code, OfRoom ofRoom) {
 
 } // namespace
 
-bool HasRooms(const SharedState& state, Integer code) {
-    for (Integer room = 0; room < state.ObjNum; ++room) {
-        if (state.RoomCarpet[room] == code) {
-            return true;
-        }
-    }
-    return false;
+bool HasRooms(const Project& project, Byte code) {
+    return std::any_of(project.Rooms.begin(), project.Rooms.end(),
+                       [&](const Room& room) { return room.Covering == code; });
 }
 
-Single TotalBase(const SharedState& state) {
+Single TotalBase(const Project& project) {
     Single sum = 0;
-    for (Integer room = 0; room < state.ObjNum; ++room) {
-        const Byte code = state.RoomBase[room];
-        const Long base =
-            BaseWidths(code) * state.RoomWidth[room] + BaseLengths(code) * state.RoomLength[room];
+    for (const Room& room : project.Rooms) {
+        const Long base = BaseWidths(room.Base) * room.Width + BaseLengths(room.Base) * room.Length;
         sum += static_cast<Single>(base);
     }
     return sum;
 }
 
-Single CutExtentAlong(const SharedState& state, Integer layDir, Integer i) {
-    return layDir != 0 ? state.ECutX2[i] - state.ECutX1[i] : state.ECutY2[i] - state.ECutY1[i];
+Single CoveringArea(const Project& project, Byte code, Units units) {
+    const Single sum = SumOverRooms(project, code, units, [](const RoomExtent& extent) {
+        return std::abs(extent.X * extent.Y);
+    });
+    return CSng(static_cast<Double>(sum) * project.Scale * project.Scale);
 }
 
-Single TotalCutLength(const SharedState& state, Integer layDir) {
-    Single sum = 0;
-    for (Integer i = 0; i < state.ECutCount; ++i) {
-        sum = CSng(static_cast<Double>(sum + CutExtentAlong(state, layDir, i)));
+Single CoveringPerimeter(const Project& project, Byte code, Units units) {
+    const Single sum = SumOverRooms(project, code, units, [](const RoomExtent& extent) {
+        return std::abs(2 * extent.X) + std::abs(2 * extent.Y);
+    });
+    return CSng(static_cast<Double>(sum) * project.Scale);
+}
+
+std::vector<TileFloor> TileFloors(const Project& project, Units units) {
+    std::vector<TileFloor> floors;
+    for (Byte code = FirstTileCode; code <= LastTileCode; ++code) {
+        if (HasRooms(project, code)) {
+            floors.push_back({code, CoveringArea(project, code, units),
+                              CoveringPerimeter(project, code, units)});
+        }
     }
-    return CSng(static_cast<Double>(sum) * state.DimScale);
+    return floors;
 }
 
-Single CarpetArea(const SharedState& state, Byte code) {
-    const Single units = SumOverRooms(state, code, [&](Integer room) {
-        return std::abs(Extent(state.RoomX, room) * Extent(state.RoomY, room));
-    });
-    return CSng(static_cast<Double>(units) * state.DimScale * state.DimScale);
+Single ExtentAlong(const Cut& cut, Lay lay) {
+    return lay == Lay::Cross ? cut.X2 - cut.X1 : cut.Y2 - cut.Y1;
 }
 
-Single CarpetPerimeter(const SharedState& state, Byte code) {
-    const Single units = SumOverRooms(state, code, [&](Integer room) {
-        return std::abs(2 * Extent(state.RoomX, room)) + std::abs(2 * Extent(state.RoomY, room));
-    });
-    return CSng(static_cast<Double>(units) * state.DimScale);
+Single TotalCutLength(const Estimate& estimate) {
+    Single sum = 0;
+    for (const Cut& cut : estimate.Cuts) {
+        sum = CSng(static_cast<Double>(sum + ExtentAlong(cut, estimate.Request.Direction)));
+    }
+    return CSng(static_cast<Double>(sum) * estimate.Job.Scale);
 }
 
 Area AreaOf(Double squareInches) {
@@ -79,11 +84,30 @@ Area AreaOf(Double squareInches) {
             squareInches * CentimetresPerInch * CentimetresPerInch / 10000};
 }
 
-RollTotals TotalRoll(const SharedState& state, const EngineArrays& engine) {
+RollTotals TotalRoll(const Estimate& estimate) {
     RollTotals totals;
-    totals.CutLength = static_cast<Double>(TotalCutLength(state, engine.LayDir));
-    totals.Length = totals.CutLength + engine.ResultLen;
-    totals.Size = AreaOf(static_cast<Double>(engine.RollWidth) * totals.Length);
+    totals.CutLength = static_cast<Double>(TotalCutLength(estimate));
+    totals.Length = totals.CutLength + estimate.Fills.Length;
+    totals.Size = AreaOf(static_cast<Double>(estimate.Request.RollWidth) * totals.Length);
+    return totals;
+}
+
+PatternTotals TotalPattern(const Estimate& estimate, const PatternRepeat& repeat) {
+    const bool metric = estimate.Request.In == Units::Metric;
+    const auto raised = [&](Double inches) {
+        return RaisedToRepeat(metric ? WholeCentimetres(inches) : WholeInches(inches),
+                              repeat.Along);
+    };
+    long long length = raised(estimate.Fills.Length);
+    for (const Cut& cut : estimate.Cuts) {
+        const Single units = ExtentAlong(cut, estimate.Request.Direction);
+        length += raised(static_cast<Double>(units) * estimate.Job.Scale);
+    }
+
+    PatternTotals totals;
+    totals.Length = ToLong(length);
+    const Double inches = metric ? totals.Length / CentimetresPerInch : totals.Length;
+    totals.Size = AreaOf(static_cast<Double>(estimate.Request.RollWidth) * inches);
     return totals;
 }
 

@@ -1,28 +1,37 @@
+// The figures of an estimate's totals. How they are worded is in CutList.cpp. Sums are accumulated
+// in Single, what is computed from them is Double.
+
 #pragma once
 
-#include "app/SharedState.h"
-#include "engine/EngineArrays.h"
+#include "estimate/Estimate.h"
+#include "project/Project.h"
+
+#include <vector>
 
 namespace tarn {
 
-/// Whether any room of the open project has covering `code`.
-bool HasRooms(const SharedState& state, Integer code);
+/// Whether any room of the project has covering `code`.
+bool HasRooms(const Project& project, Byte code);
 
 /// The wall base of all rooms, of every covering, in the rooms' small unit (inches or centimetres).
 /// The plain sum: rooms are not raised to multiples as on the entered-data report.
-Single TotalBase(const SharedState& state);
+Single TotalBase(const Project& project);
 
-/// The extent of cut `i` along the roll, coordinate units.
-Single CutExtentAlong(const SharedState& state, Integer layDir, Integer i);
+/// The area of all rooms with covering `code`, square inches. Raises "Overflow" beyond a Single,
+/// and as ExtentOf.
+Single CoveringArea(const Project& project, Byte code, Units units);
 
-/// The length of all whole-width cuts along the roll, inches.
-Single TotalCutLength(const SharedState& state, Integer layDir);
+/// The perimeter of all rooms with covering `code`, inches. Raises as CoveringArea.
+Single CoveringPerimeter(const Project& project, Byte code, Units units);
 
-/// The area of all rooms with covering `code`, square inches.
-Single CarpetArea(const SharedState& state, Byte code);
+/// The floors of the tiles that have rooms, in ascending order. Raises as CoveringArea.
+std::vector<TileFloor> TileFloors(const Project& project, Units units);
 
-/// The perimeter of all rooms with covering `code`, inches.
-Single CarpetPerimeter(const SharedState& state, Byte code);
+/// The extent of a cut along the roll, coordinate units.
+Single ExtentAlong(const Cut& cut, Lay lay);
+
+/// The length of all whole-width cuts along the roll, inches. Raises "Overflow" beyond a Single.
+Single TotalCutLength(const Estimate& estimate);
 
 /// An area in the three units that totals are shown in.
 struct Area {
@@ -41,7 +50,18 @@ struct RollTotals {
     Area Size;            ///< of that length at the roll's width
 };
 
-/// Roll width times the length of the cuts and ResultLen.
-RollTotals TotalRoll(const SharedState& state, const EngineArrays& engine);
+/// Roll width times the length of the cuts and the reported length of the fills.
+RollTotals TotalRoll(const Estimate& estimate);
+
+/// The roll needed when every cut and the fills begin on a pattern repeat.
+struct PatternTotals {
+    Long Length = 0; ///< whole inches or centimetres, as the request has it
+    Area Size;       ///< of that length at the roll's width
+};
+
+/// Every cut's length along the roll and the reported length of the fills, each made whole inches
+/// (whole centimetres) as on the cut list and then raised to a multiple of the repeat along.
+/// Raises "Overflow" beyond a Long.
+PatternTotals TotalPattern(const Estimate& estimate, const PatternRepeat& repeat);
 
 } // namespace tarn

@@ -1,7 +1,7 @@
 #include "store/Connection.h"
 
-#include "app/Database.h"
-#include "app/QtText.h"
+#include "files/QtText.h"
+#include "store/DatabaseError.h"
 
 #include <QFileInfo>
 #include <QSqlDatabase>

@@ -1,3 +1,6 @@
+// The one place that talks to SQLite, through Qt Sql: statements with bound values in, rows out,
+// and each failure as an error with its cause in words.
+
 #pragma once
 
 #include <QString>

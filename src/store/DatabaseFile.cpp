@@ -1,7 +1,8 @@
 #include "store/DatabaseFile.h"
 
-#include "app/Configuration.h"
-#include "store/Connection.h"
+#include "files/DatabaseFormat.h"
+#include "store/Configuration.h"
+#include "store/DatabaseError.h"
 
 #include <QDir>
 #include <QFile>
@@ -31,18 +32,6 @@ QFileInfo FolderOf(const QFileInfo& file) {
     return QFileInfo(QFileInfo(file.canonicalFilePath()).absolutePath());
 }
 
-constexpr qint64 HeaderSize = 100;
-
-bool BeginsAsSqlite(const QByteArray& header) {
-    return header.startsWith(QByteArray("SQLite format 3\0", 16));
-}
-
-bool BeginsAsJet(const QByteArray& header) {
-    constexpr qsizetype JetNameAt = 4;
-    const QByteArray name = header.mid(JetNameAt);
-    return name.startsWith("Standard Jet DB") || name.startsWith("Standard ACE DB");
-}
-
 void RequireSqliteFile(const std::string& path, const QFileInfo& info) {
     if (!info.exists()) {
         Refuse(path, "is missing. " + CorrectThePath() +
@@ -55,15 +44,16 @@ void RequireSqliteFile(const std::string& path, const QFileInfo& info) {
     if (!file.open(QIODevice::ReadOnly)) {
         Refuse(path, "cannot be read: " + file.errorString().toStdString() + ".");
     }
-    const QByteArray header = file.read(HeaderSize);
-    if (header.isEmpty()) {
+    const QByteArray head = file.read(DatabaseHeadSize);
+    if (head.isEmpty()) {
         Refuse(path, "is empty. Put a backup in its place.");
     }
-    if (BeginsAsJet(header)) {
+    const DatabaseFormat format = DatabaseFormatOf(head);
+    if (format == DatabaseFormat::Jet) {
         Refuse(path, "is in the older Jet format, which cannot be read. Keep it, make a new data "
                      "folder with \"tarn-data create\" and enter its projects there.");
     }
-    if (!BeginsAsSqlite(header)) {
+    if (format == DatabaseFormat::None) {
         Refuse(path, "is not a database of this program. " + CorrectThePath() +
                          ", or put a backup in its place.");
     }
@@ -80,29 +70,19 @@ void RequireWritable(const std::string& path, const QFileInfo& info) {
 
 } // namespace
 
-bool IsDatabaseFile(const std::string& path) {
-    QFile file(QString::fromStdString(path));
-    // A device or a pipe must not be read from to be judged.
-    if (!QFileInfo(file).isFile() || !file.open(QIODevice::ReadOnly)) {
-        return false;
-    }
-    const QByteArray header = file.read(HeaderSize);
-    return BeginsAsSqlite(header) || BeginsAsJet(header);
-}
-
-std::shared_ptr<Connection> ConnectToFile(const std::string& path, DatabaseAccess access,
+std::unique_ptr<Connection> ConnectToFile(const std::string& path, DatabaseAccess access,
                                           int busyWait) {
     const QFileInfo info(QString::fromStdString(path));
     RequireSqliteFile(path, info);
     if (access == DatabaseAccess::ReadWrite) {
         RequireWritable(path, info);
-        return std::make_shared<Connection>(path, Connection::Access::ReadWrite, busyWait);
+        return std::make_unique<Connection>(path, Connection::Access::ReadWrite, busyWait);
     }
     if (!TakesWriting(info) || !TakesWriting(FolderOf(info))) {
-        return std::make_shared<Connection>(path, Connection::Access::ReadOnly, busyWait);
+        return std::make_unique<Connection>(path, Connection::Access::ReadOnly, busyWait);
     }
     // Able to write, so that SQLite can take back a change that a crash cut off; but refusing to.
-    auto connection = std::make_shared<Connection>(path, Connection::Access::ReadWrite, busyWait);
+    auto connection = std::make_unique<Connection>(path, Connection::Access::ReadWrite, busyWait);
     connection->Run("PRAGMA query_only = ON", "The database file " + path + " cannot be opened");
     return connection;
 }
@@ -128,6 +108,14 @@ void RequireSound(Connection& connection, const std::string& path) {
         throw DatabaseError("The database file " + path + " is damaged (" + finding.toStdString() +
                             "). Put a backup in its place.");
     }
+}
+
+std::unique_ptr<Connection> OpenDatabaseFile(const std::string& path, DatabaseAccess access,
+                                             int busyWait) {
+    auto connection = ConnectToFile(path, access, busyWait);
+    RequireSound(*connection, path);
+    connection->Run("PRAGMA synchronous = FULL", "The database file " + path + " cannot be opened");
+    return connection;
 }
 
 } // namespace tarn

@@ -1,6 +1,6 @@
 #include "store/FileInMaking.h"
 
-#include "app/Database.h"
+#include "store/DatabaseError.h"
 
 #include <QDir>
 #include <QFile>

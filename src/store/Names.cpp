@@ -1,7 +1,7 @@
 #include "store/Names.h"
 
-#include "app/QtText.h"
-#include "app/Text.h"
+#include "base/Text.h"
+#include "files/QtText.h"
 
 #include <algorithm>
 

@@ -1,3 +1,6 @@
+// The names of directories and projects: the form in which they are stored and compared, and what
+// they may hold.
+
 #pragma once
 
 #include <string>

@@ -1,9 +1,9 @@
 #include "store/ProjectNames.h"
 
-#include "app/QtText.h"
-#include "app/Text.h"
+#include "base/Text.h"
+#include "files/QtText.h"
+#include "store/Months.h"
 #include "store/Names.h"
-#include "store/Projects.h"
 
 #include <algorithm>
 
@@ -30,24 +30,11 @@ NameText Without(std::string_view text, Test isForbidden) {
 
 } // namespace
 
-std::vector<std::string> MonthNames(const SharedState& state) {
-    std::vector<std::string> names;
-    names.reserve(MonthsOfAYear);
-    for (Integer month = 0; month < MonthsOfAYear; ++month) {
-        names.push_back(state.MonthStr[month]);
-    }
-    return names;
-}
-
 NameText TypedNameText(std::string_view text) {
     NameText typed = Without(text, [](const std::string& c) {
         return c.find_first_of(ForbiddenInProjectName) != std::string::npos;
     });
-    for (char& c : typed.Text) {
-        if (c >= 'a' && c <= 'z') {
-            c = static_cast<char>(c - 'a' + 'A');
-        }
-    }
+    typed.Text = UpperCaseLetters(typed.Text);
     return typed;
 }
 
@@ -66,32 +53,29 @@ std::string FittingNameText(std::string_view text, long long length) {
     return Encoded(characters);
 }
 
-bool IsDirectoryTaken(SharedState& state, std::string_view name) {
-    const std::string stored = StoredName(name);
-    const auto months = MonthNames(state);
-    return std::any_of(months.begin(), months.end(),
-                       [&](const std::string& month) { return StoredName(month) == stored; }) ||
-           CheckDir(state, stored);
+bool IsDirectoryTaken(ProjectStore& store, std::string_view name) {
+    return std::find(MonthNames.begin(), MonthNames.end(), StoredName(name)) != MonthNames.end() ||
+           store.HasDirectory(name);
 }
 
-std::optional<std::string> DirectoryNameRefusal(SharedState& state, std::string_view name) {
+std::optional<std::string> DirectoryNameRefusal(ProjectStore& store, std::string_view name) {
     if (Len(StoredName(name)) > MaxNameLength) {
         return NameTooLongText("directory", StoredName(name));
     }
-    if (IsDirectoryTaken(state, name)) {
+    if (IsDirectoryTaken(store, name)) {
         return "There is one directory with the same name, change to other one!";
     }
     return std::nullopt;
 }
 
-std::optional<std::string> ProjectNameRefusal(SharedState& state, std::string_view name) {
+std::optional<std::string> ProjectNameRefusal(ProjectStore& store, std::string_view name) {
     if (HoldsForbiddenCharacter(StoredName(name))) {
         return std::string(ForbiddenCharactersMessage);
     }
     if (Len(StoredName(name)) > MaxNameLength) {
         return NameTooLongText("project", StoredName(name));
     }
-    if (!CheckProjName(state, name)) {
+    if (store.DirectoryOf(name)) {
         return "There is one project with the same name, change to other one!";
     }
     return std::nullopt;

@@ -1,18 +1,14 @@
+// Names as they are typed: what becomes of typing and pasting, and which names are refused.
+
 #pragma once
 
-#include "app/SharedState.h"
+#include "store/ProjectStore.h"
 
 #include <optional>
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace tarn {
-
-inline constexpr int MonthsOfAYear = 12;
-
-/// The names of MonthStr, January first. The last element of MonthStr is none.
-std::vector<std::string> MonthNames(const SharedState& state);
 
 /// Shown when something was left out of a project name, and when one is refused for a character.
 inline constexpr std::string_view ForbiddenCharactersMessage =
@@ -34,13 +30,13 @@ NameText PastedNameText(std::string_view text);
 /// As much of `text` as a name of `length` characters takes before it is full.
 std::string FittingNameText(std::string_view text, long long length);
 
-/// Whether a new directory cannot have that name: the directory exists, or it is a month of
-/// MonthStr. Raises DatabaseError.
-bool IsDirectoryTaken(SharedState& state, std::string_view name);
+/// Whether a new directory cannot have that name: the directory exists, or it is one of
+/// MonthNames. Raises DatabaseError.
+bool IsDirectoryTaken(ProjectStore& store, std::string_view name);
 
 /// Why a directory or a project cannot be renamed to `name`, in words for the user; nothing when it
 /// can. Raises DatabaseError.
-std::optional<std::string> DirectoryNameRefusal(SharedState& state, std::string_view name);
-std::optional<std::string> ProjectNameRefusal(SharedState& state, std::string_view name);
+std::optional<std::string> DirectoryNameRefusal(ProjectStore& store, std::string_view name);
+std::optional<std::string> ProjectNameRefusal(ProjectStore& store, std::string_view name);
 
 } // namespace tarn

@@ -1,6 +1,7 @@
 #include "store/Schema.h"
 
 #include "store/Connection.h"
+#include "store/DatabaseError.h"
 #include "store/DatabaseFile.h"
 #include "store/FileInMaking.h"
 

@@ -1,6 +1,8 @@
+// The tables: their names and fields, and what is done to a database file as a whole.
+
 #pragma once
 
-#include "store/SqlDatabase.h"
+#include "store/DatabaseAccess.h"
 
 #include <array>
 #include <string>

@@ -1,15 +1,13 @@
 #include "store/Sheets.h"
 
-#include "app/Numbers.h"
-#include "app/RunTimeError.h"
-#include "app/Text.h"
-#include "store/Deletions.h"
-#include "store/Failure.h"
-#include "store/Fields.h"
+#include "base/Numbers.h"
+#include "base/RunTimeError.h"
+#include "base/Text.h"
+#include "store/DatabaseError.h"
 #include "store/Names.h"
 #include "store/Schema.h"
-#include "store/SharedRows.h"
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 #include <set>
@@ -19,53 +17,11 @@ namespace tarn {
 namespace {
 
 constexpr std::string_view EnteredMetricField = "EnteredMetric";
+constexpr Integer GreatestNumber = std::numeric_limits<Integer>::max();
 
-/// Stand the rows of one sheet number on that of CurProjName: older files may have several projects
-/// under one number. On the first row when that project has none.
-void MoveToOwnRow(Recordset& sheets, const SharedState& state) {
-    const std::string own = StoredName(state.CurProjName);
-    while (!sheets.AtEnd() && StoredName(TextIn(sheets, "ProjName")) != own) {
-        sheets.MoveNext();
-    }
-    if (sheets.AtEnd()) {
-        sheets.MoveFirst();
-    }
-}
-
-/// The current row's EnteredMetric.
-bool EnteredMetricOf(const Recordset& sheet) {
-    const auto entered =
-        sheet.HasField(EnteredMetricField) ? NumberIn(sheet, EnteredMetricField) : std::nullopt;
-    return entered.value_or(NumberIn(sheet, "TileLabelNUm").value_or(0)) == 1;
-}
-
-void StoreSheet(SharedState& state, Integer tabIndex) {
-    const auto sheet = OpenedDatabase(state).OpenDynaset(SheetQuery(MainTab, tabIndex));
-    MoveToOwnRow(*sheet, state);
-    const bool wasMetric = !sheet->AtEnd() && EnteredMetricOf(*sheet);
-    sheet->MoveFirst();
-    DeleteAllRows(*sheet);
-
-    sheet->AddNew();
-    sheet->SetField("ProjName", state.CurProjName);
-    sheet->SetField("ObjNum", std::int64_t{state.ObjNum});
-    sheet->SetField("TabIndex", std::int64_t{tabIndex});
-    sheet->SetField("PicScale", std::monostate());
-    sheet->SetField("DigScale", state.DimScale);
-    sheet->SetField("TileLabelNUm", std::int64_t{state.MetricFlag});
-    sheet->SetField("MagScale", std::int64_t{1});
-    sheet->SetField("ScaleTop", std::int64_t{-500});
-    sheet->SetField("ScaleLeft", std::int64_t{-500});
-    if (sheet->HasField(EnteredMetricField)) {
-        const bool metric = state.ObjNum > 0 && (state.IsMetric() || wasMetric);
-        sheet->SetField(EnteredMetricField, std::int64_t{metric ? 1 : 0});
-    }
-    sheet->Update();
-}
-
-/// A number of the sheet row that must be there.
-Double RequiredNumber(const Recordset& sheet, std::string_view field) {
-    const auto number = NumberIn(sheet, field);
+/// A number of the sheet that must be there.
+Double RequiredNumber(const StoredRow& sheet, std::string_view field) {
+    const auto number = sheet.NumberIn(field);
     if (!number) {
         throw DatabaseError("The project's sheet has no value in its field " + std::string(field) +
                             ".");
@@ -80,113 +36,173 @@ void RequireGood(bool good, std::string_view field) {
     }
 }
 
-void LoadSheet(SharedState& state, Integer& tabIndex) {
-    const auto sheet = OpenedDatabase(state).OpenSnapshot(SheetQuery(MainTab, tabIndex));
-    MoveToOwnRow(*sheet, state);
-    if (sheet->AtEnd()) {
-        throw DatabaseError("The project's sheet, number " + TrimStr(tabIndex) + ", is missing.");
-    }
-    const Double rooms = RequiredNumber(*sheet, "ObjNum");
-    const Double number = RequiredNumber(*sheet, "TabIndex");
-    const Double scale = RequiredNumber(*sheet, "DigScale");
-    RequireGood(rooms >= 0 && rooms <= MaxRoom + 1, "ObjNum");
-    RequireGood(scale > 0 && std::isfinite(scale), "DigScale");
-    // Fields of older versions: they must be there, their values are not kept.
-    for (const char* field : {"PicScale", "MagScale", "ScaleTop", "ScaleLeft"}) {
-        sheet->Field(field);
-    }
+bool HasTable(Connection& connection, std::string_view name) {
+    const std::string table(name);
+    return !connection
+                .Run("SELECT 1 FROM sqlite_master WHERE type = 'table' AND name = ? COLLATE NOCASE",
+                     table + " cannot be read", {TextValue(name)})
+                .Rows.empty();
+}
 
-    state.ObjNum = CInt(rooms);
-    tabIndex = CInt(number);
-    state.DimScale = scale;
+void DeleteRowsUnder(Connection& connection, Integer number) {
+    for (const std::string_view table : SheetTables) {
+        if (HasTable(connection, table)) {
+            Table(connection, table).DeleteWhere("TabIndex", number);
+        }
+    }
 }
 
 } // namespace
 
-std::string SheetQuery(std::string_view table, Long tabIndex) {
-    return "Select * from " + std::string(table) + " where TabIndex=" + TrimStr(tabIndex);
+std::optional<Integer> FindSheetNumber(Connection& connection, std::string_view project) {
+    const auto sheets = Table(connection, MainTab).RowsWhere("ProjName", TextValue(project));
+    if (sheets.empty()) {
+        return std::nullopt;
+    }
+    const Double number = RequiredNumber(sheets.front(), "TabIndex");
+    if (std::abs(number) > GreatestNumber) {
+        RaiseOverflow("The sheet of the project " + std::string(project) + " has the number " +
+                      sheets.front().TextIn("TabIndex") + "; the greatest is " +
+                      TrimStr(GreatestNumber) + ".");
+    }
+    return CInt(number);
 }
 
-std::string TextQuery(std::string_view table, std::string_view field, std::string_view text) {
-    return "Select * from " + std::string(table) + " where " + std::string(field) + "=\"" +
-           std::string(text) + "\"";
-}
-
-bool SaveMainTab(SharedState& state, Integer tabIndex) {
-    return Succeeds(state, [&] { StoreSheet(state, tabIndex); });
-}
-
-bool LoadMainTab(SharedState& state, Integer& tabIndex) {
-    state.MetricFlag = 0;
-    return Succeeds(state, [&] { LoadSheet(state, tabIndex); });
-}
-
-bool WasEnteredInMetric(SharedState& state, Integer tabIndex) {
-    const auto sheet = OpenedDatabase(state).OpenSnapshot(SheetQuery(MainTab, tabIndex));
-    MoveToOwnRow(*sheet, state);
-    return !sheet->AtEnd() && EnteredMetricOf(*sheet);
-}
-
-Long NewTabIndex(SharedState& state) {
-    const auto rows =
-        OpenedDatabase(state).OpenSnapshot("Select Max(TabIndex) from " + std::string(MainTab));
-    const auto greatest = rows->AtEnd() ? std::nullopt : NumberIn(*rows, "Max(TabIndex)");
+Integer NewSheetNumber(Connection& connection) {
+    const auto greatest = Table(connection, MainTab).Greatest("TabIndex");
     if (!greatest || *greatest + 1 < 0) {
         return 0;
     }
-    if (*greatest >= std::numeric_limits<Integer>::max()) {
+    if (*greatest >= GreatestNumber) {
         RaiseOverflow("No sheet number is left: the greatest one, 32767, is in use.");
     }
     return CInt(*greatest + 1);
 }
 
-std::optional<Long> FindProjTabIndex(SharedState& state) {
-    const auto rows =
-        OpenedDatabase(state).OpenSnapshot("Select TabIndex from " + std::string(MainTab) +
-                                           " where ProjName = \"" + state.CurProjName + "\"");
-    if (rows->AtEnd()) {
-        return std::nullopt;
-    }
-    const Double number = RequiredNumber(*rows, "TabIndex");
-    if (std::abs(number) > std::numeric_limits<Integer>::max()) {
-        RaiseOverflow("The sheet of the project " + state.CurProjName + " has the number " +
-                      TextIn(*rows, "TabIndex") + "; the greatest is " +
-                      TrimStr(std::numeric_limits<Integer>::max()) + ".");
-    }
-    return CLng(number);
+SheetsUnder::SheetsUnder(Connection& connection, Integer number, std::string_view project)
+    : project_(StoredName(project))
+    , sheets_(Table(connection, MainTab).RowsWhere("TabIndex", number)) {}
+
+bool SheetsUnder::IsOwn(const StoredRow& sheet) const {
+    return StoredName(sheet.TextIn("ProjName")) == project_;
 }
 
-Long GetProjTabIndex(SharedState& state) {
-    Long number = NoSheet;
-    Succeeds(state, [&] { number = FindProjTabIndex(state).value_or(NoSheet); });
+const StoredRow* SheetsUnder::Own() const {
+    if (sheets_.empty()) {
+        return nullptr;
+    }
+    const auto own = std::find_if(sheets_.begin(), sheets_.end(),
+                                  [this](const StoredRow& sheet) { return IsOwn(sheet); });
+    return own == sheets_.end() ? &sheets_.front() : &*own;
+}
+
+std::vector<std::string> SheetsUnder::OtherProjects() const {
+    std::vector<std::string> others;
+    for (const StoredRow& sheet : sheets_) {
+        if (!IsOwn(sheet)) {
+            others.push_back(sheet.TextIn("ProjName"));
+        }
+    }
+    return others;
+}
+
+SheetContent ContentOf(const StoredRow& sheet) {
+    const Double rooms = RequiredNumber(sheet, "ObjNum");
+    const Double number = RequiredNumber(sheet, "TabIndex");
+    const Double scale = RequiredNumber(sheet, "DigScale");
+    RequireGood(rooms >= 0 && rooms <= RoomCapacity, "ObjNum");
+    RequireGood(scale > 0 && std::isfinite(scale), "DigScale");
+    // Fields of older versions: they must be there, their values are not kept.
+    for (const char* field : {"PicScale", "MagScale", "ScaleTop", "ScaleLeft"}) {
+        sheet.ValueIn(field);
+    }
+    return {CInt(number), CInt(rooms), scale};
+}
+
+Units EnteredUnitsOf(const StoredRow& sheet) {
+    const auto entered =
+        sheet.HasField(EnteredMetricField) ? sheet.NumberIn(EnteredMetricField) : std::nullopt;
+    const Double metric = entered.value_or(sheet.NumberIn("TileLabelNUm").value_or(0));
+    return metric == 1 ? Units::Metric : Units::Imperial;
+}
+
+Integer SheetNumberToSave(Connection& connection, const Project& project) {
+    const auto own = FindSheetNumber(connection, project.Name);
+    Integer number = own.value_or(project.Sheet);
+    if (number == NoSheet ||
+        !SheetsUnder(connection, number, project.Name).OtherProjects().empty()) {
+        number = NewSheetNumber(connection);
+    }
+    if (own) {
+        Table table(connection, MainTab);
+        for (const StoredRow& sheet : table.RowsWhere("ProjName", TextValue(project.Name))) {
+            if (sheet.NumberIn("TabIndex") != number) {
+                table.Change(sheet, "TabIndex", number);
+            }
+        }
+    }
     return number;
 }
 
-void LeaveSharedNumbers(SharedState& state, const std::vector<std::string>& projects) {
+Units StoreSheet(Connection& connection, const Project& project, Integer number, Units shown) {
+    const SheetsUnder before(connection, number, project.Name);
+    const bool wasMetric =
+        before.Own() != nullptr && EnteredUnitsOf(*before.Own()) == Units::Metric;
+    const bool isMetric = !project.Rooms.empty() && (shown == Units::Metric || wasMetric);
+
+    Table table(connection, MainTab);
+    table.DeleteWhere("TabIndex", number);
+    Table::Values values = {
+        {"ProjName", TextValue(project.Name)},
+        {"ObjNum", static_cast<int>(project.Rooms.size())},
+        {"TabIndex", number},
+        {"PicScale", QVariant()},
+        {"DigScale", project.Scale},
+        {"TileLabelNUm", shown == Units::Metric ? 1 : 0},
+        {"MagScale", 1},
+        {"ScaleTop", -500},
+        {"ScaleLeft", -500},
+    };
+    if (table.HasField(EnteredMetricField)) {
+        values.emplace_back(EnteredMetricField, isMetric ? 1 : 0);
+    }
+    table.Add(values);
+    return isMetric ? Units::Metric : Units::Imperial;
+}
+
+void DeleteSheetsOf(Connection& connection, const QVariant& project) {
+    for (const StoredRow& sheet : Table(connection, MainTab).RowsWhere("ProjName", project)) {
+        if (!sheet.NumberIn("TabIndex")) {
+            throw DatabaseError("A project's sheet has no number; its data cannot be deleted.");
+        }
+        DeleteRowsUnder(connection, sheet.IntegerIn("TabIndex"));
+    }
+}
+
+void LeaveSharedNumbers(Connection& connection, const std::vector<std::string>& projects) {
     std::set<std::string> leaving;
     for (const std::string& project : projects) {
         leaving.insert(StoredName(project));
     }
-    Transaction transaction(OpenedDatabase(state));
-    Recordset& sheets = RowsOf(state, SharedRows::Sheets);
-    const auto isLeaving = [&] { return leaving.contains(StoredName(TextIn(sheets, "ProjName"))); };
+    const auto isLeaving = [&leaving](const StoredRow& sheet) {
+        return leaving.contains(StoredName(sheet.TextIn("ProjName")));
+    };
 
+    Table table(connection, MainTab);
+    const auto sheets = table.Rows();
     // As texts, so that a number out of order in a row of another project stops no deletion.
     std::set<std::string> others;
-    for (sheets.MoveFirst(); !sheets.AtEnd(); sheets.MoveNext()) {
-        if (!isLeaving()) {
-            others.insert(TextIn(sheets, "TabIndex"));
+    for (const StoredRow& sheet : sheets) {
+        if (!isLeaving(sheet)) {
+            others.insert(sheet.TextIn("TabIndex"));
         }
     }
     others.erase(std::string()); // of sheets without a number
-    for (sheets.MoveFirst(); !sheets.AtEnd(); sheets.MoveNext()) {
-        if (isLeaving() && others.contains(TextIn(sheets, "TabIndex"))) {
-            sheets.Edit();
-            sheets.SetField("TabIndex", std::int64_t{NewTabIndex(state)});
-            sheets.Update();
+    for (const StoredRow& sheet : sheets) {
+        if (isLeaving(sheet) && others.contains(sheet.TextIn("TabIndex"))) {
+            table.Change(sheet, "TabIndex", NewSheetNumber(connection));
         }
     }
-    transaction.Commit();
 }
 
 } // namespace tarn

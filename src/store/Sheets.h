@@ -1,6 +1,13 @@
+// The rows of MainTab. A project's sheet is its row there; the sheet's number, TabIndex, keys the
+// project's rows in every other table. A number belongs to one project, but older files may have
+// several under one.
+
 #pragma once
 
-#include "app/SharedState.h"
+#include "base/Types.h"
+#include "base/Units.h"
+#include "project/Project.h"
+#include "store/Tables.h"
 
 #include <optional>
 #include <string>
@@ -9,49 +16,65 @@
 
 namespace tarn {
 
-/// What GetProjTabIndex answers for a project without a sheet. Never stored.
-inline constexpr Long NoSheet = -100;
+/// Stands for "no sheet" in older versions; never given to a sheet.
+inline constexpr Integer NoSheet = -100;
 
-/// A sheet number belongs to one project. Where a file has several projects under one, the row of
-/// CurProjName counts, and the first one when that project has none.
+/// The number of the project's first sheet; nothing when it has none. Raises DatabaseError when the
+/// sheet has no number, and "Overflow" for one past 32767.
+std::optional<Integer> FindSheetNumber(Connection& connection, std::string_view project);
 
-/// Replace the sheet rows of `tabIndex` by one that holds CurProjName, ObjNum, DimScale and
-/// MetricFlag. EnteredMetric, where the table has that field, becomes 0 without rooms, else 1 with
-/// MetricFlag 1, else keeps its value. False, with the cause in DatabaseFailure, at the first
-/// database error; what was stored until then stays, unless a transaction takes it back.
-bool SaveMainTab(SharedState& state, Integer tabIndex);
+/// The next free number: one above the greatest, at least 0. Raises "Overflow" past 32767.
+Integer NewSheetNumber(Connection& connection);
 
-/// Set ObjNum, DimScale and the argument from the sheet row of `tabIndex`. MetricFlag becomes 0 in
-/// every case, whatever the row says. False, with nothing else set and the cause in
-/// DatabaseFailure, when there is no row, the database fails, or the row is no good: a null in
-/// ObjNum, TabIndex or DigScale, an ObjNum outside 0 .. 501, a DigScale of 0 or less.
-bool LoadMainTab(SharedState& state, Integer& tabIndex);
+/// The sheets under one number, as they stood when this was made.
+class SheetsUnder {
+  public:
+    SheetsUnder(Connection& connection, Integer number, std::string_view project);
 
-/// Whether the sheet's rooms were entered in metric: its EnteredMetric; where that is missing or
-/// null, the units flag it was last saved with. False without a sheet row. Raises DatabaseError.
-bool WasEnteredInMetric(SharedState& state, Integer tabIndex);
+    /// The project's own sheet; the first one where none is its own. Null without any.
+    const StoredRow* Own() const;
+    /// The other projects that have a sheet under the number, as stored.
+    std::vector<std::string> OtherProjects() const;
 
-/// The next free sheet number: one above the greatest, at least 0. Raises DatabaseError when the
-/// database fails and "Overflow" past 32767.
-Long NewTabIndex(SharedState& state);
+  private:
+    bool IsOwn(const StoredRow& sheet) const;
 
-/// Sheet number of the project CurProjName; nothing when it has no sheet. Raises DatabaseError when
-/// the database fails or the sheet row has no number, and "Overflow" for a number past 32767.
-std::optional<Long> FindProjTabIndex(SharedState& state);
+    std::string project_;
+    std::vector<StoredRow> sheets_;
+};
 
-/// As FindProjTabIndex, but NoSheet for "no sheet" and for a database failure, whose cause is then
-/// in DatabaseFailure.
-Long GetProjTabIndex(SharedState& state);
+/// What a sheet says of its project.
+struct SheetContent {
+    Integer Number = 0;
+    Integer Rooms = 0; ///< 0 .. RoomCapacity
+    Double Scale = 0;
+};
+
+/// Raises DatabaseError when the sheet is no good: a field is missing, a null or a number out of
+/// range stands in it.
+SheetContent ContentOf(const StoredRow& sheet);
+
+/// In which units the sheet's rooms were entered: its EnteredMetric; where that is missing or null,
+/// the units that were in force when it was saved.
+Units EnteredUnitsOf(const StoredRow& sheet);
+
+/// The number under which to save the project: that of its sheet, or the one set aside for it, or,
+/// where another project has that number, the next free one. Sheets that the project has already
+/// are given the number.
+Integer SheetNumberToSave(Connection& connection, const Project& project);
+
+/// Replace the sheets of `number` by one of the project. EnteredMetric, where the table has that
+/// field, becomes 0 without rooms, else 1 when metric units are in force, else keeps its value.
+/// Gives back the units that were stored.
+Units StoreSheet(Connection& connection, const Project& project, Integer number, Units shown);
+
+/// Delete every sheet of the project with all rows of its number in every table; a table that is
+/// not there is skipped.
+void DeleteSheetsOf(Connection& connection, const QVariant& project);
 
 /// Before `projects` are deleted by their sheet numbers: give each of their sheets that shares its
 /// number with another project the next free one. The room rows stay under the old number, since
-/// they do not tell whose they are. Raises, with nothing changed, DatabaseError and as NewTabIndex.
-void LeaveSharedNumbers(SharedState& state, const std::vector<std::string>& projects);
-
-/// The query for the rows of `table` that belong to a sheet.
-std::string SheetQuery(std::string_view table, Long tabIndex);
-
-/// The query for the rows of `table` whose `field` is `text`.
-std::string TextQuery(std::string_view table, std::string_view field, std::string_view text);
+/// they do not tell whose they are.
+void LeaveSharedNumbers(Connection& connection, const std::vector<std::string>& projects);
 
 } // namespace tarn

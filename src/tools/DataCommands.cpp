@@ -1,18 +1,16 @@
 #include "tools/DataCommands.h"
 
-#include "app/Configuration.h"
-#include "app/Lengths.h"
-#include "app/StartModule.h"
-#include "app/Text.h"
-#include "rooms/Coverings.h"
-#include "rooms/Report.h"
-#include "rooms/RoomCsv.h"
-#include "rooms/RoomStore.h"
-#include "rooms/WallBase.h"
-#include "store/Fields.h"
-#include "store/Projects.h"
+#include "base/Lengths.h"
+#include "base/RunTimeError.h"
+#include "files/RoomCsv.h"
+#include "files/ShortDate.h"
+#include "project/Coverings.h"
+#include "project/Report.h"
+#include "project/WallBase.h"
+#include "store/Configuration.h"
+#include "store/DataFolder.h"
+#include "store/ProjectStore.h"
 #include "store/Schema.h"
-#include "store/SharedRows.h"
 #include "tools/Files.h"
 #include "tools/ProjectFile.h"
 #include "tools/Refusal.h"
@@ -58,45 +56,51 @@ void SettleConfiguration(const std::filesystem::path& folder, const std::string&
 }
 
 /// The projects of every directory, by directory. One that is a month has no row of its own.
-std::map<std::string, std::vector<std::string>> AllProjects(SharedState& state) {
+std::map<std::string, std::vector<std::string>> ProjectsByDirectory(ProjectStore& store) {
     std::map<std::string, std::vector<std::string>> projects;
-    for (const std::string& directory : ListDirectories(state)) {
+    for (const std::string& directory : store.Directories()) {
         projects[directory];
     }
-    Recordset& rows = RowsOf(state, SharedRows::Projects);
-    for (rows.MoveFirst(); !rows.AtEnd(); rows.MoveNext()) {
-        projects[TextIn(rows, "Dir")].push_back(TextIn(rows, "ProjName"));
+    for (const auto& [directory, project] : store.AllProjects()) {
+        projects[directory].push_back(project);
     }
     return projects;
 }
 
-std::string RoomLine(const SharedState& state, Integer room) {
-    const auto size = [&](Integer length) { return WholeLengthText(length, state.IsMetric()); };
-    std::string line = "    " + TrimStr(room + 1) + ": " + size(state.RoomWidth[room]) + " X " +
-                       size(state.RoomLength[room]) + (state.IsMetric() ? " CM" : "") + "  " +
-                       CoveringCaption(state.RoomCarpet[room]);
-    for (const std::string& text :
-         {GetBaseStr(state.RoomBase[room]), state.RoomNoStr[room], state.RoomRemark[room]}) {
+std::string RoomLine(const Room& room, std::size_t number, Units units) {
+    std::string line = "    " + std::to_string(number) + ": " + WholeLengthText(room.Width, units) +
+                       " X " + WholeLengthText(room.Length, units) +
+                       (units == Units::Metric ? " CM" : "") + "  " +
+                       CoveringCaption(room.Covering);
+    for (const std::string& text : {BaseText(room.Base), room.Number, room.Remark}) {
         line += text.empty() ? "" : "  " + text;
     }
     return line;
 }
 
-void ListProject(std::ostream& out, SharedState& state, const std::string& project) {
-    state.CurProjName = project;
-    const ProjectLoad load = LoadProject(state);
-    out << "  " << project;
-    if (load.Result == ProjectLoad::Outcome::Failed) {
-        out << " (cannot be loaded: " << load.Cause << ")\n";
-        return;
-    }
-    state.MetricFlag = load.EnteredMetric ? 1 : 0;
-    out << " (" << state.ObjNum << (state.ObjNum == 1 ? " room" : " rooms") << ")\n";
-    for (const std::string& finding : load.Findings) {
+void ListRooms(std::ostream& out, const LoadedProject& loaded) {
+    const std::vector<Room>& rooms = loaded.Value.Rooms;
+    out << " (" << rooms.size() << (rooms.size() == 1 ? " room" : " rooms") << ")\n";
+    for (const std::string& finding : loaded.Findings) {
         out << "    " << finding << '\n';
     }
-    for (Integer room = 0; room < state.ObjNum; ++room) {
-        out << RoomLine(state, room) << '\n';
+    std::size_t number = 0;
+    for (const Room& room : rooms) {
+        out << RoomLine(room, ++number, loaded.Value.EnteredIn) << '\n';
+    }
+}
+
+void ListProject(std::ostream& out, ProjectStore& store, const std::string& project) {
+    const auto tellCause = [&out](const std::string& cause) {
+        out << " (cannot be loaded: " << cause << ")\n";
+    };
+    out << "  " << project;
+    try {
+        ListRooms(out, store.Load(project));
+    } catch (const DatabaseError& error) {
+        tellCause(error.what());
+    } catch (const RunTimeError& error) {
+        tellCause(error.Sentences());
     }
 }
 
@@ -130,40 +134,38 @@ void CheckData(const std::string& database) {
 }
 
 void ListData(const std::string& database) {
-    SharedState state;
-    OpenForReading(state, database);
+    ProjectStore store(database, DatabaseAccess::ReadOnly);
     std::ostringstream out;
-    for (const auto& [directory, projects] : AllProjects(state)) {
+    for (const auto& [directory, projects] : ProjectsByDirectory(store)) {
         out << directory << '\n';
         for (const std::string& project : projects) {
-            ListProject(out, state, project);
+            ListProject(out, store, project);
         }
     }
     WriteWholeFile(StandardOutput, out.str());
 }
 
-void ReportProject(const std::string& database, const std::string& project, bool metric) {
-    SharedState state;
-    OpenForReading(state, database);
-    if (LoadProjectNamed(state, project) && !metric) {
-        WarnOfMetric(state, "its sizes are listed in feet and inches. Use --metric for "
-                            "centimetres.");
+void ReportProject(const std::string& database, const std::string& name, Units units) {
+    ProjectStore store(database, DatabaseAccess::ReadOnly);
+    const Project project = LoadProjectNamed(store, name);
+    if (project.EnteredIn == Units::Metric && units != Units::Metric) {
+        WarnOfMetric(project, "its sizes are listed in feet and inches. Use --metric for "
+                              "centimetres.");
     }
-    state.MetricFlag = metric ? 1 : 0;
-    std::string report = LoadReport(state, ShortDateOfToday()).Text();
+    std::string report = MakeReport(project, units, ShortDateOfToday()).Text();
     report.erase(std::remove(report.begin(), report.end(), '\r'), report.end());
     WriteWholeFile(StandardOutput, report);
 }
 
-void ExportProject(const std::string& database, const std::string& project,
+void ExportProject(const std::string& database, const std::string& name,
                    const std::string& output) {
     RequireOtherFile(output, database);
-    SharedState state;
-    OpenForReading(state, database);
-    if (LoadProjectNamed(state, project)) {
-        WarnOfMetric(state, "its sizes are written in centimetres. Use --metric to read them.");
+    ProjectStore store(database, DatabaseAccess::ReadOnly);
+    const Project project = LoadProjectNamed(store, name);
+    if (project.EnteredIn == Units::Metric) {
+        WarnOfMetric(project, "its sizes are written in centimetres. Use --metric to read them.");
     }
-    WriteWholeFile(output, WriteRoomCsv(TakeRooms(state)));
+    WriteWholeFile(output, WriteRoomCsv(project.Rooms));
 }
 
 void BackUpData(const std::string& database, const std::string& target) {

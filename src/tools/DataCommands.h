@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/Units.h"
+
 #include <string>
 
 namespace tarn {
@@ -19,17 +21,17 @@ void CheckData(const std::string& database);
 void ListData(const std::string& database);
 
 /// Print the entered-data report of a project, with today's date. Warns on standard error when the
-/// project was entered in metric and `metric` is not set.
-void ReportProject(const std::string& database, const std::string& project, bool metric);
+/// project was entered in metric and `units` are not.
+void ReportProject(const std::string& database, const std::string& name, Units units);
 
 /// What an import does.
 struct ImportRequest {
     std::string Database;
     std::string Project;
-    std::string Directory; ///< for a new project; empty = the current month
-    std::string Rooms;     ///< CSV file
-    bool Metric = false;
-    bool Replace = false; ///< allow the rooms of an existing project to be replaced
+    std::string Directory;      ///< for a new project; empty = the current month
+    std::string Rooms;          ///< CSV file
+    Units In = Units::Imperial; ///< the units of the file
+    bool Replace = false;       ///< allow the rooms of an existing project to be replaced
 };
 
 /// Make the rooms of a CSV file those of a project, which is made when it is not there, in one
@@ -39,8 +41,7 @@ void ImportProject(const ImportRequest& request);
 
 /// Write a project's rooms as CSV to a file, or to standard output for "-". The file does not tell
 /// its unit: warns on standard error when it is metric.
-void ExportProject(const std::string& database, const std::string& project,
-                   const std::string& output);
+void ExportProject(const std::string& database, const std::string& name, const std::string& output);
 
 /// Copy a database consistently, also while it is in use.
 void BackUpData(const std::string& database, const std::string& target);

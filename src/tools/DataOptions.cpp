@@ -1,10 +1,10 @@
 #include "tools/DataOptions.h"
 
-#include "app/Configuration.h"
-#include "app/ExitStatus.h"
-#include "app/StartModule.h"
-#include "app/Version.h"
+#include "base/Version.h"
+#include "store/Configuration.h"
+#include "store/DataFolder.h"
 #include "tools/DataCommands.h"
+#include "tools/ExitStatus.h"
 #include "tools/Files.h"
 
 #include <CLI/CLI.hpp>
@@ -49,6 +49,12 @@ void AddProject(CLI::App& command, Arguments& arguments) {
         ->type_name("NAME");
 }
 
+void AddMetric(CLI::App& command, Arguments& arguments) {
+    command.add_flag_callback(
+        "--metric", [units = &arguments.Project.In] { *units = Units::Metric; },
+        "The sizes are centimetres");
+}
+
 CLI::App& AddCommand(CLI::App& app, const char* name, const char* text, Command& chosen,
                      Command run) {
     CLI::App* command = app.add_subcommand(name, text);
@@ -87,13 +93,12 @@ void AddFileCommands(CLI::App& app, Arguments& arguments, Command& chosen) {
 }
 
 void AddProjectCommands(CLI::App& app, Arguments& arguments, Command& chosen) {
-    auto& report =
-        AddCommand(app, "report", "Print the entered-data report of a project", chosen,
-                   [project = &arguments.Project] {
-                       ReportProject(project->Database, project->Project, project->Metric);
-                   });
+    auto& report = AddCommand(app, "report", "Print the entered-data report of a project", chosen,
+                              [project = &arguments.Project] {
+                                  ReportProject(project->Database, project->Project, project->In);
+                              });
     AddProject(report, arguments);
-    report.add_flag("--metric", arguments.Project.Metric, "The sizes are centimetres");
+    AddMetric(report, arguments);
 
     auto& import = AddCommand(app, "import", "Make the rooms of a CSV file those of a project",
                               chosen, [project = &arguments.Project] { ImportProject(*project); });
@@ -104,7 +109,7 @@ void AddProjectCommands(CLI::App& app, Arguments& arguments, Command& chosen) {
         .add_option("--directory", arguments.Project.Directory,
                     "Directory of a new project (default: the current month)")
         ->type_name("DIR");
-    import.add_flag("--metric", arguments.Project.Metric, "The sizes are centimetres");
+    AddMetric(import, arguments);
     import.add_flag("--replace", arguments.Project.Replace,
                     "Replace the rooms that the project has");
 

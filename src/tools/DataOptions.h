@@ -1,3 +1,5 @@
+// The command line of tarn-data.
+
 #pragma once
 
 #include <functional>

@@ -1,11 +1,12 @@
 #include "tools/EstimateOptions.h"
 
-#include "app/ExitStatus.h"
-#include "app/Format.h"
-#include "app/Version.h"
-#include "engine/EstOptions.h"
+#include "base/Format.h"
+#include "base/TakeNumber.h"
+#include "base/Version.h"
+#include "estimate/MinCuts.h"
 #include "estimate/RollWidth.h"
-#include "estimate/TakeNumber.h"
+#include "project/Project.h"
+#include "tools/ExitStatus.h"
 #include "tools/Files.h"
 #include "tools/Refusal.h"
 
@@ -40,39 +41,38 @@ std::string NotEmpty(const std::string& value) {
 }
 
 /// "a, b or c": what `textOf` says of each minimum cut.
-std::string EachMinCut(const std::function<std::string(Integer)>& textOf) {
-    std::string list = textOf(0);
-    for (Integer i = 1; i < MinCuts; ++i) {
-        list += (i < MinCuts - 1 ? ", " : " or ") + textOf(i);
+std::string EachMinCut(const std::function<std::string(MinCut)>& textOf) {
+    std::string list = textOf(AllMinCuts.front());
+    for (std::size_t i = 1; i < AllMinCuts.size(); ++i) {
+        list += (i < AllMinCuts.size() - 1 ? ", " : " or ") + textOf(AllMinCuts.at(i));
     }
     return list;
 }
 
 /// The shortest parts that the search leaves.
-std::string LengthsInForce(bool metric) {
-    SharedState state;
-    state.MetricFlag = metric ? 1 : 0;
-    return EachMinCut([&](Integer i) { return MinCutInForce(state, i); });
+std::string LengthsInForce(Units units) {
+    return EachMinCut([&](MinCut minCut) { return MinCutInForce(minCut, units, Project().Scale); });
 }
 
 /// The shortest parts that the improving search leaves: those that the captions name.
 std::string LengthsOfCaptions() {
-    const SharedState state;
-    const auto inches = [&](Integer i) { return Format(MinCutOfCaption(state, i), "##0"); };
-    const auto metric = [](Integer i) {
-        return std::string(MetricMinCutCaptions.at(static_cast<std::size_t>(i)));
+    const auto inches = [](MinCut minCut) {
+        return Format(MinCutOfCaption(minCut, Units::Imperial), "##0");
+    };
+    const auto metric = [](MinCut minCut) {
+        return std::string(MinCutCaption(minCut, Units::Metric));
     };
     return EachMinCut(inches) + " inches or more (" + EachMinCut(metric) + " with --metric)";
 }
 
 std::string MinCutDescription() {
-    const auto choice = [](Integer i) {
-        return std::to_string(i) + " = " +
-               std::string(ImperialMinCutCaptions.at(static_cast<std::size_t>(i)));
+    const auto choice = [](MinCut minCut) {
+        return std::to_string(static_cast<int>(minCut)) + " = " +
+               std::string(MinCutCaption(minCut, Units::Imperial));
     };
     return "Minimum cut: " + EachMinCut(choice) +
            ". Despite their names these keep the parts of a divided fill at " +
-           LengthsInForce(false) + " or more (" + LengthsInForce(true) +
+           LengthsInForce(Units::Imperial) + " or more (" + LengthsInForce(Units::Metric) +
            " with --metric); --improve keeps them at " + LengthsOfCaptions();
 }
 
@@ -108,7 +108,7 @@ void AddChoices(CLI::App& app, EstimateOptions& options, std::string& lay) {
         ->check(NotEmpty)
         ->type_name("18x24");
     app.add_option("--min-cut", options.MinCut, MinCutDescription())
-        ->check(CLI::Range(0, MinCuts - 1))
+        ->check(CLI::Range(0, static_cast<int>(AllMinCuts.size()) - 1))
         ->capture_default_str()
         ->type_name("N");
     app.add_option("--max-pieces", options.MaxPieces,
@@ -190,19 +190,6 @@ void CheckTogether(EstimateOptions& options) {
     }
 }
 
-EstimateRequest::Repeat RepeatOf(const std::string& text) {
-    std::string_view rest = text;
-    const std::string_view width = TakeNumber(rest);
-    const bool separated = rest.starts_with('x') || rest.starts_with('X');
-    rest.remove_prefix(separated ? 1 : 0);
-    const std::string_view length = TakeNumber(rest);
-    if (width.empty() || !separated || length.empty() || !rest.empty()) {
-        throw Refusal("The match pattern \"" + text +
-                      "\" is not readable: write it as 18x24, the repeat across and along.");
-    }
-    return {std::string(width), std::string(length)};
-}
-
 } // namespace
 
 std::optional<EstimateOptions> ReadEstimateOptions(int argc, const char* const* argv, int& status) {
@@ -230,18 +217,32 @@ std::optional<EstimateOptions> ReadEstimateOptions(int argc, const char* const* 
 EstimateRequest RequestOf(const EstimateOptions& options) {
     EstimateRequest request;
     request.Carpet = static_cast<Byte>(options.Carpet - 1);
-    request.DownLay = !options.CrossLay;
-    request.EstOption = PackEstOption(static_cast<Integer>(options.MinCut),
-                                      static_cast<Integer>(options.MaxPieces));
+    request.Direction = options.CrossLay ? Lay::Cross : Lay::Down;
+    request.In = options.Metric ? Units::Metric : Units::Imperial;
+    request.ShortestPart = AllMinCuts.at(static_cast<std::size_t>(options.MinCut));
+    request.PiecesPerFill = static_cast<Integer>(options.MaxPieces);
     try {
         request.RollWidth = ReadRollWidth(options.RollWidth);
     } catch (const std::invalid_argument& error) {
         throw Refusal(error.what());
     }
-    if (!options.Match.empty()) {
-        request.Match = RepeatOf(options.Match);
-    }
     return request;
+}
+
+std::optional<RepeatTexts> RepeatOf(const EstimateOptions& options) {
+    if (options.Match.empty()) {
+        return std::nullopt;
+    }
+    std::string_view rest = options.Match;
+    const std::string_view across = TakeNumber(rest);
+    const bool separated = rest.starts_with('x') || rest.starts_with('X');
+    rest.remove_prefix(separated ? 1 : 0);
+    const std::string_view along = TakeNumber(rest);
+    if (across.empty() || !separated || along.empty() || !rest.empty()) {
+        throw Refusal("The match pattern \"" + options.Match +
+                      "\" is not readable: write it as 18x24, the repeat across and along.");
+    }
+    return RepeatTexts{std::string(across), std::string(along)};
 }
 
 } // namespace tarn

@@ -1,6 +1,8 @@
+// The command line of tarn-estimate: its options, their texts, and the request that they make.
+
 #pragma once
 
-#include "estimate/RunEstimate.h"
+#include "estimate/EstimateRequest.h"
 
 #include <optional>
 #include <string>
@@ -17,7 +19,7 @@ struct EstimateOptions {
     std::string RollWidth;
     bool CrossLay = false;
     std::string Match; ///< WxL; empty without a pattern
-    int MinCut = 0;    ///< see PackEstOption
+    int MinCut = 0;    ///< position in AllMinCuts
     int MaxPieces = 1;
     std::string Text; ///< output files; empty = not wanted
     std::string Json;
@@ -34,8 +36,17 @@ struct EstimateOptions {
 /// understood, prints that and gives nothing; `status` is then the exit status.
 std::optional<EstimateOptions> ReadEstimateOptions(int argc, const char* const* argv, int& status);
 
-/// The request that the options make. Raises Refusal for a roll width or a pattern repeat that
-/// cannot be read.
+/// The request that the options make, without its pattern repeat. Raises Refusal for a roll width
+/// that cannot be read.
 EstimateRequest RequestOf(const EstimateOptions& options);
+
+/// A pattern repeat as it was typed: its numbers may still be too large.
+struct RepeatTexts {
+    std::string Across;
+    std::string Along;
+};
+
+/// The pattern repeat of the options, if they have one. Raises Refusal when it cannot be read.
+std::optional<RepeatTexts> RepeatOf(const EstimateOptions& options);
 
 } // namespace tarn

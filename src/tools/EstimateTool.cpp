@@ -1,17 +1,18 @@
 #include "tools/EstimateTool.h"
 
 #include "estimate/CutList.h"
-#include "estimate/EstimateJson.h"
-#include "estimate/EstimatePage.h"
 #include "estimate/LayoutDrawing.h"
-#include "estimate/Svg.h"
+#include "estimate/MakeEstimate.h"
 #include "estimate/Totals.h"
-#include "print/PdfFile.h"
-#include "print/PrinterPage.h"
-#include "print/SystemPrinter.h"
-#include "rooms/Coverings.h"
-#include "rooms/Report.h"
-#include "rooms/RoomCsv.h"
+#include "files/EstimateJson.h"
+#include "files/ShortDate.h"
+#include "files/Svg.h"
+#include "paper/EstimatePage.h"
+#include "paper/PdfFile.h"
+#include "paper/PrinterPage.h"
+#include "paper/SystemPrinter.h"
+#include "project/Coverings.h"
+#include "store/ProjectStore.h"
 #include "tools/Files.h"
 #include "tools/ImproveTool.h"
 #include "tools/ProjectFile.h"
@@ -23,47 +24,51 @@ namespace tarn {
 
 namespace {
 
-void LoadRooms(SharedState& state, const EstimateOptions& options) {
+/// The project with the rooms that are to be estimated. Its name is empty when they come from a
+/// file of rooms alone.
+Project LoadRooms(const EstimateOptions& options) {
     if (!options.Rooms.empty()) {
-        PutRooms(state, ReadRoomFile(options.Rooms, options.Metric));
-        return;
+        Project project;
+        project.Rooms =
+            ReadRoomFile(options.Rooms, options.Metric ? Units::Metric : Units::Imperial);
+        return project;
     }
-    OpenForReading(state, options.Database);
-    const bool enteredMetric = LoadProjectNamed(state, options.Project);
-    if (enteredMetric && !options.Metric) {
-        WarnOfMetric(state, "it is estimated in feet and inches. Use --metric for centimetres.");
+    ProjectStore store(options.Database, DatabaseAccess::ReadOnly);
+    Project project = LoadProjectNamed(store, options.Project);
+    if (project.EnteredIn == Units::Metric && !options.Metric) {
+        WarnOfMetric(project, "it is estimated in feet and inches. Use --metric for centimetres.");
     }
+    return project;
 }
 
-std::string CutListText(const SharedState& state, const EngineArrays& engine,
-                        const CarpetEstimate& estimate) {
+std::string CutListText(const Estimate& estimate) {
     std::string text;
-    for (const std::string& line : CutListLines(state, engine, estimate)) {
+    for (const std::string& line : CutListLines(estimate)) {
         text += line + "\n";
     }
     return text;
 }
 
-Picture DrawingOf(const SharedState& state, const EngineArrays& engine,
-                  const CarpetEstimate& estimate, PieceSizes sizes) {
-    Picture picture;
-    RedrawPC(picture, state, engine, estimate, sizes);
-    ShowECutsInfo(picture, state, engine, estimate, CutListX, CutListY);
-    return picture;
+Drawing DrawingOf(const Estimate& estimate, PieceSizes sizes) {
+    Drawing drawing;
+    DrawLayout(drawing, estimate, sizes);
+    DrawCutList(drawing, estimate, CutListX, CutListY);
+    return drawing;
 }
 
-std::string SvgOf(const SharedState& state, const EngineArrays& engine,
-                  const CarpetEstimate& estimate) {
-    const std::string carpet = CoveringCaption(estimate.CarpetNo);
-    return SvgDocument(DrawingOf(state, engine, estimate, PieceSizes::Shown),
-                       state.CurProjName.empty() ? carpet : state.CurProjName + ", " + carpet);
+std::string SvgOf(const Estimate& estimate) {
+    const std::string carpet = CoveringCaption(estimate.Request.Carpet);
+    return SvgDocument(DrawingOf(estimate, PieceSizes::Shown),
+                       estimate.ProjectName.empty() ? carpet
+                                                    : estimate.ProjectName + ", " + carpet);
 }
 
-std::string PdfOf(SharedState& state, const EngineArrays& engine, const CarpetEstimate& estimate) {
+std::string PdfOf(const Estimate& estimate) {
     SystemPrinter printer;
-    ReadPrinterPage(state, printer);
-    const Picture drawing = DrawingOf(state, engine, estimate, PieceSizes::Hidden);
-    return EstimatePdf(MakeEstimatePage(state, engine, estimate, drawing, ShortDateOfToday()));
+    const PageTwips sheet = ReadPrinterPage(printer);
+    const Drawing drawing = DrawingOf(estimate, PieceSizes::Hidden);
+    return EstimatePdf(
+        MakeEstimatePage(estimate.ProjectName, estimate, drawing, sheet, ShortDateOfToday()));
 }
 
 void RequireOutputsBesideInput(const EstimateOptions& options) {
@@ -73,44 +78,44 @@ void RequireOutputsBesideInput(const EstimateOptions& options) {
     }
 }
 
-void WriteOutputs(const EstimateOptions& options, SharedState& state, const EngineArrays& engine,
-                  const CarpetEstimate& estimate) {
+void WriteOutputs(const EstimateOptions& options, const Estimate& estimate) {
     if (!options.Svg.empty()) {
-        WriteWholeFile(options.Svg, SvgOf(state, engine, estimate));
+        WriteWholeFile(options.Svg, SvgOf(estimate));
     }
     if (!options.Pdf.empty()) {
-        WriteWholeFile(options.Pdf, PdfOf(state, engine, estimate));
+        WriteWholeFile(options.Pdf, PdfOf(estimate));
     }
     if (!options.Json.empty()) {
-        WriteWholeFile(options.Json, EstimateJson(state, engine, estimate));
+        WriteWholeFile(options.Json, EstimateJson(estimate));
     }
     if (!options.Text.empty()) {
-        WriteWholeFile(options.Text, CutListText(state, engine, estimate));
+        WriteWholeFile(options.Text, CutListText(estimate));
     }
 }
 
 } // namespace
 
 void EstimateFor(const EstimateOptions& options) {
-    const EstimateRequest request = RequestOf(options);
+    EstimateRequest request = RequestOf(options);
+    const std::optional<RepeatTexts> repeat = RepeatOf(options);
     RequireOutputsBesideInput(options);
-    SharedState state;
-    EngineArrays engine;
-    CarpetEstimate estimate;
-    LoadRooms(state, options);
-    state.MetricFlag = options.Metric ? 1 : 0;
-    if (!HasRooms(state, request.Carpet)) {
+    const Project project = LoadRooms(options);
+    if (!HasRooms(project, request.Carpet)) {
         throw Refusal("No room has " + CoveringCaption(request.Carpet) + ".");
     }
+    if (repeat) {
+        request.Repeat = ReadPatternRepeat(repeat->Across, repeat->Along);
+    }
     SearchObserver nobody;
-    if (RunEstimate(state, engine, estimate, request, nobody) == ConvertResult::Nothing) {
+    Estimate estimate = MakeEstimate(project, request, nobody);
+    if (HasNothingToCut(estimate)) {
         std::cerr << "Warning: the rooms of " << CoveringCaption(request.Carpet)
                   << " have no area; there is nothing to cut.\n";
     }
     if (options.Improve) {
-        ImproveFor(options, state, engine, estimate);
+        estimate = ImprovedFor(options, estimate);
     }
-    WriteOutputs(options, state, engine, estimate);
+    WriteOutputs(options, estimate);
 }
 
 } // namespace tarn

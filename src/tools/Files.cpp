@@ -1,6 +1,6 @@
 #include "tools/Files.h"
 
-#include "app/OutputFile.h"
+#include "files/OutputFile.h"
 #include "tools/Refusal.h"
 
 #include <QDir>

@@ -1,3 +1,5 @@
+// The files of the command-line programs, standard output among them.
+
 #pragma once
 
 #include <string>

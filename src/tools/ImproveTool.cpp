@@ -1,6 +1,6 @@
 #include "tools/ImproveTool.h"
 
-#include "app/Lengths.h"
+#include "base/Lengths.h"
 #include "estimate/ImproveEstimate.h"
 
 #include <chrono>
@@ -9,6 +9,7 @@
 #include <iostream>
 #include <string>
 #include <unistd.h>
+#include <utility>
 
 namespace tarn {
 
@@ -40,8 +41,8 @@ class InterruptStops {
 /// Writes how far the search is into one line of a terminal.
 class ProgressLine : public ImproveObserver {
   public:
-    explicit ProgressLine(bool metric)
-        : metric_(metric) {}
+    explicit ProgressLine(Units units)
+        : units_(units) {}
     ~ProgressLine() override {
         if (written_) {
             std::cerr << '\n';
@@ -55,7 +56,7 @@ class ProgressLine : public ImproveObserver {
         const auto now = Clock::now();
         if (isTerminal_ && progress.Bound > 0 && (!written_ || now - last_ >= Pause)) {
             constexpr const char* StartOfLine = "\r\033[K";
-            std::cerr << StartOfLine << "Fills: " << LengthText(progress.Best, metric_) << ", "
+            std::cerr << StartOfLine << "Fills: " << LengthText(progress.Best, units_) << ", "
                       << GapText(progress) << std::flush;
             last_ = now;
             written_ = true;
@@ -66,7 +67,7 @@ class ProgressLine : public ImproveObserver {
   private:
     using Clock = std::chrono::steady_clock;
 
-    bool metric_;
+    Units units_;
     bool isTerminal_ = isatty(STDERR_FILENO) == 1;
     bool written_ = false;
     Clock::time_point last_;
@@ -74,22 +75,22 @@ class ProgressLine : public ImproveObserver {
 
 } // namespace
 
-void ImproveFor(const EstimateOptions& options, const SharedState& state, EngineArrays& engine,
-                CarpetEstimate& estimate) {
+Estimate ImprovedFor(const EstimateOptions& options, const Estimate& estimate) {
     ImproveLimits limits;
     limits.Seconds = options.ImproveSeconds;
     limits.Steps = options.ImproveSteps;
     limits.Seed = options.Seed;
-    ImproveResult result;
+    ImprovedEstimate improved;
     {
         const InterruptStops stops;
-        ProgressLine line(state.IsMetric());
-        result = ImproveEstimate(state, engine, estimate, limits, line);
+        ProgressLine line(estimate.Request.In);
+        improved = ImproveEstimate(estimate, limits, line);
     }
-    const std::string reason = NothingBetterReason(result);
-    if (!result.Improved && !reason.empty()) {
+    const std::string reason = NothingBetterReason(improved.Result);
+    if (!improved.Result.Improved && !reason.empty()) {
         std::cerr << "Note: no better layout was found; " << reason << ".\n";
     }
+    return std::move(improved.Value);
 }
 
 } // namespace tarn

@@ -1,10 +1,8 @@
 #include "tools/ProjectFile.h"
 
-#include "rooms/RoomCsv.h"
-#include "rooms/RoomStore.h"
+#include "base/RunTimeError.h"
+#include "files/RoomCsv.h"
 #include "store/Names.h"
-#include "store/Projects.h"
-#include "store/SqlDatabase.h"
 #include "tools/Files.h"
 #include "tools/Refusal.h"
 
@@ -12,41 +10,50 @@
 
 namespace tarn {
 
-void OpenForReading(SharedState& state, const std::string& path) {
-    state.CurDB = OpenSqlDatabase(path, DatabaseAccess::ReadOnly);
+namespace {
+
+[[noreturn]] void RefuseToLoad(const std::string& project, const std::string& cause) {
+    throw Refusal("The project " + project + " cannot be loaded: " + cause);
 }
 
-bool LoadProjectNamed(SharedState& state, const std::string& name) {
-    state.CurProjName = StoredName(name);
-    if (state.CurProjName.empty()) {
+} // namespace
+
+LoadedProject LoadWhole(ProjectStore& store, const std::string& name) {
+    try {
+        return store.Load(name);
+    } catch (const DatabaseError& error) {
+        RefuseToLoad(name, error.what());
+    } catch (const RunTimeError& error) {
+        RefuseToLoad(name, error.Sentences());
+    }
+}
+
+Project LoadProjectNamed(ProjectStore& store, const std::string& name) {
+    const std::string stored = StoredName(name);
+    if (stored.empty()) {
         throw Refusal("The project needs a name.");
     }
-    if (CheckProjName(state, state.CurProjName)) {
-        throw Refusal("There is no project " + state.CurProjName +
+    if (!store.DirectoryOf(stored)) {
+        throw Refusal("There is no project " + stored +
                       ". \"tarn-data list\" tells the projects that there are.");
     }
-    const ProjectLoad load = LoadProject(state);
-    for (const std::string& finding : load.Findings) {
+    LoadedProject loaded = LoadWhole(store, stored);
+    for (const std::string& finding : loaded.Findings) {
         std::cerr << "Warning: " << finding << '\n';
     }
-    switch (load.Result) {
-    case ProjectLoad::Outcome::Loaded:
-        break;
-    case ProjectLoad::Outcome::NoSheet:
-        throw Refusal("The project " + state.CurProjName + " has no saved rooms.");
-    case ProjectLoad::Outcome::Failed:
-        throw Refusal("The project " + state.CurProjName + " cannot be loaded: " + load.Cause);
+    if (loaded.Value.IsNew) {
+        throw Refusal("The project " + stored + " has no saved rooms.");
     }
-    return load.EnteredMetric;
+    return std::move(loaded.Value);
 }
 
-void WarnOfMetric(const SharedState& state, const char* consequence) {
-    std::cerr << "Warning: the project " << state.CurProjName << " was entered in metric; "
+void WarnOfMetric(const Project& project, const char* consequence) {
+    std::cerr << "Warning: the project " << project.Name << " was entered in metric; "
               << consequence << '\n';
 }
 
-std::vector<RoomRecord> ReadRoomFile(const std::string& path, bool metric) {
-    RoomCsvReading reading = ReadRoomCsv(ReadWholeFile(path), metric);
+std::vector<Room> ReadRoomFile(const std::string& path, Units units) {
+    RoomCsvReading reading = ReadRoomCsv(ReadWholeFile(path), units);
     if (!reading.Succeeded()) {
         std::string text = "The file " + path + " cannot be used; nothing was taken from it:";
         for (const RoomCsvError& error : reading.Errors) {

@@ -1,25 +1,28 @@
+// Where the programs take rooms from: a project of a database, or a CSV file.
+
 #pragma once
 
-#include "app/SharedState.h"
-#include "rooms/RoomRecord.h"
+#include "base/Units.h"
+#include "store/ProjectStore.h"
 
 #include <string>
 #include <vector>
 
 namespace tarn {
 
-/// Open a database file for reading as the current database. Raises DatabaseError.
-void OpenForReading(SharedState& state, const std::string& path);
+/// ProjectStore::Load of a name as it is stored. Raises Refusal, which names the project and the
+/// cause, when it cannot be loaded whole.
+LoadedProject LoadWhole(ProjectStore& store, const std::string& name);
 
-/// Load the project of that name from the current database. What is missing or odd in it goes to
-/// standard error as warnings. Returns whether its rooms were entered in metric. Raises Refusal
-/// when there is no such project, when it has never been saved, or when it cannot be loaded whole.
-bool LoadProjectNamed(SharedState& state, const std::string& name);
+/// The project of that name. What is missing or odd in it goes to standard error as warnings.
+/// Raises Refusal when there is no such project, when it has never been saved, or when it cannot be
+/// loaded whole.
+Project LoadProjectNamed(ProjectStore& store, const std::string& name);
 
-/// Tell on standard error that the open project was entered in metric, and what follows from it.
-void WarnOfMetric(const SharedState& state, const char* consequence);
+/// Tell on standard error that the project was entered in metric, and what follows from it.
+void WarnOfMetric(const Project& project, const char* consequence);
 
 /// The rooms of a CSV file. Raises Refusal naming every bad line.
-std::vector<RoomRecord> ReadRoomFile(const std::string& path, bool metric);
+std::vector<Room> ReadRoomFile(const std::string& path, Units units);
 
 } // namespace tarn

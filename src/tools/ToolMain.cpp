@@ -1,7 +1,7 @@
 #include "tools/ToolMain.h"
 
-#include "app/ExitStatus.h"
-#include "app/RunTimeError.h"
+#include "base/RunTimeError.h"
+#include "tools/ExitStatus.h"
 
 #include <iostream>
 

@@ -1,3 +1,5 @@
+// tarn-estimate: one carpet's estimate without a display.
+
 #include "tools/EstimateTool.h"
 #include "tools/ToolMain.h"
 

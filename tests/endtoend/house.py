@@ -33,11 +33,7 @@ class House:
         return os.path.join(self.data, "DATA", "Tarn.mdb")
 
     def program(self, name):
-        for parent in ("src", os.path.join("src", "app"), os.path.join("src", "tools")):
-            path = os.path.join(self.programs, parent, name)
-            if os.access(path, os.X_OK) and os.path.isfile(path):
-                return path
-        raise FileNotFoundError(name)
+        return os.path.join(self.programs, "src", "tools", name)
 
     def run(self, name, *arguments):
         """The standard output of a command-line program that must succeed."""

@@ -77,7 +77,7 @@ class PrintServer:
 
     def __init__(self, programs, *arguments):
         self.process = subprocess.Popen(
-            [os.path.join(programs, "tests", "print", "tarn_print_server"), *arguments],
+            [os.path.join(programs, "tests", "paper", "tarn_print_server"), *arguments],
             stdin=subprocess.PIPE,
             stdout=subprocess.PIPE,
             text=True,

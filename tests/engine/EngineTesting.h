@@ -1,7 +1,8 @@
 #pragma once
 
-#include "app/SharedState.h"
-#include "engine/EngineArrays.h"
+// What the tests of the engine share: jobs and layouts by sizes in inches.
+
+#include "engine/Search.h"
 
 #include <initializer_list>
 #include <random>
@@ -13,46 +14,49 @@ inline int Below(std::mt19937& random, int bound) {
     return static_cast<int>(random() % static_cast<unsigned>(bound));
 }
 
-/// Width across and length along the roll of a piece, inches.
+/// Extents of a piece along its X and its Y, inches.
 struct Size {
     double Wid;
     double Len;
 };
 
-/// Append a divisible piece of that size at (0, 0), in coordinate units.
-inline void AddPiece(EngineArrays& engine, Size size, Integer divide = 1) {
-    const Integer row = engine.PieceCount;
-    engine.PCX1[row] = 0;
-    engine.PCY1[row] = 0;
-    engine.PCX2[row] = static_cast<Single>(size.Wid * 100);
-    engine.PCY2[row] = static_cast<Single>(size.Len * 100);
-    engine.OrgPC[row] = row;
-    engine.PCDivide[row] = divide;
-    engine.PCTurn[row] = engine.LayDir;
-    engine.PCOrder[row] = row;
-    engine.PieceCount = static_cast<Integer>(row + 1);
-    engine.OrgCount = engine.PieceCount;
+/// A divisible piece of that size at (0, 0), in coordinate units.
+inline Piece MakePiece(Size size, Integer number = 0) {
+    return {0, static_cast<Single>(size.Wid * 100), 0, static_cast<Single>(size.Len * 100), number};
 }
 
-/// A roll of that width with those pieces; the whole width may be used.
-inline EngineArrays MakeEngine(Single rollWidth, std::initializer_list<Size> pieces = {}) {
-    EngineArrays engine;
-    engine.RollWidth = rollWidth;
-    engine.FillFlag = 1;
+inline void AddPiece(SearchJob& job, Size size) {
+    job.Pieces.push_back(MakePiece(size, static_cast<Integer>(job.Pieces.size())));
+}
+
+/// Those pieces on a roll of that width, down lay, not to be divided.
+inline SearchJob MakeJob(Single rollWidth, std::initializer_list<Size> pieces = {}) {
+    SearchJob job;
+    job.RollWidth = rollWidth;
+    job.MostParts = 1;
+    job.MinCut = 300;
     for (const Size& size : pieces) {
-        AddPiece(engine, size);
+        AddPiece(job, size);
     }
-    engine.CutCount = engine.PieceCount;
-    return engine;
+    return job;
 }
 
-/// Record a piece as placed, inches.
-inline void Place(EngineArrays& engine, Single x, Single y, Single w, Single l) {
-    engine.PosX[engine.PosCount] = x;
-    engine.PosY[engine.PosCount] = y;
-    engine.PosW[engine.PosCount] = w;
-    engine.PosL[engine.PosCount] = l;
-    engine.PosCount = static_cast<Integer>(engine.PosCount + 1);
+/// The job's pieces may be divided.
+inline SearchJob Divisible(SearchJob job, Integer mostParts, Integer minCut = 300) {
+    job.MostParts = mostParts;
+    job.MinCut = minCut;
+    return job;
+}
+
+inline SearchResult Searched(const SearchJob& job) {
+    SearchObserver nobody;
+    return Search(job, nobody);
+}
+
+/// A piece of that number and size, inches, that lies at (x, y).
+inline Placed PlacedAt(Single x, Single y, Size size, Integer number = 0) {
+    return {MakePiece(size, number), x, y, static_cast<Single>(size.Wid),
+            static_cast<Single>(size.Len)};
 }
 
 } // namespace tarn::testing

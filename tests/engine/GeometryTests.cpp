@@ -9,74 +9,64 @@ namespace {
 
 constexpr Box Plan{10, 20, 30, 50};
 
-TEST(SingMax, GivesTheLargerAndTheFirstOfATie) {
-    EXPECT_EQ(SingMax(2, 3), 3);
-    EXPECT_EQ(SingMax(3, 2), 3);
-    EXPECT_TRUE(std::signbit(SingMax(-0.0F, 0.0F)));
-    EXPECT_EQ(SingMin(2, 3), 2);
-    EXPECT_EQ(SingMin(3, 2), 2);
-    EXPECT_TRUE(std::signbit(SingMin(-0.0F, 0.0F)));
+TEST(LargerAndSmaller, GiveTheFirstOfATie) {
+    EXPECT_EQ(Larger(2, 3), 3);
+    EXPECT_EQ(Larger(3, 2), 3);
+    EXPECT_TRUE(std::signbit(Larger(-0.0F, 0.0F)));
+    EXPECT_EQ(Smaller(2, 3), 2);
+    EXPECT_EQ(Smaller(3, 2), 2);
+    EXPECT_TRUE(std::signbit(Smaller(-0.0F, 0.0F)));
 }
 
-TEST(PTInbox, APointOnACornerOrAnEdgeIsOutside) {
-    EXPECT_FALSE(PTInbox(10, 20, Plan));
-    EXPECT_FALSE(PTInbox(30, 50, Plan));
-    EXPECT_FALSE(PTInbox(10, 30, Plan));
-    EXPECT_FALSE(PTInbox(30, 30, Plan));
-    EXPECT_FALSE(PTInbox(20, 20, Plan));
-    EXPECT_FALSE(PTInbox(20, 50, Plan));
+TEST(IsInside, APointOnACornerOrAnEdgeIsOutside) {
+    EXPECT_FALSE(IsInside(10, 20, Plan));
+    EXPECT_FALSE(IsInside(30, 50, Plan));
+    EXPECT_FALSE(IsInside(10, 30, Plan));
+    EXPECT_FALSE(IsInside(30, 30, Plan));
+    EXPECT_FALSE(IsInside(20, 20, Plan));
+    EXPECT_FALSE(IsInside(20, 50, Plan));
 }
 
-TEST(PTInbox, APointAHundredthInsideTheCornerIsInside) {
-    EXPECT_TRUE(PTInbox(10.01F, 20.01F, Plan));
-    EXPECT_TRUE(PTInbox(29.99F, 49.99F, Plan));
-    EXPECT_FALSE(PTInbox(9.99F, 30, Plan));
-    EXPECT_FALSE(PTInbox(20, 50.01F, Plan));
+TEST(IsInside, APointAHundredthInsideTheCornerIsInside) {
+    EXPECT_TRUE(IsInside(10.01F, 20.01F, Plan));
+    EXPECT_TRUE(IsInside(29.99F, 49.99F, Plan));
+    EXPECT_FALSE(IsInside(9.99F, 30, Plan));
+    EXPECT_FALSE(IsInside(20, 50.01F, Plan));
 }
 
-TEST(ISLineInsect, CrossingSegmentsIntersectWhicheverWayTheyRun) {
-    EXPECT_TRUE(ISLineInsect({0, 5, 10, 5}, {3, 0, 3, 10}));
-    EXPECT_TRUE(ISLineInsect({10, 5, 0, 5}, {3, 10, 3, 0}));
-    EXPECT_FALSE(ISLineInsect({0, 5, 10, 5}, {12, 0, 12, 10}));
-    EXPECT_FALSE(ISLineInsect({0, 5, 10, 5}, {3, 6, 3, 10}));
+TEST(Intersect, CrossingSegmentsIntersectWhicheverWayTheyRun) {
+    EXPECT_TRUE(Intersect({0, 5, 10, 5}, {3, 0, 3, 10}));
+    EXPECT_TRUE(Intersect({10, 5, 0, 5}, {3, 10, 3, 0}));
+    EXPECT_FALSE(Intersect({0, 5, 10, 5}, {12, 0, 12, 10}));
+    EXPECT_FALSE(Intersect({0, 5, 10, 5}, {3, 6, 3, 10}));
 }
 
-TEST(ISLineInsect, CollinearSegmentsThatShareAnEndPointOnlyTouch) {
+TEST(Intersect, CollinearSegmentsThatShareAnEndPointOnlyTouch) {
     const Segment a{0, 5, 10, 5};
     const Segment b{10, 5, 20, 5};
-    EXPECT_FALSE(ISLineInsect(a, b));
-    EXPECT_TRUE(ISLineInsect2(a, b));
+    EXPECT_FALSE(Intersect(a, b));
 }
 
-TEST(ISLineInsect, ASegmentThatEndsOnAnotherOnlyTouches) {
+TEST(Intersect, ASegmentThatEndsOnAnotherOnlyTouches) {
     const Segment row{0, 5, 10, 5};
     const Segment onto{10, 0, 10, 10};
-    EXPECT_FALSE(ISLineInsect(row, onto));
-    EXPECT_TRUE(ISLineInsect2(row, onto));
-    EXPECT_FALSE(ISLineInsect2(row, {10.01F, 0, 10.01F, 10}));
+    EXPECT_FALSE(Intersect(row, onto));
 }
 
-TEST(ISLinePass, ASegmentThroughAnEdgePasses) {
-    EXPECT_TRUE(ISLinePass({0, 30, 20, 30}, Plan));
-    EXPECT_TRUE(ISLinePass({20, 30, 40, 30}, Plan));
-    EXPECT_TRUE(ISLinePass({20, 0, 20, 60}, Plan));
-    EXPECT_FALSE(ISLinePass({0, 20, 40, 20}, Plan)) << "along the top edge";
-    EXPECT_FALSE(ISLinePass({0, 19, 40, 19}, Plan));
+TEST(Crosses, ASegmentThroughAnEdgePasses) {
+    EXPECT_TRUE(Crosses({0, 30, 20, 30}, Plan));
+    EXPECT_TRUE(Crosses({20, 30, 40, 30}, Plan));
+    EXPECT_TRUE(Crosses({20, 0, 20, 60}, Plan));
+    EXPECT_FALSE(Crosses({0, 20, 40, 20}, Plan)) << "along the top edge";
+    EXPECT_FALSE(Crosses({0, 19, 40, 19}, Plan));
 }
 
-TEST(ISLinePass, ASegmentFromSideToSidePassesThoughItTouchesAtItsEndsOnly) {
-    EXPECT_TRUE(ISLinePass({10, 30, 30, 30}, Plan));
-    EXPECT_TRUE(ISLinePass({20, 20, 20, 50}, Plan));
-    EXPECT_FALSE(ISLinePass({10, 20, 30, 20}, Plan));
-    EXPECT_FALSE(ISLinePass({10, 50, 30, 50}, Plan));
-    EXPECT_FALSE(ISLinePass({12, 30, 28, 30}, Plan)) << "inside, meets no edge";
-}
-
-TEST(ISInsect, FindsCrossingRectanglesAndMissesOneInsideTheOther) {
-    EXPECT_TRUE(ISInsect({0, 30, 40, 40}, Plan));
-    EXPECT_TRUE(ISInsect({20, 40, 40, 60}, Plan));
-    EXPECT_FALSE(ISInsect({15, 25, 25, 45}, Plan));
-    EXPECT_FALSE(ISInsect({30, 20, 60, 50}, Plan)) << "edge to edge";
+TEST(Crosses, ASegmentFromSideToSidePassesThoughItTouchesAtItsEndsOnly) {
+    EXPECT_TRUE(Crosses({10, 30, 30, 30}, Plan));
+    EXPECT_TRUE(Crosses({20, 20, 20, 50}, Plan));
+    EXPECT_FALSE(Crosses({10, 20, 30, 20}, Plan));
+    EXPECT_FALSE(Crosses({10, 50, 30, 50}, Plan));
+    EXPECT_FALSE(Crosses({12, 30, 28, 30}, Plan)) << "inside, meets no edge";
 }
 
 TEST(Overlaps, FlushPiecesShareNoArea) {

@@ -1,50 +1,48 @@
 #include "estimate/EstimateTesting.h"
+#include "project/RoomExtents.h"
 
 #include <gtest/gtest.h>
 
-#include <cmath>
+#include <tuple>
 
 namespace tarn {
 namespace {
 
-using testing::Corners;
-using testing::Cuts;
-using testing::Job;
-using testing::Pieces;
+using testing::EdgesOf;
 using testing::Turned;
 
 constexpr double HalfUnit = 0.5; ///< coordinate units: 0.005 inch
 
-/// Walks the cuts and pieces of a job in order and checks that they tile its rooms one by one.
+/// Walks the cuts and fills of a project in order and checks that they tile its rooms one by one.
 class Tiling {
   public:
-    Tiling(const Job& job, bool downLay)
-        : cuts_(Cuts(job))
-        , pieces_(Pieces(job))
-        , roll_(static_cast<double>(job.Engine.RollWidth) * 100)
-        , downLay_(downLay) {}
+    Tiling(RoomCuts cut, const EstimateRequest& request)
+        : cuts_(std::move(cut.Cuts))
+        , pieces_(EdgesOf(cut.Fills))
+        , roll_(static_cast<double>(request.RollWidth) * 100)
+        , lay_(request.Direction) {}
 
     /// The next strips cover that room, exactly once and without a gap.
-    void ExpectCovers(const Corners& room) {
-        const Corners turned = Turned(room, downLay_);
-        const auto far = static_cast<double>(turned[1]);
-        Single reached = turned[0];
+    void ExpectCovers(const Cut& room) {
+        const Cut turned = Turned(room, lay_);
+        const auto far = static_cast<double>(turned.X2);
+        Single reached = turned.X1;
         while (far - static_cast<double>(reached) > roll_ - HalfUnit) {
             ASSERT_LT(nextCut_, cuts_.size()) << "a cut is missing";
-            const Corners cut = Turned(cuts_[nextCut_++], downLay_);
-            EXPECT_NEAR(cut[1] - cut[0], roll_, HalfUnit);
+            const Cut cut = Turned(cuts_[nextCut_++], lay_);
+            EXPECT_NEAR(cut.X2 - cut.X1, roll_, HalfUnit);
             ExpectStripAt(cut, reached, turned);
-            reached = cut[1];
+            reached = cut.X2;
         }
         if (far - static_cast<double>(reached) < HalfUnit) {
             EXPECT_NEAR(reached, far, HalfUnit);
             return;
         }
         ASSERT_LT(nextPiece_, pieces_.size()) << "a piece is missing";
-        const Corners piece = Turned(pieces_[nextPiece_++], downLay_);
-        EXPECT_LT(piece[1] - piece[0], roll_);
+        const Cut piece = Turned(pieces_[nextPiece_++], lay_);
+        EXPECT_LT(piece.X2 - piece.X1, roll_);
         ExpectStripAt(piece, reached, turned);
-        EXPECT_EQ(piece[1], turned[1]);
+        EXPECT_EQ(piece.X2, turned.X2);
     }
 
     void ExpectNothingLeft() const {
@@ -53,43 +51,49 @@ class Tiling {
     }
 
   private:
-    static void ExpectStripAt(const Corners& strip, Single left, const Corners& room) {
-        EXPECT_EQ(strip[0], left);
-        EXPECT_EQ(strip[2], room[2]);
-        EXPECT_EQ(strip[3], room[3]);
+    static void ExpectStripAt(const Cut& strip, Single left, const Cut& room) {
+        EXPECT_EQ(strip.X1, left);
+        EXPECT_EQ(strip.Y1, room.Y1);
+        EXPECT_EQ(strip.Y2, room.Y2);
     }
 
-    std::vector<Corners> cuts_;
-    std::vector<Corners> pieces_;
+    std::vector<Cut> cuts_;
+    std::vector<Cut> pieces_;
     double roll_;
-    bool downLay_;
+    Lay lay_;
     std::size_t nextCut_ = 0;
     std::size_t nextPiece_ = 0;
 };
 
-/// Unit and lay.
-class Cutting : public ::testing::TestWithParam<std::tuple<bool, bool>> {};
+/// Units and lay.
+class Cutting : public ::testing::TestWithParam<std::tuple<Units, Lay>> {};
+
+EstimateRequest RequestOf(std::mt19937& random, Units units, Lay lay) {
+    EstimateRequest request = testing::Request(testing::RandomRollWidth(random, units), lay);
+    request.In = units;
+    return request;
+}
+
+bool IsCut(const Room& room) {
+    return room.Covering == 0 && room.Width > 0 && room.Length > 0;
+}
 
 // Independent of how a strip is computed: walking from the near edge, each strip begins exactly
 // where the one before it ended, and the last ends at the room's far edge, to half a unit.
-TEST_P(Cutting, CutsAndPiecesTileEveryRoomOfTheCarpet) {
-    const auto [metric, downLay] = GetParam();
-    Job job(metric);
+TEST_P(Cutting, CutsAndFillsTileEveryRoomOfTheCarpet) {
+    const auto [units, lay] = GetParam();
     for (unsigned seed = 1; seed <= 3000; ++seed) {
         SCOPED_TRACE(::testing::Message() << "seed " << seed);
         std::mt19937 random(seed);
-        const Single roll = testing::RandomRollWidth(random, metric);
-        job.State.ObjNum = 0;
-        testing::AddRandomRooms(job, random, roll, 12);
-        testing::Cut(job, roll, downLay);
+        const EstimateRequest request = RequestOf(random, units, lay);
+        const Project project = testing::RandomProject(random, units, request.RollWidth, 12);
 
-        Tiling tiling(job, downLay);
-        for (Integer room = 0; room < job.State.ObjNum; ++room) {
-            const SharedState& state = job.State;
-            if (state.RoomCarpet[room] == 0 && state.RoomWidth[room] > 0 &&
-                state.RoomLength[room] > 0) {
-                SCOPED_TRACE(::testing::Message() << "room " << room);
-                tiling.ExpectCovers({0, state.RoomX(room, 1), 0, state.RoomY(room, 1)});
+        Tiling tiling(CutAcrossRoll(project, request), request);
+        for (const Room& room : project.Rooms) {
+            if (IsCut(room)) {
+                SCOPED_TRACE(::testing::Message() << "room " << room.Width << " " << room.Length);
+                const RoomExtent extent = ExtentOf(room, units, project.Scale);
+                tiling.ExpectCovers({0, extent.X, 0, extent.Y});
             }
         }
         tiling.ExpectNothingLeft();
@@ -101,32 +105,30 @@ TEST_P(Cutting, CutsAndPiecesTileEveryRoomOfTheCarpet) {
 
 // The area of the strips is that of the rooms, to half a unit along each strip.
 TEST_P(Cutting, StripsHaveTheAreaOfTheRooms) {
-    const auto [metric, downLay] = GetParam();
-    Job job(metric);
+    const auto [units, lay] = GetParam();
     for (unsigned seed = 1; seed <= 1000; ++seed) {
         SCOPED_TRACE(::testing::Message() << "seed " << seed);
         std::mt19937 random(seed);
-        const Single roll = testing::RandomRollWidth(random, metric);
-        job.State.ObjNum = 0;
-        testing::AddRandomRooms(job, random, roll, 12);
-        testing::Cut(job, roll, downLay);
+        const EstimateRequest request = RequestOf(random, units, lay);
+        const Project project = testing::RandomProject(random, units, request.RollWidth, 12);
 
-        const double small = metric ? 100 / 2.54 : 100;
+        const double small = units == Units::Metric ? 100 / 2.54 : 100;
         double rooms = 0;
         double slack = 0;
-        for (Integer room = 0; room < job.State.ObjNum; ++room) {
-            const double width = small * job.State.RoomWidth[room];
-            const double length = small * job.State.RoomLength[room];
-            if (job.State.RoomCarpet[room] == 0 && width > 0 && length > 0) {
+        for (const Room& room : project.Rooms) {
+            if (IsCut(room)) {
+                const double width = small * room.Width;
+                const double length = small * room.Length;
                 rooms += width * length;
-                slack += HalfUnit * (downLay ? length : width) + 0.1 * (width + length);
+                slack += HalfUnit * (lay == Lay::Down ? length : width) + 0.1 * (width + length);
             }
         }
         double strips = 0;
-        for (const auto& boxes : {Cuts(job), Pieces(job)}) {
-            for (const Corners& box : boxes) {
+        const RoomCuts cut = CutAcrossRoll(project, request);
+        for (const auto& boxes : {cut.Cuts, EdgesOf(cut.Fills)}) {
+            for (const Cut& box : boxes) {
                 strips +=
-                    static_cast<double>(box[1] - box[0]) * static_cast<double>(box[3] - box[2]);
+                    static_cast<double>(box.X2 - box.X1) * static_cast<double>(box.Y2 - box.Y1);
             }
         }
         ASSERT_NEAR(strips, rooms, slack);
@@ -134,10 +136,13 @@ TEST_P(Cutting, StripsHaveTheAreaOfTheRooms) {
 }
 
 INSTANTIATE_TEST_SUITE_P(BothUnitsBothLays, Cutting,
-                         ::testing::Combine(::testing::Bool(), ::testing::Bool()),
+                         ::testing::Combine(::testing::ValuesIn(testing::BothUnits),
+                                            ::testing::ValuesIn(testing::BothLays)),
                          [](const auto& job) {
-                             return std::string(std::get<0>(job.param) ? "Metric" : "Imperial") +
-                                    (std::get<1>(job.param) ? "DownLay" : "CrossLay");
+                             return std::string(std::get<0>(job.param) == Units::Metric
+                                                    ? "Metric"
+                                                    : "Imperial") +
+                                    (std::get<1>(job.param) == Lay::Down ? "DownLay" : "CrossLay");
                          });
 
 } // namespace

@@ -1,39 +1,35 @@
-#include "app/Lengths.h"
-#include "engine/FinishLayout.h"
-#include "engine/Placement.h"
+#include "base/Lengths.h"
+#include "engine/ResultLength.h"
 #include "estimate/CutList.h"
-#include "estimate/EstimateJson.h"
 #include "estimate/EstimateTesting.h"
 #include "estimate/ImproveEstimate.h"
 #include "estimate/LayoutDrawing.h"
 
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
+
+#include <stdexcept>
 
 namespace tarn {
 namespace {
 
-using ::testing::Contains;
-using ::testing::HasSubstr;
-using testing::Imperial;
-using testing::Job;
-using testing::MakeEstimate;
-using testing::Metric;
+using testing::Estimated;
+using testing::MetricRequest;
 using testing::Request;
-using ::testing::StartsWith;
+using testing::WithParts;
 
-constexpr Integer SixPiecesOfHalfAFoot = 25;
+EstimateRequest SixPiecesOfHalfAFoot(const EstimateRequest& request) {
+    return WithParts(request, MinCut::HalfFoot, 6);
+}
 
-ImproveResult Improve(Job& job, std::int64_t steps = 2000) {
+ImprovedEstimate Improve(const Estimate& estimate, std::int64_t steps = 2000) {
     ImproveObserver nobody;
-    return ImproveEstimate(job.State, job.Engine, job.Estimate, {0, steps, 1}, nobody);
+    return ImproveEstimate(estimate, {0, steps, 1}, nobody);
 }
 
 /// Rooms whose layout the search leaves well above the least possible.
-Job Estimated() {
-    Job job = Imperial({{100, 150}, {60, 170}, {84, 90}, {44, 110}, {80, 60}, {200, 130}});
-    MakeEstimate(job, Request(144, true, SixPiecesOfHalfAFoot));
-    return job;
+Estimate House() {
+    return Estimated({{100, 150}, {60, 170}, {84, 90}, {44, 110}, {80, 60}, {200, 130}},
+                     SixPiecesOfHalfAFoot(Request(144)));
 }
 
 /// The number of the first line that begins so; -1 without one.
@@ -79,41 +75,55 @@ TEST(GapText, ClaimsNothingOfAStartThatIsShorterThanTheRulesAllow) {
 
 // At whole inches the halves take 101 inches.
 TEST(ImproveEstimate, ClaimsNothingOfAStartThatIsShorterThanTheRulesAllow) {
-    Job job = Imperial({{72, 201}});
-    MakeEstimate(job, Request(144, true, 1));
-    const ImproveResult result = Improve(job);
-    EXPECT_FALSE(result.Improved);
-    EXPECT_EQ(result.Length, 100.5F);
-    EXPECT_EQ(NothingBetterReason(result), "none whose parts keep the minimum cut is as short");
+    const Estimate start = Estimated({{72, 201}}, WithParts(Request(144), MinCut::ThreeFeet, 2));
+    const ImprovedEstimate improved = Improve(start);
+    EXPECT_FALSE(improved.Result.Improved);
+    EXPECT_EQ(improved.Result.Length, 100.5F);
+    EXPECT_EQ(NothingBetterReason(improved.Result),
+              "none whose parts keep the minimum cut is as short");
+    EXPECT_EQ(improved.Value, start);
 }
 
 TEST(ImproveEstimate, ListsTheImprovedPiecesAndSaysSoBelowTheFills) {
-    Job job = Estimated();
-    const std::vector<std::string> before = CutListLines(job.State, job.Engine, job.Estimate);
-    EXPECT_EQ(LineOf(before, "Improved:"), -1);
-    const ImproveResult result = Improve(job);
+    const Estimate start = House();
+    EXPECT_EQ(LineOf(CutListLines(start), "Improved:"), -1);
+    const auto [estimate, result] = Improve(start);
     ASSERT_TRUE(result.Improved);
     ASSERT_LT(result.Length, result.StartLength);
-    const std::vector<std::string> lines = CutListLines(job.State, job.Engine, job.Estimate);
+    const std::vector<std::string> lines = CutListLines(estimate);
     const int fills = LineOf(lines, "Total Fills:");
     EXPECT_EQ(LineOf(lines, "Improved:"), fills + 1);
     EXPECT_EQ(LineOf(lines, "Total Length:"), fills + 2);
     EXPECT_EQ(lines.at(static_cast<std::size_t>(fills)),
-              "Total Fills:" + std::to_string(job.Engine.PieceCount) +
-                  "   Total Fill-Len:" + LengthText(job.Engine.ResultLen, false));
+              "Total Fills:" + std::to_string(estimate.Fills.Layout.size()) +
+                  "   Total Fill-Len:" + LengthText(estimate.Fills.Length, Units::Imperial));
     EXPECT_EQ(LineOf(lines, "A: "), 2) << "heading, a cut, the pieces";
+}
+
+TEST(ImproveEstimate, ChangesTheLayoutAlone) {
+    const Estimate start = House();
+    const Estimate before = start;
+    auto [estimate, result] = Improve(start);
+    ASSERT_TRUE(result.Improved);
+    EXPECT_EQ(start, before);
+    EXPECT_NE(estimate.Fills.Layout, start.Fills.Layout);
+    EXPECT_EQ(estimate.Fills, result.Fills);
+    estimate.Fills = start.Fills;
+    estimate.Improved.reset();
+    EXPECT_EQ(estimate, start);
 }
 
 // A length of whole centimetres is no whole number of inches: the line that tells where the fills
 // end comes first.
 TEST(ImproveEstimate, SaysSoBelowTheLineThatTellsWhereTheFillsEnd) {
     for (int length = 201; length < 230; ++length) {
-        Job job = Metric({{254, 381}, {152, 432}, {213, length}, {112, 279}, {203, 152}});
-        MakeEstimate(job, Request(testing::Centimetres("366"), true, SixPiecesOfHalfAFoot));
-        if (!Improve(job).Improved) {
+        const ImprovedEstimate improved =
+            Improve(Estimated({{254, 381}, {152, 432}, {213, length}, {112, 279}, {203, 152}},
+                              SixPiecesOfHalfAFoot(MetricRequest("366"))));
+        if (!improved.Result.Improved) {
             continue;
         }
-        const std::vector<std::string> lines = CutListLines(job.State, job.Engine, job.Estimate);
+        const std::vector<std::string> lines = CutListLines(improved.Value);
         const int end = LineOf(lines, "Fills end at:");
         if (end >= 0) {
             EXPECT_EQ(LineOf(lines, "Improved:"), end + 1);
@@ -124,85 +134,79 @@ TEST(ImproveEstimate, SaysSoBelowTheLineThatTellsWhereTheFillsEnd) {
 }
 
 TEST(ImproveEstimate, TheDrawingShowsTheImprovedLayoutAndTheLine) {
-    Job job = Estimated();
-    ASSERT_TRUE(Improve(job).Improved);
-    Picture picture;
-    RedrawPC(picture, job.State, job.Engine, job.Estimate);
-    ShowECutsInfo(picture, job.State, job.Engine, job.Estimate, 0, 0);
-    int boxes = 0;
+    const ImprovedEstimate improved = Improve(House());
+    ASSERT_TRUE(improved.Result.Improved);
+    Drawing drawing;
+    DrawLayout(drawing, improved.Value);
+    DrawCutList(drawing, improved.Value, 0, 0);
+    std::size_t boxes = 0;
     bool said = false;
-    for (const DrawingStep& step : picture.Steps()) {
+    for (const DrawingStep& step : drawing.Steps()) {
         boxes += step.What == DrawingStep::Kind::Box ? 1 : 0;
         said = said || step.Text.rfind("Improved: ", 0) == 0;
     }
-    EXPECT_EQ(boxes, job.Engine.PieceCount + 1);
+    EXPECT_EQ(boxes, improved.Value.Fills.Layout.size() + 1);
     EXPECT_TRUE(said);
 }
 
-TEST(ImproveEstimate, ResultLenFollowsTheSameRule) {
-    Job job = Estimated();
-    ASSERT_TRUE(Improve(job).Improved);
-    const Integer result = job.Engine.ResultLen;
-    ShowResultPic(job.Engine);
-    EXPECT_EQ(job.Engine.ResultLen, result);
-    EXPECT_EQ(result % 3, 0);
+TEST(ImproveEstimate, TheReportedLengthFollowsTheSameRule) {
+    const ImprovedEstimate improved = Improve(House());
+    ASSERT_TRUE(improved.Result.Improved);
+    const SearchResult& fills = improved.Value.Fills;
+    EXPECT_EQ(fills.Length, ResultLength(fills.Layout));
+    EXPECT_EQ(fills.Length % 3, 0);
 }
 
 TEST(ImproveEstimate, CountsTheGainFromTheFirstLayoutAndKeepsTheBestBound) {
-    Job job = Estimated();
-    const ImproveResult first = Improve(job, 150);
-    ASSERT_TRUE(first.Improved);
-    Improve(job, 3000);
-    ASSERT_TRUE(job.Estimate.Improved.has_value());
-    EXPECT_EQ(job.Estimate.Improved->StartLength, static_cast<Double>(first.StartLength));
-    EXPECT_EQ(job.Estimate.Improved->StartPieces, first.StartPieces);
-    EXPECT_EQ(job.Estimate.Improved->Length, static_cast<Double>(GetPCLen(job.Engine)));
-    EXPECT_GE(job.Estimate.Improved->Bound, first.Bound);
-    EXPECT_EQ(job.Estimate.Improved->Pieces, job.Engine.PieceCount);
+    const ImprovedEstimate first = Improve(House(), 150);
+    ASSERT_TRUE(first.Result.Improved);
+    const Estimate second = Improve(first.Value, 3000).Value;
+    ASSERT_TRUE(second.Improved.has_value());
+    EXPECT_EQ(second.Improved->StartLength, static_cast<Double>(first.Result.StartLength));
+    EXPECT_EQ(second.Improved->StartPieces, first.Result.StartPieces);
+    EXPECT_EQ(second.Improved->Length, static_cast<Double>(LengthInUse(second.Fills.Layout)));
+    EXPECT_GE(second.Improved->Bound, first.Result.Bound);
+    EXPECT_EQ(static_cast<std::size_t>(second.Improved->Pieces), second.Fills.Layout.size());
 }
 
 // One layout is tried: the bound that was known before counts all the same.
 TEST(ImproveEstimate, HandsTheBestBoundOfAllBack) {
-    Job job = Estimated();
-    Improve(job, 3000);
-    ASSERT_TRUE(job.Estimate.Improved.has_value());
-    ASSERT_GT(job.Estimate.Improved->Bound, 0);
-    job.Estimate.Improved->Bound = job.Estimate.Improved->Length;
-    const ImproveResult result = Improve(job, 1);
+    Estimate estimate = Improve(House(), 3000).Value;
+    ASSERT_TRUE(estimate.Improved.has_value());
+    ASSERT_GT(estimate.Improved->Bound, 0);
+    estimate.Improved->Bound = estimate.Improved->Length;
+    const ImproveResult result = Improve(estimate, 1).Result;
     EXPECT_FALSE(result.Improved);
     EXPECT_EQ(result.Bound, static_cast<Double>(result.Length));
 }
 
 TEST(ImproveEstimate, LeavesAnEstimateThatCannotBeImprovedAsItIs) {
-    Job job = Imperial({{144, 100}, {72, 90}, {72, 90}});
-    MakeEstimate(job, Request(144));
-    const std::vector<std::string> before = CutListLines(job.State, job.Engine, job.Estimate);
-    const ImproveResult result = Improve(job);
-    EXPECT_FALSE(result.Improved);
-    EXPECT_EQ(result.Bound, 90);
-    EXPECT_FALSE(job.Estimate.Improved.has_value());
-    EXPECT_EQ(CutListLines(job.State, job.Engine, job.Estimate), before);
+    const Estimate start = Estimated({{144, 100}, {72, 90}, {72, 90}}, Request(144));
+    const ImprovedEstimate improved = Improve(start);
+    EXPECT_FALSE(improved.Result.Improved);
+    EXPECT_EQ(improved.Result.Bound, 90);
+    EXPECT_EQ(improved.Value, start);
 }
 
-TEST(ImproveEstimate, TheRecordGoesWithTheEstimate) {
-    Job job = Estimated();
-    ASSERT_TRUE(Improve(job).Improved);
-    EmptyEstimate(job.State, job.Engine, job.Estimate);
-    EXPECT_FALSE(job.Estimate.Improved.has_value());
-    Improve(job);
-    EXPECT_FALSE(job.Estimate.Improved.has_value()) << "there is nothing to improve";
-}
-
-TEST(EstimateJson, HoldsTheImprovementOnlyWhenThereIsOne) {
-    Job job = Estimated();
-    EXPECT_THAT(EstimateJson(job.State, job.Engine, job.Estimate),
-                ::testing::Not(HasSubstr("\"improved\"")));
-    ASSERT_TRUE(Improve(job).Improved);
-    const std::string json = EstimateJson(job.State, job.Engine, job.Estimate);
-    for (const char* key :
-         {"\"improved\"", "\"startLength\"", "\"length\"", "\"bound\"", "\"startPieces\""}) {
-        EXPECT_THAT(json, HasSubstr(key));
+TEST(ImproveEstimate, OfAnEstimateWithoutFillsIsThatEstimate) {
+    for (const testing::Rooms& rooms : {testing::Rooms{{144, 100}}, {{100, 100, 8}}}) {
+        const Estimate start = Estimated(rooms, Request(144));
+        const ImprovedEstimate improved = Improve(start);
+        EXPECT_FALSE(improved.Result.Improved);
+        EXPECT_EQ(improved.Result.Bound, 0) << "there is nothing to improve";
+        EXPECT_EQ(improved.Value, start);
     }
+}
+
+TEST(ImproveEstimate, PassesOnWhatTheObserverRaises) {
+    struct Failing : ImproveObserver {
+        bool Progress(const ImproveProgress&) override { throw std::domain_error("it failed"); }
+    };
+    const Estimate start = House();
+    const Estimate before = start;
+    Failing failing;
+    EXPECT_THROW(ImproveEstimate(start, {0, 2000, 1}, failing), std::domain_error);
+    EXPECT_EQ(start, before);
 }
 
 } // namespace

@@ -1,6 +1,7 @@
-#include "app/Lengths.h"
+#include "base/Lengths.h"
 #include "estimate/CutList.h"
 #include "estimate/EstimateTesting.h"
+#include "estimate/MinCuts.h"
 
 #include <gtest/gtest.h>
 
@@ -11,8 +12,7 @@
 namespace tarn {
 namespace {
 
-using testing::Corners;
-using testing::Job;
+using testing::EdgesOf;
 using testing::Turned;
 
 constexpr double Tolerance = 0.005; ///< inches
@@ -23,20 +23,20 @@ struct Strip {
     double Left, Right, Begin, End; ///< inches on the roll
 };
 
-std::vector<Strip> Layout(const EngineArrays& engine) {
+std::vector<Strip> Strips(const Estimate& estimate) {
     std::vector<Strip> strips;
-    for (Integer i = 0; i < engine.PosCount; ++i) {
-        const auto x = static_cast<double>(engine.PosX[i]);
-        const auto y = static_cast<double>(engine.PosY[i]);
-        strips.push_back({x, x + static_cast<double>(engine.PosW[i]), y,
-                          y + static_cast<double>(engine.PosL[i])});
+    for (const Placed& placed : estimate.Fills.Layout) {
+        const auto x = static_cast<double>(placed.X);
+        const auto y = static_cast<double>(placed.Y);
+        strips.push_back(
+            {x, x + static_cast<double>(placed.Width), y, y + static_cast<double>(placed.Length)});
     }
     return strips;
 }
 
-void ExpectSoundLayout(const Job& job) {
-    const std::vector<Strip> strips = Layout(job.Engine);
-    const auto roll = static_cast<double>(job.Engine.RollWidth);
+void ExpectSoundLayout(const Estimate& estimate) {
+    const std::vector<Strip> strips = Strips(estimate);
+    const auto roll = static_cast<double>(estimate.Request.RollWidth);
     double end = 0;
     for (std::size_t i = 0; i < strips.size(); ++i) {
         const Strip& a = strips[i];
@@ -53,65 +53,62 @@ void ExpectSoundLayout(const Job& job) {
                 << "pieces " << i << " and " << j << " share an area";
         }
     }
-    EXPECT_EQ(job.Engine.ResultLen % 3, 0);
-    EXPECT_GT(job.Engine.ResultLen, end - 1);
-    EXPECT_LT(job.Engine.ResultLen, end + 3);
-    EXPECT_LE(end, job.Engine.BestLen + 0.5 + 1e-3);
+    EXPECT_EQ(estimate.Fills.Length % 3, 0);
+    EXPECT_GT(estimate.Fills.Length, end - 1);
+    EXPECT_LT(estimate.Fills.Length, end + 3);
+    EXPECT_LE(end, estimate.Fills.BestLength + 0.5 + 1e-3);
 }
 
 /// The size of every strip on the roll is that of the piece it is listed as.
-void ExpectPlacedAsListed(const Job& job, bool downLay) {
-    const EngineArrays& engine = job.Engine;
-    ASSERT_EQ(engine.PosCount, engine.PieceCount);
-    const std::vector<Corners> pieces = testing::Pieces(job);
-    for (Integer i = 0; i < engine.PieceCount; ++i) {
-        const Corners piece = Turned(pieces[static_cast<std::size_t>(i)], downLay);
-        EXPECT_NEAR(engine.PosW[i], (piece[1] - piece[0]) * 0.01, 1e-3);
-        EXPECT_NEAR(engine.PosL[i], (piece[3] - piece[2]) * 0.01, 4e-3);
+void ExpectPlacedAsListed(const Estimate& estimate) {
+    for (const Placed& placed : estimate.Fills.Layout) {
+        const Cut piece = Turned(EdgesOf(placed.Part), estimate.Request.Direction);
+        EXPECT_NEAR(placed.Width, (piece.X2 - piece.X1) * 0.01, 1e-3);
+        EXPECT_NEAR(placed.Length, (piece.Y2 - piece.Y1) * 0.01, 4e-3);
     }
 }
 
 /// The parts of every fill lie end to end over the whole fill, each exactly as wide as it.
-void ExpectFillsWhole(const Job& job, bool downLay) {
-    const EngineArrays& engine = job.Engine;
-    const std::vector<Corners> pieces = testing::Pieces(job);
-    std::map<Integer, std::vector<Corners>> parts;
-    for (Integer i = 0; i < engine.PieceCount; ++i) {
-        parts[engine.OrgPC[i]].push_back(Turned(pieces[static_cast<std::size_t>(i)], downLay));
+void ExpectFillsWhole(const Estimate& estimate) {
+    const Lay lay = estimate.Request.Direction;
+    std::map<Integer, std::vector<Cut>> parts;
+    for (const Placed& placed : estimate.Fills.Layout) {
+        parts[placed.Part.Number].push_back(Turned(EdgesOf(placed.Part), lay));
     }
-    const auto fills = testing::RowsOf(job.Estimate.SavedFills, job.Estimate.SavedFillCount);
+    const std::vector<Cut> fills = EdgesOf(estimate.Job.Pieces);
     ASSERT_EQ(parts.size(), fills.size());
     for (auto& [number, strips] : parts) {
         SCOPED_TRACE(::testing::Message() << "fill " << number);
-        const Corners fill = Turned(fills.at(static_cast<std::size_t>(number)), downLay);
+        const Cut fill = Turned(fills.at(static_cast<std::size_t>(number)), lay);
         std::sort(strips.begin(), strips.end(),
-                  [](const Corners& a, const Corners& b) { return a[2] < b[2]; });
-        Single reached = fill[2];
-        for (const Corners& strip : strips) {
-            EXPECT_EQ(strip[0], fill[0]);
-            EXPECT_EQ(strip[1], fill[1]);
-            EXPECT_EQ(strip[2], reached);
-            reached = strip[3];
+                  [](const Cut& a, const Cut& b) { return a.Y1 < b.Y1; });
+        Single reached = fill.Y1;
+        for (const Cut& strip : strips) {
+            EXPECT_EQ(strip.X1, fill.X1);
+            EXPECT_EQ(strip.X2, fill.X2);
+            EXPECT_EQ(strip.Y1, reached);
+            reached = strip.Y2;
         }
-        EXPECT_GE(reached * 0.01, fill[3] * 0.01 - DroppedShares - 1e-3);
+        EXPECT_GE(reached * 0.01, fill.Y2 * 0.01 - DroppedShares - 1e-3);
     }
 }
 
-double ListedLength(const std::string& text, bool metric) {
-    return metric ? std::stoi(text) / 2.54 : ReadFtIn(text).value();
+double ListedLength(const std::string& text, Units units) {
+    return units == Units::Metric ? std::stoi(text) / 2.54 : ReadFeetAndInches(text).value();
 }
 
 /// What the list says of a strip is not less than the strip is, and less than a unit more.
-void ExpectListed(const std::string& line, const Corners& strip, bool metric) {
+void ExpectListed(const std::string& line, const Cut& strip, Units units) {
     SCOPED_TRACE(line);
     const std::size_t colon = line.find(": ");
     const std::size_t cross = line.find(" X ");
     ASSERT_NE(colon, std::string::npos);
     ASSERT_NE(cross, std::string::npos);
     const std::array<double, 2> listed{
-        ListedLength(line.substr(colon + 2, cross - colon - 2), metric),
-        ListedLength(line.substr(cross + 3), metric)};
-    const std::array<double, 2> actual{(strip[1] - strip[0]) * 0.01, (strip[3] - strip[2]) * 0.01};
+        ListedLength(line.substr(colon + 2, cross - colon - 2), units),
+        ListedLength(line.substr(cross + 3), units)};
+    const std::array<double, 2> actual{(strip.X2 - strip.X1) * 0.01, (strip.Y2 - strip.Y1) * 0.01};
+    const bool metric = units == Units::Metric;
     const double slack = (metric ? 0.03 / 2.54 : Tolerance) + 1e-6;
     const double unit = metric ? 1 / 2.54 : 1;
     for (std::size_t side = 0; side < 2; ++side) {
@@ -120,90 +117,80 @@ void ExpectListed(const std::string& line, const Corners& strip, bool metric) {
     }
 }
 
-void ExpectCutListTrue(const Job& job, bool downLay) {
-    const auto lines = CutListLines(job.State, job.Engine, job.Estimate);
-    std::vector<Corners> strips = testing::Cuts(job);
-    for (const Corners& piece : testing::Pieces(job)) {
+void ExpectCutListTrue(const Estimate& estimate) {
+    const Units units = estimate.Request.In;
+    const auto lines = CutListLines(estimate);
+    std::vector<Cut> strips = estimate.Cuts;
+    for (const Cut& piece : EdgesOf(estimate.Fills.Layout)) {
         strips.push_back(piece);
     }
     ASSERT_GT(lines.size(), strips.size());
     for (std::size_t i = 0; i < strips.size(); ++i) {
-        ExpectListed(lines[i + 1], Turned(strips[i], downLay), job.State.IsMetric());
+        ExpectListed(lines[i + 1], Turned(strips[i], estimate.Request.Direction), units);
     }
     double end = 0;
-    for (const Strip& strip : Layout(job.Engine)) {
+    for (const Strip& strip : Strips(estimate)) {
         end = std::max(end, strip.End);
     }
     const auto told = std::find_if(lines.begin(), lines.end(), [](const std::string& line) {
         return line.rfind("Fills end at:", 0) == 0;
     });
     if (told == lines.end()) {
-        EXPECT_LT(end, job.Engine.ResultLen + Tolerance + 1e-3);
+        EXPECT_LT(end, estimate.Fills.Length + Tolerance + 1e-3);
     } else {
-        EXPECT_GT(end, job.Engine.ResultLen + Tolerance - 1e-3);
-        EXPECT_GT(ListedLength(told->substr(13), job.State.IsMetric()), end - 0.03 / 2.54);
+        EXPECT_GT(end, estimate.Fills.Length + Tolerance - 1e-3);
+        EXPECT_GT(ListedLength(told->substr(13), units), end - 0.03 / 2.54);
     }
 }
 
-void ExpectSameBits(const Job& a, const Job& b) {
-    EXPECT_EQ(testing::Cuts(a), testing::Cuts(b));
-    EXPECT_EQ(testing::Pieces(a), testing::Pieces(b));
-    EXPECT_EQ(a.Engine.PosCount, b.Engine.PosCount);
-    EXPECT_EQ(a.Engine.CaseCount, b.Engine.CaseCount);
-    EXPECT_EQ(a.Engine.BestLen, b.Engine.BestLen);
-    EXPECT_EQ(a.Engine.BestMode, b.Engine.BestMode);
-    EXPECT_EQ(a.Engine.ResultLen, b.Engine.ResultLen);
-    for (Integer i = 0; i < a.Engine.PosCount; ++i) {
-        EXPECT_EQ(a.Engine.PosX[i], b.Engine.PosX[i]);
-        EXPECT_EQ(a.Engine.PosY[i], b.Engine.PosY[i]);
-        EXPECT_EQ(a.Engine.PosW[i], b.Engine.PosW[i]);
-        EXPECT_EQ(a.Engine.PosL[i], b.Engine.PosL[i]);
-        EXPECT_EQ(a.Engine.OrgPC[i], b.Engine.OrgPC[i]);
-    }
-}
+#ifdef TARN_SANITIZED
+constexpr unsigned RandomEstimates = 1000;
+#else
+constexpr unsigned RandomEstimates = 3000;
+#endif
 
-/// Unit and lay.
-class Estimating : public ::testing::TestWithParam<std::tuple<bool, bool>> {};
+/// Units and lay.
+class Estimating : public ::testing::TestWithParam<std::tuple<Units, Lay>> {};
 
 TEST_P(Estimating, EveryLayoutIsSoundCompleteRepeatableAndListedTrue) {
-    const auto [metric, downLay] = GetParam();
-    Job job(metric);
-    Job again(metric);
+    const auto [units, lay] = GetParam();
     int layouts = 0;
-    for (unsigned seed = 1; seed <= 3000; ++seed) {
+    for (unsigned seed = 1; seed <= RandomEstimates; ++seed) {
         SCOPED_TRACE(::testing::Message() << "seed " << seed);
         std::mt19937 random(seed);
-        const Single roll = testing::RandomRollWidth(random, metric);
-        const auto option = static_cast<Integer>(10 * testing::Between(random, 0, 2) +
-                                                 testing::Between(random, 0, 5));
-        for (Job* each : {&job, &again}) {
-            std::mt19937 rooms(seed);
-            each->State.ObjNum = 0;
-            testing::AddRandomRooms(*each, rooms, roll, 7);
-            testing::MakeEstimate(*each, testing::Request(roll, downLay, option));
-        }
-        ExpectSameBits(job, again);
-        if (job.Engine.PieceCount > 0) {
+        EstimateRequest request = testing::Request(testing::RandomRollWidth(random, units), lay);
+        request.In = units;
+        request.ShortestPart =
+            AllMinCuts.at(static_cast<std::size_t>(testing::Between(random, 0, 2)));
+        request.PiecesPerFill = static_cast<Integer>(testing::Between(random, 1, 6));
+        const Project project = testing::RandomProject(random, units, request.RollWidth, 7);
+
+        const Estimate estimate = testing::EstimateOf(project, request);
+        EXPECT_EQ(estimate, testing::EstimateOf(project, request));
+        if (!estimate.Job.Pieces.empty()) {
             ++layouts;
-            ExpectSoundLayout(job);
-            ExpectPlacedAsListed(job, downLay);
-            ExpectFillsWhole(job, downLay);
+            ExpectSoundLayout(estimate);
+            ExpectPlacedAsListed(estimate);
+            ExpectFillsWhole(estimate);
         }
-        if (job.Engine.PieceCount > 0 || job.State.ECutCount > 0) {
-            ExpectCutListTrue(job, downLay);
+        if (!HasNothingToCut(estimate)) {
+            ExpectCutListTrue(estimate);
         }
         if (HasFailure()) {
             return;
         }
     }
-    EXPECT_GT(layouts, 1500);
+    EXPECT_GT(layouts, static_cast<int>(RandomEstimates) / 2);
 }
 
 INSTANTIATE_TEST_SUITE_P(BothUnitsBothLays, Estimating,
-                         ::testing::Combine(::testing::Bool(), ::testing::Bool()),
+                         ::testing::Combine(::testing::ValuesIn(testing::BothUnits),
+                                            ::testing::ValuesIn(testing::BothLays)),
                          [](const auto& job) {
-                             return std::string(std::get<0>(job.param) ? "Metric" : "Imperial") +
-                                    (std::get<1>(job.param) ? "DownLay" : "CrossLay");
+                             return std::string(std::get<0>(job.param) == Units::Metric
+                                                    ? "Metric"
+                                                    : "Imperial") +
+                                    (std::get<1>(job.param) == Lay::Down ? "DownLay" : "CrossLay");
                          });
 
 } // namespace

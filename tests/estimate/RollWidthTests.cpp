@@ -1,5 +1,5 @@
-#include "app/Lengths.h"
-#include "app/RunTimeError.h"
+#include "base/Lengths.h"
+#include "base/RunTimeError.h"
 #include "estimate/RollWidth.h"
 
 #include <gtest/gtest.h>
@@ -10,42 +10,43 @@ namespace tarn {
 namespace {
 
 TEST(RollWidth, ImperialCaptionsAreFeet) {
-    EXPECT_EQ(CaptionRollWidth("CARPET WIDTH 6 FT.", false), 72);
-    EXPECT_EQ(CaptionRollWidth("CARPET WIDTH 12 FT.", false), 144);
-    EXPECT_EQ(CaptionRollWidth("CARPET WIDTH 13.5 FT.", false), 162);
-    EXPECT_EQ(CaptionRollWidth("CARPET WIDTH 15 FT.", false), 180);
+    EXPECT_EQ(CaptionRollWidth("CARPET WIDTH 6 FT.", Units::Imperial), 72);
+    EXPECT_EQ(CaptionRollWidth("CARPET WIDTH 12 FT.", Units::Imperial), 144);
+    EXPECT_EQ(CaptionRollWidth("CARPET WIDTH 13.5 FT.", Units::Imperial), 162);
+    EXPECT_EQ(CaptionRollWidth("CARPET WIDTH 15 FT.", Units::Imperial), 180);
 }
 
 TEST(RollWidth, MetricCaptionsAreCentimetres) {
-    EXPECT_NEAR(CaptionRollWidth("CARPET WIDTH 183 CMS", true), 72.0472, 5e-5);
-    EXPECT_NEAR(CaptionRollWidth("CARPET WIDTH 366 CMS", true), 144.0945, 5e-5);
-    EXPECT_NEAR(CaptionRollWidth("CARPET WIDTH 411 CMS", true), 161.8110, 5e-5);
-    EXPECT_NEAR(CaptionRollWidth("CARPET WIDTH 457 CMS", true), 179.9213, 5e-5);
+    EXPECT_NEAR(CaptionRollWidth("CARPET WIDTH 183 CMS", Units::Metric), 72.0472, 5e-5);
+    EXPECT_NEAR(CaptionRollWidth("CARPET WIDTH 366 CMS", Units::Metric), 144.0945, 5e-5);
+    EXPECT_NEAR(CaptionRollWidth("CARPET WIDTH 411 CMS", Units::Metric), 161.8110, 5e-5);
+    EXPECT_NEAR(CaptionRollWidth("CARPET WIDTH 457 CMS", Units::Metric), 179.9213, 5e-5);
 }
 
 TEST(RollWidth, AMetricWidthTurnsBackIntoItsCentimetres) {
     for (const int figure : {183, 366, 411, 457}) {
         const Single width =
-            CaptionRollWidth("CARPET WIDTH " + std::to_string(figure) + " CMS", true);
+            CaptionRollWidth("CARPET WIDTH " + std::to_string(figure) + " CMS", Units::Metric);
         EXPECT_EQ(RoundedCentimetres(static_cast<double>(width)), figure);
         EXPECT_NEAR(static_cast<double>(width) * 2.54, figure, 2e-5);
     }
 }
 
 TEST(RollWidth, TheCaptionsOfBothUnitsAreTheFourStandardWidths) {
-    EXPECT_EQ(WidthCaptions(false)[0], "CARPET WIDTH 6 FT.");
-    EXPECT_EQ(WidthCaptions(false)[1], "CARPET WIDTH 12 FT.");
-    EXPECT_EQ(WidthCaptions(false)[2], "CARPET WIDTH 13.5 FT.");
-    EXPECT_EQ(WidthCaptions(false)[3], "CARPET WIDTH 15 FT.");
-    EXPECT_EQ(WidthCaptions(true)[0], "CARPET WIDTH 183 CMS");
-    EXPECT_EQ(WidthCaptions(true)[1], "CARPET WIDTH 366 CMS");
-    EXPECT_EQ(WidthCaptions(true)[2], "CARPET WIDTH 411 CMS");
-    EXPECT_EQ(WidthCaptions(true)[3], "CARPET WIDTH 457 CMS");
+    EXPECT_EQ(WidthCaptions(Units::Imperial)[0], "CARPET WIDTH 6 FT.");
+    EXPECT_EQ(WidthCaptions(Units::Imperial)[1], "CARPET WIDTH 12 FT.");
+    EXPECT_EQ(WidthCaptions(Units::Imperial)[2], "CARPET WIDTH 13.5 FT.");
+    EXPECT_EQ(WidthCaptions(Units::Imperial)[3], "CARPET WIDTH 15 FT.");
+    EXPECT_EQ(WidthCaptions(Units::Metric)[0], "CARPET WIDTH 183 CMS");
+    EXPECT_EQ(WidthCaptions(Units::Metric)[1], "CARPET WIDTH 366 CMS");
+    EXPECT_EQ(WidthCaptions(Units::Metric)[2], "CARPET WIDTH 411 CMS");
+    EXPECT_EQ(WidthCaptions(Units::Metric)[3], "CARPET WIDTH 457 CMS");
 }
 
 TEST(RollWidth, TwelveFeetOr366CentimetresIsTheDefault) {
-    EXPECT_EQ(CaptionRollWidth(WidthCaptions(false)[DefaultWidth], false), 144);
-    EXPECT_NEAR(CaptionRollWidth(WidthCaptions(true)[DefaultWidth], true), 144.09, 5e-3);
+    EXPECT_EQ(CaptionRollWidth(WidthCaptions(Units::Imperial)[DefaultWidth], Units::Imperial), 144);
+    EXPECT_NEAR(CaptionRollWidth(WidthCaptions(Units::Metric)[DefaultWidth], Units::Metric), 144.09,
+                5e-3);
 }
 
 TEST(RollWidth, OtherTakesFeetAndInchesWhateverTheUnit) {
@@ -88,7 +89,7 @@ TEST(ReadRollWidth, TakesTheUnitInEitherCase) {
 TEST(ReadRollWidth, AStandardMetricWidthIsTheCaptionsToTheLastBit) {
     for (const std::string_view caption : MetricWidthCaptions) {
         const std::string figure(caption.substr(13, 3));
-        EXPECT_EQ(ReadRollWidth(figure + "cm"), CaptionRollWidth(caption, true));
+        EXPECT_EQ(ReadRollWidth(figure + "cm"), CaptionRollWidth(caption, Units::Metric));
     }
 }
 

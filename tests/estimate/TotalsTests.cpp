@@ -1,166 +1,165 @@
-#include "app/Format.h"
+#include "base/Format.h"
 #include "estimate/EstimateTesting.h"
 #include "estimate/Totals.h"
 
 #include <gtest/gtest.h>
 
-#include <limits>
+#include <array>
 #include <type_traits>
 
 namespace tarn {
 namespace {
 
-using testing::Centimetres;
-using testing::Cut;
 using testing::ErrorOf;
-using testing::Imperial;
-using testing::Job;
-using testing::Metric;
+using testing::Estimated;
+using testing::MetricRequest;
+using testing::ProjectOf;
+using testing::Request;
+using testing::Sized;
 
 TEST(TotalBase, CountsTheWidthsAndLengthsOfEachCode) {
     constexpr std::array<int, 9> Expected{0, 100, 200, 150, 250, 350, 300, 400, 500};
     for (std::size_t code = 0; code < Expected.size(); ++code) {
-        const Job job = Imperial({{100, 150, 0, static_cast<Byte>(code)}});
-        EXPECT_EQ(TotalBase(job.State), Expected.at(code)) << "code " << code;
+        EXPECT_EQ(TotalBase(ProjectOf({{100, 150, 0, static_cast<Byte>(code)}})), Expected.at(code))
+            << "code " << code;
     }
 }
 
 TEST(TotalBase, SumsOverAllRoomsOfEveryCovering) {
-    const Job job = Imperial({{120, 144, 0, 5}, {100, 150, 3, 1}, {60, 80, 8, 8}, {36, 48, 11, 0}});
-    EXPECT_EQ(TotalBase(job.State), (240 + 144) + 100 + (120 + 160));
+    EXPECT_EQ(
+        TotalBase(ProjectOf({{120, 144, 0, 5}, {100, 150, 3, 1}, {60, 80, 8, 8}, {36, 48, 11, 0}})),
+        (240 + 144) + 100 + (120 + 160));
 }
 
 TEST(TotalBase, IsThePlainSumInTheRoomsUnit) {
-    EXPECT_EQ(TotalBase(Metric({{101, 203, 0, 8}}).State), 202 + 406);
+    EXPECT_EQ(TotalBase(ProjectOf({{101, 203, 0, 8}})), 202 + 406);
 }
 
-TEST(TotalBase, IgnoresRoomsBeyondTheCountInUse) {
-    Job job = Imperial({{100, 150, 0, 1}, {100, 150, 0, 1}});
-    job.State.ObjNum = 1;
-    EXPECT_EQ(TotalBase(job.State), 100);
+TEST(TotalBase, OfNoRoomIsZero) {
+    EXPECT_EQ(TotalBase(Project()), 0);
 }
 
 TEST(TotalBase, OfTheLargestRoomDoesNotOverflow) {
-    EXPECT_EQ(TotalBase(Imperial({{32767, 32767, 0, 8}}).State), 4 * 32767);
+    EXPECT_EQ(TotalBase(ProjectOf({{32767, 32767, 0, 8}})), 4 * 32767);
 }
 
 TEST(TotalCutLength, SumsTheExtentsAlongTheRoll) {
-    Job down = Imperial({{288, 120}, {150, 200}});
-    Cut(down, 144, true);
-    EXPECT_EQ(TotalCutLength(down.State, 0), 120 + 120 + 200);
-    Job cross = Imperial({{120, 288}, {200, 150}});
-    Cut(cross, 144, false);
-    EXPECT_EQ(TotalCutLength(cross.State, 1), 120 + 120 + 200);
+    EXPECT_EQ(TotalCutLength(Estimated({{288, 120}, {150, 200}}, Request(144))), 120 + 120 + 200);
+    EXPECT_EQ(TotalCutLength(Estimated({{120, 288}, {200, 150}}, Request(144, Lay::Cross))),
+              120 + 120 + 200);
 }
 
-TEST(TotalCutLength, EveryLayButZeroMeasuresAcrossTheRoom) {
-    Job job = Imperial({{144, 200}});
-    Cut(job, 144, true);
-    EXPECT_EQ(TotalCutLength(job.State, 0), 200);
-    EXPECT_EQ(TotalCutLength(job.State, 1), 144);
-    EXPECT_EQ(TotalCutLength(job.State, -1), 144);
+TEST(TotalCutLength, MeasuresAlongTheRollOfTheLay) {
+    Estimate estimate = Estimated({{144, 200}}, Request(144));
+    EXPECT_EQ(TotalCutLength(estimate), 200);
+    estimate.Request.Direction = Lay::Cross;
+    EXPECT_EQ(TotalCutLength(estimate), 144);
 }
 
 TEST(TotalCutLength, OfNoCutsIsZero) {
-    EXPECT_EQ(TotalCutLength(Imperial({}).State, 0), 0);
+    EXPECT_EQ(TotalCutLength(Estimate()), 0);
 }
 
 TEST(TotalCutLength, BeyondASingleOverflows) {
-    Job job = Imperial({});
-    job.State.ECutCount = 2;
-    for (Integer i = 0; i < job.State.ECutCount; ++i) {
-        job.State.ECutY2[i] = 3e38F;
-    }
-    EXPECT_EQ(ErrorOf([&] { TotalCutLength(job.State, 0); }).Number(), OverflowNumber);
+    Estimate estimate;
+    estimate.Cuts.resize(2, Cut{0, 0, 0, 3e38F});
+    EXPECT_EQ(ErrorOf([&] { TotalCutLength(estimate); }).Number(), OverflowNumber);
 }
 
-TEST(CarpetArea, SumsTheRoomsOfThatCoveringInSquareInches) {
-    Job job = Imperial({{100, 50, 8}, {20, 30, 9}, {10, 10, 8}});
-    BuildAllRoomExtents(job.State);
-    EXPECT_EQ(CarpetArea(job.State, 8), 5100);
-    EXPECT_EQ(CarpetArea(job.State, 9), 600);
-    EXPECT_EQ(CarpetArea(job.State, 10), 0);
+Single AreaOfCovering(const Project& project, Byte code) {
+    return CoveringArea(project, code, Units::Imperial);
+}
+Single PerimeterOfCovering(const Project& project, Byte code) {
+    return CoveringPerimeter(project, code, Units::Imperial);
 }
 
-TEST(CarpetArea, OfMetricRoomsIsInSquareInchesToo) {
-    Job job = Metric({{254, 508, 8}});
-    BuildAllRoomExtents(job.State);
-    EXPECT_NEAR(CarpetArea(job.State, 8), 100 * 200, 1e-2);
+TEST(CoveringArea, SumsTheRoomsOfThatCoveringInSquareInches) {
+    const Project project = ProjectOf({{100, 50, 8}, {20, 30, 9}, {10, 10, 8}});
+    EXPECT_EQ(AreaOfCovering(project, 8), 5100);
+    EXPECT_EQ(AreaOfCovering(project, 9), 600);
+    EXPECT_EQ(AreaOfCovering(project, 10), 0);
 }
 
-TEST(CarpetArea, TakesTheAreaOfAReversedRoomAsPositive) {
-    Job job = Imperial({{100, 50, 8}});
-    BuildAllRoomExtents(job.State);
-    job.State.RoomX(0, 0) = 20000;
-    EXPECT_EQ(CarpetArea(job.State, 8), 5000);
-    EXPECT_EQ(CarpetPerimeter(job.State, 8), 300);
+TEST(CoveringArea, OfMetricRoomsIsInSquareInchesToo) {
+    EXPECT_NEAR(CoveringArea(ProjectOf({{254, 508, 8}}), 8, Units::Metric), 100 * 200, 1e-2);
 }
 
-TEST(CarpetArea, BeyondASingleOverflows) {
-    Job job = Imperial({{100, 50, 8}});
-    job.State.RoomX(0, 1) = 1e30F;
-    job.State.RoomY(0, 1) = 1e30F;
-    EXPECT_EQ(ErrorOf([&] { CarpetArea(job.State, 8); }).Number(), OverflowNumber);
+TEST(CoveringArea, TakesTheAreaOfANegativeRoomAsPositive) {
+    const Project project = ProjectOf({{-100, 50, 8}});
+    EXPECT_EQ(AreaOfCovering(project, 8), 5000);
+    EXPECT_EQ(PerimeterOfCovering(project, 8), 300);
 }
 
-TEST(CarpetPerimeter, BeyondASingleOverflows) {
-    Job job = Imperial({{100, 50, 8}});
-    job.State.RoomX(0, 1) = 3e38F;
-    EXPECT_EQ(ErrorOf([&] { CarpetPerimeter(job.State, 8); }).Number(), OverflowNumber);
+TEST(CoveringArea, BeyondASingleOverflows) {
+    Project project = ProjectOf({{100, 50, 8}});
+    project.Scale = 1e-28;
+    EXPECT_EQ(ErrorOf([&] { AreaOfCovering(project, 8); }).Number(), OverflowNumber);
 }
 
-TEST(CarpetPerimeter, SumsTheRoomsOfThatCoveringInInches) {
-    Job job = Imperial({{100, 50, 8}, {20, 30, 9}, {10, 10, 8}});
-    BuildAllRoomExtents(job.State);
-    EXPECT_EQ(CarpetPerimeter(job.State, 8), 300 + 40);
-    EXPECT_EQ(CarpetPerimeter(job.State, 9), 100);
-    EXPECT_EQ(CarpetPerimeter(job.State, 11), 0);
+TEST(CoveringPerimeter, BeyondASingleOverflows) {
+    Project project = ProjectOf({{30000, 50, 8}});
+    project.Scale = 1e-34;
+    EXPECT_EQ(ErrorOf([&] { PerimeterOfCovering(project, 8); }).Number(), OverflowNumber);
+}
+
+TEST(CoveringPerimeter, SumsTheRoomsOfThatCoveringInInches) {
+    const Project project = ProjectOf({{100, 50, 8}, {20, 30, 9}, {10, 10, 8}});
+    EXPECT_EQ(PerimeterOfCovering(project, 8), 300 + 40);
+    EXPECT_EQ(PerimeterOfCovering(project, 9), 100);
+    EXPECT_EQ(PerimeterOfCovering(project, 11), 0);
+}
+
+TEST(TileFloors, AreThoseOfTheTilesThatHaveRoomsInAscendingOrder) {
+    const std::vector<TileFloor> floors = TileFloors(
+        ProjectOf({{20, 30, 11}, {100, 50, 8}, {7, 7, 7}, {10, 10, 8}, {0, 5, 10}, {9, 9, 12}}),
+        Units::Imperial);
+    ASSERT_EQ(floors.size(), 3U);
+    EXPECT_EQ(floors[0], (TileFloor{8, 5100, 340}));
+    EXPECT_EQ(floors[1], (TileFloor{10, 0, 10}));
+    EXPECT_EQ(floors[2], (TileFloor{11, 600, 100}));
 }
 
 TEST(HasRooms, AnswersForEachCovering) {
-    const Job job = Imperial({{100, 50, 8}, {20, 30, 2}});
-    EXPECT_TRUE(HasRooms(job.State, 8));
-    EXPECT_TRUE(HasRooms(job.State, 2));
-    EXPECT_FALSE(HasRooms(job.State, 9));
-    EXPECT_FALSE(HasRooms(Imperial({}).State, 0));
+    const Project project = ProjectOf({{100, 50, 8}, {20, 30, 2}});
+    EXPECT_TRUE(HasRooms(project, 8));
+    EXPECT_TRUE(HasRooms(project, 2));
+    EXPECT_FALSE(HasRooms(project, 9));
+    EXPECT_FALSE(HasRooms(Project(), 0));
 }
 
-TEST(Totals, TheHelpersReturnSingles) {
-    const Job job = Imperial({});
-    EXPECT_TRUE((std::is_same_v<decltype(TotalBase(job.State)), Single>));
-    EXPECT_TRUE((std::is_same_v<decltype(TotalCutLength(job.State, 0)), Single>));
-    EXPECT_TRUE((std::is_same_v<decltype(CarpetArea(job.State, 8)), Single>));
-    EXPECT_TRUE((std::is_same_v<decltype(CarpetPerimeter(job.State, 8)), Single>));
+TEST(Totals, TheSumsAreSingles) {
+    EXPECT_TRUE((std::is_same_v<decltype(TotalBase(Project())), Single>));
+    EXPECT_TRUE((std::is_same_v<decltype(TotalCutLength(Estimate())), Single>));
+    EXPECT_TRUE((std::is_same_v<decltype(AreaOfCovering(Project(), 8)), Single>));
+    EXPECT_TRUE((std::is_same_v<decltype(PerimeterOfCovering(Project(), 8)), Single>));
 }
 
 // 2^24 + 1 is no Single: four ones added one by one are lost.
-TEST(Totals, SumsAreAccumulatedInSingle) {
-    Job job = Imperial({{1, 1}, {1, 1}, {1, 1}, {1, 1}, {1, 1}});
-    job.State.ECutCount = 5;
-    for (Integer i = 0; i < 5; ++i) {
-        const Single side = i == 0 ? 4096 : 1;
-        job.State.RoomX(i, 1) = side;
-        job.State.RoomY(i, 1) = side;
-        job.State.ECutY2[i] = side * side;
-    }
-    EXPECT_EQ(TotalCutLength(job.State, 0), 167772.16F);
-    EXPECT_EQ(CarpetArea(job.State, 0), 1677.7216F);
-    for (Integer i = 0; i < 5; ++i) {
-        job.State.RoomX(i, 1) = i == 0 ? 8388607 : 0.5F;
-        job.State.RoomY(i, 1) = i == 0 ? 1 : 0;
-    }
-    EXPECT_EQ(CarpetPerimeter(job.State, 0), 167772.16F);
+TEST(Totals, AreasAndCutsAreAccumulatedInSingle) {
+    Estimate estimate;
+    estimate.Cuts.resize(5, Cut{0, 0, 0, 1});
+    estimate.Cuts[0].Y2 = 4096 * 4096;
+    EXPECT_EQ(TotalCutLength(estimate), 167772.16F);
+    Project project = ProjectOf({{4096, 4096}, {1, 1}, {1, 1}, {1, 1}, {1, 1}});
+    project.Scale = 1;
+    EXPECT_EQ(AreaOfCovering(project, 0), 16777216);
+}
+
+// 257 perimeters are just above 2^25, where a Single counts by fours: of the four twos behind them
+// the first is rounded up and the others are lost.
+TEST(Totals, PerimetersAreAccumulatedInSingle) {
+    Project project;
+    project.Scale = 1;
+    project.Rooms.resize(257, Sized{32767, 32767}.AsRoom());
+    project.Rooms.resize(261, Sized{1, 0}.AsRoom());
+    EXPECT_EQ(PerimeterOfCovering(project, 0), 257 * 4 * 32767 + 4);
 }
 
 TEST(Totals, TheBaseIsAccumulatedInSingle) {
-    Job job;
-    for (int room = 0; room < 129; ++room) {
-        job.Add({32767, 32767, 0, 8});
-    }
-    for (int room = 0; room < 4; ++room) {
-        job.Add({1, 1, 0, 1});
-    }
-    EXPECT_EQ(TotalBase(job.State), 129 * 4 * 32767);
+    Project project;
+    project.Rooms.resize(129, Sized{32767, 32767, 0, 8}.AsRoom());
+    project.Rooms.resize(133, Sized{1, 1, 0, 1}.AsRoom());
+    EXPECT_EQ(TotalBase(project), 129 * 4 * 32767);
 }
 
 TEST(AreaOf, GivesSquareFeetYardsAndMetres) {
@@ -171,10 +170,9 @@ TEST(AreaOf, GivesSquareFeetYardsAndMetres) {
 }
 
 TEST(TotalRoll, AddsTheFillsToTheCuts) {
-    Job job = Imperial({{144, 240}});
-    Cut(job, 144, true);
-    job.Engine.ResultLen = 120;
-    const RollTotals totals = TotalRoll(job.State, job.Engine);
+    Estimate estimate = Estimated({{144, 240}}, Request(144));
+    estimate.Fills.Length = 120;
+    const RollTotals totals = TotalRoll(estimate);
     EXPECT_EQ(totals.CutLength, 240);
     EXPECT_EQ(totals.Length, 360);
     EXPECT_EQ(totals.Size.SquareYards, 40);
@@ -184,13 +182,10 @@ TEST(TotalRoll, AddsTheFillsToTheCuts) {
 
 // As Singles these would print 1,001.51 and 2.75.
 TEST(TotalRoll, FiguresAreDoubleSoThatHalvesPrintTrue) {
-    Job yards = Imperial({{150, 8653}});
-    Cut(yards, 150, true);
-    EXPECT_EQ(Format(TotalRoll(yards.State, yards.Engine).Size.SquareYards, "#,##0.00"),
-              "1,001.50");
-    Job metres = Metric({{183, 150}});
-    Cut(metres, Centimetres("183"), true);
-    EXPECT_EQ(Format(TotalRoll(metres.State, metres.Engine).Size.SquareMeters, "#,##0.00"), "2.74");
+    const Estimate yards = Estimated({{150, 8653}}, Request(150));
+    EXPECT_EQ(Format(TotalRoll(yards).Size.SquareYards, "#,##0.00"), "1,001.50");
+    const Estimate metres = Estimated({{183, 150}}, MetricRequest("183"));
+    EXPECT_EQ(Format(TotalRoll(metres).Size.SquareMeters, "#,##0.00"), "2.74");
 }
 
 } // namespace

@@ -1,6 +1,6 @@
 #include "screens/ControlChecks.h"
 
-#include "app/QtText.h"
+#include "files/QtText.h"
 
 #include <QAbstractButton>
 #include <QAction>

@@ -1,7 +1,7 @@
 #include "screens/ScreenTesting.h"
 
-#include "app/Display.h"
-#include "rooms/Report.h"
+#include "project/Report.h"
+#include "screens/Display.h"
 
 #include <QAbstractButton>
 #include <QCheckBox>
@@ -150,12 +150,6 @@ std::string ShownToolTip(const QWidget& widget) {
     const QString tip = widget.toolTip();
     return FromQt(Qt::mightBeRichText(tip) ? QTextDocumentFragment::fromHtml(tip).toPlainText()
                                            : tip);
-}
-
-ScreenTest::ScreenTest() {
-    FillMonthStr(state);
-    DimAllArrays(state, engine);
-    state.CurDirName = "MARCH";
 }
 
 } // namespace tarn::testing

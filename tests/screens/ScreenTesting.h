@@ -3,10 +3,10 @@
 // What every test of a screen needs: recorders for the boxes, the printer and the other screens,
 // and real mouse and key events.
 
-#include "app/QtText.h"
-#include "app/Session.h"
-#include "app/StartModule.h"
-#include "estimate/EstimatePage.h"
+#include "estimate/EstimateRequest.h"
+#include "files/QtText.h"
+#include "paper/EstimatePage.h"
+#include "screens/Session.h"
 
 #include <QApplication>
 #include <QTest>
@@ -62,8 +62,9 @@ struct FakePrinter : Printer {
 /// "rooms", "estimate from menu", "estimate from rooms", "options", "return", "end".
 struct FakeScreens : Screens {
     std::vector<std::string> Calls;
-    FillsClient* Client = nullptr; ///< of the options shown last
-    std::function<void()> OnCall;  ///< called after each is recorded; may raise
+    EstimateClient* Client = nullptr; ///< of the options shown last
+    EstimateRequest Request;          ///< theirs
+    std::function<void()> OnCall;     ///< called after each is recorded; may raise
 
     void ShowProjects() override { Record("projects"); }
     void ShowMenu(MenuEntry entry) override;
@@ -71,8 +72,9 @@ struct FakeScreens : Screens {
     void ShowEstimate(bool fromMenu) override {
         Record(fromMenu ? "estimate from menu" : "estimate from rooms");
     }
-    void ShowOptions(FillsClient& client) override {
+    void ShowOptions(const EstimateRequest& request, EstimateClient& client) override {
         Client = &client;
+        Request = request;
         Record("options");
     }
     void Return() override { Record("return"); }
@@ -113,18 +115,19 @@ bool ShowsWaiting();
 /// What a widget's tool tip shows: the toolkit takes what looks like rich text for it.
 std::string ShownToolTip(const QWidget& widget);
 
-/// A session with everything recorded: no database, arrays at their bounds, no project.
+/// A session with everything recorded: no database, no project, the directory of March.
 struct ScreenTest : ::testing::Test {
-    ScreenTest();
+    ScreenTest() { open.Now.Directory = "MARCH"; }
 
-    SharedState state;
-    EngineArrays engine;
-    OpenProject project;
+    OpenProject open;
+    ProjectStore store;
+    DataFolder folder;
+    PageTwips page;
     FakeBoxes boxes;
     FakePrinter printer;
     FakeScreens screens;
-    Session session{
-        state, engine, project, boxes, printer, screens, [] { return QDate(2026, 3, 14); }};
+    Session session{open,  store,   folder,  page,
+                    boxes, printer, screens, [] { return QDate(2026, 3, 14); }};
 };
 
 } // namespace tarn::testing

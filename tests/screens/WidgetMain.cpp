@@ -1,7 +1,7 @@
 // The main function of test programs with screens. They run on the offscreen platform, whatever
 // display there is.
 
-#include "app/Theme.h"
+#include "screens/Theme.h"
 
 #include <QApplication>
 #include <QTemporaryDir>

@@ -1,55 +1,26 @@
-#include "store/Deletions.h"
-#include "store/Projects.h"
+#include "base/RunTimeError.h"
 #include "store/Schema.h"
-#include "store/SharedRows.h"
 #include "store/TestDatabase.h"
 
 #include <gtest/gtest.h>
 
+#include <functional>
+
 namespace tarn {
 namespace {
 
+using testing::DatabaseErrorOf;
 using testing::RawDatabase;
 using testing::ShortWait;
 using testing::TestDatabase;
 
 using Lines = std::vector<std::string>;
 
-/// Records the queries, and refuses one of them.
-struct WatchedDatabase : Database {
-    explicit WatchedDatabase(std::unique_ptr<Database> inner)
-        : Inner(std::move(inner)) {}
-
-    std::unique_ptr<Recordset> OpenDynaset(std::string_view query) override {
-        Record(query);
-        return Inner->OpenDynaset(query);
-    }
-    std::unique_ptr<Recordset> OpenSnapshot(std::string_view query) override {
-        Record(query);
-        return Inner->OpenSnapshot(query);
-    }
-    void Begin() override { Inner->Begin(); }
-    void Commit() override { Inner->Commit(); }
-    void Rollback() noexcept override { Inner->Rollback(); }
-
-    void Record(std::string_view query) {
-        Queries.emplace_back(query);
-        if (query == Failing) {
-            throw DatabaseError("Not now.");
-        }
-    }
-
-    std::unique_ptr<Database> Inner;
-    Lines Queries;
-    std::string Failing;
-};
-
 class Deletions : public ::testing::Test {
   protected:
     Deletions() {
         file_.AddDirectory("KEEP");
         AddFullProject("KEEP", "KEPT", 2);
-        file_.OpenInto(state_, ShortWait);
     }
 
     /// A project with its sheet, two rooms, and a row in every other table of the sheet.
@@ -88,8 +59,21 @@ class Deletions : public ::testing::Test {
         return lines;
     }
 
+    /// Every row of every table, with its number.
+    Lines Everything() const {
+        Lines all;
+        RawDatabase raw(file_.Path());
+        for (const std::string& table :
+             raw.Rows("SELECT name FROM sqlite_master WHERE type = 'table' ORDER BY name")) {
+            for (const std::string& row : raw.Rows("SELECT rowid, * FROM " + table)) {
+                all.push_back(table + "|" + row);
+            }
+        }
+        return all;
+    }
+
     TestDatabase file_;
-    SharedState state_;
+    ProjectStore store_ = file_.Open(ShortWait);
 };
 
 TEST_F(Deletions, ThereAreTenTablesInAFixedOrder) {
@@ -98,49 +82,22 @@ TEST_F(Deletions, ThereAreTenTablesInAFixedOrder) {
                      "MasterCut", "SAFill", "SFillCut", "MainTab"}));
 }
 
-TEST_F(Deletions, DeleteAllRowsEmptiesARecordsetFromItsCurrentRowOn) {
-    file_.AddDirectory("B");
-    file_.AddDirectory("C");
-    const auto rows = state_.CurDB->OpenDynaset("Select * from DirTab");
-    rows->MoveNext();
-    EXPECT_TRUE(DeleteAllRows(*rows));
-    EXPECT_TRUE(rows->AtEnd());
-    EXPECT_EQ(file_.Rows("SELECT Directory FROM DirTab"), Lines{"KEEP"});
-}
-
-TEST_F(Deletions, DeleteAllRowsAcceptsAnEmptyRecordset) {
-    EXPECT_TRUE(
-        DeleteAllRows(*state_.CurDB->OpenDynaset("Select * from DirTab where Directory=\"X\"")));
-}
-
-TEST_F(Deletions, DeleteTabRowsDeletesOneSheetsRowsOfOneTable) {
-    AddFullProject("KEEP", "OTHER", 5);
-    EXPECT_FALSE(DeleteTabRows(state_, "FillCut", 5));
-    EXPECT_EQ(file_.Rows("SELECT TabIndex FROM FillCut"), Lines{"2"});
-    EXPECT_EQ(file_.Rows("SELECT TabIndex FROM SFillCut"), (Lines{"2", "5"}));
-}
-
-TEST_F(Deletions, DeleteTabRowsIgnoresErrors) {
-    EXPECT_FALSE(DeleteTabRows(state_, "Nowhere", 5));
-    RawDatabase other(file_.Path());
-    other.Run("BEGIN IMMEDIATE");
-    EXPECT_FALSE(DeleteTabRows(state_, "FillCut", 2));
-    other.Run("COMMIT");
-    EXPECT_EQ(file_.Rows("SELECT TabIndex FROM FillCut"), Lines{"2"});
-}
-
-TEST_F(Deletions, DeleteProjDataEmptiesAllTenTablesForOneSheet) {
-    AddFullProject("KEEP", "OTHER", 5);
-    ASSERT_EQ(NumbersInUse(), EveryTableHolds(" 2 5"));
-    EXPECT_FALSE(DeleteProjData(state_, 5));
-    EXPECT_EQ(NumbersInUse(), EveryTableHolds(" 2"));
-}
-
-TEST_F(Deletions, DeleteProjDataPassesOverAMissingTable) {
-    file_.Run("DROP TABLE AFillTab");
-    DeleteProjData(state_, 2);
+TEST_F(Deletions, AMissingTableIsPassedOver) {
+    for (const std::string_view table : SheetTables) {
+        if (table != MainTab) {
+            file_.Run("DROP TABLE " + std::string(table));
+        }
+    }
+    store_.DeleteProject("KEPT");
     EXPECT_EQ(file_.Rows("SELECT * FROM MainTab"), Lines{});
-    EXPECT_EQ(file_.Rows("SELECT * FROM AngleMCut"), Lines{});
+    EXPECT_EQ(file_.Rows("SELECT * FROM ProjTab"), Lines{});
+}
+
+TEST_F(Deletions, ATableInAnotherLetterCaseIsEmptied) {
+    file_.Run("ALTER TABLE ESTTab RENAME TO X");
+    file_.Run("ALTER TABLE X RENAME TO ESTTAB");
+    store_.DeleteProject("KEPT");
+    EXPECT_EQ(file_.Rows("SELECT * FROM ESTTAB"), Lines{});
 }
 
 TEST_F(Deletions, DeletingADirectoryDeletesItsProjectsAndAllTheirData) {
@@ -148,14 +105,14 @@ TEST_F(Deletions, DeletingADirectoryDeletesItsProjectsAndAllTheirData) {
     AddFullProject("GONE", "A", 5);
     AddFullProject("GONE", "B", 6);
     file_.Run("INSERT INTO ProjTab VALUES ('GONE', 'WITHOUT SHEET', 0)");
-    EXPECT_TRUE(DeleteDirData(state_, "GONE")) << state_.DatabaseFailure;
+    store_.DeleteDirectory("GONE");
     EXPECT_EQ(NumbersInUse(), EveryTableHolds(" 2"));
     EXPECT_EQ(file_.Rows("SELECT ProjName FROM ProjTab ORDER BY rowid"), Lines{"KEPT"});
     EXPECT_EQ(file_.Rows("SELECT Directory FROM DirTab"), Lines{"KEEP"});
 }
 
 TEST_F(Deletions, DeletingADirectoryThatDoesNotExistDeletesNothing) {
-    EXPECT_TRUE(DeleteDirData(state_, "NOWHERE"));
+    store_.DeleteDirectory("NOWHERE");
     EXPECT_EQ(NumbersInUse(), EveryTableHolds(" 2"));
     EXPECT_EQ(file_.Rows("SELECT Directory FROM DirTab"), Lines{"KEEP"});
 }
@@ -167,7 +124,7 @@ TEST_F(Deletions, ProjectsWithAnyNameAreDeletedAlone) {
         file_.AddProject("KEEP", name, number++);
     }
     for (std::size_t i = 0; i < names.size(); ++i) {
-        EXPECT_TRUE(DeleteProjectData(state_, names[i])) << state_.DatabaseFailure;
+        store_.DeleteProject(names[i]);
         Lines left = {"KEPT"};
         left.insert(left.end(), names.begin() + static_cast<long>(i) + 1, names.end());
         EXPECT_EQ(file_.Rows("SELECT ProjName FROM ProjTab ORDER BY rowid"), left);
@@ -184,7 +141,7 @@ TEST_F(Deletions, DirectoriesWithAnyNameAreDeletedAlone) {
         ++number;
     }
     for (std::size_t i = 0; i < names.size(); ++i) {
-        EXPECT_TRUE(DeleteDirData(state_, names[i])) << state_.DatabaseFailure;
+        store_.DeleteDirectory(names[i]);
         Lines left = {"KEEP"};
         left.insert(left.end(), names.begin() + static_cast<long>(i) + 1, names.end());
         EXPECT_EQ(file_.Rows("SELECT Directory FROM DirTab"), left);
@@ -196,16 +153,17 @@ TEST_F(Deletions, DirectoriesWithAnyNameAreDeletedAlone) {
 TEST_F(Deletions, ADirectoryWithADoubleQuoteCannotBeDeletedAndNoRowChanges) {
     file_.AddDirectory("A\"B");
     AddFullProject("A\"B", "P", 5);
-    EXPECT_FALSE(DeleteDirData(state_, "A\"B"));
-    EXPECT_NE(state_.DatabaseFailure.find("A\"B"), std::string::npos);
-    EXPECT_FALSE(DeleteDirData(state_, "X\" or \"1\"=\"1"));
+    EXPECT_EQ(DatabaseErrorOf([&] { store_.DeleteDirectory("A\"B"); }),
+              "The name A\"B cannot be used: a double quote stands inside it.");
+    EXPECT_THROW(store_.DeleteDirectory("X\" or \"1\"=\"1"), DatabaseError);
+    EXPECT_THROW(store_.DeleteProject("X\" or \"1\"=\"1"), DatabaseError);
     EXPECT_EQ(NumbersInUse(), EveryTableHolds(" 2 5"));
     EXPECT_EQ(file_.Rows("SELECT Directory FROM DirTab"), (Lines{"KEEP", "A\"B"}));
 }
 
 TEST_F(Deletions, DeletingAProjectDeletesItsRowAndAllItsData) {
     AddFullProject("KEEP", "GONE", 5);
-    EXPECT_TRUE(DeleteProjectData(state_, "GONE")) << state_.DatabaseFailure;
+    store_.DeleteProject("GONE");
     EXPECT_EQ(NumbersInUse(), EveryTableHolds(" 2"));
     EXPECT_EQ(file_.Rows("SELECT Dir, ProjName FROM ProjTab"), Lines{"KEEP|KEPT"});
 }
@@ -213,81 +171,195 @@ TEST_F(Deletions, DeletingAProjectDeletesItsRowAndAllItsData) {
 TEST_F(Deletions, DeletingAProjectDeletesEverySheetOfItsName) {
     AddFullProject("KEEP", "GONE", 5);
     AddFullProject("KEEP", "GONE", 6);
-    EXPECT_TRUE(DeleteProjectData(state_, "GONE"));
+    store_.DeleteProject("GONE");
     EXPECT_EQ(NumbersInUse(), EveryTableHolds(" 2"));
 }
 
-TEST_F(Deletions, TheSharedProjectRowsSeeADeletion) {
-    AddFullProject("KEEP", "GONE", 5);
-    RowsOf(state_, SharedRows::Projects).MoveNext();
-    EXPECT_TRUE(DeleteProjectData(state_, "GONE"));
-    Recordset& rows = RowsOf(state_, SharedRows::Projects);
-    EXPECT_EQ(rows.Field("ProjName"), FieldValue(std::string("KEPT")))
-        << "it stands at its first row";
-    rows.MoveNext();
-    EXPECT_TRUE(rows.AtEnd());
+TEST_F(Deletions, AProjectIsFoundAsItStandsAndInAnotherCaseOfAToZ) {
+    file_.AddProject("KEEP", "дом", 5);
+    store_.DeleteProject("дом");
+    EXPECT_EQ(NumbersInUse(), EveryTableHolds(" 2"));
+    store_.DeleteProject("kept");
+    EXPECT_EQ(NumbersInUse(), EveryTableHolds(""));
 }
 
-TEST_F(Deletions, StopAtTheFirstQueryThatFailsAndSayWhy) {
+/// What a deletion goes through, in its order.
+const Lines TablesOfADeletion = {"AFillTab", "AngleMCut", "AInputData", "ESTTab",
+                                 "FillCut",  "InputData", "MasterCut",  "SAFill",
+                                 "SFillCut", "MainTab",   "ProjTab"};
+
+TEST_F(Deletions, OfAProjectChangeNothingWhenATableRefuses) {
+    AddFullProject("KEEP", "GONE", 5);
+    const Lines before = Everything();
+    for (const std::string& table : TablesOfADeletion) {
+        file_.Run("CREATE TRIGGER Stop BEFORE DELETE ON " + table +
+                  " BEGIN SELECT RAISE(ABORT, 'stop'); END");
+        EXPECT_EQ(DatabaseErrorOf([&] { store_.DeleteProject("GONE"); }),
+                  table + " cannot be deleted from: stop.");
+        EXPECT_EQ(Everything(), before) << table;
+        file_.Run("DROP TRIGGER Stop");
+    }
+    store_.DeleteProject("GONE");
+    EXPECT_EQ(NumbersInUse(), EveryTableHolds(" 2"));
+}
+
+TEST_F(Deletions, OfADirectoryChangeNothingWhenATableRefuses) {
     file_.AddDirectory("GONE");
     AddFullProject("GONE", "A", 5);
-    file_.Run(
-        "CREATE TRIGGER Stop BEFORE DELETE ON ProjTab BEGIN SELECT RAISE(ABORT, 'stop'); END");
-    EXPECT_FALSE(DeleteDirData(state_, "GONE"));
-    EXPECT_EQ(state_.DatabaseFailure, "ProjTab cannot be deleted from: stop.");
-    EXPECT_EQ(NumbersInUse(), EveryTableHolds(" 2")) << "what was deleted before stays deleted";
-    EXPECT_EQ(file_.Rows("SELECT Directory FROM DirTab"), (Lines{"KEEP", "GONE"}));
-
-    state_.DatabaseFailure.clear();
-    EXPECT_FALSE(DeleteProjectData(state_, "KEPT"));
-    EXPECT_EQ(state_.DatabaseFailure, "ProjTab cannot be deleted from: stop.");
+    AddFullProject("GONE", "B", 6);
+    const Lines before = Everything();
+    Lines tables = TablesOfADeletion;
+    tables.emplace_back("DirTab");
+    for (const std::string& table : tables) {
+        file_.Run("CREATE TRIGGER Stop BEFORE DELETE ON " + table +
+                  " BEGIN SELECT RAISE(ABORT, 'stop'); END");
+        EXPECT_EQ(DatabaseErrorOf([&] { store_.DeleteDirectory("GONE"); }),
+                  table + " cannot be deleted from: stop.");
+        EXPECT_EQ(Everything(), before) << table;
+        file_.Run("DROP TRIGGER Stop");
+    }
+    store_.DeleteDirectory("GONE");
+    EXPECT_EQ(NumbersInUse(), EveryTableHolds(" 2"));
 }
 
-TEST_F(Deletions, WaitForALockOnceAndBeforeTheFirstRow) {
+TEST_F(Deletions, ATableThatCannotBeReadChangesNothing) {
+    file_.Run("ALTER TABLE SFillCut RENAME COLUMN TabIndex TO Other");
+    const Lines before = Everything();
+    EXPECT_EQ(DatabaseErrorOf([&] { store_.DeleteProject("KEPT"); }),
+              "SFillCut cannot be read: no such column: TabIndex.");
+    EXPECT_EQ(Everything(), before);
+}
+
+TEST_F(Deletions, ADirectoryNeedsEachOfTheTablesOfNames) {
+    for (const char* table : {"DirTab", "ProjTab", "MainTab"}) {
+        file_.Run("ALTER TABLE " + std::string(table) + " RENAME TO Hidden");
+        EXPECT_EQ(DatabaseErrorOf([&] { store_.DeleteDirectory("KEEP"); }),
+                  std::string(table) + " cannot be read: no such table: " + table + ".");
+        file_.Run("ALTER TABLE Hidden RENAME TO " + std::string(table));
+        EXPECT_EQ(NumbersInUse(), EveryTableHolds(" 2"));
+        EXPECT_EQ(file_.Rows("SELECT Directory FROM DirTab"), Lines{"KEEP"});
+    }
+}
+
+TEST_F(Deletions, WaitForALockOnceAndChangeNothing) {
     AddFullProject("KEEP", "OTHER", 5);
+    const Lines before = Everything();
     RawDatabase other(file_.Path());
     other.Run("BEGIN IMMEDIATE");
-    auto counting = std::make_unique<WatchedDatabase>(std::move(state_.CurDB));
-    const WatchedDatabase& watched = *counting;
-    state_.CurDB = std::move(counting);
-    EXPECT_FALSE(DeleteDirData(state_, "KEEP"));
-    EXPECT_NE(state_.DatabaseFailure.find("another program"), std::string::npos);
-    EXPECT_FALSE(DeleteProjectData(state_, "OTHER"));
-    EXPECT_NE(state_.DatabaseFailure.find("another program"), std::string::npos);
-    EXPECT_EQ(watched.Queries, Lines{}) << "no table is asked for";
+    const std::string busy = "The database takes no change: another program is using the database. "
+                             "Close that program and try again.";
+    EXPECT_EQ(DatabaseErrorOf([&] { store_.DeleteDirectory("KEEP"); }), busy);
+    EXPECT_EQ(DatabaseErrorOf([&] { store_.DeleteProject("OTHER"); }), busy);
     other.Run("ROLLBACK");
-    EXPECT_TRUE(DeleteProjectData(state_, "OTHER")) << state_.DatabaseFailure;
+    EXPECT_EQ(Everything(), before);
+    store_.DeleteProject("OTHER");
     EXPECT_EQ(NumbersInUse(), EveryTableHolds(" 2"));
 }
 
-TEST_F(Deletions, AProjectIsDeletedWhetherTheSharedRowsReopenOrNot) {
-    AddFullProject("KEEP", "GONE", 5);
-    auto failing = std::make_unique<WatchedDatabase>(std::move(state_.CurDB));
-    WatchedDatabase& watched = *failing;
-    state_.CurDB = std::move(failing);
-    watched.Failing = "SELECT * from ProjTab";
-    EXPECT_TRUE(DeleteProjectData(state_, "GONE")) << state_.DatabaseFailure;
-    EXPECT_EQ(watched.Queries.back(), watched.Failing);
-    EXPECT_EQ(NumbersInUse(), EveryTableHolds(" 2"));
-    EXPECT_EQ(file_.Rows("SELECT ProjName FROM ProjTab"), Lines{"KEPT"});
-    watched.Failing.clear();
-    EXPECT_EQ(RowsOf(state_, SharedRows::Projects).Field("ProjName"),
-              FieldValue(std::string("KEPT")));
+TEST_F(Deletions, ThatFailAtTheVeryEndChangeNothing) {
+    const Lines before = Everything();
+    RawDatabase reader(file_.Path());
+    reader.Run("BEGIN");
+    reader.Rows("SELECT * FROM MainTab"); // keeps the change out of the file
+    EXPECT_NE(DatabaseErrorOf([&] { store_.DeleteDirectory("KEEP"); }).find("another program"),
+              std::string::npos);
+    reader.Run("COMMIT");
+    EXPECT_EQ(Everything(), before);
+    store_.DeleteDirectory("KEEP");
+    EXPECT_EQ(Everything(), Lines{});
 }
 
 TEST_F(Deletions, ASheetWithoutANumberStopsTheDeletion) {
     file_.AddProject("KEEP", "ODD", 5);
     file_.Run("UPDATE MainTab SET TabIndex = NULL WHERE ProjName = 'ODD'");
-    EXPECT_FALSE(DeleteProjectData(state_, "ODD"));
-    EXPECT_EQ(file_.Rows("SELECT ProjName FROM ProjTab ORDER BY rowid"), (Lines{"KEPT", "ODD"}));
+    const Lines before = Everything();
+    for (const auto& action : std::vector<std::function<void()>>{
+             [&] { store_.DeleteProject("ODD"); }, [&] { store_.DeleteDirectory("KEEP"); }}) {
+        EXPECT_EQ(DatabaseErrorOf(action),
+                  "A project's sheet has no number; its data cannot be deleted.");
+    }
+    EXPECT_EQ(Everything(), before);
 }
 
-TEST_F(Deletions, FailWithoutADatabase) {
-    state_.CurDB.reset();
-    state_.DatabaseFailure = "It is missing.";
-    EXPECT_FALSE(DeleteDirData(state_, "KEEP"));
-    EXPECT_FALSE(DeleteProjectData(state_, "KEPT"));
-    EXPECT_EQ(state_.DatabaseFailure, "It is missing.");
+TEST_F(Deletions, ASheetNumberPast32767OverflowsAndChangesNothing) {
+    file_.AddProject("KEEP", "ODD", 32768);
+    const Lines before = Everything();
+    EXPECT_THROW(store_.DeleteProject("ODD"), RunTimeError);
+    EXPECT_THROW(store_.DeleteDirectory("KEEP"), RunTimeError);
+    EXPECT_EQ(Everything(), before);
+}
+
+/// VILLA, in the directory HOUSES, and HUT, elsewhere, have a sheet numbered 1.
+struct SharedNumbers : ::testing::Test {
+    SharedNumbers() {
+        file.AddDirectory("HOUSES");
+        file.AddProject("HOUSES", "VILLA", 1, 2);
+        file.AddProject("MAY", "CABIN", 2, 1);
+        file.AddProject("MAY", "HUT", 1, 4);
+    }
+    Lines Sheets() const {
+        return file.Rows("SELECT TabIndex, ProjName, ObjNum FROM MainTab ORDER BY rowid");
+    }
+    Lines Rooms() const {
+        return file.Rows("SELECT TabIndex, count(*) FROM InputData GROUP BY TabIndex");
+    }
+
+    TestDatabase file;
+    ProjectStore store = file.Open(ShortWait);
+};
+
+TEST_F(SharedNumbers, ADeletedProjectLeavesTheSheetAndTheRoomsOfTheOther) {
+    store.DeleteProject("VILLA");
+    EXPECT_EQ(Sheets(), (Lines{"2|CABIN|1", "1|HUT|4"}));
+    EXPECT_EQ(Rooms(), (Lines{"1|6", "2|1"})) << "whose the rows are cannot be told";
+    store.DeleteProject("hut");
+    EXPECT_EQ(Sheets(), Lines{"2|CABIN|1"});
+    EXPECT_EQ(Rooms(), Lines{"2|1"}) << "with the last project of the number they go";
+}
+
+TEST_F(SharedNumbers, ADeletedDirectoryLeavesTheSheetsAndTheRoomsOfOthers) {
+    file.AddProject("HOUSES", "TOWER", 1, 1);
+    store.DeleteDirectory("HOUSES");
+    EXPECT_EQ(Sheets(), (Lines{"2|CABIN|1", "1|HUT|4"}));
+    EXPECT_EQ(Rooms(), (Lines{"1|7", "2|1"}));
+    EXPECT_EQ(file.Rows("SELECT ProjName FROM ProjTab ORDER BY rowid"), (Lines{"CABIN", "HUT"}));
+}
+
+TEST_F(SharedNumbers, ADirectoryWhoseProjectsShareANumberAmongThemselvesIsDeletedWhole) {
+    store.DeleteDirectory("MAY"); // HUT leaves number 1 to VILLA
+    ASSERT_EQ(Sheets(), Lines{"1|VILLA|2"});
+    file.AddProject("HOUSES", "TOWER", 1, 1);
+    store.DeleteDirectory("HOUSES");
+    EXPECT_EQ(Sheets(), Lines{});
+    EXPECT_EQ(Rooms(), Lines{});
+}
+
+TEST_F(SharedNumbers, AnotherSheetsBadNumberStopsNoDeletion) {
+    for (const char* bad : {"NULL", "'many'"}) {
+        SCOPED_TRACE(bad);
+        file.AddProject("MAY", "SHED", 9);
+        file.Run("UPDATE MainTab SET TabIndex = " + std::string(bad) + " WHERE ProjName = 'HUT'");
+        store.DeleteProject("SHED");
+        EXPECT_EQ(file.Rows("SELECT ProjName FROM MainTab ORDER BY rowid"),
+                  (Lines{"VILLA", "CABIN", "HUT"}));
+    }
+}
+
+TEST_F(SharedNumbers, ADeletionThatNeedsANumberAndFindsNoneChangesNothing) {
+    file.AddProject("HOUSES", "TOWER", 1, 1);
+    file.AddProject("MAY", "LAST", 32766);
+    const Lines sheets = Sheets();
+    EXPECT_THROW(store.DeleteDirectory("HOUSES"), RunTimeError) << "it needs two";
+    EXPECT_EQ(Sheets(), sheets);
+    EXPECT_EQ(Rooms(), (Lines{"1|7", "2|1"}));
+}
+
+TEST_F(SharedNumbers, ADeletionThatFailsLeavesTheNumbersAsTheyWere) {
+    file.Run("CREATE TRIGGER Stop BEFORE DELETE ON DirTab BEGIN SELECT RAISE(ABORT, 'stop'); END");
+    const Lines sheets = Sheets();
+    EXPECT_THROW(store.DeleteDirectory("HOUSES"), DatabaseError);
+    EXPECT_EQ(Sheets(), sheets);
+    EXPECT_EQ(Rooms(), (Lines{"1|6", "2|1"}));
 }
 
 } // namespace

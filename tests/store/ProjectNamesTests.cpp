@@ -1,4 +1,4 @@
-#include "app/StartModule.h"
+#include "store/Months.h"
 #include "store/Names.h"
 #include "store/ProjectNames.h"
 #include "store/TestDatabase.h"
@@ -58,64 +58,55 @@ TEST(FittingNames, EndAt64Characters) {
 
 struct NewNames : ::testing::Test {
     NewNames() {
-        FillMonthStr(state);
         file.AddDirectory("HOUSES");
         file.AddProject("HOUSES", "VILLA", 1);
-        file.OpenInto(state, ShortWait);
     }
     TestDatabase file;
-    SharedState state;
+    ProjectStore store = file.Open(ShortWait);
 };
 
-TEST_F(NewNames, TheTwelveMonthsAreListedFromJanuaryOn) {
-    const auto months = MonthNames(state);
-    ASSERT_EQ(months.size(), 12U);
-    EXPECT_EQ(months.front(), "JANUARY");
-    EXPECT_EQ(months.back(), "DECEMBER");
-}
-
 TEST_F(NewNames, TheTwelveMonthsAreTakenDirectories) {
-    for (int month = 0; month < 12; ++month) {
-        EXPECT_TRUE(IsDirectoryTaken(state, state.MonthStr[month])) << month;
+    for (const std::string_view month : MonthNames) {
+        EXPECT_TRUE(IsDirectoryTaken(store, month)) << month;
     }
-    EXPECT_TRUE(IsDirectoryTaken(state, " march "));
-    EXPECT_TRUE(IsDirectoryTaken(state, "Houses"));
-    EXPECT_FALSE(IsDirectoryTaken(state, "HOUSE"));
-    EXPECT_FALSE(IsDirectoryTaken(state, "")) << "the last entry of MonthStr is no month";
+    EXPECT_TRUE(IsDirectoryTaken(store, " march "));
+    EXPECT_TRUE(IsDirectoryTaken(store, "Houses"));
+    EXPECT_FALSE(IsDirectoryTaken(store, "HOUSE"));
+    EXPECT_FALSE(IsDirectoryTaken(store, ""));
 }
 
 TEST_F(NewNames, ADirectoryIsRefusedForATakenOrALongName) {
     const std::string taken = "There is one directory with the same name, change to other one!";
-    EXPECT_EQ(DirectoryNameRefusal(state, "houses"), taken);
-    EXPECT_EQ(DirectoryNameRefusal(state, "MAY"), taken);
-    EXPECT_EQ(DirectoryNameRefusal(state, "A\"B:C"), std::nullopt);
-    EXPECT_EQ(DirectoryNameRefusal(state, std::string(64, 'A')), std::nullopt);
+    EXPECT_EQ(DirectoryNameRefusal(store, "houses"), taken);
+    EXPECT_EQ(DirectoryNameRefusal(store, "MAY"), taken);
+    EXPECT_EQ(DirectoryNameRefusal(store, "A\"B:C"), std::nullopt);
+    EXPECT_EQ(DirectoryNameRefusal(store, std::string(64, 'A')), std::nullopt);
     const std::string tooLong(65, 'A');
-    EXPECT_EQ(DirectoryNameRefusal(state, tooLong),
+    EXPECT_EQ(DirectoryNameRefusal(store, tooLong),
               "The directory name " + tooLong + " has more than 64 characters.");
 }
 
 TEST_F(NewNames, AProjectIsRefusedForItsCharactersATakenOrALongName) {
     for (const char c : ForbiddenInProjectName) {
-        EXPECT_EQ(ProjectNameRefusal(state, std::string("A") + c),
+        EXPECT_EQ(ProjectNameRefusal(store, std::string("A") + c),
                   "Sorry, the project name couldn't contain any of following characters:\r\n"
                   "   \\/:*?\"<>|");
     }
-    EXPECT_EQ(ProjectNameRefusal(state, "A\tB"), ForbiddenCharactersMessage);
-    EXPECT_EQ(ProjectNameRefusal(state, "villa"),
+    EXPECT_EQ(ProjectNameRefusal(store, "A\tB"), ForbiddenCharactersMessage);
+    EXPECT_EQ(ProjectNameRefusal(store, "villa"),
               "There is one project with the same name, change to other one!");
-    EXPECT_EQ(ProjectNameRefusal(state, "HOUSES"), std::nullopt);
+    EXPECT_EQ(ProjectNameRefusal(store, "HOUSES"), std::nullopt);
     const std::string tooLong(65, 'A');
-    EXPECT_EQ(ProjectNameRefusal(state, tooLong),
+    EXPECT_EQ(ProjectNameRefusal(store, tooLong),
               "The project name " + tooLong + " has more than 64 characters.");
 }
 
 TEST_F(NewNames, AFailureOfTheDatabaseIsNoAnswer) {
     file.Run("DROP TABLE DirTab");
     file.Run("DROP TABLE ProjTab");
-    EXPECT_THROW(IsDirectoryTaken(state, "X"), DatabaseError);
-    EXPECT_THROW(DirectoryNameRefusal(state, "X"), DatabaseError);
-    EXPECT_THROW(ProjectNameRefusal(state, "X"), DatabaseError);
+    EXPECT_THROW(IsDirectoryTaken(store, "X"), DatabaseError);
+    EXPECT_THROW(DirectoryNameRefusal(store, "X"), DatabaseError);
+    EXPECT_THROW(ProjectNameRefusal(store, "X"), DatabaseError);
 }
 
 } // namespace

@@ -1,7 +1,4 @@
 #include "store/Names.h"
-#include "store/Projects.h"
-#include "store/Renames.h"
-#include "store/SharedRows.h"
 #include "store/TestDatabase.h"
 
 #include <gtest/gtest.h>
@@ -11,104 +8,115 @@
 namespace tarn {
 namespace {
 
+using testing::DatabaseErrorOf;
 using testing::RawDatabase;
 using testing::ShortWait;
 using testing::TestDatabase;
 
 using Lines = std::vector<std::string>;
+using Pairs = std::vector<std::pair<std::string, std::string>>;
 
 class Projects : public ::testing::Test {
   protected:
-    Projects() { file_.OpenInto(state_, ShortWait); }
+    /// Expect that `action` raises a DatabaseError whose text has that part.
+    template <typename Action>
+    static void ExpectError(Action&& action, const std::string& part) {
+        const std::string text = DatabaseErrorOf(action);
+        EXPECT_NE(text.find(part), std::string::npos) << text;
+    }
 
     TestDatabase file_;
-    SharedState state_;
+    ProjectStore store_ = file_.Open(ShortWait);
 };
 
-TEST_F(Projects, CheckDirSaysWhetherTheDirectoryExists) {
+TEST_F(Projects, ADirectoryIsThereWhenARowHoldsItsName) {
     file_.AddDirectory("HOUSES");
     file_.AddDirectory("OFFICES");
-    EXPECT_TRUE(CheckDir(state_, "OFFICES"));
-    EXPECT_FALSE(CheckDir(state_, "SHOPS"));
-}
-
-TEST_F(Projects, CheckProjNameSaysWhetherTheNameIsFree) {
-    file_.AddProject("HOUSES", "A", 1);
-    file_.AddProject("OFFICES", "B", 2);
-    EXPECT_FALSE(CheckProjName(state_, "B"));
-    EXPECT_TRUE(CheckProjName(state_, "C"));
+    EXPECT_TRUE(store_.HasDirectory("OFFICES"));
+    EXPECT_FALSE(store_.HasDirectory("SHOPS"));
 }
 
 TEST_F(Projects, NamesAreComparedInFullUpperCaseWithoutTheirBlanks) {
     file_.AddDirectory("MÜLLER");
     file_.Run("INSERT INTO ProjTab VALUES ('MÜLLER', 'квартира', 0)");
-    EXPECT_TRUE(CheckDir(state_, "  müller "));
-    EXPECT_FALSE(CheckProjName(state_, "КВАРТИРА"));
-    EXPECT_EQ(DirectoryOf(state_, "Квартира "), "MÜLLER");
-    EXPECT_EQ(ListProjects(state_, "Müller"), Lines{"квартира"});
+    EXPECT_TRUE(store_.HasDirectory("  müller "));
+    EXPECT_EQ(store_.DirectoryOf("КВАРТИРА"), "MÜLLER");
+    EXPECT_EQ(store_.DirectoryOf("Квартира "), "MÜLLER");
+    EXPECT_EQ(store_.Projects("Müller"), Lines{"квартира"});
 }
 
 TEST_F(Projects, MonthsAreNoDirectories) {
-    EXPECT_FALSE(CheckDir(state_, "MARCH"));
+    EXPECT_FALSE(store_.HasDirectory("MARCH"));
 }
 
-TEST_F(Projects, ChecksSeeWhatOthersStoredMeanwhile) {
-    EXPECT_FALSE(CheckDir(state_, "HOUSES"));
-    EXPECT_TRUE(CheckProjName(state_, "A"));
+TEST_F(Projects, WhatOthersStoredMeanwhileIsSeen) {
+    EXPECT_FALSE(store_.HasDirectory("HOUSES"));
+    EXPECT_EQ(store_.DirectoryOf("A"), std::nullopt);
     file_.AddDirectory("HOUSES");
     file_.AddProject("HOUSES", "A", 1);
-    EXPECT_TRUE(CheckDir(state_, "HOUSES"));
-    EXPECT_FALSE(CheckProjName(state_, "A"));
+    EXPECT_TRUE(store_.HasDirectory("HOUSES"));
+    EXPECT_EQ(store_.DirectoryOf("A"), "HOUSES");
+    EXPECT_EQ(store_.Directories(), Lines{"HOUSES"});
+    EXPECT_EQ(store_.Projects("HOUSES"), Lines{"A"});
 }
 
 TEST_F(Projects, AProjectKnowsItsDirectory) {
     file_.AddProject("HOUSES", "A", 1);
-    EXPECT_EQ(DirectoryOf(state_, "A"), "HOUSES");
-    EXPECT_EQ(DirectoryOf(state_, "B"), std::nullopt);
+    file_.AddProject("OFFICES", "B", 2);
+    EXPECT_EQ(store_.DirectoryOf("A"), "HOUSES");
+    EXPECT_EQ(store_.DirectoryOf("B"), "OFFICES");
+    EXPECT_EQ(store_.DirectoryOf("C"), std::nullopt);
 }
 
 TEST_F(Projects, DirectoriesAreListedByName) {
-    for (const char* name : {"SHOPS", "HOUSES", "OFFICES"}) {
+    for (const char* name : {"SHOPS", "houses", "OFFICES"}) {
         file_.AddDirectory(name);
     }
-    EXPECT_EQ(ListDirectories(state_), (Lines{"HOUSES", "OFFICES", "SHOPS"}));
+    EXPECT_EQ(store_.Directories(), (Lines{"houses", "OFFICES", "SHOPS"}));
 }
 
-TEST_F(Projects, ProjectsOfOneDirectoryAreListedAsStored) {
+TEST_F(Projects, ProjectsOfOneDirectoryAreListedAsStoredByTheirRows) {
     file_.AddProject("HOUSES", "Z", 1);
     file_.AddProject("OFFICES", "B", 2);
     file_.AddProject("HOUSES", "A", 3);
-    EXPECT_EQ(ListProjects(state_, "HOUSES"), (Lines{"Z", "A"}));
-    EXPECT_EQ(ListProjects(state_, "SHOPS"), Lines{});
+    EXPECT_EQ(store_.Projects("HOUSES"), (Lines{"Z", "A"}));
+    EXPECT_EQ(store_.Projects("SHOPS"), Lines{});
+}
+
+TEST_F(Projects, AllOfThemAreListedWithTheirDirectoriesByTheirRows) {
+    file_.AddProject("HOUSES", "Z", 1);
+    file_.AddProject("offices", "B", 2);
+    file_.AddProject("HOUSES", "A", 3);
+    file_.Run("INSERT INTO ProjTab VALUES (NULL, 'NOWHERE', 0)");
+    EXPECT_EQ(store_.AllProjects(),
+              (Pairs{{"HOUSES", "Z"}, {"offices", "B"}, {"HOUSES", "A"}, {"", "NOWHERE"}}));
 }
 
 TEST_F(Projects, ADirectoryIsAddedInItsStoredForm) {
-    EXPECT_TRUE(AddDirectory(state_, "  müller & söhne ")) << state_.DatabaseFailure;
+    store_.AddDirectory("  müller & söhne ");
     EXPECT_EQ(file_.Rows("SELECT Directory FROM DirTab"), Lines{"MÜLLER & SÖHNE"});
-    EXPECT_TRUE(CheckDir(state_, "Müller & Söhne"));
+    EXPECT_TRUE(store_.HasDirectory("Müller & Söhne"));
 }
 
 TEST_F(Projects, AFileThatWasMovedMeanwhileIsToldFromAReadOnlyOne) {
     const std::string away = file_.Folder().Path("away.mdb");
     std::filesystem::rename(file_.Path(), away);
-    EXPECT_FALSE(AddDirectory(state_, "HOUSES"));
-    EXPECT_NE(state_.DatabaseFailure.find("was moved, deleted or replaced"), std::string::npos)
-        << state_.DatabaseFailure;
+    ExpectError([&] { store_.AddDirectory("HOUSES"); }, "was moved, deleted or replaced");
     std::filesystem::rename(away, file_.Path());
-    EXPECT_TRUE(AddDirectory(state_, "HOUSES")) << state_.DatabaseFailure;
+    EXPECT_NO_THROW(store_.AddDirectory("HOUSES"));
 }
 
 TEST_F(Projects, ADirectoryMayHoldADoubleQuote) {
-    EXPECT_TRUE(AddDirectory(state_, "a\"b"));
-    EXPECT_TRUE(CheckDir(state_, "A\"B"));
-    EXPECT_EQ(ListDirectories(state_), Lines{"A\"B"});
+    store_.AddDirectory("a\"b");
+    EXPECT_TRUE(store_.HasDirectory("A\"B"));
+    EXPECT_EQ(store_.Directories(), Lines{"A\"B"});
 }
 
 TEST_F(Projects, AProjectIsAddedInItsStoredFormWithDrawingNumberZero) {
-    EXPECT_TRUE(AddProject(state_, "march", " o'hara 100%; ")) << state_.DatabaseFailure;
+    store_.AddProject("march", " o'hara 100%; ");
     EXPECT_EQ(file_.Rows("SELECT Dir, ProjName, DrawingNum FROM ProjTab"),
               Lines{"MARCH|O'HARA 100%;|0"});
-    EXPECT_FALSE(CheckProjName(state_, "O'Hara 100%;"));
+    EXPECT_EQ(store_.DirectoryOf("O'Hara 100%;"), "MARCH");
 }
 
 TEST_F(Projects, NamesHoldAtMost64Characters) {
@@ -116,91 +124,75 @@ TEST_F(Projects, NamesHoldAtMost64Characters) {
     for (int i = 0; i < 64; ++i) {
         name += "ü";
     }
-    EXPECT_TRUE(AddDirectory(state_, name));
-    EXPECT_TRUE(AddProject(state_, name, name));
-    EXPECT_FALSE(AddDirectory(state_, name + "x"));
-    EXPECT_FALSE(AddProject(state_, "D", name + "x"));
-    EXPECT_FALSE(AddProject(state_, name + "x", "P"));
-    EXPECT_NE(state_.DatabaseFailure.find("more than 64"), std::string::npos);
+    store_.AddDirectory(name);
+    store_.AddProject(name, name);
+    ExpectError([&] { store_.AddDirectory(name + "x"); }, "more than 64");
+    ExpectError([&] { store_.AddProject("D", name + "x"); }, "more than 64");
+    ExpectError([&] { store_.AddProject(name + "x", "P"); }, "more than 64");
     EXPECT_EQ(file_.Rows("SELECT count(*) FROM DirTab"), Lines{"1"});
     EXPECT_EQ(file_.Rows("SELECT count(*) FROM ProjTab"), Lines{"1"});
 }
 
 TEST_F(Projects, NamesMayNotBeEmpty) {
-    EXPECT_FALSE(AddDirectory(state_, "  "));
-    EXPECT_EQ(state_.DatabaseFailure, "The directory needs a name.");
-    EXPECT_FALSE(AddProject(state_, "D", ""));
-    EXPECT_EQ(state_.DatabaseFailure, "The project needs a name.");
-    EXPECT_FALSE(AddProject(state_, "", "P"));
+    EXPECT_EQ(DatabaseErrorOf([&] { store_.AddDirectory("  "); }), "The directory needs a name.");
+    EXPECT_EQ(DatabaseErrorOf([&] { store_.AddProject("D", ""); }), "The project needs a name.");
+    EXPECT_EQ(DatabaseErrorOf([&] { store_.AddProject("", "P"); }), "The directory needs a name.");
+    EXPECT_EQ(file_.Rows("SELECT * FROM DirTab"), Lines{});
     EXPECT_EQ(file_.Rows("SELECT * FROM ProjTab"), Lines{});
 }
 
 TEST_F(Projects, AProjectNameHoldsNoControlCharacter) {
     for (const char c : {'\0', '\t', '\n', '\x1F', '\x7F'}) {
-        EXPECT_FALSE(AddProject(state_, "MARCH", std::string("A") + c + "B"));
-        EXPECT_NE(state_.DatabaseFailure.find("control character"), std::string::npos);
+        ExpectError([&] { store_.AddProject("MARCH", std::string("A") + c + "B"); },
+                    "control character");
     }
     EXPECT_EQ(file_.Rows("SELECT * FROM ProjTab"), Lines{});
-    EXPECT_TRUE(AddProject(state_, "MARCH", "ÄÖ 浴室")) << state_.DatabaseFailure;
+    EXPECT_NO_THROW(store_.AddProject("MARCH", "ÄÖ 浴室"));
 }
 
 TEST_F(Projects, AProjectNameHoldsNoForbiddenCharacter) {
     EXPECT_EQ(ForbiddenInProjectName.size(), 9U);
     for (const char c : ForbiddenInProjectName) {
-        EXPECT_FALSE(AddProject(state_, "D", std::string("A") + c)) << c;
+        ExpectError([&] { store_.AddProject("D", std::string("A") + c); }, "\\/:*?\"<>|");
     }
-    EXPECT_NE(state_.DatabaseFailure.find("\\/:*?\"<>|"), std::string::npos);
     EXPECT_EQ(file_.Rows("SELECT * FROM ProjTab"), Lines{});
 }
 
 TEST_F(Projects, AddingToALockedDatabaseFailsWithTheCause) {
     RawDatabase other(file_.Path());
     other.Run("BEGIN IMMEDIATE");
-    EXPECT_FALSE(AddDirectory(state_, "D"));
-    EXPECT_NE(state_.DatabaseFailure.find("another program"), std::string::npos);
-    EXPECT_FALSE(AddProject(state_, "D", "P"));
+    EXPECT_EQ(DatabaseErrorOf([&] { store_.AddDirectory("D"); }),
+              "DirTab takes no new row: another program is using the database. Close that program "
+              "and try again.");
+    ExpectError([&] { store_.AddProject("D", "P"); }, "another program");
     other.Run("COMMIT");
     EXPECT_EQ(file_.Rows("SELECT * FROM DirTab"), Lines{});
-    EXPECT_TRUE(AddDirectory(state_, "D"));
+    EXPECT_EQ(file_.Rows("SELECT * FROM ProjTab"), Lines{});
+    EXPECT_NO_THROW(store_.AddDirectory("D"));
 }
 
-TEST_F(Projects, ChecksAndListsRaiseWithTheCause) {
-    file_.Run("DROP TABLE DirTab");
-    file_.Run("DROP TABLE ProjTab");
-    EXPECT_NE(
-        testing::DatabaseErrorOf([&] { CheckDir(state_, "D"); }).find("no such table: DirTab"),
-        std::string::npos);
-    EXPECT_THROW(CheckProjName(state_, "P"), DatabaseError);
-    EXPECT_THROW(DirectoryOf(state_, "P"), DatabaseError);
-    EXPECT_THROW(ListDirectories(state_), DatabaseError);
-    EXPECT_THROW(ListProjects(state_, "D"), DatabaseError);
+TEST_F(Projects, AMissingFieldIsNamed) {
+    file_.Run("ALTER TABLE ProjTab DROP COLUMN DrawingNum");
+    EXPECT_EQ(DatabaseErrorOf([&] { store_.AddProject("D", "P"); }),
+              "ProjTab has no field DrawingNum.");
 }
 
-TEST_F(Projects, WithoutADatabaseTheyRaiseTheReasonWhyItIsNotOpen) {
-    state_.CurDB.reset();
-    state_.DatabaseFailure = "It is missing.";
-    EXPECT_EQ(testing::DatabaseErrorOf([&] { CheckDir(state_, "D"); }), "It is missing.");
-    EXPECT_FALSE(AddProject(state_, "D", "P"));
-    EXPECT_EQ(state_.DatabaseFailure, "It is missing.");
-}
+TEST_F(Projects, QuestionsAndListsRaiseWithTheCause) {
+    file_.Run("ALTER TABLE DirTab RENAME TO HiddenDirs");
+    file_.Run("ALTER TABLE ProjTab RENAME TO HiddenProjects");
+    EXPECT_EQ(DatabaseErrorOf([&] { store_.HasDirectory("D"); }),
+              "DirTab cannot be read: no such table: DirTab.");
+    EXPECT_THROW(store_.Directories(), DatabaseError);
+    EXPECT_THROW(store_.DirectoryOf("P"), DatabaseError);
+    EXPECT_THROW(store_.Projects("D"), DatabaseError);
+    EXPECT_THROW(store_.AllProjects(), DatabaseError);
+    EXPECT_THROW(store_.AddDirectory("D"), DatabaseError);
+    EXPECT_THROW(store_.AddProject("D", "P"), DatabaseError);
 
-TEST_F(Projects, ASharedSetThatCouldNotBeOpenedIsOpenedWhenItCanBe) {
-    file_.Run("ALTER TABLE DirTab RENAME TO Hidden");
-    EXPECT_THROW(RowsOf(state_, SharedRows::Directories), DatabaseError);
-    EXPECT_EQ(state_.DBRS[1], nullptr);
-    file_.Run("ALTER TABLE Hidden RENAME TO DirTab");
-    file_.AddDirectory("D");
-    EXPECT_TRUE(CheckDir(state_, "D"));
-    EXPECT_NE(state_.DBRS[1], nullptr);
-}
-
-TEST_F(Projects, ASharedSetReopenedStandsAtItsFirstRow) {
-    file_.AddDirectory("D");
-    Recordset& rows = RowsOf(state_, SharedRows::Directories);
-    rows.MoveNext();
-    EXPECT_TRUE(RowsOf(state_, SharedRows::Directories).AtEnd()) << "it stands where it was left";
-    ReopenRows(state_, SharedRows::Directories);
-    EXPECT_FALSE(RowsOf(state_, SharedRows::Directories).AtEnd());
+    file_.Run("ALTER TABLE HiddenDirs RENAME TO DirTab");
+    file_.Run("ALTER TABLE HiddenProjects RENAME TO ProjTab");
+    EXPECT_FALSE(store_.HasDirectory("D")) << "it goes on when it can";
+    EXPECT_EQ(store_.DirectoryOf("P"), std::nullopt);
 }
 
 } // namespace

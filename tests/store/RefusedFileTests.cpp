@@ -1,4 +1,3 @@
-#include "store/SqlDatabase.h"
 #include "store/TestDatabase.h"
 
 #include <gtest/gtest.h>
@@ -47,7 +46,7 @@ class RefusedFile : public ::testing::TestWithParam<BadFile> {
 TEST_P(RefusedFile, IsRefusedWithItsPathTheCauseAndWhatToDo) {
     for (const auto access : {DatabaseAccess::ReadWrite, DatabaseAccess::ReadOnly}) {
         const std::string text =
-            DatabaseErrorOf([&] { OpenSqlDatabase(file_.Path(), access, ShortWait); });
+            DatabaseErrorOf([&] { ProjectStore(file_.Path(), access, ShortWait); });
         EXPECT_NE(text.find("The database file " + file_.Path()), std::string::npos) << text;
         EXPECT_NE(text.find(GetParam().Cause), std::string::npos) << text;
         EXPECT_NE(text.find(". "), std::string::npos) << "no second sentence: " << text;
@@ -59,7 +58,7 @@ TEST_P(RefusedFile, IsLeftAsItIs) {
     const std::string before = isFile ? ReadFile(file_.Path()) : std::string();
     const auto content = file_.Folder().Content();
     for (const auto access : {DatabaseAccess::ReadWrite, DatabaseAccess::ReadOnly}) {
-        EXPECT_THROW(OpenSqlDatabase(file_.Path(), access, ShortWait), DatabaseError);
+        EXPECT_THROW(ProjectStore(file_.Path(), access, ShortWait), DatabaseError);
     }
     EXPECT_EQ(file_.Folder().Content(), content);
     if (isFile) {
@@ -68,7 +67,7 @@ TEST_P(RefusedFile, IsLeftAsItIs) {
 }
 
 INSTANTIATE_TEST_SUITE_P(
-    SqlDatabase, RefusedFile,
+    OpeningADatabase, RefusedFile,
     ::testing::Values(
         BadFile{"Missing", [](const std::string& path) { fs::remove(path); },
                 "is missing. Correct its path or the data folder in TarnWin.INI, or make a new "
@@ -106,79 +105,78 @@ INSTANTIATE_TEST_SUITE_P(
                 "damaged"}),
     [](const auto& bad) { return bad.param.Name; });
 
-TEST(SqlDatabase, RefusesAFileThatIsCutShortAnywhere) {
+TEST(OpeningADatabase, RefusesAFileThatIsCutShortAnywhere) {
     const TestDatabase file;
     const std::string whole = ReadFile(file.Path());
     for (std::size_t length = 0; length < whole.size(); length += 1499) {
         WriteFile(file.Path(), whole.substr(0, length));
-        EXPECT_THROW(OpenSqlDatabase(file.Path()), DatabaseError) << length << " bytes";
+        EXPECT_THROW(file.Open(), DatabaseError) << length << " bytes";
         EXPECT_EQ(ReadFile(file.Path()).size(), length);
     }
     WriteFile(file.Path(), whole.substr(0, whole.size() - 1));
-    EXPECT_THROW(OpenSqlDatabase(file.Path()), DatabaseError);
+    EXPECT_THROW(file.Open(), DatabaseError);
 }
 
-TEST(SqlDatabase, AnErrorInTheMiddleOfTheRowsIsNotTheirEnd) {
+TEST(OpeningADatabase, AnErrorInTheMiddleOfTheRowsIsNotTheirEnd) {
     constexpr std::size_t ChangeCounterAt = 27; // its lowest byte: SQLite reads its pages anew
     const TestDatabase file;
     file.Run("WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 3000) "
              "INSERT INTO DirTab SELECT 'NAME ' || i FROM n");
-    const auto database = OpenSqlDatabase(file.Path());
+    ProjectStore store = file.Open();
     std::string bytes = ReadFile(file.Path());
     ++bytes.at(ChangeCounterAt);
     const auto middle = static_cast<std::ptrdiff_t>(bytes.find("NAME 2000"));
     std::fill(bytes.begin() + middle - 5000, bytes.begin() + middle + 5000, 'x');
     WriteFile(file.Path(), bytes);
     EXPECT_NE(DatabaseErrorOf([&] {
-                  database->OpenSnapshot("Select * from DirTab");
+                  store.Directories();
               }).find("DirTab cannot be read: the database file is damaged"),
               std::string::npos);
 }
 
-TEST(SqlDatabase, RefusesAReadOnlyFileForWritingAndOpensItForReading) {
+TEST(OpeningADatabase, RefusesAReadOnlyFileForWritingAndOpensItForReading) {
     const TestDatabase file;
     ForbidWriting(file.Path());
-    const std::string text = DatabaseErrorOf([&] { OpenSqlDatabase(file.Path()); });
+    const std::string text = DatabaseErrorOf([&] { file.Open(); });
     EXPECT_EQ(text, "The database file " + file.Path() + " is read-only. Allow writing to it.");
 
     file.AddDirectory("MARCH");
-    const auto database = OpenSqlDatabase(file.Path(), DatabaseAccess::ReadOnly);
-    const auto rows = database->OpenDynaset("Select * from DirTab");
-    EXPECT_EQ(rows->Field("Directory"), FieldValue(std::string("MARCH")));
-    EXPECT_THROW(rows->Delete(), DatabaseError);
+    ProjectStore store(file.Path(), DatabaseAccess::ReadOnly);
+    EXPECT_EQ(store.Directories(), std::vector<std::string>{"MARCH"});
+    EXPECT_THROW(store.DeleteDirectory("MARCH"), DatabaseError);
+    EXPECT_EQ(store.Directories(), std::vector<std::string>{"MARCH"});
 }
 
-TEST(SqlDatabase, RefusesAReadOnlyFolderForWritingAndOpensItForReading) {
+TEST(OpeningADatabase, RefusesAReadOnlyFolderForWritingAndOpensItForReading) {
     const TestDatabase file;
     ForbidWriting(file.Folder().Path());
-    const std::string text = DatabaseErrorOf([&] { OpenSqlDatabase(file.Path()); });
+    const std::string text = DatabaseErrorOf([&] { file.Open(); });
     EXPECT_EQ(text, "The database file " + file.Path() +
                         " lies in a read-only folder. Allow writing to the folder.");
-    EXPECT_NO_THROW(OpenSqlDatabase(file.Path(), DatabaseAccess::ReadOnly));
+    EXPECT_NO_THROW(ProjectStore(file.Path(), DatabaseAccess::ReadOnly));
     AllowWriting(file.Folder().Path());
 }
 
-TEST(SqlDatabase, LooksAtTheFolderThatALinkLeadsTo) {
+TEST(OpeningADatabase, LooksAtTheFolderThatALinkLeadsTo) {
     const TestDatabase file;
     const testing::TestFolder links;
     fs::create_symlink(file.Path(), links.Path("Tarn.mdb"));
-    EXPECT_NO_THROW(OpenSqlDatabase(links.Path("Tarn.mdb")));
+    EXPECT_NO_THROW(ProjectStore(links.Path("Tarn.mdb"), DatabaseAccess::ReadWrite));
     ForbidWriting(file.Folder().Path());
-    EXPECT_THROW(OpenSqlDatabase(links.Path("Tarn.mdb")), DatabaseError);
+    EXPECT_THROW(ProjectStore(links.Path("Tarn.mdb"), DatabaseAccess::ReadWrite), DatabaseError);
     AllowWriting(file.Folder().Path());
 }
 
-TEST(SqlDatabase, RefusesAFileThatAnotherProgramHasLocked) {
+TEST(OpeningADatabase, RefusesAFileThatAnotherProgramHasLocked) {
     const TestDatabase file;
     RawDatabase other(file.Path());
     other.Run("BEGIN EXCLUSIVE");
-    const std::string text = DatabaseErrorOf(
-        [&] { OpenSqlDatabase(file.Path(), DatabaseAccess::ReadWrite, ShortWait); });
+    const std::string text = DatabaseErrorOf([&] { file.Open(ShortWait); });
     EXPECT_EQ(text, "The database file " + file.Path() +
                         " cannot be opened: another program is using the database. Close that "
                         "program and try again.");
     other.Run("COMMIT");
-    EXPECT_NO_THROW(OpenSqlDatabase(file.Path(), DatabaseAccess::ReadWrite, ShortWait));
+    EXPECT_NO_THROW(file.Open(ShortWait));
 }
 
 } // namespace

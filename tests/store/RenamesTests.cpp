@@ -1,4 +1,3 @@
-#include "store/Renames.h"
 #include "store/TestDatabase.h"
 
 #include <gtest/gtest.h>
@@ -6,6 +5,7 @@
 namespace tarn {
 namespace {
 
+using testing::DatabaseErrorOf;
 using testing::RawDatabase;
 using testing::ShortWait;
 using testing::TestDatabase;
@@ -21,7 +21,6 @@ class Renames : public ::testing::Test {
         file_.AddProject("D1", "P1", 1);
         file_.AddProject("D2", "P2", 2);
         file_.AddProject("D1", "P3", 3);
-        file_.OpenInto(state_, ShortWait);
     }
 
     Lines Directories() const { return file_.Rows("SELECT Directory FROM DirTab ORDER BY rowid"); }
@@ -39,17 +38,17 @@ class Renames : public ::testing::Test {
     }
 
     TestDatabase file_;
-    SharedState state_;
+    ProjectStore store_ = file_.Open(ShortWait);
 };
 
 TEST_F(Renames, ADirectoryTakesItsProjectsWithIt) {
-    EXPECT_TRUE(ChangeDirName(state_, "D1", "NEW")) << state_.DatabaseFailure;
+    store_.RenameDirectory("D1", "NEW");
     EXPECT_EQ(Directories(), (Lines{"NEW", "D2"}));
     EXPECT_EQ(Projects(), (Lines{"NEW|P1", "D2|P2", "NEW|P3"}));
 }
 
 TEST_F(Renames, AProjectTakesItsSheetWithIt) {
-    EXPECT_TRUE(ChangeProjName(state_, "P2", "NEW")) << state_.DatabaseFailure;
+    store_.RenameProject("P2", "NEW");
     EXPECT_EQ(Projects(), (Lines{"D1|P1", "D2|NEW", "D1|P3"}));
     EXPECT_EQ(Sheets(), (Lines{"1|P1", "2|NEW", "3|P3"}));
 }
@@ -58,30 +57,41 @@ TEST_F(Renames, NamesMayHoldAnyCharacterButADoubleQuoteInTheOldOne) {
     std::string old = "P1";
     for (const char* name :
          {"DIR", "PROJNAME", "O'HARA", "100%", "A;B", "КВАРТИРА", "床", "?", "P1"}) {
-        EXPECT_TRUE(ChangeProjName(state_, old, name)) << state_.DatabaseFailure;
+        store_.RenameProject(old, name);
         EXPECT_EQ(Sheets().front(), "1|" + std::string(name));
         old = name;
     }
     ExpectNothingChanged();
 }
 
-TEST_F(Renames, NamesAreStoredAsTheyStand) {
-    EXPECT_TRUE(ChangeDirName(state_, "D1", " new \"x\" "));
-    EXPECT_EQ(Directories().front(), " new \"x\" ");
-    EXPECT_EQ(Projects().front(), " new \"x\" |P1");
+TEST_F(Renames, TheNewNameIsStoredInItsStoredForm) {
+    store_.RenameDirectory("D1", " müller \"x\" ");
+    EXPECT_EQ(Directories().front(), "MÜLLER \"X\"");
+    EXPECT_EQ(Projects().front(), "MÜLLER \"X\"|P1");
+    store_.RenameProject("P1", " manor ");
+    EXPECT_EQ(Projects().front(), "MÜLLER \"X\"|MANOR");
+    EXPECT_EQ(Sheets().front(), "1|MANOR");
+}
+
+TEST_F(Renames, TheOldNameIsFoundAsItStandsAndInAnotherCaseOfAToZ) {
+    file_.Run("UPDATE DirTab SET Directory = ' дом ' WHERE Directory = 'D1'");
+    store_.RenameDirectory(" дом ", "HOUSES");
+    EXPECT_EQ(Directories().front(), "HOUSES");
+    store_.RenameDirectory("d2", "SHOPS");
+    EXPECT_EQ(Directories().back(), "SHOPS");
 }
 
 TEST_F(Renames, ANameThatNoRowHasChangesNothing) {
-    EXPECT_TRUE(ChangeDirName(state_, "NOWHERE", "NEW"));
-    EXPECT_TRUE(ChangeProjName(state_, "NOWHERE", "NEW"));
+    store_.RenameDirectory("NOWHERE", "NEW");
+    store_.RenameProject("NOWHERE", "NEW");
     ExpectNothingChanged();
 }
 
 TEST_F(Renames, AnOldNameWithADoubleQuoteFailsAndChangesNothing) {
     file_.AddDirectory("A\"B");
-    EXPECT_FALSE(ChangeDirName(state_, "A\"B", "NEW"));
-    EXPECT_NE(state_.DatabaseFailure.find("double quote"), std::string::npos);
-    EXPECT_FALSE(ChangeProjName(state_, "X\" or \"1\"=\"1", "NEW"));
+    EXPECT_EQ(DatabaseErrorOf([&] { store_.RenameDirectory("A\"B", "NEW"); }),
+              "The name A\"B cannot be used: a double quote stands inside it.");
+    EXPECT_THROW(store_.RenameProject("X\" or \"1\"=\"1", "NEW"), DatabaseError);
     EXPECT_EQ(Directories().back(), "A\"B");
     file_.Run("DELETE FROM DirTab WHERE Directory = 'A\"B'");
     ExpectNothingChanged();
@@ -90,10 +100,11 @@ TEST_F(Renames, AnOldNameWithADoubleQuoteFailsAndChangesNothing) {
 TEST_F(Renames, AFailureInTheSecondTableTakesTheFirstBack) {
     file_.Run("CREATE TRIGGER Stop BEFORE UPDATE ON ProjTab WHEN OLD.ProjName = 'P3' "
               "BEGIN SELECT RAISE(ABORT, 'stop'); END");
-    EXPECT_FALSE(ChangeDirName(state_, "D1", "NEW"));
-    EXPECT_EQ(state_.DatabaseFailure, "ProjTab cannot be changed: stop.");
+    EXPECT_EQ(DatabaseErrorOf([&] { store_.RenameDirectory("D1", "NEW"); }),
+              "ProjTab cannot be changed: stop.");
     ExpectNothingChanged();
-    EXPECT_FALSE(ChangeProjName(state_, "P3", "NEW"));
+    EXPECT_EQ(DatabaseErrorOf([&] { store_.RenameProject("P3", "NEW"); }),
+              "ProjTab cannot be changed: stop.");
     ExpectNothingChanged();
 }
 
@@ -101,19 +112,23 @@ TEST_F(Renames, ALockedDatabaseFailsAndWorksAgainAfterwards) {
     {
         RawDatabase other(file_.Path());
         other.Run("BEGIN IMMEDIATE");
-        EXPECT_FALSE(ChangeDirName(state_, "D1", "NEW"));
-        EXPECT_NE(state_.DatabaseFailure.find("another program"), std::string::npos);
+        EXPECT_EQ(DatabaseErrorOf([&] { store_.RenameDirectory("D1", "NEW"); }),
+                  "The database takes no change: another program is using the database. Close that "
+                  "program and try again.");
         other.Run("COMMIT");
     }
     ExpectNothingChanged();
-    EXPECT_TRUE(ChangeDirName(state_, "D1", "NEW"));
+    store_.RenameDirectory("D1", "NEW");
+    EXPECT_EQ(Directories().front(), "NEW");
 }
 
-TEST_F(Renames, FailWithoutADatabase) {
-    state_.CurDB.reset();
-    EXPECT_FALSE(ChangeDirName(state_, "D1", "NEW"));
-    EXPECT_FALSE(ChangeProjName(state_, "P1", "NEW"));
-    EXPECT_EQ(state_.DatabaseFailure, "No database is open.");
+TEST_F(Renames, AMissingTableFailsAndChangesNothing) {
+    file_.Run("ALTER TABLE ProjTab RENAME TO Hidden");
+    EXPECT_EQ(DatabaseErrorOf([&] { store_.RenameDirectory("D1", "NEW"); }),
+              "ProjTab cannot be read: no such table: ProjTab.");
+    EXPECT_THROW(store_.RenameProject("P1", "NEW"), DatabaseError);
+    file_.Run("ALTER TABLE Hidden RENAME TO ProjTab");
+    ExpectNothingChanged();
 }
 
 } // namespace

@@ -110,8 +110,8 @@ TestDatabase::TestDatabase() {
     CreateDatabaseFile(Path());
 }
 
-void TestDatabase::OpenInto(SharedState& state, int busyWait) const {
-    state.CurDB = OpenSqlDatabase(Path(), DatabaseAccess::ReadWrite, busyWait);
+ProjectStore TestDatabase::Open(int busyWait) const {
+    return ProjectStore(Path(), DatabaseAccess::ReadWrite, busyWait);
 }
 
 void TestDatabase::AddDirectory(const std::string& name) const {

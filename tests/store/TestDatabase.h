@@ -1,12 +1,9 @@
 #pragma once
 
-#include "app/SharedState.h"
-#include "store/SqlDatabase.h"
+#include "store/ProjectStore.h"
 
 #include <QTemporaryDir>
 
-#include <cstdint>
-#include <memory>
 #include <string>
 #include <vector>
 
@@ -58,8 +55,8 @@ class TestDatabase {
     std::string Path() const { return folder_.Path("Tarn.mdb"); }
     const TestFolder& Folder() const { return folder_; }
 
-    /// Open it through the store into CurDB, with no shared recordset open.
-    void OpenInto(SharedState& state, int busyWait = DefaultBusyWait) const;
+    /// Open it through the store.
+    ProjectStore Open(int busyWait = DefaultBusyWait) const;
 
     /// As RawDatabase, on a connection of its own each time.
     void Run(const std::string& statement) const { RawDatabase(Path()).Run(statement); }

@@ -174,6 +174,31 @@ TEST_F(DataTool, ListShowsDirectoriesProjectsAndRooms) {
                                      "    2: 10'0\" X 8'0\"  TILE-2  north, east\n");
 }
 
+TEST_F(DataTool, ListTellsWhyAProjectCannotBeLoadedAndWhatIsOddInOne) {
+    const QString database = MakeDatabase(S("SMITH"), Rooms, {S("--directory"), S("A")});
+    Run(database, "INSERT INTO ProjTab VALUES ('A', 'NEW', 0), ('B', 'O\"HARA', 0)");
+    const auto list = [&] { return On(database, "list").Out.toStdString(); };
+    Run(database, "DELETE FROM InputData WHERE ObjNum = 0");
+    EXPECT_EQ(list(),
+              "A\n"
+              "  SMITH (2 rooms)\n"
+              "    Missing, read as empty: room 1.\n"
+              "    1: 0'0\" X 0'0\"  CARPET-1\n"
+              "    2: 10'0\" X 8'0\"  TILE-2  north, east\n"
+              "  NEW (0 rooms)\n"
+              "B\n"
+              "  O\"HARA (cannot be loaded: The name O\"HARA cannot be used: a double quote "
+              "stands inside it.)\n");
+    Run(database, "UPDATE InputData SET RoomW = 40000");
+    EXPECT_TRUE(list().starts_with(
+        "A\n  SMITH (cannot be loaded: Overflow. A number stored in the room row with ObjNum 1 is "
+        "too large.)\n  NEW (0 rooms)\n"))
+        << list();
+    ExpectRefused(OnProject(database, "report", "SMITH"),
+                  "The project SMITH cannot be loaded: Overflow.");
+    ExpectRefused(OnProject(database, "export", "NEW"), "The project NEW has no saved rooms.");
+}
+
 TEST_F(DataTool, ImportMakesTheDirectoryOfANewProjectUnlessItIsAMonth) {
     const QString database = MakeDatabase(S("SMITH"), Rooms, {S("--directory"), S("old town")});
     EXPECT_EQ(Value(database, "SELECT Directory FROM DirTab").toString(), S("OLD TOWN"));

@@ -1,5 +1,5 @@
-#include "print/PdfTesting.h"
-#include "print/PrintServer.h"
+#include "paper/PdfTesting.h"
+#include "paper/PrintServer.h"
 #include "tools/ToolTesting.h"
 
 namespace tarn {

@@ -375,7 +375,7 @@ TEST_F(EstimateTool, HelpTellsEveryOption) {
 }
 
 TEST_F(EstimateTool, HelpTellsWhatTheMinimumCutsKeep) {
-    const QString help = Estimate({S("--help")}).Out.simplified();
+    const QString help = QString::fromUtf8(Estimate({S("--help")}).Out).simplified();
     for (const char* text :
          {"0 = 3 FT, 1 = 1FT 6\" or 2 = 1/2FT.",
           "at 3 inches, 1.5 inch or 0.5 inch or more (19.4 cm, 9.7 cm or 3.2 cm with --metric)",

@@ -1,6 +1,6 @@
 #include "engine/reference/PlainCleanUp.h"
 
-#include "app/RunTimeError.h"
+#include "base/RunTimeError.h"
 #include "engine/reference/PlainNumbers.h"
 #include "engine/reference/PlainPlacement.h"
 
@@ -17,19 +17,19 @@ bool EndToEnd(const PlainPiece& a, const PlainPlaced& aPlaced, const PlainPiece&
            Same(aPlaced.x, bPlaced.x) && Same(End(aPlaced), bPlaced.y);
 }
 
-void CombineTwo(std::vector<PlainPiece>& rows, std::vector<PlainPlaced>& placed, std::size_t i,
-                std::size_t j) {
+void Join(std::vector<PlainPiece>& rows, std::vector<PlainPlaced>& placed, std::size_t i,
+          std::size_t j) {
     rows[i].y2 = rows[j].y2;
     placed[i].l = Minus(End(placed[j]), placed[i].y);
     rows.erase(rows.begin() + static_cast<std::ptrdiff_t>(j));
     placed.erase(placed.begin() + static_cast<std::ptrdiff_t>(j));
 }
 
-bool CombineFirstPair(std::vector<PlainPiece>& rows, std::vector<PlainPlaced>& placed) {
+bool JoinFirstPair(std::vector<PlainPiece>& rows, std::vector<PlainPlaced>& placed) {
     for (std::size_t i = 0; i < rows.size(); ++i) {
         for (std::size_t j = 0; j < rows.size(); ++j) {
             if (j != i && EndToEnd(rows[i], placed[i], rows[j], placed[j])) {
-                CombineTwo(rows, placed, i, j);
+                Join(rows, placed, i, j);
                 return true;
             }
         }
@@ -58,11 +58,11 @@ bool TouchesAnything(const std::vector<PlainPlaced>& placed, std::size_t i, floa
 } // namespace
 
 bool TooWide(const PlainPiece& piece, float usable) {
-    return !NotBeyond(PieceWid(piece), usable);
+    return !NotBeyond(WidthOf(piece), usable);
 }
 
-void CheckFill(const std::vector<PlainPiece>& rows, const std::vector<PlainPlaced>& placed,
-               float usable) {
+void CheckLayout(const std::vector<PlainPiece>& rows, const std::vector<PlainPlaced>& placed,
+                 float usable) {
     if (placed.size() != rows.size()) {
         RaiseInternal();
     }
@@ -79,12 +79,12 @@ void CheckFill(const std::vector<PlainPiece>& rows, const std::vector<PlainPlace
     }
 }
 
-void CombinePiece(std::vector<PlainPiece>& rows, std::vector<PlainPlaced>& placed) {
-    while (CombineFirstPair(rows, placed)) {
+void JoinParts(std::vector<PlainPiece>& rows, std::vector<PlainPlaced>& placed) {
+    while (JoinFirstPair(rows, placed)) {
     }
 }
 
-void ShiftLeft(std::vector<PlainPlaced>& placed, float usable) {
+void ShiftLooseLeft(std::vector<PlainPlaced>& placed, float usable) {
     for (std::size_t i = 0; i < placed.size(); ++i) {
         if (TouchesAnything(placed, i, usable)) {
             continue;

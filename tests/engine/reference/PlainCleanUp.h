@@ -12,13 +12,13 @@ bool TooWide(const PlainPiece& piece, float usable);
 
 /// Raises RunTimeError 51 unless every piece is placed, inside the usable width (a piece too wide
 /// for it excepted), and no two share an area.
-void CheckFill(const std::vector<PlainPiece>& rows, const std::vector<PlainPlaced>& placed,
-               float usable);
+void CheckLayout(const std::vector<PlainPiece>& rows, const std::vector<PlainPlaced>& placed,
+                 float usable);
 
 /// Joins parts of one piece that came to lie end to end.
-void CombinePiece(std::vector<PlainPiece>& rows, std::vector<PlainPlaced>& placed);
+void JoinParts(std::vector<PlainPiece>& rows, std::vector<PlainPlaced>& placed);
 
 /// Moves pieces that touch nothing to the left.
-void ShiftLeft(std::vector<PlainPlaced>& placed, float usable);
+void ShiftLooseLeft(std::vector<PlainPlaced>& placed, float usable);
 
 } // namespace tarn::reference

@@ -1,6 +1,6 @@
 #include "engine/reference/PlainNumbers.h"
 
-#include "app/RunTimeError.h"
+#include "base/RunTimeError.h"
 
 #include <cfloat>
 #include <cmath>
@@ -22,7 +22,7 @@ double HalfToEven(double value) {
 }
 
 float Inches(float from, float to) {
-    return ToSingle(static_cast<double>(Minus(to, from)) * DimScale);
+    return ToSingle(static_cast<double>(Minus(to, from)) * Scale);
 }
 
 } // namespace
@@ -59,11 +59,11 @@ long ToLong(double value) {
     return static_cast<long>(whole);
 }
 
-float PieceWid(const PlainPiece& piece) {
+float WidthOf(const PlainPiece& piece) {
     return Inches(piece.x1, piece.x2);
 }
 
-float PieceLen(const PlainPiece& piece) {
+float LengthOf(const PlainPiece& piece) {
     return Inches(piece.y1, piece.y2);
 }
 

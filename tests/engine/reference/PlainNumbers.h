@@ -6,7 +6,7 @@
 /// RunTimeError 6.
 namespace tarn::reference {
 
-constexpr double DimScale = 0.01;   ///< inches per unit of a piece's coordinates
+constexpr double Scale = 0.01;      ///< inches per unit of a piece's coordinates
 constexpr double Tolerance = 0.005; ///< inches: lengths that differ by less are the same
 
 float ToSingle(double value);
@@ -17,9 +17,9 @@ float Minus(float a, float b);
 int ToInteger(double value);
 long ToLong(double value);
 
-/// A piece's size in inches: the difference as a Single, times DimScale as a Double.
-float PieceWid(const PlainPiece& piece);
-float PieceLen(const PlainPiece& piece);
+/// A piece's size in inches: the difference as a Single, times Scale as a Double.
+float WidthOf(const PlainPiece& piece);
+float LengthOf(const PlainPiece& piece);
 
 /// True when `a` exceeds `b` by less than the tolerance, or not at all.
 bool NotBeyond(float a, float b);

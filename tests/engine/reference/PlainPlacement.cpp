@@ -13,7 +13,7 @@ bool Share(float a1, float a2, float b1, float b2) {
     return !NotBeyond(std::min(a2, b2), std::max(a1, b1));
 }
 
-bool PTInbox(float px, float py, const PlainPlaced& box) {
+bool IsInside(float px, float py, const PlainPlaced& box) {
     return box.x < px && px < Right(box) && box.y < py && py < End(box);
 }
 
@@ -21,20 +21,20 @@ struct Segment {
     float x1, y1, x2, y2;
 };
 
-bool ISLineInsect(const Segment& a, const Segment& b) {
+bool Intersect(const Segment& a, const Segment& b) {
     return std::max(a.x1, a.x2) > std::min(b.x1, b.x2) &&
            std::min(a.x1, a.x2) < std::max(b.x1, b.x2) &&
            std::max(a.y1, a.y2) > std::min(b.y1, b.y2) &&
            std::min(a.y1, a.y2) < std::max(b.y1, b.y2);
 }
 
-bool ISLinePass(const Segment& s, const PlainPlaced& box) {
+bool Crosses(const Segment& s, const PlainPlaced& box) {
     const float rx1 = box.x;
     const float ry1 = box.y;
     const float rx2 = Right(box);
     const float ry2 = End(box);
-    if (ISLineInsect(s, {rx1, ry1, rx2, ry1}) || ISLineInsect(s, {rx2, ry1, rx2, ry2}) ||
-        ISLineInsect(s, {rx1, ry2, rx2, ry2}) || ISLineInsect(s, {rx1, ry1, rx1, ry2})) {
+    if (Intersect(s, {rx1, ry1, rx2, ry1}) || Intersect(s, {rx2, ry1, rx2, ry2}) ||
+        Intersect(s, {rx1, ry2, rx2, ry2}) || Intersect(s, {rx1, ry1, rx1, ry2})) {
         return true;
     }
     if (s.x1 == rx1 && s.x2 == rx2 && ry1 < s.y1 && s.y1 < ry2) {
@@ -75,7 +75,7 @@ bool ShareAnArea(const PlainPlaced& a, const PlainPlaced& b) {
     }
     const float centreX = Plus(std::max(a.x, b.x), std::min(Right(a), Right(b))) / 2.0F;
     const float centreY = Plus(std::max(a.y, b.y), std::min(End(a), End(b))) / 2.0F;
-    return PTInbox(centreX, centreY, a) && PTInbox(centreX, centreY, b);
+    return IsInside(centreX, centreY, a) && IsInside(centreX, centreY, b);
 }
 
 float LengthInUse(const std::vector<PlainPlaced>& placed) {
@@ -86,7 +86,7 @@ float LengthInUse(const std::vector<PlainPlaced>& placed) {
     return length;
 }
 
-void PlainRoll::FillOnePiece(float w, float l) {
+void PlainRoll::Place(float w, float l) {
     std::size_t k = 0;
     if (!FindCorner(w, l, k)) {
         const PlainPlaced behind = {0, LengthInUse(placed), w, l};
@@ -97,7 +97,7 @@ void PlainRoll::FillOnePiece(float w, float l) {
     }
     const PlainCorner corner = corners[k];
     PlainPlaced piece = {corner.x, corner.y, w, l};
-    if (!IsAnyRightSide(corner) && corner.x != 0) {
+    if (!IsAnyToTheRight(corner) && corner.x != 0) {
         PlainPlaced pushed = piece;
         pushed.x = std::max(corner.x, Minus(usable, w));
         if (!OverlapsPlaced(pushed)) {
@@ -128,10 +128,10 @@ bool PlainRoll::OverlapsPlaced(const PlainPlaced& piece) const {
                        [&piece](const PlainPlaced& p) { return ShareAnArea(piece, p); });
 }
 
-bool PlainRoll::IsAnyRightSide(const PlainCorner& corner) const {
+bool PlainRoll::IsAnyToTheRight(const PlainCorner& corner) const {
     bool answer = false;
     for (const PlainPlaced& p : placed) {
-        if (ISLinePass({corner.x, corner.y, usable, corner.y}, p) ||
+        if (Crosses({corner.x, corner.y, usable, corner.y}, p) ||
             (p.y == corner.y && p.x > corner.x)) {
             answer = true;
         }

@@ -29,12 +29,12 @@ struct PlainRoll {
 
     /// Places a piece at the first corner, in corner order, where it fits and overlaps nothing;
     /// where there is none, at the left edge behind everything.
-    void FillOnePiece(float w, float l);
+    void Place(float w, float l);
 
   private:
     bool FindCorner(float w, float l, std::size_t& k) const;
     bool OverlapsPlaced(const PlainPlaced& piece) const;
-    bool IsAnyRightSide(const PlainCorner& corner) const;
+    bool IsAnyToTheRight(const PlainCorner& corner) const;
     float ScanLeft(float px, float py) const;
     float ScanUp(float px, float py) const;
     void TidyCorners();

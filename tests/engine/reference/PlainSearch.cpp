@@ -1,6 +1,6 @@
 #include "engine/reference/PlainSearch.h"
 
-#include "app/RunTimeError.h"
+#include "base/RunTimeError.h"
 #include "engine/reference/PlainCleanUp.h"
 #include "engine/reference/PlainNumbers.h"
 #include "engine/reference/PlainPlacement.h"
@@ -14,40 +14,36 @@ namespace tarn::reference {
 
 namespace {
 
-constexpr std::size_t MaxPiece = 3000;
+constexpr std::size_t MostPieces = 3000;
 
 struct Search {
     const PlainJob& job;
-    const float usable; // inches
-    int maxParts = 1;
-    int minCut = 0;                // hundredths of an inch
+    const float usable;            // inches
     std::vector<PlainPiece> rows;  // the pieces of the moment
     std::vector<PlainPiece> saved; // the undivided pieces
     std::vector<PlainPlaced> placed;
     PlainResult result{};
 
     explicit Search(const PlainJob& theJob);
-    void MultiEstimate();
+    void Run();
 
-    void SwitchXY();
-    void SwitchXY2();
-    void CheckLargePC();
-    void DecodeOptions();
-    void GetTotalCase();
+    void ExchangeAxes();
+    void CutToWidth();
+    void CountCases();
     void FirstPass();
     void SecondPass();
     void ScoreCase(const std::vector<int>& digits);
-    void PlaceCase(const std::vector<int>& digits, int mode);
-    void DivPiece(std::size_t k, int parts);
+    void PlaceCase(const std::vector<int>& digits, int power);
+    void Divide(std::size_t k, int parts);
     void AppendRow(const PlainPiece& piece);
-    void ReorderPiece(int power);
+    void PlaceInOrder(int power);
     void SortRowsBy(int PlainPiece::*number);
 };
 
 Search::Search(const PlainJob& theJob)
     : job(theJob)
-    , usable(theJob.fillFlag == 1 ? theJob.rollWidth : Minus(theJob.rollWidth, 2.0F)) {
-    if (job.pieces.size() > MaxPiece) {
+    , usable(theJob.rollWidth) {
+    if (job.pieces.size() > MostPieces) {
         RaiseSubscript();
     }
     rows = job.pieces;
@@ -56,9 +52,9 @@ Search::Search(const PlainJob& theJob)
 double SortKey(const PlainPiece& piece, int power) {
     double key = 1.0;
     for (int i = 0; i < power; ++i) {
-        key *= static_cast<double>(PieceLen(piece));
+        key *= static_cast<double>(LengthOf(piece));
     }
-    return key * static_cast<double>(PieceWid(piece));
+    return key * static_cast<double>(WidthOf(piece));
 }
 
 void SortBySize(std::vector<PlainPiece>& rows, int power) {
@@ -74,39 +70,27 @@ void SortBySize(std::vector<PlainPiece>& rows, int power) {
     }
 }
 
-void Search::SwitchXY() {
+void Search::ExchangeAxes() {
     for (PlainPiece& row : rows) {
         std::swap(row.x1, row.y1);
         std::swap(row.x2, row.y2);
     }
 }
 
-void Search::SwitchXY2() {
-    for (PlainPiece& row : rows) {
-        if (job.layDir != (row.turn & 1)) {
-            const PlainPiece old = row;
-            row.x1 = old.y1;
-            row.x2 = old.y2;
-            row.y1 = static_cast<float>(ToInteger(static_cast<double>(old.x1)));
-            row.y2 = static_cast<float>(ToInteger(static_cast<double>(old.x2)));
-        }
-    }
-}
-
 void Search::AppendRow(const PlainPiece& piece) {
-    if (rows.size() >= MaxPiece) {
+    if (rows.size() >= MostPieces) {
         RaiseSubscript();
     }
     rows.push_back(piece);
 }
 
-void Search::CheckLargePC() {
+void Search::CutToWidth() {
     const std::size_t count = rows.size();
     for (std::size_t i = 0; i < count; ++i) {
         if (TooWide(rows[i], usable)) {
             PlainPiece strip = rows[i];
             strip.x2 =
-                ToSingle(static_cast<double>(strip.x1) + static_cast<double>(usable) / DimScale);
+                ToSingle(static_cast<double>(strip.x1) + static_cast<double>(usable) / Scale);
             strip.divide = 0;
             AppendRow(strip);
             rows[i].x1 = strip.x2;
@@ -114,36 +98,18 @@ void Search::CheckLargePC() {
     }
 }
 
-void Search::DecodeOptions() {
-    maxParts = job.estOption % 10 + 1;
-    const double minCutLen[4] = {3.0, 1.5, 0.5, 0.0};
-    const double index = std::floor(job.estOption / 10.0);
-    if (index < 0.0 || index >= 4.0) {
-        RaiseSubscript();
-    }
-    const double feet = minCutLen[static_cast<std::size_t>(index)];
-    if (job.metric) {
-        minCut = ToInteger(feet * 2.54 / DimScale);
-    } else {
-        minCut = ToInteger(std::floor(feet / DimScale));
-    }
-    if (minCut == 0) {
-        RaiseDivisionByZero();
-    }
-}
-
-void Search::GetTotalCase() {
+void Search::CountCases() {
     double varied = 0;
-    if (maxParts > 1) {
-        varied = std::floor(std::log(80.0) / std::log(static_cast<double>(maxParts)) + 0.5);
+    if (job.mostParts > 1) {
+        varied = std::floor(std::log(80.0) / std::log(static_cast<double>(job.mostParts)) + 0.5);
     }
     result.cases = 1;
     for (std::size_t k = 0; k < rows.size(); ++k) {
         int radix = 1;
         if (static_cast<double>(k) < varied && rows[k].divide == 1) {
             const double length = static_cast<double>(Minus(rows[k].y2, rows[k].y1));
-            const double whole = std::floor((length + 1.0) / minCut);
-            radix = static_cast<int>(std::min(whole, static_cast<double>(maxParts)));
+            const double whole = std::floor((length + 1.0) / job.minCut);
+            radix = static_cast<int>(std::min(whole, static_cast<double>(job.mostParts)));
         }
         result.radix.push_back(radix);
         result.cases *= radix;
@@ -164,13 +130,13 @@ void Search::FirstPass() {
 }
 
 void Search::SecondPass() {
-    for (int f = 0; f < maxParts; ++f) {
+    for (int f = 0; f < job.mostParts; ++f) {
         std::vector<int> digits;
         for (const PlainPiece& piece : saved) {
             double digit = 0;
             if (piece.divide == 1) {
                 const double length = static_cast<double>(Minus(piece.y2, piece.y1));
-                digit = std::floor(length / minCut) - 1.0;
+                digit = std::floor(length / job.minCut) - 1.0;
                 digit = std::min(std::max(digit, 0.0), static_cast<double>(f));
             }
             digits.push_back(static_cast<int>(digit));
@@ -184,38 +150,38 @@ void Search::ScoreCase(const std::vector<int>& digits) {
     for (const int digit : digits) {
         parts += static_cast<std::size_t>(digit) + 1;
     }
-    if (parts > MaxPiece) {
+    if (parts > MostPieces) {
         return;
     }
-    for (const int mode : {1, 0, 2}) {
-        PlaceCase(digits, mode);
+    for (const int power : {1, 0, 2}) {
+        PlaceCase(digits, power);
         const long score = ToLong(static_cast<double>(LengthInUse(placed)));
-        if (score < result.bestLen) {
-            result.bestLen = score;
-            result.bestMode = mode;
+        if (score < result.bestLength) {
+            result.bestLength = score;
+            result.bestPower = power;
             result.digits = digits;
         }
     }
 }
 
-void Search::PlaceCase(const std::vector<int>& digits, int mode) {
+void Search::PlaceCase(const std::vector<int>& digits, int power) {
     rows = saved;
     for (std::size_t k = 0; k < saved.size(); ++k) {
         const int parts = digits[k] + 1;
         if (parts >= 2) {
-            DivPiece(k, parts);
+            Divide(k, parts);
         }
     }
-    ReorderPiece(mode);
+    PlaceInOrder(power);
 }
 
-void Search::DivPiece(std::size_t k, int parts) {
+void Search::Divide(std::size_t k, int parts) {
     const PlainPiece whole = rows[k];
     const double top = static_cast<double>(whole.y1);
     const double length = static_cast<double>(Minus(whole.y2, whole.y1));
     double len = std::floor((length + parts * 0.9) / parts);
-    if (len < minCut) {
-        len = minCut;
+    if (len < job.minCut) {
+        len = job.minCut;
     }
     for (int p = 0; p < parts; ++p) {
         PlainPiece part = whole;
@@ -229,12 +195,12 @@ void Search::DivPiece(std::size_t k, int parts) {
     }
 }
 
-void Search::ReorderPiece(int power) {
+void Search::PlaceInOrder(int power) {
     SortBySize(rows, power);
     PlainRoll roll{usable};
     for (std::size_t i = 0; i < rows.size(); ++i) {
         rows[i].order = static_cast<int>(i);
-        roll.FillOnePiece(PieceWid(rows[i]), PieceLen(rows[i]));
+        roll.Place(WidthOf(rows[i]), LengthOf(rows[i]));
     }
     placed = roll.placed;
 }
@@ -254,43 +220,43 @@ void Search::SortRowsBy(int PlainPiece::*number) {
     }
 }
 
-void Search::MultiEstimate() {
+void Search::Run() {
     if (job.layDir == 1) {
-        SwitchXY();
+        ExchangeAxes();
     }
-    SwitchXY2();
-    CheckLargePC();
+    CutToWidth();
     SortBySize(rows, 2);
     saved = rows;
-    result.orgCount = static_cast<int>(saved.size());
-    DecodeOptions();
-    result.bestLen = 32767;
+    result.undivided = static_cast<int>(saved.size());
+    if (job.minCut == 0) {
+        RaiseDivisionByZero();
+    }
+    result.bestLength = 32767;
     result.digits.assign(saved.size(), 0);
-    GetTotalCase();
+    CountCases();
     FirstPass();
     SecondPass();
 
-    PlaceCase(result.digits, result.bestMode);
+    PlaceCase(result.digits, result.bestPower);
     SortRowsBy(&PlainPiece::order);
-    CheckFill(rows, placed, usable);
-    CombinePiece(rows, placed);
-    ShiftLeft(placed, usable);
+    CheckLayout(rows, placed, usable);
+    JoinParts(rows, placed);
+    ShiftLooseLeft(placed, usable);
     const double length = static_cast<double>(LengthInUse(placed));
-    result.resultLen = ToInteger(3.0 * std::floor((length + 2.0) / 3.0));
+    result.resultLength = ToInteger(3.0 * std::floor((length + 2.0) / 3.0));
     if (job.layDir == 1) {
-        SwitchXY();
+        ExchangeAxes();
     }
     SortRowsBy(&PlainPiece::org);
-    SwitchXY2();
     result.pieces = rows;
     result.placed = placed;
 }
 
 } // namespace
 
-PlainResult PlainMultiEstimate(const PlainJob& job) {
+PlainResult RunPlainSearch(const PlainJob& job) {
     Search search(job);
-    search.MultiEstimate();
+    search.Run();
     return search.result;
 }
 

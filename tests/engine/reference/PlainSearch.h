@@ -12,7 +12,6 @@ struct PlainPiece {
     float x1, x2, y1, y2;
     int org;    ///< number at creation
     int divide; ///< 1: may be divided along the roll
-    int turn;   ///< bit 0: the piece's own lay
     int order;  ///< place in the order of placing
 };
 
@@ -20,9 +19,8 @@ struct PlainJob {
     std::vector<PlainPiece> pieces; ///< at most 3000
     float rollWidth;                ///< inches
     int layDir;                     ///< 0 down lay, 1 cross lay
-    int fillFlag;                   ///< 1: the whole roll width is usable, else two inches less
-    int estOption;                  ///< 10 x minimum cut (0 .. 2) + parts per piece - 1
-    bool metric;                    ///< decides how the minimum cut is made whole units
+    int mostParts;                  ///< most parts that a piece is laid in
+    int minCut;                     ///< shortest part of a divided piece, hundredths of an inch
 };
 
 /// Where a piece lies on the roll: corner and extent, in inches.
@@ -34,17 +32,16 @@ struct PlainResult {
     long cases;                     ///< cases of the first pass; 0 when a radix is 0
     std::vector<int> radix;         ///< one per undivided piece, longest first
     std::vector<int> digits;        ///< the best case, one per undivided piece: parts - 1
-    int bestMode;                   ///< power of the length in the order of placing: 1, 0 or 2
-    long bestLen;                   ///< inches
-    int resultLen;                  ///< inches, raised to a multiple of 3
+    int bestPower;                  ///< power of the length in the order of placing: 1, 0 or 2
+    long bestLength;                ///< inches
+    int resultLength;               ///< inches, raised to a multiple of 3
     std::vector<PlainPiece> pieces; ///< in order of creation, in the job's orientation
     std::vector<PlainPlaced> placed;
-    int orgCount; ///< undivided pieces, with the strips taken off pieces wider than the roll
+    int undivided; ///< undivided pieces, with the strips taken off pieces wider than the roll
 };
 
-/// Runs the whole search. Raises RunTimeError 6 when a size, a turned coordinate or the result is
-/// too large, 9 for more than 3000 pieces or an option of 40 or more, 11 for the options 30 to 39,
-/// 51 when the layout contradicts itself.
-PlainResult PlainMultiEstimate(const PlainJob& job);
+/// Runs the whole search. Raises RunTimeError 6 when a size or the result is too large, 9 for more
+/// than 3000 pieces, 11 for a minimum cut of 0, 51 when the layout contradicts itself.
+PlainResult RunPlainSearch(const PlainJob& job);
 
 } // namespace tarn::reference

@@ -20,21 +20,21 @@ inline bool operator==(const PlainPlaced& a, const PlainPlaced& b) {
 
 inline void PrintTo(const PlainPiece& p, std::ostream* out) {
     *out << p.org << ": " << p.x1 << " .. " << p.x2 << ", " << p.y1 << " .. " << p.y2 << " divide "
-         << p.divide << " turn " << p.turn << " order " << p.order;
+         << p.divide << " order " << p.order;
 }
 
 inline bool operator==(const PlainPiece& a, const PlainPiece& b) {
     return a.x1 == b.x1 && a.x2 == b.x2 && a.y1 == b.y1 && a.y2 == b.y2 && a.org == b.org &&
-           a.divide == b.divide && a.turn == b.turn && a.order == b.order;
+           a.divide == b.divide && a.order == b.order;
 }
 
 using Layout = std::vector<PlainPlaced>;
 using Pieces = std::vector<PlainPiece>;
 using Numbers = std::vector<int>;
 
-inline void ExpectBest(const PlainResult& result, int mode, long length) {
-    EXPECT_EQ(result.bestMode, mode);
-    EXPECT_EQ(result.bestLen, length);
+inline void ExpectBest(const PlainResult& result, int power, long length) {
+    EXPECT_EQ(result.bestPower, power);
+    EXPECT_EQ(result.bestLength, length);
 }
 
 } // namespace tarn::reference

@@ -11,18 +11,18 @@ namespace tarn::reference {
 namespace {
 
 TEST(PlainSearch, PlacesTheFirstPieceAtTheStartOfTheRoll) {
-    const PlainResult result = PlainMultiEstimate(DownLayJob(144, 0, {{60, 100}}));
+    const PlainResult result = RunPlainSearch(DownLayJob(144, 1, {{60, 100}}));
     EXPECT_EQ(result.placed, (Layout{{0, 0, 60, 100}}));
-    EXPECT_EQ(result.pieces, (Pieces{{0, 6000, 0, 10000, 0, 1, 0, 0}}));
+    EXPECT_EQ(result.pieces, (Pieces{{0, 6000, 0, 10000, 0, 1, 0}}));
     EXPECT_EQ(result.cases, 1);
-    EXPECT_EQ(result.orgCount, 1);
+    EXPECT_EQ(result.undivided, 1);
     ExpectBest(result, 1, 100);
 }
 
 TEST(PlainSearch, RaisesTheResultToAMultipleOfThree) {
-    EXPECT_EQ(PlainMultiEstimate(DownLayJob(144, 0, {{60, 100}})).resultLen, 102);
-    EXPECT_EQ(PlainMultiEstimate(DownLayJob(144, 0, {{60, 99}})).resultLen, 99);
-    EXPECT_EQ(PlainMultiEstimate(DownLayJob(144, 0, {{60, 98}})).resultLen, 99);
+    EXPECT_EQ(RunPlainSearch(DownLayJob(144, 1, {{60, 100}})).resultLength, 102);
+    EXPECT_EQ(RunPlainSearch(DownLayJob(144, 1, {{60, 99}})).resultLength, 99);
+    EXPECT_EQ(RunPlainSearch(DownLayJob(144, 1, {{60, 98}})).resultLength, 99);
 }
 
 //   0        72  84      144
@@ -31,7 +31,7 @@ TEST(PlainSearch, RaisesTheResultToAMultipleOfThree) {
 //   |        |   +--------+ 60
 //   +--------+ 120
 TEST(PlainSearch, PushesAPieceWithNothingToItsRightToTheFarEdge) {
-    const PlainResult result = PlainMultiEstimate(DownLayJob(144, 0, {{72, 120}, {60, 60}}));
+    const PlainResult result = RunPlainSearch(DownLayJob(144, 1, {{72, 120}, {60, 60}}));
     EXPECT_EQ(result.placed, (Layout{{0, 0, 72, 120}, {84, 0, 60, 60}}));
     ExpectBest(result, 1, 120);
 }
@@ -43,7 +43,7 @@ TEST(PlainSearch, PushesAPieceWithNothingToItsRightToTheFarEdge) {
 //   |  2   |
 //   +------+ 200
 TEST(PlainSearch, GivesUpTheCornerThatAPushLeaves) {
-    const PlainResult result = PlainMultiEstimate(Stored("push gives up its corner"));
+    const PlainResult result = RunPlainSearch(Stored("push gives up its corner"));
     EXPECT_EQ(result.placed, (Layout{{0, 0, 48, 100}, {96, 0, 48, 100}, {0, 100, 48, 100}}));
     ExpectBest(result, 1, 200);
 }
@@ -60,7 +60,7 @@ TEST(PlainSearch, GivesUpTheCornerThatAPushLeaves) {
 //                |  |      +-----+ 240
 //                +--+ 288
 TEST(PlainSearch, KeepsAPieceAtItsCornerWhereThePushIsBlocked) {
-    const PlainResult result = PlainMultiEstimate(Stored("strip blocked from the far edge"));
+    const PlainResult result = RunPlainSearch(Stored("strip blocked from the far edge"));
     EXPECT_EQ(result.placed, (Layout{{108, 156, 36, 84},
                                      {72, 0, 24, 120},
                                      {36, 60, 36, 96},
@@ -69,7 +69,7 @@ TEST(PlainSearch, KeepsAPieceAtItsCornerWhereThePushIsBlocked) {
                                      {72, 120, 12, 168},
                                      {96, 0, 48, 120}}));
     ExpectBest(result, 0, 288);
-    EXPECT_EQ(result.resultLen, 288);
+    EXPECT_EQ(result.resultLength, 288);
 }
 
 //   0         100    132 144
@@ -81,7 +81,7 @@ TEST(PlainSearch, KeepsAPieceAtItsCornerWhereThePushIsBlocked) {
 //   |          2          |
 //   +---------------------+ 210
 TEST(PlainSearch, SeesACrossingWithoutACornerInside) {
-    const PlainResult result = PlainMultiEstimate(Stored("crossing without a corner inside"));
+    const PlainResult result = RunPlainSearch(Stored("crossing without a corner inside"));
     EXPECT_EQ(result.placed, (Layout{{0, 0, 100, 50}, {132, 0, 12, 200}, {0, 200, 144, 10}}));
     ExpectBest(result, 1, 210);
 }
@@ -94,27 +94,27 @@ TEST(PlainSearch, SeesACrossingWithoutACornerInside) {
 //   | 2  |
 //   +----+
 TEST(PlainSearch, OrdersCornersByAKeyOfBothCoordinates) {
-    const PlainResult result = PlainMultiEstimate(Stored("nearer row behind a corner on the left"));
+    const PlainResult result = RunPlainSearch(Stored("nearer row behind a corner on the left"));
     EXPECT_EQ(result.placed, (Layout{{0, 0, 100, 50.05F}, {100, 0, 44, 50}, {0, 50.05F, 44, 10}}));
     ExpectBest(result, 1, 60);
 }
 
 TEST(PlainSearch, FitsPiecesThatAreTooWideTogetherByLessThanTheTolerance) {
     const PlainJob job = Stored("metric halves");
-    const float half = PieceWid(job.pieces[0]);
-    const float length = PieceLen(job.pieces[0]);
+    const float half = WidthOf(job.pieces[0]);
+    const float length = LengthOf(job.pieces[0]);
     ASSERT_GT(half + half, job.rollWidth);
-    const PlainResult result = PlainMultiEstimate(job);
+    const PlainResult result = RunPlainSearch(job);
     EXPECT_EQ(result.placed, (Layout{{0, 0, half, length}, {half, 0, half, length}}));
     ExpectBest(result, 1, 39);
 }
 
 TEST(PlainSearch, KeepsAPieceWholeThatIsWiderThanTheRollByRoundingAlone) {
     const PlainJob job = Stored("wider by rounding alone");
-    ASSERT_GT(PieceWid(job.pieces[0]), job.rollWidth);
-    const PlainResult result = PlainMultiEstimate(job);
+    ASSERT_GT(WidthOf(job.pieces[0]), job.rollWidth);
+    const PlainResult result = RunPlainSearch(job);
     EXPECT_EQ(result.pieces, job.pieces);
-    EXPECT_EQ(result.orgCount, 1);
+    EXPECT_EQ(result.undivided, 1);
     ExpectBest(result, 1, 197);
 }
 
@@ -125,11 +125,11 @@ TEST(PlainSearch, KeepsAPieceWholeThatIsWiderThanTheRollByRoundingAlone) {
 //   |  rest  |
 //   +--------+ 100
 TEST(PlainSearch, TakesAStripOffAPieceTooWide) {
-    const PlainResult result = PlainMultiEstimate(Stored("wider than the roll"));
+    const PlainResult result = RunPlainSearch(Stored("wider than the roll"));
     EXPECT_EQ(result.pieces,
-              (Pieces{{0, 14400, 0, 5000, 0, 0, 0, 0}, {14400, 20000, 0, 5000, 0, 1, 0, 1}}));
+              (Pieces{{0, 14400, 0, 5000, 0, 0, 0}, {14400, 20000, 0, 5000, 0, 1, 1}}));
     EXPECT_EQ(result.placed, (Layout{{0, 0, 144, 50}, {0, 50, 56, 50}}));
-    EXPECT_EQ(result.orgCount, 2);
+    EXPECT_EQ(result.undivided, 2);
     ExpectBest(result, 1, 100);
 }
 
@@ -140,9 +140,9 @@ TEST(PlainSearch, TakesAStripOffAPieceTooWide) {
 //   |        strip        |
 //   +---------------------+ 100
 TEST(PlainSearch, PlacesARestThatFitsNowhereAtTheLeftBehindEverything) {
-    const PlainResult result = PlainMultiEstimate(Stored("more than twice the roll"));
+    const PlainResult result = RunPlainSearch(Stored("more than twice the roll"));
     EXPECT_EQ(result.pieces,
-              (Pieces{{14400, 40000, 0, 5000, 0, 1, 0, 0}, {0, 14400, 0, 5000, 0, 0, 0, 1}}));
+              (Pieces{{14400, 40000, 0, 5000, 0, 1, 0}, {0, 14400, 0, 5000, 0, 0, 1}}));
     EXPECT_EQ(result.placed, (Layout{{0, 0, 256, 50}, {0, 50, 144, 50}}));
     ExpectBest(result, 1, 100);
 }
@@ -156,7 +156,7 @@ TEST(PlainSearch, PlacesARestThatFitsNowhereAtTheLeftBehindEverything) {
 //   |   strip 0    |
 //   +--------------+ 320
 TEST(PlainSearch, PlacesARestThatFitsNowhereBehindPiecesPlacedBefore) {
-    const PlainResult result = PlainMultiEstimate(DownLayJob(144, 0, {{294, 10}, {144, 300}}));
+    const PlainResult result = RunPlainSearch(DownLayJob(144, 1, {{294, 10}, {144, 300}}));
     EXPECT_EQ(result.placed, (Layout{{0, 300, 150, 10}, {0, 310, 144, 10}, {0, 0, 144, 300}}));
     ExpectBest(result, 1, 320);
 }
@@ -167,8 +167,8 @@ TEST(PlainSearch, PlacesARestThatFitsNowhereBehindPiecesPlacedBefore) {
 //   ++--------------+ 50
 //   || rest, 2 wide
 //   ++ 100
-TEST(PlainSearch, KeepsTwoInchesFreeUnlessTheWholeWidthMayBeUsed) {
-    const PlainResult result = PlainMultiEstimate(Stored("two inches kept free"));
+TEST(PlainSearch, PlacesANarrowRestOfAPieceTooWide) {
+    const PlainResult result = RunPlainSearch(Stored("narrow rest"));
     EXPECT_EQ(result.placed, (Layout{{0, 0, 142, 50}, {0, 50, 2, 50}}));
     ExpectBest(result, 1, 100);
 }
@@ -183,7 +183,7 @@ TEST(PlainSearch, KeepsTwoInchesFreeUnlessTheWholeWidthMayBeUsed) {
 //   |     +-----------+ 156
 //   +-----+ 192
 TEST(PlainSearch, MovesAFreeStandingPieceLeft) {
-    const PlainResult result = PlainMultiEstimate(Stored("free-standing strip moves left"));
+    const PlainResult result = RunPlainSearch(Stored("free-standing strip moves left"));
     EXPECT_EQ(result.placed, (Layout{{0, 0, 50, 60},
                                      {96, 0, 48, 120},
                                      {0, 60, 36, 132},
@@ -201,7 +201,7 @@ TEST(PlainSearch, MovesAFreeStandingPieceLeft) {
 //   |     0      |
 //   +------------+ 216
 TEST(PlainSearch, KeepsAPieceAtItsCornerWhereAnotherStandsToItsRight) {
-    const PlainResult result = PlainMultiEstimate(Stored("crossed row keeps a strip in place"));
+    const PlainResult result = RunPlainSearch(Stored("crossed row keeps a strip in place"));
     EXPECT_EQ(result.placed, (Layout{{0, 120, 84, 96},
                                      {96, 0, 48, 72},
                                      {72, 72, 12, 48},
@@ -224,7 +224,7 @@ TEST(PlainSearch, KeepsAPieceAtItsCornerWhereAnotherStandsToItsRight) {
 //   |      2       |      |     |
 //   +--------------+ 240  +-----+ 264
 TEST(PlainSearch, KeepsAPieceAtItsCornerWhereAnotherStartsOnItsRow) {
-    const PlainResult result = PlainMultiEstimate(Stored("piece on the same row"));
+    const PlainResult result = RunPlainSearch(Stored("piece on the same row"));
     EXPECT_EQ(result.placed, (Layout{{96, 60, 12, 120},
                                      {0, 0, 72, 96},
                                      {0, 216, 96, 24},
@@ -247,7 +247,7 @@ TEST(PlainSearch, KeepsAPieceAtItsCornerWhereAnotherStartsOnItsRow) {
 //   |  3 |                          corner (84, 36) exists only when piece 2, which
 //   +----+ 60                       starts at y = 36, is there before piece 0
 TEST(PlainSearch, StopsAPointMovedLeftAtPiecesThatStartButNotThatEndOnItsRow) {
-    const PlainResult result = PlainMultiEstimate(Stored("row ends where another starts"));
+    const PlainResult result = RunPlainSearch(Stored("row ends where another starts"));
     EXPECT_EQ(result.placed,
               (Layout{{96, 0, 48, 36}, {0, 0, 84, 36}, {0, 36, 84, 12}, {108, 36, 36, 12}}));
     ExpectBest(result, 0, 48);
@@ -259,7 +259,7 @@ TEST(PlainSearch, StopsAPointMovedLeftAtPiecesThatStartButNotThatEndOnItsRow) {
 //   |   |   +-----------+ 24
 //   +---+ 96
 TEST(PlainSearch, PlacesTheLongerOfTwoEqualAreasFirst) {
-    const PlainResult result = PlainMultiEstimate(Stored("equal areas"));
+    const PlainResult result = RunPlainSearch(Stored("equal areas"));
     EXPECT_EQ(result.placed, (Layout{{48, 0, 96, 24}, {0, 0, 24, 96}}));
     ExpectBest(result, 1, 96);
 }
@@ -273,7 +273,7 @@ TEST(PlainSearch, PlacesTheLongerOfTwoEqualAreasFirst) {
 //   |     1      |
 //   +------------+ 168
 TEST(PlainSearch, LeavesAPieceThatTouchesAnotherAtItsEndAlone) {
-    const PlainResult result = PlainMultiEstimate(Stored("touching at the end"));
+    const PlainResult result = RunPlainSearch(Stored("touching at the end"));
     EXPECT_EQ(result.placed, (Layout{{60, 0, 48, 60},
                                      {0, 108, 60, 60},
                                      {120, 0, 24, 108},
@@ -291,7 +291,7 @@ TEST(PlainSearch, LeavesAPieceThatTouchesAnotherAtItsEndAlone) {
 //   |     0      |
 //   +------------+ 132
 TEST(PlainSearch, LeavesAPieceThatTouchesAnotherBesideItAlone) {
-    const PlainResult result = PlainMultiEstimate(Stored("touching beside"));
+    const PlainResult result = RunPlainSearch(Stored("touching beside"));
     EXPECT_EQ(result.placed,
               (Layout{{0, 84, 84, 48}, {84, 0, 12, 12}, {96, 0, 48, 72}, {0, 0, 72, 84}}));
     ExpectBest(result, 1, 132);
@@ -308,13 +308,13 @@ TEST(PlainSearch, LeavesAPieceThatTouchesAnotherBesideItAlone) {
 //   +------------+ 305
 TEST(PlainSearch, CountsEdgesAsTouchingWithinTheTolerance) {
     const PlainJob job = Stored("touching within the tolerance");
-    const PlainResult result = PlainMultiEstimate(job);
+    const PlainResult result = RunPlainSearch(job);
     ASSERT_EQ(result.placed.size(), 4U);
     const PlainPlaced& one = result.placed[1];
-    EXPECT_EQ(one.x, PieceWid(job.pieces[0]));
+    EXPECT_EQ(one.x, WidthOf(job.pieces[0]));
     EXPECT_EQ(one.y, 0.0F);
     EXPECT_GT(one.x + one.w, result.placed[2].x);
-    EXPECT_EQ(result.placed[2].x, job.rollWidth - PieceWid(job.pieces[2]));
+    EXPECT_EQ(result.placed[2].x, job.rollWidth - WidthOf(job.pieces[2]));
     ExpectBest(result, 2, 120);
 }
 
@@ -327,8 +327,7 @@ TEST(PlainSearch, CountsEdgesAsTouchingWithinTheTolerance) {
 //   | 1  |       |  2  |
 //   +----+       +-----+ 120
 TEST(PlainSearch, GoesOnBehindAPieceThatFitsNowhere) {
-    const PlainResult result =
-        PlainMultiEstimate(DownLayJob(144, 0, {{400, 50}, {30, 20}, {30, 20}}));
+    const PlainResult result = RunPlainSearch(DownLayJob(144, 1, {{400, 50}, {30, 20}, {30, 20}}));
     EXPECT_EQ(result.placed,
               (Layout{{0, 0, 256, 50}, {0, 50, 144, 50}, {0, 100, 30, 20}, {114, 100, 30, 20}}));
     ExpectBest(result, 1, 120);

@@ -11,20 +11,15 @@ namespace tarn::reference {
 
 namespace {
 
-// A turned coordinate must fit 16 bits.
-constexpr double LargestTurned = 32000;
-
 enum class Sizes { Inches, Centimetres, Hundredths, Remainders, Fractions };
 
 struct Maker {
     RandomSource random;
     PlainJob job{};
     Sizes sizes = Sizes::Inches;
-    bool mixedTurns = false;
     int longest = 0;                // inches
     std::vector<PlainPiece> pool{}; // when not empty, every piece is one of these
     double rollUnits = 0;           // the roll in hundredths of an inch
-    double usableUnits = 0;         // its usable width
 };
 
 double Length(Maker& maker, int most) {
@@ -58,18 +53,17 @@ std::pair<float, float> Remainder(Maker& maker) {
 std::pair<float, float> Across(Maker& maker) {
     RandomSource& random = maker.random;
     if (random.OneIn(12)) {
-        const double width = random.OneIn(2) ? maker.rollUnits : maker.usableUnits;
-        return {0.0F, static_cast<float>(width)};
+        return {0.0F, static_cast<float>(maker.rollUnits)};
     }
     if (random.OneIn(16)) {
         return {0.0F, static_cast<float>(maker.rollUnits * random.Whole(101, 250) / 100.0)};
     }
-    if (maker.sizes == Sizes::Remainders && !maker.mixedTurns) {
+    if (maker.sizes == Sizes::Remainders) {
         return Remainder(maker);
     }
-    const int widest = std::max(2, static_cast<int>(maker.usableUnits / 100.0));
+    const int widest = std::max(2, static_cast<int>(maker.rollUnits / 100.0));
     double width = Length(maker, random.OneIn(3) ? widest : widest / 2 + 1);
-    width = std::min(width, maker.usableUnits);
+    width = std::min(width, maker.rollUnits);
     const double start = random.OneIn(4) ? std::floor(width) : 0.0;
     return {static_cast<float>(start), static_cast<float>(start + width)};
 }
@@ -89,23 +83,14 @@ std::pair<float, float> Along(Maker& maker) {
     return {static_cast<float>(start), static_cast<float>(start + length)};
 }
 
-float Limited(float edge) {
-    return std::min(edge, static_cast<float>(LargestTurned));
-}
-
 PlainPiece NewPiece(Maker& maker) {
     const auto [x1, x2] = Across(maker);
     const auto [y1, y2] = Along(maker);
     const int divide = maker.random.OneIn(8) ? maker.random.OneOf<int>({0, 0, 0, 2, -1}) : 1;
-    PlainPiece piece = {x1, x2, y1, y2, 0, divide, maker.job.layDir, 0};
+    PlainPiece piece = {x1, x2, y1, y2, 0, divide, 0};
     if (maker.job.layDir == 1) {
         std::swap(piece.x1, piece.y1);
         std::swap(piece.x2, piece.y2);
-    }
-    if (maker.mixedTurns) {
-        piece.x2 = Limited(piece.x2);
-        piece.y2 = Limited(piece.y2);
-        piece.turn = maker.random.Whole(0, 3);
     }
     return piece;
 }
@@ -113,21 +98,20 @@ PlainPiece NewPiece(Maker& maker) {
 void Roll(Maker& maker) {
     RandomSource& random = maker.random;
     PlainJob& job = maker.job;
-    job.metric = random.OneIn(2);
+    const bool metric = random.OneIn(2);
     if (random.OneIn(5)) {
         job.rollWidth = static_cast<float>(random.Whole(3000, 25000) / 100.0);
     } else if (random.OneIn(8)) {
         job.rollWidth = static_cast<float>(random.Whole(24, 240));
-    } else if (job.metric) {
+    } else if (metric) {
         job.rollWidth = MetricRollWidth(random.OneOf<int>({183, 366, 411, 457}));
     } else {
         job.rollWidth = random.OneOf<float>({72, 144, 162, 180});
     }
     job.layDir = random.Whole(0, 1);
-    job.fillFlag = random.OneIn(12) ? 0 : 1;
-    job.estOption = 10 * random.Whole(0, 2) + random.Whole(0, 5);
+    job.mostParts = random.Whole(1, 6);
+    job.minCut = metric ? random.OneOf<int>({762, 381, 127}) : random.OneOf<int>({300, 150, 50});
     maker.rollUnits = static_cast<double>(job.rollWidth) / 0.01;
-    maker.usableUnits = maker.rollUnits - (job.fillFlag == 1 ? 0.0 : 200.0);
 }
 
 struct Sheet {
@@ -157,7 +141,7 @@ void SplitOne(RandomSource& random, std::vector<Sheet>& sheets) {
 // Pieces of one full-width sheet: there is a layout without any gap.
 void AddSheetPieces(Maker& maker, int count) {
     RandomSource& random = maker.random;
-    std::vector<Sheet> sheets = {{0, maker.usableUnits, 0, random.Whole(20, 300) * 100.0}};
+    std::vector<Sheet> sheets = {{0, maker.rollUnits, 0, random.Whole(20, 300) * 100.0}};
     for (int i = 1; i < count; ++i) {
         SplitOne(random, sheets);
     }
@@ -170,7 +154,6 @@ void AddSheetPieces(Maker& maker, int count) {
                             static_cast<float>(s.y2 - s.y1),
                             0,
                             1,
-                            maker.job.layDir,
                             0};
         if (maker.job.layDir == 1) {
             std::swap(piece.x1, piece.y1);
@@ -188,7 +171,6 @@ void AddPieces(Maker& maker, int count) {
     RandomSource& random = maker.random;
     maker.sizes = random.OneOf<Sizes>({Sizes::Inches, Sizes::Centimetres, Sizes::Hundredths,
                                        Sizes::Remainders, Sizes::Fractions});
-    maker.mixedTurns = random.OneIn(8);
     maker.longest = random.OneOf<int>({12, 60, 150, 300});
     if (random.OneIn(5)) {
         const int kinds = random.Whole(1, 3);
@@ -249,10 +231,10 @@ std::string Describe(const PlainJob& job) {
     text << "PlainJob{{";
     for (const PlainPiece& p : job.pieces) {
         text << '{' << p.x1 << "F, " << p.x2 << "F, " << p.y1 << "F, " << p.y2 << "F, " << p.org
-             << ", " << p.divide << ", " << p.turn << ", " << p.order << "}, ";
+             << ", " << p.divide << ", " << p.order << "}, ";
     }
-    text << "}, " << job.rollWidth << "F, " << job.layDir << ", " << job.fillFlag << ", "
-         << job.estOption << ", " << (job.metric ? "true" : "false") << '}';
+    text << "}, " << job.rollWidth << "F, " << job.layDir << ", " << job.mostParts << ", "
+         << job.minCut << '}';
     return text.str();
 }
 

@@ -31,7 +31,7 @@ class RandomSource {
 /// A job that raises no error, always the same for equal seeds. About 1 to 40 pieces, in whole
 /// inches, centimetres, hundredths of an inch, remainders of rooms cut on the roll, or cut from one
 /// sheet so that they can fit without a gap; every width of the program and odd ones; both lays;
-/// all options.
+/// all minimum cuts and numbers of parts.
 PlainJob RandomJob(std::uint32_t seed);
 
 /// The roll width in inches that "CARPET WIDTH n CMS" stands for.

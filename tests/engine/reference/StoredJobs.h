@@ -12,7 +12,8 @@ namespace tarn::reference {
 struct Extent {
     int across, along;
 };
-PlainJob DownLayJob(float rollWidth, int estOption, const std::vector<Extent>& extents);
+PlainJob DownLayJob(float rollWidth, int mostParts, const std::vector<Extent>& extents,
+                    int minCut = 300);
 
 /// A job that once showed, or could show, a wrong layout.
 struct StoredJob {

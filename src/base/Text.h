@@ -1,0 +1,46 @@
+// UTF-8 texts counted and changed by characters, and the texts that belong to every part.
+
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace tarn {
+
+/// Breaks lines in message boxes and reports.
+inline constexpr std::string_view CrLf = "\r\n";
+
+/// The application's title: product title of every screen, title of every box.
+inline constexpr std::string_view ApplicationTitle = "SOLVANE 2040";
+
+/// The decimal text of a whole number, without blanks.
+std::string TrimStr(long long value);
+/// `text` without the blanks at both ends.
+std::string TrimStr(std::string_view text);
+
+/// `count` blanks; none for a negative count.
+std::string Space(long long count);
+
+/// Number of characters (not bytes) of a UTF-8 text.
+long long Len(std::string_view utf8);
+
+/// Whether a byte of a UTF-8 text continues a character instead of beginning one.
+constexpr bool ContinuesCharacter(char byte) {
+    return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U;
+}
+
+/// The text with the letters a to z in upper case; every other character stays.
+std::string UpperCaseLetters(std::string_view text);
+
+/// Whether two texts are the same but for the case of the letters A to Z.
+bool EqualsIgnoringCase(std::string_view a, std::string_view b);
+
+/// Whether a character is a control character: U+0000 to U+001F and U+007F to U+009F.
+constexpr bool IsControlCharacter(char32_t c) {
+    return c < 0x20 || (c >= 0x7F && c < 0xA0);
+}
+
+/// The text with a blank for each control character: what can stand in one line.
+std::string OneLine(std::string_view utf8);
+
+} // namespace tarn

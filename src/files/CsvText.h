@@ -1,0 +1,39 @@
+// CSV texts by RFC 4180: records and fields, whatever they mean.
+
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace tarn {
+
+/// What is wrong with the quoting of a field.
+enum class CsvFault {
+    None,
+    TextAfterQuote, ///< something other than a comma or a line end follows the closing quote
+    UnclosedQuote   ///< the text ends within the quotes
+};
+
+/// One record of a CSV text.
+struct CsvRecord {
+    long long Line = 1; ///< the physical line on which the record begins, from 1
+    std::vector<std::string> Fields;
+    CsvFault Fault = CsvFault::None; ///< of the first faulty field
+    std::size_t FaultyField = 0;     ///< index into Fields, when there is a fault
+};
+
+/// Split a CSV text into its records by RFC 4180: fields separated by commas; a field that begins
+/// with a quote may hold commas, line ends and doubled quotes. A byte-order mark at the start is
+/// skipped, lines end in CR LF, LF or CR, empty lines are no records. A quote further on in a field
+/// that does not begin with one is itself, so that 12'6" can be written as it is. Blanks belong to
+/// the field. The bytes of the fields are not judged; a record with a fault is still split to its
+/// end.
+std::vector<CsvRecord> SplitCsv(std::string_view text);
+
+/// Append one record with a line end (CR LF) to `text`. A field is quoted when it holds a comma, a
+/// quote or a line end, or would begin the text with a byte-order mark; SplitCsv gives the same
+/// fields back, except that one empty field alone is an empty line.
+void AppendCsvRecord(std::string& text, const std::vector<std::string>& fields);
+
+} // namespace tarn

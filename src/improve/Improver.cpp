@@ -1,0 +1,130 @@
+#include "improve/Improver.h"
+
+#include "improve/Bounds.h"
+#include "improve/ColumnGeneration.h"
+#include "improve/PartPlan.h"
+#include "improve/Searches.h"
+#include "improve/WholePlan.h"
+
+#include <algorithm>
+#include <memory>
+
+namespace tarn {
+
+namespace {
+
+constexpr Double FirstEffort = 3000;  ///< steps from one start in the first round
+constexpr Double EffortGrowth = 1.5;  ///< a round
+constexpr Double ShortenShare = 0.05; ///< of the steps from one start
+constexpr Double PolishShare = 0.05;
+constexpr Double RelaxationShare = 0.2; ///< of the seconds of a run at most
+constexpr std::size_t StartsPerRoof = 4;
+constexpr std::size_t BestStarts = 12;     ///< that take turns
+constexpr std::int64_t LastPolish = 20000; ///< steps without a gain, when no layout is shorter
+
+std::unique_ptr<Plan> PlanOf(const ImproveJob& job) {
+    if (AnyDivisible(job)) {
+        return std::make_unique<PartPlan>(job);
+    }
+    return std::make_unique<WholePlan>(job);
+}
+
+class Improver {
+  public:
+    Improver(ImproveRun& run, std::uint64_t seed)
+        : run_(run)
+        , random_(seed)
+        , plan_(PlanOf(run.Job())) {}
+
+    void Search() {
+        run_.RaiseBound(QuickBound(run_.Job()));
+        starts_ = RankedStarts(run_, *plan_);
+        if (!run_.IsLeast() && !run_.Stopped()) {
+            RelaxBars();
+        }
+        for (int round = 0; !run_.IsLeast() && !run_.Stopped(); ++round) {
+            LowerRoof();
+            if (!run_.Stopped()) {
+                ShortenStarts(round);
+            }
+            PolishBest(Steps(PolishShare));
+            effort_ *= EffortGrowth;
+        }
+        PolishBest(LastPolish);
+    }
+
+  private:
+    std::int64_t Steps(Double share) const { return static_cast<std::int64_t>(effort_ * share); }
+
+    void RelaxBars() {
+        const Double seconds = run_.Limits().Seconds;
+        const Double end = run_.Passed() + RelaxationShare * seconds;
+        run_.RaiseBound(BarRelaxationBound(run_.Job(), run_.Bound(), [&] {
+            return run_.Ask() && (seconds <= 0 || run_.Passed() < end);
+        }));
+    }
+
+    /// Look for the lowest roof between the bound and the best below which all can be packed.
+    void LowerRoof() {
+        Long low = run_.Bound();
+        while (low < run_.Best().Length && !run_.Stopped()) {
+            const Long roof = low + (run_.Best().Length - 1 - low) / 2;
+            if (!PackFromAny(roof)) {
+                low = roof + 1;
+            }
+        }
+    }
+
+    bool PackFromAny(Long roof) {
+        for (std::size_t i = 0; i < StartsPerRoof && !run_.Stopped(); ++i) {
+            const PlanStart& start = starts_[next_++ % std::min(BestStarts, starts_.size())];
+            if (PackBelow(run_, *plan_, start, roof, Steps(1), random_)) {
+                best_ = plan_->Copy();
+                return true;
+            }
+        }
+        return false;
+    }
+
+    /// Look for a better layout of the best length, where there can be one.
+    void PolishBest(std::int64_t steps) {
+        const LayoutMerit& best = run_.Best();
+        if (best.Length < run_.RulesBound() || best.Parts == 0 || run_.Stopped()) {
+            return;
+        }
+        if (HaveBest() && !run_.Stopped()) {
+            Polish(run_, *best_, run_.Best().Length, steps, random_);
+        }
+    }
+
+    /// Have a plan that packs all below the best length. The one of a roof lowered earlier may be
+    /// longer than what was found since by other ways, or there was none.
+    bool HaveBest() {
+        const Long length = run_.Best().Length;
+        return (best_ && best_->Unpacked(length, 0) == 0) || PackFromAny(length);
+    }
+
+    void ShortenStarts(int round) {
+        const std::size_t count = std::min(BestStarts, starts_.size());
+        const std::size_t start = static_cast<std::size_t>(round) % count;
+        Shorten(run_, *plan_, starts_[start], Steps(ShortenShare), random_);
+    }
+
+    ImproveRun& run_;
+    RandomSteps random_;
+    std::unique_ptr<Plan> plan_;
+    std::vector<PlanStart> starts_;
+    std::size_t next_ = 0;       ///< start
+    std::unique_ptr<Plan> best_; ///< the last that packed all below a roof
+    Double effort_ = FirstEffort;
+};
+
+} // namespace
+
+void Improve(ImproveRun& run, std::uint64_t seed) {
+    if (!run.Job().Fills.empty()) {
+        Improver(run, seed).Search();
+    }
+}
+
+} // namespace tarn

@@ -1,0 +1,127 @@
+#pragma once
+
+#include "improve/FitClass.h"
+#include "improve/LeftFree.h"
+#include "improve/Plan.h"
+#include "improve/Skyline.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <vector>
+
+namespace tarn {
+
+/// What plans have in common that fill the skyline gap by gap: the gaps, the limits, the layout
+/// that comes of it. A kind of plan says which part goes into a gap.
+class SkylinePlan : public Plan {
+  public:
+    Area64 Unpacked(Long roof, Area64 limit) override;
+    Area64 Length(Area64 limit) override;
+    std::vector<ImprovePart> Layout() const override { return placed_; }
+
+  protected:
+    /// When a layout is given up.
+    struct Limits {
+        Long Roof;       ///< parts end below it
+        Area64 Waste;    ///< the most that is left free below them
+        Area64 Farthest; ///< no part ends above it
+    };
+
+    /// `job` has at least one fill and must outlive the plan.
+    explicit SkylinePlan(const ImproveJob& job);
+
+    /// Lay the fills out. False when it was given up.
+    virtual bool LayOut(const Limits& limits) = 0;
+
+    /// The layout's loop, from an empty roll. While `hasMore()`, the lowest gap gets the part that
+    /// `choose(gap, walls, room)` names, by `put(gap, walls, choice)`, or is left free when the
+    /// choice's Fit is FitClass::None. It is a template because it is what a search spends most of
+    /// its time in.
+    template <class HasMore, class Choose, class Put>
+    bool FillGaps(const Limits& limits, HasMore hasMore, Choose choose, Put put);
+    /// Whether the next step that could take a part is one that leaves its gap free.
+    bool LeavesNextFree() { return skips_.Holds(step_++); }
+    /// Lay a part of a fill.
+    void Lay(std::size_t fill, Long length, const Gap& gap, const Walls& walls, FitClass fit);
+
+    void BeginWith(PlacingRule rule) {
+        rule_ = rule;
+        skips_ = LeftFree();
+        skipsBefore_ = skips_;
+    }
+    /// Now and then change which of the steps 0 .. `last` leave their gap free. True when that is
+    /// all that changes.
+    bool ChangeSkips(RandomSteps& random, std::size_t last);
+    void KeepSkips() { skipsBefore_ = skips_; }
+    void UndoSkips() { skips_ = skipsBefore_; }
+
+    const ImproveJob& Job() const { return *job_; }
+    const PlacingRule& Rule() const { return rule_; }
+    std::size_t LaidParts() const { return placed_.size(); }
+    /// No part is narrower than the gap by more than what takes `narrowest`, where the rule says
+    /// so.
+    Long WidestFor(const Gap& gap, Long narrowest) const {
+        return rule_.LeaveRoom && gap.Width < job_->Width ? gap.Width - narrowest : gap.Width;
+    }
+
+  private:
+    const ImproveJob* job_;
+    Area64 area_;
+    PlacingRule rule_;
+    LeftFree skips_;
+    LeftFree skipsBefore_;
+
+    Skyline skyline_;
+    std::size_t step_ = 0;
+    std::vector<ImprovePart> placed_;
+    Area64 placedArea_ = 0;
+    Area64 end_ = 0;
+};
+
+template <class HasMore, class Choose, class Put>
+bool SkylinePlan::FillGaps(const Limits& limits, HasMore hasMore, Choose choose, Put put) {
+    skyline_.Reset(job_->Width);
+    placed_.clear();
+    placedArea_ = 0;
+    end_ = 0;
+    step_ = 0;
+    Area64 waste = 0;
+    while (hasMore()) {
+        const Gap gap = skyline_.Lowest();
+        if (gap.Y >= limits.Roof) {
+            break;
+        }
+        const Long room = limits.Roof - gap.Y;
+        const Walls walls(gap, room);
+        const auto choice = choose(gap, walls, room);
+        if (choice.Fit == FitClass::None) {
+            const bool wholeWidth = skyline_.Count() == 1;
+            if (wholeWidth && limits.Roof == NoWall) {
+                continue; // the step was only left out: the whole width takes any fill
+            }
+            const Long height = wholeWidth ? room : walls.Short;
+            waste += static_cast<Area64>(gap.Width) * height;
+            if (waste > limits.Waste) {
+                return false;
+            }
+            skyline_.Raise(gap, height);
+            continue;
+        }
+        put(gap, walls, choice);
+        if (end_ > limits.Farthest) {
+            return false;
+        }
+    }
+    return true;
+}
+
+inline void SkylinePlan::Lay(std::size_t fill, Long length, const Gap& gap, const Walls& walls,
+                             FitClass fit) {
+    const Long width = job_->Fills[fill].Width;
+    const Long x = skyline_.Place(gap, StandsLeft(fit, walls), width, length);
+    placed_.push_back({fill, x, gap.Y, length});
+    placedArea_ += static_cast<Area64>(width) * length;
+    end_ = std::max(end_, static_cast<Area64>(gap.Y) + length);
+}
+
+} // namespace tarn

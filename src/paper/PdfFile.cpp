@@ -1,0 +1,63 @@
+#include "paper/PdfFile.h"
+
+#include "base/Text.h"
+#include "files/OutputFile.h"
+#include "files/QtText.h"
+#include "paper/EstimatePaper.h"
+#include "paper/ReportPaper.h"
+#include "project/Report.h"
+
+#include <QBuffer>
+#include <QPdfWriter>
+
+#include <functional>
+
+namespace tarn {
+
+namespace {
+
+constexpr int Resolution = 1200; ///< dots per inch; whole numbers in the document count them
+
+std::string Document(const QString& title, const Paper& paper,
+                     const std::function<void(QPagedPaintDevice&)>& paint) {
+    QByteArray content;
+    QBuffer buffer(&content);
+    buffer.open(QIODevice::WriteOnly);
+    {
+        QPdfWriter writer(&buffer);
+        writer.setResolution(Resolution);
+        if (!writer.setPageLayout(LayoutOf(paper))) {
+            throw PrinterError("No page can be made on paper of that size.");
+        }
+        writer.setTitle(title);
+        writer.setCreator(ToQt(ApplicationTitle));
+        paint(writer);
+    }
+    return content.toStdString();
+}
+
+} // namespace
+
+std::string ReportPdf(const EnteredDataReport& report, const Paper& paper) {
+    return Document(ToQt(ReportTitle), paper,
+                    [&](QPagedPaintDevice& device) { PaintReport(device, report); });
+}
+
+std::string EstimatePdf(const EstimatePage& page, const Paper& paper) {
+    return Document(ToQt(TrimStr(page.Title)), paper,
+                    [&](QPagedPaintDevice& device) { PaintEstimate(device, page); });
+}
+
+std::string EstimatePdf(const EstimatePage& page) {
+    return EstimatePdf(page, PaperOf(page.Sheet));
+}
+
+void WriteReportPdf(const EnteredDataReport& report, const std::string& path, const Paper& paper) {
+    WriteOutputFile(path, ReportPdf(report, paper));
+}
+
+void WriteEstimatePdf(const EstimatePage& page, const std::string& path) {
+    WriteOutputFile(path, EstimatePdf(page));
+}
+
+} // namespace tarn

@@ -1,0 +1,28 @@
+// The pages of reports and estimates as PDF documents and files.
+
+#pragma once
+
+#include "paper/EstimatePage.h"
+#include "paper/Paper.h"
+
+#include <string>
+
+namespace tarn {
+
+struct EnteredDataReport;
+
+/// The pages that a printer gets, as a PDF document: landscape, real text in embedded faces, inside
+/// the margins of `paper`. They need a QGuiApplication, on whatever platform. Raise PrinterError
+/// when the pages cannot be made.
+std::string ReportPdf(const EnteredDataReport& report, const Paper& paper = {});
+std::string EstimatePdf(const EstimatePage& page, const Paper& paper);
+/// The same on the page's own sheet, with the least margins; A4 when it is not known.
+std::string EstimatePdf(const EstimatePage& page);
+
+/// Write such a document to a file, whole or not at all. Raise OutputFileError, which names the
+/// file, when it cannot be written.
+void WriteReportPdf(const EnteredDataReport& report, const std::string& path,
+                    const Paper& paper = {});
+void WriteEstimatePdf(const EstimatePage& page, const std::string& path);
+
+} // namespace tarn

@@ -1,0 +1,46 @@
+// What printing is to the screens: a printer that can be asked for its sheet and given two kinds of
+// jobs.
+
+#pragma once
+
+#include "base/Types.h"
+
+#include <stdexcept>
+#include <string>
+
+namespace tarn {
+
+struct EnteredDataReport;
+struct EstimatePage;
+
+/// The printer cannot be used, or refused the job; what() says why.
+class PrinterError : public std::runtime_error {
+  public:
+    using std::runtime_error::runtime_error;
+};
+
+/// Shown when printing failed.
+inline constexpr const char* PrinterNotReadyMessage =
+    "Warning: Your printer is not ready!\r\n\r\nYou couldn't print in the program";
+
+/// The system's default printer. Every member raises PrinterError when there is none, when it takes
+/// no jobs, and when it refuses the job. A job that failed leaves no page, unless the printing
+/// system fell silent after it had the whole of it; the error says so.
+class Printer {
+  public:
+    virtual ~Printer() = default;
+
+    /// A sheet of paper in landscape, twips.
+    struct PageSize {
+        Double Width = 0;
+        Double Height = 0;
+    };
+    virtual PageSize Page() = 0;
+
+    /// Print the entered-data report as one job, landscape.
+    virtual void PrintReport(const EnteredDataReport& report) = 0;
+    /// Print an estimate as one job of one landscape page.
+    virtual void PrintEstimate(const EstimatePage& page) = 0;
+};
+
+} // namespace tarn

@@ -1,0 +1,31 @@
+#include "project/Coverings.h"
+
+#include "base/Text.h"
+
+namespace tarn {
+
+Integer CoveringNumber(Byte code) {
+    return static_cast<Integer>(IsCarpet(code) ? code + 1 : code - FirstTileCode + 1);
+}
+
+std::string CoveringCaption(Byte code) {
+    const std::string kind = IsCarpet(code) ? "CARPET-" : "TILE-";
+    return kind + TrimStr(CoveringNumber(code));
+}
+
+std::string CoveringReportText(Byte code) {
+    const std::string kind = IsCarpet(code) ? "C" : "T";
+    return kind + TrimStr(CoveringNumber(code));
+}
+
+std::optional<Byte> ReadCovering(std::string_view text) {
+    const std::string wanted = UpperCaseLetters(TrimStr(text));
+    for (Byte code = 0; code <= LastTileCode; ++code) {
+        if (wanted == CoveringCaption(code) || wanted == CoveringReportText(code)) {
+            return code;
+        }
+    }
+    return std::nullopt;
+}
+
+} // namespace tarn

@@ -1,0 +1,156 @@
+#include "project/RoomEntry.h"
+
+#include "base/Numbers.h"
+#include "base/RunTimeError.h"
+#include "base/Text.h"
+#include "project/Coverings.h"
+#include "project/RoomExtents.h"
+#include "project/RoomSize.h"
+#include "project/WallBase.h"
+
+#include <algorithm>
+#include <limits>
+#include <optional>
+
+namespace tarn {
+
+namespace {
+
+using Outcome = StoreResult::Outcome;
+
+/// The size that is typed; nothing when it may not be stored. `side` names it for the user.
+std::optional<Integer> SizeOf(const SizeParts& typed, Units units, const std::string& side) {
+    try {
+        return ReadSize(typed.Major, typed.Minor, units);
+    } catch (const RunTimeError& error) {
+        throw error.WithAdvice("The " + side + " of a room can be " +
+                               TrimStr(std::numeric_limits<Integer>::max()) + " " +
+                               std::string(SmallUnitName(units)) + " at most.");
+    }
+}
+
+/// Which part of a size that may not be stored is to be corrected.
+SizeField WrongPart(const SizeParts& typed, SizeField major, SizeField minor) {
+    const auto refused = RefusedPart(typed.Major, typed.Minor);
+    const bool isMajor = refused ? *refused == SizePart::Major : Val(typed.Major) < 0;
+    return isMajor ? major : minor;
+}
+
+/// Whether a new room of that size is stored behind `count` others, and why not.
+Outcome OutcomeOfNewRoom(std::size_t count, Integer width, Integer length) {
+    if (width == 0 && length == 0) {
+        return Outcome::Empty;
+    }
+    if (count >= RoomCapacity) {
+        return Outcome::ProjectFull;
+    }
+    return width == 0 || length == 0 ? Outcome::OneSizeMissing : Outcome::Stored;
+}
+
+/// The code of a typed base; `kept` where the text is the one that it is shown by, so that a code
+/// without a text stays.
+Byte BaseOf(const std::string& typed, Byte kept) {
+    return typed == BaseText(kept) ? kept : BaseCode(typed);
+}
+
+} // namespace
+
+RoomDraft DraftOf(const Room& room, Units shown) {
+    RoomDraft draft;
+    draft.Width = SplitSize(room.Width, shown);
+    draft.Length = SplitSize(room.Length, shown);
+    if (room.Covering <= LastTileCode) {
+        draft.Covering = room.Covering;
+    }
+    draft.Base = BaseText(room.Base);
+    draft.Number = room.Number;
+    draft.Remark = room.Remark;
+    return draft;
+}
+
+std::string_view StoreResult::Message() const {
+    switch (What) {
+    case Outcome::OneSizeMissing:
+    case Outcome::WrongSize:
+        return WrongSizeMessage;
+    case Outcome::ProjectFull:
+        return ProjectFullText;
+    case Outcome::Stored:
+    case Outcome::Empty:
+        break;
+    }
+    return {};
+}
+
+StoreResult StoreRoom(Project& project, Units shown, std::size_t room, const RoomDraft& draft) {
+    const auto width = SizeOf(draft.Width, shown, "width");
+    if (!width) {
+        return {Outcome::WrongSize,
+                WrongPart(draft.Width, SizeField::WidthMajor, SizeField::WidthMinor)};
+    }
+    const auto length = SizeOf(draft.Length, shown, "length");
+    if (!length) {
+        return {Outcome::WrongSize,
+                WrongPart(draft.Length, SizeField::LengthMajor, SizeField::LengthMinor)};
+    }
+    const std::size_t count = project.Rooms.size();
+    if (room > count) {
+        RaiseSubscript();
+    }
+    const bool isNew = room == count;
+    if (isNew) {
+        const Outcome outcome = OutcomeOfNewRoom(count, *width, *length);
+        if (outcome != Outcome::Stored) {
+            return {outcome};
+        }
+    }
+    const Room before = isNew ? Room() : project.Rooms[room];
+    const Room after{*width,
+                     *length,
+                     draft.Covering.value_or(before.Covering),
+                     BaseOf(draft.Base, before.Base),
+                     draft.Number,
+                     draft.Remark};
+    ExtentOf(after, shown, project.Scale);
+    if (isNew) {
+        project.Rooms.push_back(after);
+    } else {
+        project.Rooms[room] = after;
+    }
+    if (shown == Units::Metric && (isNew || after != before)) {
+        project.EnteredIn = Units::Metric;
+    }
+    return {};
+}
+
+void DeleteRoom(Project& project, std::size_t room) {
+    if (room < project.Rooms.size()) {
+        project.Rooms.erase(project.Rooms.begin() + static_cast<std::ptrdiff_t>(room));
+    }
+}
+
+bool IsEmptiedSizeText(std::string_view text, bool beingTyped) {
+    const bool isPointWithZeros = std::count(text.begin(), text.end(), '.') == 1 &&
+                                  text.find_first_not_of(".0") == std::string_view::npos;
+    if (text.empty() || (beingTyped && isPointWithZeros)) {
+        return false;
+    }
+    try {
+        return Val(text) == 0;
+    } catch (const RunTimeError&) {
+        return false; // a number too large for a Double is refused when the room is stored
+    }
+}
+
+std::string BaseMessage(std::string_view secondExample) {
+    std::string message;
+    for (const std::string_view line :
+         {std::string_view("Sorry, you entered wrong string for base"),
+          std::string_view("You should enter L or W with 1 or 2 to be calculated"),
+          std::string_view("Example1: L2W1 - means 2 x Length + 1 x Width"), secondExample}) {
+        message.append(line).append(CrLf);
+    }
+    return message;
+}
+
+} // namespace tarn

@@ -1,0 +1,71 @@
+// The rules of typing rooms one at a time, without a screen. A room of the project is counted from
+// 0; the number of its rooms stands for the new room after the last one, which is not stored yet.
+
+#pragma once
+
+#include "base/Units.h"
+#include "project/Project.h"
+#include "project/RoomDraft.h"
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+namespace tarn {
+
+inline constexpr std::string_view WrongSizeMessage =
+    "The Size of room is not correct. Data is not changed";
+
+/// Refuses a room beyond RoomCapacity, however it comes.
+inline constexpr std::string_view ProjectFullText = "The project is full: it can hold 501 rooms.";
+static_assert(RoomCapacity == 501);
+
+/// A room as its fields show it, with sizes in `shown`. A covering that cannot be chosen is none.
+RoomDraft DraftOf(const Room& room, Units shown);
+
+/// The four size texts in the order in which they are typed.
+enum class SizeField { WidthMajor, WidthMinor, LengthMajor, LengthMinor };
+
+/// What became of the fields.
+struct StoreResult {
+    enum class Outcome {
+        Stored,
+        Empty,          ///< a new room without sizes: nothing to store
+        OneSizeMissing, ///< a new room of which one size is 0
+        WrongSize,      ///< a size text that may not be stored: negative, or refused
+        ProjectFull,    ///< a new room beyond the capacity
+    };
+    Outcome What = Outcome::Stored;
+    SizeField Wrong = SizeField::WidthMajor; ///< the text to correct, for WrongSize
+
+    bool IsStored() const { return What == Outcome::Stored; }
+    /// Whether what the user wanted beside storing the room waits until the fields are corrected.
+    bool Stops() const { return What == Outcome::WrongSize || What == Outcome::ProjectFull; }
+    /// What to tell the user; empty for nothing.
+    std::string_view Message() const;
+};
+
+/// Take the fields into `room`, 0 .. number of rooms; the new room is added. A room of the project
+/// is stored whatever its sizes, also 0; without a chosen covering it keeps its own, and with the
+/// base text that DraftOf gives its base code, so that showing a room and storing it changes
+/// nothing. A room that changes while `shown` is Metric makes the project one that was entered in
+/// metric. Nothing is changed unless it is Stored. Raises, with nothing changed, "Overflow" for a
+/// size beyond an Integer, "Subscript out of range" for a room beyond the new one, and as ExtentOf
+/// for sizes that the project's scale gives no extent.
+StoreResult StoreRoom(Project& project, Units shown, std::size_t room, const RoomDraft& draft);
+
+/// Remove a room: the rooms behind it move up. Nothing for the new room, which is not stored.
+void DeleteRoom(Project& project, std::size_t room);
+
+/// Whether a size field is emptied because it holds no size: Val of its text is 0. While it is
+/// being typed in, a decimal point alone or with zeros stays, so that .85 can be typed.
+bool IsEmptiedSizeText(std::string_view text, bool beingTyped);
+
+/// What is shown for a wall base that is not valid, with the example that belongs to the occasion.
+std::string BaseMessage(std::string_view secondExample);
+inline constexpr std::string_view TypedBaseExample =
+    "Example2: W21 - means 2 x Width and Length is not calculated.";
+inline constexpr std::string_view EnteredBaseExample =
+    "Example2: W2 - means 2 x Width and Length is not calculated.";
+
+} // namespace tarn

@@ -1,0 +1,98 @@
+#include "screens/Controls.h"
+
+#include "files/QtText.h"
+
+#include <QAbstractButton>
+#include <QEvent>
+#include <QLabel>
+#include <QPushButton>
+#include <QTextDocument>
+
+namespace tarn {
+
+namespace {
+
+QString WithMnemonic(std::string_view caption, char mnemonic) {
+    QString text = ToQt(caption);
+    text.replace(QLatin1String("&"), QLatin1String("&&"));
+    if (mnemonic != 0) {
+        const auto at = text.indexOf(QLatin1Char(mnemonic));
+        Q_ASSERT(at >= 0);
+        text.insert(at, QLatin1Char('&'));
+    }
+    return text;
+}
+
+class SecondClickFilter : public QObject {
+  public:
+    using QObject::QObject;
+
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        return event->type() == QEvent::MouseButtonDblClick || QObject::eventFilter(watched, event);
+    }
+};
+
+} // namespace
+
+void NameControl(QWidget& control, QAnyStringView name, const QString& accessibleName) {
+    control.setObjectName(name);
+    control.setAccessibleName(accessibleName);
+}
+
+void SetToolTip(QWidget& control, const QString& text) {
+    control.setToolTip(Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text) : text);
+}
+
+void SetCaption(QAbstractButton& button, std::string_view caption, char mnemonic) {
+    button.setText(WithMnemonic(caption, mnemonic));
+    button.setAccessibleName(ToQt(caption));
+}
+
+QString CaptionOf(const QAbstractButton& button) {
+    QString text;
+    const QString marked = button.text();
+    for (qsizetype i = 0; i < marked.size(); ++i) {
+        if (marked[i] == QLatin1Char('&') && ++i == marked.size()) {
+            break;
+        }
+        text += marked[i];
+    }
+    return text;
+}
+
+QPushButton* NewButton(QWidget* parent, QAnyStringView name, std::string_view caption,
+                       char mnemonic) {
+    auto* button = new QPushButton(parent);
+    button->setObjectName(name);
+    SetCaption(*button, caption, mnemonic);
+    return button;
+}
+
+void IgnoreSecondClick(QAbstractButton& button) {
+    button.installEventFilter(new SecondClickFilter(&button));
+}
+
+QLabel* NewLabel(QWidget* parent, QAnyStringView name, std::string_view caption) {
+    auto* label = new QLabel(parent);
+    label->setTextFormat(Qt::PlainText);
+    label->setText(ToQt(caption));
+    NameControl(*label, name, ToQt(caption));
+    return label;
+}
+
+void SetText(QLabel& label, std::string_view text) {
+    label.setText(ToQt(text));
+    label.setAccessibleName(label.text());
+}
+
+QLabel* NewLabelFor(QWidget& control, QWidget* parent, QAnyStringView name,
+                    std::string_view caption, char mnemonic) {
+    QLabel* label = NewLabel(parent, name, caption);
+    label->setText(WithMnemonic(caption, mnemonic));
+    label->setBuddy(&control);
+    control.setAccessibleName(ToQt(caption));
+    return label;
+}
+
+} // namespace tarn

@@ -1,0 +1,46 @@
+#pragma once
+
+// How controls are made. Each has its name (see ControlNames.h) as objectName, and as accessible
+// name its caption or that of its label.
+
+#include <QAnyStringView>
+#include <QString>
+
+#include <string_view>
+
+class QAbstractButton;
+class QLabel;
+class QPushButton;
+class QWidget;
+
+namespace tarn {
+
+/// Give any control its names.
+void NameControl(QWidget& control, QAnyStringView name, const QString& accessibleName);
+
+/// Set a tool tip that is shown as it is written, also where it looks like rich text: what stands
+/// in it may have been typed. An empty text takes it away.
+void SetToolTip(QWidget& control, const QString& text);
+
+/// Set a button's caption and accessible name. `mnemonic`, a letter of the caption, is underlined
+/// and presses the button together with Alt; 0 for none.
+void SetCaption(QAbstractButton& button, std::string_view caption, char mnemonic = 0);
+/// A button's caption without the mark of its mnemonic.
+QString CaptionOf(const QAbstractButton& button);
+
+QPushButton* NewButton(QWidget* parent, QAnyStringView name, std::string_view caption,
+                       char mnemonic = 0);
+/// Have a double click on the button press it once.
+void IgnoreSecondClick(QAbstractButton& button);
+
+QLabel* NewLabel(QWidget* parent, QAnyStringView name, std::string_view caption);
+
+/// Give a label another text, which is its accessible name, too.
+void SetText(QLabel& label, std::string_view text);
+
+/// A label for `control`: gives the control its accessible name, and takes Alt and `mnemonic` to
+/// it.
+QLabel* NewLabelFor(QWidget& control, QWidget* parent, QAnyStringView name,
+                    std::string_view caption, char mnemonic = 0);
+
+} // namespace tarn

@@ -1,0 +1,76 @@
+#include "screens/MessageBoxes.h"
+
+#include "base/Text.h"
+#include "files/QtText.h"
+
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QInputDialog>
+#include <QMessageBox>
+
+namespace tarn {
+
+namespace {
+
+/// Shown as typed: a project may be named like a piece of rich text.
+void Prepare(QMessageBox& box, const std::string& text) {
+    box.setWindowTitle(ToQt(ApplicationTitle));
+    box.setTextFormat(Qt::PlainText);
+    box.setText(ToQtLines(text));
+}
+
+} // namespace
+
+void MessageBoxes::Message(const std::string& text) {
+    QMessageBox box(parent_);
+    Prepare(box, text);
+    box.setStandardButtons(QMessageBox::Ok);
+    box.exec();
+}
+
+bool MessageBoxes::AskYesNo(const std::string& text) {
+    QMessageBox box(parent_);
+    Prepare(box, text);
+    box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
+    box.setDefaultButton(QMessageBox::No);
+    box.setEscapeButton(QMessageBox::No);
+    return box.exec() == QMessageBox::Yes;
+}
+
+std::optional<std::string> MessageBoxes::Input(const std::string& prompt,
+                                               const std::string& initial) {
+    QInputDialog box(parent_);
+    box.setWindowTitle(ToQt(ApplicationTitle));
+    box.setLabelText(ToQt(prompt));
+    box.setInputMode(QInputDialog::TextInput);
+    box.setTextValue(ToQt(initial));
+    if (box.exec() != QDialog::Accepted) {
+        return std::nullopt;
+    }
+    return FromQt(box.textValue());
+}
+
+std::optional<std::string> MessageBoxes::SaveFileName(const std::string& suggestedName,
+                                                      const std::string& suffix) {
+    QFileDialog box(parent_, ToQt(ApplicationTitle), QDir::homePath(), ToQt("*." + suffix));
+    box.setAcceptMode(QFileDialog::AcceptSave);
+    box.setDefaultSuffix(ToQt(suffix));
+    box.selectFile(ToQt(suggestedName + "." + suffix));
+    const QString ending = ToQt("." + suffix);
+    while (box.exec() == QDialog::Accepted && !box.selectedFiles().isEmpty()) {
+        QString path = box.selectedFiles().constFirst();
+        if (path.endsWith(ending, Qt::CaseInsensitive)) {
+            return FromQt(path);
+        }
+        // The box adds its suffix to names without a point only.
+        path += ending;
+        if (!QFileInfo::exists(path)) {
+            return FromQt(path);
+        }
+        box.selectFile(path); // shown as it will be called, and asked about before it is replaced
+    }
+    return std::nullopt;
+}
+
+} // namespace tarn

@@ -1,0 +1,22 @@
+#include "screens/OpenProject.h"
+
+#include "store/ProjectStore.h"
+
+#include <utility>
+
+namespace tarn {
+
+void SaveOpenProject(OpenProject& project, ProjectStore& store) {
+    project.Now = store.Save(project.Now, project.Shown);
+    project.Saved = project.Now;
+}
+
+void DropRooms(OpenProject& project) {
+    OpenProject dropped;
+    dropped.Now.Name = std::move(project.Now.Name);
+    dropped.Now.Directory = std::move(project.Now.Directory);
+    dropped.Saved = dropped.Now;
+    project = std::move(dropped);
+}
+
+} // namespace tarn

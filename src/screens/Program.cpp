@@ -1,0 +1,57 @@
+#include "screens/Program.h"
+
+#include "screens/Display.h"
+#include "screens/Guard.h"
+#include "screens/WaitCursor.h"
+#include "store/Months.h"
+
+namespace tarn {
+
+Program::Program(Dialogs& boxes, Printer& printer)
+    : boxes_(boxes)
+    , printer_(printer) {
+    screens_.SetSession(session_);
+}
+
+bool Program::Start(const std::vector<std::filesystem::path>& configurationDirectories,
+                    QSize displayPixels, const std::function<QDate()>& today,
+                    const QLocale& locale) {
+    bool started = false;
+    Guarded(boxes_, "The program could not be started.", [&] {
+        session_.Today = today;
+        if (CanRun(configurationDirectories, displayPixels)) {
+            Show(locale);
+            started = true;
+        }
+    });
+    return started;
+}
+
+bool Program::CanRun(const std::vector<std::filesystem::path>& configurationDirectories,
+                     QSize displayPixels) {
+    if (!IsDisplayLargeEnough(displayPixels)) {
+        boxes_.Message(std::string(DisplayTooSmallMessage));
+        return false;
+    }
+    auto folder = FindDataFolder(configurationDirectories);
+    if (!folder) {
+        boxes_.Message(std::string(ConfigurationMissingMessage));
+        return false;
+    }
+    folder_ = std::move(*folder);
+    return true;
+}
+
+void Program::Show(const QLocale& locale) {
+    store_ = OpenStore(folder_);
+    project_.Now.Directory = MonthDirectoryName(session_.Today(), locale);
+    screens_.ShowProjects();
+    // A print server that is slow to answer must not keep the first screen from being drawn.
+    window_.AfterFirstPaint([this] {
+        const WaitCursor waiting;
+        page_ = ReadPrinterPage(printer_);
+    });
+    window_.show();
+}
+
+} // namespace tarn

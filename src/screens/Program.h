@@ -1,0 +1,50 @@
+#pragma once
+
+#include "paper/Printer.h"
+#include "screens/Dialogs.h"
+#include "screens/ProgramScreens.h"
+#include "screens/Session.h"
+
+#include <QLocale>
+
+#include <filesystem>
+#include <functional>
+#include <vector>
+
+namespace tarn {
+
+/// The program between its start and its end: the open project, the store, the window and its
+/// screens.
+class Program {
+  public:
+    Program(Dialogs& boxes, Printer& printer);
+
+    /// Refuse a display that is too small, find the data folder, open the store, show the project
+    /// selection in the directory of the month and, once it is painted, read the printer's page.
+    /// `today` answers the day whenever a screen asks for it. A store that cannot be opened is told
+    /// when a screen first needs it. False, after a message, when the program cannot run: the
+    /// display is too small, there is no usable configuration file, or the start fails otherwise.
+    bool Start(const std::vector<std::filesystem::path>& configurationDirectories,
+               QSize displayPixels, const std::function<QDate()>& today, const QLocale& locale);
+
+    ScreenWindow& Window() { return window_; }
+    const OpenProject& Project() const { return project_; }
+    PageTwips Page() const { return page_; }
+
+  private:
+    bool CanRun(const std::vector<std::filesystem::path>& configurationDirectories,
+                QSize displayPixels);
+    void Show(const QLocale& locale);
+
+    OpenProject project_;
+    ProjectStore store_;
+    DataFolder folder_;
+    PageTwips page_;
+    Dialogs& boxes_;
+    Printer& printer_;
+    ProgramScreens screens_{window_};
+    Session session_{project_, store_, folder_, page_, boxes_, printer_, screens_};
+    ScreenWindow window_; // the last one: its screens are unloaded before the session goes
+};
+
+} // namespace tarn

@@ -1,0 +1,47 @@
+#include "screens/ProgramScreens.h"
+
+#include "screens/estimate/EstimateScreen.h"
+#include "screens/estimate/OptionsScreen.h"
+#include "screens/menu/MenuScreen.h"
+#include "screens/projects/ProjectScreen.h"
+#include "screens/rooms/RoomScreen.h"
+
+#include <QCoreApplication>
+
+namespace tarn {
+
+void ProgramScreens::ShowProjects() {
+    window_.Replace(std::make_unique<ProjectScreen>(*session_));
+}
+
+void ProgramScreens::ShowMenu(MenuEntry entry) {
+    window_.Replace(std::make_unique<MenuScreen>(*session_, entry));
+}
+
+void ProgramScreens::ShowRooms() {
+    window_.Replace(std::make_unique<RoomScreen>(*session_));
+}
+
+void ProgramScreens::ShowEstimate(bool fromMenu) {
+    auto screen = std::make_unique<EstimateScreen>(*session_, fromMenu);
+    if (fromMenu) {
+        window_.Replace(std::move(screen));
+    } else {
+        window_.Cover(std::move(screen));
+    }
+}
+
+void ProgramScreens::ShowOptions(const EstimateRequest& request, EstimateClient& client) {
+    window_.Cover(std::make_unique<OptionsScreen>(*session_, request, client));
+}
+
+void ProgramScreens::Return() {
+    window_.Uncover();
+}
+
+void ProgramScreens::End() {
+    window_.hide();
+    QCoreApplication::exit(0);
+}
+
+} // namespace tarn

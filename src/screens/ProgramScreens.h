@@ -1,0 +1,31 @@
+#pragma once
+
+#include "screens/ScreenWindow.h"
+#include "screens/Screens.h"
+#include "screens/Session.h"
+
+namespace tarn {
+
+/// The way between the program's own five screens, in one window.
+class ProgramScreens : public Screens {
+  public:
+    explicit ProgramScreens(ScreenWindow& window)
+        : window_(window) {}
+
+    /// What the screens work on; to be set before the first one is shown, and to outlive them.
+    void SetSession(Session& session) { session_ = &session; }
+
+    void ShowProjects() override;
+    void ShowMenu(MenuEntry entry) override;
+    void ShowRooms() override;
+    void ShowEstimate(bool fromMenu) override;
+    void ShowOptions(const EstimateRequest& request, EstimateClient& client) override;
+    void Return() override;
+    void End() override;
+
+  private:
+    ScreenWindow& window_;
+    Session* session_ = nullptr;
+};
+
+} // namespace tarn

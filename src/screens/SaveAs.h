@@ -1,0 +1,21 @@
+#pragma once
+
+// Saving what a screen shows as a file of the user's choice.
+
+#include "screens/Dialogs.h"
+
+#include <functional>
+#include <string>
+
+namespace tarn {
+
+/// What every screen calls its ways to a file.
+inline constexpr const char* SaveAsPdfCaption = "Save as &PDF";
+inline constexpr const char* SaveAsSvgCaption = "Save as &SVG";
+
+/// Ask for a file, beginning with `name`, and have `write` write it; nothing when that was
+/// cancelled. Raises OutputFileError, which names the file, whatever `write` raises.
+void SaveAs(Dialogs& boxes, const std::string& name, const std::string& suffix,
+            const std::function<void(const std::string& path)>& write);
+
+} // namespace tarn

@@ -1,0 +1,114 @@
+#include "screens/Screen.h"
+
+#include "screens/ControlNames.h"
+#include "screens/Guard.h"
+
+#include <QCoreApplication>
+#include <QKeyEvent>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QTimer>
+#include <QVBoxLayout>
+
+namespace tarn {
+
+namespace {
+
+/// Scrolls to what takes the focus, but not under a mouse that is pressing it: a click whose button
+/// moved away is none. The scroll area itself follows the Tab key alone.
+class FocusFollower : public QObject {
+  public:
+    FocusFollower(QScrollArea& scroller, const QWidget& body)
+        : scroller_(scroller)
+        , body_(body) {
+        QCoreApplication::instance()->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() == QEvent::FocusIn && watched->isWidgetType()) {
+            auto* widget = static_cast<QWidget*>(watched);
+            const auto reason = static_cast<QFocusEvent*>(event)->reason();
+            if (reason != Qt::MouseFocusReason && body_.isAncestorOf(widget)) {
+                scroller_.ensureWidgetVisible(widget);
+            }
+        }
+        return false;
+    }
+
+  private:
+    QScrollArea& scroller_;
+    const QWidget& body_;
+};
+
+} // namespace
+
+Screen::Screen(Session& session, QAnyStringView name)
+    : session_(session) {
+    setObjectName(name);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    scroller_ = new QScrollArea(this);
+    scroller_->setWidgetResizable(true);
+    scroller_->setFocusPolicy(Qt::NoFocus);
+    body_ = new QWidget;
+    body_->setObjectName(Controls::body);
+    scroller_->setWidget(body_);
+    follower_ = std::make_unique<FocusFollower>(*scroller_, *body_);
+    layout->addWidget(scroller_);
+}
+
+void Screen::CloseByFrame() {
+    if (isEnabled()) {
+        Guard("The screen could not be closed.", [this] { OnCloseByFrame(); });
+    }
+}
+
+void Screen::Uncover() {
+    setEnabled(true);
+    Guard("The screen could not be shown.", [this] { OnUncover(); });
+}
+
+QMenuBar& Screen::Menus() {
+    if (menus_ == nullptr) {
+        menus_ = new QMenuBar(this);
+        menus_->setNativeMenuBar(false);
+        layout()->setMenuBar(menus_);
+    }
+    return *menus_;
+}
+
+bool Screen::Guard(const std::string& failure, const std::function<void()>& body) const noexcept {
+    return Guarded(session_.Boxes, failure, body);
+}
+
+void Screen::OnClick(QAbstractButton& button, std::string failure, std::function<void()> body) {
+    connect(&button, &QAbstractButton::clicked, this,
+            [this, failure = std::move(failure), body = std::move(body)] { Guard(failure, body); });
+}
+
+void Screen::Later(std::function<void()> body) {
+    QTimer::singleShot(0, this, [this, body = std::move(body)] { Guard({}, body); });
+}
+
+void Screen::keyPressEvent(QKeyEvent* event) {
+    auto* button = qobject_cast<QPushButton*>(focusWidget());
+    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (enter && button != nullptr && !event->isAutoRepeat()) {
+        button->click(); // whose handler is under the guard
+        return;
+    }
+    QWidget::keyPressEvent(event);
+}
+
+void Screen::showEvent(QShowEvent* event) {
+    QWidget::showEvent(event);
+    if (!shown_) {
+        shown_ = true;
+        if (QWidget* first = FirstFocus()) {
+            first->setFocus();
+        }
+    }
+}
+
+} // namespace tarn

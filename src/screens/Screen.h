@@ -1,0 +1,71 @@
+#pragma once
+
+#include "screens/Session.h"
+
+#include <QAnyStringView>
+#include <QScrollArea>
+#include <QString>
+#include <QWidget>
+
+#include <functional>
+#include <memory>
+#include <string>
+
+class QAbstractButton;
+class QMenuBar;
+
+namespace tarn {
+
+/// One screen of the program, as the window shows it: an optional menu bar, and a body that scrolls
+/// where it does not fit, to whatever takes the focus. Everything that acts runs under the guard
+/// (see screens/Guard.h).
+class Screen : public QWidget {
+  public:
+    /// `name` is its objectName.
+    Screen(Session& session, QAnyStringView name);
+
+    /// The caption of the window while this screen is in front.
+    QString Caption() const { return windowTitle(); }
+
+    /// The user closes the window by its frame. A disabled screen ignores it.
+    void CloseByFrame();
+    /// The screen above was unloaded; this one is enabled and shown again.
+    void Uncover();
+
+  protected:
+    Session& Shared() const { return session_; }
+
+    /// What closing by the frame does on this screen.
+    virtual void OnCloseByFrame() = 0;
+    /// Called when the screen is shown again after the one above was unloaded.
+    virtual void OnUncover() {}
+    /// Where the focus stands when the screen is shown first.
+    virtual QWidget* FirstFocus() { return nullptr; }
+
+    /// The menu bar, made when it is first asked for.
+    QMenuBar& Menus();
+    /// What holds the controls.
+    QWidget& Body() { return *body_; }
+    QScrollArea& Scroller() { return *scroller_; }
+
+    /// See Guarded.
+    bool Guard(const std::string& failure, const std::function<void()>& body) const noexcept;
+    /// Run `body` under the guard whenever the button is clicked.
+    void OnClick(QAbstractButton& button, std::string failure, std::function<void()> body);
+    /// Run `body` under the guard once the events that wait now have been handled; not at all when
+    /// the screen is gone by then.
+    void Later(std::function<void()> body);
+
+    void keyPressEvent(QKeyEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+
+  private:
+    Session& session_;
+    QMenuBar* menus_ = nullptr;
+    QScrollArea* scroller_ = nullptr;
+    QWidget* body_ = nullptr;
+    std::unique_ptr<QObject> follower_; ///< gone before what it follows
+    bool shown_ = false;
+};
+
+} // namespace tarn

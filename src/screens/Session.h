@@ -1,0 +1,30 @@
+#pragma once
+
+#include "paper/Printer.h"
+#include "paper/PrinterPage.h"
+#include "screens/Dialogs.h"
+#include "screens/OpenProject.h"
+#include "screens/Screens.h"
+#include "store/DataFolder.h"
+#include "store/ProjectStore.h"
+
+#include <QDate>
+
+#include <functional>
+
+namespace tarn {
+
+/// What a screen works on and through. One exists in the program; a test makes its own, with
+/// recorders for the boxes, the printer and the other screens.
+struct Session {
+    OpenProject& Project;
+    ProjectStore& Store;
+    DataFolder& Folder; ///< where the store is; it is tried again while the store is not open
+    PageTwips& Page;    ///< of the printer, as it was read last
+    Dialogs& Boxes;
+    Printer& Paper;
+    Screens& Go;
+    std::function<QDate()> Today = &QDate::currentDate;
+};
+
+} // namespace tarn

@@ -1,0 +1,246 @@
+#include "screens/Theme.h"
+
+#include "screens/Display.h"
+#include "screens/IndicatorStyle.h"
+
+#include <QApplication>
+#include <QEvent>
+#include <QPalette>
+#include <QStyle>
+#include <QVariant>
+#include <QWidget>
+
+#include <array>
+#include <utility>
+
+namespace tarn {
+
+namespace {
+
+constexpr const char* RoleProperty = "textRole";
+constexpr const char* PrimaryProperty = "primary";
+constexpr const char* MarkedProperty = "marked";
+
+bool IsDark() {
+    const QPalette palette = QGuiApplication::palette();
+    return palette.color(QPalette::Window).lightness() <
+           palette.color(QPalette::WindowText).lightness();
+}
+
+void SetStyled(QWidget& widget, const char* property, const QVariant& value) {
+    widget.setProperty(property, value);
+    widget.style()->unpolish(&widget);
+    widget.style()->polish(&widget);
+}
+
+// @NAME stands for a colour, a number before tw for twips.
+constexpr const char* SheetTemplate = R"(
+QWidget { font-size: @BaseFontpt; color: @Text; }
+QWidget#Window, QWidget#Body, QMessageBox, QInputDialog { background: @Window; }
+QMenuBar { background: @Surface; color: @Text; border-bottom: 1px solid @Border; }
+QMenuBar::item { padding: 60tw 150tw; background: transparent; }
+QMenuBar::item:selected, QMenu::item:selected { background: @Accent; color: @AccentText; }
+QMenu { background: @Surface; color: @Text; border: 1px solid @Border; }
+QMenu::item { padding: 75tw 360tw; }
+QMenu::item:disabled { color: @Disabled; }
+QMenu::separator { height: 1px; background: @Border; margin: 60tw 120tw; }
+
+QLabel { background: transparent; }
+QLabel[textRole="Heading"] { font-size: @HeadingFontpt; font-weight: 600; }
+QLabel[textRole="FormTitle"] { font-size: @FormTitleFontpt; color: @Muted; }
+QLabel[textRole="ProductTitle"] { font-size: @ProductTitleFontpt; font-weight: 600; color: @Accent; }
+QLabel[textRole="Hint"] { color: @Muted; }
+QLabel[textRole="Warning"] { color: @Warning; font-weight: 600; }
+QLabel:disabled { color: @Disabled; }
+
+QFrame[panel="true"] { background: @Surface; border: 1px solid @Border; border-radius: 90tw; }
+QGroupBox { background: @Surface; border: 1px solid @Border; border-radius: 90tw;
+    margin-top: 165tw; padding-top: 165tw; font-weight: 600; color: @Muted; }
+QGroupBox::title { subcontrol-origin: margin; subcontrol-position: top left; left: 150tw;
+    padding: 0 75tw; background: @Surface; }
+QGroupBox[panel="true"] { margin-top: 0; padding-top: 405tw; }
+QGroupBox[panel="true"]::title { subcontrol-origin: border; top: 135tw; }
+
+QPushButton { background: @Field; border: 2px solid @Border; border-radius: 75tw;
+    padding: 45tw 210tw; min-height: 345tw; }
+QPushButton:hover { background: @Window; }
+QPushButton:pressed { background: @Border; }
+QPushButton:disabled { color: @Disabled; background: @Surface; }
+QPushButton[primary="true"] { background: @Accent; color: @AccentText; border-color: @Accent;
+    font-weight: 600; }
+QPushButton[primary="true"]:hover { background: @Accent; }
+QPushButton[primary="true"]:disabled { background: @Surface; color: @Disabled;
+    border-color: @Border; }
+QPushButton:focus { border-color: @Accent; outline: none; }
+QPushButton[primary="true"]:focus { border-color: @Text; }
+
+QLineEdit, QComboBox, QPlainTextEdit, QListWidget { background: @Field; color: @Text;
+    border: 2px solid @Border; border-radius: 60tw; selection-background-color: @Accent;
+    selection-color: @AccentText; }
+QLineEdit, QComboBox { padding: 30tw 90tw; min-height: 345tw; }
+QLineEdit:focus, QComboBox:focus, QPlainTextEdit:focus, QListWidget:focus {
+    border-color: @Accent; }
+QLineEdit:disabled, QComboBox:disabled { color: @Disabled; background: @Surface; }
+QPlainTextEdit { font-size: @ListingFontpt; }
+QComboBox::drop-down { border: none; width: 360tw; }
+QComboBox::down-arrow { width: 0; height: 0; border-top: 90tw solid @Muted;
+    border-left: 75tw solid @Field; border-right: 75tw solid @Field; }
+QLineEdit:read-only { background: @Window; color: @Muted; }
+QListWidget::item { padding: 15tw 75tw; border: none; color: @Text; }
+QListWidget::item:selected { background: @Accent; color: @AccentText; }
+QComboBox QAbstractItemView { background: @Field; color: @Text;
+    selection-background-color: @Accent; selection-color: @AccentText; }
+
+QRadioButton, QCheckBox { border: 2px solid transparent;
+    border-radius: 60tw; padding: 15tw 45tw; spacing: 120tw; min-height: 330tw; }
+QRadioButton:focus, QCheckBox:focus { border-color: @Accent; }
+QRadioButton[marked="true"], QCheckBox[marked="true"] { color: @Green; }
+QRadioButton:disabled, QCheckBox:disabled { color: @Disabled; }
+
+QProgressBar { background: @Field; border: 1px solid @Border; border-radius: 60tw;
+    min-height: 240tw; text-align: center; }
+QProgressBar::chunk { background: @Accent; border-radius: 45tw; }
+QToolTip { background: @Surface; color: @Text; border: 1px solid @Border; padding: 45tw; }
+QScrollBar { background: @Surface; border: none; margin: 0; }
+QScrollBar:vertical { width: 210tw; }
+QScrollBar:horizontal { height: 210tw; }
+QScrollBar::handle { background: @Border; border-radius: 60tw; margin: 30tw; }
+QScrollBar::handle:hover { background: @Muted; }
+QScrollBar::handle:vertical { min-height: 450tw; }
+QScrollBar::handle:horizontal { min-width: 450tw; }
+QScrollBar::add-line, QScrollBar::sub-line { width: 0; height: 0; }
+QScrollBar::add-page, QScrollBar::sub-page { background: none; }
+#Picture1 { background: white; border: 2px solid @Border; }
+#Picture1:focus { border-color: @Accent; }
+QScrollArea { border: none; background: @Window; }
+)";
+
+/// Replace every number before "tw" by pixels.
+QString WithPixels(const QString& sheet) {
+    QString result;
+    QString number;
+    for (qsizetype i = 0; i < sheet.size(); ++i) {
+        if (sheet[i].isDigit()) {
+            number += sheet[i];
+        } else if (!number.isEmpty() && sheet.mid(i, 2) == QLatin1String("tw")) {
+            result += QString::number(Pixels(number.toDouble())) + QLatin1String("px");
+            number.clear();
+            ++i;
+        } else {
+            result += number + sheet[i];
+            number.clear();
+        }
+    }
+    return result;
+}
+
+QString StyleSheet(const Colours& colours) {
+    QString sheet = QString::fromLatin1(SheetTemplate);
+    // A name that begins with another one stands before it.
+    const std::array<std::pair<const char*, QColor>, 11> names{{{"@Window", colours.Window},
+                                                                {"@Surface", colours.Surface},
+                                                                {"@Field", colours.Field},
+                                                                {"@Text", colours.Text},
+                                                                {"@Muted", colours.MutedText},
+                                                                {"@Disabled", colours.DisabledText},
+                                                                {"@Border", colours.Border},
+                                                                {"@AccentText", colours.AccentText},
+                                                                {"@Accent", colours.Accent},
+                                                                {"@Green", colours.Green},
+                                                                {"@Warning", colours.Warning}}};
+    for (const auto& [name, colour] : names) {
+        sheet.replace(QLatin1String(name), colour.name());
+    }
+    const std::array<std::pair<const char*, double>, 5> sizes{
+        {{"@BaseFont", Metrics::BaseFont},
+         {"@ListingFont", Metrics::ListingFont},
+         {"@HeadingFont", Metrics::HeadingFont},
+         {"@FormTitleFont", Metrics::FormTitleFont},
+         {"@ProductTitleFont", Metrics::ProductTitleFont}}};
+    for (const auto& [name, size] : sizes) {
+        sheet.replace(QLatin1String(name), QString::number(size));
+    }
+    return WithPixels(sheet);
+}
+
+const char* RoleName(TextRole role) {
+    switch (role) {
+    case TextRole::Label:
+        return "Label";
+    case TextRole::Heading:
+        return "Heading";
+    case TextRole::FormTitle:
+        return "FormTitle";
+    case TextRole::ProductTitle:
+        return "ProductTitle";
+    case TextRole::Hint:
+        return "Hint";
+    case TextRole::Warning:
+        return "Warning";
+    }
+    return "";
+}
+
+} // namespace
+
+const Colours& LightColours() {
+    static const Colours colours{0xECF0EF, 0xFAFBFB, 0xFFFFFF, 0x17242A, 0x4A5A60, 0x7C898D,
+                                 0xB4C0C1, 0x17655F, 0xFFFFFF, 0x1B6E2F, 0x9A3412};
+    return colours;
+}
+
+const Colours& DarkColours() {
+    static const Colours colours{0x161C1F, 0x20282B, 0x12181A, 0xECF1F1, 0xB2BFC1, 0x7A878A,
+                                 0x4A5A5F, 0x5CC4B6, 0x0A1615, 0x86D993, 0xF5A97A};
+    return colours;
+}
+
+void SetRole(QWidget& widget, TextRole role) {
+    SetStyled(widget, RoleProperty, QString::fromLatin1(RoleName(role)));
+}
+
+void SetPanel(QWidget& frame) {
+    SetStyled(frame, "panel", true);
+}
+
+void SetPrimary(QWidget& button) {
+    SetStyled(button, PrimaryProperty, true);
+}
+
+void SetMarked(QWidget& option, bool marked) {
+    SetStyled(option, MarkedProperty, marked);
+}
+
+bool IsMarked(const QWidget& option) {
+    return option.property(MarkedProperty).toBool();
+}
+
+const Colours& CurrentColours() {
+    return IsDark() ? DarkColours() : LightColours();
+}
+
+Theme::Theme(QApplication& application)
+    : application_(application) {
+    QApplication::setStyle(new IndicatorStyle);
+    Apply();
+    application_.installEventFilter(this);
+}
+
+void Theme::Apply() {
+    const bool dark = IsDark();
+    if (applied_ && dark == dark_) {
+        return;
+    }
+    dark_ = dark;
+    applied_ = true;
+    application_.setStyleSheet(StyleSheet(CurrentColours()));
+}
+
+bool Theme::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == &application_ && event->type() == QEvent::ApplicationPaletteChange) {
+        Apply();
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+} // namespace tarn

@@ -1,0 +1,131 @@
+#include "screens/TitledScreen.h"
+
+#include "base/Text.h"
+#include "files/QtText.h"
+#include "screens/ControlNames.h"
+#include "screens/Controls.h"
+#include "screens/Display.h"
+#include "screens/Theme.h"
+
+#include <QLabel>
+
+#include <algorithm>
+
+namespace tarn {
+
+namespace {
+
+QLabel* NewTitle(QWidget* parent, const char* name, std::string_view text, TextRole role) {
+    QLabel* label = NewLabel(parent, name, text);
+    label->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
+    SetRole(*label, role);
+    return label;
+}
+
+QSize NaturalSize(const QWidget& widget) {
+    return widget.sizeHint().expandedTo(widget.minimumSizeHint()).expandedTo(widget.minimumSize());
+}
+
+} // namespace
+
+TitledScreen::TitledScreen(Session& session, QAnyStringView name, std::string_view formTitle)
+    : Screen(session, name) {
+    productTitle_ =
+        NewTitle(&Body(), Controls::productTitle, ApplicationTitle, TextRole::ProductTitle);
+    formTitle_ = NewTitle(&Body(), Controls::formTitle, formTitle, TextRole::FormTitle);
+    setWindowTitle(ToQt(formTitle).remove(QLatin1Char('*')));
+    Body().installEventFilter(this);
+}
+
+void TitledScreen::AddPanel(QWidget& panel, PanelSize size) {
+    panel.setParent(&Body());
+    panel.installEventFilter(this);
+    panels_.push_back({&panel, size});
+    panel.setVisible(panels_.size() == 1);
+    Arrange();
+}
+
+void TitledScreen::ShowPanel(QWidget& panel) {
+    for (const Panel& each : panels_) {
+        if (each.Widget != &panel) {
+            each.Widget->hide();
+        }
+    }
+    panel.show();
+    Arrange();
+}
+
+void TitledScreen::SetBelow(QWidget& widget) {
+    below_ = &widget;
+    widget.setParent(&Body());
+    widget.installEventFilter(this);
+    Arrange();
+}
+
+bool TitledScreen::ChangesArrangement(const QObject* watched, QEvent::Type event) {
+    switch (event) {
+    case QEvent::Resize:
+        return watched == &Body();
+    case QEvent::LayoutRequest:
+    case QEvent::ShowToParent:
+    case QEvent::HideToParent:
+    case QEvent::FontChange:
+    case QEvent::StyleChange:
+        return true;
+    default:
+        return false;
+    }
+}
+
+bool TitledScreen::eventFilter(QObject* watched, QEvent* event) {
+    if (ChangesArrangement(watched, event->type())) {
+        Guard("The screen could not be arranged.", [this] { Arrange(); });
+    }
+    return Screen::eventFilter(watched, event);
+}
+
+const TitledScreen::Panel* TitledScreen::VisiblePanel() const {
+    const auto panel = std::find_if(panels_.begin(), panels_.end(),
+                                    [](const Panel& each) { return !each.Widget->isHidden(); });
+    return panel == panels_.end() ? nullptr : &*panel;
+}
+
+void TitledScreen::Arrange() {
+    const Panel* panel = VisiblePanel();
+    if (panel == nullptr || arranging_) {
+        return;
+    }
+    arranging_ = true;
+    const int titles = Pixels(ProductTitleAbovePanel);
+    const int gap = Pixels(Metrics::Spacing);
+    const int margin = Pixels(Metrics::Margin);
+    const bool hasBelow = below_ != nullptr && !below_->isHidden();
+    const QSize belowSize = hasBelow ? NaturalSize(*below_) : QSize(0, 0);
+    const int belowHeight = hasBelow ? belowSize.height() + 2 * gap : gap;
+
+    const QSize least = NaturalSize(*panel->Widget);
+    Body().setMinimumSize(std::max(least.width(), belowSize.width()) + 2 * margin,
+                          titles + least.height() + belowHeight);
+    const QSize area = Body().size();
+    QSize size = least;
+    if (panel->Size == PanelSize::Filling) {
+        size = QSize(
+            std::max(least.width(), area.width() - 2 * margin),
+            std::max(least.height(), area.height() - titles - (hasBelow ? belowHeight : margin)));
+    }
+    const int left = (area.width() - size.width()) / 2;
+    int top = (area.height() - size.height()) / 2;
+    top = std::max(std::min(top, area.height() - size.height() - belowHeight), titles);
+
+    panel->Widget->setGeometry(QRect(QPoint(left, top), size));
+    productTitle_->setGeometry(0, top - titles, area.width(), productTitle_->sizeHint().height());
+    formTitle_->setGeometry(0, top - Pixels(FormTitleAbovePanel), area.width(),
+                            formTitle_->sizeHint().height());
+    if (hasBelow) {
+        below_->setGeometry((area.width() - belowSize.width()) / 2, top + size.height() + gap,
+                            belowSize.width(), belowSize.height());
+    }
+    arranging_ = false;
+}
+
+} // namespace tarn

@@ -1,0 +1,57 @@
+#pragma once
+
+#include "screens/Screen.h"
+
+#include <QEvent>
+
+#include <string_view>
+#include <vector>
+
+class QLabel;
+
+namespace tarn {
+
+/// A screen with the product's title, a title of its own and panels of which one shows at a time.
+/// The panel is centred; the titles stand at fixed distances above it, and what belongs below it
+/// under it. Where that does not fit, the panel moves down or the body grows and scrolls, so that
+/// nothing runs into anything.
+class TitledScreen : public Screen {
+  public:
+    /// `formTitle` stands between asterisks; the window's caption is what is between them.
+    TitledScreen(Session& session, QAnyStringView name, std::string_view formTitle);
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+  protected:
+    enum class PanelSize {
+        Natural, ///< as large as its content asks for
+        Filling, ///< as much of the screen as the titles leave
+    };
+    /// Make `panel` one of the panels. The first one shows.
+    void AddPanel(QWidget& panel, PanelSize size = PanelSize::Natural);
+    /// Show that panel and hide the others.
+    void ShowPanel(QWidget& panel);
+    /// What stands below the panel, on every panel while it is not hidden.
+    void SetBelow(QWidget& widget);
+
+  private:
+    struct Panel {
+        QWidget* Widget;
+        PanelSize Size;
+    };
+    bool ChangesArrangement(const QObject* watched, QEvent::Type event);
+    void Arrange();
+    const Panel* VisiblePanel() const;
+
+    QLabel* productTitle_ = nullptr;
+    QLabel* formTitle_ = nullptr;
+    std::vector<Panel> panels_;
+    QWidget* below_ = nullptr;
+    bool arranging_ = false;
+};
+
+/// How far the titles stand above the visible panel, twips.
+inline constexpr double ProductTitleAbovePanel = 1700;
+inline constexpr double FormTitleAbovePanel = 800;
+
+} // namespace tarn

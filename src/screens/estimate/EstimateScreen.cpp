@@ -1,0 +1,412 @@
+#include "screens/estimate/EstimateScreen.h"
+
+#include "estimate/EstimateChoices.h"
+#include "estimate/ImproveEstimate.h"
+#include "estimate/LayoutDrawing.h"
+#include "estimate/MakeEstimate.h"
+#include "files/QtText.h"
+#include "project/RoomExtents.h"
+#include "screens/Arrangement.h"
+#include "screens/ControlNames.h"
+#include "screens/Controls.h"
+#include "screens/Display.h"
+#include "screens/ElidedLabel.h"
+#include "screens/SaveAs.h"
+#include "screens/Theme.h"
+#include "screens/estimate/ChoicePanel.h"
+#include "screens/estimate/EstimateOutput.h"
+#include "screens/estimate/ImprovePanel.h"
+#include "screens/estimate/OthersDisabled.h"
+#include "screens/estimate/PictureBox.h"
+
+#include <QAction>
+#include <QEvent>
+#include <QMenu>
+#include <QPushButton>
+#include <QStyle>
+#include <QVBoxLayout>
+
+#include <utility>
+#include <variant>
+
+namespace tarn {
+
+namespace {
+
+constexpr const char* NoDataMessage = "There is not data in the database";
+constexpr const char* EstimateFailure = "The estimate could not be made.";
+constexpr const char* DrawingFailure = "The layout could not be drawn.";
+constexpr const char* ImproveFailure = "The layout could not be improved.";
+constexpr const char* PictureFailure = "The picture could not be saved.";
+constexpr const char* LeaveFailure = "The screen could not be closed.";
+constexpr const char* PasteHint =
+    "Then click where the cut list is to stand, or press Enter for the top left of the view.";
+
+constexpr double LeastPictureWidth = 4500; ///< twips
+constexpr double LeastPictureHeight = 3000;
+
+ElidedLabel* NewElidedLabel(QWidget* parent, const char* name, const QString& text, TextRole role) {
+    auto* label = new ElidedLabel(parent);
+    label->setText(text);
+    NameControl(*label, name, text);
+    SetRole(*label, role);
+    return label;
+}
+
+std::string NothingBetterText(const ImproveResult& result) {
+    const std::string reason = NothingBetterReason(result);
+    return "No better layout was found" + (reason.empty() ? "" : ": " + reason) + ".";
+}
+
+} // namespace
+
+EstimateScreen::EstimateScreen(Session& session, bool fromMenu)
+    : Screen(session, Controls::estimateScreen)
+    , fromMenu_(fromMenu) {
+    RequireExtents(OpenedProject(), ShownUnits());
+    Build();
+    Connect();
+    const CarpetsFound carpets = FindCarpets(OpenedProject());
+    panel_->OfferCarpets(carpets);
+    panel_->ChooseDefaultWidth();
+    panel_->setVisible(carpets.Lowest.has_value());
+    if (!carpets.Lowest) {
+        // When this screen is in front: the box is about it.
+        Later([this] { TellNoData(); });
+    }
+}
+
+void EstimateScreen::TellNoData() {
+    Shared().Boxes.Message(NoDataMessage);
+    back_->setEnabled(true);
+    back_->setFocus();
+}
+
+void EstimateScreen::Build() {
+    setWindowTitle(QStringLiteral("ESTIMATE FOR PROJECT: ") + ToQt(OpenedProject().Name));
+    auto* rows = new QVBoxLayout(&Body());
+    SetSpacing(*rows, Metrics::Margin);
+    rows->addWidget(
+        NewElidedLabel(&Body(), Controls::formTitle, windowTitle(), TextRole::FormTitle));
+    rows->addLayout(BuildPictureAndButtons(), 1);
+    rows->addLayout(BuildStatus());
+    OfferDrawing();
+
+    panel_ = new ChoicePanel(&Body(), Shared().Boxes, ShownUnits());
+    panel_->raise();
+    improvePanel_ = new ImprovePanel(&Body(), ShownUnits());
+    Body().installEventFilter(this);
+    panel_->installEventFilter(this);
+    SetTabOrders({&panel_->CancelButton(), openPanel_, improve_, paste_, redraw_, print_, save_,
+                  back_, picture_});
+}
+
+QHBoxLayout* EstimateScreen::BuildPictureAndButtons() {
+    picture_ = new PictureBox(&Body(), Shared().Boxes);
+    picture_->setMinimumSize(Pixels(LeastPictureWidth), Pixels(LeastPictureHeight));
+    BuildPictureMenu();
+    auto* columns = new QHBoxLayout;
+    columns->setSpacing(Pixels(Metrics::Margin));
+    columns->addWidget(picture_, 1);
+    columns->addLayout(BuildButtons());
+    return columns;
+}
+
+QHBoxLayout* EstimateScreen::BuildStatus() {
+    auto* status = new QHBoxLayout;
+    status->setSpacing(Pixels(Metrics::Margin));
+    status->addWidget(NewElidedLabel(&Body(), Controls::estimatedProject,
+                                     QStringLiteral("PROJ: ") + ToQt(OpenedProject().Name),
+                                     TextRole::Label),
+                      1);
+    zoomHint_ = NewLabel(&Body(), Controls::zoomHint, FromQt(PictureBox::ZoomHint()));
+    SetRole(*zoomHint_, TextRole::Hint);
+    status->addWidget(zoomHint_);
+    return status;
+}
+
+QVBoxLayout* EstimateScreen::BuildButtons() {
+    back_ = NewButton(&Body(), Controls::leaveEstimate, "BACK", 'B');
+    openPanel_ = NewButton(&Body(), Controls::openChoices, "ESTIMATE", 'E');
+    paste_ = NewButton(&Body(), Controls::pasteCuts, "PASTE CUTS", 'P');
+    print_ = NewButton(&Body(), Controls::printEstimate, "PRINT", 'I');
+    save_ = NewButton(&Body(), Controls::saveFromEstimate, "SAVE", 'S');
+    redraw_ = NewButton(&Body(), Controls::redrawLayout, "REDRAW", 'R');
+    improve_ = NewButton(&Body(), Controls::improveFills, "IMPROVE", 'V');
+    SetPrimary(*openPanel_);
+    paste_->setToolTip(QString::fromLatin1(PasteHint));
+    auto* column = new QVBoxLayout;
+    column->setSpacing(Pixels(Metrics::Spacing));
+    for (QPushButton* button : Buttons()) {
+        if (button == back_) {
+            column->addStretch();
+        }
+        button->setMinimumWidth(Pixels(Metrics::ButtonWidth));
+        button->setEnabled(false);
+        column->addWidget(button);
+    }
+    return column;
+}
+
+/// From the top down.
+std::array<QPushButton*, 7> EstimateScreen::Buttons() const {
+    return {openPanel_, improve_, paste_, redraw_, print_, save_, back_};
+}
+
+/// A child of the picture that pops up without waiting, so that the screen may close under it.
+void EstimateScreen::BuildPictureMenu() {
+    pictureMenu_ = new QMenu(picture_);
+    AddToPictureMenu(Controls::pictureAsPdf, SaveAsPdfCaption,
+                     [this] { SaveEstimateAsPdf(Shared(), estimate_, picture_->Shown()); });
+    AddToPictureMenu(Controls::pictureAsSvg, SaveAsSvgCaption, [this] {
+        SaveEstimateAsSvg(Shared(), picture_->Shown(), FromQt(windowTitle()));
+    });
+    picture_->ContextMenu = [this](QPoint global) { pictureMenu_->popup(global); };
+}
+
+void EstimateScreen::AddToPictureMenu(const char* name, const char* caption,
+                                      std::function<void()> save) {
+    QAction* action = pictureMenu_->addAction(QString::fromLatin1(caption));
+    action->setObjectName(name);
+    connect(action, &QAction::triggered, this,
+            [this, save = std::move(save)] { Guard(PictureFailure, save); });
+}
+
+void EstimateScreen::Connect() {
+    OnClick(panel_->OkButton(), EstimateFailure, [this] { AcceptChoices(); });
+    OnClick(panel_->CancelButton(), EstimateFailure, [this] {
+        EnableButtons();
+        ClosePanel();
+    });
+    OnClick(*openPanel_, EstimateFailure, [this] { OpenPanel(); });
+    OnClick(*paste_, DrawingFailure, [this] { SetPasting(true); });
+    OnClick(*redraw_, DrawingFailure, [this] { RedrawLayout(); });
+    OnClick(*improve_, DrawingFailure, [this] { ImproveLayout(); });
+    OnClick(*print_, {}, [this] { PrintEstimate(Shared(), estimate_, picture_->Shown()); });
+    IgnoreSecondClick(*print_);
+    OnClick(*save_, std::string(NotSavedMessage), [this] { SaveRooms(); });
+    OnClick(*back_, LeaveFailure, [this] { Leave(); });
+    picture_->MouseDown = [this](Double x, Double y) { return PasteCutList(x, y); };
+}
+
+QWidget* EstimateScreen::FirstFocus() {
+    return panel_->isHidden() ? back_ : &panel_->FirstFocus();
+}
+
+void EstimateScreen::OnUncover() {
+    if (panel_->isHidden()) {
+        FocusResult();
+    }
+}
+
+bool EstimateScreen::eventFilter(QObject* watched, QEvent* event) {
+    const bool resized = event->type() == QEvent::Resize && watched == &Body();
+    if (resized || event->type() == QEvent::LayoutRequest ||
+        event->type() == QEvent::ShowToParent || event->type() == QEvent::HideToParent) {
+        Guard(DrawingFailure, [this] { PlacePanels(); });
+    }
+    return Screen::eventFilter(watched, event);
+}
+
+/// The panels float over the middle of the screen, which scrolls where the open choices do not fit.
+void EstimateScreen::PlacePanels() {
+    const QSize improveSize = improvePanel_->sizeHint().expandedTo(improvePanel_->minimumSize());
+    improvePanel_->setGeometry(
+        QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, improveSize, Body().rect()));
+    if (panel_->isHidden()) {
+        Body().setMinimumSize(0, 0);
+        return;
+    }
+    const QSize size = panel_->sizeHint();
+    const int margins = 2 * Pixels(Metrics::Margin);
+    const QSize least = size + QSize(margins, margins);
+    Body().setMinimumSize(least.expandedTo(Body().layout()->minimumSize()));
+    const QSize left = Body().size() - size;
+    panel_->setGeometry(QRect(QPoint(left.width() / 2, left.height() / 2), size));
+}
+
+void EstimateScreen::OpenPanel() {
+    panel_->show();
+    panel_->raise();
+    panel_->FocusCarpet();
+}
+
+void EstimateScreen::ClosePanel() {
+    panel_->hide();
+    FocusResult();
+}
+
+void EstimateScreen::EnableButtons() {
+    for (QPushButton* button : Buttons()) {
+        button->setEnabled(true);
+    }
+    EnableImprove();
+}
+
+void EstimateScreen::EnableImprove() {
+    // An estimate becomes ready while the whole screen is still disabled below the options.
+    const bool usable = openPanel_->isEnabledTo(&Body());
+    improve_->setEnabled(usable && estimate_ && !estimate_->Fills.Layout.empty());
+}
+
+void EstimateScreen::FocusResult() {
+    if (picture_->isHidden()) {
+        openPanel_->setFocus();
+    } else {
+        picture_->setFocus();
+    }
+}
+
+void EstimateScreen::ShowDrawing(Drawing drawing, bool fromStart) {
+    if (fromStart) {
+        picture_->ShowFromStart(std::move(drawing));
+    } else {
+        picture_->ShowChanged(std::move(drawing));
+    }
+    OfferDrawing();
+}
+
+void EstimateScreen::OfferDrawing() {
+    const bool drawn = !picture_->Shown().Steps().empty();
+    zoomHint_->setVisible(drawn);
+    EnableImprove();
+    for (QAction* action : pictureMenu_->actions()) {
+        action->setEnabled(drawn);
+    }
+}
+
+void EstimateScreen::AcceptChoices() {
+    EnableButtons();
+    const auto request = RequestOf(panel_->Choices(), ShownUnits());
+    if (const auto* refusal = std::get_if<ChoicesRefusal>(&request)) {
+        Shared().Boxes.Message(std::string(RefusalMessage(*refusal)));
+        panel_->FocusRefused(*refusal);
+        return;
+    }
+    NoEstimate();
+    Begin(std::get<EstimateRequest>(request));
+    ClosePanel();
+}
+
+/// The options complete a request that leaves fills; cuts alone are estimated at once. For rooms
+/// without an area there is no estimate.
+void EstimateScreen::Begin(const EstimateRequest& request) {
+    const RoomCuts parts = CutAcrossRoll(OpenedProject(), request);
+    if (!parts.Fills.empty()) {
+        Shared().Go.ShowOptions(request, *this);
+    } else if (!parts.Cuts.empty()) {
+        SearchObserver nobody;
+        EstimateReady(MakeEstimate(OpenedProject(), request, nobody));
+    }
+}
+
+/// Every change is drawn into a copy first: a failure leaves the picture, and what it shows, as
+/// they were.
+void EstimateScreen::EstimateReady(const Estimate& estimate) {
+    Drawing drawing = picture_->Shown();
+    DrawLayout(drawing, estimate);
+    DrawCutList(drawing, estimate, CutListX, CutListY);
+    estimate_ = estimate;
+    ShowDrawing(std::move(drawing), true);
+}
+
+void EstimateScreen::NoEstimate() {
+    estimate_.reset();
+    Drawing drawing = picture_->Shown();
+    drawing.Clear();
+    ShowDrawing(std::move(drawing), true);
+}
+
+void EstimateScreen::RedrawLayout() {
+    const bool fromStart = picture_->Shown().Steps().empty();
+    Drawing drawing = picture_->Shown();
+    if (estimate_) {
+        DrawLayout(drawing, *estimate_);
+    } else {
+        DrawNoFills(drawing);
+    }
+    ShowDrawing(std::move(drawing), fromStart);
+}
+
+void EstimateScreen::ImproveLayout() {
+    SetPasting(false);
+    if (!estimate_) {
+        return;
+    }
+    const Estimate before = *estimate_; // events are handled while the search runs
+    std::optional<ImprovedEstimate> improved;
+    Guard(ImproveFailure, [&] {
+        const OthersDisabled others(Body(), *improvePanel_);
+        improved =
+            improvePanel_->Run([&before](const ImproveLimits& limits, ImproveObserver& observer) {
+                return ImproveEstimate(before, limits, observer);
+            });
+    });
+    FocusResult();
+    if (!improved) {
+        return;
+    }
+    // Without a better layout the list may still know a better bound.
+    if (improved->Value != before) {
+        EstimateReady(improved->Value);
+    }
+    if (!improved->Result.Improved) {
+        Shared().Boxes.Message(NothingBetterText(improved->Result));
+    }
+}
+
+void EstimateScreen::SetPasting(bool pasting) {
+    pasting_ = pasting;
+    picture_->SetWaiting(pasting);
+    if (pasting && !picture_->isHidden()) {
+        picture_->setFocus();
+    }
+}
+
+/// Answers whether a press at (x, y) of the picture, twips, was waited for.
+bool EstimateScreen::PasteCutList(Double x, Double y) {
+    if (!pasting_) {
+        return false;
+    }
+    Guard(DrawingFailure, [&] {
+        if (estimate_) {
+            Drawing drawing = picture_->Shown();
+            DrawCutList(drawing, *estimate_, x, y);
+            ShowDrawing(std::move(drawing), false);
+        }
+        SetPasting(false);
+    });
+    return true;
+}
+
+void EstimateScreen::SaveRooms() {
+    SaveOpenProject(Shared().Project, Shared().Store);
+    Shared().Boxes.Message(std::string(SavedMessage));
+}
+
+/// Closing while a search improves the layout ends the search alone.
+void EstimateScreen::OnCloseByFrame() {
+    if (improvePanel_->IsRunning()) {
+        improvePanel_->Stop();
+        return;
+    }
+    Leave();
+}
+
+/// Loading the menu sets the units to feet and inches; when that fails this screen goes on in its
+/// own.
+void EstimateScreen::Leave() {
+    const Units shown = ShownUnits();
+    try {
+        if (fromMenu_) {
+            Shared().Go.ShowMenu(MenuEntry::Returning);
+        } else {
+            Shared().Go.Return();
+        }
+    } catch (...) {
+        Shared().Project.Shown = shown;
+        throw;
+    }
+}
+
+} // namespace tarn

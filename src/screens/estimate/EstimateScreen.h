@@ -1,0 +1,93 @@
+#pragma once
+
+#include "base/Types.h"
+#include "estimate/Estimate.h"
+#include "screens/Screen.h"
+#include "screens/estimate/EstimateClient.h"
+
+#include <array>
+#include <functional>
+#include <optional>
+#include <string>
+
+class QHBoxLayout;
+class QLabel;
+class QMenu;
+class QPushButton;
+class QVBoxLayout;
+
+namespace tarn {
+
+class ChoicePanel;
+class Drawing;
+class ImprovePanel;
+class PictureBox;
+
+/// The carpet estimate: one carpet of the open project at a time is cut, drawn and listed, printed
+/// and pasted. Its buttons can be used from the first OK or CANCEL of the choice panel on, whatever
+/// comes of it; without a carpet room there is only the way back, once a message has said so.
+class EstimateScreen : public Screen, public EstimateClient {
+  public:
+    /// `fromMenu`: the menu opened it and is shown again when it closes; else the screen below it
+    /// is. Raises as RequireExtents.
+    EstimateScreen(Session& session, bool fromMenu);
+
+    void EstimateReady(const Estimate& estimate) override;
+    void NoEstimate() override;
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+  protected:
+    void OnCloseByFrame() override;
+    void OnUncover() override;
+    QWidget* FirstFocus() override;
+
+  private:
+    void Build();
+    QHBoxLayout* BuildPictureAndButtons();
+    QHBoxLayout* BuildStatus();
+    QVBoxLayout* BuildButtons();
+    void BuildPictureMenu();
+    void AddToPictureMenu(const char* name, const char* caption, std::function<void()> save);
+    void Connect();
+    std::array<QPushButton*, 7> Buttons() const;
+    void TellNoData();
+    void PlacePanels();
+    void OpenPanel();
+    void ClosePanel();
+    void EnableButtons();
+    void EnableImprove();
+    void FocusResult();
+
+    const Project& OpenedProject() const { return Shared().Project.Now; }
+    Units ShownUnits() const { return Shared().Project.Shown; }
+
+    void ShowDrawing(Drawing drawing, bool fromStart);
+    void OfferDrawing();
+    void AcceptChoices();
+    void Begin(const EstimateRequest& request);
+    void RedrawLayout();
+    void ImproveLayout();
+    bool PasteCutList(Double x, Double y);
+    void SetPasting(bool pasting);
+    void SaveRooms();
+    void Leave();
+
+    bool fromMenu_;
+    bool pasting_ = false;             ///< the next press on the picture pastes the cut list
+    std::optional<Estimate> estimate_; ///< the one that is shown
+    ChoicePanel* panel_ = nullptr;
+    PictureBox* picture_ = nullptr;
+    ImprovePanel* improvePanel_ = nullptr;
+    QMenu* pictureMenu_ = nullptr;
+    QLabel* zoomHint_ = nullptr;
+    QPushButton* openPanel_ = nullptr;
+    QPushButton* improve_ = nullptr;
+    QPushButton* paste_ = nullptr;
+    QPushButton* redraw_ = nullptr;
+    QPushButton* print_ = nullptr;
+    QPushButton* save_ = nullptr;
+    QPushButton* back_ = nullptr;
+};
+
+} // namespace tarn

@@ -1,0 +1,217 @@
+#include "screens/estimate/OptionsScreen.h"
+
+#include "estimate/MakeEstimate.h"
+#include "files/QtText.h"
+#include "screens/Arrangement.h"
+#include "screens/ControlNames.h"
+#include "screens/Controls.h"
+#include "screens/Display.h"
+#include "screens/Theme.h"
+#include "screens/estimate/SearchProgress.h"
+
+#include <QButtonGroup>
+#include <QGridLayout>
+#include <QLabel>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <span>
+
+namespace tarn {
+
+namespace {
+
+constexpr const char* SearchFailure = "The fills could not be laid out.";
+constexpr const char* EmptyFailure = "The estimate could not be emptied.";
+
+QFrame* NewFrame(QWidget* parent, const char* name) {
+    auto* frame = new QFrame(parent);
+    frame->setObjectName(name);
+    return frame;
+}
+
+/// The caption and "SELECT" above a group of options.
+void AddHeading(QVBoxLayout& layout, QWidget& frame, const char* captionName,
+                std::string_view caption, const char* selectName) {
+    QLabel* label = NewLabel(&frame, captionName, caption);
+    SetRole(*label, TextRole::Heading);
+    layout.addWidget(label);
+    QLabel* select = NewLabel(&frame, selectName, "SELECT");
+    SetRole(*select, TextRole::Hint);
+    layout.addWidget(select);
+    frame.setAccessibleName(ToQt(caption));
+}
+
+/// The position of the chosen option; 0 when none is.
+std::size_t FirstChosen(std::span<QRadioButton* const> options) {
+    const auto chosen =
+        std::find_if(options.begin(), options.end(),
+                     [](const QRadioButton* option) { return option->isChecked(); });
+    return chosen == options.end() ? 0 : static_cast<std::size_t>(chosen - options.begin());
+}
+
+} // namespace
+
+OptionsScreen::OptionsScreen(Session& session, const EstimateRequest& request,
+                             EstimateClient& client)
+    : TitledScreen(session, Controls::optionsScreen, "*ESTIMATION OPTIONS*")
+    , request_(request)
+    , client_(client) {
+    BuildPanel();
+}
+
+void OptionsScreen::BuildMinCuts(QWidget& frame) {
+    auto* layout = new QVBoxLayout(&frame);
+    AddHeading(*layout, frame, Controls::minCutHeading, "MINIMUM CUT LENGTH",
+               Controls::minCutSelect);
+    auto* group = new QButtonGroup(&frame);
+    for (std::size_t i = 0; i < minCuts_.size(); ++i) {
+        const MinCut minCut = AllMinCuts[i];
+        auto* option = new QRadioButton(&frame);
+        option->setObjectName(Controls::minCuts[i]);
+        SetCaption(*option, MinCutCaption(minCut, request_.In));
+        option->setToolTip(ToQt("No part of a fill becomes shorter than " +
+                                MinCutInForce(minCut, request_.In, Shared().Project.Now.Scale)));
+        group->addButton(option);
+        layout->addWidget(option);
+        minCuts_[i] = option;
+    }
+    layout->addStretch();
+    minCuts_.front()->setChecked(true);
+}
+
+void OptionsScreen::BuildPieces(QWidget& frame) {
+    auto* layout = new QVBoxLayout(&frame);
+    AddHeading(*layout, frame, Controls::piecesHeading, "MAXIMUM NUMBER OF PIECES PER FILL",
+               Controls::piecesSelect);
+    auto* group = new QButtonGroup(&frame);
+    auto* grid = new QGridLayout;
+    constexpr int Rows = 3;
+    for (std::size_t i = 0; i < pieces_.size(); ++i) {
+        const int index = static_cast<int>(i);
+        const std::string caption = std::to_string(index + 1);
+        auto* option = new QRadioButton(&frame);
+        option->setObjectName(Controls::piecesPerFill[i]);
+        SetCaption(*option, caption, caption.front());
+        group->addButton(option);
+        grid->addWidget(option, index % Rows, index / Rows);
+        pieces_[i] = option;
+        OnClick(*option, {}, [this] { continue_->setEnabled(search_ == nullptr); });
+    }
+    layout->addLayout(grid);
+    layout->addStretch();
+}
+
+QLayout* OptionsScreen::BuildProgress(QWidget& frame) {
+    auto* row = new QHBoxLayout;
+    bar_ = new QProgressBar(&frame);
+    bar_->setTextVisible(false);
+    NameControl(*bar_, Controls::searchProgress, QStringLiteral("Search progress"));
+    percentage_ = NewLabel(&frame, Controls::searchPercentage, "");
+    percentage_->ensurePolished(); // gives it the type that it is measured in
+    percentage_->setMinimumWidth(
+        percentage_->fontMetrics().horizontalAdvance(QStringLiteral("100%")));
+    for (QWidget* progress : {static_cast<QWidget*>(bar_), static_cast<QWidget*>(percentage_)}) {
+        KeepRoom(*progress);
+        progress->hide();
+    }
+    continue_ = NewButton(&frame, Controls::layOutFills, "Continue", 'C');
+    continue_->setEnabled(false);
+    SetPrimary(*continue_);
+    OnClick(*continue_, SearchFailure, [this] { Continue(); });
+    row->addWidget(bar_, 1);
+    row->addWidget(percentage_);
+    row->addWidget(continue_);
+    return row;
+}
+
+void OptionsScreen::BuildPanel() {
+    QFrame* panel = NewFrame(&Body(), Controls::optionsPanel);
+    SetPanel(*panel);
+    auto* layout = new QVBoxLayout(panel);
+    SetSpacing(*layout, Metrics::Margin);
+
+    QLabel* heading = NewLabel(panel, Controls::optionsHeading, "ESTIMATING FILLS MENU");
+    SetRole(*heading, TextRole::Heading);
+    heading->setAlignment(Qt::AlignHCenter);
+    layout->addWidget(heading);
+
+    auto* choices = new QHBoxLayout;
+    choices->setSpacing(2 * Pixels(Metrics::Margin));
+    QFrame* minCuts = NewFrame(panel, Controls::minCutGroup);
+    BuildMinCuts(*minCuts);
+    choices->addWidget(minCuts);
+    QFrame* pieces = NewFrame(panel, Controls::piecesGroup);
+    BuildPieces(*pieces);
+    choices->addWidget(pieces);
+    layout->addLayout(choices);
+
+    layout->addLayout(BuildProgress(*panel));
+    AddPanel(*panel);
+}
+
+void OptionsScreen::TakeChoices() {
+    request_.ShortestPart = AllMinCuts[FirstChosen(minCuts_)];
+    request_.PiecesPerFill = static_cast<Integer>(FirstChosen(pieces_) + 1);
+}
+
+void OptionsScreen::EnableChoices(bool enabled) {
+    continue_->setEnabled(enabled);
+    for (QRadioButton* option : minCuts_) {
+        option->setEnabled(enabled);
+    }
+    for (QRadioButton* option : pieces_) {
+        option->setEnabled(enabled);
+    }
+}
+
+void OptionsScreen::Continue() {
+    TakeChoices();
+    EnableChoices(false);
+    SearchProgress progress(*bar_, *percentage_);
+    search_ = &progress;
+    bool made = false;
+    Guard(SearchFailure, [&] { made = MakeEstimate(progress); });
+    search_ = nullptr;
+    if (made) {
+        Shared().Go.Return();
+    } else {
+        ReturnWithoutEstimate();
+    }
+}
+
+/// Make the estimate and hand it over. False when it was stopped.
+bool OptionsScreen::MakeEstimate(SearchProgress& progress) {
+    try {
+        const Estimate estimate = tarn::MakeEstimate(Shared().Project.Now, request_, progress);
+        if (progress.IsStopped()) {
+            return false;
+        }
+        client_.EstimateReady(estimate);
+        return true;
+    } catch (const SearchStopped&) {
+        return false;
+    }
+}
+
+void OptionsScreen::ReturnWithoutEstimate() {
+    Guard(EmptyFailure, [this] { client_.NoEstimate(); });
+    Shared().Go.Return();
+}
+
+void OptionsScreen::OnCloseByFrame() {
+    if (search_ != nullptr) {
+        search_->Stop();
+        return;
+    }
+    ReturnWithoutEstimate();
+}
+
+QWidget* OptionsScreen::FirstFocus() {
+    return minCuts_.front();
+}
+
+} // namespace tarn

@@ -1,0 +1,381 @@
+#include "screens/estimate/PictureBox.h"
+
+#include "files/QtText.h"
+#include "paper/PaintDrawing.h"
+#include "screens/Arrangement.h"
+#include "screens/ControlNames.h"
+#include "screens/Controls.h"
+#include "screens/Display.h"
+#include "screens/Guard.h"
+
+#include <QContextMenuEvent>
+#include <QHelpEvent>
+#include <QPainter>
+#include <QScrollBar>
+#include <QToolTip>
+#include <QWheelEvent>
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace tarn {
+
+namespace {
+
+constexpr double ReadableZoom = 0.75; ///< 9 point type is then as large as 7 point type
+constexpr double LargestFit = 2;      ///< a small drawing on a large display grows no further
+constexpr double LeastOwnZoom = 0.1;  ///< less only to fit a drawing
+constexpr double GreatestZoom = 8;
+constexpr double ZoomStep = 1.25;      ///< for a key or one notch of the wheel
+constexpr double WheelNotch = 120;     ///< in the units of a wheel event
+constexpr double MostPixels = 1e9;     ///< scroll bars count in int
+constexpr double RoundingError = 1e-3; ///< pixels
+constexpr double ScrollStep = 600;     ///< twips
+constexpr double KeyPressInset = 100;  ///< twips from the visible top left
+
+/// What is written in a drawing, for those who cannot see it.
+QString WrittenIn(const Drawing& drawing) {
+    QString text;
+    for (const DrawingStep& step : drawing.Steps()) {
+        if (step.What == DrawingStep::Kind::Text) {
+            text += (text.isEmpty() ? QString() : QStringLiteral("\n")) + ToQt(step.Text);
+        }
+    }
+    return text;
+}
+
+} // namespace
+
+PictureBox::PictureBox(QWidget* parent, Dialogs& boxes)
+    : QAbstractScrollArea(parent)
+    , boxes_(boxes) {
+    NameControl(*this, Controls::layoutPicture, QStringLiteral("Layout drawing"));
+    setToolTip(ZoomHint());
+    setFocusPolicy(Qt::StrongFocus);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    KeepRoom(*this);
+    // It paints its own paper, so that scrolling moves what is there and paints only the rest.
+    viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
+    // So that a drag whose release went elsewhere ends with the next move.
+    viewport()->setMouseTracking(true);
+    hide();
+}
+
+QString PictureBox::ZoomHint() {
+    return QStringLiteral("Zoom: + and \u2212, or Ctrl and wheel.  0: actual size.  "
+                          "Double click: everything.");
+}
+
+void PictureBox::ShowChanged(Drawing drawing) {
+    drawing_ = std::move(drawing);
+    ShowDrawing();
+}
+
+void PictureBox::ShowFromStart(Drawing drawing) {
+    drawing_ = std::move(drawing);
+    fitted_ = true;
+    FitFirst();
+    ShowDrawing();
+    horizontalScrollBar()->setValue(0);
+    verticalScrollBar()->setValue(0);
+}
+
+void PictureBox::ShowDrawing() {
+    setVisible(drawing_.Visible);
+    setAccessibleDescription(WrittenIn(drawing_));
+    Arrange();
+    viewport()->update();
+}
+
+void PictureBox::SetWaiting(bool waiting) {
+    waiting_ = waiting;
+    UpdatePointer();
+}
+
+QPointF PictureBox::ToTwips(QPointF position) const {
+    const QPointF scrolled(horizontalScrollBar()->value(), verticalScrollBar()->value());
+    return (position + scrolled) / PixelsPerTwip();
+}
+
+QPointF PictureBox::ToViewport(QPointF twips) const {
+    const QPointF scrolled(horizontalScrollBar()->value(), verticalScrollBar()->value());
+    return twips * PixelsPerTwip() - scrolled;
+}
+
+bool PictureBox::Guard(const std::function<void()>& body) const {
+    return Guarded(boxes_, "The layout could not be shown.", body);
+}
+
+double PictureBox::PixelsPerTwip() const {
+    return zoom_ * PixelsExact(1);
+}
+
+QSizeF PictureBox::DrawnTwips() const {
+    return {drawing_.FarthestX() + DrawingMargin, drawing_.FarthestY() + DrawingMargin};
+}
+
+QSize PictureBox::DrawnPixels() const {
+    const QSizeF size = DrawnTwips() * PixelsPerTwip();
+    const auto pixels = [](double length) {
+        return static_cast<int>(std::ceil(std::min(length, MostPixels) - RoundingError));
+    };
+    return {pixels(size.width()), pixels(size.height())};
+}
+
+double PictureBox::FittingZoom() const {
+    const QSizeF drawn = DrawnTwips() * PixelsExact(1);
+    const QSizeF room = maximumViewportSize();
+    const double fitting = std::min(room.width() / drawn.width(), room.height() / drawn.height());
+    return std::min(fitting, LargestFit);
+}
+
+double PictureBox::FirstZoom() const {
+    const double whole = FittingZoom();
+    if (whole >= ReadableZoom) {
+        return whole;
+    }
+    const int bar = verticalScrollBar()->sizeHint().width();
+    const double across =
+        (maximumViewportSize().width() - bar) / (DrawnTwips().width() * PixelsExact(1));
+    return across >= ReadableZoom ? std::min(across, 1.0) : 1;
+}
+
+double PictureBox::LeastZoom() const {
+    return std::min(LeastOwnZoom, FittingZoom());
+}
+
+void PictureBox::FitFirst() {
+    fittedTo_ = maximumViewportSize();
+    Fit(FirstZoom());
+}
+
+void PictureBox::Fit(double zoom) {
+    zoom_ = zoom;
+    Arrange();
+    viewport()->update();
+}
+
+void PictureBox::ZoomAbout(QPointF position, double zoom) {
+    const QSizeF drawn = DrawnTwips() * PixelsExact(1);
+    const double most =
+        std::min(GreatestZoom, MostPixels / std::max(drawn.width(), drawn.height()));
+    const QPointF kept = ToTwips(position);
+    fitted_ = false;
+    Fit(std::clamp(zoom, LeastZoom(), std::max(most, LeastZoom())));
+    const QPointF scrolled = kept * PixelsPerTwip() - position;
+    horizontalScrollBar()->setValue(static_cast<int>(std::lround(scrolled.x())));
+    verticalScrollBar()->setValue(static_cast<int>(std::lround(scrolled.y())));
+}
+
+void PictureBox::ZoomAboutMiddle(double zoom) {
+    ZoomAbout(QRectF(viewport()->rect()).center(), zoom);
+}
+
+/// What the scroll bars that such a drawing needs leave of the box. The viewport itself follows
+/// only later, when the bars were shown or hidden.
+QSize PictureBox::RoomFor(QSize drawn) const {
+    const QSize most = maximumViewportSize();
+    const int besideBar = most.width() - verticalScrollBar()->sizeHint().width();
+    const int aboveBar = most.height() - horizontalScrollBar()->sizeHint().height();
+    const bool wide = drawn.width() > most.width();
+    const bool high = drawn.height() > most.height();
+    const bool across = wide || (high && drawn.width() > besideBar);
+    const bool down = high || (wide && drawn.height() > aboveBar);
+    return {down ? besideBar : most.width(), across ? aboveBar : most.height()};
+}
+
+void PictureBox::Arrange() {
+    const QSize drawn = DrawnPixels();
+    const QSize room = RoomFor(drawn);
+    horizontalScrollBar()->setRange(0, std::max(0, drawn.width() - room.width()));
+    verticalScrollBar()->setRange(0, std::max(0, drawn.height() - room.height()));
+    horizontalScrollBar()->setPageStep(room.width());
+    verticalScrollBar()->setPageStep(room.height());
+    horizontalScrollBar()->setSingleStep(Pixels(ScrollStep));
+    verticalScrollBar()->setSingleStep(Pixels(ScrollStep));
+    UpdatePointer();
+}
+
+/// The box's own size is what counts: a scroll bar that comes with the drawing's growth must not
+/// change the zoom.
+bool PictureBox::event(QEvent* event) {
+    const bool taken = QAbstractScrollArea::event(event);
+    if (event->type() == QEvent::Resize || event->type() == QEvent::StyleChange) {
+        Guard([this] { FollowSize(); });
+    }
+    return taken;
+}
+
+void PictureBox::FollowSize() {
+    if (fitted_ && fittedTo_ != maximumViewportSize()) {
+        FitFirst();
+    }
+    Arrange();
+}
+
+bool PictureBox::viewportEvent(QEvent* event) {
+    if (event->type() == QEvent::ToolTip) {
+        const auto* help = static_cast<QHelpEvent*>(event);
+        Guard([&] { ShowTip(help->pos(), help->globalPos()); });
+        return true;
+    }
+    return QAbstractScrollArea::viewportEvent(event);
+}
+
+/// A piece's tip goes when the pointer leaves the piece.
+void PictureBox::ShowTip(QPoint position, QPoint global) {
+    const QPointF twips = ToTwips(position);
+    QString tip = ZoomHint();
+    QRect shownFor;
+    for (const DrawingStep& step : drawing_.Steps()) {
+        const QRectF box(QPointF(step.X1, step.Y1), QPointF(step.X2, step.Y2));
+        if (!step.Tip.empty() && box.contains(twips)) {
+            tip = ToQt(step.Tip);
+            shownFor = QRectF(ToViewport(box.topLeft()), ToViewport(box.bottomRight()))
+                           .intersected(viewport()->rect())
+                           .toAlignedRect();
+        }
+    }
+    QToolTip::showText(global, tip, viewport(), shownFor);
+}
+
+void PictureBox::paintEvent(QPaintEvent* event) {
+    QPainter painter(viewport());
+    painter.fillRect(event->rect(), Qt::white);
+    painter.setClipRect(event->rect());
+    painter.translate(-horizontalScrollBar()->value(), -verticalScrollBar()->value());
+    painter.scale(PixelsPerTwip(), PixelsPerTwip());
+    PaintDrawing(painter, drawing_);
+}
+
+void PictureBox::scrollContentsBy(int dx, int dy) {
+    viewport()->scroll(dx, dy);
+}
+
+void PictureBox::wheelEvent(QWheelEvent* event) {
+    Guard([&] {
+        if (!event->modifiers().testFlag(Qt::ControlModifier)) {
+            QAbstractScrollArea::wheelEvent(event);
+            return;
+        }
+        event->accept();
+        const double notches = event->angleDelta().y() / WheelNotch;
+        ZoomAbout(event->position(), zoom_ * std::pow(ZoomStep, notches));
+    });
+}
+
+bool PictureBox::PressWaitedFor(int key) {
+    if (!waiting_ || (key != Qt::Key_Return && key != Qt::Key_Enter && key != Qt::Key_Space)) {
+        return false;
+    }
+    const QPointF corner = ToTwips({0, 0});
+    return MouseDown(corner.x() + KeyPressInset, corner.y() + KeyPressInset);
+}
+
+bool PictureBox::PressZoomKey(int key) {
+    switch (key) {
+    case Qt::Key_Plus:
+    case Qt::Key_Equal: // + without Shift on many keyboards
+        ZoomAboutMiddle(zoom_ * ZoomStep);
+        return true;
+    case Qt::Key_Minus:
+        ZoomAboutMiddle(zoom_ / ZoomStep);
+        return true;
+    case Qt::Key_0:
+        ZoomAboutMiddle(1);
+        return true;
+    default:
+        return false;
+    }
+}
+
+bool PictureBox::PressScrollKey(int key) {
+    if (key != Qt::Key_Home && key != Qt::Key_End) {
+        return false;
+    }
+    verticalScrollBar()->triggerAction(key == Qt::Key_Home ? QScrollBar::SliderToMinimum
+                                                           : QScrollBar::SliderToMaximum);
+    return true;
+}
+
+void PictureBox::keyPressEvent(QKeyEvent* event) {
+    Guard([&] {
+        const bool plain = !event->modifiers().testFlag(Qt::AltModifier);
+        // A key that is still held from pressing a button is none for the drawing.
+        const bool pressed = plain && ((!event->isAutoRepeat() && PressWaitedFor(event->key())) ||
+                                       PressZoomKey(event->key()) || PressScrollKey(event->key()));
+        if (!pressed) {
+            QAbstractScrollArea::keyPressEvent(event);
+        }
+    });
+}
+
+void PictureBox::mousePressEvent(QMouseEvent* event) {
+    Guard([&] {
+        const QPointF twips = ToTwips(event->position());
+        taken_ = MouseDown(twips.x(), twips.y());
+        const bool drags = event->button() == Qt::LeftButton || event->button() == Qt::MiddleButton;
+        if (!taken_ && drags) {
+            dragging_ = true;
+            dragFrom_ = event->pos();
+            dragScrolled_ = QPoint(horizontalScrollBar()->value(), verticalScrollBar()->value());
+        }
+        UpdatePointer();
+    });
+}
+
+void PictureBox::mouseMoveEvent(QMouseEvent* event) {
+    Guard([&] {
+        DropDragUnlessHeld(event->buttons());
+        if (dragging_) {
+            const QPoint scrolled = dragScrolled_ + dragFrom_ - event->pos();
+            horizontalScrollBar()->setValue(scrolled.x());
+            verticalScrollBar()->setValue(scrolled.y());
+        }
+    });
+}
+
+void PictureBox::mouseReleaseEvent(QMouseEvent* event) {
+    Guard([&] { DropDragUnlessHeld(event->buttons()); });
+}
+
+void PictureBox::DropDragUnlessHeld(Qt::MouseButtons held) {
+    if (dragging_ && held == Qt::NoButton) {
+        dragging_ = false;
+        UpdatePointer();
+    }
+}
+
+/// A double click whose first press was taken is no double click on the paper.
+void PictureBox::mouseDoubleClickEvent(QMouseEvent* event) {
+    if (taken_ || event->button() != Qt::LeftButton) {
+        mousePressEvent(event);
+        return;
+    }
+    Guard([this] {
+        fitted_ = false;
+        Fit(FittingZoom());
+    });
+}
+
+void PictureBox::contextMenuEvent(QContextMenuEvent* event) {
+    if (event->reason() != QContextMenuEvent::Mouse || !taken_) {
+        Guard([&] { ContextMenu(event->globalPos()); });
+    }
+}
+
+void PictureBox::UpdatePointer() {
+    const bool scrolls = horizontalScrollBar()->maximum() > 0 || verticalScrollBar()->maximum() > 0;
+    if (waiting_) {
+        viewport()->setCursor(Qt::CrossCursor);
+    } else if (dragging_) {
+        viewport()->setCursor(Qt::ClosedHandCursor);
+    } else if (scrolls) {
+        viewport()->setCursor(Qt::OpenHandCursor);
+    } else {
+        viewport()->unsetCursor();
+    }
+}
+
+} // namespace tarn

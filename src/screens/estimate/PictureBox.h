@@ -1,0 +1,97 @@
+#pragma once
+
+#include "drawing/Drawing.h"
+#include "screens/Dialogs.h"
+
+#include <QAbstractScrollArea>
+
+#include <functional>
+
+namespace tarn {
+
+/// Shows a drawing on white paper, scrolls in both directions over everything drawn, and zooms. It
+/// is hidden while the drawing is not visible. Its top left is (0, 0) of the drawing, which goes on
+/// beyond what is drawn.
+///
+/// The wheel scrolls, with Ctrl it zooms about the pointer; + and - zoom, 0 shows the actual size,
+/// a double click fits the whole drawing; arrows, Page Up, Page Down, Home and End scroll; dragging
+/// moves the paper. While a press is waited for, Enter and Space press near the visible top left.
+class PictureBox : public QAbstractScrollArea {
+  public:
+    PictureBox(QWidget* parent, Dialogs& boxes);
+
+    /// What it shows.
+    const Drawing& Shown() const { return drawing_; }
+    /// Show the changed drawing where the old one was looked at.
+    void ShowChanged(Drawing drawing);
+    /// Show another drawing, from its start. All of it is fitted into the box if that stays
+    /// readable; else its width, but no larger than actual size; else it shows in actual size. It
+    /// is fitted anew as the box changes its size, until the user zooms.
+    void ShowFromStart(Drawing drawing);
+
+    /// Called with a mouse press, in twips of the drawing. Answers whether it was taken; else the
+    /// press begins to drag the paper.
+    std::function<bool(Double x, Double y)> MouseDown = [](Double, Double) { return false; };
+    /// Show by the pointer that the next press is waited for, and take a key for it too.
+    void SetWaiting(bool waiting);
+    /// Called where a context menu is asked for, in global pixels; not by a press that was taken.
+    std::function<void(QPoint global)> ContextMenu = [](QPoint) {};
+
+    /// 1 is actual size.
+    double Zoom() const { return zoom_; }
+    /// Between positions on the viewport, pixels, and those in the drawing, twips.
+    QPointF ToTwips(QPointF position) const;
+    QPointF ToViewport(QPointF twips) const;
+
+    /// How to zoom, for the user.
+    static QString ZoomHint();
+
+  protected:
+    bool event(QEvent* event) override;
+    bool viewportEvent(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void scrollContentsBy(int dx, int dy) override;
+    void wheelEvent(QWheelEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
+
+  private:
+    bool Guard(const std::function<void()>& body) const;
+    double PixelsPerTwip() const;
+    QSizeF DrawnTwips() const;
+    QSize DrawnPixels() const;
+    QSize RoomFor(QSize drawn) const;
+    double FittingZoom() const;
+    double FirstZoom() const;
+    double LeastZoom() const;
+    void FitFirst();
+    void FollowSize();
+    void Fit(double zoom);
+    void ZoomAbout(QPointF position, double zoom);
+    void ZoomAboutMiddle(double zoom);
+    void ShowDrawing();
+    void Arrange();
+    bool PressWaitedFor(int key);
+    bool PressZoomKey(int key);
+    bool PressScrollKey(int key);
+    void ShowTip(QPoint position, QPoint global);
+    void DropDragUnlessHeld(Qt::MouseButtons held);
+    void UpdatePointer();
+
+    Dialogs& boxes_;
+    Drawing drawing_;
+    double zoom_ = 1;
+    bool fitted_ = true;   ///< the zoom follows the box
+    QSize fittedTo_;       ///< the room that it was fitted into last
+    bool waiting_ = false; ///< for a press that is taken
+    bool taken_ = false;   ///< the last press was
+    bool dragging_ = false;
+    QPoint dragFrom_;     ///< where the press was, pixels
+    QPoint dragScrolled_; ///< how far it was scrolled then
+};
+
+} // namespace tarn

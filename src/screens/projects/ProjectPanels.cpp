@@ -1,0 +1,140 @@
+#include "screens/projects/ProjectPanels.h"
+
+#include "screens/Arrangement.h"
+#include "screens/ControlNames.h"
+#include "screens/Controls.h"
+#include "screens/Display.h"
+#include "screens/ElidedLabel.h"
+#include "screens/Theme.h"
+#include "screens/projects/ChoiceList.h"
+#include "screens/projects/ProjectBox.h"
+
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace tarn {
+
+namespace {
+
+// Twips.
+constexpr double SettingsWidth = 8100;
+constexpr double MonthsWidth = 2250;
+constexpr double DirectoriesWidth = 3300;
+constexpr double ProjectsWidth = 4500;
+
+QPushButton* NewWideButton(QWidget* parent, const char* name, std::string_view caption,
+                           char mnemonic) {
+    QPushButton* button = NewButton(parent, name, caption, mnemonic);
+    button->setMinimumWidth(Pixels(Metrics::ButtonWidth));
+    return button;
+}
+
+QLabel* NewSetting(QGroupBox* parent, const char* name) {
+    auto* label = new ElidedLabel(parent);
+    label->setObjectName(name);
+    SetRole(*label, TextRole::Heading);
+    return label;
+}
+
+} // namespace
+
+SettingsPanel::SettingsPanel() {
+    setObjectName(Controls::settingsPanel);
+    SetPanel(*this);
+    setMinimumWidth(Pixels(SettingsWidth));
+    auto* current = new QGroupBox(this);
+    current->setTitle(QStringLiteral(" CURRENT SETTING"));
+    NameControl(*current, Controls::currentSetting, current->title());
+    directory_ = NewSetting(current, Controls::currentDirectory);
+    project_ = NewSetting(current, Controls::currentProject);
+    auto* settings = new QVBoxLayout(current);
+    settings->setSpacing(Pixels(Metrics::Spacing));
+    settings->addWidget(directory_);
+    settings->addWidget(project_);
+    SelectProject = NewWideButton(this, Controls::selectProject, "SELECT PROJECT", 'S');
+    SetPrimary(*SelectProject);
+    Exit = NewWideButton(this, Controls::exitProgram, "EXIT", 'X');
+    // The free place beside the buttons: a click there brings the focus back to the main one.
+    BesideSelectProject = NewButton(this, Controls::besideSelectProject, {});
+    BesideSelectProject->setFlat(true);
+    BesideSelectProject->setStyleSheet(QStringLiteral("background: transparent; border: none;"));
+    BesideSelectProject->setFocusPolicy(Qt::NoFocus);
+    BesideSelectProject->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+
+    auto* buttons = new QHBoxLayout;
+    buttons->setSpacing(Pixels(Metrics::Spacing));
+    buttons->addWidget(SelectProject);
+    buttons->addWidget(BesideSelectProject, 1);
+    buttons->addWidget(Exit);
+    auto* layout = new QVBoxLayout(this);
+    SetSpacing(*layout, Metrics::Margin);
+    layout->addWidget(current);
+    layout->addLayout(buttons);
+    setTabOrder(SelectProject, Exit);
+}
+
+void SettingsPanel::Show(const std::string& directory, const std::string& project) {
+    SetText(*directory_, "DIRECTORY:" + directory);
+    SetText(*project_, project.empty() ? "No Project Selected" : "PROJECT:" + project);
+}
+
+SelectionPanel::SelectionPanel() {
+    setObjectName(Controls::selectionPanel);
+    SetPanel(*this);
+    setMinimumHeight(Pixels(MostPanelHeight));
+    MakeControls();
+    LayOut();
+}
+
+void SelectionPanel::MakeControls() {
+    const auto newList = [this](const char* name, double width) {
+        auto* list = new ChoiceList(this);
+        list->setObjectName(name);
+        list->setMinimumWidth(Pixels(width));
+        return list;
+    };
+    Months = newList(Controls::months, MonthsWidth);
+    Directories = newList(Controls::directories, DirectoriesWidth);
+    Projects = newList(Controls::projects, ProjectsWidth);
+    monthsCaption_ = NewLabelFor(*Months, this, Controls::monthsCaption, "MONTHS", 'M');
+    directoriesCaption_ =
+        NewLabelFor(*Directories, this, Controls::directoriesCaption, "DIRECTORIES", 'D');
+    projectsCaption_ = NewLabelFor(*Projects, this, Controls::projectsCaption, "PROJECTS", 'P');
+
+    Name = new ProjectBox(this);
+    NameControl(*Name, Controls::projectBox, QStringLiteral("PROJECT"));
+
+    NewProject = NewWideButton(this, Controls::newProject, "NEW PROJECT", 'N');
+    NewDirectory = NewWideButton(this, Controls::newDirectory, "NEW DIRECTORY", 'Y');
+    Done = NewWideButton(this, Controls::acceptProject, "DONE", 'O');
+    SetPrimary(*Done);
+    Exit = NewWideButton(this, Controls::closeSelection, "EXIT", 'E');
+}
+
+void SelectionPanel::LayOut() {
+    auto* buttons = new QHBoxLayout;
+    buttons->setSpacing(Pixels(Metrics::Spacing));
+    buttons->addWidget(NewProject);
+    buttons->addWidget(NewDirectory);
+    buttons->addStretch();
+    buttons->addWidget(Done);
+    buttons->addWidget(Exit);
+    auto* layout = new QGridLayout(this);
+    SetSpacing(*layout, Metrics::Margin);
+    layout->addWidget(monthsCaption_, 0, 0);
+    layout->addWidget(directoriesCaption_, 0, 1);
+    layout->addWidget(projectsCaption_, 0, 2);
+    layout->addWidget(Months, 1, 0, 2, 1);
+    layout->addWidget(Directories, 1, 1, 2, 1);
+    layout->addWidget(Projects, 1, 2);
+    layout->addWidget(Name, 2, 2);
+    layout->addLayout(buttons, 3, 0, 1, 3);
+    layout->setRowStretch(1, 1);
+
+    SetTabOrders({Months, Directories, Projects, Name, NewProject, NewDirectory, Done, Exit});
+}
+
+} // namespace tarn

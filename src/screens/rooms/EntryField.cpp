@@ -1,0 +1,67 @@
+#include "screens/rooms/EntryField.h"
+
+#include <QSignalBlocker>
+
+#include <algorithm>
+
+namespace tarn {
+
+EntryField::EntryField(QWidget* parent, const FieldRule& rule)
+    : QLineEdit(parent)
+    , rule_(rule) {
+    connect(this, &QLineEdit::textEdited, this, [this] { FitLastChange(); });
+    connect(this, &QLineEdit::textChanged, this, [this] { before_ = text(); });
+}
+
+void EntryField::Show(const QString& text) {
+    setMaxLength(std::max(maxLength(), static_cast<int>(text.size())));
+    setText(text);
+}
+
+void EntryField::Replace(const QString& text) {
+    if (text != this->text()) {
+        selectAll();
+        insert(text);
+    }
+}
+
+void EntryField::ReplaceLastChange(const QString& text) {
+    const bool outer = replacing_;
+    replacing_ = true;
+    {
+        const QSignalBlocker unseen(this);
+        undo();
+        end(false);
+    }
+    if (this->text() != text) {
+        selectAll();
+        if (text.isEmpty()) {
+            del();
+        } else {
+            insert(text);
+        }
+    }
+    replacing_ = outer;
+    before_ = this->text();
+}
+
+void EntryField::FitLastChange() {
+    if (replacing_ || isRedoAvailable()) { // a change that was undone leaves a text that stood
+        return;
+    }
+    const QString typed = text();
+    const TypedText fitted = Fitted(
+        before_.toStdU32String(),
+        {typed.toStdU32String(), typed.left(cursorPosition()).toStdU32String().size()}, rule_);
+    const QString allowed = QString::fromStdU32String(fitted.Text);
+    if (allowed == typed) {
+        return;
+    }
+    ReplaceLastChange(allowed);
+    if (text() == allowed) {
+        const auto left = QString::fromStdU32String(fitted.Text.substr(0, fitted.Cursor));
+        setCursorPosition(static_cast<int>(left.size()));
+    }
+}
+
+} // namespace tarn

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "project/TypedText.h"
+
+#include <QLineEdit>
+
+namespace tarn {
+
+/// A field of the room entry. What is typed, pasted or dropped into it is fitted to its rule (see
+/// Fitted); what the program shows in it is not, however long it is. Undo and redo go through the
+/// texts as they stood after the fitting.
+class EntryField : public QLineEdit {
+  public:
+    EntryField(QWidget* parent, const FieldRule& rule);
+
+    void Show(const QString& text);
+    /// Put another text in place of the present one, as one step of undo.
+    void Replace(const QString& text);
+    /// Put another text in place of the last change, which undo does not bring back; the cursor is
+    /// at its end.
+    void ReplaceLastChange(const QString& text);
+
+  private:
+    void FitLastChange();
+
+    FieldRule rule_;
+    QString before_; ///< the text before a change that is being fitted
+    bool replacing_ = false;
+};
+
+} // namespace tarn

@@ -1,0 +1,384 @@
+#include "screens/rooms/RoomEntryFrame.h"
+
+#include "base/Text.h"
+#include "files/QtText.h"
+#include "project/Coverings.h"
+#include "project/WallBase.h"
+#include "screens/Arrangement.h"
+#include "screens/ControlNames.h"
+#include "screens/Controls.h"
+#include "screens/Display.h"
+#include "screens/Guard.h"
+#include "screens/Theme.h"
+
+#include <QComboBox>
+#include <QEvent>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QHelpEvent>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPushButton>
+#include <QStyleOptionGroupBox>
+#include <QToolTip>
+
+#include <algorithm>
+#include <limits>
+
+namespace tarn {
+
+namespace {
+
+/// Width of a size field, twips.
+constexpr double SizeFieldWidth = 1050;
+
+constexpr const char* NotTested = "The text could not be tested.";
+
+/// A title as it is written, without mnemonics.
+void SetPlainTitle(QGroupBox& group, QString title) {
+    group.setTitle(title.replace(QLatin1Char('&'), QLatin1String("&&")));
+}
+
+void SetGroupCaption(QGroupBox& group, const char* name, const QString& caption) {
+    NameControl(group, name, caption);
+    SetPlainTitle(group, caption);
+}
+
+/// What each text takes.
+FieldRule RuleOf(int index) {
+    using Breaks = FieldRule::Breaks;
+    switch (index) {
+    case RoomEntryFrame::Base:
+        return {MaxBaseTextLength, Breaks::EndOnly};
+    case RoomEntryFrame::Number:
+        return {MaxRoomNumberLength, Breaks::Blanks};
+    case RoomEntryFrame::Remark:
+        return {MaxRemarkLength, Breaks::Blanks};
+    default:
+        return {std::numeric_limits<std::size_t>::max(), Breaks::EndOnly};
+    }
+}
+
+/// The text of a field; as it was stored while nothing else is typed, for a widget's text need not
+/// hold each of its characters (such as a byte-order mark).
+std::string TextOf(const QLineEdit& field, const std::string& stored) {
+    return field.text() == ToQt(stored) ? stored : FromQt(field.text());
+}
+
+/// `text` without its last character, which may be made of two.
+QString WithoutLast(QString text) {
+    const bool isPair = text.size() > 1 && text.back().isLowSurrogate();
+    text.chop(isPair ? 2 : 1);
+    return text;
+}
+
+bool IsEnter(const QEvent& event) {
+    if (event.type() != QEvent::KeyPress) {
+        return false;
+    }
+    const int key = static_cast<const QKeyEvent&>(event).key();
+    return key == Qt::Key_Return || key == Qt::Key_Enter;
+}
+
+/// One size of the room: two fields, the size's caption before them, each one's unit behind it.
+struct SizeRow {
+    QLineEdit& Major;
+    QLineEdit& Minor;
+    std::string_view Caption;
+    char Mnemonic;
+    const char* CaptionName;
+    const char* MajorUnitName;
+    const char* MinorUnitName;
+};
+
+void AddSizeRow(QWidget* parent, QGridLayout& grid, int at, const SizeRow& row, Units shown) {
+    const std::string_view majorUnit = shown == Units::Metric ? "M" : "FEET";
+    const std::string_view minorUnit = shown == Units::Metric ? "CM" : "INCHES";
+    grid.addWidget(NewLabelFor(row.Major, parent, row.CaptionName, row.Caption, row.Mnemonic), at,
+                   0);
+    grid.addWidget(&row.Major, at, 1);
+    grid.addWidget(NewLabel(parent, row.MajorUnitName, majorUnit), at, 2);
+    grid.addWidget(&row.Minor, at, 3);
+    grid.addWidget(NewLabelFor(row.Minor, parent, row.MinorUnitName, minorUnit), at, 4);
+    row.Major.setAccessibleDescription(ToQt(row.Caption) + QLatin1Char(' ') + ToQt(majorUnit));
+    row.Minor.setAccessibleDescription(ToQt(row.Caption) + QLatin1Char(' ') + ToQt(minorUnit));
+}
+
+} // namespace
+
+RoomEntryFrame::RoomEntryFrame(const std::string& project, Units shown, Dialogs& boxes)
+    : boxes_(boxes) {
+    SetGroupCaption(*this, Controls::roomPanel, ToQt("PROJECT: " + project).toUpper());
+    SetPanel(*this);
+    MakeFields();
+    MakeButtons();
+    Arrange(shown);
+    ShowNewRoom();
+    ConnectFields();
+}
+
+void RoomEntryFrame::MakeFields() {
+    constexpr std::array<const char*, Texts> Names{
+        Controls::roomWidthMajor,  Controls::roomWidthMinor, Controls::roomLengthMajor,
+        Controls::roomLengthMinor, Controls::wallBase,       Controls::roomNumber,
+        Controls::remark};
+    for (int i = 0; i < Texts; ++i) {
+        auto* text = new EntryField(this, RuleOf(i));
+        text->setObjectName(Names.at(static_cast<std::size_t>(i)));
+        texts_.at(static_cast<std::size_t>(i)) = text;
+        if (i < SizeTexts) {
+            text->setFixedWidth(Pixels(SizeFieldWidth));
+        }
+    }
+    covering_ = new QComboBox(this);
+    covering_->setObjectName(Controls::covering);
+    covering_->setFocusPolicy(Qt::StrongFocus);
+    covering_->setMaxVisibleItems(LastTileCode + 1);
+    for (Byte code = 0; code <= LastTileCode; ++code) {
+        covering_->addItem(ToQt(CoveringCaption(code)));
+    }
+}
+
+void RoomEntryFrame::MakeButtons() {
+    next_ = NewButton(this, Controls::nextRoom, "NEXT ROOM", 'N');
+    previous_ = NewButton(this, Controls::previousRoom, "PREVIOUS ROOM", 'P');
+    delete_ = NewButton(this, Controls::deleteRoom, "DELETE ", 'D');
+    estimate_ = NewButton(this, Controls::estimateFromRooms, "ESTIMATE", 'E');
+    report_ = NewButton(this, Controls::showReport, "REPORT", 'R');
+    SetPrimary(*next_);
+}
+
+QGroupBox* RoomEntryFrame::NewSizeGroup(Units shown) {
+    auto* group = new QGroupBox(this);
+    SetGroupCaption(*group, Controls::roomSizes, QStringLiteral("ROOM SIZE"));
+    auto* grid = new QGridLayout(group);
+    SetSpacing(*grid, Metrics::Spacing);
+    AddSizeRow(this, *grid, 0,
+               {Text(WidthMajor), Text(WidthMinor), "ROOM   WIDTH", 'W', Controls::roomWidthCaption,
+                Controls::roomWidthMajorUnit, Controls::roomWidthMinorUnit},
+               shown);
+    AddSizeRow(this, *grid, 1,
+               {Text(LengthMajor), Text(LengthMinor), "ROOM LENGTH", 'L',
+                Controls::roomLengthCaption, Controls::roomLengthMajorUnit,
+                Controls::roomLengthMinorUnit},
+               shown);
+    grid->setColumnStretch(4, 1);
+    return group;
+}
+
+QGroupBox* RoomEntryFrame::NewItemGroup() {
+    auto* group = new QGroupBox(this);
+    SetGroupCaption(*group, Controls::roomItem, QStringLiteral("ITEM INFO"));
+    auto* grid = new QGridLayout(group);
+    SetSpacing(*grid, Metrics::Spacing);
+    const struct {
+        QWidget* Control;
+        std::string_view Caption;
+        const char* CaptionName;
+        char Mnemonic;
+    } rows[] = {{covering_, "CARPET TYPE", Controls::coveringCaption, 'T'},
+                {&Text(Base), "BASE", Controls::wallBaseCaption, 'A'},
+                {&Text(Number), "ROOM No.", Controls::roomNumberCaption, 'O'},
+                {&Text(Remark), "REMARK", Controls::remarkCaption, 'K'}};
+    int row = 0;
+    for (const auto& each : rows) {
+        QLabel* label =
+            NewLabelFor(*each.Control, this, each.CaptionName, each.Caption, each.Mnemonic);
+        grid->addWidget(label, row, 0);
+        grid->addWidget(each.Control, row, 1);
+        if (each.Control == &Text(Base)) {
+            const QString example = QStringLiteral("EXAMPLE: W2L1");
+            label->setToolTip(example);
+            each.Control->setToolTip(example);
+        }
+        ++row;
+    }
+    grid->setColumnStretch(1, 1);
+    return group;
+}
+
+QWidget* RoomEntryFrame::NewItemNumberRow() {
+    auto* row = new QWidget(this);
+    auto* layout = new QHBoxLayout(row);
+    SetSpacing(*layout, 0);
+    QLabel* caption = NewLabel(row, Controls::itemNumberCaption, "PROJECT ITEM No.");
+    itemNumber_ = NewLabel(row, Controls::itemNumber, "");
+    SetRole(*caption, TextRole::Hint);
+    SetRole(*itemNumber_, TextRole::Heading);
+    layout->addWidget(caption);
+    layout->addWidget(itemNumber_, 1);
+    return row;
+}
+
+void RoomEntryFrame::Arrange(Units shown) {
+    auto* grid = new QGridLayout(this);
+    SetSpacing(*grid, Metrics::Margin, Metrics::Margin);
+    grid->addWidget(NewSizeGroup(shown), 0, 0);
+    grid->addWidget(NewItemNumberRow(), 1, 0, Qt::AlignCenter);
+    grid->addWidget(NewItemGroup(), 0, 1, 2, 1);
+    grid->setColumnStretch(1, 1);
+    auto* row = new QHBoxLayout;
+    row->setSpacing(Pixels(Metrics::Spacing));
+    for (QPushButton* button : {next_, previous_, delete_, estimate_, report_}) {
+        button->ensurePolished();
+        button->setMinimumWidth(std::max(Pixels(Metrics::ButtonWidth), button->sizeHint().width()));
+        row->addWidget(button);
+    }
+    grid->addLayout(row, 2, 0, 1, 2);
+}
+
+void RoomEntryFrame::resizeEvent(QResizeEvent* event) {
+    QGroupBox::resizeEvent(event);
+    FitCaption();
+}
+
+void RoomEntryFrame::changeEvent(QEvent* event) {
+    QGroupBox::changeEvent(event);
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) {
+        FitCaption();
+    }
+}
+
+bool RoomEntryFrame::event(QEvent* event) {
+    if (event->type() == QEvent::ToolTip) {
+        QStyleOptionGroupBox option;
+        initStyleOption(&option);
+        const QRect caption =
+            style()->subControlRect(QStyle::CC_GroupBox, &option, QStyle::SC_GroupBoxLabel, this);
+        if (!caption.contains(static_cast<QHelpEvent*>(event)->pos())) {
+            QToolTip::hideText(); // also over a control without a tool tip of its own
+            return true;
+        }
+    }
+    return QGroupBox::event(event);
+}
+
+void RoomEntryFrame::FitCaption() {
+    const QString caption = accessibleName();
+    const int room = contentsRect().width() - 2 * Pixels(Metrics::Margin);
+    const QString fitting = fontMetrics().elidedText(caption, Qt::ElideRight, room);
+    SetPlainTitle(*this, fitting);
+    SetToolTip(*this, fitting == caption ? QString() : caption);
+}
+
+RoomDraft RoomEntryFrame::Draft() const {
+    const auto text = [this](std::size_t index) { return FromQt(texts_.at(index)->text()); };
+    RoomDraft draft{{text(WidthMajor), text(WidthMinor)},
+                    {text(LengthMajor), text(LengthMinor)},
+                    std::nullopt,
+                    text(Base),
+                    TextOf(*texts_[Number], shown_.Number),
+                    TextOf(*texts_[Remark], shown_.Remark)};
+    if (covering_->currentIndex() >= 0) {
+        draft.Covering = static_cast<Byte>(covering_->currentIndex());
+    }
+    return draft;
+}
+
+void RoomEntryFrame::Show(const RoomDraft& draft) {
+    shown_ = draft;
+    const std::array<const std::string*, SizeTexts> sizes{&draft.Width.Major, &draft.Width.Minor,
+                                                          &draft.Length.Major, &draft.Length.Minor};
+    for (int i = 0; i < SizeTexts; ++i) {
+        Text(i).Show(ToQt(*sizes.at(static_cast<std::size_t>(i))));
+    }
+    Text(Base).Show(ToQt(draft.Base));
+    Text(Number).Show(ToQt(draft.Number));
+    Text(Remark).Show(ToQt(draft.Remark));
+    covering_->setCurrentIndex(draft.Covering ? *draft.Covering : -1);
+}
+
+void RoomEntryFrame::ShowNewRoom() {
+    RoomDraft draft;
+    draft.Covering = static_cast<Byte>(std::max(covering_->currentIndex(), 0));
+    Show(draft);
+}
+
+void RoomEntryFrame::SetItemNumber(std::size_t number) {
+    SetText(*itemNumber_, TrimStr(static_cast<long long>(number)));
+}
+
+void RoomEntryFrame::ConnectFields() {
+    for (EntryField* text : texts_) {
+        text->installEventFilter(this);
+    }
+    covering_->installEventFilter(this);
+    for (int i = 0; i < SizeTexts; ++i) {
+        QLineEdit& field = Text(i);
+        connect(&field, &QLineEdit::textChanged, this, [this, &field] { TestSize(field); });
+    }
+    connect(&Text(Base), &QLineEdit::textChanged, this,
+            [this] { Guarded(boxes_, NotTested, [this] { TestTypedBase(); }); });
+}
+
+std::optional<int> RoomEntryFrame::IndexOf(const QObject* object) const {
+    const auto* const found = std::find(texts_.begin(), texts_.end(), object);
+    return found == texts_.end() ? std::nullopt
+                                 : std::optional<int>(static_cast<int>(found - texts_.begin()));
+}
+
+bool RoomEntryFrame::eventFilter(QObject* watched, QEvent* event) {
+    const auto text = IndexOf(watched);
+    if (!text && watched != covering_) {
+        return QGroupBox::eventFilter(watched, event);
+    }
+    if (IsEnter(*event)) {
+        Guarded(boxes_, NotTested, [&] { EnterFrom(*watched); });
+        return true;
+    }
+    if (event->type() == QEvent::FocusOut && text && *text < SizeTexts) {
+        TestSize(Text(*text));
+    }
+    if (event->type() == QEvent::Wheel && watched == covering_ && !covering_->hasFocus()) {
+        event->ignore(); // a turn of the wheel in passing must not change the covering
+        return true;
+    }
+    return false;
+}
+
+void RoomEntryFrame::EnterFrom(const QObject& field) {
+    const auto text = IndexOf(&field);
+    if (!text) {
+        Text(Base).setFocus();
+    } else if (*text == LengthMinor) {
+        covering_->setFocus();
+    } else if (*text == Remark) {
+        next_->setFocus();
+    } else {
+        Text(*text + 1).setFocus();
+    }
+    if (text && *text == Base) {
+        TestEnteredBase();
+    }
+}
+
+void RoomEntryFrame::TestSize(QLineEdit& field) {
+    Guarded(boxes_, NotTested, [&field] {
+        if (IsEmptiedSizeText(FromQt(field.text()), field.hasFocus())) {
+            field.clear();
+        }
+    });
+}
+
+void RoomEntryFrame::TestTypedBase() {
+    EntryField& field = Text(Base);
+    if (IsBaseText(FromQt(field.text()))) {
+        return;
+    }
+    boxes_.Message(BaseMessage(TypedBaseExample));
+    field.setFocus();
+    field.ReplaceLastChange(WithoutLast(field.text())); // a change, and so tested again
+}
+
+void RoomEntryFrame::TestEnteredBase() {
+    EntryField& field = Text(Base);
+    const std::string text = FromQt(field.text());
+    if (IsBaseText(text)) {
+        field.Replace(ToQt(UpperCaseLetters(text)));
+    } else {
+        boxes_.Message(BaseMessage(EnteredBaseExample));
+        field.setFocus();
+    }
+}
+
+} // namespace tarn

@@ -1,0 +1,94 @@
+#pragma once
+
+#include "base/Units.h"
+#include "project/RoomDraft.h"
+#include "project/RoomEntry.h"
+#include "screens/Dialogs.h"
+#include "screens/rooms/EntryField.h"
+
+#include <QGroupBox>
+
+#include <array>
+#include <cstddef>
+#include <optional>
+#include <string>
+
+class QComboBox;
+class QGridLayout;
+class QLabel;
+class QPushButton;
+
+namespace tarn {
+
+/// The fields of one room and the buttons of the room entry. It shows and gives what stands in the
+/// fields, takes Enter from field to field, empties a size field that holds no size, and has a
+/// wrong wall base corrected; what the buttons do is the screen's.
+class RoomEntryFrame : public QGroupBox {
+  public:
+    /// The fields that take a text; the covering is chosen between LengthMinor and Base.
+    enum TextIndex { WidthMajor, WidthMinor, LengthMajor, LengthMinor, Base, Number, Remark };
+    static constexpr int SizeTexts = 4;
+    static constexpr int Texts = 7;
+
+    /// `project` is part of the caption; the sizes are named as `shown` has them. `boxes` tell what
+    /// is wrong with a wall base, and must outlive the frame.
+    RoomEntryFrame(const std::string& project, Units shown, Dialogs& boxes);
+
+    EntryField& Text(int index) { return *texts_.at(static_cast<std::size_t>(index)); }
+    QComboBox& Covering() { return *covering_; }
+    QPushButton& Next() { return *next_; }
+    QPushButton& Previous() { return *previous_; }
+    QPushButton& Delete() { return *delete_; }
+    QPushButton& Estimate() { return *estimate_; }
+    QPushButton& Report() { return *report_; }
+
+    RoomDraft Draft() const;
+    /// Show a room. A text that a field would not take is shown as it is and may be kept.
+    void Show(const RoomDraft& draft);
+    /// Empty the texts for a new room. The covering stays; where none is chosen, the first one is.
+    void ShowNewRoom();
+    void SetItemNumber(std::size_t number);
+
+    /// A long project name asks for no room of its own: the caption is shortened where it does not
+    /// fit, and then shown whole as the caption's tool tip.
+    QSize sizeHint() const override { return QWidget::sizeHint(); }
+    // NOLINTNEXTLINE(bugprone-parent-virtual-call): a group box asks for room for its caption
+    QSize minimumSizeHint() const override { return QWidget::minimumSizeHint(); }
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+  protected:
+    void resizeEvent(QResizeEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    bool event(QEvent* event) override;
+
+  private:
+    void MakeFields();
+    void MakeButtons();
+    QGroupBox* NewSizeGroup(Units shown);
+    QGroupBox* NewItemGroup();
+    QWidget* NewItemNumberRow();
+    void Arrange(Units shown);
+    void FitCaption();
+
+    void ConnectFields();
+    /// Which text this is; nothing for any other object.
+    std::optional<int> IndexOf(const QObject* object) const;
+    void EnterFrom(const QObject& field);
+    void TestSize(QLineEdit& field);
+    void TestTypedBase();
+    void TestEnteredBase();
+
+    Dialogs& boxes_;
+    std::array<EntryField*, Texts> texts_{};
+    QComboBox* covering_ = nullptr;
+    QPushButton* next_ = nullptr;
+    QPushButton* previous_ = nullptr;
+    QPushButton* delete_ = nullptr;
+    QPushButton* estimate_ = nullptr;
+    QPushButton* report_ = nullptr;
+    QLabel* itemNumber_ = nullptr;
+    RoomDraft shown_; ///< as it was shown last
+};
+
+} // namespace tarn

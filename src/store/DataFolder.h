@@ -1,0 +1,38 @@
+// The way from the configuration file to the open database.
+
+#pragma once
+
+#include "store/ProjectStore.h"
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace tarn {
+
+/// Shown when there is no configuration file, or the one found first is empty; the program then
+/// ends.
+inline constexpr std::string_view ConfigurationMissingMessage = "Couldn't find TarnWin.ini";
+
+/// The database file below the data folder, with a backslash as its path is kept as text.
+inline constexpr std::string_view DatabaseFileInDataFolder = "DATA\\Tarn.mdb";
+
+/// Where the program keeps its data, as the configuration says.
+struct DataFolder {
+    std::string Path;                    ///< without a separator at its end; empty for none named
+    std::string DatabaseName;            ///< the database file, with backslashes as text
+    std::filesystem::path Configuration; ///< the file that names the folder
+};
+
+/// The data folder that the first configuration file names; nothing when there is no such file or
+/// the one found first is empty.
+std::optional<DataFolder>
+FindDataFolder(const std::vector<std::filesystem::path>& configurationDirectories);
+
+/// Open the folder's database for reading and writing. Raises no DatabaseError: a store that could
+/// not be opened says why when it is used. To try again is to call this again.
+ProjectStore OpenStore(const DataFolder& folder);
+
+} // namespace tarn

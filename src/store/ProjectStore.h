@@ -1,0 +1,107 @@
+#pragma once
+
+#include "base/Units.h"
+#include "project/Project.h"
+#include "store/DatabaseAccess.h"
+#include "store/DatabaseError.h"
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+namespace tarn {
+
+/// A project as it was found in the database.
+struct LoadedProject {
+    Project Value; ///< with its directory where it has one
+    /// Rows that are missing, surplus or odd: one line for each kind, with the rooms counted
+    /// from 1.
+    std::vector<std::string> Findings;
+};
+
+/// The directories and projects of one database file. Whole values go in and come out, each change
+/// in one transaction: done whole, or not at all. Everything is read afresh, so that what other
+/// programs stored is seen; no lock stays behind.
+///
+/// HasDirectory, Projects and DirectoryOf take a name as a user may write it: it is compared in
+/// full upper case and without the blanks at both ends (StoredName). What is added, and the new
+/// name of a renaming, is stored so. The other functions find a name as these gave it, or as
+/// StoredName makes it. A name with a double quote can be found in a list, but not be used:
+/// neither renamed, deleted, loaded nor saved.
+///
+/// Every function raises DatabaseError when the database fails or refuses, with nothing changed.
+class ProjectStore {
+  public:
+    /// A store without a database: every function raises DatabaseError with `reason`.
+    explicit ProjectStore(std::string reason = "No database is open.");
+    /// Open an existing file, which is never made or written over. `path` may hold any character.
+    /// Raises DatabaseError, naming the file, the cause and what to do, for a file that is missing,
+    /// a folder, empty, of the older Jet format, no database, damaged, locked by another program
+    /// for longer than `busyWait`, or, for ReadWrite, read-only.
+    explicit ProjectStore(const std::string& path, DatabaseAccess access,
+                          int busyWait = DefaultBusyWait);
+    ~ProjectStore();
+    ProjectStore(ProjectStore&&) noexcept;
+    ProjectStore& operator=(ProjectStore&&) noexcept;
+
+    bool IsOpen() const;
+
+    // --- directories; the months have no row ---
+
+    /// The names by name.
+    std::vector<std::string> Directories();
+    bool HasDirectory(std::string_view name);
+    /// Add a directory. Whether the name is taken is the caller's to check. Raises DatabaseError
+    /// for a name that is empty or longer than MaxNameLength.
+    void AddDirectory(std::string_view name);
+    /// Rename a directory and move its projects with it.
+    void RenameDirectory(const std::string& oldName, const std::string& newName);
+    /// Delete a directory, its projects and all their data. Raises and spares as DeleteProject.
+    void DeleteDirectory(const std::string& name);
+
+    // --- projects ---
+
+    /// The names of the projects in a directory (or month), in the order of the rows.
+    std::vector<std::string> Projects(std::string_view directory);
+    /// Directory and name of every project, as stored, in the order of the rows.
+    std::vector<std::pair<std::string, std::string>> AllProjects();
+    /// The directory of a project; nothing when there is no such project.
+    std::optional<std::string> DirectoryOf(std::string_view project);
+    /// Add a project without a sheet. As AddDirectory, for either name; raises DatabaseError also
+    /// for a project name with a character of ForbiddenInProjectName or a control character.
+    void AddProject(std::string_view directory, std::string_view project);
+    /// Rename a project and its sheet.
+    void RenameProject(const std::string& oldName, const std::string& newName);
+    /// Delete a project and all its data. Where it shares its sheet number with another project,
+    /// the rooms stay: they do not tell whose they are. Raises DatabaseError for a sheet without a
+    /// number, and "Overflow" for one past 32767 and when a number is needed and none is left.
+    void DeleteProject(const std::string& name);
+
+    /// The project of that name with its rooms, all as it stands at one moment. One that was never
+    /// saved comes back IsNew, without rooms, with a free sheet number. Raises DatabaseError when
+    /// it has a sheet but cannot be loaded whole, and "Overflow" for a number that does not fit and
+    /// when no number is free.
+    LoadedProject Load(std::string_view project);
+    /// The number of the project's sheet; nothing when it has none. Raises as Load.
+    std::optional<Integer> SheetOf(std::string_view project);
+    /// Store the project, its sheet and its rooms; `shown` are the units in force. Gives back the
+    /// project as it is stored. A project that has a sheet keeps its number, a new one takes
+    /// Project::Sheet; where that is another project's number by now, that project is left alone
+    /// and the next free number is taken. Rooms in metric units stay so marked until the project is
+    /// saved without rooms. Raises "Overflow" past sheet 32767 and "Subscript out of range" for
+    /// more than RoomCapacity rooms.
+    Project Save(const Project& project, Units shown);
+
+    /// Run `changes` as one transaction: when it raises, nothing of it is stored.
+    void InOneTransaction(const std::function<void()>& changes);
+
+  private:
+    class Impl;
+    std::unique_ptr<Impl> impl_;
+};
+
+} // namespace tarn

@@ -1,0 +1,195 @@
+#include "store/RoomRows.h"
+
+#include "base/Numbers.h"
+#include "base/RunTimeError.h"
+#include "base/Text.h"
+#include "project/Coverings.h"
+#include "project/WallBase.h"
+#include "store/Schema.h"
+#include "store/Tables.h"
+
+#include <cmath>
+#include <set>
+
+namespace tarn {
+
+namespace {
+
+std::optional<std::size_t> SlotOf(Double objNum) {
+    constexpr Double LargestInteger = 32767;
+    if (std::abs(objNum) > LargestInteger) {
+        return std::nullopt;
+    }
+    const auto slot = static_cast<std::size_t>(CInt(objNum)); // a negative one is beyond all
+    return slot < RoomCapacity ? std::optional(slot) : std::nullopt;
+}
+
+RoomRow ReadRoomRow(const StoredRow& stored) {
+    const auto has = [&stored](const char* field) { return stored.NumberIn(field).has_value(); };
+    RoomRow row;
+    row.HasNumber = has("ObjNum");
+    row.HasSize = has("RoomW") && has("RoomL");
+    row.HasCovering = has("CTType");
+    row.HasBase = has("BaseSty");
+    row.Slot = SlotOf(stored.NumberIn("ObjNum").value_or(0));
+    row.ObjNumText = stored.TextIn("ObjNum");
+    row.Content.Width = stored.IntegerIn("RoomW");
+    row.Content.Length = stored.IntegerIn("RoomL");
+    row.Content.Covering = stored.ByteIn("CTType");
+    row.Content.Base = stored.ByteIn("BaseSty");
+    row.Content.Number = stored.TextIn("RoomNoStr");
+    row.Content.Remark = stored.TextIn("RoomRemark");
+    return row;
+}
+
+/// Rooms by their slots, in ascending order.
+using Slots = std::set<std::size_t>;
+
+/// "room 2", "rooms 2, 3", "rooms 2, 4 to 6": counted from 1.
+std::string RoomList(const Slots& slots) {
+    std::string list = slots.size() == 1 ? "room " : "rooms ";
+    for (auto slot = slots.begin(); slot != slots.end();) {
+        const std::size_t first = *slot;
+        std::size_t last = first;
+        while (++slot != slots.end() && *slot == last + 1) {
+            last = *slot;
+        }
+        list += (first == *slots.begin() ? "" : ", ") + std::to_string(first + 1);
+        if (last > first) {
+            list += (last == first + 1 ? ", " : " to ") + std::to_string(last + 1);
+        }
+    }
+    return list;
+}
+
+/// "the project A", "the projects A, B".
+std::string ProjectList(const std::vector<std::string>& projects) {
+    std::string list;
+    for (const std::string& project : projects) {
+        list += (list.empty() ? "" : ", ") + project;
+    }
+    return (projects.size() == 1 ? "the project " : "the projects ") + list;
+}
+
+/// The slots of the rows for which `holds` is true.
+template <typename Condition>
+Slots SlotsWhere(const std::vector<RoomRow>& rows, Condition holds) {
+    Slots slots;
+    for (const RoomRow& row : rows) {
+        if (row.Slot && holds(row)) {
+            slots.insert(*row.Slot);
+        }
+    }
+    return slots;
+}
+
+Slots MissingSlots(const std::vector<RoomRow>& rows, std::size_t count) {
+    Slots missing;
+    for (std::size_t slot = 0; slot < count; ++slot) {
+        missing.insert(slot);
+    }
+    for (const RoomRow& row : rows) {
+        if (row.Slot) {
+            missing.erase(*row.Slot);
+        }
+    }
+    return missing;
+}
+
+Slots RepeatedSlots(const std::vector<RoomRow>& rows) {
+    Slots seen;
+    return SlotsWhere(rows, [&seen](const RoomRow& row) { return !seen.insert(*row.Slot).second; });
+}
+
+std::string NumbersOutside(const std::vector<RoomRow>& rows) {
+    std::string numbers;
+    for (const RoomRow& row : rows) {
+        if (!row.Slot) {
+            numbers += (numbers.empty() ? "" : ", ") + row.ObjNumText;
+        }
+    }
+    return numbers;
+}
+
+} // namespace
+
+std::vector<RoomRow> ReadRoomRows(Connection& connection, Integer sheet) {
+    std::vector<RoomRow> rows;
+    for (const StoredRow& stored :
+         Table(connection, InputData).RowsWhere("TabIndex", sheet, "ObjNum")) {
+        try {
+            rows.push_back(ReadRoomRow(stored));
+        } catch (const RunTimeError& error) {
+            throw error.WithAdvice("A number stored in the room row with ObjNum " +
+                                   stored.TextIn("ObjNum") + " is too large.");
+        }
+    }
+    return rows;
+}
+
+std::vector<Room> RoomsOf(const std::vector<RoomRow>& rows, std::size_t count) {
+    std::vector<Room> rooms(count);
+    for (const RoomRow& row : rows) {
+        if (row.Slot && *row.Slot < count) {
+            rooms[*row.Slot] = row.Content;
+        }
+    }
+    return rooms;
+}
+
+void StoreRoomRows(Connection& connection, Integer sheet, const std::vector<Room>& rooms) {
+    Table table(connection, InputData);
+    table.DeleteWhere("TabIndex", sheet);
+    int number = 0;
+    for (const Room& room : rooms) {
+        table.Add({{"ObjNum", number++},
+                   {"RoomW", room.Width},
+                   {"RoomL", room.Length},
+                   {"RoomNoStr", TextValue(room.Number)},
+                   {"RoomRemark", TextValue(room.Remark)},
+                   {"CTType", room.Covering},
+                   {"BaseSty", room.Base},
+                   {"TabIndex", sheet}});
+    }
+}
+
+std::vector<std::string> RoomFindings(const std::vector<RoomRow>& rows, std::size_t count,
+                                      const std::vector<std::string>& sharing) {
+    std::vector<std::string> lines;
+    const auto add = [&lines](const std::string& kind, const Slots& slots) {
+        if (!slots.empty()) {
+            lines.push_back(kind + ": " + RoomList(slots) + ".");
+        }
+    };
+    const auto addWhere = [&](const std::string& kind, auto holds) {
+        add(kind, SlotsWhere(rows, holds));
+    };
+
+    if (!sharing.empty()) {
+        addWhere("Stored under one number with " + ProjectList(sharing) +
+                     ", whose rooms they may be",
+                 [](const RoomRow&) { return true; });
+    }
+    add("Missing, read as empty", MissingSlots(rows, count));
+    addWhere("Beyond the end of the project, dropped by SAVE",
+             [count](const RoomRow& row) { return *row.Slot >= count; });
+    add("Stored more than once, the last row is used", RepeatedSlots(rows));
+    if (const std::string numbers = NumbersOutside(rows); !numbers.empty()) {
+        lines.push_back("Outside rooms 1 to " + std::to_string(RoomCapacity) +
+                        ", left out and dropped by SAVE: ObjNum " + numbers + ".");
+    }
+    addWhere("Without a room number, read as", [](const RoomRow& row) { return !row.HasNumber; });
+    addWhere("Without a width or a length, read as 0",
+             [](const RoomRow& row) { return !row.HasSize; });
+    addWhere("Without a covering, read as " + CoveringCaption(0),
+             [](const RoomRow& row) { return !row.HasCovering; });
+    addWhere("With an unknown covering, not estimated until one is chosen",
+             [](const RoomRow& row) { return row.Content.Covering > LastTileCode; });
+    addWhere("Without a wall base, read as none", [](const RoomRow& row) { return !row.HasBase; });
+    addWhere("With an unknown wall base, shown as none", [](const RoomRow& row) {
+        return row.Content.Base != 0 && BaseText(row.Content.Base).empty();
+    });
+    return lines;
+}
+
+} // namespace tarn

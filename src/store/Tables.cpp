@@ -1,0 +1,186 @@
+#include "store/Tables.h"
+
+#include "base/Numbers.h"
+#include "base/Text.h"
+#include "store/DatabaseError.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+
+namespace tarn {
+
+namespace {
+
+std::string DecimalText(Double value) {
+    std::array<char, 32> buffer{}; // the shortest exact text of a Double has at most 24 characters
+    const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value).ptr;
+    return std::string(buffer.data(), end);
+}
+
+bool IsWhole(const QVariant& value) {
+    return value.typeId() == QMetaType::Int || value.typeId() == QMetaType::LongLong;
+}
+
+bool IsReal(const QVariant& value) {
+    return value.typeId() == QMetaType::Double;
+}
+
+/// The number that `value` of `field` is; nothing for a null.
+std::optional<Double> NumberOf(const QVariant& value, std::string_view field) {
+    if (value.isNull()) {
+        return std::nullopt;
+    }
+    if (!IsWhole(value) && !IsReal(value)) {
+        throw DatabaseError("The field " + std::string(field) +
+                            " should hold a number and holds \"" + value.toString().toStdString() +
+                            "\".");
+    }
+    return IsWhole(value) ? static_cast<Double>(value.toLongLong()) : value.toDouble();
+}
+
+/// Where the field stands among `fields`; their number when it is none of them.
+std::size_t PlaceOf(std::string_view field, const std::vector<std::string>& fields) {
+    const auto found = std::find_if(fields.begin(), fields.end(), [field](const std::string& each) {
+        return EqualsIgnoringCase(each, field);
+    });
+    return static_cast<std::size_t>(found - fields.begin());
+}
+
+std::size_t RequirePlace(std::string_view field, const std::vector<std::string>& fields,
+                         const std::string& table) {
+    const std::size_t place = PlaceOf(field, fields);
+    if (place == fields.size()) {
+        throw DatabaseError(table + " has no field " + std::string(field) + ".");
+    }
+    return place;
+}
+
+} // namespace
+
+StoredRow::StoredRow(std::shared_ptr<const Source> source, QVariant rowNumber, QVariantList values)
+    : source_(std::move(source))
+    , rowNumber_(std::move(rowNumber))
+    , values_(std::move(values)) {}
+
+bool StoredRow::HasField(std::string_view field) const {
+    return PlaceOf(field, source_->Fields) < source_->Fields.size();
+}
+
+const QVariant& StoredRow::ValueIn(std::string_view field) const {
+    return values_.at(static_cast<qsizetype>(RequirePlace(field, source_->Fields, source_->Table)));
+}
+
+std::optional<Double> StoredRow::NumberIn(std::string_view field) const {
+    return NumberOf(ValueIn(field), field);
+}
+
+Integer StoredRow::IntegerIn(std::string_view field) const {
+    return CInt(NumberIn(field).value_or(0));
+}
+
+Byte StoredRow::ByteIn(std::string_view field) const {
+    return ToByte(CLng(NumberIn(field).value_or(0)));
+}
+
+std::string StoredRow::TextIn(std::string_view field) const {
+    const QVariant& value = ValueIn(field);
+    if (value.isNull()) {
+        return {};
+    }
+    return IsReal(value) ? DecimalText(value.toDouble()) : value.toString().toStdString();
+}
+
+Table::Table(Connection& connection, std::string_view name)
+    : connection_(connection)
+    , name_(name) {}
+
+void Table::LearnOfChanges() {
+    connection_.Run("SELECT 1 FROM " + name_ + " LIMIT 0", Failing(" cannot be read"));
+}
+
+const std::vector<std::string>& Table::Fields() {
+    if (fields_.empty()) {
+        LearnOfChanges();
+        fields_ = connection_.Run("SELECT * FROM " + name_ + " LIMIT 0", Failing(" cannot be read"))
+                      .Fields;
+    }
+    return fields_;
+}
+
+bool Table::HasField(std::string_view field) {
+    return PlaceOf(field, Fields()) < Fields().size();
+}
+
+std::vector<StoredRow> Table::Rows(std::string_view order) {
+    return Read({}, {}, order);
+}
+
+std::vector<StoredRow> Table::RowsWhere(std::string_view field, const QVariant& value,
+                                        std::string_view order) {
+    return Read(" WHERE " + std::string(field) + " = ?", {value}, order);
+}
+
+std::vector<StoredRow> Table::Read(const std::string& condition, const QVariantList& values,
+                                   std::string_view order) {
+    LearnOfChanges();
+    const std::string rowNumber = name_ + ".rowid";
+    Result result =
+        connection_.Run("SELECT " + rowNumber + ", * FROM " + name_ + condition + " ORDER BY " +
+                            (order.empty() ? std::string() : std::string(order) + ", ") + rowNumber,
+                        Failing(" cannot be read"), values);
+
+    result.Fields.erase(result.Fields.begin()); // the row number is no field of the table
+    fields_ = result.Fields;
+    const auto source =
+        std::make_shared<const StoredRow::Source>(StoredRow::Source{name_, result.Fields});
+    std::vector<StoredRow> rows;
+    rows.reserve(result.Rows.size());
+    for (QVariantList& stored : result.Rows) {
+        QVariant number = stored.takeFirst();
+        rows.emplace_back(source, std::move(number), std::move(stored));
+    }
+    return rows;
+}
+
+std::optional<Double> Table::Greatest(std::string_view field) {
+    const std::string greatest = "Max(" + std::string(field) + ")";
+    const Result result =
+        connection_.Run("SELECT " + greatest + " FROM " + name_, Failing(" cannot be read"));
+    return NumberOf(result.Rows.at(0).at(0), greatest);
+}
+
+void Table::Add(const Values& values) {
+    std::string names;
+    std::string marks;
+    QVariantList bound;
+    for (const auto& [field, value] : values) {
+        RequirePlace(field, Fields(), name_);
+        names += (names.empty() ? "" : ", ") + std::string(field);
+        marks += marks.empty() ? "?" : ", ?";
+        bound.push_back(value);
+    }
+    connection_.Run("INSERT INTO " + name_ + " (" + names + ") VALUES (" + marks + ")",
+                    Failing(" takes no new row"), bound);
+}
+
+void Table::Change(const StoredRow& row, std::string_view field, const QVariant& value) {
+    RunOnRow("UPDATE " + name_ + " SET " + std::string(field) + " = ? WHERE rowid = ?",
+             Failing(" cannot be changed"), {value, row.rowNumber_});
+}
+
+void Table::DeleteWhere(std::string_view field, const QVariant& value) {
+    for (const StoredRow& row : RowsWhere(field, value)) {
+        RunOnRow("DELETE FROM " + name_ + " WHERE rowid = ?", Failing(" cannot be deleted from"),
+                 {row.rowNumber_});
+    }
+}
+
+void Table::RunOnRow(const std::string& statement, const std::string& failing,
+                     const QVariantList& values) {
+    if (connection_.Run(statement, failing, values).Affected != 1) {
+        throw DatabaseError(failing + ": the database keeps a row as it was.");
+    }
+}
+
+} // namespace tarn

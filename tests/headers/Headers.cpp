@@ -1,0 +1,1 @@
+// There to have the headers beside it compiled.

@@ -1,0 +1,35 @@
+#pragma once
+
+// What the tests of the improving search on searched jobs share.
+
+#include "engine/EngineTesting.h"
+#include "improve/ImproveFills.h"
+
+namespace tarn::testing {
+
+inline ImproveLimits Limits(std::int64_t steps) {
+    return {0, steps, 1};
+}
+
+/// The rules of a divided piece of at least 6 inches.
+inline constexpr ImproveRules SixInches{Units::Imperial, 6};
+
+inline ImproveResult Improved(const SearchJob& job, const SearchResult& start,
+                              const ImproveRules& rules = SixInches, std::int64_t steps = 500) {
+    ImproveObserver nobody;
+    return ImproveFills(job, start, rules, Limits(steps), nobody);
+}
+
+/// The layout of one fill of that length, which begins `begin` inches behind the roll's start.
+struct OneFill {
+    SearchJob Job;
+    SearchResult Result;
+
+    OneFill(double length, Single begin)
+        : Job(Divisible(MakeJob(144, {{100, length}}), 2))
+        , Result(Searched(Job)) {
+        Result.Layout.at(0).Y = begin;
+    }
+};
+
+} // namespace tarn::testing

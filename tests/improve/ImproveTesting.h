@@ -1,0 +1,195 @@
+#pragma once
+
+#include "engine/EngineTesting.h"
+#include "improve/ImproveJob.h"
+#include "improve/ImproveLayout.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <random>
+#include <string>
+#include <vector>
+
+namespace tarn::testing {
+
+/// A whole number `least` .. `most`.
+inline Long Between(std::mt19937& random, Long least, Long most) {
+    return least + Below(random, most - least + 1);
+}
+
+/// Up to `most` fills on a roll of `width`, each laid in up to `parts` parts.
+inline ImproveJob RandomFills(std::mt19937& random, Long most, Long width, Long parts,
+                              Long longest = 30) {
+    ImproveJob job;
+    job.Width = width;
+    job.MinPart = Between(random, 1, 4);
+    for (Long count = Between(random, 1, most); count > 0; --count) {
+        job.Fills.push_back(
+            {Between(random, 1, width), Between(random, 1, longest), Between(random, 1, parts)});
+    }
+    return job;
+}
+
+/// A job that LeastLength solves at once.
+inline ImproveJob SmallFills(std::mt19937& random, Long parts) {
+    return parts == 1 ? RandomFills(random, 4, 5, 1, 6)
+                      : RandomFills(random, 3, 4, std::min(parts, 3), 5);
+}
+
+inline std::string Describe(const ImproveJob& job) {
+    std::string text =
+        "roll " + std::to_string(job.Width) + ", parts from " + std::to_string(job.MinPart) + ":";
+    for (const ImproveFill& fill : job.Fills) {
+        text += " " + std::to_string(fill.Width) + "x" + std::to_string(fill.Length) + "/" +
+                std::to_string(fill.Parts);
+    }
+    return text;
+}
+
+/// What is wrong with a layout; empty when it is whole, within the roll, free of overlaps, and as
+/// the job allows. Written from the job's rules alone.
+inline std::string FaultOf(const ImproveJob& job, const std::vector<ImprovePart>& parts) {
+    std::vector<Long> laid(job.Fills.size(), 0);
+    std::vector<Long> count(job.Fills.size(), 0);
+    for (std::size_t i = 0; i < parts.size(); ++i) {
+        const ImprovePart& a = parts[i];
+        const Long widthA = job.Fills.at(a.Fill).Width;
+        if (a.X < 0 || a.Y < 0 || a.X + widthA > job.Width || a.Length < 1) {
+            return "part " + std::to_string(i) + " is not on the roll";
+        }
+        laid[a.Fill] += a.Length;
+        ++count[a.Fill];
+        for (std::size_t j = 0; j < i; ++j) {
+            const ImprovePart& b = parts[j];
+            const Long widthB = job.Fills.at(b.Fill).Width;
+            if (a.X < b.X + widthB && b.X < a.X + widthA && a.Y < b.Y + b.Length &&
+                b.Y < a.Y + a.Length) {
+                return "parts " + std::to_string(j) + " and " + std::to_string(i) + " overlap";
+            }
+        }
+    }
+    for (std::size_t fill = 0; fill < job.Fills.size(); ++fill) {
+        if (laid[fill] != job.Fills[fill].Length) {
+            return "fill " + std::to_string(fill) + " is not laid whole";
+        }
+        if (count[fill] > job.Fills[fill].Parts) {
+            return "fill " + std::to_string(fill) + " has too many parts";
+        }
+    }
+    for (const ImprovePart& part : parts) {
+        if (count[part.Fill] > 1 && part.Length < job.MinPart) {
+            return "a part of fill " + std::to_string(part.Fill) + " is too short";
+        }
+    }
+    return "";
+}
+
+/// The least length of a small job, found by trying everything: cell by cell, from the start of the
+/// roll and from left to right, each free cell stays free or takes the corner of a part.
+class LeastLength {
+  public:
+    static Long Of(const ImproveJob& job) {
+        for (Long length = 1;; ++length) {
+            LeastLength attempt(job, length);
+            if (attempt.Free() >= 0 && attempt.Fill(0)) {
+                return length;
+            }
+        }
+    }
+
+  private:
+    LeastLength(const ImproveJob& job, Long length)
+        : job_(job)
+        , length_(static_cast<std::size_t>(length))
+        , taken_(static_cast<std::size_t>(job.Width * length), false)
+        , rest_(job.Fills.size())
+        , parts_(job.Fills.size(), 0) {
+        free_ = static_cast<Area64>(job.Width) * length - TotalArea(job);
+        for (std::size_t i = 0; i < job.Fills.size(); ++i) {
+            rest_[i] = job.Fills[i].Length;
+        }
+    }
+    Area64 Free() const { return free_; }
+
+    bool Fill(std::size_t cell) {
+        while (cell < taken_.size() && taken_[cell]) {
+            ++cell;
+        }
+        if (std::all_of(rest_.begin(), rest_.end(), [](Long rest) { return rest == 0; })) {
+            return true;
+        }
+        if (cell == taken_.size()) {
+            return false;
+        }
+        for (std::size_t fill = 0; fill < rest_.size(); ++fill) {
+            if (rest_[fill] > 0 && FillWith(cell, fill)) {
+                return true;
+            }
+        }
+        if (free_ == 0) {
+            return false;
+        }
+        --free_;
+        taken_[cell] = true;
+        const bool found = Fill(cell + 1);
+        taken_[cell] = false;
+        ++free_;
+        return found;
+    }
+
+    /// Try every part of a fill with its corner at a cell.
+    bool FillWith(std::size_t cell, std::size_t fill) {
+        for (Long length = rest_[fill]; length >= 1; --length) {
+            const bool last = length == rest_[fill];
+            const bool divided = !last || parts_[fill] > 0;
+            if ((divided && length < job_.MinPart) ||
+                parts_[fill] + (last ? 1 : 2) > job_.Fills[fill].Parts) {
+                continue;
+            }
+            if (Mark(cell, fill, length, false, true)) {
+                rest_[fill] -= length;
+                ++parts_[fill];
+                const bool found = Fill(cell);
+                --parts_[fill];
+                rest_[fill] += length;
+                Mark(cell, fill, length, true, false);
+                if (found) {
+                    return true;
+                }
+            }
+        }
+        return false;
+    }
+
+    /// Set the cells of a part, unless one of them is not `from`.
+    bool Mark(std::size_t cell, std::size_t fill, Long length, bool from, bool to) {
+        const auto width = static_cast<std::size_t>(job_.Width);
+        const auto across = static_cast<std::size_t>(job_.Fills[fill].Width);
+        const auto along = static_cast<std::size_t>(length);
+        if (cell % width + across > width || cell / width + along > length_) {
+            return false;
+        }
+        for (int pass = 0; pass < 2; ++pass) {
+            for (std::size_t y = 0; y < along; ++y) {
+                for (std::size_t x = 0; x < across; ++x) {
+                    const std::size_t at = cell + y * width + x;
+                    if (pass == 0 && taken_[at] != from) {
+                        return false;
+                    }
+                    taken_[at] = pass == 0 ? taken_[at] : to;
+                }
+            }
+        }
+        return true;
+    }
+
+    const ImproveJob& job_;
+    std::size_t length_;
+    std::vector<bool> taken_;
+    std::vector<Long> rest_;
+    std::vector<Long> parts_;
+    Area64 free_ = 0;
+};
+
+} // namespace tarn::testing

@@ -1,0 +1,166 @@
+#include "improve/ImproveTesting.h"
+#include "improve/PartPlan.h"
+#include "improve/WholePlan.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+namespace tarn {
+namespace {
+
+using testing::FaultOf;
+
+std::unique_ptr<Plan> PlanOf(const ImproveJob& job, bool divides) {
+    if (divides) {
+        return std::make_unique<PartPlan>(job);
+    }
+    return std::make_unique<WholePlan>(job);
+}
+
+/// Changes plans of random jobs; `look` is called after each change.
+template <typename Look>
+void ForChangedPlans(bool divides, Look look) {
+    for (unsigned seed = 1; seed <= 30; ++seed) {
+        SCOPED_TRACE(seed);
+        std::mt19937 random(seed);
+        const ImproveJob job = testing::RandomFills(random, 20, 12, divides ? 4 : 1);
+        SCOPED_TRACE(testing::Describe(job));
+        const std::unique_ptr<Plan> plan = PlanOf(job, divides);
+        RandomSteps steps(seed);
+        for (std::size_t order = 0; order < plan->Orders(); ++order) {
+            plan->Begin(order, PlacingRule::Number(order % PlacingRule::Count));
+            for (int step = 0; step < 15; ++step) {
+                look(job, *plan, steps);
+                plan->Change(steps, true);
+            }
+        }
+    }
+}
+
+class EveryPlan : public ::testing::TestWithParam<bool> {};
+INSTANTIATE_TEST_SUITE_P(WholeAndParts, EveryPlan, ::testing::Bool());
+
+TEST_P(EveryPlan, LaysEveryFillOutWhole) {
+    ForChangedPlans(GetParam(), [](const ImproveJob& job, Plan& plan, RandomSteps&) {
+        const Area64 length = plan.Length(LongestRoll);
+        const std::vector<ImprovePart> parts = plan.Layout();
+        EXPECT_EQ(FaultOf(job, parts), "");
+        EXPECT_EQ(MeritOf(job, parts).Length, length);
+    });
+}
+
+TEST_P(EveryPlan, TellsTheAreaThatStaysUnpackedBelowARoof) {
+    ForChangedPlans(GetParam(), [](const ImproveJob& job, Plan& plan, RandomSteps& steps) {
+        const Area64 least = TotalArea(job) / job.Width + 1;
+        const Long roof = static_cast<Long>(least + steps.Below(8));
+        const Area64 unpacked = plan.Unpacked(roof, NoLimit);
+        Area64 packed = 0;
+        for (const ImprovePart& part : plan.Layout()) {
+            EXPECT_LE(part.Y + part.Length, roof);
+            packed += static_cast<Area64>(job.Fills[part.Fill].Width) * part.Length;
+        }
+        EXPECT_EQ(packed + unpacked, TotalArea(job));
+        if (unpacked == 0) {
+            EXPECT_EQ(FaultOf(job, plan.Layout()), "");
+        }
+    });
+}
+
+TEST_P(EveryPlan, GivesUpOnlyAboveTheLimit) {
+    ForChangedPlans(GetParam(), [](const ImproveJob& job, Plan& plan, RandomSteps& steps) {
+        const Area64 length = plan.Length(LongestRoll);
+        const Area64 limit = length - 2 + steps.Below(5);
+        const Area64 limited = plan.Length(limit);
+        EXPECT_EQ(limited <= limit, length <= limit);
+        if (length <= limit) {
+            EXPECT_EQ(limited, length);
+        }
+        const Long roof = static_cast<Long>(TotalArea(job) / job.Width + 1 + steps.Below(8));
+        const Area64 unpacked = plan.Unpacked(roof, NoLimit);
+        const Area64 most = std::max<Area64>(0, unpacked - 2 + steps.Below(5));
+        const Area64 bounded = plan.Unpacked(roof, most);
+        EXPECT_EQ(bounded <= most, unpacked <= most);
+        if (unpacked <= most) {
+            EXPECT_EQ(bounded, unpacked);
+        }
+    });
+}
+
+TEST_P(EveryPlan, UndoneAndCopiedPlansGiveTheSame) {
+    ForChangedPlans(GetParam(), [](const ImproveJob&, Plan& plan, RandomSteps& steps) {
+        const Area64 before = plan.Length(LongestRoll);
+        const std::unique_ptr<Plan> copy = plan.Copy();
+        plan.Change(steps, true);
+        plan.Length(LongestRoll);
+        plan.Undo();
+        EXPECT_EQ(plan.Length(LongestRoll), before);
+        EXPECT_EQ(copy->Length(LongestRoll), before);
+        plan.Change(steps, true);
+        plan.TakeFrom(*copy);
+        EXPECT_EQ(plan.Length(LongestRoll), before);
+    });
+}
+
+TEST(WholePlan, ChangesNothingWhereAllFillsAreEqual) {
+    const ImproveJob job{12, 1, 1, 100, {{5, 7, 1}, {5, 7, 1}, {5, 7, 1}}};
+    WholePlan plan(job);
+    plan.Begin(0, {});
+    RandomSteps random(1);
+    for (int step = 0; step < 50; ++step) {
+        plan.Change(random, false);
+        EXPECT_EQ(plan.Length(LongestRoll), 14);
+    }
+}
+
+//   0     6     12
+// 0 +-----+-----+
+//   |  a  |  a  |     a fill of 6 x 20 in two parts
+// 10+-----+-----+
+TEST(PartPlan, BeginsWithEqualPartsToo) {
+    const ImproveJob job{12, 3, 1, 100, {{6, 20, 2}}};
+    PartPlan plan(job);
+    EXPECT_EQ(plan.Orders(), 10U);
+    plan.Begin(0, {});
+    EXPECT_EQ(plan.Length(LongestRoll), 20) << "undivided";
+    plan.Begin(5, {});
+    EXPECT_EQ(plan.Length(LongestRoll), 10);
+    EXPECT_EQ(plan.Layout().size(), 2U);
+}
+
+// The first part ends at the roof, the second lies beside it.
+TEST(PartPlan, CutsAtTheRoofWhereTheFillMayBeDivided) {
+    const ImproveJob job{12, 3, 1, 100, {{6, 20, 2}}};
+    PartPlan plan(job);
+    plan.Begin(0, {});
+    EXPECT_EQ(plan.Unpacked(16, NoLimit), 0);
+    EXPECT_EQ(plan.Layout().at(0).Length, 16);
+    EXPECT_EQ(plan.Layout().at(1).Length, 4);
+    EXPECT_GT(plan.Unpacked(18, NoLimit), 0) << "the rest of 2 is shorter than the minimum part";
+}
+
+TEST(PartPlan, CutsAtWholeSteps) {
+    const ImproveJob job{12, 3, 5, 100, {{6, 23, 3}, {6, 7, 1}}};
+    PartPlan plan(job);
+    RandomSteps random(3);
+    plan.Begin(0, {});
+    int divided = 0;
+    for (int step = 0; step < 2000; ++step) {
+        plan.Change(random, true);
+        if (plan.Unpacked(17, NoLimit) > 0) {
+            continue;
+        }
+        int broken = 0;
+        int parts = 0;
+        for (const ImprovePart& part : plan.Layout()) {
+            broken += part.Fill == 0 && part.Length % 5 != 0 ? 1 : 0;
+            parts += part.Fill == 0 ? 1 : 0;
+        }
+        EXPECT_EQ(broken, 1) << "23 is no whole number of steps: one part is not";
+        divided += parts > 1 ? 1 : 0;
+    }
+    EXPECT_GT(divided, 0);
+}
+
+} // namespace
+} // namespace tarn

@@ -1,0 +1,185 @@
+// The printing system behind the screens.
+
+#include "files/ShortDate.h"
+#include "paper/PdfTesting.h"
+#include "paper/PrintServer.h"
+#include "paper/SystemPrinter.h"
+#include "project/Report.h"
+#include "screens/ControlNames.h"
+#include "screens/estimate/EstimateScreenTesting.h"
+#include "screens/rooms/RoomScreen.h"
+
+#include <functional>
+#include <memory>
+#include <optional>
+
+namespace tarn {
+namespace {
+
+using namespace tarn::testing;
+
+/// How the printing system stands when it is of no use.
+struct Trouble {
+    const char* What;
+    std::optional<std::vector<QueueSetup>> Queues; ///< nothing: there is no server
+};
+
+std::vector<Trouble> Troubles() {
+    QueueSetup stopped;
+    stopped.Stopped = true;
+    return {{"no queue", std::vector<QueueSetup>{}},
+            {"a stopped queue", std::vector<QueueSetup>{stopped}},
+            {"no server", std::nullopt}};
+}
+
+/// Printing fails once with one message in every trouble, and works when the queue is back.
+void ExpectToldOnceAndPrintedLater(FakeBoxes& boxes, const std::function<void()>& press,
+                                   const std::function<void()>& expectUsable) {
+    for (const Trouble& trouble : Troubles()) {
+        SCOPED_TRACE(trouble.What);
+        boxes.Messages.clear();
+        std::optional<PrintServer> server;
+        if (trouble.Queues) {
+            server.emplace(*trouble.Queues);
+        } else {
+            UseServer(DeadAddress());
+        }
+        press();
+        EXPECT_EQ(boxes.Messages, std::vector<std::string>{PrinterNotReadyMessage});
+        expectUsable();
+        if (server) {
+            EXPECT_TRUE(server->JobStates().empty());
+        }
+    }
+    boxes.Messages.clear();
+    const PrintServer server({QueueSetup()});
+    press();
+    EXPECT_EQ(server.Printed(1).size(), 1U);
+    EXPECT_TRUE(boxes.Messages.empty());
+}
+
+/// The system's printer; notes whether waiting was shown whenever it was used.
+struct WatchedPrinter : Printer {
+    PageSize Page() override {
+        Waiting.push_back(ShowsWaiting());
+        return System.Page();
+    }
+    void PrintReport(const EnteredDataReport& report) override {
+        Waiting.push_back(ShowsWaiting());
+        System.PrintReport(report);
+    }
+    void PrintEstimate(const EstimatePage& page) override {
+        Waiting.push_back(ShowsWaiting());
+        System.PrintEstimate(page);
+    }
+
+    SystemPrinter System;
+    std::vector<bool> Waiting;
+};
+
+/// Waiting is shown at every use of the printer, without a server and then with one, and neither
+/// behind the message nor afterwards.
+void ExpectWaitingShown(const WatchedPrinter& printer, FakeBoxes& boxes, std::size_t uses,
+                        const std::function<void()>& press) {
+    boxes.OnMessage = [] { EXPECT_FALSE(ShowsWaiting()); };
+    UseServer(DeadAddress());
+    press();
+    EXPECT_EQ(boxes.Messages.size(), 1U);
+    const PrintServer server({QueueSetup()});
+    press();
+    EXPECT_EQ(boxes.Messages.size(), 1U);
+    EXPECT_EQ(printer.Waiting, std::vector<bool>(uses, true));
+    EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+}
+
+struct PrintedFromRooms : ScreenTest {
+    PrintedFromRooms() {
+        open.Now.Name = "MAPLE STREET 9";
+        open.Now.Rooms = {{150, 168, 1, 2, "N1", "hall"}, {200, 120, 0, 0, "N2", "kitchen"}};
+        open.Saved = open.Now;
+        form = std::make_unique<RoomScreen>(real);
+        ShowOnDisplay(*form);
+        Click(Find(*form, Controls::showReport));
+    }
+    void Print() { Click(Find(*form, Controls::printReport)); }
+    bool IsReportShown() { return Find(*form, Controls::reportPanel).isVisible(); }
+
+    WatchedPrinter system;
+    Session real{open, store, folder, page, boxes, system, screens, session.Today};
+    std::unique_ptr<RoomScreen> form;
+};
+
+TEST_F(PrintedFromRooms, TheReportArrivesAndIsClosed) {
+    const PrintServer server({QueueSetup()});
+    Print();
+    const PrintedJob job = server.Printed(1).at(0);
+    EXPECT_EQ(job.Title, "ENTERED DATA REPORT");
+    EXPECT_EQ(Pdf(job.Document).Text(),
+              Words(MakeReport(open.Now, open.Shown, ShortDate(2026, 3, 14)).Text()));
+    EXPECT_FALSE(IsReportShown());
+    EXPECT_TRUE(boxes.Messages.empty());
+}
+
+TEST_F(PrintedFromRooms, TheReportStaysOpenUntilThePrinterIsThere) {
+    ExpectToldOnceAndPrintedLater(
+        boxes, [this] { Print(); }, [this] { EXPECT_TRUE(IsReportShown()); });
+    EXPECT_FALSE(IsReportShown());
+}
+
+TEST_F(PrintedFromRooms, WaitingIsShownWhileThePrinterIsAsked) {
+    ExpectWaitingShown(system, boxes, 2, [this] { Print(); });
+}
+
+struct PrintedFromEstimate : EstimateScreenTest {
+    PrintedFromEstimate() {
+        Add({200, 120});
+        form = std::make_unique<EstimateScreen>(real, true);
+        ShowOnDisplay(*form);
+        PressOk();
+        Search();
+    }
+    void Print() { Click(Button(Controls::printEstimate)); }
+
+    WatchedPrinter system;
+    Session real{open, store, folder, page, boxes, system, screens, session.Today};
+};
+
+TEST_F(PrintedFromEstimate, TheEstimateArrives) {
+    const PrintServer server({QueueSetup()});
+    Print();
+    const PrintedJob job = server.Printed(1).at(0);
+    EXPECT_EQ(job.Title, "TARN RESULT  (PROJECT: MAPLE STREET 9)  " + ShortDate(2026, 3, 14));
+    const QString text = Pdf(job.Document).Text();
+    for (const std::string& written : Written()) {
+        EXPECT_TRUE(text.contains(Words(written))) << written;
+    }
+    EXPECT_TRUE(text.endsWith(QStringLiteral("DOWNLAY"))) << text.toStdString();
+    EXPECT_TRUE(boxes.Messages.empty());
+    EXPECT_EQ(page.Width, 16838);
+    EXPECT_EQ(page.Height, 11906);
+}
+
+TEST_F(PrintedFromEstimate, TheEstimateStaysUsableUntilThePrinterIsThere) {
+    for (const Integer known : {Integer{0}, Integer{1}}) {
+        SCOPED_TRACE(known != 0 ? "the page is known" : "the page is not known");
+        page = {static_cast<Integer>(known * 15840), static_cast<Integer>(known * 12240)};
+        const auto written = Written();
+        ExpectToldOnceAndPrintedLater(
+            boxes, [this] { Print(); },
+            [&] {
+                EXPECT_EQ(Written(), written);
+                Click(Button(Controls::redrawLayout));
+                Click(Button(Controls::pasteCuts));
+                QTest::mouseClick(&Paper(), Qt::LeftButton, {}, {50, 50});
+                EXPECT_EQ(Written(), written);
+            });
+        screens.Calls.clear();
+    }
+}
+
+TEST_F(PrintedFromEstimate, WaitingIsShownWhileThePrinterIsAsked) {
+    ExpectWaitingShown(system, boxes, 3, [this] { Print(); }); // Page twice, and the job
+}
+
+} // namespace
+} // namespace tarn
