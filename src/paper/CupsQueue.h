@@ -21,7 +21,6 @@ class CupsQueue {
     /// (see PrinterTrouble).
     explicit CupsQueue(CupsPatience patience = {});
 
-    const std::string& Name() const { return name_; }
     /// The paper that the queue takes when nothing else is asked for, with its margins, landscape;
     /// A4 when the queue does not tell.
     const Paper& DefaultPaper() const { return media_.Sheet; }

@@ -7,7 +7,7 @@
 namespace tarn {
 
 /// The commands of tarn-data. Each prints what it did on standard output and raises Refusal,
-/// DatabaseError or RunTimeError when it cannot.
+/// DatabaseError, RunTimeError or OutputFileError when it cannot.
 
 /// Make FOLDER/DATA/Tarn.mdb with every table, and a configuration file that names the folder in
 /// `configDirectory` (the user's own when empty) unless one is in force already. When the

@@ -169,8 +169,23 @@ class Program:
 
     # --- acting ---
 
+    @staticmethod
+    def area_of(accessible):
+        """Where a control is once it stands still: what opens beside it may still move it."""
+        areas = [None]
+
+        def stands_still():
+            area = accessible.queryComponent().getExtents(pyatspi.DESKTOP_COORDS)
+            corners = (area.x, area.y, area.width, area.height)
+            if corners != areas[-1]:
+                areas.append(corners)
+                return None
+            return area
+
+        return wait_for(stands_still, "a control to stand still")
+
     def click_on(self, accessible, double=False, offset=None, button="b1"):
-        area = accessible.queryComponent().getExtents(pyatspi.DESKTOP_COORDS)
+        area = self.area_of(accessible)
         x = area.x + (area.width // 2 if offset is None else offset)
         pyatspi.Registry.generateMouseEvent(
             x, area.y + area.height // 2, button + ("d" if double else "c")

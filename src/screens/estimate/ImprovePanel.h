@@ -33,8 +33,6 @@ class ImprovePanel : public QFrame, private ImproveObserver {
     void Stop() { stopped_ = true; }
     bool IsRunning() const { return running_; }
 
-    QPushButton& StopButton() { return *stop_; }
-
   private:
     bool Progress(const ImproveProgress& progress) override;
     void Show(const ImproveProgress& progress);

@@ -91,7 +91,7 @@ TEST_F(MetricImprovePanels, WriteWholeCentimetres) {
 
 TEST_F(ImprovePanels, LetTheWindowSystemWorkAndStopWhenAsked) {
     int asked = 0;
-    QTimer::singleShot(0, &Panel, [&] { Click(Panel.StopButton()); });
+    QTimer::singleShot(0, &Panel, [&] { Click(Find(Panel, Controls::stopImproving)); });
     Panel.Run([&](const ImproveLimits&, ImproveObserver& observer) {
         while (observer.Progress({630, 619}) && ++asked < 1000) {
         }
