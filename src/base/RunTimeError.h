@@ -1,3 +1,5 @@
+// Faults of the computation: numbers and fixed texts as the user sees them.
+
 #pragma once
 
 #include <exception>

@@ -1,3 +1,5 @@
+// Boxes and segments on the roll: which cross, which overlap, which lie inside.
+
 #pragma once
 
 #include "base/Lengths.h"

@@ -1,3 +1,5 @@
+// Sizes of pieces in inches, from their edges in coordinate units; pieces turned.
+
 #pragma once
 
 #include "engine/Geometry.h"

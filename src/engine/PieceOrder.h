@@ -1,3 +1,5 @@
+// The order in which pieces are placed: the powers that are tried, and the key.
+
 #pragma once
 
 #include "engine/PieceGeometry.h"

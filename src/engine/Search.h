@@ -1,3 +1,5 @@
+// The search for the shortest layout: what goes in, what comes out, and the one function.
+
 #pragma once
 
 #include "base/Lay.h"

@@ -1,3 +1,5 @@
+// The minimum cut lengths that are offered: their captions, and the lengths in force behind them.
+
 #pragma once
 
 #include "base/Types.h"

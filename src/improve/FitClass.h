@@ -1,3 +1,5 @@
+// How well a part fits a gap: what a plan chooses by.
+
 #pragma once
 
 #include "improve/Skyline.h"

@@ -1,3 +1,5 @@
+// The improving search on a searched job: from its layout to a better one, with a proven bound.
+
 #pragma once
 
 #include "base/Units.h"

@@ -1,3 +1,5 @@
+// A layout of the improving search, and what makes one better than another.
+
 #pragma once
 
 #include "improve/ImproveJob.h"

@@ -1,3 +1,5 @@
+// The two searches that a run alternates, each of them changing a plan step by step.
+
 #pragma once
 
 #include "improve/ImproveRun.h"

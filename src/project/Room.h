@@ -1,3 +1,5 @@
+// A room as it is kept, and how much of one may be typed.
+
 #pragma once
 
 #include "base/Types.h"

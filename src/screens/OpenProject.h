@@ -1,3 +1,5 @@
+// The project that the screens work on, beside what is stored of it.
+
 #pragma once
 
 #include "base/Units.h"

@@ -1,3 +1,5 @@
+// What text is written on: a painter with a font, a colour and an alignment.
+
 #pragma once
 
 #include "base/Types.h"

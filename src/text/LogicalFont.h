@@ -1,3 +1,5 @@
+// The description of a font, 78 bytes, and the font that is made of it.
+
 #pragma once
 
 #include "base/Types.h"

@@ -1,3 +1,5 @@
+// The commands of tarn-data, each a function.
+
 #pragma once
 
 #include "base/Units.h"

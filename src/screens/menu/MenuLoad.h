@@ -1,3 +1,5 @@
+// What the menu does with the open project when it loads, without a screen.
+
 #pragma once
 
 #include "screens/OpenProject.h"

@@ -1,3 +1,5 @@
+// The two panels of the project selection: what is set, and where it is chosen.
+
 #pragma once
 
 #include <QFrame>
