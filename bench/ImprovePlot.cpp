@@ -69,7 +69,8 @@ std::string ImprovePlot(const std::vector<FlooringResult>& results) {
                       "\" height=\"" + Number(Height) +
                       "\" font-family=\"Arial, Liberation Sans, sans-serif\" font-size=\"13\">\n"
                       "<rect width=\"100%\" height=\"100%\" fill=\"#FFFFFF\"/>\n";
-    for (double percent = 0; percent <= highest; percent += highest > 8 ? 2 : 1) {
+    const int spacing = highest > 8 ? 2 : 1;
+    for (int percent = 0; percent <= highest; percent += spacing) {
         const double y = Bottom - percent * scale;
         svg += "<line x1=\"" + Number(Left) + "\" y1=\"" + Number(y) + "\" x2=\"" + Number(Right) +
                "\" y2=\"" + Number(y) + "\" stroke=\"#DDDDDD\"/>\n" +
