@@ -20,10 +20,11 @@ void WritePage(const std::string& folder, const std::string& name,
     const std::string source = folder + "/" + name + ".in.md";
     std::ifstream input(source);
     std::string text((std::istreambuf_iterator<char>(input)), std::istreambuf_iterator<char>());
+    const std::string complaint = source + " has no place for ";
     for (const auto& [field, value] : fields) {
         const std::size_t at = text.find(field);
         if (at == std::string::npos) {
-            throw std::runtime_error(source + " has no place for " + field);
+            throw std::runtime_error(complaint + field);
         }
         text.replace(at, field.size(), value);
     }
