@@ -53,7 +53,7 @@ struct StoredProject {
         Store.AddProject("MARCH", ProjectName);
         Project = Store.Load(ProjectName).Value;
         Project.Rooms = FullRooms();
-        Project = Store.Save(Project, Units::Imperial);
+        Project = Store.Save(Project, Units::Imperial).Value;
     }
 };
 

@@ -18,7 +18,7 @@ struct Project {
     Double Scale = 0.01;     ///< size of one coordinate unit, inches
     std::vector<Room> Rooms; ///< at most RoomCapacity
 
-    /// In which units the sizes were typed; rooms changed meanwhile in metric make it Metric.
+    /// In which units the sizes were typed: those of the last one that was typed or changed.
     Units EnteredIn = Units::Imperial;
 
     bool operator==(const Project&) const = default;

@@ -117,8 +117,8 @@ StoreResult StoreRoom(Project& project, Units shown, std::size_t room, const Roo
     } else {
         project.Rooms[room] = after;
     }
-    if (shown == Units::Metric && (isNew || after != before)) {
-        project.EnteredIn = Units::Metric;
+    if (isNew || after.Width != before.Width || after.Length != before.Length) {
+        project.EnteredIn = shown;
     }
     return {};
 }

@@ -48,10 +48,10 @@ struct StoreResult {
 /// Take the fields into `room`, 0 .. number of rooms; the new room is added. A room of the project
 /// is stored whatever its sizes, also 0; without a chosen covering it keeps its own, and with the
 /// base text that DraftOf gives its base code, so that showing a room and storing it changes
-/// nothing. A room that changes while `shown` is Metric makes the project one that was entered in
-/// metric. Nothing is changed unless it is Stored. Raises, with nothing changed, "Overflow" for a
-/// size beyond an Integer, "Subscript out of range" for a room beyond the new one, and as ExtentOf
-/// for sizes that the project's scale gives no extent.
+/// nothing. A room that is added or changes its size makes `shown` the units in which the project
+/// was entered. Nothing is changed unless it is Stored. Raises, with nothing changed, "Overflow"
+/// for a size beyond an Integer, "Subscript out of range" for a room beyond the new one, and as
+/// ExtentOf for sizes that the project's scale gives no extent.
 StoreResult StoreRoom(Project& project, Units shown, std::size_t room, const RoomDraft& draft);
 
 /// Remove a room: the rooms behind it move up. Nothing for the new room, which is not stored.

@@ -7,7 +7,7 @@
 namespace tarn {
 
 void SaveOpenProject(OpenProject& project, ProjectStore& store) {
-    project.Now = store.Save(project.Now, project.Shown);
+    project.Now = store.Save(project.Now, project.Shown).Value;
     project.Saved = project.Now;
 }
 

@@ -23,7 +23,7 @@ ProjectStore OpenStore(const DataFolder& folder) {
         if (folder.Path.empty()) {
             reason += " No data folder is named in " + folder.Configuration.string() + ".";
         }
-        return ProjectStore(std::move(reason));
+        return ProjectStore::Unavailable(std::move(reason));
     }
 }
 

@@ -118,6 +118,25 @@ void Rename(Connection& connection, std::string_view table, std::string_view fie
     }
 }
 
+/// What stands in the file of a project that has a sheet; empty for one that has none.
+StoredMark MarkOf(Connection& connection, std::string_view project) {
+    StoredMark mark;
+    const auto sheets = Table(connection, MainTab).RowsWhere("ProjName", TextValue(project));
+    for (const StoredRow& sheet : sheets) {
+        mark.Content += MainTab;
+        mark.Content += sheet.Content();
+    }
+    if (!sheets.empty()) {
+        const QVariant& number = sheets.front().ValueIn("TabIndex");
+        for (const StoredRow& room :
+             Table(connection, InputData).RowsWhere("TabIndex", number, "ObjNum")) {
+            mark.Content += InputData;
+            mark.Content += room.Content();
+        }
+    }
+    return mark;
+}
+
 /// Read the project's sheet of that number and its rooms into `loaded`.
 void LoadSheet(Connection& connection, Integer number, LoadedProject& loaded) {
     Project& project = loaded.Value;
@@ -142,8 +161,9 @@ class ProjectStore::Impl {
   public:
     explicit Impl(std::string reason)
         : reason_(std::move(reason)) {}
-    explicit Impl(std::unique_ptr<Connection> connection)
-        : connection_(std::move(connection)) {}
+    Impl(std::unique_ptr<Connection> connection, DatabaseAccess access)
+        : connection_(std::move(connection))
+        , access_(access) {}
 
     bool IsOpen() const { return connection_ != nullptr; }
     /// The database. Raises DatabaseError, with the reason why, when there is none.
@@ -154,8 +174,22 @@ class ProjectStore::Impl {
         return *connection_;
     }
 
+    /// The same, before a change.
+    Connection& DatabaseToChange() {
+        Connection& database = Database();
+        if (access_ == DatabaseAccess::ReadOnly || inTransaction_ || !beforeFirstChange_) {
+            return database;
+        }
+        std::exchange(beforeFirstChange_, {})();
+        return Database();
+    }
+    void SetBeforeFirstChange(std::function<void()> action) {
+        beforeFirstChange_ = std::move(action);
+    }
+
     /// Run `changes` as a transaction, or as a part of the one that is running.
     void Change(const std::function<void()>& changes) {
+        DatabaseToChange();
         Run(inTransaction_ ? Step::Kind::Part : Step::Kind::Change, changes);
     }
     /// Run `reading`, all of it on the database as it stands at one moment.
@@ -178,15 +212,24 @@ class ProjectStore::Impl {
     }
 
     std::unique_ptr<Connection> connection_;
+    DatabaseAccess access_ = DatabaseAccess::ReadOnly;
     std::string reason_;
+    std::function<void()> beforeFirstChange_;
     bool inTransaction_ = false;
 };
 
-ProjectStore::ProjectStore(std::string reason)
-    : impl_(std::make_unique<Impl>(std::move(reason))) {}
+ProjectStore::ProjectStore(std::unique_ptr<Impl> impl)
+    : impl_(std::move(impl)) {}
+
+ProjectStore::ProjectStore()
+    : ProjectStore(Unavailable("No database is open.")) {}
+
+ProjectStore ProjectStore::Unavailable(std::string reason) {
+    return ProjectStore(std::make_unique<Impl>(std::move(reason)));
+}
 
 ProjectStore::ProjectStore(const std::string& path, DatabaseAccess access, int busyWait)
-    : impl_(std::make_unique<Impl>(OpenDatabaseFile(path, access, busyWait))) {}
+    : impl_(std::make_unique<Impl>(OpenDatabaseFile(path, access, busyWait), access)) {}
 
 ProjectStore::~ProjectStore() = default;
 ProjectStore::ProjectStore(ProjectStore&&) noexcept = default;
@@ -208,7 +251,8 @@ bool ProjectStore::HasDirectory(std::string_view name) {
 }
 
 void ProjectStore::AddDirectory(std::string_view name) {
-    Table(impl_->Database(), DirTab).Add({{"Directory", TextValue(NewName("directory", name))}});
+    Table(impl_->DatabaseToChange(), DirTab)
+        .Add({{"Directory", TextValue(NewName("directory", name))}});
 }
 
 void ProjectStore::RenameDirectory(const std::string& oldName, const std::string& newName) {
@@ -265,7 +309,7 @@ std::optional<std::string> ProjectStore::DirectoryOf(std::string_view project) {
 
 void ProjectStore::AddProject(std::string_view directory, std::string_view project) {
     const std::string name = NewProjectName(project);
-    Table(impl_->Database(), ProjTab)
+    Table(impl_->DatabaseToChange(), ProjTab)
         .Add({{"Dir", TextValue(NewName("directory", directory))},
               {"ProjName", TextValue(name)},
               {"DrawingNum", 0}});
@@ -298,6 +342,7 @@ LoadedProject ProjectStore::Load(std::string_view project) {
         Connection& database = impl_->Database();
         if (const auto number = FindSheetNumber(database, project)) {
             LoadSheet(database, *number, loaded);
+            loaded.Mark = MarkOf(database, project);
         } else {
             loaded.Value.IsNew = true;
             loaded.Value.Sheet = NewSheetNumber(database);
@@ -316,24 +361,38 @@ std::optional<Integer> ProjectStore::SheetOf(std::string_view project) {
     return FindSheetNumber(impl_->Database(), project);
 }
 
-Project ProjectStore::Save(const Project& project, Units shown) {
+SaveResult ProjectStore::Save(const Project& project, Units shown,
+                              const std::optional<StoredMark>& read) {
     RequireUsable(project.Name);
     if (project.Rooms.size() > RoomCapacity) {
         RaiseSubscript(std::string(ProjectFullText));
     }
-    Project stored = project;
-    stored.IsNew = false;
+    SaveResult result{SaveResult::Outcome::Saved, project, read.value_or(StoredMark{})};
     impl_->Change([&] {
         Connection& database = impl_->Database();
-        stored.Sheet = SheetNumberToSave(database, project);
-        stored.EnteredIn = StoreSheet(database, project, stored.Sheet, shown);
-        StoreRoomRows(database, stored.Sheet, project.Rooms);
+        if (!DirectoryOf(project.Name)) {
+            result.What = SaveResult::Outcome::Gone;
+        } else if (read && *read != MarkOf(database, project.Name)) {
+            result.What = SaveResult::Outcome::Changed;
+        } else {
+            Project& stored = result.Value;
+            stored.IsNew = false;
+            stored.Sheet = SheetNumberToSave(database, project);
+            stored.EnteredIn = project.Rooms.empty() ? Units::Imperial : project.EnteredIn;
+            StoreSheet(database, stored, shown);
+            StoreRoomRows(database, stored.Sheet, stored.Rooms);
+            result.Mark = MarkOf(database, project.Name);
+        }
     });
-    return stored;
+    return result;
 }
 
 void ProjectStore::InOneTransaction(const std::function<void()>& changes) {
     impl_->Change(changes);
+}
+
+void ProjectStore::SetBeforeFirstChange(std::function<void()> action) {
+    impl_->SetBeforeFirstChange(std::move(action));
 }
 
 } // namespace tarn

@@ -15,12 +15,37 @@
 
 namespace tarn {
 
+/// What stood in the file of one project, its sheet and its rooms, before any reading of odd
+/// values: of two marks that are equal nothing was changed in between. The directory does not
+/// count, since a save leaves it alone: a project that was moved is still the same.
+struct StoredMark {
+    std::string Content;
+
+    bool operator==(const StoredMark&) const = default;
+};
+
 /// A project as it was found in the database.
 struct LoadedProject {
     Project Value; ///< with its directory where it has one
+    StoredMark Mark;
     /// Rows that are missing, surplus or odd: one line for each kind, with the rooms counted
     /// from 1.
     std::vector<std::string> Findings;
+};
+
+/// What became of a save.
+struct SaveResult {
+    enum class Outcome {
+        Saved,
+        Changed, ///< nothing was stored: another program changed the project since it was read
+        Gone,    ///< nothing was stored: no row has the project's name, which another program
+                 ///< renamed or deleted
+    };
+    Outcome What = Outcome::Saved;
+    Project Value;   ///< as it is stored now; for Changed and Gone as it was given
+    StoredMark Mark; ///< that of the next load; for Changed and Gone the one given, if any
+
+    bool IsSaved() const { return What == Outcome::Saved; }
 };
 
 /// The directories and projects of one database file. Whole values go in and come out, each change
@@ -37,7 +62,9 @@ struct LoadedProject {
 class ProjectStore {
   public:
     /// A store without a database: every function raises DatabaseError with `reason`.
-    explicit ProjectStore(std::string reason = "No database is open.");
+    static ProjectStore Unavailable(std::string reason);
+    /// Unavailable until another store is moved into it.
+    ProjectStore();
     /// Open an existing file, which is never made or written over. `path` may hold any character.
     /// Raises DatabaseError, naming the file, the cause and what to do, for a file that is missing,
     /// a folder, empty, of the older Jet format, no database, damaged, locked by another program
@@ -88,19 +115,28 @@ class ProjectStore {
     LoadedProject Load(std::string_view project);
     /// The number of the project's sheet; nothing when it has none. Raises as Load.
     std::optional<Integer> SheetOf(std::string_view project);
-    /// Store the project, its sheet and its rooms; `shown` are the units in force. Gives back the
-    /// project as it is stored. A project that has a sheet keeps its number, a new one takes
-    /// Project::Sheet; where that is another project's number by now, that project is left alone
-    /// and the next free number is taken. Rooms in metric units stay so marked until the project is
-    /// saved without rooms. Raises "Overflow" past sheet 32767 and "Subscript out of range" for
-    /// more than RoomCapacity rooms.
-    Project Save(const Project& project, Units shown);
+    /// Store the project, its sheet and its rooms, unless no row has its name, or what is stored of
+    /// it is no longer what `read` says; without `read` it replaces whatever is stored. `shown` are
+    /// the units in force; that the rooms were entered in metric is stored as Project::EnteredIn
+    /// says, a project without rooms as one in feet and inches. A project that has a sheet keeps
+    /// its number, a new one takes Project::Sheet; where that is in use by now, what uses it is
+    /// left alone and the next free number is taken. Raises "Overflow" past sheet 32767 and
+    /// "Subscript out of range" for more than RoomCapacity rooms.
+    SaveResult Save(const Project& project, Units shown,
+                    const std::optional<StoredMark>& read = std::nullopt);
 
     /// Run `changes` as one transaction: when it raises, nothing of it is stored.
     void InOneTransaction(const std::function<void()>& changes);
 
+    /// Have `action` run once, before this store's first change: while the file is as it was, and
+    /// no transaction runs. It goes with the store when that is moved, may use other stores, and
+    /// must not raise. A store that is opened for reading never runs it.
+    void SetBeforeFirstChange(std::function<void()> action);
+
   private:
     class Impl;
+    explicit ProjectStore(std::unique_ptr<Impl> impl);
+
     std::unique_ptr<Impl> impl_;
 };
 

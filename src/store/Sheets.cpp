@@ -144,30 +144,24 @@ Integer SheetNumberToSave(Connection& connection, const Project& project) {
     return number;
 }
 
-Units StoreSheet(Connection& connection, const Project& project, Integer number, Units shown) {
-    const SheetsUnder before(connection, number, project.Name);
-    const bool wasMetric =
-        before.Own() != nullptr && EnteredUnitsOf(*before.Own()) == Units::Metric;
-    const bool isMetric = !project.Rooms.empty() && (shown == Units::Metric || wasMetric);
-
+void StoreSheet(Connection& connection, const Project& project, Units shown) {
     Table table(connection, MainTab);
-    table.DeleteWhere("TabIndex", number);
-    Table::Values values = {
+    if (!table.HasField(EnteredMetricField)) {
+        table.AddNumberField(EnteredMetricField);
+    }
+    table.DeleteWhere("TabIndex", project.Sheet);
+    table.Add({
         {"ProjName", TextValue(project.Name)},
         {"ObjNum", static_cast<int>(project.Rooms.size())},
-        {"TabIndex", number},
+        {"TabIndex", project.Sheet},
         {"PicScale", QVariant()},
         {"DigScale", project.Scale},
         {"TileLabelNUm", shown == Units::Metric ? 1 : 0},
         {"MagScale", 1},
         {"ScaleTop", -500},
         {"ScaleLeft", -500},
-    };
-    if (table.HasField(EnteredMetricField)) {
-        values.emplace_back(EnteredMetricField, isMetric ? 1 : 0);
-    }
-    table.Add(values);
-    return isMetric ? Units::Metric : Units::Imperial;
+        {EnteredMetricField, project.EnteredIn == Units::Metric ? 1 : 0},
+    });
 }
 
 void DeleteSheetsOf(Connection& connection, const QVariant& project) {

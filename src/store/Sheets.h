@@ -63,10 +63,9 @@ Units EnteredUnitsOf(const StoredRow& sheet);
 /// are given the number.
 Integer SheetNumberToSave(Connection& connection, const Project& project);
 
-/// Replace the sheets of `number` by one of the project. EnteredMetric, where the table has that
-/// field, becomes 0 without rooms, else 1 when metric units are in force, else keeps its value.
-/// Gives back the units that were stored.
-Units StoreSheet(Connection& connection, const Project& project, Integer number, Units shown);
+/// Replace the sheets under Project::Sheet by one of the project; `shown` are the units in force.
+/// EnteredMetric is added to the table where it is missing. Raises DatabaseError.
+void StoreSheet(Connection& connection, const Project& project, Units shown);
 
 /// Delete every sheet of the project with all rows of its number in every table; a table that is
 /// not there is skipped.

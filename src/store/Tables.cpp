@@ -91,6 +91,23 @@ std::string StoredRow::TextIn(std::string_view field) const {
     return IsReal(value) ? DecimalText(value.toDouble()) : value.toString().toStdString();
 }
 
+std::string StoredRow::Content() const {
+    std::string content;
+    for (std::size_t place = 0; place < source_->Fields.size(); ++place) {
+        const QVariant& value = values_.at(static_cast<qsizetype>(place));
+        if (value.isNull()) {
+            continue;
+        }
+        const QByteArray bytes = IsReal(value)
+                                     ? QByteArray::fromStdString(DecimalText(value.toDouble()))
+                                     : value.toByteArray();
+        content += source_->Fields[place] + ':' + value.typeName() + ':' +
+                   std::to_string(bytes.size()) + ':';
+        content.append(bytes.constData(), static_cast<std::size_t>(bytes.size()));
+    }
+    return content;
+}
+
 Table::Table(Connection& connection, std::string_view name)
     : connection_(connection)
     , name_(name) {}
@@ -110,6 +127,12 @@ const std::vector<std::string>& Table::Fields() {
 
 bool Table::HasField(std::string_view field) {
     return PlaceOf(field, Fields()) < Fields().size();
+}
+
+void Table::AddNumberField(std::string_view field) {
+    connection_.Run("ALTER TABLE " + name_ + " ADD COLUMN " + std::string(field) + " INTEGER",
+                    Failing(" cannot be given the field " + std::string(field)));
+    fields_.clear();
 }
 
 std::vector<StoredRow> Table::Rows(std::string_view order) {
@@ -160,8 +183,8 @@ void Table::Add(const Values& values) {
         marks += marks.empty() ? "?" : ", ?";
         bound.push_back(value);
     }
-    connection_.Run("INSERT INTO " + name_ + " (" + names + ") VALUES (" + marks + ")",
-                    Failing(" takes no new row"), bound);
+    RunOnRow("INSERT INTO " + name_ + " (" + names + ") VALUES (" + marks + ")",
+             Failing(" takes no new row"), bound);
 }
 
 void Table::Change(const StoredRow& row, std::string_view field, const QVariant& value) {

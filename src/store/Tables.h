@@ -39,6 +39,9 @@ class StoredRow {
     Byte ByteIn(std::string_view field) const;
     /// The text in a field, null as the empty text, a number as its decimal text.
     std::string TextIn(std::string_view field) const;
+    /// All that stands in the row, as bytes to be compared: two rows have the same where the same
+    /// fields hold the same values of the same types. A null counts as a missing field.
+    std::string Content() const;
 
   private:
     friend class Table;
@@ -60,6 +63,9 @@ class Table {
     Table(Connection& connection, std::string_view name);
 
     bool HasField(std::string_view field);
+    /// Add a field of whole numbers, null in every row. Whether there is one of that name is the
+    /// caller's to check.
+    void AddNumberField(std::string_view field);
 
     /// All rows by the field `order`; equal ones, and all without an order, by row number.
     std::vector<StoredRow> Rows(std::string_view order = {});

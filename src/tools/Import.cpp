@@ -53,11 +53,9 @@ void ImportProject(const ImportRequest& request) {
         if (isNew) {
             AddNewProject(store, name, request.Directory);
         }
-        // A sheet remembers that it was entered in metric until it is saved without rooms.
-        loaded.Value.Rooms.clear();
-        Project project = store.Save(loaded.Value, Units::Imperial);
-        project.Rooms = rooms;
-        store.Save(project, request.In);
+        loaded.Value.Rooms = rooms;
+        loaded.Value.EnteredIn = request.In;
+        store.Save(loaded.Value, request.In);
     });
     std::cout << name << ": " << rooms.size() << (rooms.size() == 1 ? " room.\n" : " rooms.\n");
 }

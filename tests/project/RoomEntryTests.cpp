@@ -69,21 +69,35 @@ TEST_F(EnteringRooms, StoresCentimetresInMetricAndNotesIt) {
     EXPECT_EQ(project_.EnteredIn, Units::Metric);
 }
 
-TEST_F(EnteringRooms, NotesMetricOnlyForARoomThatChanges) {
+TEST_F(EnteringRooms, NotesTheUnitsOfASizeThatChangesAndOfNothingElse) {
     Fill(1);
-    shown_ = Units::Metric;
-    EXPECT_TRUE(Store(0, DraftOfRoom(0)).IsStored());
-    EXPECT_EQ(project_.EnteredIn, Units::Imperial);
-    RoomDraft draft = DraftOfRoom(0);
-    draft.Remark = "other";
-    EXPECT_TRUE(Store(0, draft).IsStored());
-    EXPECT_EQ(project_.EnteredIn, Units::Metric);
-    shown_ = Units::Imperial;
-    EXPECT_TRUE(Store(0, DraftOfRoom(0)).IsStored());
-    draft = DraftOfRoom(0);
-    draft.Remark = "a third";
-    EXPECT_TRUE(Store(0, draft).IsStored());
-    EXPECT_EQ(project_.EnteredIn, Units::Metric);
+    const auto storeChanged = [&](auto change) {
+        RoomDraft draft = DraftOfRoom(0);
+        change(draft);
+        EXPECT_TRUE(Store(0, draft).IsStored());
+        return project_.EnteredIn;
+    };
+    for (const Units shown : {Units::Metric, Units::Imperial}) {
+        const Units before = project_.EnteredIn;
+        ASSERT_NE(before, shown);
+        shown_ = shown;
+        EXPECT_EQ(storeChanged([](RoomDraft&) {}), before);
+        EXPECT_EQ(storeChanged([](RoomDraft& draft) { draft.Remark += "x"; }), before);
+        EXPECT_EQ(storeChanged([](RoomDraft& draft) { draft.Number += "1"; }), before);
+        EXPECT_EQ(storeChanged([](RoomDraft& draft) { draft.Base = "W1"; }), before);
+        EXPECT_EQ(storeChanged([](RoomDraft& draft) { draft.Covering = 3; }), before);
+        EXPECT_EQ(storeChanged([](RoomDraft& draft) { draft.Width.Minor = "1"; }), shown);
+        project_.EnteredIn = before;
+        EXPECT_EQ(storeChanged([](RoomDraft& draft) { draft.Length.Minor = "2"; }), shown);
+    }
+}
+
+TEST_F(EnteringRooms, NotesTheUnitsOfEachNewRoom) {
+    for (const Units shown : {Units::Metric, Units::Imperial}) {
+        shown_ = shown;
+        EXPECT_EQ(StoreNew(Draft("3", "", "4", "")), Outcome::Stored);
+        EXPECT_EQ(project_.EnteredIn, shown);
+    }
 }
 
 TEST_F(EnteringRooms, StoresNothingForANewRoomWithoutSizes) {

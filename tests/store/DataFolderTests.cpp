@@ -141,7 +141,7 @@ TEST(ProjectStores, WithoutADatabaseFailWithTheReason) {
     ProjectStore store;
     EXPECT_FALSE(store.IsOpen());
     EXPECT_EQ(DatabaseErrorOf([&] { store.Load("P"); }), "No database is open.");
-    ProjectStore missing("It is missing.");
+    ProjectStore missing = ProjectStore::Unavailable("It is missing.");
     const auto expectReason = [&](auto action) {
         EXPECT_EQ(DatabaseErrorOf(action), "It is missing.");
     };

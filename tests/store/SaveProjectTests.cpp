@@ -31,7 +31,17 @@ class SavingAProject : public ::testing::Test {
         }
     }
 
-    Project Save(Units shown = Units::Imperial) { return store_.Save(project_, shown); }
+    /// The project as it is stored now.
+    Project Save(Units shown = Units::Imperial) {
+        const SaveResult result = store_.Save(project_, shown);
+        EXPECT_TRUE(result.IsSaved());
+        return result.Value;
+    }
+    /// Add a project that was never saved, and make it the one that is.
+    void SaveAsNew(const std::string& name) {
+        file_.Run("INSERT INTO ProjTab VALUES ('MARCH', " + testing::Literal(name) + ", 0)");
+        project_.Name = name;
+    }
     Lines Sheets() const {
         return file_.Rows("SELECT TabIndex, ProjName, ObjNum FROM MainTab ORDER BY rowid");
     }
@@ -66,9 +76,10 @@ TEST_F(SavingAProject, StoresItsSheetAndItsRooms) {
 }
 
 TEST_F(SavingAProject, WritesEveryFieldOfItsSheet) {
-    project_.Name = "O'HARA";
+    SaveAsNew("O'HARA");
     project_.Scale = 0.25;
     project_.Sheet = 7;
+    project_.EnteredIn = Units::Metric;
     Save(Units::Metric);
     EXPECT_EQ(file_.Rows("SELECT TabIndex, ProjName, ObjNum, PicScale, DigScale, TileLabelNUm, "
                          "MagScale, ScaleTop, ScaleLeft, EnteredMetric FROM MainTab "
@@ -90,9 +101,10 @@ TEST_F(SavingAProject, AndLoadingItGivesItBack) {
     project_.Rooms = {{120, 144, 11, 8, "101", "a\r\nb"},
                       {-1, 0, 255, 255, "DIR", "\""},
                       {32767, -32768, 7, 1, " blanks ", "ß"}};
-    for (const Units shown : {Units::Imperial, Units::Metric}) {
-        const Project stored = Save(shown);
-        EXPECT_EQ(stored.EnteredIn, shown);
+    for (const Units entered : {Units::Imperial, Units::Metric}) {
+        project_.EnteredIn = entered;
+        const Project stored = Save();
+        EXPECT_EQ(stored, project_);
         EXPECT_EQ(file_.Open().Load("P").Value, stored);
     }
 }
@@ -114,7 +126,7 @@ TEST_F(SavingAProject, TwiceLeavesOneSheet) {
 }
 
 TEST_F(SavingAProject, StoresANewProjectUnderTheNumberSetAsideForIt) {
-    project_.Name = "NEW";
+    SaveAsNew("NEW");
     project_.Sheet = 6;
     EXPECT_EQ(Save().Sheet, 6);
     EXPECT_EQ(Sheets(), (Lines{"5|P|3", "6|NEW|4"}));
@@ -240,7 +252,7 @@ TEST_F(SavingAProject, LeavesTheOldProjectWholeWhenTheProgramDiesInTheMiddle) {
 TEST_F(SavingAProject, TakesTheNextFreeNumberWhereAnotherProjectHasTheNumberMeanwhile) {
     file_.AddProject("MARCH", "OTHER", 6, 2);
     file_.AddProject("MARCH", "THIRD", 9);
-    project_.Name = "NEW";
+    SaveAsNew("NEW");
     project_.Sheet = 6;
     EXPECT_EQ(Save().Sheet, 10);
     EXPECT_EQ(Sheets(), (Lines{"5|P|3", "6|OTHER|2", "9|THIRD|0", "10|NEW|4"}));
@@ -306,6 +318,8 @@ TEST_F(SavingAProject, KeepsItsUnitsWhenItLeavesASharedNumber) {
         file_.AddProject("MARCH", "OTHER", 5);
         file_.AddProject("MARCH", "P", 5);
         file_.Run("UPDATE MainTab SET " + std::string(stored) + " WHERE ProjName = 'P'");
+        project_ = store_.Load("P").Value;
+        project_.Rooms.resize(1);
         EXPECT_EQ(Save().EnteredIn, Units::Metric);
         EXPECT_EQ(UnitsStored(), (Lines{"5|OTHER|0", "6|P|1"}));
     }
@@ -329,7 +343,7 @@ TEST_F(SavingAProject, OpensNextTimeAsItWasSavedThoughItHadTwoSheets) {
 }
 
 TEST_F(SavingAProject, NeverStoresTheNumberThatMeansNoSheet) {
-    project_.Name = "NEW";
+    SaveAsNew("NEW");
     project_.Sheet = -100;
     EXPECT_EQ(Save().Sheet, 6);
     EXPECT_EQ(Sheets().back(), "6|NEW|4");
@@ -345,42 +359,57 @@ TEST_F(SavingAProject, StoresNoRooms) {
     EXPECT_EQ(Widths(5), Lines{});
 }
 
-TEST_F(SavingAProject, IsMarkedAsMetricByASaveInMetricAndKeepsTheMarkBySavesWithout) {
-    EXPECT_EQ(Save().EnteredIn, Units::Imperial);
-    EXPECT_EQ(UnitsStored(), Lines{"5|P|0"});
-    EXPECT_EQ(Save(Units::Metric).EnteredIn, Units::Metric);
-    EXPECT_EQ(UnitsStored(), Lines{"5|P|1"});
-    EXPECT_EQ(Save().EnteredIn, Units::Metric);
-    EXPECT_EQ(UnitsStored(), Lines{"5|P|1"});
-    EXPECT_EQ(file_.Rows("SELECT TileLabelNUm FROM MainTab"), Lines{"0"});
+TEST_F(SavingAProject, MarksItAsMetricAsItWasEnteredWhateverUnitsAreInForce) {
+    for (const Units entered : {Units::Metric, Units::Imperial}) {
+        for (const Units shown : {Units::Imperial, Units::Metric}) {
+            project_.EnteredIn = entered;
+            EXPECT_EQ(Save(shown).EnteredIn, entered);
+            EXPECT_EQ(file_.Rows("SELECT TileLabelNUm, EnteredMetric FROM MainTab"),
+                      Lines{std::string(shown == Units::Metric ? "1" : "0") +
+                            (entered == Units::Metric ? "|1" : "|0")});
+            EXPECT_EQ(store_.Load("P").Value.EnteredIn, entered);
+        }
+    }
 }
 
-TEST_F(SavingAProject, InFeetAndInchesIsNotMarkedForRoomsTypedInMetricMeanwhile) {
-    project_.EnteredIn = Units::Metric;
-    EXPECT_EQ(Save().EnteredIn, Units::Imperial);
-    EXPECT_EQ(UnitsStored(), Lines{"5|P|0"});
+TEST_F(SavingAProject, KeepsTheMarkThatItWasLoadedWith) {
+    for (const char* stored : {"EnteredMetric = 1", "EnteredMetric = NULL, TileLabelNUm = 1"}) {
+        file_.Run("UPDATE MainTab SET " + std::string(stored));
+        project_ = store_.Load("P").Value;
+        project_.Rooms[0].Remark = "changed";
+        Save();
+        EXPECT_EQ(file_.Rows("SELECT TileLabelNUm, EnteredMetric FROM MainTab"), Lines{"0|1"});
+    }
 }
 
 TEST_F(SavingAProject, WithoutRoomsDropsTheMark) {
-    Save(Units::Metric);
+    project_.EnteredIn = Units::Metric;
     project_.Rooms.clear();
     EXPECT_EQ(Save(Units::Metric).EnteredIn, Units::Imperial);
     EXPECT_EQ(file_.Rows("SELECT TileLabelNUm, EnteredMetric FROM MainTab"), Lines{"1|0"});
     EXPECT_EQ(store_.Load("P").Value.EnteredIn, Units::Imperial);
 }
 
-TEST_F(SavingAProject, ANullMarkCountsAsTheUnitsFlag) {
-    file_.Run("UPDATE MainTab SET EnteredMetric = NULL, TileLabelNUm = 1");
-    EXPECT_EQ(Save().EnteredIn, Units::Metric);
-    EXPECT_EQ(file_.Rows("SELECT TileLabelNUm, EnteredMetric FROM MainTab"), Lines{"0|1"});
-}
-
-TEST_F(SavingAProject, IntoADatabaseWithoutTheMarkStoresTheUnitsFlagAlone) {
+TEST_F(SavingAProject, AddsAMissingMarkToTheTable) {
+    file_.AddProject("MARCH", "OTHER", 6);
     file_.Run("UPDATE MainTab SET TileLabelNUm = 1");
     file_.Run("ALTER TABLE MainTab DROP COLUMN EnteredMetric");
+    project_ = store_.Load("P").Value;
     Save();
-    EXPECT_EQ(file_.Rows("SELECT ObjNum, TileLabelNUm FROM MainTab"), Lines{"4|0"});
-    EXPECT_EQ(store_.Load("P").Value.EnteredIn, Units::Imperial);
+    EXPECT_EQ(file_.Rows("SELECT ProjName, TileLabelNUm, EnteredMetric FROM MainTab "
+                         "ORDER BY ProjName"),
+              (Lines{"OTHER|1|NULL", "P|0|1"}));
+    EXPECT_EQ(store_.Load("OTHER").Value.EnteredIn, Units::Metric) << "counts as before";
+}
+
+TEST_F(SavingAProject, AddsNoMarkToTheTableWhenItFails) {
+    file_.Run("ALTER TABLE MainTab DROP COLUMN EnteredMetric");
+    file_.Run(
+        "CREATE TRIGGER Stop BEFORE INSERT ON InputData BEGIN SELECT RAISE(ABORT, 'stop'); END");
+    EXPECT_THROW(Save(), DatabaseError);
+    EXPECT_EQ(file_.Rows("SELECT * FROM pragma_table_info('MainTab') WHERE name = 'EnteredMetric'"),
+              Lines{});
+    ExpectOldProject();
 }
 
 TEST_F(SavingAProject, RefusesANameWithADoubleQuote) {

@@ -133,7 +133,7 @@ TEST_F(MenuLoads, MakeAProjectThatCannotBeLoadedWholeUnusable) {
 }
 
 TEST_F(MenuLoads, MakeAProjectUnusableWithoutADatabase) {
-    store = ProjectStore("It is missing.");
+    store = ProjectStore::Unavailable("It is missing.");
     EXPECT_EQ(Load(MenuEntry::NewProject).Message,
               "The project P could not be loaded. It is missing.");
     EXPECT_FALSE(open.IsUsable);

@@ -121,7 +121,7 @@ TEST_F(SavingRooms, NamesTheCauseWhenTheDatabaseIsLockedAndKeepsTheRooms) {
 
 TEST_F(SavingRooms, NamesTheCauseWhenTheDatabaseIsGone) {
     Open();
-    store = ProjectStore("It is gone.");
+    store = ProjectStore::Unavailable("It is gone.");
     TypeSizes({"12", "6", "14", ""});
     ClickOn(Controls::saveRooms);
     EXPECT_EQ(boxes.Messages, Lines{"The project could not be saved. It is gone."});
