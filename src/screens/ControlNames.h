@@ -66,6 +66,7 @@ inline constexpr const char* roomWidthMinorUnit = "Label1(2)";
 inline constexpr const char* roomLengthCaption = "Label1(3)";
 inline constexpr const char* roomLengthMajorUnit = "Label1(4)";
 inline constexpr const char* roomLengthMinorUnit = "Label1(5)";
+inline constexpr const char* roomNote = "RoomNote";
 inline constexpr const char* roomItem = "Frame3";
 inline constexpr const char* covering = "Combo1";
 inline constexpr const char* wallBase = "Text1(4)";

@@ -21,6 +21,7 @@
 #include <QPushButton>
 #include <QStyleOptionGroupBox>
 #include <QToolTip>
+#include <QVBoxLayout>
 
 #include <algorithm>
 #include <limits>
@@ -210,12 +211,32 @@ QWidget* RoomEntryFrame::NewItemNumberRow() {
     return row;
 }
 
+/// Two lines are kept free for it, so that nothing jumps when it comes and goes; it takes no width
+/// of its own.
+QLabel* RoomEntryFrame::NewNote() {
+    note_ = NewLabel(this, Controls::roomNote, {});
+    SetRole(*note_, TextRole::Warning);
+    note_->setWordWrap(true);
+    note_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    QSizePolicy policy = note_->sizePolicy();
+    policy.setHorizontalPolicy(QSizePolicy::Ignored);
+    note_->setSizePolicy(policy);
+    note_->ensurePolished(); // gives it the type that it is measured in
+    note_->setMinimumHeight(2 * note_->fontMetrics().lineSpacing());
+    return note_;
+}
+
 void RoomEntryFrame::Arrange(Units shown) {
+    auto* sizes = new QVBoxLayout;
+    sizes->setSpacing(Pixels(Metrics::Spacing));
+    sizes->addWidget(NewSizeGroup(shown));
+    sizes->addWidget(NewNote());
+    sizes->addStretch();
+    sizes->addWidget(NewItemNumberRow(), 0, Qt::AlignHCenter);
     auto* grid = new QGridLayout(this);
     SetSpacing(*grid, Metrics::Margin, Metrics::Margin);
-    grid->addWidget(NewSizeGroup(shown), 0, 0);
-    grid->addWidget(NewItemNumberRow(), 1, 0, Qt::AlignCenter);
-    grid->addWidget(NewItemGroup(), 0, 1, 2, 1);
+    grid->addLayout(sizes, 0, 0);
+    grid->addWidget(NewItemGroup(), 0, 1);
     grid->setColumnStretch(1, 1);
     auto* row = new QHBoxLayout;
     row->setSpacing(Pixels(Metrics::Spacing));
@@ -224,7 +245,7 @@ void RoomEntryFrame::Arrange(Units shown) {
         button->setMinimumWidth(std::max(Pixels(Metrics::ButtonWidth), button->sizeHint().width()));
         row->addWidget(button);
     }
-    grid->addLayout(row, 2, 0, 1, 2);
+    grid->addLayout(row, 1, 0, 1, 2);
 }
 
 void RoomEntryFrame::resizeEvent(QResizeEvent* event) {
@@ -286,6 +307,7 @@ void RoomEntryFrame::Show(const RoomDraft& draft) {
     Text(Number).Show(ToQt(draft.Number));
     Text(Remark).Show(ToQt(draft.Remark));
     covering_->setCurrentIndex(draft.Covering ? *draft.Covering : -1);
+    SetHint({});
 }
 
 void RoomEntryFrame::ShowNewRoom() {
@@ -298,7 +320,26 @@ void RoomEntryFrame::SetItemNumber(std::size_t number) {
     SetText(*itemNumber_, TrimStr(static_cast<long long>(number)));
 }
 
+void RoomEntryFrame::SetHint(const QString& hint) {
+    hint_ = hint;
+    ShowNote();
+}
+
+void RoomEntryFrame::SetWarning(const QString& warning) {
+    warning_ = warning;
+    ShowNote();
+}
+
+void RoomEntryFrame::ShowNote() {
+    const bool both = !warning_.isEmpty() && !hint_.isEmpty();
+    SetText(*note_, FromQt(warning_ + (both ? QStringLiteral("\n") : QString()) + hint_));
+}
+
 void RoomEntryFrame::ConnectFields() {
+    for (const EntryField* text : texts_) {
+        connect(text, &QLineEdit::textChanged, this, [this] { SetHint({}); });
+    }
+    connect(covering_, &QComboBox::currentIndexChanged, this, [this] { SetHint({}); });
     for (EntryField* text : texts_) {
         text->installEventFilter(this);
     }

@@ -7,6 +7,7 @@
 #include "screens/rooms/EntryField.h"
 
 #include <QGroupBox>
+#include <QString>
 
 #include <array>
 #include <cstddef>
@@ -49,6 +50,13 @@ class RoomEntryFrame : public QGroupBox {
     void ShowNewRoom();
     void SetItemNumber(std::size_t number);
 
+    /// Say below the sizes what became of the typing; it stands there until the next change of a
+    /// field, or until a room is shown.
+    void SetHint(const QString& hint);
+    /// Say there what the user has to know of the room, before the hint; it stands there until it
+    /// is replaced. Empty for nothing.
+    void SetWarning(const QString& warning);
+
     /// A long project name asks for no room of its own: the caption is shortened where it does not
     /// fit, and then shown whole as the caption's tool tip.
     QSize sizeHint() const override { return QWidget::sizeHint(); }
@@ -68,9 +76,11 @@ class RoomEntryFrame : public QGroupBox {
     QGroupBox* NewSizeGroup(Units shown);
     QGroupBox* NewItemGroup();
     QWidget* NewItemNumberRow();
+    QLabel* NewNote();
     void Arrange(Units shown);
     void FitCaption();
 
+    void ShowNote();
     void ConnectFields();
     /// Which text this is; nothing for any other object.
     std::optional<int> IndexOf(const QObject* object) const;
@@ -88,6 +98,9 @@ class RoomEntryFrame : public QGroupBox {
     QPushButton* estimate_ = nullptr;
     QPushButton* report_ = nullptr;
     QLabel* itemNumber_ = nullptr;
+    QLabel* note_ = nullptr; ///< the line below the sizes
+    QString warning_;
+    QString hint_;
     RoomDraft shown_; ///< as it was shown last
 };
 
