@@ -1,6 +1,7 @@
 #include "store/Configuration.h"
 
 #include "base/Text.h"
+#include "files/FileModes.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -139,18 +140,22 @@ void WriteConfiguration(const fs::path& directory, const std::string& dataFolder
     const fs::path file = directory / ConfigurationFileName;
     RequireReadableBack(file, dataFolder);
 
-    std::error_code error;
-    fs::create_directories(directory, error);
-    if (error) {
-        RefuseToWrite(file, error.message());
-    }
-    if (fs::exists(file, error) && !(fs::is_regular_file(file, error) && fs::is_empty(file))) {
-        RefuseToWrite(file, "it is there already");
-    }
-
     // Written beside and moved into place, so that no half-written file is ever in force.
     fs::path draft = file;
     draft += ".new";
+    try {
+        MakePrivateFolder(directory);
+        if (fs::exists(file) && !(fs::is_regular_file(file) && fs::is_empty(file))) {
+            RefuseToWrite(file, "it is there already");
+        }
+        if (fs::is_regular_file(draft)) {
+            fs::remove(draft); // of a run that was ended in the middle
+        }
+        MakePrivateFile(draft);
+    } catch (const fs::filesystem_error& failure) {
+        RefuseToWrite(file, failure.code().message());
+    }
+    std::error_code error;
     std::ofstream stream(draft, std::ios::binary);
     stream << TextFor(dataFolder);
     stream.close();

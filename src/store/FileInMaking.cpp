@@ -1,8 +1,8 @@
 #include "store/FileInMaking.h"
 
+#include "files/FileModes.h"
 #include "store/DatabaseError.h"
 
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
@@ -35,6 +35,7 @@ std::string FileInMaking::Path() const {
 }
 
 void FileInMaking::Place() {
+    SetPrivateMode(Path(), QFileInfo(target_).absolutePath().toStdString());
     if (!QFile::rename(QString::fromStdString(Path()), target_)) {
         Refuse("it cannot be moved into its folder, or another program made it meanwhile");
     }
@@ -42,22 +43,17 @@ void FileInMaking::Place() {
 }
 
 void FileInMaking::MakeFolder(const QString& folder) {
-    QStringList missing;
-    for (QString path = folder; !QFileInfo::exists(path); path = QFileInfo(path).absolutePath()) {
-        missing.prepend(path);
-    }
-    for (const QString& path : missing) {
-        if (!QDir().mkdir(path)) {
-            RemoveMadeFolders();
-            Refuse("its folder cannot be made");
-        }
-        madeFolders_.append(path);
+    try {
+        madeFolders_ = MakePrivateFolder(folder.toStdString());
+    } catch (const std::filesystem::filesystem_error&) {
+        Refuse("its folder cannot be made");
     }
 }
 
 void FileInMaking::RemoveMadeFolders() {
-    while (!madeFolders_.isEmpty()) {
-        QDir().rmdir(madeFolders_.takeLast()); // one that holds something by now stays
+    for (; !madeFolders_.empty(); madeFolders_.pop_back()) {
+        std::error_code ignored;
+        std::filesystem::remove(madeFolders_.back(), ignored); // one that holds something stays
     }
 }
 

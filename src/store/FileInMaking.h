@@ -1,11 +1,12 @@
 #pragma once
 
 #include <QString>
-#include <QStringList>
 #include <QTemporaryDir>
 
+#include <filesystem>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace tarn {
 
@@ -23,7 +24,8 @@ class FileInMaking {
 
     /// Where to make the file; nothing stands there yet.
     std::string Path() const;
-    /// Move the file to its target. Raises DatabaseError, as the constructor does.
+    /// Move the file to its target, with the permissions of data files (files/FileModes.h). Raises
+    /// DatabaseError, as the constructor does.
     void Place();
 
   private:
@@ -32,7 +34,7 @@ class FileInMaking {
     [[noreturn]] void Refuse(const char* cause) const;
 
     QString target_;
-    QStringList madeFolders_; ///< outermost first
+    std::vector<std::filesystem::path> madeFolders_; ///< outermost first
     std::optional<QTemporaryDir> workshop_;
     bool placed_ = false;
 };

@@ -211,6 +211,13 @@ TEST_F(ConfigurationFile, ThatCannotBeWrittenIsReportedAndLeavesNothing) {
     EXPECT_FALSE(fs::exists(File()));
 }
 
+TEST_F(ConfigurationFile, IsWrittenOverWhatARunThatWasEndedLeft) {
+    WriteFile(folder_.Path("TarnWin.INI.new"), "[TarnWin Dir");
+    WriteConfiguration(folder_.Path(), "/data");
+    EXPECT_EQ(folder_.Content(), std::vector<std::string>{"TarnWin.INI"});
+    EXPECT_EQ(ReadConfiguration({folder_.Path()}).DataPath, "/data");
+}
+
 TEST(WithNativeSeparators, TurnsEveryBackslashIntoTheSeparator) {
     EXPECT_EQ(WithNativeSeparators("/data\\DATA\\Tarn.mdb"), "/data/DATA/Tarn.mdb");
     EXPECT_EQ(WithNativeSeparators("C:\\EST"), "C:/EST");
