@@ -1,7 +1,7 @@
 #include "files/DatabaseFormat.h"
 
-#include <QFile>
-#include <QFileInfo>
+#include <filesystem>
+#include <fstream>
 
 namespace tarn {
 
@@ -17,12 +17,15 @@ DatabaseFormat DatabaseFormatOf(const QByteArray& head) {
 }
 
 bool IsDatabaseFile(const std::string& path) {
-    QFile file(QString::fromStdString(path));
+    std::error_code error;
     // A device or a pipe must not be read from to be judged.
-    if (!QFileInfo(file).isFile() || !file.open(QIODevice::ReadOnly)) {
+    if (!std::filesystem::is_regular_file(path, error)) {
         return false;
     }
-    return DatabaseFormatOf(file.read(DatabaseHeadSize)) != DatabaseFormat::None;
+    QByteArray head(DatabaseHeadSize, '\0');
+    std::ifstream file(path, std::ios::binary);
+    file.read(head.data(), head.size());
+    return DatabaseFormatOf(head) != DatabaseFormat::None;
 }
 
 } // namespace tarn

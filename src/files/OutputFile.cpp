@@ -1,48 +1,105 @@
 #include "files/OutputFile.h"
 
 #include "files/DatabaseFormat.h"
+#include "files/DeviceOutput.h"
+#include "files/TemporaryFile.h"
 
-#include <QFile>
-#include <QFileInfo>
-#include <QSaveFile>
+#include <cerrno>
+#include <filesystem>
+
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace tarn {
 
 namespace {
 
-void Require(bool written, const QFileDevice& file, const std::string& path) {
-    if (!written) {
-        throw OutputFileError("The file " + path +
-                              " cannot be written: " + file.errorString().toStdString() + ".");
+namespace fs = std::filesystem;
+
+[[noreturn]] void Refuse(const std::string& path, const std::string& cause) {
+    throw OutputFileError("The file " + path + " cannot be written: " + cause + ".");
+}
+
+bool IsDevice(const struct stat& status) {
+    return !S_ISREG(status.st_mode) && !S_ISDIR(status.st_mode);
+}
+
+/// Where the links lead that begin at `path`; nothing need stand there.
+std::string BehindLinks(const std::string& path) {
+    constexpr int MostLinks = 40; // as many as the system follows
+    fs::path end = path;
+    for (int links = 0; fs::is_symlink(fs::symlink_status(end)); ++links) {
+        if (links == MostLinks) {
+            throw std::system_error(std::make_error_code(std::errc::too_many_symbolic_link_levels));
+        }
+        end = end.parent_path() / fs::read_symlink(end);
     }
+    return end.native();
 }
 
-void WriteTo(QFileDevice& file, const std::string& path, const std::string& content) {
-    const auto size = static_cast<qint64>(content.size());
-    Require(file.open(QIODevice::WriteOnly) && file.write(content.data(), size) == size, file,
-            path);
-}
-
-} // namespace
-
-void WriteOutputFile(const std::string& path, const std::string& content) {
-    const QString name = QString::fromStdString(path);
-    const QFileInfo there(name);
-    if (there.exists() && !there.isFile()) {
-        // A device or a pipe must not be replaced by a file of its name, nor read from.
-        QFile device(name);
-        WriteTo(device, path, content);
-        Require(device.flush(), device, path);
+void RequireReplaceable(const std::string& path, const std::string& target, Overwrite over) {
+    constexpr mode_t AnyWrite = S_IWUSR | S_IWGRP | S_IWOTH;
+    struct stat status {};
+    if (::stat(target.c_str(), &status) != 0) {
+        if (errno != ENOENT) {
+            throw LastError();
+        }
         return;
     }
-    if (IsDatabaseFile(path)) {
+    if (S_ISDIR(status.st_mode)) {
+        throw std::system_error(std::make_error_code(std::errc::is_a_directory));
+    }
+    if ((status.st_mode & AnyWrite) == 0) {
+        Refuse(path, "it is read-only");
+    }
+    if (::access(target.c_str(), W_OK) != 0) {
+        throw LastError();
+    }
+    if (over != Overwrite::Anything && IsDatabaseFile(target)) {
         throw OutputFileError(
             "The file " + path +
             " is a database and stays as it is. Name another file for the output.");
     }
-    QSaveFile file(name);
-    WriteTo(file, path, content);
-    Require(file.commit(), file, path);
+}
+
+void WriteFile(const std::string& path, const std::string& content, Overwrite over) {
+    const std::string target = BehindLinks(path);
+    if (target != path && over == Overwrite::Files) {
+        throw OutputFileError("The file " + path + " is a link, which leads to " + target +
+                              ", and stays as it is. Name another file for the output.");
+    }
+    RequireReplaceable(path, target, over);
+    RemoveLeftOvers(FolderOfPath(target));
+    TemporaryFile file(target);
+    file.Fill(content);
+    file.Place();
+}
+
+} // namespace
+
+void WriteOutputFile(const std::string& path, const std::string& content, Overwrite over) {
+    try {
+        struct stat there {};
+        if (::stat(path.c_str(), &there) == 0 && IsDevice(there)) {
+            WriteToDevice(path, content);
+        } else {
+            WriteFile(path, content, over);
+        }
+    } catch (const std::system_error& error) {
+        if (error.code() == std::errc::timed_out) {
+            Refuse(path, "nothing reads from it");
+        }
+        Refuse(path, CauseOf(error.code()));
+    }
+}
+
+void SynchroniseFolder(const std::string& folder) {
+    try {
+        SynchroniseEntries(folder);
+    } catch (const std::system_error& error) {
+        throw OutputFileError("The folder " + folder +
+                              " cannot be stored: " + CauseOf(error.code()) + ".");
+    }
 }
 
 } // namespace tarn

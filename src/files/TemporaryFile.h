@@ -1,0 +1,55 @@
+// Files in the making: beside their target, under a name of their own, until they are whole.
+
+#pragma once
+
+#include "files/Descriptor.h"
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include <sys/stat.h>
+
+namespace tarn {
+
+/// A new, empty file in the folder of its target, locked for as long as this run makes it, so that
+/// no other takes it for a left-over. It is removed again unless it was placed. All raise
+/// std::system_error.
+class TemporaryFile {
+  public:
+    /// A file for the path `target`, which need not be there. Of a file that stands there it will
+    /// have owner, group and mode, as far as the system allows it.
+    explicit TemporaryFile(std::string target);
+    ~TemporaryFile();
+    TemporaryFile(const TemporaryFile&) = delete;
+    TemporaryFile& operator=(const TemporaryFile&) = delete;
+
+    /// Write the content and have it stored on the disk.
+    void Fill(std::string_view content);
+    /// Put the file in the place of the target, and see to it that it stays there. When that fails
+    /// the target is again as it was.
+    void Place();
+
+  private:
+    void Make(mode_t mode);
+    void TakePermissions(const struct stat& former) const;
+
+    std::string target_;
+    std::optional<struct stat> former_; ///< what the target was
+    std::string path_;
+    Descriptor file_;
+    bool placed_ = false;
+};
+
+/// The folder of a path, "." for a name alone.
+std::string FolderOfPath(const std::string& path);
+
+/// Have the entries of a folder stored on the disk. Nothing where the system has no way to do so: in
+/// a folder that may not be read, and on a file system that knows no such thing. Raises
+/// std::system_error.
+void SynchroniseEntries(const std::string& folder);
+
+/// Remove what runs that were killed left of files in the making in a folder.
+void RemoveLeftOvers(const std::string& folder);
+
+} // namespace tarn
