@@ -40,6 +40,20 @@ constexpr bool IsControlCharacter(char32_t c) {
     return c < 0x20 || (c >= 0x7F && c < 0xA0);
 }
 
+/// What no text may hold that is kept.
+enum class TextFault {
+    None,
+    NotUtf8,          ///< a byte that belongs to no character; half a surrogate pair counts as such
+    ControlCharacter, ///< IsControlCharacter
+    NoCharacter       ///< U+FFFE or U+FFFF
+};
+
+/// The first fault of a text.
+TextFault FindTextFault(std::string_view utf8);
+
+/// The text as it is shown: with U+FFFD for each fault, and so without any.
+std::string ShownText(std::string_view utf8);
+
 /// The text with a blank for each control character: what can stand in one line.
 std::string OneLine(std::string_view utf8);
 

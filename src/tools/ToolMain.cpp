@@ -2,19 +2,31 @@
 
 #include "base/RunTimeError.h"
 #include "tools/ExitStatus.h"
+#include "tools/StandardStreams.h"
 
 #include <iostream>
 
 namespace tarn {
 
+namespace {
+
+void Tell(std::string_view program, std::string_view text) {
+    std::cerr << program << ": " << text << '\n';
+}
+
+} // namespace
+
 int RunTool(std::string_view program, const std::function<void()>& body) {
     try {
         body();
-        return Done;
+        if (IsStandardOutputWritten()) {
+            return Done;
+        }
+        Tell(program, "What was asked for is done, but standard output cannot be written.");
     } catch (const RunTimeError& error) {
-        std::cerr << program << ": " << error.Heading() << ' ' << error.Sentences() << '\n';
+        Tell(program, error.Heading() + ' ' + error.Sentences());
     } catch (const std::exception& error) {
-        std::cerr << program << ": " << error.what() << '\n';
+        Tell(program, error.what());
     }
     return Refused;
 }

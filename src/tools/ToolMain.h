@@ -3,10 +3,20 @@
 #include <functional>
 #include <string_view>
 
+namespace CLI {
+class App;
+class ParseError;
+} // namespace CLI
+
 namespace tarn {
 
 /// Run the body of a command-line program: a refusal, a database failure or a run-time error is
-/// told on standard error behind the program's name. Returns the exit status.
+/// told on standard error behind the program's name, and so is standard output that could not be
+/// written. Returns the exit status.
 int RunTool(std::string_view program, const std::function<void()>& body);
+
+/// Tell why the arguments give nothing to run: they ask for help or the version, or cannot be
+/// understood. Returns the exit status.
+int ExplainArguments(const CLI::App& options, const CLI::ParseError& error);
 
 } // namespace tarn

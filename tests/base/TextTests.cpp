@@ -7,6 +7,22 @@
 namespace tarn {
 namespace {
 
+/// One character as UTF-8.
+std::string Encoded(char32_t c) {
+    const auto byte = [](char32_t value) { return static_cast<char>(value); };
+    if (c < 0x80) {
+        return {byte(c)};
+    }
+    if (c < 0x800) {
+        return {byte(0xC0 | c >> 6), byte(0x80 | (c & 0x3F))};
+    }
+    if (c < 0x10000) {
+        return {byte(0xE0 | c >> 12), byte(0x80 | (c >> 6 & 0x3F)), byte(0x80 | (c & 0x3F))};
+    }
+    return {byte(0xF0 | c >> 18), byte(0x80 | (c >> 12 & 0x3F)), byte(0x80 | (c >> 6 & 0x3F)),
+            byte(0x80 | (c & 0x3F))};
+}
+
 TEST(TrimStr, GivesAWholeNumberWithoutBlanks) {
     EXPECT_EQ(TrimStr(0), "0");
     EXPECT_EQ(TrimStr(-32768), "-32768");
@@ -91,6 +107,50 @@ TEST(IsControlCharacter, IsTrueForThoseOfAsciiAndOfLatin1AndNoOthers) {
 
 TEST(CrLf, IsCarriageReturnAndLineFeed) {
     EXPECT_EQ(CrLf, "\x0D\x0A");
+}
+
+TEST(FindTextFault, TellsEveryCharacterThatMayBeKept) {
+    for (char32_t c = 0; c <= 0x10FFFF; ++c) {
+        if (c >= 0xD800 && c < 0xE000) {
+            continue;
+        }
+        const TextFault expected = IsControlCharacter(c)          ? TextFault::ControlCharacter
+                                   : c == 0xFFFE || c == 0xFFFF ? TextFault::NoCharacter
+                                                                : TextFault::None;
+        const std::string text = "a" + Encoded(c) + "\u00E9";
+        ASSERT_EQ(FindTextFault(text), expected) << std::hex << static_cast<unsigned long>(c);
+        ASSERT_EQ(ShownText(text), expected == TextFault::None ? text : "a\uFFFD\u00E9");
+    }
+}
+
+TEST(FindTextFault, TellsBytesThatAreNoCharacter) {
+    for (const std::string bytes :
+         {"\x80", "\xBF", "\xC0\x80", "\xC1\xBF", "\xC3", "\xE0\x9F\xBF", "\xE6\xB5",
+          "\xED\xA0\x80", "\xED\xBF\xBF", "\xF0\x8F\xBF\xBF", "\xF4\x90\x80\x80",
+          "\xF0\x9F\x9B", "\xF5\x80\x80\x80", "\xFE", "\xFF"}) {
+        std::string shown;
+        for (std::size_t i = 0; i < bytes.size(); ++i) {
+            shown += "\uFFFD";
+        }
+        for (const std::string end : {"", "a", "\u00E9"}) {
+            const std::string text = "\U0001F6C1" + bytes + end;
+            EXPECT_EQ(FindTextFault(text), TextFault::NotUtf8) << ::testing::PrintToString(text);
+            EXPECT_EQ(ShownText(text), "\U0001F6C1" + shown + end);
+        }
+    }
+}
+
+TEST(FindTextFault, TellsTheFirstOfSeveral) {
+    EXPECT_EQ(FindTextFault("a\n\xFF"), TextFault::ControlCharacter);
+    EXPECT_EQ(FindTextFault("a\xFF\n"), TextFault::NotUtf8);
+    EXPECT_EQ(FindTextFault("\uFFFF\n"), TextFault::NoCharacter);
+    EXPECT_EQ(FindTextFault(""), TextFault::None);
+    EXPECT_EQ(FindTextFault(std::string_view("\0", 1)), TextFault::ControlCharacter);
+}
+
+TEST(ShownText, IsShownAsItIs) {
+    EXPECT_EQ(ShownText("\x1B[31m red\r\n"), "\uFFFD[31m red\uFFFD\uFFFD");
+    EXPECT_EQ(ShownText(ShownText("\x9B\u009B\uFFFE")), "\uFFFD\uFFFD\uFFFD");
 }
 
 TEST(OneLine, HasABlankForEachControlCharacterAndAllElseAsItIs) {

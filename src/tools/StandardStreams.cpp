@@ -1,0 +1,38 @@
+#include "tools/StandardStreams.h"
+
+#include "tools/Refusal.h"
+
+#include <csignal>
+#include <cstdio>
+#include <iostream>
+
+#include <fcntl.h>
+#include <unistd.h>
+
+namespace tarn {
+
+void HoldStandardStreams() {
+    static_cast<void>(std::signal(SIGPIPE, SIG_IGN));
+    for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
+        if (::fcntl(stream, F_GETFD) < 0) {
+            // It becomes the lowest number that is free, which is this one. Opened the other way
+            // round, it refuses what a closed one refuses.
+            static_cast<void>(
+                ::open("/dev/null", stream == STDIN_FILENO ? O_WRONLY : O_RDONLY) < 0);
+        }
+    }
+}
+
+void WriteStandardOutput(std::string_view text) {
+    std::cout.write(text.data(), static_cast<std::streamsize>(text.size()));
+    if (!IsStandardOutputWritten()) {
+        throw Refusal(std::string(StandardOutputRefusal));
+    }
+}
+
+bool IsStandardOutputWritten() {
+    std::cout.flush();
+    return std::cout.good() && std::fflush(stdout) == 0 && std::ferror(stdout) == 0;
+}
+
+} // namespace tarn

@@ -1,0 +1,26 @@
+// The streams that a program is started with.
+
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace tarn {
+
+/// See to it that standard input, output and error are there, before any file is opened: a file
+/// would take the place of one that was closed, and get what is written to it. Writing to standard
+/// output that was closed then fails, as to one whose reader went away, which no longer ends the
+/// program.
+void HoldStandardStreams();
+
+/// Write `text` to standard output, behind what was written before. Raises Refusal when it cannot
+/// be written.
+void WriteStandardOutput(std::string_view text);
+
+/// Whether everything that was written to standard output came through.
+bool IsStandardOutputWritten();
+
+/// What standard output that cannot be written is refused with.
+inline constexpr std::string_view StandardOutputRefusal = "Standard output cannot be written.";
+
+} // namespace tarn
