@@ -3,10 +3,14 @@
 #include "files/DatabaseFormat.h"
 #include "store/Configuration.h"
 #include "store/DatabaseError.h"
+#include "store/Journal.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QRandomGenerator>
+
+#include <limits>
 
 namespace tarn {
 
@@ -39,6 +43,9 @@ void RequireSqliteFile(const std::string& path, const QFileInfo& info) {
     }
     if (info.isDir()) {
         Refuse(path, "is a folder. " + CorrectThePath() + ".");
+    }
+    if (!info.isFile()) { // to open a pipe would wait for ever
+        Refuse(path, "is a pipe, a device or a socket. " + CorrectThePath() + ".");
     }
     QFile file(info.filePath());
     if (!file.open(QIODevice::ReadOnly)) {
@@ -74,6 +81,7 @@ std::unique_ptr<Connection> ConnectToFile(const std::string& path, DatabaseAcces
                                           int busyWait) {
     const QFileInfo info(QString::fromStdString(path));
     RequireSqliteFile(path, info);
+    RequireOwnJournal(path);
     if (access == DatabaseAccess::ReadWrite) {
         RequireWritable(path, info);
         return std::make_unique<Connection>(path, Connection::Access::ReadWrite, busyWait);
@@ -114,8 +122,18 @@ std::unique_ptr<Connection> OpenDatabaseFile(const std::string& path, DatabaseAc
                                              int busyWait) {
     auto connection = ConnectToFile(path, access, busyWait);
     RequireSound(*connection, path);
-    connection->Run("PRAGMA synchronous = FULL", "The database file " + path + " cannot be opened");
+    const std::string failing = "The database file " + path + " cannot be opened";
+    connection->Run("PRAGMA synchronous = FULL", failing);
+    // Nothing of a change reaches the file before the journal is whole, the first page in it: by
+    // that page a journal is told to be the file's own.
+    connection->Run("PRAGMA cache_spill = OFF", failing);
     return connection;
+}
+
+void MarkAsCopyOfItsOwn(Connection& connection, const std::string& failing) {
+    constexpr int Greatest = std::numeric_limits<int>::max();
+    const int mark = QRandomGenerator::system()->bounded(1, Greatest);
+    connection.Run("PRAGMA user_version = " + std::to_string(mark), failing);
 }
 
 } // namespace tarn

@@ -120,6 +120,7 @@ void CreateDatabaseFile(const std::string& path) {
         for (const Table& table : Tables()) {
             Create(connection, table);
         }
+        MarkAsCopyOfItsOwn(connection, failing);
         connection.Run("COMMIT", failing);
     }
     file.Place();
@@ -150,6 +151,10 @@ void BackUpDatabaseFile(const std::string& source, const std::string& target, in
     connection->Run("PRAGMA query_only = OFF",
                     failing); // it keeps the copy from being written, too
     connection->Run("VACUUM INTO ?", failing, {TextValue(file.Path())});
+    {
+        Connection copy(file.Path(), Connection::Access::ReadWrite, busyWait);
+        MarkAsCopyOfItsOwn(copy, failing);
+    }
     file.Place();
 }
 

@@ -4,6 +4,7 @@
 
 #include <filesystem>
 #include <functional>
+#include <sys/stat.h>
 
 namespace tarn {
 namespace {
@@ -78,6 +79,19 @@ INSTANTIATE_TEST_SUITE_P(
                     fs::create_directory(path);
                 },
                 "is a folder. Correct its path or the data folder in TarnWin.INI."},
+        BadFile{"Pipe", // which nobody writes to: to open it would wait for ever
+                [](const std::string& path) {
+                    fs::remove(path);
+                    ASSERT_EQ(mkfifo(path.c_str(), 0600), 0);
+                },
+                "is a pipe, a device or a socket. Correct its path or the data folder in "
+                "TarnWin.INI."},
+        BadFile{"Device",
+                [](const std::string& path) {
+                    fs::remove(path);
+                    fs::create_symlink("/dev/zero", path);
+                },
+                "is a pipe, a device or a socket."},
         BadFile{"Empty", [](const std::string& path) { WriteFile(path, ""); }, "is empty"},
         BadFile{"OneByte", [](const std::string& path) { WriteFile(path, "S"); },
                 "is not a database"},
