@@ -11,7 +11,10 @@
 namespace tarn {
 
 /// The wall-base code of a room says how many of its widths and lengths take wall base: widths +
-/// 3 × lengths, each 0 .. 2. 0 is no base; a stored code above 8 is none that can be typed.
+/// 3 × lengths, each 0 .. 2. 0 is no base; a stored code above LastBaseCode is none that can be
+/// typed.
+inline constexpr Byte LastBaseCode = 8;
+
 constexpr Integer BaseWidths(Byte code) {
     return static_cast<Integer>(code % 3);
 }
@@ -19,7 +22,7 @@ constexpr Integer BaseLengths(Byte code) {
     return static_cast<Integer>(code / 3);
 }
 
-/// The text of a wall-base code: "W2L1" for 5; empty for 0 and for codes above 8.
+/// The text of a wall-base code: "W2L1" for 5; empty for 0 and for codes above LastBaseCode.
 std::string BaseText(Byte code);
 
 /// The wall-base code of a text, whatever its letter case: the number behind the first W is the

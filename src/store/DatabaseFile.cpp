@@ -36,7 +36,19 @@ QFileInfo FolderOf(const QFileInfo& file) {
     return QFileInfo(QFileInfo(file.canonicalFilePath()).absolutePath());
 }
 
-void RequireSqliteFile(const std::string& path, const QFileInfo& info) {
+void RequireWritable(const std::string& path, const QFileInfo& info) {
+    if (!TakesWriting(info)) {
+        Refuse(path, "is read-only. Allow writing to it.");
+    }
+    if (!TakesWriting(FolderOf(info))) {
+        Refuse(path, "lies in a read-only folder. Allow writing to the folder.");
+    }
+}
+
+} // namespace
+
+void RequireDatabaseFile(const std::string& path) {
+    const QFileInfo info(QString::fromStdString(path));
     if (!info.exists()) {
         Refuse(path, "is missing. " + CorrectThePath() +
                          ", or make a new data folder with \"tarn-data create\".");
@@ -47,6 +59,7 @@ void RequireSqliteFile(const std::string& path, const QFileInfo& info) {
     if (!info.isFile()) { // to open a pipe would wait for ever
         Refuse(path, "is a pipe, a device or a socket. " + CorrectThePath() + ".");
     }
+    RequireFilesBeside(path);
     QFile file(info.filePath());
     if (!file.open(QIODevice::ReadOnly)) {
         Refuse(path, "cannot be read: " + file.errorString().toStdString() + ".");
@@ -66,21 +79,10 @@ void RequireSqliteFile(const std::string& path, const QFileInfo& info) {
     }
 }
 
-void RequireWritable(const std::string& path, const QFileInfo& info) {
-    if (!TakesWriting(info)) {
-        Refuse(path, "is read-only. Allow writing to it.");
-    }
-    if (!TakesWriting(FolderOf(info))) {
-        Refuse(path, "lies in a read-only folder. Allow writing to the folder.");
-    }
-}
-
-} // namespace
-
 std::unique_ptr<Connection> ConnectToFile(const std::string& path, DatabaseAccess access,
                                           int busyWait) {
     const QFileInfo info(QString::fromStdString(path));
-    RequireSqliteFile(path, info);
+    RequireDatabaseFile(path);
     RequireOwnJournal(path);
     if (access == DatabaseAccess::ReadWrite) {
         RequireWritable(path, info);
@@ -95,7 +97,7 @@ std::unique_ptr<Connection> ConnectToFile(const std::string& path, DatabaseAcces
     return connection;
 }
 
-void RequireSound(Connection& connection, const std::string& path) {
+std::optional<std::string> DamageOf(Connection& connection, const std::string& path) {
     const std::string failing = "The database file " + path + " cannot be opened";
     const auto ask = [&](const char* statement) {
         return connection.Run(statement, failing).Rows.at(0).at(0);
@@ -112,8 +114,12 @@ void RequireSound(Connection& connection, const std::string& path) {
         finding = QStringLiteral("a part of it is missing");
     }
     connection.Run("COMMIT", failing);
-    if (finding != QStringLiteral("ok")) {
-        throw DatabaseError("The database file " + path + " is damaged (" + finding.toStdString() +
+    return finding == QStringLiteral("ok") ? std::nullopt : std::optional(finding.toStdString());
+}
+
+void RequireSound(Connection& connection, const std::string& path) {
+    if (const auto damage = DamageOf(connection, path)) {
+        throw DatabaseError("The database file " + path + " is damaged (" + *damage +
                             "). Put a backup in its place.");
     }
 }

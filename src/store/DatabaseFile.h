@@ -6,9 +6,14 @@
 #include "store/DatabaseAccess.h"
 
 #include <memory>
+#include <optional>
 #include <string>
 
 namespace tarn {
+
+/// Raise DatabaseError for a file that is missing, a folder, a pipe, a device, empty, of the older
+/// Jet format or no SQLite database, before anything opens it.
+void RequireDatabaseFile(const std::string& path);
 
 /// Connect to an existing database file, without a look at the soundness of its content. `path` may
 /// hold any character. Raises DatabaseError, naming the file, the cause and what to do.
@@ -25,6 +30,10 @@ std::unique_ptr<Connection> ConnectToFile(const std::string& path, DatabaseAcces
 /// that is damaged, and that another program has locked for longer than `busyWait`.
 std::unique_ptr<Connection> OpenDatabaseFile(const std::string& path, DatabaseAccess access,
                                              int busyWait);
+
+/// How the content is damaged, in the database engine's words; nothing when it is sound. Raises
+/// DatabaseError when it cannot be told.
+std::optional<std::string> DamageOf(Connection& connection, const std::string& path);
 
 /// Raise DatabaseError when the content is damaged.
 void RequireSound(Connection& connection, const std::string& path);

@@ -184,7 +184,7 @@ JournalKind JournalBeside(const std::string& database) {
     return LookBeside(CanonicalPath(database), beside).value_or(JournalKind::Own);
 }
 
-void RequireOwnJournal(const std::string& database) {
+void RequireFilesBeside(const std::string& database) {
     const std::string path = CanonicalPath(database).toStdString();
     for (const char* suffix : {"-journal", "-wal"}) {
         const QFileInfo beside(QString::fromStdString(path + suffix));
@@ -193,16 +193,22 @@ void RequireOwnJournal(const std::string& database) {
                                 suffix + " is no file. Remove it.");
         }
     }
+}
+
+void RequireOwnJournal(const std::string& database) {
     if (JournalBeside(database) == JournalKind::Foreign) {
-        throw DatabaseError(
-            "The database file " + database + " is not opened: beside it lies " +
-            JournalPath(database) +
-            ", the journal of a change that was cut off, and it belongs to another state of the "
-            "file, as when a backup was copied over the file. Together they would give wrong "
-            "rooms; nothing was changed. Put a backup in place with \"tarn-data restore BACKUP "
-            "--database " +
-            database + "\", which sets the journal aside.");
+        throw DatabaseError(ForeignJournalText(database));
     }
+}
+
+std::string ForeignJournalText(const std::string& database) {
+    return "The database file " + database + " is not opened: beside it lies " +
+           JournalPath(database) +
+           ", the journal of a change that was cut off, and it belongs to another state of the "
+           "file, as when a backup was copied over the file. Together they would give wrong rooms; "
+           "nothing was changed. Put a backup in place with \"tarn-data restore BACKUP "
+           "--database " +
+           database + "\", which sets the journal aside.";
 }
 
 } // namespace tarn

@@ -26,9 +26,14 @@ std::string JournalPath(const std::string& database);
 /// writes.
 JournalKind JournalBeside(const std::string& database);
 
-/// Raise DatabaseError when a foreign journal lies beside the file, with the way out; also when
-/// something that is no file stands where the engine would look for a journal. A journal counts as
-/// foreign when it is still found so after a moment.
+/// Raise DatabaseError when something that is no file stands where the engine would open a journal:
+/// with a pipe it would wait for ever.
+void RequireFilesBeside(const std::string& database);
+
+/// Raise DatabaseError when a foreign journal lies beside the file, with the way out.
 void RequireOwnJournal(const std::string& database);
+
+/// What is told of a foreign journal: why the file is not opened, and the way out.
+std::string ForeignJournalText(const std::string& database);
 
 } // namespace tarn

@@ -1,71 +1,107 @@
 #include "store/Schema.h"
 
-#include "store/Connection.h"
+#include "project/Coverings.h"
+#include "project/Room.h"
+#include "project/WallBase.h"
 #include "store/DatabaseError.h"
 #include "store/DatabaseFile.h"
 #include "store/FileInMaking.h"
 
 #include <algorithm>
+#include <limits>
 
 namespace tarn {
 
 namespace {
 
-struct FieldOfTable {
-    std::string_view Name;
-    std::string_view Type;
-    bool Indexed = false;
-    /// A database made without the field is in order all the same.
-    bool Optional = false;
-};
-
-struct Table {
-    std::string_view Name;
-    std::vector<FieldOfTable> Fields;
-};
-
 constexpr std::string_view Number = "INTEGER";
 constexpr std::string_view Real = "REAL";
-constexpr std::string_view Text = "TEXT COLLATE NOCASE";
-constexpr FieldOfTable SheetNumber = {"TabIndex", Number, true};
-constexpr FieldOfTable ProjectName = {"ProjName", Text, true};
+constexpr std::string_view TextType = "TEXT COLLATE NOCASE";
+constexpr std::int32_t GreatestSheet = std::numeric_limits<Integer>::max();
 
-std::vector<FieldOfTable> FieldsOf(std::string_view sheetTable) {
+Field WholeField(std::string_view name, std::int32_t greatest) {
+    return {name, Number, FieldContent::WholeNumber, 0, greatest};
+}
+
+Field UnusedField(std::string_view name, std::string_view type) {
+    return {name, type};
+}
+
+Field TextField(std::string_view name, FieldContent content) {
+    return {name, TextType, content};
+}
+
+Field Indexed(Field field) {
+    field.Indexed = true;
+    return field;
+}
+
+Field OrNull(Field field) {
+    field.MayBeNull = true;
+    return field;
+}
+
+Field Optional(Field field) {
+    field.Optional = true;
+    return field;
+}
+
+Field SheetNumber() {
+    return Indexed(WholeField("TabIndex", GreatestSheet));
+}
+
+Field ProjectName() {
+    return Indexed(TextField("ProjName", FieldContent::ProjectName));
+}
+
+std::vector<Field> FieldsOf(std::string_view sheetTable) {
+    constexpr std::int32_t MostRooms = RoomCapacity;
+    constexpr std::int32_t GreatestSize = std::numeric_limits<Integer>::max();
     if (sheetTable == MainTab) {
-        return {SheetNumber,           ProjectName,
-                {"ObjNum", Number},    {"PicScale", Real},
-                {"DigScale", Real},    {"TileLabelNUm", Number},
-                {"MagScale", Number},  {"ScaleTop", Number},
-                {"ScaleLeft", Number}, {"EnteredMetric", Number, false, true}};
+        return {SheetNumber(),
+                ProjectName(),
+                WholeField("ObjNum", MostRooms),
+                UnusedField("PicScale", Real),
+                {"DigScale", Real, FieldContent::AboveZero},
+                OrNull(WholeField("TileLabelNUm", 1)),
+                UnusedField("MagScale", Number),
+                UnusedField("ScaleTop", Number),
+                UnusedField("ScaleLeft", Number),
+                Optional(OrNull(WholeField("EnteredMetric", 1)))};
     }
     if (sheetTable == InputData) {
-        return {{"ObjNum", Number},   {"RoomW", Number},  {"RoomL", Number},   {"RoomNoStr", Text},
-                {"RoomRemark", Text}, {"CTType", Number}, {"BaseSty", Number}, SheetNumber};
+        return {
+            WholeField("ObjNum", MostRooms - 1),         WholeField("RoomW", GreatestSize),
+            WholeField("RoomL", GreatestSize),           TextField("RoomNoStr", FieldContent::Text),
+            TextField("RoomRemark", FieldContent::Text), WholeField("CTType", LastTileCode),
+            WholeField("BaseSty", LastBaseCode),         SheetNumber()};
     }
-    return {SheetNumber};
+    return {SheetNumber()};
 }
 
-std::vector<Table> Tables() {
-    std::vector<Table> tables = {
-        {DirTab, {{"Directory", Text}}},
-        {ProjTab, {{"Dir", Text, true}, ProjectName, {"DrawingNum", Number}}},
+std::vector<TableShape> MakeShapes() {
+    std::vector<TableShape> shapes = {
+        {DirTab, {TextField("Directory", FieldContent::DirectoryName)}},
+        {ProjTab,
+         {Indexed(TextField("Dir", FieldContent::DirectoryName)), ProjectName(),
+          UnusedField("DrawingNum", Number)}},
     };
     for (const std::string_view name : SheetTables) {
-        tables.push_back({name, FieldsOf(name)});
+        shapes.push_back({name, FieldsOf(name)});
     }
-    return tables;
+    return shapes;
 }
 
-void Create(Connection& connection, const Table& table) {
+void Create(Connection& connection, const TableShape& table) {
     const std::string name(table.Name);
     const std::string failing = "The table " + name + " cannot be made";
     std::string columns;
-    for (const FieldOfTable& field : table.Fields) {
+    for (const Field& field : table.Fields) {
         columns += columns.empty() ? "" : ", ";
         columns.append(field.Name).append(" ").append(field.Type);
     }
     connection.Run("CREATE TABLE " + name + " (" + columns + ")", failing);
-    for (const FieldOfTable& field : table.Fields) {
+    for (const Field& field : table.Fields) {
         if (field.Indexed) {
             std::string index = "CREATE INDEX " + name;
             index.append(field.Name).append(" ON ").append(name);
@@ -75,41 +111,23 @@ void Create(Connection& connection, const Table& table) {
     }
 }
 
-void FindIntegrityFaults(Connection& connection, const std::string& path,
-                         std::vector<std::string>& findings) {
-    const Result check = connection.Run("PRAGMA integrity_check",
-                                        "The database file " + path + " cannot be checked");
-    for (const QVariantList& row : check.Rows) {
-        const QString line = row.at(0).toString();
-        if (line != QStringLiteral("ok")) {
-            findings.push_back("Damaged: " + line.toStdString());
-        }
-    }
-}
-
-void FindMissingFields(Connection& connection, const Table& table,
-                       std::vector<std::string>& findings) {
-    const std::string name(table.Name);
-    const Result columns = connection.Run("PRAGMA table_info(" + name + ")",
-                                          "The table " + name + " cannot be checked");
-    if (columns.Rows.empty()) {
-        findings.push_back("The table " + name + " is missing.");
-        return;
-    }
-    for (const FieldOfTable& field : table.Fields) {
-        const QString wanted = TextValue(field.Name).toString();
-        const bool found = std::any_of(
-            columns.Rows.begin(), columns.Rows.end(), [&wanted](const QVariantList& column) {
-                return column.at(1).toString().compare(wanted, Qt::CaseInsensitive) == 0;
-            });
-        if (!found && !field.Optional) {
-            findings.push_back("The table " + name + " has no field " + std::string(field.Name) +
-                               ".");
-        }
-    }
-}
-
 } // namespace
+
+const std::vector<TableShape>& TableShapes() {
+    static const std::vector<TableShape> shapes = MakeShapes();
+    return shapes;
+}
+
+const TableShape& ShapeOf(std::string_view table) {
+    return *std::find_if(TableShapes().begin(), TableShapes().end(),
+                         [table](const TableShape& shape) { return shape.Name == table; });
+}
+
+void CreateTables(Connection& connection) {
+    for (const TableShape& table : TableShapes()) {
+        Create(connection, table);
+    }
+}
 
 void CreateDatabaseFile(const std::string& path) {
     FileInMaking file(path);
@@ -117,30 +135,11 @@ void CreateDatabaseFile(const std::string& path) {
         Connection connection(file.Path(), Connection::Access::Create, DefaultBusyWait);
         const std::string failing = "The database file " + path + " cannot be made";
         connection.Run("BEGIN", failing);
-        for (const Table& table : Tables()) {
-            Create(connection, table);
-        }
+        CreateTables(connection);
         MarkAsCopyOfItsOwn(connection, failing);
         connection.Run("COMMIT", failing);
     }
     file.Place();
-}
-
-std::vector<std::string> CheckDatabaseFile(const std::string& path, int busyWait) {
-    std::vector<std::string> findings;
-    try {
-        const auto connection = ConnectToFile(path, DatabaseAccess::ReadOnly, busyWait);
-        FindIntegrityFaults(*connection, path, findings);
-        if (findings.empty()) {
-            RequireSound(*connection, path); // finds a file cut short, which the above does not
-        }
-        for (const Table& table : Tables()) {
-            FindMissingFields(*connection, table, findings);
-        }
-    } catch (const DatabaseError& error) {
-        findings.emplace_back(error.what());
-    }
-    return findings;
 }
 
 void BackUpDatabaseFile(const std::string& source, const std::string& target, int busyWait) {

@@ -1,10 +1,12 @@
-// The tables: their names and fields, and what is done to a database file as a whole.
+// The tables: their names and fields, what may stand in each, and how they are made.
 
 #pragma once
 
+#include "store/Connection.h"
 #include "store/DatabaseAccess.h"
 
 #include <array>
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -22,14 +24,46 @@ inline constexpr std::array<std::string_view, 10> SheetTables = {
     "AFillTab", "AngleMCut", "AInputData", "ESTTab",   "FillCut",
     InputData,  "MasterCut", "SAFill",     "SFillCut", MainTab};
 
+/// What may stand in a field.
+enum class FieldContent {
+    Anything,      ///< its value is not used
+    WholeNumber,   ///< from Field::Least to Field::Greatest
+    AboveZero,     ///< a number above 0
+    Text,          ///< a text without a TextFault, or a null
+    DirectoryName, ///< a name as StoredName makes it
+    ProjectName,   ///< the same, without the characters that no project name holds
+};
+
+/// A field of a table.
+struct Field {
+    std::string_view Name;
+    std::string_view Type; ///< as it is declared
+    FieldContent Content = FieldContent::Anything;
+    std::int32_t Least = 0; ///< of a WholeNumber
+    std::int32_t Greatest = 0;
+    bool Indexed = false;
+    bool MayBeNull = false; ///< of a WholeNumber
+    /// A database made without the field is in order all the same.
+    bool Optional = false;
+};
+
+/// A table with its fields.
+struct TableShape {
+    std::string_view Name;
+    std::vector<Field> Fields;
+};
+
+/// Every table.
+const std::vector<TableShape>& TableShapes();
+/// The table of that name, which must be one of them.
+const TableShape& ShapeOf(std::string_view table);
+
+/// Make every table, empty, with its indexes. Raises DatabaseError.
+void CreateTables(Connection& connection);
+
 /// Make an empty database file with every table. The folders on the way are made too. Raises
 /// DatabaseError, and leaves nothing behind, when it cannot, and when anything stands at `path`.
 void CreateDatabaseFile(const std::string& path);
-
-/// Look a database file over: whether it can be read, whether its content is sound, and whether
-/// every table is there with its fields. One line for each finding; none when all is well. Changes
-/// nothing.
-std::vector<std::string> CheckDatabaseFile(const std::string& path, int busyWait = DefaultBusyWait);
 
 /// Copy a database file as it stands between two changes, also while programs use it. Raises
 /// DatabaseError, and leaves nothing behind, when the source is refused or the copy cannot be made,

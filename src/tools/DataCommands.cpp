@@ -7,6 +7,7 @@
 #include "project/Coverings.h"
 #include "project/Report.h"
 #include "project/WallBase.h"
+#include "store/Check.h"
 #include "store/Configuration.h"
 #include "store/DataFolder.h"
 #include "store/ProjectStore.h"

@@ -1,3 +1,4 @@
+#include "store/Check.h"
 #include "store/Schema.h"
 #include "store/TestDatabase.h"
 

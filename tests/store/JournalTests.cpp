@@ -1,6 +1,7 @@
 #include "store/DatabaseFile.h"
 #include "store/FileLock.h"
 #include "store/Journal.h"
+#include "store/OtherProgram.h"
 #include "store/Schema.h"
 #include "store/TestDatabase.h"
 
@@ -21,6 +22,7 @@ namespace {
 namespace fs = std::filesystem;
 
 using testing::DatabaseErrorOf;
+using testing::OtherProgram;
 using testing::RawDatabase;
 using testing::ReadFile;
 using testing::ShortWait;
@@ -262,9 +264,7 @@ TEST(AJournal, ThatCountsForNothingIsNoHindrance) {
 TEST(AJournal, OfAnotherProgramThatIsWritingIsNoHindrance) {
     const TestDatabase file;
     FillWithRooms(file);
-    RawDatabase writer(file.Path());
-    writer.Run("BEGIN IMMEDIATE");
-    writer.Run("UPDATE InputData SET RoomW = 1");
+    const OtherProgram writer(file.Path(), {"BEGIN IMMEDIATE", "UPDATE InputData SET RoomW = 1"});
     ASSERT_TRUE(fs::exists(file.Path() + "-journal"));
     EXPECT_TRUE(FileLock(file.Path(), FileLock::Kind::Reading, ShortWait).HasWriter());
     EXPECT_NE(JournalBeside(file.Path()), JournalKind::Foreign);

@@ -1,0 +1,36 @@
+#include "store/Findings.h"
+
+namespace tarn {
+
+void Findings::Tell(const std::string& sentence) {
+    kinds_.push_back({sentence, {}, 0});
+}
+
+void Findings::Add(const std::string& kind, const std::string& place) {
+    const auto [known, isNew] = indexes_.try_emplace(kind, kinds_.size());
+    if (isNew) {
+        kinds_.push_back({kind, {}, 0});
+    }
+    Kind& found = kinds_.at(known->second);
+    ++found.Count;
+    if (found.Places.size() < most_) {
+        found.Places.push_back(place);
+    }
+}
+
+std::vector<std::string> Findings::Lines() const {
+    std::vector<std::string> lines;
+    for (const Kind& kind : kinds_) {
+        std::string line = kind.Text;
+        for (std::size_t i = 0; i < kind.Places.size(); ++i) {
+            line += (i == 0 ? ": " : "; ") + kind.Places.at(i);
+        }
+        if (kind.Count > kind.Places.size()) {
+            line += "; and " + std::to_string(kind.Count - kind.Places.size()) + " more";
+        }
+        lines.push_back(line + (kind.Places.empty() ? "" : "."));
+    }
+    return lines;
+}
+
+} // namespace tarn

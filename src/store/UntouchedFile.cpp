@@ -1,0 +1,64 @@
+#include "store/UntouchedFile.h"
+
+#include "store/DatabaseError.h"
+#include "store/DatabaseFile.h"
+#include "store/FileLock.h"
+#include "store/Journal.h"
+
+#include <QFile>
+
+namespace tarn {
+
+namespace {
+
+void CopyFile(const std::string& from, const std::string& to) {
+    QFile file(QString::fromStdString(from));
+    if (!file.copy(QString::fromStdString(to))) {
+        throw DatabaseError("The database file " + from +
+                            " cannot be looked over: a copy of it "
+                            "cannot be made (" +
+                            file.errorString().toStdString() + ").");
+    }
+    QFile::setPermissions(QString::fromStdString(to), QFile::ReadOwner | QFile::WriteOwner);
+}
+
+} // namespace
+
+UntouchedFile::UntouchedFile(const std::string& path, int busyWait)
+    : path_(path) {
+    RequireDatabaseFile(path);
+    if (JournalBeside(path) != JournalKind::None) {
+        // Nobody takes the change back while it is copied. A change that is being made is none
+        // that was cut off.
+        const FileLock lock(path, FileLock::Kind::Reading, busyWait);
+        if (!lock.HasWriter()) {
+            Copy(path);
+        }
+    }
+    connection_ = std::make_unique<Connection>(
+        path_, copy_ ? Connection::Access::ReadWrite : Connection::Access::ReadOnly, busyWait);
+}
+
+void UntouchedFile::Copy(const std::string& path) {
+    const JournalKind kind = JournalBeside(path);
+    if (kind == JournalKind::None) {
+        return; // taken back meanwhile
+    }
+    copy_.emplace();
+    if (!copy_->isValid()) {
+        throw DatabaseError("The database file " + path +
+                            " cannot be looked over: the folder for temporary files takes none.");
+    }
+    path_ = copy_->filePath(QStringLiteral("copy.mdb")).toStdString();
+    CopyFile(path, path_);
+    if (kind == JournalKind::Own) {
+        CopyFile(JournalPath(path), JournalPath(path_));
+        journalFinding_ = "A change was cut off by a crash: " + JournalPath(path) +
+                          " lies beside the file. The next program that opens the file takes that "
+                          "change back.";
+    } else {
+        journalFinding_ = ForeignJournalText(path);
+    }
+}
+
+} // namespace tarn
