@@ -1,26 +1,74 @@
 #include "store/FileInMaking.h"
 
 #include "files/FileModes.h"
+#include "files/OutputFile.h"
 #include "store/DatabaseError.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
+#include <algorithm>
+#include <cerrno>
+#include <cstdio>
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
 namespace tarn {
 
-FileInMaking::FileInMaking(const std::string& target)
-    : target_(QFileInfo(QString::fromStdString(target)).absoluteFilePath()) {
+namespace {
+
+constexpr qsizetype WorkshopDigits = 6;
+
+QString WorkshopName() {
+    return QStringLiteral(".tarn-") + QString(WorkshopDigits, u'X');
+}
+
+/// Whether this run has the folder's lock now; true also where the file system knows no locks.
+bool Lock(const Descriptor& folder) {
+    return ::flock(folder.Number(), LOCK_EX | LOCK_NB) == 0 || errno != EWOULDBLOCK;
+}
+
+Descriptor OpenFolder(const QString& path) {
+    return Descriptor(
+        ::open(path.toLocal8Bit().constData(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
+}
+
+/// Remove the workshops in `folder` that no run works in any more.
+void RemoveLeftOvers(const QString& folder) {
+    const auto all = QDir::Dirs | QDir::Hidden | QDir::NoDotAndDotDot | QDir::NoSymLinks;
+    const QString name = WorkshopName();
+    const QDir parent(folder);
+    for (const QString& each :
+         parent.entryList({name.chopped(WorkshopDigits) + QString(WorkshopDigits, u'?')}, all)) {
+        const QString digits = each.right(WorkshopDigits);
+        const bool isOwn = std::all_of(digits.begin(), digits.end(), [](QChar c) {
+            return c.isLetterOrNumber() && c.unicode() < 0x80;
+        });
+        const Descriptor left = OpenFolder(parent.filePath(each));
+        if (isOwn && left.IsOpen() && ::flock(left.Number(), LOCK_EX | LOCK_NB) == 0) {
+            QDir(parent.filePath(each)).removeRecursively();
+        }
+    }
+}
+
+} // namespace
+
+FileInMaking::FileInMaking(const std::string& target, Target kind)
+    : target_(QFileInfo(QString::fromStdString(target)).absoluteFilePath())
+    , kind_(kind) {
     const QFileInfo info(target_);
-    if (info.exists() || info.isSymLink()) {
+    if (kind == Target::New && (info.exists() || info.isSymLink())) {
         Refuse("it is there already and stays as it is");
     }
-    MakeFolder(info.absolutePath());
-    workshop_.emplace(info.absolutePath() + QStringLiteral("/.tarn-XXXXXX"));
-    if (!workshop_->isValid()) {
-        workshop_.reset();
-        RemoveMadeFolders();
-        Refuse("its folder takes no files");
+    if (info.exists() && !info.isFile()) {
+        Refuse("something that is no file stands in its place");
     }
+    MakeFolder(info.absolutePath());
+    RemoveLeftOvers(info.absolutePath());
+    MakeWorkshop(info.absolutePath());
 }
 
 FileInMaking::~FileInMaking() {
@@ -35,11 +83,46 @@ std::string FileInMaking::Path() const {
 }
 
 void FileInMaking::Place() {
-    SetPrivateMode(Path(), QFileInfo(target_).absolutePath().toStdString());
-    if (!QFile::rename(QString::fromStdString(Path()), target_)) {
+    const std::string target = target_.toStdString();
+    const std::string folder = QFileInfo(target_).absolutePath().toStdString();
+    SetPermissions();
+    try {
+        const Descriptor file(::open(Path().c_str(), O_RDONLY | O_CLOEXEC));
+        if (!file.IsOpen()) {
+            throw LastError();
+        }
+        Synchronise(file);
+    } catch (const std::system_error& error) {
+        Refuse(CauseOf(error.code()));
+    }
+    const bool moved = kind_ == Target::New ? QFile::rename(QString::fromStdString(Path()), target_)
+                                            : std::rename(Path().c_str(), target.c_str()) == 0;
+    if (!moved) {
         Refuse("it cannot be moved into its folder, or another program made it meanwhile");
     }
     placed_ = true;
+    try {
+        for (const auto& made : madeFolders_) {
+            SynchroniseFolder(made.parent_path().string());
+        }
+        SynchroniseFolder(folder);
+    } catch (const OutputFileError& error) {
+        throw DatabaseError(error.what());
+    }
+}
+
+void FileInMaking::SetPermissions() const {
+    struct stat former {};
+    if (kind_ == Target::New || ::stat(target_.toLocal8Bit().constData(), &former) != 0) {
+        SetPrivateMode(Path(), QFileInfo(target_).absolutePath().toStdString());
+        return;
+    }
+    constexpr mode_t Permissions = 0777;
+    // Only a system user gives files away; who may read it matters more than whose it is.
+    if (::chown(Path().c_str(), former.st_uid, former.st_gid) != 0) {
+        static_cast<void>(::chown(Path().c_str(), static_cast<uid_t>(-1), former.st_gid) == 0);
+    }
+    static_cast<void>(::chmod(Path().c_str(), former.st_mode & Permissions) == 0);
 }
 
 void FileInMaking::MakeFolder(const QString& folder) {
@@ -50,6 +133,23 @@ void FileInMaking::MakeFolder(const QString& folder) {
     }
 }
 
+void FileInMaking::MakeWorkshop(const QString& folder) {
+    constexpr int Tries = 10; // another run may take it for a left-over before it is locked
+    for (int tries = 0; tries < Tries; ++tries) {
+        workshop_.emplace(QDir(folder).filePath(WorkshopName()));
+        if (!workshop_->isValid()) {
+            break;
+        }
+        lock_ = OpenFolder(workshop_->path());
+        if (lock_.IsOpen() && Lock(lock_) && QFileInfo::exists(workshop_->path())) {
+            return;
+        }
+    }
+    workshop_.reset();
+    RemoveMadeFolders();
+    Refuse("its folder takes no files");
+}
+
 void FileInMaking::RemoveMadeFolders() {
     for (; !madeFolders_.empty(); madeFolders_.pop_back()) {
         std::error_code ignored;
@@ -57,7 +157,7 @@ void FileInMaking::RemoveMadeFolders() {
     }
 }
 
-void FileInMaking::Refuse(const char* cause) const {
+void FileInMaking::Refuse(const std::string& cause) const {
     throw DatabaseError("The file " + target_.toStdString() + " cannot be made: " + cause + ".");
 }
 
