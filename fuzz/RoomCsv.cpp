@@ -12,16 +12,21 @@ void CheckRecords(std::string_view text) {
     const auto lines =
         1 + std::count_if(text.begin(), text.end(), [](char c) { return c == '\n' || c == '\r'; });
     long long line = 0;
-    for (const CsvRecord& record : SplitCsv(text)) {
-        Require(record.Line > line && record.Line <= lines, "records begin on lines of their own");
-        line = record.Line;
-        Require(!record.Fields.empty(), "a record has a field");
-        if (record.Fault == CsvFault::None) {
+    CsvReader reader(text);
+    while (const auto record = reader.Next()) {
+        Require(record->Line > line && record->Line <= lines,
+                "records begin on lines of their own");
+        line = record->Line;
+        Require(!record->Fields.empty(), "a record has a field");
+        Require(record->Fields.size() == std::min(record->FieldCount, MostCsvFields),
+                "a record keeps its first fields");
+        if (record->Fault == CsvFault::None) {
             std::string again;
-            AppendCsvRecord(again, record.Fields);
-            const auto back = SplitCsv(again);
-            const bool oneEmpty = record.Fields == std::vector<std::string>{""};
-            Require(oneEmpty ? back.empty() : back.size() == 1 && back[0].Fields == record.Fields,
+            AppendCsvRecord(again, record->Fields);
+            CsvReader reading(again);
+            const auto back = reading.Next();
+            const bool oneEmpty = record->Fields == std::vector<std::string>{""};
+            Require(oneEmpty ? !back : back && back->Fields == record->Fields && !reading.Next(),
                     "fields that are written are read back");
         }
     }
@@ -30,6 +35,9 @@ void CheckRecords(std::string_view text) {
 void CheckRooms(std::string_view text, Units units) {
     const RoomCsvReading reading = ReadRoomCsv(text, units);
     Require(reading.Rooms.empty() || reading.Errors.empty(), "rooms or mistakes");
+    Require(reading.Errors.size() <= MaxRoomCsvErrors, "few mistakes are told");
+    Require(reading.MoreErrors == 0 || reading.Errors.size() == MaxRoomCsvErrors,
+            "the first mistakes are told");
     for (const RoomCsvError& error : reading.Errors) {
         Require(error.Line >= 1 && !error.Problem.empty(), "a mistake has a place and a cause");
         Require(ErrorText(error).find('\n') == std::string::npos, "a mistake is one line");

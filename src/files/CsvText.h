@@ -2,6 +2,8 @@
 
 #pragma once
 
+#include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -15,24 +17,47 @@ enum class CsvFault {
     UnclosedQuote   ///< the text ends within the quotes
 };
 
+/// Most fields of a record that are kept; what has more is no table for this program, and may be
+/// millions of commas.
+inline constexpr std::size_t MostCsvFields = 64;
+
 /// One record of a CSV text.
 struct CsvRecord {
     long long Line = 1; ///< the physical line on which the record begins, from 1
-    std::vector<std::string> Fields;
+    std::vector<std::string> Fields; ///< the first MostCsvFields of them
+    std::size_t FieldCount = 0;      ///< of all
     CsvFault Fault = CsvFault::None; ///< of the first faulty field
-    std::size_t FaultyField = 0;     ///< index into Fields, when there is a fault
+    std::size_t FaultyField = 0;     ///< its place among all, from 0, when there is a fault
 };
 
-/// Split a CSV text into its records by RFC 4180: fields separated by commas; a field that begins
-/// with a quote may hold commas, line ends and doubled quotes. A byte-order mark at the start is
-/// skipped, lines end in CR LF, LF or CR, empty lines are no records. A quote further on in a field
-/// that does not begin with one is itself, so that 12'6" can be written as it is. Blanks belong to
-/// the field. The bytes of the fields are not judged; a record with a fault is still split to its
-/// end.
-std::vector<CsvRecord> SplitCsv(std::string_view text);
+/// Takes a CSV text apart by RFC 4180, record by record: fields separated by commas; a field that
+/// begins with a quote may hold commas, line ends and doubled quotes. A byte-order mark at the start
+/// is skipped, lines end in CR LF, LF or CR, empty lines are no records. A quote further on in a
+/// field that does not begin with one is itself, so that 12'6" can be written as it is. Blanks
+/// belong to the field. The bytes of the fields are not judged; a record with a fault is still split
+/// to its end.
+class CsvReader {
+  public:
+    /// The text is not copied.
+    explicit CsvReader(std::string_view text);
+
+    /// The next record; nothing behind the last one.
+    std::optional<CsvRecord> Next();
+
+  private:
+    std::size_t LineEndLength() const;
+    std::string_view TakeLineEnd(std::size_t length);
+    std::string_view Take(std::size_t length);
+    CsvRecord TakeRecord();
+    void TakeField(CsvRecord& record);
+    bool TakeQuoted(std::string& field);
+
+    std::string_view rest_;
+    long long line_ = 1;
+};
 
 /// Append one record with a line end (CR LF) to `text`. A field is quoted when it holds a comma, a
-/// quote or a line end, or would begin the text with a byte-order mark; SplitCsv gives the same
+/// quote or a line end, or would begin the text with a byte-order mark; CsvReader gives the same
 /// fields back, except that one empty field alone is an empty line.
 void AppendCsvRecord(std::string& text, const std::vector<std::string>& fields);
 

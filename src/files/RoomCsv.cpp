@@ -9,7 +9,6 @@
 #include "project/WallBase.h"
 
 #include <QString>
-#include <QStringDecoder>
 
 #include <algorithm>
 #include <array>
@@ -33,12 +32,9 @@ std::string_view NameOf(Column column) {
     return ColumnNames[static_cast<std::size_t>(column)];
 }
 
-bool IsUtf8(std::string_view bytes) {
-    QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
-    const QString decoded =
-        decoder(QByteArrayView(bytes.data(), static_cast<qsizetype>(bytes.size())));
-    return !decoder.hasError();
-}
+/// What keeps a spreadsheet from taking a text for a formula, and marks one that begins with itself.
+constexpr char TextMark = '\'';
+constexpr std::string_view MarkedStarts = "=+-@'";
 
 /// What is wrong with a file as a whole, as spreadsheets save one, or nothing: every line of it
 /// would otherwise be a mistake.
@@ -142,14 +138,32 @@ Problem TakeBase(std::string_view field, Byte& base) {
     return {};
 }
 
+Problem CheckCharacters(std::string_view text) {
+    switch (FindTextFault(text)) {
+    case TextFault::NotUtf8:
+        return "is not valid UTF-8" + std::string(SaveAsUtf8);
+    case TextFault::ControlCharacter:
+        return "holds a line break or another control character; write it in one line";
+    case TextFault::NoCharacter:
+        return "holds U+FFFE or U+FFFF, which are no characters; leave them out";
+    case TextFault::None:
+        break;
+    }
+    return {};
+}
+
 Problem TakeText(std::string_view field, long long most, std::string& text) {
+    if (field.starts_with(TextMark)) {
+        field.remove_prefix(1);
+    }
     text = field;
-    return CheckLength(field, most);
+    Problem problem = CheckCharacters(field);
+    return problem.empty() ? CheckLength(field, most) : problem;
 }
 
 Problem TakeField(Column column, std::string_view field, Units units, Room& room) {
-    if (!IsUtf8(field)) {
-        return "is not valid UTF-8" + std::string(SaveAsUtf8);
+    if (FindTextFault(field) == TextFault::NotUtf8) {
+        return CheckCharacters(field);
     }
     switch (column) {
     case Column::Width:
@@ -174,21 +188,19 @@ class RoomCsvReader {
         : units_(units) {}
 
     RoomCsvReading Read(std::string_view text) && {
-        const std::vector<CsvRecord> records = SplitCsv(text);
-        if (records.empty()) {
-            AddError(1, "the file is empty");
-            return std::move(reading_);
-        }
-        if (std::string problem = FormProblem(text, records.front()); !problem.empty()) {
+        CsvReader records(text);
+        const auto header = records.Next();
+        std::string problem = header ? FormProblem(text, *header) : "the file is empty";
+        if (!problem.empty()) {
             AddError(1, std::move(problem));
             return std::move(reading_);
         }
-        ReadHeader(records.front());
-        for (std::size_t i = 1; i < records.size(); ++i) {
-            if (i == RoomCapacity + 1) {
-                AddError(records[i].Line, std::string(ProjectFullText));
+        ReadHeader(*header);
+        for (std::size_t count = 1; const auto record = records.Next(); ++count) {
+            if (count == RoomCapacity + 1) {
+                AddError(record->Line, std::string(ProjectFullText));
             }
-            ReadRoom(records[i]);
+            ReadRoom(*record);
         }
         if (!reading_.Succeeded()) {
             reading_.Rooms.clear();
@@ -198,10 +210,15 @@ class RoomCsvReader {
 
   private:
     void AddError(long long line, std::string problem) {
-        reading_.Errors.push_back({line, {}, {}, std::move(problem)});
+        AddError(line, {}, {}, std::move(problem));
     }
     void AddError(long long line, std::string_view field, std::string value, std::string problem) {
-        reading_.Errors.push_back({line, std::string(field), std::move(value), std::move(problem)});
+        if (reading_.Errors.size() < MaxRoomCsvErrors) {
+            reading_.Errors.push_back(
+                {line, std::string(field), std::move(value), std::move(problem)});
+        } else {
+            ++reading_.MoreErrors;
+        }
     }
 
     /// Report the fault of a record, if it has one; whether it has.
@@ -211,7 +228,8 @@ class RoomCsvReader {
         }
         const std::size_t faulty = record.FaultyField;
         const bool known = faulty < columns_.size() && columns_[faulty].has_value();
-        AddError(record.Line, known ? NameOf(*columns_[faulty]) : "field", record.Fields[faulty],
+        AddError(record.Line, known ? NameOf(*columns_[faulty]) : "field",
+                 faulty < record.Fields.size() ? record.Fields[faulty] : std::string(),
                  record.Fault == CsvFault::UnclosedQuote ? "has a quote that is never closed"
                                                          : "has text behind its closing quote");
         return true;
@@ -219,6 +237,7 @@ class RoomCsvReader {
 
     void ReadHeader(const CsvRecord& header) {
         constexpr std::string_view HeaderField = "column";
+        columnCount_ = header.FieldCount;
         if (ReportFault(header)) {
             columns_.resize(header.Fields.size());
             return;
@@ -233,6 +252,12 @@ class RoomCsvReader {
                 AddError(header.Line, HeaderField, field, "appears twice");
             }
             columns_.push_back(column);
+        }
+        if (columnCount_ > MostCsvFields) {
+            AddError(header.Line, "the line has " +
+                                      TrimStr(static_cast<long long>(columnCount_)) +
+                                      " columns; a room has " +
+                                      TrimStr(static_cast<long long>(ColumnNames.size())));
         }
         for (std::size_t i = 0; i < RequiredColumns; ++i) {
             if (!Has(static_cast<Column>(i))) {
@@ -249,11 +274,11 @@ class RoomCsvReader {
         if (ReportFault(record)) {
             return;
         }
-        if (record.Fields.size() != columns_.size()) {
+        if (record.FieldCount != columnCount_) {
             AddError(record.Line, "the line has " +
-                                      TrimStr(static_cast<long long>(record.Fields.size())) +
+                                      TrimStr(static_cast<long long>(record.FieldCount)) +
                                       " fields and the header " +
-                                      TrimStr(static_cast<long long>(columns_.size())));
+                                      TrimStr(static_cast<long long>(columnCount_)));
             return;
         }
         Room room;
@@ -265,13 +290,24 @@ class RoomCsvReader {
                 }
             }
         }
-        reading_.Rooms.push_back(std::move(room));
+        if (reading_.Rooms.size() < RoomCapacity) {
+            reading_.Rooms.push_back(std::move(room));
+        }
     }
 
     Units units_;
-    std::vector<std::optional<Column>> columns_; ///< by field; nothing for one that is left out
+    /// By field, as many as are kept; nothing for one that is left out.
+    std::vector<std::optional<Column>> columns_;
+    std::size_t columnCount_ = 0; ///< of all
     RoomCsvReading reading_;
 };
+
+/// A room number or remark as it is written.
+std::string MarkedText(std::string_view text) {
+    const std::string shown = ShownText(text);
+    const bool marked = !shown.empty() && MarkedStarts.find(shown.front()) != std::string::npos;
+    return marked ? TextMark + shown : shown;
+}
 
 /// A value for one line of text: control characters as blanks, invalid bytes as replacement
 /// characters, and not too long.
@@ -290,15 +326,18 @@ std::string Shown(std::string_view value) {
 
 } // namespace
 
-std::string ErrorText(const RoomCsvError& error) {
-    const std::string line = "line " + TrimStr(error.Line) + ": ";
+std::string MistakeText(const RoomCsvError& error) {
     if (error.Field.empty()) {
-        return line + error.Problem;
+        return error.Problem;
     }
     if (error.Value.empty()) {
-        return line + error.Field + " " + error.Problem;
+        return error.Field + " " + error.Problem;
     }
-    return line + error.Field + " \"" + Shown(error.Value) + "\" " + error.Problem;
+    return error.Field + " \"" + Shown(error.Value) + "\" " + error.Problem;
+}
+
+std::string ErrorText(const RoomCsvError& error) {
+    return "line " + TrimStr(error.Line) + ": " + MistakeText(error);
 }
 
 RoomCsvReading ReadRoomCsv(std::string_view text, Units units) {
@@ -311,7 +350,7 @@ std::string WriteRoomCsv(const std::vector<Room>& rooms) {
     for (const Room& room : rooms) {
         AppendCsvRecord(text,
                         {TrimStr(room.Width), TrimStr(room.Length), CoveringCaption(room.Covering),
-                         BaseText(room.Base), room.Number, room.Remark});
+                         BaseText(room.Base), MarkedText(room.Number), MarkedText(room.Remark)});
     }
     return text;
 }

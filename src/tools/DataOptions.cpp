@@ -4,8 +4,8 @@
 #include "store/Configuration.h"
 #include "store/DataFolder.h"
 #include "tools/DataCommands.h"
-#include "tools/ExitStatus.h"
 #include "tools/Files.h"
+#include "tools/ToolMain.h"
 
 #include <CLI/CLI.hpp>
 
@@ -137,7 +137,7 @@ std::function<void()> ReadDataCommand(int argc, const char* const* argv, int& st
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& error) {
-        status = app.exit(error) == 0 ? Done : WrongUsage;
+        status = ExplainArguments(app, error);
         return {};
     }
     return [arguments, chosen] { chosen(); };

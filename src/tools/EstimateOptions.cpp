@@ -6,9 +6,9 @@
 #include "estimate/MinCuts.h"
 #include "estimate/RollWidth.h"
 #include "project/Project.h"
-#include "tools/ExitStatus.h"
 #include "tools/Files.h"
 #include "tools/Refusal.h"
+#include "tools/ToolMain.h"
 
 #include <CLI/CLI.hpp>
 
@@ -207,7 +207,7 @@ std::optional<EstimateOptions> ReadEstimateOptions(int argc, const char* const* 
         app.parse(argc, argv);
         CheckTogether(options);
     } catch (const CLI::ParseError& error) {
-        status = app.exit(error) == 0 ? Done : WrongUsage;
+        status = ExplainArguments(app, error);
         return std::nullopt;
     }
     options.CrossLay = lay == "cross";

@@ -1,27 +1,49 @@
 #include "tools/Files.h"
 
-#include "files/OutputFile.h"
+#include "files/Descriptor.h"
 #include "tools/Refusal.h"
+#include "tools/StandardStreams.h"
 
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 
-#include <cstdio>
+#include <cerrno>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace tarn {
 
 namespace {
 
-std::string Reason(const QFileDevice& file) {
-    return file.errorString().toStdString();
+[[noreturn]] void RefuseToRead(const std::string& path, const std::string& cause) {
+    throw Refusal("The file " + path + " cannot be read: " + cause + ".");
 }
 
-void WriteStandardOutput(const std::string& content) {
-    const std::size_t written = std::fwrite(content.data(), 1, content.size(), stdout);
-    if (written != content.size() || std::fflush(stdout) != 0) {
-        throw Refusal("Standard output cannot be written.");
+/// Raise Refusal unless it is a file, whose bytes come to an end.
+void RequireFile(const std::string& path, const struct stat& status) {
+    if (S_ISDIR(status.st_mode)) {
+        RefuseToRead(path, "it is a folder");
     }
+    if (!S_ISREG(status.st_mode)) {
+        RefuseToRead(path, std::string(S_ISFIFO(status.st_mode) ? "it is a pipe" : "it is a device") +
+                               ". Save what comes from it in a file and name that");
+    }
+}
+
+Descriptor OpenToRead(const std::string& path) {
+    struct stat status {};
+    if (::stat(path.c_str(), &status) != 0) {
+        RefuseToRead(path, CauseOf(LastError().code()));
+    }
+    RequireFile(path, status);
+    Descriptor file(::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
+    if (!file.IsOpen() || ::fstat(file.Number(), &status) != 0) {
+        RefuseToRead(path, CauseOf(LastError().code()));
+    }
+    RequireFile(path, status); // it may have been another a moment ago
+    return file;
 }
 
 /// A file's name without links and dots, as far as its folders are there.
@@ -41,24 +63,33 @@ QString PlainName(const std::string& path) {
 
 } // namespace
 
-std::string ReadWholeFile(const std::string& path) {
-    QFile file(QString::fromStdString(path));
-    if (!file.open(QIODevice::ReadOnly)) {
-        throw Refusal("The file " + path + " cannot be read: " + Reason(file) + ".");
+std::string ReadWholeFile(const std::string& path, std::size_t mostBytes) {
+    constexpr std::size_t Step = std::size_t{64} * 1024;
+    const Descriptor file = OpenToRead(path);
+    std::string content;
+    std::size_t size = 0;
+    while (size <= mostBytes) {
+        content.resize(size + Step);
+        const ssize_t count = ::read(file.Number(), content.data() + size, Step);
+        if (count < 0 && errno != EINTR) {
+            RefuseToRead(path, CauseOf(LastError().code()));
+        }
+        if (count == 0) {
+            content.resize(size);
+            return content;
+        }
+        size += count > 0 ? static_cast<std::size_t>(count) : 0;
     }
-    const QByteArray content = file.readAll();
-    if (file.error() != QFileDevice::NoError) {
-        throw Refusal("The file " + path + " cannot be read: " + Reason(file) + ".");
-    }
-    return content.toStdString();
+    constexpr std::size_t Megabyte = std::size_t{1024} * 1024;
+    RefuseToRead(path, "it has more than " + std::to_string(mostBytes / Megabyte) + " MB");
 }
 
-void WriteWholeFile(const std::string& path, const std::string& content) {
+void WriteWholeFile(const std::string& path, const std::string& content, Overwrite over) {
     if (path == StandardOutput) {
         WriteStandardOutput(content);
         return;
     }
-    WriteOutputFile(path, content);
+    WriteOutputFile(path, content, over);
 }
 
 bool IsSameFile(const std::string& path, const std::string& other) {

@@ -2,6 +2,9 @@
 
 #pragma once
 
+#include "files/OutputFile.h"
+
+#include <cstddef>
 #include <string>
 
 namespace tarn {
@@ -9,12 +12,18 @@ namespace tarn {
 /// The name that stands for standard output.
 inline constexpr const char* StandardOutput = "-";
 
-/// The whole content of a file. Raises Refusal when it cannot be read.
-std::string ReadWholeFile(const std::string& path);
+/// What --force says of itself, in every command that has it.
+inline constexpr const char* ForceDescription =
+    "Write also over a database, and through a symbolic link";
+
+/// The whole content of a file of at most `mostBytes`. Raises Refusal when it cannot be read, is
+/// larger, or is a folder, a device or a pipe, which may have no end.
+std::string ReadWholeFile(const std::string& path, std::size_t mostBytes);
 
 /// Write `content` to a file as WriteOutputFile does, or to standard output for "-". Raises
 /// OutputFileError or Refusal when it cannot be written.
-void WriteWholeFile(const std::string& path, const std::string& content);
+void WriteWholeFile(const std::string& path, const std::string& content,
+                    Overwrite over = Overwrite::Files);
 
 /// Whether two names lead to the same file, be it there or not.
 bool IsSameFile(const std::string& path, const std::string& other);

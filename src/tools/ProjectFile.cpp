@@ -1,6 +1,7 @@
 #include "tools/ProjectFile.h"
 
 #include "base/RunTimeError.h"
+#include "base/Text.h"
 #include "files/RoomCsv.h"
 #include "store/Names.h"
 #include "tools/Files.h"
@@ -53,11 +54,15 @@ void WarnOfMetric(const Project& project, const char* consequence) {
 }
 
 std::vector<Room> ReadRoomFile(const std::string& path, Units units) {
-    RoomCsvReading reading = ReadRoomCsv(ReadWholeFile(path), units);
+    RoomCsvReading reading = ReadRoomCsv(ReadWholeFile(path, MaxRoomCsvBytes), units);
     if (!reading.Succeeded()) {
         std::string text = "The file " + path + " cannot be used; nothing was taken from it:";
         for (const RoomCsvError& error : reading.Errors) {
             text += "\n  " + ErrorText(error);
+        }
+        if (reading.MoreErrors > 0) {
+            text += "\n  and " + TrimStr(reading.MoreErrors) +
+                    (reading.MoreErrors == 1 ? " more mistake" : " more mistakes");
         }
         throw Refusal(text);
     }

@@ -22,7 +22,7 @@ Project LoadProjectNamed(ProjectStore& store, const std::string& name);
 /// Tell on standard error that the project was entered in metric, and what follows from it.
 void WarnOfMetric(const Project& project, const char* consequence);
 
-/// The rooms of a CSV file. Raises Refusal naming every bad line.
+/// The rooms of a CSV file. Raises Refusal naming its mistakes, MaxRoomCsvErrors of them at most.
 std::vector<Room> ReadRoomFile(const std::string& path, Units units);
 
 } // namespace tarn

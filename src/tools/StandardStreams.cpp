@@ -1,7 +1,9 @@
 #include "tools/StandardStreams.h"
 
+#include "base/Text.h"
 #include "tools/Refusal.h"
 
+#include <algorithm>
 #include <csignal>
 #include <cstdio>
 #include <iostream>
@@ -33,6 +35,19 @@ void WriteStandardOutput(std::string_view text) {
 bool IsStandardOutputWritten() {
     std::cout.flush();
     return std::cout.good() && std::fflush(stdout) == 0 && std::ferror(stdout) == 0;
+}
+
+std::string ShownLines(std::string_view text) {
+    std::string shown;
+    for (;;) {
+        const std::size_t end = std::min(text.find('\n'), text.size());
+        shown += ShownText(text.substr(0, end));
+        if (end == text.size()) {
+            return shown;
+        }
+        shown += '\n';
+        text.remove_prefix(end + 1);
+    }
 }
 
 } // namespace tarn

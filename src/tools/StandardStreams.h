@@ -20,6 +20,10 @@ void WriteStandardOutput(std::string_view text);
 /// Whether everything that was written to standard output came through.
 bool IsStandardOutputWritten();
 
+/// Text of several lines as it is shown: every line as ShownText, so that what was stored or typed
+/// moves nothing on a terminal.
+std::string ShownLines(std::string_view text);
+
 /// What standard output that cannot be written is refused with.
 inline constexpr std::string_view StandardOutputRefusal = "Standard output cannot be written.";
 

@@ -4,6 +4,8 @@
 #include "tools/ExitStatus.h"
 #include "tools/StandardStreams.h"
 
+#include <CLI/CLI.hpp>
+
 #include <iostream>
 
 namespace tarn {
@@ -11,7 +13,7 @@ namespace tarn {
 namespace {
 
 void Tell(std::string_view program, std::string_view text) {
-    std::cerr << program << ": " << text << '\n';
+    std::cerr << program << ": " << ShownLines(text) << '\n';
 }
 
 } // namespace
@@ -28,6 +30,17 @@ int RunTool(std::string_view program, const std::function<void()>& body) {
     } catch (const std::exception& error) {
         Tell(program, error.what());
     }
+    return Refused;
+}
+
+int ExplainArguments(const CLI::App& options, const CLI::ParseError& error) {
+    if (options.exit(error) != 0) {
+        return WrongUsage;
+    }
+    if (IsStandardOutputWritten()) {
+        return Done;
+    }
+    Tell(options.get_name(), StandardOutputRefusal);
     return Refused;
 }
 

@@ -1,6 +1,7 @@
 // tarn-estimate: one carpet's estimate without a display.
 
 #include "tools/EstimateTool.h"
+#include "tools/StandardStreams.h"
 #include "tools/ToolMain.h"
 
 #include <QGuiApplication>
@@ -28,6 +29,7 @@ std::unique_ptr<QCoreApplication> NewPaintingApplication(int& argc, char** argv)
 } // namespace
 
 int main(int argc, char* argv[]) {
+    tarn::HoldStandardStreams();
     int status = 0;
     const auto options = tarn::ReadEstimateOptions(argc, argv, status);
     if (!options) {

@@ -6,6 +6,8 @@
 #include "screens/Theme.h"
 #include "store/Configuration.h"
 #include "tools/ExitStatus.h"
+#include "tools/StandardStreams.h"
+#include "tools/ToolMain.h"
 
 #include <QApplication>
 #include <QScreen>
@@ -18,7 +20,7 @@
 namespace {
 
 int Run(int argc, char* argv[]) {
-    CLI::App options{"Estimate how carpets are cut from the roll."};
+    CLI::App options{"Estimate how carpets are cut from the roll.", "tarn"};
     std::string configDirectory;
     options.set_version_flag("--version", tarn::VersionText("tarn"));
     const CLI::Option* givenDirectory =
@@ -29,7 +31,7 @@ int Run(int argc, char* argv[]) {
     try {
         options.parse(argc, argv);
     } catch (const CLI::ParseError& error) {
-        return options.exit(error) == 0 ? tarn::Done : tarn::WrongUsage;
+        return tarn::ExplainArguments(options, error);
     }
 
     QApplication application(argc, argv);
@@ -60,6 +62,7 @@ int Run(int argc, char* argv[]) {
 } // namespace
 
 int main(int argc, char* argv[]) {
+    tarn::HoldStandardStreams();
     try {
         return Run(argc, argv);
     } catch (const std::exception& error) {

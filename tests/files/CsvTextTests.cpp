@@ -10,9 +10,18 @@ using testing::Below;
 using testing::RandomText;
 using Fields = std::vector<std::string>;
 
+std::vector<CsvRecord> RecordsOf(std::string_view text) {
+    std::vector<CsvRecord> records;
+    CsvReader reader(text);
+    while (const auto record = reader.Next()) {
+        records.push_back(*record);
+    }
+    return records;
+}
+
 /// The only record of `text`, which must be free of faults.
 Fields OnlyRecord(std::string_view text) {
-    const auto records = SplitCsv(text);
+    const auto records = RecordsOf(text);
     if (records.size() != 1 || records.front().Fault != CsvFault::None) {
         ADD_FAILURE() << records.size() << " records of " << text;
         return {};
@@ -20,16 +29,16 @@ Fields OnlyRecord(std::string_view text) {
     return records.front().Fields;
 }
 
-TEST(SplitCsv, SeparatesFieldsAtCommas) {
+TEST(CsvReader, SeparatesFieldsAtCommas) {
     EXPECT_EQ(OnlyRecord("a,b,c"), (Fields{"a", "b", "c"}));
     EXPECT_EQ(OnlyRecord(",,"), (Fields{"", "", ""}));
     EXPECT_EQ(OnlyRecord(" a , b"), (Fields{" a ", " b"}));
 }
 
-TEST(SplitCsv, EndsRecordsAtEveryKindOfLineEnd) {
+TEST(CsvReader, EndsRecordsAtEveryKindOfLineEnd) {
     for (const char* text :
          {"a,b\nc,d", "a,b\nc,d\n", "a,b\r\nc,d", "a,b\r\nc,d\r\n", "a,b\rc,d", "a,b\rc,d\r"}) {
-        const auto records = SplitCsv(text);
+        const auto records = RecordsOf(text);
         ASSERT_EQ(records.size(), 2U);
         EXPECT_EQ(records[0].Fields, (Fields{"a", "b"}));
         EXPECT_EQ(records[1].Fields, (Fields{"c", "d"}));
@@ -37,38 +46,38 @@ TEST(SplitCsv, EndsRecordsAtEveryKindOfLineEnd) {
     }
 }
 
-TEST(SplitCsv, LeavesOutEmptyLinesButCountsThem) {
-    const auto records = SplitCsv("\n\r\na\n\n\nb\n\n");
+TEST(CsvReader, LeavesOutEmptyLinesButCountsThem) {
+    const auto records = RecordsOf("\n\r\na\n\n\nb\n\n");
     ASSERT_EQ(records.size(), 2U);
     EXPECT_EQ(records[0].Line, 3);
     EXPECT_EQ(records[1].Line, 6);
-    EXPECT_TRUE(SplitCsv("").empty());
-    EXPECT_TRUE(SplitCsv("\n\n").empty());
+    EXPECT_TRUE(RecordsOf("").empty());
+    EXPECT_TRUE(RecordsOf("\n\n").empty());
 }
 
-TEST(SplitCsv, KeepsAQuotedEmptyFieldAsARecord) {
+TEST(CsvReader, KeepsAQuotedEmptyFieldAsARecord) {
     EXPECT_EQ(OnlyRecord("\"\"\n"), (Fields{""}));
 }
 
-TEST(SplitCsv, SkipsAByteOrderMarkAtTheStartAlone) {
+TEST(CsvReader, SkipsAByteOrderMarkAtTheStartAlone) {
     EXPECT_EQ(OnlyRecord("\xEF\xBB\xBF\"a\",b"), (Fields{"a", "b"}));
     EXPECT_EQ(OnlyRecord("a,\xEF\xBB\xBF"), (Fields{"a", "\xEF\xBB\xBF"}));
-    EXPECT_TRUE(SplitCsv("\xEF\xBB\xBF").empty());
+    EXPECT_TRUE(RecordsOf("\xEF\xBB\xBF").empty());
 }
 
-TEST(SplitCsv, TakesCommasLineEndsAndDoubledQuotesInsideQuotes) {
+TEST(CsvReader, TakesCommasLineEndsAndDoubledQuotesInsideQuotes) {
     EXPECT_EQ(OnlyRecord("\"a,b\",\"12'6\"\"\",\"x\r\ny\nz\rw\""),
               (Fields{"a,b", "12'6\"", "x\r\ny\nz\rw"}));
     EXPECT_EQ(OnlyRecord(R"("""","""""","""x")"), (Fields{R"(")", R"("")", R"("x)"}));
 }
 
-TEST(SplitCsv, TakesAQuoteInsideAnUnquotedFieldAsItself) {
+TEST(CsvReader, TakesAQuoteInsideAnUnquotedFieldAsItself) {
     EXPECT_EQ(OnlyRecord("12'6\",10'\",C1"), (Fields{"12'6\"", "10'\"", "C1"}));
     EXPECT_EQ(OnlyRecord(" \"a\""), (Fields{" \"a\""}));
 }
 
-TEST(SplitCsv, NumbersRecordsByTheLineOnWhichTheyBegin) {
-    const auto records = SplitCsv("a\n\"b\r\nb\rb\nb\"\nc\r\nd");
+TEST(CsvReader, NumbersRecordsByTheLineOnWhichTheyBegin) {
+    const auto records = RecordsOf("a\n\"b\r\nb\rb\nb\"\nc\r\nd");
     ASSERT_EQ(records.size(), 4U);
     EXPECT_EQ(records[0].Line, 1);
     EXPECT_EQ(records[1].Line, 2);
@@ -76,8 +85,8 @@ TEST(SplitCsv, NumbersRecordsByTheLineOnWhichTheyBegin) {
     EXPECT_EQ(records[3].Line, 7);
 }
 
-TEST(SplitCsv, ReportsTextBehindAClosingQuoteAndGoesOn) {
-    const auto records = SplitCsv("x,\"a\"b,\"c\nd\" ,e\nf");
+TEST(CsvReader, ReportsTextBehindAClosingQuoteAndGoesOn) {
+    const auto records = RecordsOf("x,\"a\"b,\"c\nd\" ,e\nf");
     ASSERT_EQ(records.size(), 2U);
     EXPECT_EQ(records[0].Fault, CsvFault::TextAfterQuote);
     EXPECT_EQ(records[0].FaultyField, 1U);
@@ -86,14 +95,37 @@ TEST(SplitCsv, ReportsTextBehindAClosingQuoteAndGoesOn) {
     EXPECT_EQ(records[1].Line, 3);
 }
 
-TEST(SplitCsv, ReportsAQuoteThatIsNeverClosed) {
-    const auto records = SplitCsv("a\nb,\"c\nd,\"\"\n");
+TEST(CsvReader, ReportsAQuoteThatIsNeverClosed) {
+    const auto records = RecordsOf("a\nb,\"c\nd,\"\"\n");
     ASSERT_EQ(records.size(), 2U);
     EXPECT_EQ(records[0].Fault, CsvFault::None);
     EXPECT_EQ(records[1].Fault, CsvFault::UnclosedQuote);
     EXPECT_EQ(records[1].FaultyField, 1U);
     EXPECT_EQ(records[1].Line, 2);
-    EXPECT_EQ(SplitCsv("\"").front().Fault, CsvFault::UnclosedQuote);
+    EXPECT_EQ(RecordsOf("\"").front().Fault, CsvFault::UnclosedQuote);
+}
+
+TEST(CsvReader, KeepsTheFirstFieldsOfMillionsAndCountsTheRest) {
+    std::string text(3'000'000, ',');
+    text.replace(0, 1, "a,b,");
+    text += "\nc,d\n";
+    const auto records = RecordsOf(text);
+    ASSERT_EQ(records.size(), 2U);
+    EXPECT_EQ(records[0].FieldCount, 3'000'002U);
+    Fields first(MostCsvFields);
+    first[0] = "a";
+    first[1] = "b";
+    EXPECT_EQ(records[0].Fields, first);
+    EXPECT_EQ(records[0].Fault, CsvFault::None);
+    EXPECT_EQ(records[1].Fields, (Fields{"c", "d"}));
+    EXPECT_EQ(records[1].FieldCount, 2U);
+}
+
+TEST(CsvReader, FindsAFaultInAFieldThatIsNotKept) {
+    const auto records = RecordsOf(std::string(100, ',') + "\"a\"b");
+    ASSERT_EQ(records.size(), 1U);
+    EXPECT_EQ(records[0].Fault, CsvFault::TextAfterQuote);
+    EXPECT_EQ(records[0].FaultyField, 100U);
 }
 
 TEST(AppendCsvRecord, QuotesOnlyWhereItMust) {
@@ -108,7 +140,7 @@ TEST(AppendCsvRecord, DoesNotBeginATextWithAByteOrderMarkOfAField) {
     AppendCsvRecord(text, fields);
     AppendCsvRecord(text, fields);
     EXPECT_EQ(text, "\"\xEF\xBB\xBFone\",two\r\n\xEF\xBB\xBFone,two\r\n");
-    const auto records = SplitCsv(text);
+    const auto records = RecordsOf(text);
     ASSERT_EQ(records.size(), 2U);
     EXPECT_EQ(records[0].Fields, fields);
     EXPECT_EQ(records[1].Fields, fields);
@@ -129,7 +161,7 @@ TEST(AppendCsvRecord, IsReadBackWhateverTheTexts) {
             AppendCsvRecord(text, fields);
         }
         std::vector<Fields> read;
-        for (const CsvRecord& record : SplitCsv(text)) {
+        for (const CsvRecord& record : RecordsOf(text)) {
             EXPECT_EQ(record.Fault, CsvFault::None);
             read.push_back(record.Fields);
         }

@@ -1,8 +1,12 @@
 #include "files/RoomCsv.h"
+
+#include "base/Text.h"
 #include "project/RoomTesting.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+
+#include <array>
 
 namespace tarn {
 namespace {
@@ -81,11 +85,78 @@ TEST(ReadRoomCsv, LeavesOutBlanksAroundAllButRoomAndRemark) {
               (Rooms{{150, 150, 0, 1, " a ", " b "}}));
 }
 
-TEST(ReadRoomCsv, KeepsCommasQuotesAndLineBreaksOfTexts) {
+TEST(ReadRoomCsv, KeepsCommasAndQuotesOfTexts) {
     EXPECT_EQ(RoomsOf("\xEF\xBB\xBFwidth,length,covering,remark\r\n"
-                      "1,2,C1,\"a, \"\"b\"\"\r\nc\"\r\n"
+                      "1,2,C1,\"a, \"\"b\"\"\"\r\n"
                       "3,4,C2,浴室\r\n"),
-              (Rooms{{1, 2, 0, 0, "", "a, \"b\"\r\nc"}, {3, 4, 1, 0, "", "浴室"}}));
+              (Rooms{{1, 2, 0, 0, "", "a, \"b\""}, {3, 4, 1, 0, "", "浴室"}}));
+}
+
+TEST(ReadRoomCsv, RefusesWhatNoTextMayHold) {
+    constexpr std::string_view Control =
+        "holds a line break or another control character; write it in one line";
+    constexpr std::string_view NoCharacter =
+        "holds U+FFFE or U+FFFF, which are no characters; leave them out";
+    for (const std::string text : {"\"a\nb\"", "\"a\r\nb\"", "a\tb", "a\x1B[31m", "a\x7F",
+                                   "a\u0085", "a\u009F"}) {
+        for (const std::string column : {"room", "remark"}) {
+            const std::string line = column == "room" ? text + "," : "," + text;
+            const Lines errors = ErrorsOfRoom("1,2,C1,," + line);
+            ASSERT_EQ(errors.size(), 1U);
+            EXPECT_THAT(errors[0], ::testing::StartsWith("line 2: " + column + " \"a"));
+            EXPECT_THAT(errors[0], ::testing::EndsWith("\" " + std::string(Control)));
+        }
+    }
+    EXPECT_EQ(ErrorsOfRoom("1,2,C1,,a\uFFFE,\uFFFF b"),
+              (Lines{Line("line 2: room \"a\uFFFE\" ", NoCharacter),
+                     Line("line 2: remark \"\uFFFF b\" ", NoCharacter)}));
+    EXPECT_EQ(ErrorsOfRoom(std::string("1,2,C1,,,\0", 10)).size(), 1U);
+}
+
+TEST(ReadRoomCsv, TakesOneApostropheOffTheStartOfATextAlone) {
+    EXPECT_EQ(RoomsOf("width,length,covering,base,room,remark\n"
+                      "1,2,C1,,'007,'=1+1\n1,2,C1,,'12345678,''twas\n1,2,C1,,',a'b\n"),
+              (Rooms{{1, 2, 0, 0, "007", "=1+1"},
+                     {1, 2, 0, 0, "12345678", "'twas"},
+                     {1, 2, 0, 0, "", "a'b"}}));
+    EXPECT_EQ(ErrorsOfRoom("'1,2,C1,,'123456789,"),
+              (Lines{Line("line 2: width \"'1\"", NoInches),
+                     "line 2: room \"'123456789\" has more than 8 characters"}));
+}
+
+TEST(ReadRoomCsv, TellsTheFirstMistakesOfManyAndCountsTheOthers) {
+    std::string text = "width,length,covering\n";
+    for (int line = 0; line < 1000; ++line) {
+        text += "-1,x,C1\n";
+    }
+    const RoomCsvReading reading = ReadRoomCsv(text, Units::Imperial);
+    ASSERT_EQ(reading.Errors.size(), 20U);
+    EXPECT_EQ(reading.Errors.front().Line, 2);
+    EXPECT_EQ(reading.Errors.back().Line, 11);
+    EXPECT_EQ(reading.MoreErrors, 1000 * 2 + 1 - 20) << "two a line, and too many rooms";
+    EXPECT_TRUE(reading.Rooms.empty());
+    const RoomCsvReading few = ReadRoomCsv("width,length,covering\n-1,x,C1\n", Units::Imperial);
+    EXPECT_EQ(few.Errors.size(), 2U);
+    EXPECT_EQ(few.MoreErrors, 0);
+}
+
+TEST(ReadRoomCsv, RefusesAHeaderOfManyColumns) {
+    const Lines errors = ErrorsOf("width,length,covering" + std::string(1'000'000, ','));
+    ASSERT_EQ(errors.size(), 20U);
+    EXPECT_EQ(errors[0], "line 1: a column has no name");
+    std::string header = "width,length,covering,base,room,remark";
+    for (int column = 6; column < 100; ++column) {
+        header += ",width";
+    }
+    const RoomCsvReading reading = ReadRoomCsv(header + "\n1,2\n", Units::Imperial);
+    EXPECT_EQ(reading.Errors.front().Problem, "appears twice");
+    EXPECT_EQ(reading.MoreErrors, 64 - 6 - 20 + 1 + 1)
+        << "every other column that is kept, their number, and the last line";
+}
+
+TEST(ReadRoomCsv, TellsAFaultInAFieldBehindThoseThatAreKept) {
+    EXPECT_EQ(ErrorsOfRoom("1,2,C1,,," + std::string(100, ',') + "\"a\"b"),
+              (Lines{"line 2: field has text behind its closing quote"}));
 }
 
 TEST(ReadRoomCsv, ReadsAHeaderAloneAsNoRooms) {
@@ -267,6 +338,8 @@ TEST(ReadRoomCsv, ReportsEveryBadLineOfAFileAndTakesNoRoom) {
                  ",VINYL,40000,12'6 1/2\r\n"
                  "fine,T4,144,168\r\n"),
         (Lines{"line 3: the line has 1 fields and the header 4",
+               "line 5: remark \"two  lines\" holds a line break or another control character; "
+               "write it in one line",
                Line("line 5: covering \"C9\"", NoCovering), "line 7: width \"-4\" is negative",
                Line("line 9: covering \"VINYL\"", NoCovering),
                "line 9: width \"40000\" is too large: a size is at most 32767",
@@ -300,7 +373,33 @@ TEST(WriteRoomCsv, WritesAHeaderAndOneLineForEachRoom) {
     EXPECT_EQ(WriteRoomCsv({}), "width,length,covering,base,room,remark\r\n");
 }
 
-TEST(WriteRoomCsv, IsReadBackWhateverTheRooms) {
+TEST(WriteRoomCsv, MarksWhatASpreadsheetWouldTakeForAFormula) {
+    EXPECT_EQ(WriteRoomCsv({{1, 2, 0, 0, "=1", "+1"},
+                            {1, 2, 0, 0, "-1", "@SUM(A1)"},
+                            {1, 2, 0, 0, "'1", "a=1"},
+                            {1, 2, 0, 0, "'", " =1"}}),
+              "width,length,covering,base,room,remark\r\n"
+              "1,2,CARPET-1,,'=1,'+1\r\n"
+              "1,2,CARPET-1,,'-1,'@SUM(A1)\r\n"
+              "1,2,CARPET-1,,''1,a=1\r\n"
+              "1,2,CARPET-1,,'', =1\r\n");
+}
+
+TEST(WriteRoomCsv, WritesEachRoomInOneLineAndAFaultOfATextAsItIsShown) {
+    EXPECT_EQ(WriteRoomCsv({{1, 2, 0, 0, "a\tb", "two\r\nlines"}, {1, 2, 0, 0, "\uFFFE", "\xFF"}}),
+              "width,length,covering,base,room,remark\r\n"
+              "1,2,CARPET-1,,a\uFFFDb,two\uFFFD\uFFFDlines\r\n"
+              "1,2,CARPET-1,,\uFFFD,\uFFFD\r\n");
+}
+
+/// A text that may begin as none should.
+std::string RandomStart(std::mt19937& random) {
+    static constexpr std::array Starts{"",     "=",    "+",      "-",    "@",  "'", "''", "'=",
+                                       "\x1B", "\r=", "\uFFFE", "\xFF", "-1", "@'"};
+    return Starts[static_cast<std::size_t>(Below(random, Starts.size()))];
+}
+
+TEST(WriteRoomCsv, IsReadBackAsItIsShownWhateverTheRooms) {
     for (unsigned seed = 1; seed <= 300; ++seed) {
         SCOPED_TRACE(seed);
         std::mt19937 random(seed);
@@ -309,12 +408,18 @@ TEST(WriteRoomCsv, IsReadBackWhateverTheRooms) {
             rooms.push_back({static_cast<Integer>(Below(random, 32768)),
                              static_cast<Integer>(Below(random, 32768)),
                              static_cast<Byte>(Below(random, 12)),
-                             static_cast<Byte>(Below(random, 9)), RandomText(random, 8),
-                             RandomText(random, 255)});
+                             static_cast<Byte>(Below(random, 9)),
+                             RandomStart(random) + RandomText(random, 6),
+                             RandomStart(random) + RandomText(random, 253)});
+        }
+        Rooms shown = rooms;
+        for (Room& room : shown) {
+            room.Number = ShownText(room.Number);
+            room.Remark = ShownText(room.Remark);
         }
         const std::string text = WriteRoomCsv(rooms);
         for (const Units units : {Units::Imperial, Units::Metric}) {
-            EXPECT_EQ(RoomsOf(text, units), rooms);
+            EXPECT_EQ(RoomsOf(text, units), shown);
         }
         EXPECT_EQ(WriteRoomCsv(RoomsOf(text)), text);
     }
