@@ -1,0 +1,218 @@
+#include "store/DraftRecord.h"
+
+#include "files/QtText.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <limits>
+#include <stdexcept>
+#include <utility>
+
+namespace tarn {
+
+namespace {
+
+constexpr int Format = 1;
+constexpr const char* Metric = "metric";
+constexpr const char* Imperial = "feet";
+
+/// What is missing or wrong in a text; it never gets out of here.
+struct Damaged : std::runtime_error {
+    Damaged()
+        : std::runtime_error("a damaged draft") {}
+};
+
+void Require(bool sound) {
+    if (!sound) {
+        throw Damaged();
+    }
+}
+
+QString UnitsText(Units units) {
+    return QString::fromLatin1(units == Units::Metric ? Metric : Imperial);
+}
+
+QString TimeText(const QDateTime& time) {
+    return time.toUTC().toString(Qt::ISODateWithMs);
+}
+
+QJsonObject RoomObject(const Room& room) {
+    return {{QStringLiteral("width"), room.Width},
+            {QStringLiteral("length"), room.Length},
+            {QStringLiteral("covering"), room.Covering},
+            {QStringLiteral("base"), room.Base},
+            {QStringLiteral("number"), ToQt(room.Number)},
+            {QStringLiteral("remark"), ToQt(room.Remark)}};
+}
+
+QJsonArray SizeArray(const SizeParts& size) {
+    return {ToQt(size.Major), ToQt(size.Minor)};
+}
+
+QJsonObject FieldsObject(const RoomDraft& fields) {
+    QJsonObject object{{QStringLiteral("width"), SizeArray(fields.Width)},
+                       {QStringLiteral("length"), SizeArray(fields.Length)},
+                       {QStringLiteral("base"), ToQt(fields.Base)},
+                       {QStringLiteral("number"), ToQt(fields.Number)},
+                       {QStringLiteral("remark"), ToQt(fields.Remark)}};
+    if (fields.Covering) {
+        object[QStringLiteral("covering")] = *fields.Covering;
+    }
+    return object;
+}
+
+QJsonObject TypingObject(const Typing& typed) {
+    QJsonObject object{{QStringLiteral("units"), UnitsText(typed.In)}};
+    if (typed.New) {
+        object[QStringLiteral("new")] = FieldsObject(*typed.New);
+    }
+    if (typed.Changed) {
+        object[QStringLiteral("changed")] =
+            QJsonObject{{QStringLiteral("place"), static_cast<int>(typed.Changed->Place)},
+                        {QStringLiteral("before"), RoomObject(typed.Changed->Before)},
+                        {QStringLiteral("fields"), FieldsObject(typed.Changed->Texts)}};
+    }
+    return object;
+}
+
+QJsonValue ValueIn(const QJsonObject& object, const char* name) {
+    return object.value(QLatin1String(name));
+}
+
+QJsonObject ObjectIn(const QJsonObject& object, const char* name) {
+    const QJsonValue value = ValueIn(object, name);
+    Require(value.isObject());
+    return value.toObject();
+}
+
+std::string TextOf(const QJsonValue& value) {
+    Require(value.isString());
+    return FromQt(value.toString());
+}
+
+template <typename Number>
+Number NumberIn(const QJsonObject& object, const char* name) {
+    constexpr qint64 None = std::numeric_limits<qint64>::min();
+    const qint64 number = ValueIn(object, name).toInteger(None);
+    Require(std::in_range<Number>(number));
+    return static_cast<Number>(number);
+}
+
+Units UnitsIn(const QJsonObject& object, const char* name) {
+    const std::string text = TextOf(ValueIn(object, name));
+    Require(text == Metric || text == Imperial);
+    return text == Metric ? Units::Metric : Units::Imperial;
+}
+
+QDateTime TimeIn(const QJsonObject& object, const char* name) {
+    const QDateTime time =
+        QDateTime::fromString(ToQt(TextOf(ValueIn(object, name))), Qt::ISODateWithMs);
+    Require(time.isValid());
+    return time;
+}
+
+Room RoomOf(const QJsonValue& value) {
+    Require(value.isObject());
+    const QJsonObject object = value.toObject();
+    return {NumberIn<Integer>(object, "width"), NumberIn<Integer>(object, "length"),
+            NumberIn<Byte>(object, "covering"), NumberIn<Byte>(object, "base"),
+            TextOf(ValueIn(object, "number")),  TextOf(ValueIn(object, "remark"))};
+}
+
+std::vector<Room> RoomsOf(const QJsonValue& value) {
+    Require(value.isArray());
+    const QJsonArray array = value.toArray();
+    Require(array.size() <= static_cast<qsizetype>(RoomCapacity));
+    std::vector<Room> rooms;
+    for (const QJsonValue& each : array) {
+        rooms.push_back(RoomOf(each));
+    }
+    return rooms;
+}
+
+SizeParts SizeIn(const QJsonObject& object, const char* name) {
+    const QJsonArray parts = ValueIn(object, name).toArray();
+    Require(parts.size() == 2);
+    return {TextOf(parts[0]), TextOf(parts[1])};
+}
+
+RoomDraft FieldsOf(const QJsonObject& object) {
+    RoomDraft fields;
+    fields.Width = SizeIn(object, "width");
+    fields.Length = SizeIn(object, "length");
+    if (object.contains(QLatin1String("covering"))) {
+        fields.Covering = NumberIn<Byte>(object, "covering");
+    }
+    fields.Base = TextOf(ValueIn(object, "base"));
+    fields.Number = TextOf(ValueIn(object, "number"));
+    fields.Remark = TextOf(ValueIn(object, "remark"));
+    return fields;
+}
+
+Typing TypingOf(const QJsonObject& object) {
+    Typing typed;
+    typed.In = UnitsIn(object, "units");
+    if (object.contains(QLatin1String("new"))) {
+        typed.New = FieldsOf(ObjectIn(object, "new"));
+    }
+    if (object.contains(QLatin1String("changed"))) {
+        const QJsonObject changed = ObjectIn(object, "changed");
+        typed.Changed =
+            ChangedRoom{NumberIn<std::uint16_t>(changed, "place"),
+                        RoomOf(ValueIn(changed, "before")), FieldsOf(ObjectIn(changed, "fields"))};
+    }
+    return typed;
+}
+
+DraftRecord RecordOf(const QJsonObject& object) {
+    Require(NumberIn<int>(object, "format") == Format);
+    DraftRecord record;
+    record.Database = TextOf(ValueIn(object, "database"));
+    record.Project = TextOf(ValueIn(object, "project"));
+    record.Written = TimeIn(object, "written");
+    if (object.contains(QLatin1String("superseded"))) {
+        record.Superseded = TimeIn(object, "superseded");
+    }
+    record.Content.EnteredIn = UnitsIn(object, "enteredIn");
+    if (object.contains(QLatin1String("rooms"))) {
+        record.Content.Rooms = RoomsOf(ValueIn(object, "rooms"));
+    }
+    record.Content.Typed = TypingOf(ObjectIn(object, "typed"));
+    return record;
+}
+
+} // namespace
+
+std::string DraftText(const DraftRecord& record) {
+    QJsonObject object{{QStringLiteral("format"), Format},
+                       {QStringLiteral("database"), ToQt(record.Database)},
+                       {QStringLiteral("project"), ToQt(record.Project)},
+                       {QStringLiteral("written"), TimeText(record.Written)},
+                       {QStringLiteral("enteredIn"), UnitsText(record.Content.EnteredIn)},
+                       {QStringLiteral("typed"), TypingObject(record.Content.Typed)}};
+    if (record.Superseded.isValid()) {
+        object[QStringLiteral("superseded")] = TimeText(record.Superseded);
+    }
+    if (record.Content.Rooms) {
+        QJsonArray rooms;
+        for (const Room& room : *record.Content.Rooms) {
+            rooms.append(RoomObject(room));
+        }
+        object[QStringLiteral("rooms")] = rooms;
+    }
+    return QJsonDocument(object).toJson(QJsonDocument::Indented).toStdString();
+}
+
+std::optional<DraftRecord> ReadDraftText(std::string_view text) {
+    const QJsonDocument document = QJsonDocument::fromJson(
+        QByteArray::fromRawData(text.data(), static_cast<qsizetype>(text.size())));
+    try {
+        return RecordOf(document.object());
+    } catch (const Damaged&) {
+        return std::nullopt;
+    }
+}
+
+} // namespace tarn

@@ -1,0 +1,47 @@
+// Unsaved rooms as a draft keeps them, and the text of a draft's file.
+
+#pragma once
+
+#include "base/Units.h"
+#include "project/Room.h"
+#include "project/Typing.h"
+
+#include <QDateTime>
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace tarn {
+
+/// What was typed of a project and not saved.
+struct Draft {
+    /// The project's rooms as typed; nothing when they are those stored, and only fields were
+    /// typed.
+    std::optional<std::vector<Room>> Rooms;
+    Units EnteredIn = Units::Imperial; ///< the rooms' units, see Project::EnteredIn
+    Typing Typed;
+
+    bool IsEmpty() const { return !Rooms && Typed.IsEmpty(); }
+    bool operator==(const Draft&) const = default;
+};
+
+/// A draft with all that its file says of it.
+struct DraftRecord {
+    std::string Database; ///< path of the database file
+    std::string Project;  ///< name, as stored
+    QDateTime Written;
+    QDateTime Superseded; ///< when something newer took its place; invalid while nothing has
+    Draft Content;
+
+    bool operator==(const DraftRecord&) const = default;
+};
+
+/// The text of a draft's file: JSON.
+std::string DraftText(const DraftRecord& record);
+
+/// Read such a text; nothing when it is damaged, or not whole, or of a later format.
+std::optional<DraftRecord> ReadDraftText(std::string_view text);
+
+} // namespace tarn
