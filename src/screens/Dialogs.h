@@ -1,7 +1,9 @@
 #pragma once
 
+#include <cstddef>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace tarn {
 
@@ -15,6 +17,10 @@ class Dialogs {
     virtual void Message(const std::string& text) = 0;
     /// A question with Yes and No. No is the default; Escape and closing the box count as No.
     virtual bool AskYesNo(const std::string& text) = 0;
+    /// A question with a button for each of `actions`, and Cancel, which is the default; Escape and
+    /// closing the box count as it. The place of the action chosen; nothing when it was cancelled.
+    virtual std::optional<std::size_t> Choose(const std::string& text,
+                                              const std::vector<std::string>& actions) = 0;
     /// An input box, in which `initial` stands selected. Nothing when it was cancelled.
     virtual std::optional<std::string> Input(const std::string& prompt,
                                              const std::string& initial) = 0;

@@ -2,12 +2,16 @@
 
 #include "base/Text.h"
 #include "files/QtText.h"
+#include "screens/Controls.h"
 
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QInputDialog>
 #include <QMessageBox>
+#include <QPushButton>
+
+#include <algorithm>
 
 namespace tarn {
 
@@ -36,6 +40,28 @@ bool MessageBoxes::AskYesNo(const std::string& text) {
     box.setDefaultButton(QMessageBox::No);
     box.setEscapeButton(QMessageBox::No);
     return box.exec() == QMessageBox::Yes;
+}
+
+std::optional<std::size_t> MessageBoxes::Choose(const std::string& text,
+                                                const std::vector<std::string>& actions) {
+    QMessageBox box(parent_);
+    Prepare(box, text);
+    std::vector<QAbstractButton*> buttons;
+    for (const std::string& action : actions) {
+        auto* button = new QPushButton(&box);
+        SetCaption(*button, action);
+        box.addButton(button, QMessageBox::ActionRole);
+        buttons.push_back(button);
+    }
+    QPushButton* cancel = box.addButton(QMessageBox::Cancel);
+    box.setDefaultButton(cancel);
+    box.setEscapeButton(cancel);
+    box.exec();
+    const auto chosen = std::find(buttons.begin(), buttons.end(), box.clickedButton());
+    if (chosen == buttons.end()) {
+        return std::nullopt;
+    }
+    return static_cast<std::size_t>(chosen - buttons.begin());
 }
 
 std::optional<std::string> MessageBoxes::Input(const std::string& prompt,

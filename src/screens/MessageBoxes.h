@@ -20,6 +20,8 @@ class MessageBoxes : public Dialogs {
 
     void Message(const std::string& text) override;
     bool AskYesNo(const std::string& text) override;
+    std::optional<std::size_t> Choose(const std::string& text,
+                                      const std::vector<std::string>& actions) override;
     std::optional<std::string> Input(const std::string& prompt,
                                      const std::string& initial) override;
     std::optional<std::string> SaveFileName(const std::string& suggestedName,

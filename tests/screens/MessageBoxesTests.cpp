@@ -1,5 +1,6 @@
 // The real message, question, input and file boxes.
 
+#include "screens/Controls.h"
 #include "screens/MessageBoxes.h"
 #include "screens/ScreenTesting.h"
 #include "store/TestDatabase.h"
@@ -88,6 +89,35 @@ TEST_F(RealBoxes, TakeReturnEscapeAndClosingForNo) {
 
 TEST_F(RealBoxes, TakeAClickOnYesForYes) {
     EXPECT_TRUE(AskAndDo([](QMessageBox& box) { Click(*box.button(QMessageBox::Yes)); }));
+}
+
+TEST_F(RealBoxes, OfferActionsByTheirNames) {
+    const auto choose = [this](std::function<void(QMessageBox&)> action) {
+        WhenOpen<QMessageBox>(std::move(action));
+        return boxes.Choose("Changed <b>it</b>.\r\nAnd now?", {"Replace it", "This & that"});
+    };
+    const auto button = [](const QMessageBox& box, const char* caption) -> QAbstractButton& {
+        for (QAbstractButton* each : box.buttons()) {
+            if (CaptionOf(*each) == QLatin1String(caption)) {
+                return *each;
+            }
+        }
+        throw std::runtime_error(std::string("there is no button ") + caption);
+    };
+    EXPECT_EQ(choose([&](QMessageBox& box) {
+                  EXPECT_EQ(box.text(), QStringLiteral("Changed <b>it</b>.\nAnd now?"));
+                  EXPECT_EQ(box.textFormat(), Qt::PlainText);
+                  EXPECT_EQ(box.buttons().size(), 3);
+                  Click(button(box, "Replace it"));
+              }),
+              0U);
+    EXPECT_EQ(choose([&](QMessageBox& box) { Click(button(box, "This & that")); }), 1U);
+    EXPECT_EQ(choose([](QMessageBox& box) { Click(*box.button(QMessageBox::Cancel)); }),
+              std::nullopt);
+    EXPECT_EQ(choose([](QMessageBox& box) { Press(box, Qt::Key_Return); }), std::nullopt);
+    EXPECT_EQ(choose([](QMessageBox& box) { Press(box, Qt::Key_Escape); }), std::nullopt);
+    EXPECT_EQ(choose([](QMessageBox& box) { box.close(); }), std::nullopt);
+    EXPECT_EQ(shown, 6);
 }
 
 TEST_F(RealBoxes, GiveBackWhatIsTyped) {

@@ -11,6 +11,8 @@
 #include <QTextDocument>
 #include <QTextDocumentFragment>
 
+#include <algorithm>
+
 namespace tarn::testing {
 
 void FakeBoxes::Message(const std::string& text) {
@@ -29,6 +31,24 @@ bool FakeBoxes::AskYesNo(const std::string& text) {
     const bool answer = YesNo.front();
     YesNo.pop_front();
     return answer;
+}
+
+std::optional<std::size_t> FakeBoxes::Choose(const std::string& text,
+                                             const std::vector<std::string>& actions) {
+    Questions.push_back(text);
+    Actions.push_back(actions);
+    if (Choices.empty()) {
+        ADD_FAILURE() << "asked without an answer: " << text;
+        return std::nullopt;
+    }
+    const std::string choice = Choices.front();
+    Choices.pop_front();
+    const auto found = std::find(actions.begin(), actions.end(), choice);
+    if (found == actions.end()) {
+        EXPECT_EQ(choice, "") << "no such button";
+        return std::nullopt;
+    }
+    return static_cast<std::size_t>(found - actions.begin());
 }
 
 std::optional<std::string> FakeBoxes::Input(const std::string& prompt, const std::string& initial) {

@@ -32,7 +32,10 @@ struct FakeBoxes : Dialogs {
     std::vector<std::string> Prompts;
     std::vector<std::string> InitialTexts; ///< of the input boxes, one for each prompt
     std::vector<std::string> SuggestedFiles;
+    std::vector<std::vector<std::string>> Actions; ///< offered by each question with named buttons
     std::deque<bool> YesNo;
+    /// The caption of the action to choose; empty for Cancel.
+    std::deque<std::string> Choices;
     std::deque<std::optional<std::string>> Inputs;
     std::deque<std::optional<std::string>> Files;
     /// Called while a message stands, such as to look at the screen behind it.
@@ -40,6 +43,8 @@ struct FakeBoxes : Dialogs {
 
     void Message(const std::string& text) override;
     bool AskYesNo(const std::string& text) override;
+    std::optional<std::size_t> Choose(const std::string& text,
+                                      const std::vector<std::string>& actions) override;
     std::optional<std::string> Input(const std::string& prompt,
                                      const std::string& initial) override;
     std::optional<std::string> SaveFileName(const std::string& suggestedName,
