@@ -223,6 +223,18 @@ std::string FindBackup(const std::string& backup, const std::string& database) {
                : backup;
 }
 
+std::optional<std::size_t> CountProjects(const std::string& path) {
+    try {
+        const std::string table(ProjTab);
+        const Result count = UntouchedFile(path, DefaultBusyWait)
+                                 .Database()
+                                 .Run("SELECT count(*) FROM " + table, table + " cannot be read");
+        return static_cast<std::size_t>(count.Rows.at(0).at(0).toLongLong());
+    } catch (const DatabaseError&) {
+        return std::nullopt;
+    }
+}
+
 Restored RestoreBackup(const std::string& backup, const std::string& database, const QDateTime& now,
                        int busyWait) {
     const QFileInfo file = FileOf(database);

@@ -8,6 +8,7 @@
 #include <QDateTime>
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -38,6 +39,9 @@ std::string MakeBackup(const std::string& database,
 
 /// The path of a backup that is named as a path, or by its name in the folder of backups.
 std::string FindBackup(const std::string& backup, const std::string& database);
+
+/// How many projects a database file holds, with nothing changed; nothing when it cannot be read.
+std::optional<std::size_t> CountProjects(const std::string& path);
 
 /// What a restoring did with what was there before.
 struct Restored {

@@ -24,6 +24,16 @@ constexpr std::size_t MostPlaces = 10; // of each kind
 
 // --- the file and its tables ---
 
+void TellOfJournal(const UntouchedFile& file, const std::string& path, Findings& findings) {
+    if (file.Journal() == JournalKind::Own) {
+        findings.Tell("A change was cut off by a crash: " + JournalPath(path) +
+                      " lies beside the file. The next program that opens the file takes that "
+                      "change back.");
+    } else if (file.Journal() == JournalKind::Foreign) {
+        findings.Tell(ForeignJournalText(path));
+    }
+}
+
 /// Whether the file's structure is in order, so far that its rows can be read.
 void FindDamage(UntouchedFile& file, Findings& findings) {
     const Result check = file.Database().Run(
@@ -409,9 +419,7 @@ std::vector<std::string> CheckDatabaseFile(const std::string& path, int busyWait
     Findings findings(MostPlaces);
     try {
         UntouchedFile file(path, busyWait);
-        if (!file.JournalFinding().empty()) {
-            findings.Tell(file.JournalFinding());
-        }
+        TellOfJournal(file, path, findings);
         FindDamage(file, findings);
         Connection& connection = file.Database();
         const std::string failing = "The database file " + path + " cannot be checked";

@@ -33,4 +33,20 @@ std::vector<std::string> Findings::Lines() const {
     return lines;
 }
 
+std::vector<std::string> Findings::LineOfEach() const {
+    std::vector<std::string> lines;
+    for (const Kind& kind : kinds_) {
+        for (const std::string& place : kind.Places) {
+            lines.push_back(kind.Text + ": " + place + ".");
+        }
+        if (kind.Count == 0) {
+            lines.push_back(kind.Text);
+        } else if (kind.Count > kind.Places.size()) {
+            lines.push_back(kind.Text + ": " + std::to_string(kind.Count - kind.Places.size()) +
+                            " more.");
+        }
+    }
+    return lines;
+}
+
 } // namespace tarn

@@ -24,6 +24,8 @@ class Findings {
     /// A line for each sentence and kind: "Rooms without a sheet: 5 under the number 3; and 7
     /// more."
     std::vector<std::string> Lines() const;
+    /// A line for each sentence and place: "Rooms without a sheet: 5 under the number 3."
+    std::vector<std::string> LineOfEach() const;
 
   private:
     struct Kind {

@@ -283,10 +283,15 @@ std::optional<std::int64_t> RawTable::EndOfGap(std::int64_t after) {
             return false;
         }
     };
-    // In small steps for a while, so that few rows between two gaps are passed over, then in ever
-    // wider ones; and back to where rows can be read.
+    // In small steps as far as the file can hold rows, so that few between two gaps are passed
+    // over, then in ever wider ones; and back to where rows can be read.
     constexpr std::int64_t SmallStep = 32;
-    constexpr std::int64_t NearRows = 1'000'000;
+    constexpr std::int64_t RowsOfPage = 100; // about
+    const std::int64_t nearRows =
+        RowsOfPage * connection_.Run("PRAGMA page_count", "The file cannot be read")
+                         .Rows.at(0)
+                         .at(0)
+                         .toLongLong();
     const std::int64_t first = std::max<std::int64_t>(after, 0);
     std::int64_t before = first;
     std::int64_t step = 1;
@@ -295,7 +300,7 @@ std::optional<std::int64_t> RawTable::EndOfGap(std::int64_t after) {
         if (before > GreatestRow / 4) {
             return std::nullopt;
         }
-        step = before - first < NearRows ? std::min(step * 2, SmallStep) : step * 2;
+        step = before - first < nearRows ? std::min(step * 2, SmallStep) : step * 2;
     }
     std::int64_t least = before;
     std::int64_t most = before + step;

@@ -3,7 +3,6 @@
 #include "store/DatabaseError.h"
 #include "store/DatabaseFile.h"
 #include "store/FileLock.h"
-#include "store/Journal.h"
 
 #include <QFile>
 
@@ -40,8 +39,8 @@ UntouchedFile::UntouchedFile(const std::string& path, int busyWait)
 }
 
 void UntouchedFile::Copy(const std::string& path) {
-    const JournalKind kind = JournalBeside(path);
-    if (kind == JournalKind::None) {
+    journal_ = JournalBeside(path);
+    if (journal_ == JournalKind::None) {
         return; // taken back meanwhile
     }
     copy_.emplace();
@@ -51,13 +50,8 @@ void UntouchedFile::Copy(const std::string& path) {
     }
     path_ = copy_->filePath(QStringLiteral("copy.mdb")).toStdString();
     CopyFile(path, path_);
-    if (kind == JournalKind::Own) {
+    if (journal_ == JournalKind::Own) {
         CopyFile(JournalPath(path), JournalPath(path_));
-        journalFinding_ = "A change was cut off by a crash: " + JournalPath(path) +
-                          " lies beside the file. The next program that opens the file takes that "
-                          "change back.";
-    } else {
-        journalFinding_ = ForeignJournalText(path);
     }
 }
 

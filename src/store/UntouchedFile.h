@@ -1,6 +1,7 @@
 #pragma once
 
 #include "store/Connection.h"
+#include "store/Journal.h"
 
 #include <QTemporaryDir>
 
@@ -22,14 +23,14 @@ class UntouchedFile {
     Connection& Database() { return *connection_; }
     /// The file that is read: the one given, or its copy.
     const std::string& Path() const { return path_; }
-    /// What lies beside the file and what that means, a sentence; empty when nothing does.
-    const std::string& JournalFinding() const { return journalFinding_; }
+    /// What a crash left beside the file.
+    JournalKind Journal() const { return journal_; }
 
   private:
     void Copy(const std::string& path);
 
     std::string path_;
-    std::string journalFinding_;
+    JournalKind journal_ = JournalKind::None;
     std::optional<QTemporaryDir> copy_;
     std::unique_ptr<Connection> connection_; // the last one: closed before the copy goes
 };

@@ -7,7 +7,6 @@
 #include "project/Coverings.h"
 #include "project/Report.h"
 #include "project/WallBase.h"
-#include "store/Check.h"
 #include "store/Configuration.h"
 #include "store/DataFolder.h"
 #include "store/ProjectStore.h"
@@ -121,19 +120,6 @@ void CreateData(const std::string& folder, const std::string& configDirectory) {
     }
 }
 
-void CheckData(const std::string& database) {
-    const std::vector<std::string> findings = CheckDatabaseFile(database);
-    if (findings.empty()) {
-        std::cout << "The database " << database << " is sound and has every table.\n";
-        return;
-    }
-    std::string text = "The database " + database + " has faults:";
-    for (const std::string& finding : findings) {
-        text += "\n  " + finding;
-    }
-    throw Refusal(text);
-}
-
 void ListData(const std::string& database) {
     ProjectStore store(database, DatabaseAccess::ReadOnly);
     std::ostringstream out;
@@ -167,11 +153,6 @@ void ExportProject(const std::string& database, const std::string& name,
         WarnOfMetric(project, "its sizes are written in centimetres. Use --metric to read them.");
     }
     WriteWholeFile(output, WriteRoomCsv(project.Rooms));
-}
-
-void BackUpData(const std::string& database, const std::string& target) {
-    BackUpDatabaseFile(database, target);
-    std::cout << "Made " << target << ".\n";
 }
 
 } // namespace tarn

@@ -1,4 +1,4 @@
-// The commands of tarn-data, each a function.
+// The commands of tarn-data that make and show data, each a function.
 
 #pragma once
 
@@ -15,9 +15,6 @@ namespace tarn {
 /// `configDirectory` (the user's own when empty) unless one is in force already. When the
 /// configuration file cannot be written the database is there all the same, and the reason says so.
 void CreateData(const std::string& folder, const std::string& configDirectory);
-
-/// Look a database over. Raises Refusal with the findings when there are any.
-void CheckData(const std::string& database);
 
 /// Print every directory, its projects and their rooms.
 void ListData(const std::string& database);
@@ -44,8 +41,5 @@ void ImportProject(const ImportRequest& request);
 /// Write a project's rooms as CSV to a file, or to standard output for "-". The file does not tell
 /// its unit: warns on standard error when it is metric.
 void ExportProject(const std::string& database, const std::string& name, const std::string& output);
-
-/// Copy a database consistently, also while it is in use.
-void BackUpData(const std::string& database, const std::string& target);
 
 } // namespace tarn

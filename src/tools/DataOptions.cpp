@@ -3,6 +3,7 @@
 #include "base/Version.h"
 #include "store/Configuration.h"
 #include "store/DataFolder.h"
+#include "tools/CareCommands.h"
 #include "tools/DataCommands.h"
 #include "tools/Files.h"
 #include "tools/ToolMain.h"
@@ -76,20 +77,36 @@ void AddFileCommands(CLI::App& app, Arguments& arguments, Command& chosen) {
                     "Directory of the configuration file " + std::string(ConfigurationFileName))
         ->type_name("DIR");
 
-    auto& check =
-        AddCommand(app, "check", "Check that a database is sound and has every table", chosen,
-                   [arguments = &arguments] { CheckData(arguments->Project.Database); });
-    AddDatabase(check, arguments);
-
     auto& list = AddCommand(app, "list", "List directories, projects and rooms", chosen,
                             [arguments = &arguments] { ListData(arguments->Project.Database); });
     AddDatabase(list, arguments);
+}
 
-    auto& backup = AddCommand(
-        app, "backup", "Copy a database, also while the program uses it", chosen,
-        [arguments = &arguments] { BackUpData(arguments->Project.Database, arguments->Target); });
-    AddDatabase(backup, arguments);
-    backup.add_option("TARGET", arguments.Target, "File to be made; must not exist")->required();
+void AddCareCommands(CLI::App& app, Arguments& arguments, Command& chosen) {
+    const auto* database = &arguments.Project.Database;
+    const auto* target = &arguments.Target;
+    const auto add = [&](const char* name, const char* text, const Command& run) -> CLI::App& {
+        auto& command = AddCommand(app, name, text, chosen, run);
+        AddDatabase(command, arguments);
+        return command;
+    };
+    add("check", "Check that a database is sound, and all that stands in it",
+        [database] { CheckData(*database); });
+    add("repair", "Write a clean copy of all that can be read",
+        [database, target] { RepairData(*database, *target); })
+        .add_option("--to", arguments.Target, "File to be made; must not exist")
+        ->required()
+        ->type_name("NEW");
+    add("backup", "Copy a database, also while the program uses it",
+        [database, target] { BackUpData(*database, *target); })
+        .add_option("TARGET", arguments.Target, "File to be made; must not exist")
+        ->required();
+    add("backups", "List the backups that the program made",
+        [database] { ListBackups(*database); });
+    add("restore", "Put a backup in the place of a database; what was there is kept",
+        [database, target] { RestoreData(*target, *database); })
+        .add_option("BACKUP", arguments.Target, "A file, or a name as \"backups\" lists it")
+        ->required();
 }
 
 void AddProjectCommands(CLI::App& app, Arguments& arguments, Command& chosen) {
@@ -133,6 +150,7 @@ std::function<void()> ReadDataCommand(int argc, const char* const* argv, int& st
     const auto arguments = std::make_shared<Arguments>();
     Command chosen;
     AddFileCommands(app, *arguments, chosen);
+    AddCareCommands(app, *arguments, chosen);
     AddProjectCommands(app, *arguments, chosen);
     try {
         app.parse(argc, argv);

@@ -1,0 +1,278 @@
+#include "store/Repair.h"
+
+#include "base/Text.h"
+#include "store/Check.h"
+#include "store/DatabaseError.h"
+#include "store/DatabaseFile.h"
+#include "store/FileInMaking.h"
+#include "store/Findings.h"
+#include "store/RawRows.h"
+#include "store/RepairedData.h"
+#include "store/Schema.h"
+#include "store/UntouchedFile.h"
+
+#include <algorithm>
+
+namespace tarn {
+
+namespace {
+
+constexpr std::size_t MostPlaces = 200; // of each kind
+
+QVariant VariantOf(const RawValue& value) {
+    if (const auto* whole = std::get_if<std::int64_t>(&value)) {
+        return QVariant::fromValue<qint64>(*whole);
+    }
+    if (const auto* number = std::get_if<double>(&value)) {
+        return *number;
+    }
+    if (const auto* text = std::get_if<std::string>(&value)) {
+        return TextValue(*text);
+    }
+    if (const auto* blob = std::get_if<Blob>(&value)) {
+        return QByteArray::fromHex(QByteArray::fromStdString(blob->Hexadecimal));
+    }
+    return {};
+}
+
+/// Adds rows to a table of the new file, many with each statement.
+class RowWriter {
+  public:
+    RowWriter(Connection& connection, std::string_view table)
+        : connection_(connection)
+        , shape_(ShapeOf(table)) {}
+
+    void Add(const std::vector<RawValue>& values) {
+        constexpr std::size_t AtOnce = 200;
+        for (const RawValue& value : values) {
+            values_.push_back(VariantOf(value));
+        }
+        if (++rows_ == AtOnce) {
+            Flush();
+        }
+    }
+    /// Write what was added last. Needed once, at the end.
+    void Flush() {
+        if (rows_ == 0) {
+            return;
+        }
+        std::string row;
+        for (std::size_t i = 0; i < shape_.Fields.size(); ++i) {
+            row += row.empty() ? "(?" : ", ?";
+        }
+        std::string rows;
+        for (std::size_t i = 0; i < rows_; ++i) {
+            rows += (rows.empty() ? "" : ", ") + row + ")";
+        }
+        const std::string name(shape_.Name);
+        connection_.Run("INSERT INTO " + name + " VALUES " + rows, name + " takes no new row",
+                        values_);
+        values_.clear();
+        rows_ = 0;
+    }
+
+  private:
+    Connection& connection_;
+    const TableShape& shape_;
+    QVariantList values_;
+    std::size_t rows_ = 0;
+};
+
+/// Reads the tables of the source.
+class Source {
+  public:
+    Source(const std::string& path, int busyWait, Findings& changes)
+        : path_(path)
+        , file_(path, busyWait)
+        , changes_(changes) {
+        // Also a file with a damaged description of its tables, or cut short, is read then.
+        file_.Database().Run("PRAGMA writable_schema = ON", "The database file cannot be read");
+        file_.Database().Run("BEGIN", "The database file cannot be read"); // all of one moment
+    }
+
+    const UntouchedFile& File() const { return file_; }
+
+    /// Give `visit` every row of a table that can be read.
+    void Read(std::string_view table, const RawTable::Visitor& visit) {
+        const TableShape& shape = ShapeOf(table);
+        const std::string name(table);
+        try {
+            if (!IsThere(name)) {
+                changes_.Add("Tables that were missing and are empty now", name);
+                return;
+            }
+            RawTable rows(file_.Database(), shape);
+            for (const Field& field : shape.Fields) {
+                if (!rows.Has(field.Name) && !field.Optional) {
+                    changes_.Add("Fields that were missing", name + "." + std::string(field.Name));
+                }
+            }
+            rows.VisitReadable(visit, [&](std::int64_t after) {
+                changes_.Add("Rows that cannot be read and are left out",
+                             name + (after < 0 ? std::string(", from the first row on")
+                                               : ", behind row " + std::to_string(after)));
+            });
+            ++tablesRead_;
+        } catch (const DatabaseError& error) {
+            changes_.Add("Tables that cannot be read", name + " (" + error.what() + ")");
+        }
+    }
+    /// Raise DatabaseError when not one table could be read.
+    void RequireSomething() const {
+        if (tablesRead_ == 0) {
+            throw DatabaseError("Nothing can be read of the database file " + path_ +
+                                ". Put a backup in its place.");
+        }
+    }
+    /// Tell what another program put into the file: it is not taken over.
+    void TellOfStrangers() {
+        const Result all = file_.Database().Run(
+            "SELECT type, name, tbl_name FROM sqlite_master WHERE name NOT LIKE 'sqlite\\_%' "
+            "ESCAPE '\\'",
+            "The tables cannot be listed");
+        for (const QVariantList& row : all.Rows) {
+            const std::string type = row.at(0).toString().toStdString();
+            const std::string name = ShownText(row.at(1).toString().toStdString());
+            const auto& own = TableShapes();
+            const bool isOwn = std::any_of(own.begin(), own.end(), [&](const TableShape& shape) {
+                return EqualsIgnoringCase(shape.Name, name);
+            });
+            if (type == "trigger" || type == "view" || (type == "table" && !isOwn)) {
+                changes_.Add("What another program put there, left out", type + " " + name);
+            } else if (type == "table") {
+                TellOfFields(name);
+            }
+        }
+    }
+
+  private:
+    bool IsThere(const std::string& table) {
+        return !file_.Database()
+                    .Run("SELECT 1 FROM sqlite_master WHERE type = 'table' AND "
+                         "name = ? COLLATE NOCASE",
+                         table + " cannot be read", {TextValue(table)})
+                    .Rows.empty();
+    }
+    void TellOfFields(const std::string& table) {
+        const auto& shapes = TableShapes();
+        const auto& fields = std::find_if(shapes.begin(), shapes.end(), [&](const auto& shape) {
+                                 return EqualsIgnoringCase(shape.Name, table);
+                             })->Fields;
+        const Result columns =
+            file_.Database().Run("PRAGMA table_info(" + table + ")", table + " cannot be read");
+        for (const QVariantList& column : columns.Rows) {
+            const std::string name = column.at(1).toString().toStdString();
+            if (std::none_of(fields.begin(), fields.end(), [&](const Field& field) {
+                    return EqualsIgnoringCase(field.Name, name);
+                })) {
+                changes_.Add("What another program put there, left out",
+                             "field " + ShownText(name) + " of " + table);
+            }
+        }
+    }
+
+    std::string path_;
+    UntouchedFile file_;
+    Findings& changes_;
+    int tablesRead_ = 0;
+};
+
+void WriteProjects(Connection& target, const RepairedData& data) {
+    RowWriter directories(target, DirTab);
+    for (const std::string& name : data.Directories()) {
+        directories.Add({name});
+    }
+    RowWriter projects(target, ProjTab);
+    RowWriter sheets(target, MainTab);
+    RowWriter rooms(target, InputData);
+    for (const RepairedProject& project : data.Projects()) {
+        projects.Add({project.Directory, project.Name, std::int64_t{0}});
+        if (project.OldNumber) {
+            sheets.Add(project.Sheet.Values);
+            for (const RawRow& room : project.Rooms) {
+                rooms.Add(room.Values);
+            }
+        }
+    }
+    for (RowWriter* writer : {&directories, &projects, &sheets, &rooms}) {
+        writer->Flush();
+    }
+}
+
+/// Copy the other rows of sheets to their new numbers.
+void CopySheetTables(Source& source, Connection& target, const RepairedData& data,
+                     Findings& changes) {
+    for (const std::string_view table : SheetTables) {
+        if (table == MainTab || table == InputData) {
+            continue;
+        }
+        const auto& fields = ShapeOf(table).Fields;
+        RowWriter writer(target, table);
+        source.Read(table, [&](const RawRow& row) {
+            std::vector<RawValue> values;
+            for (std::size_t i = 0; i < fields.size(); ++i) {
+                if (fields.at(i).Name != "TabIndex") {
+                    values.push_back(MendedValue(row.Values.at(i), fields.at(i)));
+                } else if (const auto number = data.NumberFor(row.Values.at(i))) {
+                    values.emplace_back(*number);
+                } else {
+                    changes.Add("Rows of sheets that are not there, left out",
+                                std::string(table) + ", row " + std::to_string(row.Number));
+                    return;
+                }
+            }
+            writer.Add(values);
+        });
+        writer.Flush();
+    }
+}
+
+void TellOfJournal(JournalKind journal, Findings& changes) {
+    if (journal == JournalKind::Own) {
+        changes.Tell("A change that a crash cut off is taken back.");
+    } else if (journal == JournalKind::Foreign) {
+        changes.Tell("The journal beside the file belongs to another state of it and is not used.");
+    }
+}
+
+/// Raise DatabaseError unless the new file is all in order.
+void RequireClean(const std::string& file, const std::string& target, int busyWait) {
+    const auto findings = CheckDatabaseFile(file, busyWait);
+    if (!findings.empty()) {
+        throw DatabaseError("The file " + target + " cannot be made: it would not be sound. " +
+                            findings.front());
+    }
+}
+
+} // namespace
+
+std::vector<std::string> RepairDatabaseFile(const std::string& source, const std::string& target,
+                                            int busyWait) {
+    Findings changes(MostPlaces);
+    Source from(source, busyWait, changes);
+    FileInMaking file(target);
+    TellOfJournal(from.File().Journal(), changes);
+    RepairedData data(changes);
+    from.Read(DirTab, [&data](const RawRow& row) { data.AddDirectory(row); });
+    from.Read(ProjTab, [&data](const RawRow& row) { data.AddProject(row); });
+    from.Read(MainTab, [&data](const RawRow& row) { data.AddSheet(row); });
+    from.Read(InputData, [&data](const RawRow& row) { data.AddRoom(row); });
+    from.RequireSomething();
+    data.Settle();
+    {
+        Connection to(file.Path(), Connection::Access::Create, busyWait);
+        const std::string failing = "The file " + target + " cannot be made";
+        to.Run("BEGIN", failing);
+        CreateTables(to);
+        WriteProjects(to, data);
+        CopySheetTables(from, to, data, changes);
+        MarkAsCopyOfItsOwn(to, failing);
+        to.Run("COMMIT", failing);
+    }
+    from.TellOfStrangers();
+    RequireClean(file.Path(), target, busyWait);
+    file.Place();
+    return changes.LineOfEach();
+}
+
+} // namespace tarn
