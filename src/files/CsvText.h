@@ -23,7 +23,7 @@ inline constexpr std::size_t MostCsvFields = 64;
 
 /// One record of a CSV text.
 struct CsvRecord {
-    long long Line = 1; ///< the physical line on which the record begins, from 1
+    long long Line = 1;              ///< the physical line on which the record begins, from 1
     std::vector<std::string> Fields; ///< the first MostCsvFields of them
     std::size_t FieldCount = 0;      ///< of all
     CsvFault Fault = CsvFault::None; ///< of the first faulty field
@@ -31,11 +31,11 @@ struct CsvRecord {
 };
 
 /// Takes a CSV text apart by RFC 4180, record by record: fields separated by commas; a field that
-/// begins with a quote may hold commas, line ends and doubled quotes. A byte-order mark at the start
-/// is skipped, lines end in CR LF, LF or CR, empty lines are no records. A quote further on in a
-/// field that does not begin with one is itself, so that 12'6" can be written as it is. Blanks
-/// belong to the field. The bytes of the fields are not judged; a record with a fault is still split
-/// to its end.
+/// begins with a quote may hold commas, line ends and doubled quotes. A byte-order mark at the
+/// start is skipped, lines end in CR LF, LF or CR, empty lines are no records. A quote further on
+/// in a field that does not begin with one is itself, so that 12'6" can be written as it is. Blanks
+/// belong to the field. The bytes of the fields are not judged; a record with a fault is still
+/// split to its end.
 class CsvReader {
   public:
     /// The text is not copied.

@@ -6,12 +6,10 @@
 #include <cerrno>
 #include <csignal>
 #include <ctime>
-#include <thread>
-
 #include <fcntl.h>
 #include <poll.h>
 #include <sys/stat.h>
-
+#include <thread>
 #include <unistd.h>
 
 namespace tarn {

@@ -6,7 +6,6 @@
 
 #include <cerrno>
 #include <filesystem>
-
 #include <sys/stat.h>
 #include <unistd.h>
 

@@ -16,10 +16,10 @@ class OutputFileError : public std::runtime_error {
 
 /// What may stand at the path of an output file.
 enum class Overwrite {
-    Files,    ///< a file, but neither a database nor a symbolic link to another file: for a path
-              ///< that was written in a command, where nothing has asked
-    Chosen,   ///< also a link, which stays and leads to the new file then: for a file box, which has
-              ///< asked whether the file is to be replaced. It cannot tell that it is a database
+    Files,  ///< a file, but neither a database nor a symbolic link to another file: for a path
+            ///< that was written in a command, where nothing has asked
+    Chosen, ///< also a link, which stays and leads to the new file then: for a file box, which has
+            ///< asked whether the file is to be replaced. It cannot tell that it is a database
     Anything, ///< also a database: for a command with --force
 };
 

@@ -32,7 +32,8 @@ std::string_view NameOf(Column column) {
     return ColumnNames[static_cast<std::size_t>(column)];
 }
 
-/// What keeps a spreadsheet from taking a text for a formula, and marks one that begins with itself.
+/// What keeps a spreadsheet from taking a text for a formula, and marks one that begins with
+/// itself.
 constexpr char TextMark = '\'';
 constexpr std::string_view MarkedStarts = "=+-@'";
 
@@ -254,8 +255,7 @@ class RoomCsvReader {
             columns_.push_back(column);
         }
         if (columnCount_ > MostCsvFields) {
-            AddError(header.Line, "the line has " +
-                                      TrimStr(static_cast<long long>(columnCount_)) +
+            AddError(header.Line, "the line has " + TrimStr(static_cast<long long>(columnCount_)) +
                                       " columns; a room has " +
                                       TrimStr(static_cast<long long>(ColumnNames.size())));
         }
@@ -275,10 +275,9 @@ class RoomCsvReader {
             return;
         }
         if (record.FieldCount != columnCount_) {
-            AddError(record.Line, "the line has " +
-                                      TrimStr(static_cast<long long>(record.FieldCount)) +
-                                      " fields and the header " +
-                                      TrimStr(static_cast<long long>(columnCount_)));
+            AddError(record.Line,
+                     "the line has " + TrimStr(static_cast<long long>(record.FieldCount)) +
+                         " fields and the header " + TrimStr(static_cast<long long>(columnCount_)));
             return;
         }
         Room room;

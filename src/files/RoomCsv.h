@@ -54,16 +54,16 @@ struct RoomCsvReading {
 ///
 /// Every mistake of the file is counted, and none of its rooms is taken then; in a UTF-16 file and
 /// one with semicolons or tabs between the columns that is the only one. A file with a header
-/// alone has no rooms and no mistake. Takes time in proportion to the text, and little memory beside
-/// it.
+/// alone has no rooms and no mistake. Takes time in proportion to the text, and little memory
+/// beside it.
 RoomCsvReading ReadRoomCsv(std::string_view text, Units units);
 
 /// The rooms as a CSV text that ReadRoomCsv reads back, whatever the unit: all six columns, sizes
-/// as whole numbers, coverings by their caption, each room in one line. A room number or remark that
-/// a spreadsheet would take for a formula (= + - @ first), and one that begins with ', has a ' before
-/// it; each TextFault in it is written as it is shown. A room that can be stored but not entered (a
-/// negative size, an unknown covering, an overlong text) is written all the same, and refused when
-/// it is read; an unknown base code is written as no base, as it is shown.
+/// as whole numbers, coverings by their caption, each room in one line. A room number or remark
+/// that a spreadsheet would take for a formula (= + - @ first), and one that begins with ', has a '
+/// before it; each TextFault in it is written as it is shown. A room that can be stored but not
+/// entered (a negative size, an unknown covering, an overlong text) is written all the same, and
+/// refused when it is read; an unknown base code is written as no base, as it is shown.
 std::string WriteRoomCsv(const std::vector<Room>& rooms);
 
 } // namespace tarn

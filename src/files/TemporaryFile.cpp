@@ -3,10 +3,9 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstdio>
+#include <fcntl.h>
 #include <filesystem>
 #include <random>
-
-#include <fcntl.h>
 #include <sys/file.h>
 #include <unistd.h>
 

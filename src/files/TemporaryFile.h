@@ -7,7 +7,6 @@
 #include <optional>
 #include <string>
 #include <string_view>
-
 #include <sys/stat.h>
 
 namespace tarn {
@@ -44,8 +43,8 @@ class TemporaryFile {
 /// The folder of a path, "." for a name alone.
 std::string FolderOfPath(const std::string& path);
 
-/// Have the entries of a folder stored on the disk. Nothing where the system has no way to do so: in
-/// a folder that may not be read, and on a file system that knows no such thing. Raises
+/// Have the entries of a folder stored on the disk. Nothing where the system has no way to do so:
+/// in a folder that may not be read, and on a file system that knows no such thing. Raises
 /// std::system_error.
 void SynchroniseEntries(const std::string& folder);
 

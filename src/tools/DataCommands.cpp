@@ -2,6 +2,7 @@
 
 #include "base/Lengths.h"
 #include "base/RunTimeError.h"
+#include "base/Text.h"
 #include "files/RoomCsv.h"
 #include "files/ShortDate.h"
 #include "project/Coverings.h"
@@ -14,6 +15,7 @@
 #include "tools/Files.h"
 #include "tools/ProjectFile.h"
 #include "tools/Refusal.h"
+#include "tools/StandardStreams.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -75,14 +77,14 @@ std::string RoomLine(const Room& room, std::size_t number, Units units) {
     for (const std::string& text : {BaseText(room.Base), room.Number, room.Remark}) {
         line += text.empty() ? "" : "  " + text;
     }
-    return line;
+    return ShownText(line);
 }
 
 void ListRooms(std::ostream& out, const LoadedProject& loaded) {
     const std::vector<Room>& rooms = loaded.Value.Rooms;
     out << " (" << rooms.size() << (rooms.size() == 1 ? " room" : " rooms") << ")\n";
     for (const std::string& finding : loaded.Findings) {
-        out << "    " << finding << '\n';
+        out << "    " << ShownText(finding) << '\n';
     }
     std::size_t number = 0;
     for (const Room& room : rooms) {
@@ -92,9 +94,9 @@ void ListRooms(std::ostream& out, const LoadedProject& loaded) {
 
 void ListProject(std::ostream& out, ProjectStore& store, const std::string& project) {
     const auto tellCause = [&out](const std::string& cause) {
-        out << " (cannot be loaded: " << cause << ")\n";
+        out << " (cannot be loaded: " << ShownText(cause) << ")\n";
     };
-    out << "  " << project;
+    out << "  " << ShownText(project);
     try {
         ListRooms(out, store.Load(project));
     } catch (const DatabaseError& error) {
@@ -102,6 +104,22 @@ void ListProject(std::ostream& out, ProjectStore& store, const std::string& proj
     } catch (const RunTimeError& error) {
         tellCause(error.Sentences());
     }
+}
+
+/// Raise Refusal, which names the rooms, unless an import would take the file.
+void RequireReadable(const Project& project, const std::string& file) {
+    const RoomCsvReading reading = ReadRoomCsv(file, project.EnteredIn);
+    if (reading.Succeeded()) {
+        return;
+    }
+    std::string text = "The project " + project.Name +
+                       " cannot be exported: no import would take these rooms. Correct them in the "
+                       "program first; nothing was written.";
+    for (const RoomCsvError& mistake : reading.Errors) {
+        // Line 1 is the header, and each room has one line.
+        text += "\n  room " + TrimStr(mistake.Line - 1) + ": " + MistakeText(mistake);
+    }
+    throw Refusal(text + MoreMistakes(reading));
 }
 
 } // namespace
@@ -124,12 +142,12 @@ void ListData(const std::string& database) {
     ProjectStore store(database, DatabaseAccess::ReadOnly);
     std::ostringstream out;
     for (const auto& [directory, projects] : ProjectsByDirectory(store)) {
-        out << directory << '\n';
+        out << ShownText(directory) << '\n';
         for (const std::string& project : projects) {
             ListProject(out, store, project);
         }
     }
-    WriteWholeFile(StandardOutput, out.str());
+    WriteStandardOutput(out.str());
 }
 
 void ReportProject(const std::string& database, const std::string& name, Units units) {
@@ -141,18 +159,20 @@ void ReportProject(const std::string& database, const std::string& name, Units u
     }
     std::string report = MakeReport(project, units, ShortDateOfToday()).Text();
     report.erase(std::remove(report.begin(), report.end(), '\r'), report.end());
-    WriteWholeFile(StandardOutput, report);
+    WriteStandardOutput(ShownLines(report));
 }
 
-void ExportProject(const std::string& database, const std::string& name,
-                   const std::string& output) {
+void ExportProject(const std::string& database, const std::string& name, const std::string& output,
+                   Overwrite over) {
     RequireOtherFile(output, database);
     ProjectStore store(database, DatabaseAccess::ReadOnly);
     const Project project = LoadProjectNamed(store, name);
     if (project.EnteredIn == Units::Metric) {
         WarnOfMetric(project, "its sizes are written in centimetres. Use --metric to read them.");
     }
-    WriteWholeFile(output, WriteRoomCsv(project.Rooms));
+    const std::string rooms = WriteRoomCsv(project.Rooms);
+    RequireReadable(project, rooms);
+    WriteWholeFile(output, rooms, over);
 }
 
 } // namespace tarn

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "base/Units.h"
+#include "files/OutputFile.h"
 
 #include <string>
 
@@ -39,7 +40,9 @@ struct ImportRequest {
 void ImportProject(const ImportRequest& request);
 
 /// Write a project's rooms as CSV to a file, or to standard output for "-". The file does not tell
-/// its unit: warns on standard error when it is metric.
-void ExportProject(const std::string& database, const std::string& name, const std::string& output);
+/// its unit: warns on standard error when it is metric. Raises Refusal, which names them, when the
+/// project has rooms that ImportProject would refuse, such as one of a negative size.
+void ExportProject(const std::string& database, const std::string& name, const std::string& output,
+                   Overwrite over = Overwrite::Files);
 
 } // namespace tarn

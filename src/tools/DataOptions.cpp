@@ -3,7 +3,7 @@
 #include "base/Version.h"
 #include "store/Configuration.h"
 #include "store/DataFolder.h"
-#include "tools/CareCommands.h"
+#include "store/Names.h"
 #include "tools/DataCommands.h"
 #include "tools/Files.h"
 #include "tools/ToolMain.h"
@@ -18,13 +18,19 @@ namespace {
 
 constexpr const char* Description = "Make and look after the data of the estimating program.";
 
-constexpr const char* Footer =
-    "tarn-data COMMAND --help tells the options of a command.\n\n"
-    "Exit status: 0 done, 1 refused or faults found (the reason is on standard error), 2 wrong "
-    "usage.\n\n"
-    "Example:\n"
-    "  tarn-data create ~/estimates\n"
-    "  tarn-data import --database ~/estimates/DATA/Tarn.mdb --project \"SMITH\" house.csv";
+std::string Footer() {
+    return "tarn-data COMMAND --help tells the options of a command.\n\n"
+           "A name has at most " +
+           std::to_string(MaxNameLength) + " characters, a project's none of " +
+           std::string(ForbiddenInProjectName) +
+           "\n\n"
+           "Exit status: 0 done, 1 refused or faults found (the reason is on standard error), 2 "
+           "wrong "
+           "usage.\n\n"
+           "Example:\n"
+           "  tarn-data create ~/estimates\n"
+           "  tarn-data import --database ~/estimates/DATA/Tarn.mdb --project \"SMITH\" house.csv";
+}
 
 /// What the arguments of any command give; each command uses its own part.
 struct Arguments {
@@ -32,6 +38,7 @@ struct Arguments {
     std::string ConfigDirectory;
     std::string Output = StandardOutput;
     std::string Target;
+    Overwrite Over = Overwrite::Files;
     ImportRequest Project;
 };
 
@@ -130,21 +137,22 @@ void AddProjectCommands(CLI::App& app, Arguments& arguments, Command& chosen) {
     import.add_flag("--replace", arguments.Project.Replace,
                     "Replace the rooms that the project has");
 
-    auto& exporting = AddCommand(app, "export", "Write a project's rooms as CSV", chosen,
-                                 [arguments = &arguments] {
-                                     ExportProject(arguments->Project.Database,
-                                                   arguments->Project.Project, arguments->Output);
-                                 });
+    auto& exporting = AddCommand(
+        app, "export", "Write a project's rooms as CSV", chosen, [arguments = &arguments] {
+            ExportProject(arguments->Project.Database, arguments->Project.Project,
+                          arguments->Output, arguments->Over);
+        });
     AddProject(exporting, arguments);
     exporting.add_option("--output", arguments.Output, "File to write (default: standard output)")
         ->type_name("FILE|-");
+    AddForce(exporting, arguments.Over);
 }
 
 } // namespace
 
 std::function<void()> ReadDataCommand(int argc, const char* const* argv, int& status) {
     CLI::App app(Description, "tarn-data");
-    app.footer(Footer);
+    app.footer(Footer());
     app.set_version_flag("--version", VersionText(app.get_name()));
     app.require_subcommand(1);
     const auto arguments = std::make_shared<Arguments>();

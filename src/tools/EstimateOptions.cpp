@@ -5,6 +5,7 @@
 #include "base/Version.h"
 #include "estimate/MinCuts.h"
 #include "estimate/RollWidth.h"
+#include "files/RoomCsv.h"
 #include "project/Project.h"
 #include "tools/Files.h"
 #include "tools/Refusal.h"
@@ -25,15 +26,32 @@ constexpr const char* Description =
     "Estimate one carpet of a project: how its rooms are cut from a roll.\n"
     "The rooms come from a database (--database and --project) or from a CSV file (--rooms).";
 
-constexpr const char* Footer =
-    "A CSV file has a header line and the columns width,length,covering,base,room,remark in any\n"
-    "order; the first three are required. Sizes are whole inches or text such as 12'6\" (whole\n"
-    "centimetres with --metric), coverings CARPET-1 or C1, TILE-4 or T4. The base tells how many\n"
-    "widths and lengths of the room take wall base: W2L1 is two widths and one length. A size\n"
-    "of 0 is read and not cut.\n\n"
-    "Exit status: 0 done, 1 refused (the reason is on standard error), 2 wrong usage.\n\n"
-    "Example:\n"
-    "  tarn-estimate --rooms house.csv --carpet 1 --roll-width 12ft --max-pieces 2 --svg house.svg";
+std::string Footer() {
+    return "A CSV file has a header line and the columns width,length,covering,base,room,remark in "
+           "any\n"
+           "order; the first three are required. Sizes are whole inches or text such as 12'6\" "
+           "(whole\n"
+           "centimetres with --metric), coverings CARPET-1 or C1, TILE-4 or T4. The base tells how "
+           "many\n"
+           "widths and lengths of the room take wall base: W2L1 is two widths and one length. A "
+           "size\n"
+           "of 0 is read and not cut. A room number has at most " +
+           std::to_string(MaxRoomNumberLength) + " characters, a remark " +
+           std::to_string(MaxRemarkLength) +
+           ",\n"
+           "each in one line; of one that begins with ' the ' is taken off. A file, no pipe or "
+           "device, has\n"
+           "at most " +
+           std::to_string(RoomCapacity) + " rooms and " +
+           std::to_string(MaxRoomCsvBytes / (std::size_t{1024} * 1024)) +
+           " MB.\n\n"
+           "An output file takes the place of the one that is there, once it is whole and stored.\n"
+           "Databases and symbolic links stay as they are without --force.\n\n"
+           "Exit status: 0 done, 1 refused (the reason is on standard error), 2 wrong usage.\n\n"
+           "Example:\n"
+           "  tarn-estimate --rooms house.csv --carpet 1 --roll-width 12ft --max-pieces 2 --svg "
+           "house.svg";
+}
 
 /// Refuses an option that is given without its value ("--match=").
 std::string NotEmpty(const std::string& value) {
@@ -136,6 +154,7 @@ void AddOutput(CLI::App& app, EstimateOptions& options) {
                    "(A4 without one)")
         ->check(NotEmpty)
         ->type_name("FILE|-");
+    AddForce(app, options.Over);
 }
 
 void AddImprovement(CLI::App& app, EstimateOptions& options) {
@@ -194,7 +213,7 @@ void CheckTogether(EstimateOptions& options) {
 
 std::optional<EstimateOptions> ReadEstimateOptions(int argc, const char* const* argv, int& status) {
     CLI::App app(Description, "tarn-estimate");
-    app.footer(Footer);
+    app.footer(Footer());
     app.set_version_flag("--version", VersionText(app.get_name()));
     app.get_formatter()->column_width(28);
     EstimateOptions options;

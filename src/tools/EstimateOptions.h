@@ -3,6 +3,7 @@
 #pragma once
 
 #include "estimate/EstimateRequest.h"
+#include "files/OutputFile.h"
 
 #include <optional>
 #include <string>
@@ -25,6 +26,7 @@ struct EstimateOptions {
     std::string Json;
     std::string Svg;
     std::string Pdf;
+    Overwrite Over = Overwrite::Files;
 
     bool Improve = false;       ///< improve the layout
     double ImproveSeconds = 0;  ///< 0 = no limit

@@ -80,16 +80,16 @@ void RequireOutputsBesideInput(const EstimateOptions& options) {
 
 void WriteOutputs(const EstimateOptions& options, const Estimate& estimate) {
     if (!options.Svg.empty()) {
-        WriteWholeFile(options.Svg, SvgOf(estimate));
+        WriteWholeFile(options.Svg, SvgOf(estimate), options.Over);
     }
     if (!options.Pdf.empty()) {
-        WriteWholeFile(options.Pdf, PdfOf(estimate));
+        WriteWholeFile(options.Pdf, PdfOf(estimate), options.Over);
     }
     if (!options.Json.empty()) {
-        WriteWholeFile(options.Json, EstimateJson(estimate));
+        WriteWholeFile(options.Json, EstimateJson(estimate), options.Over);
     }
     if (!options.Text.empty()) {
-        WriteWholeFile(options.Text, CutListText(estimate));
+        WriteWholeFile(options.Text, CutListText(estimate), options.Over);
     }
 }
 

@@ -8,7 +8,6 @@
 #include <QFileInfo>
 
 #include <cerrno>
-
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -27,8 +26,9 @@ void RequireFile(const std::string& path, const struct stat& status) {
         RefuseToRead(path, "it is a folder");
     }
     if (!S_ISREG(status.st_mode)) {
-        RefuseToRead(path, std::string(S_ISFIFO(status.st_mode) ? "it is a pipe" : "it is a device") +
-                               ". Save what comes from it in a file and name that");
+        RefuseToRead(path,
+                     std::string(S_ISFIFO(status.st_mode) ? "it is a pipe" : "it is a device") +
+                         ". Save what comes from it in a file and name that");
     }
 }
 

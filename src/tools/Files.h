@@ -12,10 +12,6 @@ namespace tarn {
 /// The name that stands for standard output.
 inline constexpr const char* StandardOutput = "-";
 
-/// What --force says of itself, in every command that has it.
-inline constexpr const char* ForceDescription =
-    "Write also over a database, and through a symbolic link";
-
 /// The whole content of a file of at most `mostBytes`. Raises Refusal when it cannot be read, is
 /// larger, or is a folder, a device or a pipe, which may have no end.
 std::string ReadWholeFile(const std::string& path, std::size_t mostBytes);

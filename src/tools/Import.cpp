@@ -1,5 +1,4 @@
 #include "store/Months.h"
-#include "store/Names.h"
 #include "store/ProjectNames.h"
 #include "store/ProjectStore.h"
 #include "tools/DataCommands.h"
@@ -12,13 +11,15 @@ namespace tarn {
 
 namespace {
 
+/// The months under which projects are kept are the same in every language.
+std::string CurrentMonth() {
+    return std::string(MonthNames.at(static_cast<std::size_t>(QDate::currentDate().month() - 1)));
+}
+
 void AddNewProject(ProjectStore& store, const std::string& project,
                    const std::string& wantedDirectory) {
-    const std::string directory = wantedDirectory.empty()
-                                      ? MonthDirectoryName(QDate::currentDate(), QLocale::system())
-                                      : StoredName(wantedDirectory);
-    // The current month needs no row of its own, in whatever language it is written.
-    if (!wantedDirectory.empty() && !IsDirectoryTaken(store, directory)) {
+    const std::string directory = wantedDirectory.empty() ? CurrentMonth() : wantedDirectory;
+    if (!IsDirectoryTaken(store, directory)) { // a month is, and needs no row of its own
         store.AddDirectory(directory);
     }
     store.AddProject(directory, project);
@@ -43,16 +44,17 @@ void RequireReplaceable(const LoadedProject& loaded, const ImportRequest& reques
 } // namespace
 
 void ImportProject(const ImportRequest& request) {
+    const std::string name = NameArgument("project", request.Project);
+    const std::string directory =
+        request.Directory.empty() ? "" : NameArgument("directory", request.Directory);
     const std::vector<Room> rooms = ReadRoomFile(request.Rooms, request.In);
     ProjectStore store(request.Database, DatabaseAccess::ReadWrite);
-    const std::string name = StoredName(request.Project);
     store.InOneTransaction([&] {
-        const bool isNew = !store.DirectoryOf(name);
+        if (!store.DirectoryOf(name)) {
+            AddNewProject(store, name, directory);
+        }
         LoadedProject loaded = LoadWhole(store, name);
         RequireReplaceable(loaded, request, rooms.size());
-        if (isNew) {
-            AddNewProject(store, name, request.Directory);
-        }
         loaded.Value.Rooms = rooms;
         loaded.Value.EnteredIn = request.In;
         store.Save(loaded.Value, request.In);

@@ -3,12 +3,19 @@
 #pragma once
 
 #include "base/Units.h"
+#include "files/RoomCsv.h"
 #include "store/ProjectStore.h"
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace tarn {
+
+/// A name of a project or directory as it was given to a program, in the form in which it is
+/// stored. `kind` is what it names. Raises Refusal for a name that is empty or holds bytes that are
+/// not UTF-8, a control character or no character.
+std::string NameArgument(std::string_view kind, const std::string& name);
 
 /// ProjectStore::Load of a name as it is stored. Raises Refusal, which names the project and the
 /// cause, when it cannot be loaded whole.
@@ -21,6 +28,10 @@ Project LoadProjectNamed(ProjectStore& store, const std::string& name);
 
 /// Tell on standard error that the project was entered in metric, and what follows from it.
 void WarnOfMetric(const Project& project, const char* consequence);
+
+/// A line that tells how many mistakes there are beside those that are told, with its line break
+/// before it; empty for none.
+std::string MoreMistakes(const RoomCsvReading& reading);
 
 /// The rooms of a CSV file. Raises Refusal naming its mistakes, MaxRoomCsvErrors of them at most.
 std::vector<Room> ReadRoomFile(const std::string& path, Units units);

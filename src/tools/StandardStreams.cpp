@@ -6,9 +6,8 @@
 #include <algorithm>
 #include <csignal>
 #include <cstdio>
-#include <iostream>
-
 #include <fcntl.h>
+#include <iostream>
 #include <unistd.h>
 
 namespace tarn {
@@ -19,8 +18,8 @@ void HoldStandardStreams() {
         if (::fcntl(stream, F_GETFD) < 0) {
             // It becomes the lowest number that is free, which is this one. Opened the other way
             // round, it refuses what a closed one refuses.
-            static_cast<void>(
-                ::open("/dev/null", stream == STDIN_FILENO ? O_WRONLY : O_RDONLY) < 0);
+            static_cast<void>(::open("/dev/null", stream == STDIN_FILENO ? O_WRONLY : O_RDONLY) <
+                              0);
         }
     }
 }

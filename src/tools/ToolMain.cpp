@@ -33,6 +33,12 @@ int RunTool(std::string_view program, const std::function<void()>& body) {
     return Refused;
 }
 
+void AddForce(CLI::App& command, Overwrite& over) {
+    command.add_flag_callback(
+        "--force", [&over] { over = Overwrite::Anything; },
+        "Write over a database too, and where a symbolic link leads");
+}
+
 int ExplainArguments(const CLI::App& options, const CLI::ParseError& error) {
     if (options.exit(error) != 0) {
         return WrongUsage;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "files/OutputFile.h"
+
 #include <functional>
 #include <string_view>
 
@@ -14,6 +16,9 @@ namespace tarn {
 /// told on standard error behind the program's name, and so is standard output that could not be
 /// written. Returns the exit status.
 int RunTool(std::string_view program, const std::function<void()>& body);
+
+/// Add the option --force to a program or command: it allows Overwrite::Anything.
+void AddForce(CLI::App& command, Overwrite& over);
 
 /// Tell why the arguments give nothing to run: they ask for help or the version, or cannot be
 /// understood. Returns the exit status.

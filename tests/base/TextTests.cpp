@@ -114,7 +114,7 @@ TEST(FindTextFault, TellsEveryCharacterThatMayBeKept) {
         if (c >= 0xD800 && c < 0xE000) {
             continue;
         }
-        const TextFault expected = IsControlCharacter(c)          ? TextFault::ControlCharacter
+        const TextFault expected = IsControlCharacter(c)        ? TextFault::ControlCharacter
                                    : c == 0xFFFE || c == 0xFFFF ? TextFault::NoCharacter
                                                                 : TextFault::None;
         const std::string text = "a" + Encoded(c) + "\u00E9";
@@ -126,8 +126,8 @@ TEST(FindTextFault, TellsEveryCharacterThatMayBeKept) {
 TEST(FindTextFault, TellsBytesThatAreNoCharacter) {
     for (const std::string bytes :
          {"\x80", "\xBF", "\xC0\x80", "\xC1\xBF", "\xC3", "\xE0\x9F\xBF", "\xE6\xB5",
-          "\xED\xA0\x80", "\xED\xBF\xBF", "\xF0\x8F\xBF\xBF", "\xF4\x90\x80\x80",
-          "\xF0\x9F\x9B", "\xF5\x80\x80\x80", "\xFE", "\xFF"}) {
+          "\xED\xA0\x80", "\xED\xBF\xBF", "\xF0\x8F\xBF\xBF", "\xF4\x90\x80\x80", "\xF0\x9F\x9B",
+          "\xF5\x80\x80\x80", "\xFE", "\xFF"}) {
         std::string shown;
         for (std::size_t i = 0; i < bytes.size(); ++i) {
             shown += "\uFFFD";

@@ -6,11 +6,10 @@
 
 #include <array>
 #include <csignal>
-#include <system_error>
-#include <thread>
-
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <system_error>
+#include <thread>
 #include <unistd.h>
 
 namespace tarn {

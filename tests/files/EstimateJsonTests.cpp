@@ -1,3 +1,4 @@
+#include "base/Text.h"
 #include "estimate/EstimateTesting.h"
 #include "estimate/ImproveEstimate.h"
 #include "estimate/MinCuts.h"
@@ -174,6 +175,18 @@ TEST(EstimateJson, WithoutAPieceTheSearchsFiguresAreZero) {
     EXPECT_EQ(Number(document, "resultLen"), 0);
     EXPECT_EQ(Array(document, "cuts").size(), 1);
     EXPECT_EQ(Array(document, "pieces").size(), 0);
+}
+
+TEST(EstimateJson, HoldsNoControlCharacterButItsLineEnds) {
+    Estimate estimate = Estimated({{200, 120}}, Request(144));
+    for (char32_t c = 1; c < 0x200; ++c) {
+        estimate.ProjectName += QString(QChar(static_cast<char16_t>(c))).toStdString();
+    }
+    std::string json = EstimateJson(estimate);
+    EXPECT_EQ(Read(estimate).value(QLatin1String("project")).toString().toStdString(),
+              estimate.ProjectName);
+    std::erase(json, '\n');
+    EXPECT_EQ(FindTextFault(json), TextFault::None);
 }
 
 TEST(EstimateJson, HoldsTheImprovementOnlyWhenThereIsOne) {

@@ -1,5 +1,4 @@
 #include "files/OutputFile.h"
-
 #include "files/SystemCallFaults.h"
 
 #include <QTemporaryDir>
@@ -10,10 +9,9 @@
 #include <array>
 #include <cerrno>
 #include <csignal>
+#include <fcntl.h>
 #include <filesystem>
 #include <fstream>
-
-#include <fcntl.h>
 #include <sys/file.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
@@ -175,9 +173,8 @@ TEST_F(FailingCalls, LeaveTheOldFileAndNoOtherAndAreTold) {
 TEST_F(FailingCalls, LeaveNoNewFileAndAreTold) {
     for (const int size : {1, 100, 20000}) {
         SCOPED_TRACE(size);
-        EXPECT_THAT(
-            CallsThatMatter(std::string(static_cast<std::size_t>(size), 'n'), false),
-            ElementsAre("open", "write", "fsync", "close", "rename", "open", "fsync"));
+        EXPECT_THAT(CallsThatMatter(std::string(static_cast<std::size_t>(size), 'n'), false),
+                    ElementsAre("open", "write", "fsync", "close", "rename", "open", "fsync"));
     }
 }
 
@@ -401,8 +398,9 @@ TEST_F(OutputFile, IsLockedAgainstOtherRunsWhileItIsMade) {
     for (std::size_t place = 0; place < calls.size(); ++place) {
         if (calls[place] != "open") {
             // Another run writes into the folder in the middle of this one.
-            testing::BeforeCall(place, [&] { WriteOutputFile(Path("other"), "other"); },
-                                [&] { WriteOutputFile(Path("out"), "new"); });
+            testing::BeforeCall(
+                place, [&] { WriteOutputFile(Path("other"), "other"); },
+                [&] { WriteOutputFile(Path("out"), "new"); });
             EXPECT_EQ(ContentOf(Path("out")), "new") << calls[place];
             EXPECT_THAT(Names(), ElementsAre("other", "out"));
             ++looks;

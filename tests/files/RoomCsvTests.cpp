@@ -1,6 +1,5 @@
-#include "files/RoomCsv.h"
-
 #include "base/Text.h"
+#include "files/RoomCsv.h"
 #include "project/RoomTesting.h"
 
 #include <gmock/gmock.h>
@@ -97,8 +96,8 @@ TEST(ReadRoomCsv, RefusesWhatNoTextMayHold) {
         "holds a line break or another control character; write it in one line";
     constexpr std::string_view NoCharacter =
         "holds U+FFFE or U+FFFF, which are no characters; leave them out";
-    for (const std::string text : {"\"a\nb\"", "\"a\r\nb\"", "a\tb", "a\x1B[31m", "a\x7F",
-                                   "a\u0085", "a\u009F"}) {
+    for (const std::string text :
+         {"\"a\nb\"", "\"a\r\nb\"", "a\tb", "a\x1B[31m", "a\x7F", "a\u0085", "a\u009F"}) {
         for (const std::string column : {"room", "remark"}) {
             const std::string line = column == "room" ? text + "," : "," + text;
             const Lines errors = ErrorsOfRoom("1,2,C1,," + line);
@@ -394,8 +393,8 @@ TEST(WriteRoomCsv, WritesEachRoomInOneLineAndAFaultOfATextAsItIsShown) {
 
 /// A text that may begin as none should.
 std::string RandomStart(std::mt19937& random) {
-    static constexpr std::array Starts{"",     "=",    "+",      "-",    "@",  "'", "''", "'=",
-                                       "\x1B", "\r=", "\uFFFE", "\xFF", "-1", "@'"};
+    static constexpr std::array Starts{"",   "=",    "+",   "-",      "@",    "'",  "''",
+                                       "'=", "\x1B", "\r=", "\uFFFE", "\xFF", "-1", "@'"};
     return Starts[static_cast<std::size_t>(Below(random, Starts.size()))];
 }
 
@@ -405,12 +404,11 @@ TEST(WriteRoomCsv, IsReadBackAsItIsShownWhateverTheRooms) {
         std::mt19937 random(seed);
         Rooms rooms;
         for (int count = Below(random, 20); count > 0; --count) {
-            rooms.push_back({static_cast<Integer>(Below(random, 32768)),
-                             static_cast<Integer>(Below(random, 32768)),
-                             static_cast<Byte>(Below(random, 12)),
-                             static_cast<Byte>(Below(random, 9)),
-                             RandomStart(random) + RandomText(random, 6),
-                             RandomStart(random) + RandomText(random, 253)});
+            rooms.push_back(
+                {static_cast<Integer>(Below(random, 32768)),
+                 static_cast<Integer>(Below(random, 32768)), static_cast<Byte>(Below(random, 12)),
+                 static_cast<Byte>(Below(random, 9)), RandomStart(random) + RandomText(random, 6),
+                 RandomStart(random) + RandomText(random, 253)});
         }
         Rooms shown = rooms;
         for (Room& room : shown) {

@@ -3,9 +3,8 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstdarg>
-#include <limits>
-
 #include <fcntl.h>
+#include <limits>
 #include <sys/syscall.h>
 #include <sys/types.h>
 #include <unistd.h>
@@ -128,9 +127,8 @@ int close(int file) {
 }
 
 int link(const char* from, const char* to) noexcept {
-    return Fails("link")
-               ? -1
-               : static_cast<int>(syscall(SYS_linkat, AT_FDCWD, from, AT_FDCWD, to, 0));
+    return Fails("link") ? -1
+                         : static_cast<int>(syscall(SYS_linkat, AT_FDCWD, from, AT_FDCWD, to, 0));
 }
 
 int rename(const char* from, const char* to) noexcept {

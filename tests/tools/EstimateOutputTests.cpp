@@ -48,12 +48,95 @@ TEST_F(EstimateOutput, AFolderInPlaceOfTheFileIsRefused) {
     EXPECT_TRUE(QDir(Path(S("taken"))).exists());
 }
 
-TEST_F(EstimateOutput, AFailureLeavesTheOldFile) {
-    // A name as long as names may be: there is no room for that of the file in the making.
+TEST_F(EstimateOutput, ADiskThatTakesNoMoreLeavesTheOldFile) {
+    // Below and above what output buffers hold: the cut list of one room and of many.
+    for (const int rooms : {1, 500}) {
+        QByteArray csv = "width,length,covering\n";
+        for (int room = 0; room < rooms; ++room) {
+            csv += "288,96,C1\n";
+        }
+        Write(S("rooms.csv"), csv);
+        for (const char* output : {"--text", "--json", "--svg", "--pdf"}) {
+            SCOPED_TRACE(output);
+            Write(S("out"), "the old one");
+            const ToolRun run =
+                Shell((std::string("trap '' XFSZ; ulimit -f 0; tarn-estimate --rooms rooms.csv "
+                                   "--carpet 1 --roll-width 12ft ") +
+                       output + " out")
+                          .c_str());
+            EXPECT_EQ(run.Status, 1);
+            EXPECT_EQ(run.Error.toStdString(),
+                      "tarn-estimate: The file out cannot be written: File too large.\n");
+            EXPECT_EQ(Read(S("out")), "the old one");
+            EXPECT_EQ(QDir(Path(S("."))).entryList(QDir::Files | QDir::Hidden),
+                      QStringList({S("out"), S("rooms.csv")}));
+        }
+    }
+}
+
+TEST_F(EstimateOutput, ANameAsLongAsNamesMayBeIsTaken) {
     const QString longest(255, u'n');
     Write(longest, "the old list");
-    ExpectCannotBeWritten("--text", longest);
-    EXPECT_EQ(Read(longest), "the old list");
+    EXPECT_EQ(Estimate(Arguments("--text", longest)).Status, 0);
+    EXPECT_TRUE(Read(longest).startsWith("Carpet-1"));
+}
+
+TEST_F(EstimateOutput, ADatabaseAndALinkTakeForce) {
+    MakeDatabase();
+    const QByteArray database = Read(S("data/DATA/Tarn.mdb"));
+    Write(S("real"), "the old one");
+    for (const char* output : {"--text", "--json", "--svg", "--pdf"}) {
+        SCOPED_TRACE(output);
+        Write(S("copy.mdb"), database);
+        QFile::remove(Path(S("link")));
+        ASSERT_TRUE(QFile::link(S("real"), Path(S("link"))));
+        Write(S("real"), "the old one");
+        const ToolRun overDatabase = Estimate(Arguments(output, S("copy.mdb")));
+        EXPECT_EQ(overDatabase.Status, 1);
+        EXPECT_EQ(overDatabase.Error.toStdString(),
+                  "tarn-estimate: The file copy.mdb is a database and stays as it is. Name another "
+                  "file for the output.\n");
+        EXPECT_EQ(Read(S("copy.mdb")), database);
+        const ToolRun overLink = Estimate(Arguments(output, S("link")));
+        EXPECT_EQ(overLink.Status, 1);
+        EXPECT_EQ(
+            overLink.Error.toStdString(),
+            "tarn-estimate: The file link is a link, which leads to real, and stays as it is. "
+            "Name another file for the output.\n");
+        EXPECT_EQ(Read(S("real")), "the old one");
+        for (const char* file : {"copy.mdb", "link"}) {
+            const ToolRun forced = Estimate(Arguments(output, S(file)) + QStringList{S("--force")});
+            EXPECT_EQ(forced.Status, 0) << forced.Error.toStdString();
+        }
+        EXPECT_FALSE(Read(S("copy.mdb")).startsWith("SQLite"));
+        EXPECT_NE(Read(S("real")), "the old one");
+        EXPECT_TRUE(QFileInfo(Path(S("link"))).isSymLink());
+    }
+}
+
+TEST_F(EstimateOutput, WhatIsReadIsNeverWrittenOver) {
+    const QString database = MakeDatabase(S("SMITH"), "width,length,covering\n60,96,C1\n");
+    const QByteArray before = Read(S("data/DATA/Tarn.mdb"));
+    const ToolRun run =
+        Estimate({S("--database"), database, S("--project"), S("SMITH"), S("--carpet"), S("1"),
+                  S("--roll-width"), S("12ft"), S("--text"), database, S("--force")});
+    EXPECT_EQ(run.Status, 1);
+    EXPECT_TRUE(run.Error.contains("the rooms are read from it")) << run.Error.toStdString();
+    EXPECT_EQ(Read(S("data/DATA/Tarn.mdb")), before);
+}
+
+TEST_F(EstimateOutput, WhatAKilledRunLeftIsRemoved) {
+    Write(S(".tarn-0123456789abcdef.part"), "half a li");
+    EXPECT_EQ(Estimate(Arguments("--text", S("out"))).Status, 0);
+    EXPECT_FALSE(Exists(S(".tarn-0123456789abcdef.part")));
+}
+
+TEST_F(EstimateOutput, APipeThatNobodyReadsIsRefused) {
+    ASSERT_EQ(Shell("mkfifo unread").Status, 0);
+    const ToolRun run = Estimate(Arguments("--text", S("unread")));
+    EXPECT_EQ(run.Status, 1);
+    EXPECT_EQ(run.Error.toStdString(),
+              "tarn-estimate: The file unread cannot be written: nothing reads from it.\n");
 }
 
 TEST_F(EstimateOutput, AnOldFileIsReplaced) {

@@ -6,8 +6,10 @@
 
 namespace tarn::testing {
 
-ToolRun RunProgram(const QString& program, const QStringList& arguments,
-                   const QString& homeDirectory, const QString& printServer) {
+namespace {
+
+ToolRun Run(const QString& program, const QStringList& arguments, const QString& homeDirectory,
+            const QString& printServer) {
     QProcess process;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(QStringLiteral("HOME"), homeDirectory);
@@ -15,13 +17,15 @@ ToolRun RunProgram(const QString& program, const QStringList& arguments,
                        homeDirectory + QStringLiteral("/config"));
     environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
     environment.insert(QStringLiteral("CUPS_SERVER"), printServer);
+    environment.insert(QStringLiteral("PATH"), QStringLiteral(TARN_TOOLS_DIRECTORY ":") +
+                                                   environment.value(QStringLiteral("PATH")));
     for (const char* display : {"DISPLAY", "WAYLAND_DISPLAY", "XDG_RUNTIME_DIR", "QT_QPA_PLATFORM",
                                 "LPDEST", "PRINTER"}) {
         environment.remove(QString::fromLatin1(display));
     }
     process.setProcessEnvironment(environment);
     process.setWorkingDirectory(homeDirectory);
-    process.start(QStringLiteral(TARN_TOOLS_DIRECTORY "/") + program, arguments);
+    process.start(program, arguments);
     ToolRun run;
     constexpr int PatienceMs = 120000;
     if (!process.waitForFinished(PatienceMs) || process.exitStatus() != QProcess::NormalExit) {
@@ -32,6 +36,19 @@ ToolRun RunProgram(const QString& program, const QStringList& arguments,
     run.Out = process.readAllStandardOutput();
     run.Error = process.readAllStandardError();
     return run;
+}
+
+} // namespace
+
+ToolRun RunProgram(const QString& program, const QStringList& arguments,
+                   const QString& homeDirectory, const QString& printServer) {
+    return Run(QStringLiteral(TARN_TOOLS_DIRECTORY "/") + program, arguments, homeDirectory,
+               printServer);
+}
+
+ToolRun RunShell(const QString& line, const QString& homeDirectory) {
+    return Run(QStringLiteral("/bin/bash"), {QStringLiteral("-c"), line}, homeDirectory,
+               QStringLiteral("/no/such/print/server"));
 }
 
 QString ToolTest::Write(const QString& name, const QByteArray& content) const {

@@ -24,6 +24,9 @@ ToolRun RunProgram(const QString& program, const QStringList& arguments,
                    const QString& homeDirectory,
                    const QString& printServer = QStringLiteral("/no/such/print/server"));
 
+/// Run a line of the shell, which finds the built programs by their names, otherwise as RunProgram.
+ToolRun RunShell(const QString& line, const QString& homeDirectory);
+
 /// A test with a directory of its own, which is also its home.
 class ToolTest : public ::testing::Test {
   protected:
@@ -36,6 +39,10 @@ class ToolTest : public ::testing::Test {
     }
     ToolRun Data(const QStringList& arguments) const {
         return RunProgram(QStringLiteral("tarn-data"), arguments, directory_.path());
+    }
+
+    ToolRun Shell(const char* line) const {
+        return RunShell(QString::fromUtf8(line), directory_.path());
     }
 
     /// The path of a file in the directory; an absolute path stays.
