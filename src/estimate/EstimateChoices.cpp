@@ -12,18 +12,24 @@ namespace tarn {
 
 namespace {
 
-bool IsRefusedRepeat(std::string_view text) {
-    return IsRefusedSizeText(text) || Val(text) < 0;
+/// Whether a box's text cannot be taken: it would be read otherwise than it looks, or its number is
+/// negative or does not fit.
+bool IsRefused(std::string_view text) {
+    try {
+        const Double number = Val(text);
+        CInt(number); // raises for one that does not fit
+        return IsRefusedSizeText(text) || number < 0;
+    } catch (const RunTimeError&) {
+        return true;
+    }
 }
 
 /// Which of two texts is refused first, if either is.
-template <typename Test>
-std::optional<std::size_t> FirstRefused(std::string_view first, std::string_view second,
-                                        Test isRefused) {
-    if (isRefused(first)) {
+std::optional<std::size_t> FirstRefused(std::string_view first, std::string_view second) {
+    if (IsRefused(first)) {
         return 0;
     }
-    return isRefused(second) ? std::optional<std::size_t>(1) : std::nullopt;
+    return IsRefused(second) ? std::optional<std::size_t>(1) : std::nullopt;
 }
 
 /// The roll width, inches, or why it cannot be estimated with.
@@ -31,7 +37,7 @@ std::variant<Single, ChoicesRefusal> WidthOf(const EstimateChoices& choices, Uni
     if (!choices.WidthCaption.empty()) {
         return CaptionRollWidth(choices.WidthCaption, units);
     }
-    const auto refused = FirstRefused(choices.OtherFeet, choices.OtherInches, IsRefusedSizeText);
+    const auto refused = FirstRefused(choices.OtherFeet, choices.OtherInches);
     if (!refused) {
         const Single width = OtherRollWidth(choices.OtherFeet, choices.OtherInches);
         if (IsUsableRollWidth(width)) {
@@ -71,7 +77,7 @@ std::variant<EstimateRequest, ChoicesRefusal> RequestOf(const EstimateChoices& c
     request.Direction = choices.Direction;
     request.In = units;
     if (choices.Match) {
-        const auto refused = FirstRefused(choices.MatchWidth, choices.MatchLength, IsRefusedRepeat);
+        const auto refused = FirstRefused(choices.MatchWidth, choices.MatchLength);
         if (refused) {
             return ChoicesRefusal{ChoicesRefusal::Kind::MatchPattern, *refused};
         }
@@ -84,15 +90,11 @@ std::string OtherWidthHint(std::string_view feet, std::string_view inches) {
     EstimateChoices choices;
     choices.OtherFeet = feet;
     choices.OtherInches = inches;
-    try {
-        const auto reading = WidthOf(choices, Units::Metric);
-        const auto* width = std::get_if<Single>(&reading);
-        return width != nullptr
-                   ? "= " + TrimStr(RoundedCentimetres(static_cast<Double>(*width))) + " CM"
-                   : "";
-    } catch (const RunTimeError&) {
-        return {};
-    }
+    const auto reading = WidthOf(choices, Units::Metric);
+    const auto* width = std::get_if<Single>(&reading);
+    return width != nullptr
+               ? "= " + TrimStr(RoundedCentimetres(static_cast<Double>(*width))) + " CM"
+               : "";
 }
 
 } // namespace tarn

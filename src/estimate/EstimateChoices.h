@@ -54,15 +54,15 @@ std::string_view RefusalMessage(const ChoicesRefusal& refusal);
 
 /// The request that the choices make, with the first of the options that the panel does not offer.
 ///
-/// Refused are a roll width that is the same length as 0 or less, a repeat of less than 0, and a
-/// text of a free width or of a match pattern that would be read otherwise than it looks (see
-/// IsRefusedSizeText); texts that are not in use are not looked at. Raises "Overflow" for a number
-/// that does not fit and for a width that no cut list could show.
+/// Refused are a roll width that is the same length as 0 or less, and a text of a free width or of
+/// a match pattern that would be read otherwise than it looks (see IsRefusedSizeText), whose number
+/// is negative, or whose number does not fit an Integer. Texts that are not in use are not looked
+/// at.
 std::variant<EstimateRequest, ChoicesRefusal> RequestOf(const EstimateChoices& choices,
                                                         Units units);
 
 /// What stands below the boxes of a free width in metric units: the width in force, "= 259 CM".
-/// Empty for a width that RequestOf would refuse or raise for.
+/// Empty for a width that RequestOf would refuse.
 std::string OtherWidthHint(std::string_view feet, std::string_view inches);
 
 } // namespace tarn

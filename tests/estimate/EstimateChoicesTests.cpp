@@ -9,7 +9,6 @@ namespace tarn {
 namespace {
 
 using testing::BothUnits;
-using testing::ErrorOf;
 using testing::ProjectOf;
 
 constexpr ChoicesRefusal WidthRefused(std::size_t box) {
@@ -111,7 +110,7 @@ TEST(EstimateChoices, ReadAFreeWidthAsFeetAndInchesInBothUnits) {
 TEST(EstimateChoices, RefuseAWidthOfNothingAndHalfReadTexts) {
     const std::tuple<const char*, const char*, std::size_t> refused[] = {
         {"", "", 0},      {"0", "0", 0},     {"0", "0.004", 0},  {"-12", "", 0},
-        {"1", "-12", 0},  {"abc", "abc", 0}, {"12'6", "", 0},    {"12,5", "", 0},
+        {"1", "-12", 1},  {"abc", "abc", 0}, {"12'6", "", 0},    {"12,5", "", 0},
         {"6 1/2", "", 0}, {"12", "3,45", 1}, {"12", "6 1/2", 1}, {"12'6", "6 1/2", 0}};
     for (const auto& [feet, inches, box] : refused) {
         EXPECT_EQ(RefusalOf(Other(feet, inches)), WidthRefused(box)) << feet << " and " << inches;
@@ -154,11 +153,24 @@ TEST(EstimateChoices, RefuseTheWidthFirst) {
     EXPECT_EQ(RefusalOf(choices), WidthRefused(0));
 }
 
-TEST(EstimateChoices, RaiseForNumbersThatDoNotFit) {
-    for (const EstimateChoices& choices : {Other("1e999", ""), Other("1e39", ""), Other("1e9", ""),
-                                           Matching("40000", "1"), Matching("1", "1e999")}) {
-        EXPECT_EQ(ErrorOf([&] { RequestOf(choices, Units::Imperial); }).Number(), OverflowNumber);
+TEST(EstimateChoices, RefuseANegativeNumberInEitherBoxOfAWidth) {
+    EXPECT_EQ(RefusalOf(Other("-1", "20")), WidthRefused(0));
+    EXPECT_EQ(RefusalOf(Other("12", "-6")), WidthRefused(1));
+    EXPECT_EQ(RefusalOf(Other("12", "-0.001")), WidthRefused(1));
+    EXPECT_FALSE(RefusalOf(Other("12", "-0")));
+}
+
+TEST(EstimateChoices, RefuseNumbersThatDoNotFitAnInteger) {
+    for (const Units units : BothUnits) {
+        for (const char* text : {"32767.5", "40000", "1e9", "1e39", "1e999", "-1e999"}) {
+            EXPECT_EQ(RefusalOf(Other(text, "6"), units), WidthRefused(0)) << text;
+            EXPECT_EQ(RefusalOf(Other("12", text), units), WidthRefused(1)) << text;
+            EXPECT_EQ(RefusalOf(Matching(text, "10"), units), MatchRefused(0)) << text;
+            EXPECT_EQ(RefusalOf(Matching("10", text), units), MatchRefused(1)) << text;
+        }
     }
+    EXPECT_EQ(Made(Other("32767", "32767")).RollWidth, 32767.0F * 13);
+    EXPECT_EQ(Made(Matching("32767.4", "32767")).Repeat, (PatternRepeat{32767, 32767}));
 }
 
 TEST(EstimateChoices, AreRefusedInWords) {

@@ -112,6 +112,33 @@ TEST_F(EstimateRefusals, CoverANegativeRepeat) {
     EXPECT_EQ(Box(Controls::repeatLength).text(), QStringLiteral("-5"));
 }
 
+TEST_F(EstimateRefusals, CoverANegativePartOfAWidthThatIsPositiveAsAWhole) {
+    OpenEstimated();
+    Click(Option(Controls::otherWidth));
+    Retype(Controls::otherWidthMajor, "-1");
+    Retype(Controls::otherWidthMinor, "20");
+    ExpectRefused(WrongWidth, Controls::otherWidthMajor);
+    EXPECT_EQ(Box(Controls::otherWidthMajor).text(), QStringLiteral("-1"));
+    EXPECT_EQ(Box(Controls::otherWidthMinor).text(), QStringLiteral("20"));
+}
+
+TEST_F(EstimateRefusals, CoverNumbersThatDoNotFit) {
+    OpenEstimated();
+    Click(Option(Controls::otherWidth));
+    for (const char* text : {"40000", "1e999"}) {
+        Retype(Controls::otherWidthMajor, text);
+        ExpectRefused(WrongWidth, Controls::otherWidthMajor);
+        EXPECT_EQ(Box(Controls::otherWidthMajor).text(), QString::fromLatin1(text));
+    }
+    Click(Option(Controls::standardWidths[1]));
+    Click(Control<QCheckBox>(Controls::matchPattern));
+    for (const char* text : {"40000", "1e999"}) {
+        Retype(Controls::repeatLength, text);
+        ExpectRefused(WrongMatch, Controls::repeatLength);
+        EXPECT_EQ(Box(Controls::repeatLength).text(), QString::fromLatin1(text));
+    }
+}
+
 TEST_F(EstimateRefusals, TellOfTheWidthFirst) {
     OpenEstimated();
     Click(Option(Controls::otherWidth));

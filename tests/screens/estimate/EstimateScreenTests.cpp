@@ -311,21 +311,6 @@ TEST_F(EstimateScreens, AreEmptyAfterAnErrorAndKeepThePanelAsItStood) {
     EXPECT_TRUE(Option(Controls::carpets[1]).isChecked());
 }
 
-TEST_F(EstimateScreens, KeepTheEarlierResultWhenANumberCannotBeRead) {
-    Open({{288, 120}});
-    PressOk();
-    const auto written = Written();
-    Click(Button(Controls::openChoices));
-    Click(Control<QCheckBox>(Controls::matchPattern));
-    Type(Box(Controls::repeatLength), "40000");
-    PressOk();
-    ASSERT_EQ(boxes.Messages.size(), 1U);
-    EXPECT_THAT(boxes.Messages[0], ::testing::StartsWith("Run-time error '6':"));
-    EXPECT_TRUE(Panel().isVisible());
-    EXPECT_EQ(Written(), written);
-    EXPECT_EQ(Box(Controls::repeatLength).text(), QStringLiteral("40000"));
-}
-
 TEST_F(EstimateScreens, AreEmptyWhenTheOptionsScreenDoesNotLoad) {
     Open({{200, 120}});
     screens.OnCall = [] { throw std::runtime_error("No memory."); };
