@@ -6,6 +6,7 @@
 #include <QEvent>
 #include <QLabel>
 #include <QPushButton>
+#include <QShortcutEvent>
 #include <QTextDocument>
 
 namespace tarn {
@@ -33,6 +34,28 @@ class SecondClickFilter : public QObject {
     }
 };
 
+/// The toolkit shows a button that its shortcut presses as pressed for a tenth of a second, and
+/// acts only then: a quick second key would meet the screen as it was before, and get lost.
+class PressAtOnce : public QObject {
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() != QEvent::Shortcut) {
+            return false;
+        }
+        auto* button = static_cast<QAbstractButton*>(watched);
+        const auto& shortcut = static_cast<const QShortcutEvent&>(*event);
+        if (shortcut.isAmbiguous()) {
+            return false;
+        }
+        button->setShortcutAutoRepeat(shortcut.shortcutId(), false); // a held key is one press
+        if (button->isCheckable() && (button->focusPolicy() & Qt::ClickFocus) != 0) {
+            button->setFocus(Qt::ShortcutFocusReason);
+        }
+        button->click();
+        return true;
+    }
+};
+
 } // namespace
 
 void NameControl(QWidget& control, QAnyStringView name, const QString& accessibleName) {
@@ -45,8 +68,10 @@ void SetToolTip(QWidget& control, const QString& text) {
 }
 
 void SetCaption(QAbstractButton& button, std::string_view caption, char mnemonic) {
+    static PressAtOnce pressAtOnce;
     button.setText(WithMnemonic(caption, mnemonic));
     button.setAccessibleName(ToQt(caption));
+    button.installEventFilter(&pressAtOnce); // once, however often it is called
 }
 
 QString CaptionOf(const QAbstractButton& button) {

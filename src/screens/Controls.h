@@ -23,7 +23,7 @@ void NameControl(QWidget& control, QAnyStringView name, const QString& accessibl
 void SetToolTip(QWidget& control, const QString& text);
 
 /// Set a button's caption and accessible name. `mnemonic`, a letter of the caption, is underlined
-/// and presses the button together with Alt; 0 for none.
+/// and presses the button together with Alt, at once and once however long it is held; 0 for none.
 void SetCaption(QAbstractButton& button, std::string_view caption, char mnemonic = 0);
 /// A button's caption without the mark of its mnemonic.
 QString CaptionOf(const QAbstractButton& button);

@@ -4,6 +4,8 @@
 #include "screens/ElidedLabel.h"
 #include "screens/ScreenTesting.h"
 
+#include <QPushButton>
+
 namespace tarn {
 namespace {
 
@@ -21,6 +23,51 @@ TEST(SetToolTip, ShowsATextAsItIsWritten) {
     }
     SetToolTip(widget, {});
     EXPECT_EQ(widget.toolTip(), QString());
+}
+
+/// A window with a button that Alt+P presses, and how often that happened.
+struct ButtonKeys : ::testing::Test {
+    ButtonKeys() {
+        button = NewButton(&window, QStringLiteral("Button"), "Press", 'P');
+        QObject::connect(button, &QPushButton::clicked, [this] { ++pressed; });
+        ShowOnDisplay(window);
+    }
+    /// Alt+P goes down, or is repeated as it is held.
+    void KeyDown(bool repeated) {
+        qt_sendShortcutOverrideEvent(&window, 0, Qt::Key_P, Qt::AltModifier, {}, repeated);
+    }
+
+    QWidget window;
+    QPushButton* button = nullptr;
+    int pressed = 0;
+};
+
+TEST_F(ButtonKeys, PressAtOnce) {
+    KeyDown(false);
+    EXPECT_EQ(pressed, 1);
+    EXPECT_FALSE(button->isDown());
+    KeyDown(false);
+    EXPECT_EQ(pressed, 2);
+}
+
+TEST_F(ButtonKeys, PressOnceHoweverLongTheyAreHeld) {
+    KeyDown(false);
+    for (int i = 0; i < 30; ++i) {
+        KeyDown(true);
+    }
+    EXPECT_EQ(pressed, 1);
+}
+
+TEST_F(ButtonKeys, PressNothingThatIsDisabled) {
+    button->setEnabled(false);
+    KeyDown(false);
+    EXPECT_EQ(pressed, 0);
+}
+
+TEST_F(ButtonKeys, PressOnceAfterTheCaptionChanged) {
+    SetCaption(*button, "Press again", 'P');
+    KeyDown(false);
+    EXPECT_EQ(pressed, 1);
 }
 
 TEST(ElidedLabels, ShowACutTextWholeAndAsItIsWrittenInTheToolTip) {

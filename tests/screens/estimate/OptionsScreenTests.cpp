@@ -66,6 +66,16 @@ struct OptionsScreens : ScreenTest {
     std::unique_ptr<OptionsScreen> form;
 };
 
+TEST_F(OptionsScreens, TakesQuickKeys) {
+    AddFills(3);
+    Open();
+    Press(*form, Qt::Key_3, Qt::AltModifier);
+    EXPECT_TRUE(Option(Controls::piecesPerFill[2]).hasFocus());
+    Press(*form, Qt::Key_C, Qt::AltModifier);
+    ASSERT_TRUE(client.Seen);
+    EXPECT_EQ(client.Seen->Request.PiecesPerFill, 3);
+}
+
 TEST_F(OptionsScreens, HasItsTitlesAndCaptions) {
     Open();
     EXPECT_EQ(form->Caption(), QStringLiteral("ESTIMATION OPTIONS"));
