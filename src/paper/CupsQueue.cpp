@@ -14,6 +14,17 @@ namespace {
 
 constexpr std::size_t LongestJobName = 255; ///< bytes
 
+constexpr const char* SettingsAdvice =
+    "Choose a default printer in the system's printer settings, or set this one up there.";
+constexpr const char* StoppedAdvice =
+    "Start it again in the system's printer settings, or choose another default printer there.";
+constexpr const char* NotAcceptingAdvice =
+    "Let it accept jobs in the system's printer settings, or choose another default printer there.";
+constexpr const char* TroubleAdvice = "Put that right at the printer, then print again.";
+constexpr const char* RefusedAdvice =
+    "Look at the printer in the system's printer settings, then print again.";
+constexpr const char* NotKnownAdvice = "Look whether the page comes out before you print again.";
+
 bool Succeeded(const Ipp& answer) {
     return ippGetStatusCode(answer.get()) <= IPP_STATUS_OK_EVENTS_COMPLETE;
 }
@@ -79,12 +90,15 @@ CupsQueue::CupsQueue(CupsPatience patience)
     AskFor(request, QueueAttributes());
     const Ipp queue = server_.Ask(request, "/");
     if (ippGetStatusCode(queue.get()) == IPP_STATUS_ERROR_NOT_FOUND) {
-        throw PrinterError("There is no default printer.");
+        throw PrinterError(name_.empty() ? "There is no default printer."
+                                         : "There is no printer " + name_ + ".",
+                           SettingsAdvice);
     }
     choice.Name = name_ = TextIn(queue.get(), "printer-name");
     if (!Succeeded(queue) || name_.empty()) {
         throw PrinterError(
-            "The printing system does not name the default printer: " + MessageOf(queue) + ".");
+            "The printing system does not name the default printer: " + MessageOf(queue) + ".",
+            SettingsAdvice);
     }
     RequireReady(queue.get());
     const QueueOptions chosen = ChosenOptions(choice);
@@ -95,16 +109,16 @@ CupsQueue::CupsQueue(CupsPatience patience)
 void CupsQueue::RequireReady(ipp_t* queue) const {
     const int state = NumberIn(queue, "printer-state");
     if (state == IPP_PSTATE_STOPPED) {
-        throw PrinterError("The printer " + name_ + " is stopped.");
+        throw PrinterError("The printer " + name_ + " is stopped.", StoppedAdvice);
     }
     ipp_attribute_t* accepting =
         ippFindAttribute(queue, "printer-is-accepting-jobs", IPP_TAG_BOOLEAN);
     if (accepting != nullptr && ippGetBoolean(accepting, 0) == 0) {
-        throw PrinterError("The printer " + name_ + " takes no jobs.");
+        throw PrinterError("The printer " + name_ + " takes no jobs.", NotAcceptingAdvice);
     }
     const std::string trouble = PrinterTrouble(state, TextsIn(queue, "printer-state-reasons"));
     if (!trouble.empty()) {
-        throw PrinterError("The printer " + name_ + " " + trouble + ".");
+        throw PrinterError("The printer " + name_ + " " + trouble + ".", TroubleAdvice);
     }
 }
 
@@ -127,7 +141,8 @@ Ipp CupsQueue::NewJobRequest(ipp_op_t operation, int job) const {
 }
 
 PrinterError CupsQueue::Refusal(const Ipp& answer) const {
-    return PrinterError("The printer " + name_ + " refused the job: " + MessageOf(answer) + ".");
+    return PrinterError("The printer " + name_ + " refused the job: " + MessageOf(answer) + ".",
+                        RefusedAdvice);
 }
 
 int CupsQueue::CreateJob(const std::string& title) {
@@ -160,7 +175,8 @@ bool CupsQueue::Arrived(int job, const PrinterError& failure) {
         }
     } catch (const PrinterError&) {
         throw PrinterError("The printer " + name_ + " does not tell whether it took the job. " +
-                           failure.what());
+                               failure.what(),
+                           NotKnownAdvice);
     }
     return false;
 }

@@ -18,6 +18,8 @@ constexpr std::size_t PieceBytes = 16384;
 /// How long the server may take to say that it wants no document, before the document is sent.
 constexpr milliseconds ContinueWait{1000};
 
+constexpr const char* NotAllowedAdvice = "Whoever looks after the printing system can allow it.";
+
 /// Never asks for a password: there is nobody at the terminal.
 const char* NoPassword(const char*, http_t*, const char*, const char*, void*) {
     return nullptr;
@@ -32,6 +34,10 @@ std::string SystemName() {
 }
 
 } // namespace
+
+NoAnswer::NoAnswer(const std::string& cause)
+    : PrinterError(cause, "Check that the printing system runs and that its network is there, then "
+                          "print again.") {}
 
 /// One request over a connection of its own, and what the server says of it.
 class CupsServer::Exchange {
@@ -188,12 +194,13 @@ Ipp CupsServer::Exchanged(const Ipp& request, const std::string& resource,
         } else if (status == HTTP_STATUS_ERROR || status == HTTP_STATUS_CONTINUE) {
             exchange.Fail();
         } else {
-            throw PrinterError("The printing system refused the request: " +
-                               std::string(httpStatus(status)) + ".");
+            throw PrinterError(
+                "The printing system refused the request: " + std::string(httpStatus(status)) + ".",
+                NotAllowedAdvice);
         }
         left_ -= std::min(left_, duration_cast<milliseconds>(Clock::now() - started));
     }
-    throw PrinterError("The printing system does not let this user in.");
+    throw PrinterError("The printing system does not let this user in.", NotAllowedAdvice);
 }
 
 } // namespace tarn

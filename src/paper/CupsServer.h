@@ -15,7 +15,7 @@ namespace tarn {
 /// The printing system did not answer a request: whether it followed it, is not known.
 class NoAnswer : public PrinterError {
   public:
-    using PrinterError::PrinterError;
+    explicit NoAnswer(const std::string& cause);
 };
 
 /// The server that libcups is set to, one use of it: every request has a connection of its own, and

@@ -3,7 +3,23 @@
 #include "base/Text.h"
 #include "estimate/CutList.h"
 
+#include <algorithm>
+
 namespace tarn {
+
+namespace {
+
+/// The type size in which the cut list is written in a drawing, known by its heading.
+Double ListTypeSizeIn(const Drawing& drawing, const EstimateRequest& request) {
+    const auto& steps = drawing.Steps();
+    const auto heading = std::find_if(
+        steps.begin(), steps.end(), [text = CarpetHeading(request)](const DrawingStep& step) {
+            return step.What == DrawingStep::Kind::Text && step.Text == text;
+        });
+    return heading == steps.end() ? 0 : heading->FontSize;
+}
+
+} // namespace
 
 EstimatePage MakeEstimatePage(const std::string& project, const std::optional<Estimate>& estimate,
                               const Drawing& drawing, PageTwips sheet, std::string_view date) {
@@ -15,6 +31,7 @@ EstimatePage MakeEstimatePage(const std::string& project, const std::optional<Es
     if (estimate && !HasNothingToCut(*estimate)) {
         const auto lines = CarpetHeadingLines(estimate->Request);
         page.CarpetLines.assign(lines.begin(), lines.end());
+        page.ListTypeSize = ListTypeSizeIn(drawing, estimate->Request);
     }
     return page;
 }

@@ -17,7 +17,17 @@ struct EstimatePage {
     const Drawing* Picture = nullptr;     ///< as it stands, with the cut list where it was pasted
     std::vector<std::string> CarpetLines; ///< below the drawing; none without a cut or a fill
     PageTwips Sheet;                      ///< landscape
+    /// The type size of the cut list in the picture, points; 0 when it does not stand there.
+    Double ListTypeSize = 0;
 };
+
+/// What a page says, and whoever prints it is told, when its cut list cannot be shown: that, and
+/// where the list is.
+inline constexpr std::string_view ListNotShownText =
+    "The page cannot show the cut list: the layout is too long for it.";
+inline constexpr std::string_view ListElsewhereText =
+    "The list stands on the screen, in the drawing saved as SVG, and in what tarn-estimate --text "
+    "writes.";
 
 /// The page of a project's estimate, if there is one. `date` is printed as it is; `drawing` must
 /// outlive the page.

@@ -7,10 +7,13 @@
 #include "paper/Printer.h"
 
 #include <QFontMetricsF>
+#include <QMarginsF>
 #include <QPagedPaintDevice>
 #include <QPainter>
 
 #include <algorithm>
+#include <string>
+#include <vector>
 
 namespace tarn {
 
@@ -22,6 +25,8 @@ constexpr Double TitleTop = 400;
 constexpr Double DrawingTop = 800;
 constexpr Double CarpetLinesBelow = 600;
 constexpr int CarpetLineCount = 2;
+/// Of the note in the drawing's place: a drawing that loses its list is a line along an edge there.
+constexpr Double NoteInset = 500;
 
 /// A line with its top left at `place`, smaller letters where it does not fit into `width`.
 void PaintLine(QPainter& painter, QPointF place, double width, const std::string& text) {
@@ -34,6 +39,29 @@ void PaintLine(QPainter& painter, QPointF place, double width, const std::string
     }
     painter.drawText(QPointF(), line);
     painter.restore();
+}
+
+/// Lines below each other, each no farther than `right`.
+void PaintLines(QPainter& painter, QPointF place, double right,
+                const std::vector<std::string>& lines) {
+    for (const std::string& line : lines) {
+        PaintLine(painter, place, right - place.x(), line);
+        place.ry() += HeightOfLine(TypeSize);
+    }
+}
+
+EstimatePlaces PlacesOf(const EstimatePage& page, const QSizeF& sheet) {
+    return page.Sheet.IsKnown() ? PlacesOn(page.Sheet.Width, page.Sheet.Height)
+                                : PlacesOn(sheet.width(), sheet.height());
+}
+
+bool LosesCutList(const EstimatePage& page, const EstimatePlaces& places, const QTransform& fit) {
+    if (page.Picture == nullptr || page.ListTypeSize == 0) {
+        return false;
+    }
+    const QRectF source = PrintedSource(*page.Picture, places.Picture);
+    const double scale = source.isEmpty() ? 0 : fit.m11() * places.Picture.width() / source.width();
+    return !AreLettersPainted(page.ListTypeSize, scale * PageResolution / TwipsPerInch);
 }
 
 void PaintScaled(QPainter& painter, const Drawing& drawing, const QRectF& target) {
@@ -57,6 +85,7 @@ EstimatePlaces PlacesOn(Double width, Double height) {
     places.Picture = {LeftEdge, DrawingTop, width / 1.2, height / 1.35};
     places.CarpetLines = {LeftEdge, CarpetLinesBelow + height / 1.25};
     const double bottom = places.CarpetLines.y() + CarpetLineCount * HeightOfLine(TypeSize);
+    places.ListNote = places.Picture.topLeft() + QPointF(NoteInset, NoteInset);
     places.All = {places.Title,
                   QPointF(places.Picture.right(), std::max(places.Picture.bottom(), bottom))};
     return places;
@@ -86,19 +115,24 @@ QTransform FitInto(const QRectF& all, const QRectF& printable) {
     return transform;
 }
 
+bool LosesCutList(const EstimatePage& page, const Paper& paper) {
+    const QRectF sheet(0, 0, paper.Size.Width, paper.Size.Height);
+    const QRectF printable =
+        sheet.marginsRemoved(QMarginsF(paper.Left, paper.Top, paper.Right, paper.Bottom));
+    const EstimatePlaces places = PlacesOf(page, sheet.size());
+    return LosesCutList(page, places, FitInto(places.All, printable));
+}
+
 void PaintEstimate(QPagedPaintDevice& device, const EstimatePage& page) {
     QPainter painter;
     if (!painter.begin(&device)) {
         throw PrinterError("The estimate could not be put on paper.");
     }
     CountInTwips(painter, device);
-    const QRectF sheet = SheetOf(device);
-    const EstimatePlaces places = page.Sheet.IsKnown()
-                                      ? PlacesOn(page.Sheet.Width, page.Sheet.Height)
-                                      : PlacesOn(sheet.width(), sheet.height());
+    const EstimatePlaces places = PlacesOf(page, SheetOf(device).size());
     const QTransform fit = FitInto(places.All, PrintableOf(device));
     if (fit.m11() * LetterHeight(TypeSize) < LeastLetters) {
-        throw PrinterError("The paper is too small for the estimate.");
+        throw PrinterError("The paper is too small for the estimate.", LargerPaperAdvice);
     }
     painter.setTransform(fit, true);
     painter.setFont(Arial(static_cast<int>(LetterHeight(TypeSize))));
@@ -107,10 +141,10 @@ void PaintEstimate(QPagedPaintDevice& device, const EstimatePage& page) {
     if (page.Picture != nullptr) {
         PaintScaled(painter, *page.Picture, places.Picture);
     }
-    QPointF place = places.CarpetLines;
-    for (const std::string& line : page.CarpetLines) {
-        PaintLine(painter, place, places.All.right() - place.x(), line);
-        place.ry() += HeightOfLine(TypeSize);
+    PaintLines(painter, places.CarpetLines, places.All.right(), page.CarpetLines);
+    if (LosesCutList(page, places, fit)) {
+        PaintLines(painter, places.ListNote, places.All.right(),
+                   {std::string(ListNotShownText), std::string(ListElsewhereText)});
     }
 }
 

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "paper/EstimatePage.h"
+#include "paper/Paper.h"
 
 #include <QRectF>
 #include <QTransform>
@@ -18,6 +19,7 @@ struct EstimatePlaces {
     QPointF Title;       ///< top left of the title line
     QRectF Picture;      ///< at (500, 800), width / 1.2 by height / 1.35
     QPointF CarpetLines; ///< top left of the first: (500, 600 + height / 1.25)
+    QPointF ListNote;    ///< top left of what is said of a cut list that cannot be shown
     QRectF All;          ///< what surrounds them
 };
 EstimatePlaces PlacesOn(Double width, Double height);
@@ -30,9 +32,15 @@ QRectF PrintedSource(const Drawing& drawing, const QRectF& target);
 /// `printable`: not at all on a sheet whose margins leave it room.
 QTransform FitInto(const QRectF& all, const QRectF& printable);
 
+/// Whether the cut list that stands in the page's drawing is lost on such paper: the whole of the
+/// drawing has to fit there, and that of a layout of hundreds of yards is so small that no letter
+/// of it is painted. What is very small, but there, is not lost: a PDF can be magnified.
+bool LosesCutList(const EstimatePage& page, const Paper& paper);
+
 /// Paint an estimate's page, "Arial" 12 and the drawing as lines and text, in black (and the
 /// drawing's own colours) on the bare paper. A sheet that is not known stands for the
-/// device's own. Raises PrinterError when the device cannot be painted on or its sheet is too
+/// device's own. A cut list that is lost is replaced by a line that says where it is. Raises
+/// PrinterError when the device cannot be painted on or its sheet is too
 /// small.
 void PaintEstimate(QPagedPaintDevice& device, const EstimatePage& page);
 

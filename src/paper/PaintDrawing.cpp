@@ -58,8 +58,8 @@ class Brush {
     void Text(const DrawingStep& step) {
         const QRectF line(QPointF(step.X1, step.Y1),
                           QPointF(step.X2, step.Y1 + HeightOfLine(step.FontSize)));
-        const bool legible = LetterHeight(step.FontSize) * scale_ >= 1;
-        if (!legible || step.Text.empty() || (visible_ && !Reaches(line))) {
+        if (!AreLettersPainted(step.FontSize, scale_) || step.Text.empty() ||
+            (visible_ && !Reaches(line))) {
             return;
         }
         if (fontSize_ != step.FontSize) {
@@ -124,6 +124,10 @@ class Brush {
 };
 
 } // namespace
+
+bool AreLettersPainted(Double fontSize, double scale) {
+    return LetterHeight(fontSize) * scale >= 1;
+}
 
 void PaintDrawing(QPainter& painter, const Drawing& drawing) {
     painter.save();

@@ -29,6 +29,13 @@ struct Paper {
 /// Letters smaller than this, twips, are of no use to anybody.
 inline constexpr Double LeastLetters = 3 * TwipsPerPoint;
 
+/// What helps then.
+inline constexpr const char* LargerPaperAdvice =
+    "Choose a larger paper in the system's printer settings.";
+
+/// The resolution in which pages are made, dots per inch; whole numbers in a document count them.
+inline constexpr int PageResolution = 1200;
+
 /// A sheet of that size; A4 when it is not known.
 Paper PaperOf(PageTwips sheet);
 

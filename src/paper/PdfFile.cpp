@@ -16,8 +16,6 @@ namespace tarn {
 
 namespace {
 
-constexpr int Resolution = 1200; ///< dots per inch; whole numbers in the document count them
-
 std::string Document(const QString& title, const Paper& paper,
                      const std::function<void(QPagedPaintDevice&)>& paint) {
     QByteArray content;
@@ -25,9 +23,9 @@ std::string Document(const QString& title, const Paper& paper,
     buffer.open(QIODevice::WriteOnly);
     {
         QPdfWriter writer(&buffer);
-        writer.setResolution(Resolution);
+        writer.setResolution(PageResolution);
         if (!writer.setPageLayout(LayoutOf(paper))) {
-            throw PrinterError("No page can be made on paper of that size.");
+            throw PrinterError("No page can be made on paper of that size.", LargerPaperAdvice);
         }
         writer.setTitle(title);
         writer.setCreator(ToQt(ApplicationTitle));

@@ -7,16 +7,25 @@
 
 #include <stdexcept>
 #include <string>
+#include <utility>
 
 namespace tarn {
 
 struct EnteredDataReport;
 struct EstimatePage;
 
-/// The printer cannot be used, or refused the job; what() says why.
+/// The printer cannot be used, or refused the job; what() says why, and Advice what helps.
 class PrinterError : public std::runtime_error {
   public:
-    using std::runtime_error::runtime_error;
+    explicit PrinterError(const std::string& cause, std::string advice = {})
+        : std::runtime_error(cause)
+        , advice_(std::move(advice)) {}
+
+    /// A sentence or two; empty where nothing is known to help.
+    const std::string& Advice() const { return advice_; }
+
+  private:
+    std::string advice_;
 };
 
 /// Shown when printing failed.

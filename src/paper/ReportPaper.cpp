@@ -34,7 +34,7 @@ Grid GridOf(const QRectF& area) {
         std::min({ReportTypeSize, area.width() / (ReportHeadingWidth * CourierAdvance),
                   area.height() / (LeastPageLines * CourierLineHeight)});
     if (size < LeastLetters) {
-        throw PrinterError("The paper is too small for the report.");
+        throw PrinterError("The paper is too small for the report.", LargerPaperAdvice);
     }
     return {area, static_cast<int>(size)};
 }

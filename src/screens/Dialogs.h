@@ -13,8 +13,10 @@ class Dialogs {
   public:
     virtual ~Dialogs() = default;
 
-    /// A message with an OK button.
-    virtual void Message(const std::string& text) = 0;
+    /// A message with an OK button. `informative` stands below the text, smaller: the cause, and
+    /// what helps; empty for nothing.
+    virtual void Message(const std::string& text, const std::string& informative) = 0;
+    void Message(const std::string& text) { Message(text, {}); }
     /// A question with Yes and No. No is the default; Escape and closing the box count as No.
     virtual bool AskYesNo(const std::string& text) = 0;
     /// A question with a button for each of `actions`, and Cancel, which is the default; Escape and

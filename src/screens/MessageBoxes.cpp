@@ -8,6 +8,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QInputDialog>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -26,9 +27,13 @@ void Prepare(QMessageBox& box, const std::string& text) {
 
 } // namespace
 
-void MessageBoxes::Message(const std::string& text) {
+void MessageBoxes::Message(const std::string& text, const std::string& informative) {
     QMessageBox box(parent_);
     Prepare(box, text);
+    box.setInformativeText(ToQtLines(informative));
+    if (auto* below = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_informativelabel"))) {
+        below->setTextFormat(Qt::PlainText); // the box sets that of its text alone
+    }
     box.setStandardButtons(QMessageBox::Ok);
     box.exec();
 }

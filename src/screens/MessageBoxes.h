@@ -18,7 +18,8 @@ class MessageBoxes : public Dialogs {
 
     void SetParent(QWidget* parent) { parent_ = parent; }
 
-    void Message(const std::string& text) override;
+    using Dialogs::Message;
+    void Message(const std::string& text, const std::string& informative) override;
     bool AskYesNo(const std::string& text) override;
     std::optional<std::size_t> Choose(const std::string& text,
                                       const std::vector<std::string>& actions) override;

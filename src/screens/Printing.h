@@ -7,8 +7,8 @@
 namespace tarn {
 
 /// Run `print` while the cursor shows that the program waits. Whatever fails on the way to the
-/// paper is told in one message (PrinterNotReadyMessage), and its cause written to standard error,
-/// for whoever has to find out why. Answers whether it was printed.
-bool Printed(Dialogs& boxes, const std::function<void()>& print);
+/// paper is told in one message (PrinterNotReadyMessage) with its cause and what helps below it;
+/// the cause is written to standard error, too. Answers whether it was printed.
+bool Print(Dialogs& boxes, const std::function<void()>& print);
 
 } // namespace tarn

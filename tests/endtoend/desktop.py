@@ -7,6 +7,7 @@ import time
 
 import gi
 from Xlib import X, display, protocol
+from Xlib.ext import xtest
 
 gi.require_version("Atspi", "2.0")
 import pyatspi  # noqa: E402
@@ -25,6 +26,7 @@ KEYS = {
     "End": 0xFF57,
     "Delete": 0xFFFF,
     "Menu": 0xFF67,
+    "Alt": 0xFFE9,
 }
 
 
@@ -145,10 +147,13 @@ class Program:
     def box(self):
         return wait_for(lambda: (self.boxes() or [None])[0], "a message")
 
+    def texts_of_box(self):
+        """The texts in the box that stands, from the top down."""
+        return [each.name for each in walk(self.box()) if each.getRoleName() == "label" and each.name]
+
     def message(self):
         """The text of the message or question that stands."""
-        box = self.box()
-        return next(each.name for each in walk(box) if each.getRoleName() == "label" and each.name)
+        return self.texts_of_box()[0]
 
     def focused(self):
         """The name of what has the focus."""
@@ -269,6 +274,19 @@ class Program:
     def press_by_key(self, name):
         self.tab_to(name)
         self.key("Return")
+
+    def press_with_alt(self, *letters):
+        """Press buttons by their letters, one right after the other."""
+        server = display.Display()
+        alt = server.keysym_to_keycode(KEYS["Alt"])
+        for letter in letters:
+            code = server.keysym_to_keycode(ord(letter))
+            for what, key in (
+                (X.KeyPress, alt), (X.KeyPress, code), (X.KeyRelease, code), (X.KeyRelease, alt)
+            ):
+                xtest.fake_input(server, what, key)
+        server.sync()
+        server.close()
 
     def type(self, text):
         for character in text:

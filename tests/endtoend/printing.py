@@ -182,8 +182,12 @@ class PrintCase(unittest.TestCase):
         )
         return [line.rstrip() for line in text.strip("\n").splitlines()]
 
-    def expect_not_ready(self):
+    def expect_not_ready(self, cause):
+        """One message, with its cause and the way out below it."""
         self.assertEqual(self.ui.message(), NOT_READY)
+        below = self.ui.texts_of_box()[1]
+        self.assertIn(cause, below)
+        self.assertIn('choose "Save as PDF"', below)
         self.ui.answer("OK")
 
     def drawing(self):

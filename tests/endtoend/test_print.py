@@ -149,22 +149,26 @@ class PrintingEstimates(PrintCase):
 
 class PrintingTrouble(PrintCase):
     def unready_printers(self):
-        """No server, and then one after the other that cannot print."""
-        yield "no server"
+        """No server, and then one after the other that cannot print; with the cause told."""
+        yield "no server", "cannot be reached"
         self.address.take_and_keep_silent()
-        yield "a server that keeps silent"
-        for arguments in (["--no-queue"], ["--stopped"], ["--not-accepting"]):
-            self.have_printer(*arguments)
-            yield arguments[0]
+        yield "a server that keeps silent", "it keeps silent"
+        for option, cause in (
+            ("--no-queue", "There is no default printer."),
+            ("--stopped", "is stopped."),
+            ("--not-accepting", "takes no jobs."),
+        ):
+            self.have_printer(option)
+            yield option, cause
 
     def test_a_report_waits_until_the_printer_is_ready(self):
         self.open_project("MAPLE STREET 9")
         self.open_report()
         shown = self.ui.field("ENTERED DATA REPORT")
-        for trouble in self.unready_printers():
+        for trouble, cause in self.unready_printers():
             with self.subTest(trouble):
                 self.ui.press("PRINT")
-                self.expect_not_ready()
+                self.expect_not_ready(cause)
                 self.assertEqual(self.ui.field("ENTERED DATA REPORT"), shown)
                 self.assertFalse(self.ui.is_there("push button", "BACK"))
         server = self.have_printer()
@@ -179,10 +183,10 @@ class PrintingTrouble(PrintCase):
         self.open_project("MAPLE STREET 9")
         self.estimate()
         drawn = self.ui.drawn_text()
-        for trouble in self.unready_printers():
+        for trouble, cause in self.unready_printers():
             with self.subTest(trouble):
                 self.ui.press("PRINT")
-                self.expect_not_ready()
+                self.expect_not_ready(cause)
                 self.assertEqual(self.ui.drawn_text(), drawn)
                 # Still usable: the list goes and is pasted again.
                 self.ui.press("REDRAW")
@@ -228,7 +232,7 @@ class PrintingNowhere(PrintCase):
         self.open_project("MAPLE STREET 9")
         self.open_report()
         self.ui.press("PRINT")
-        self.expect_not_ready()
+        self.expect_not_ready("cannot be reached")
 
 
 if __name__ == "__main__":

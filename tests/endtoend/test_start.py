@@ -103,8 +103,8 @@ class WindowManager(Case):
             self.skipTest("openbox is not installed")
         super().setUp()
 
-    def test_the_frame_fits_the_display_too(self):
-        name = self.new_display("1024x768")
+    def manage(self, name):
+        """Start openbox on that display; answers the display, to look at it."""
         manager = subprocess.Popen(
             ["openbox", "--sm-disable"],
             env=dict(os.environ, DISPLAY=name),
@@ -115,9 +115,36 @@ class WindowManager(Case):
         self.addCleanup(manager.terminate)
         server = display.Display(name)
         self.addCleanup(server.close)
-        root = server.screen().root
         supporting = server.intern_atom("_NET_SUPPORTING_WM_CHECK")
-        wait_for(lambda: root.get_full_property(supporting, X.AnyPropertyType), "openbox")
+        wait_for(
+            lambda: server.screen().root.get_full_property(supporting, X.AnyPropertyType),
+            "openbox",
+        )
+        return server
+
+    def test_quick_keys_reach_the_screen_in_their_order(self):
+        self.manage(os.environ["DISPLAY"])
+        self.house.bring_in_samples()
+        ui = self.start("--config-dir", self.house.config)
+        ui.press("SELECT PROJECT")
+        ui.click_on(ui.item("DIRECTORIES", "SAMPLES"))
+        wait_for(lambda: ui.items("PROJECTS"), "the projects")
+        ui.click_on(ui.item("PROJECTS", "MAPLE STREET 9"))
+        ui.press("DONE")
+        ui.press("ESTIMATE")
+        ui.press("OK")
+        ui.see("label", "ESTIMATING FILLS MENU")
+        ui.press_with_alt("3", "c")
+        wait_for(ui.drawn_text, "the drawing")
+        expected = self.house.estimate(
+            "MAPLE STREET 9", "--carpet", "1", "--roll-width", "12ft", "--max-pieces", "3"
+        )
+        self.assertEqual(ui.drawn_text()[-len(expected) :], expected)
+
+    def test_the_frame_fits_the_display_too(self):
+        name = self.new_display("1024x768")
+        server = self.manage(name)
+        root = server.screen().root
         program = self.start("--config-dir", self.house.config, environment={"DISPLAY": name})
         program.see("push button", "SELECT PROJECT")
         wait_for(

@@ -1,3 +1,5 @@
+#include "estimate/EstimateTesting.h"
+#include "estimate/LayoutDrawing.h"
 #include "paper/EstimatePaper.h"
 #include "paper/Paper.h"
 #include "paper/PdfFile.h"
@@ -155,6 +157,53 @@ TEST(PaintEstimate, TheDrawingIsVectorsAndRealTextInTheRightProportions) {
     EXPECT_NEAR(last.Box.right() * 20, 500 + drawing.Steps().back().X2 * scale, 20);
     // The face's letters are as high as they are wide: nothing is squeezed.
     EXPECT_NEAR(first.Box.height() * 20, 12 * 20 * 1.15 * scale, 30);
+}
+
+/// The picture of one fill of that length on a roll of 36 inches, with or without its cut list.
+Drawing LongDrawing(const Estimate& estimate, bool withList = true) {
+    Drawing drawing;
+    DrawLayout(drawing, estimate);
+    if (withList) {
+        DrawCutList(drawing, estimate, CutListX, CutListY);
+    }
+    return drawing;
+}
+Estimate LongEstimate(int length) {
+    return testing::Estimated({{30, length}}, testing::Request(36));
+}
+
+TEST(PaintEstimate, SaysWhereTheCutListIsWhenNoLetterOfItIsLeft) {
+    const Estimate estimate = LongEstimate(16000);
+    const Drawing drawing = LongDrawing(estimate);
+    const EstimatePage page = MakeEstimatePage("LONG", estimate, drawing, {}, "11/21/2031");
+    EXPECT_TRUE(LosesCutList(page, {}));
+    const Pdf pdf(EstimatePdf(page));
+    EXPECT_FALSE(pdf.Text().contains(QStringLiteral("Total Length"))) << "it is lost";
+    const auto words = pdf.Words(1);
+    const PdfWord& first = WordOf(words, "The");
+    EXPECT_NEAR(first.Box.left(), (500 + 500) / 20, 1);
+    EXPECT_NEAR(first.Box.height(), 12 * 1.15, 3) << "of the page's own type";
+    for (const std::string_view line : {ListNotShownText, ListElsewhereText}) {
+        EXPECT_TRUE(pdf.Text().contains(testing::Words(std::string(line)))) << line;
+    }
+    EXPECT_TRUE(pdf.Text().contains(QStringLiteral("Carpet-1")));
+}
+
+TEST(PaintEstimate, SaysNothingOfACutListThatIsThereOrWasNotDrawn) {
+    for (int length = 10000; length < 16000; length += 500) {
+        const Estimate estimate = LongEstimate(length);
+        const Drawing drawing = LongDrawing(estimate);
+        const EstimatePage page = MakeEstimatePage("LONG", estimate, drawing, {}, "");
+        const QString text = Pdf(EstimatePdf(page)).Text();
+        const bool isThere = text.contains(QStringLiteral("Total Length"));
+        EXPECT_EQ(LosesCutList(page, {}), !isThere) << length;
+        EXPECT_EQ(text.contains(QStringLiteral("cannot show")), !isThere) << length;
+    }
+    const Estimate estimate = LongEstimate(16000);
+    const Drawing redrawn = LongDrawing(estimate, false);
+    const EstimatePage page = MakeEstimatePage("LONG", estimate, redrawn, {}, "");
+    EXPECT_FALSE(LosesCutList(page, {}));
+    EXPECT_FALSE(Pdf(EstimatePdf(page)).Text().contains(QStringLiteral("cannot show")));
 }
 
 TEST(PaintEstimate, LinesStaySharpAtAnyResolution) {

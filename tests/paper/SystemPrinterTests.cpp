@@ -31,15 +31,16 @@ using testing::ReportOf;
 using testing::UserChoice;
 using testing::UseServer;
 
-/// Every way of using the printer, each refused with a text that holds `reason`.
-void ExpectRefused(const std::string& reason) {
+/// Every way of using the printer, each refused with a text that holds `reason`, and with `advice`.
+void ExpectRefused(const std::string& reason, const std::string& advice) {
     SystemPrinter printer;
-    const auto refused = [&reason](const char* what, auto action) {
+    const auto refused = [&](const char* what, auto action) {
         try {
             action();
             ADD_FAILURE() << what << " went through";
         } catch (const PrinterError& error) {
             EXPECT_THAT(error.what(), HasSubstr(reason)) << what;
+            EXPECT_THAT(error.Advice(), HasSubstr(advice)) << what;
         }
     };
     const Drawing drawing = CornersDrawing();
@@ -135,7 +136,7 @@ TEST(SystemPrinter, TheUsersOwnDefaultComesBeforeTheSystems) {
     const PrintServer server({QueueSetup(), stopped});
     EXPECT_NO_THROW(SystemPrinter().Page());
     qputenv("LPDEST", "Stopped");
-    ExpectRefused("The printer Stopped is stopped.");
+    ExpectRefused("The printer Stopped is stopped.", "Start it again");
     qunsetenv("LPDEST");
 }
 
@@ -242,21 +243,28 @@ TEST(SystemPrinter, NothingIsPrintedInsideTheMarginsOfTheDriver) {
 
 TEST(SystemPrinter, ThereIsNoPrinterWithoutAQueue) {
     const PrintServer server({});
-    ExpectRefused("There is no default printer.");
+    ExpectRefused("There is no default printer.", "Choose a default printer");
 }
 
 TEST(SystemPrinter, ThereIsNoPrinterWithoutADefaultQueue) {
     QueueSetup queue;
     queue.Default = false;
     const PrintServer server({queue});
-    ExpectRefused("There is no default printer.");
+    ExpectRefused("There is no default printer.", "Choose a default printer");
+}
+
+TEST(SystemPrinter, AChosenQueueThatIsNotThereIsNamed) {
+    const PrintServer server({QueueSetup()});
+    qputenv("LPDEST", "Attic");
+    ExpectRefused("There is no printer Attic.", "Choose a default printer");
+    qunsetenv("LPDEST");
 }
 
 TEST(SystemPrinter, AStoppedQueueIsNoPrinter) {
     QueueSetup queue;
     queue.Stopped = true;
     const PrintServer server({queue});
-    ExpectRefused("The printer Paper is stopped.");
+    ExpectRefused("The printer Paper is stopped.", "Start it again");
     EXPECT_TRUE(server.JobStates().empty());
 }
 
@@ -264,20 +272,20 @@ TEST(SystemPrinter, AQueueThatTakesNoJobsIsNoPrinter) {
     QueueSetup queue;
     queue.Accepting = false;
     const PrintServer server({queue});
-    ExpectRefused("The printer Paper takes no jobs.");
+    ExpectRefused("The printer Paper takes no jobs.", "Let it accept jobs");
     EXPECT_TRUE(server.JobStates().empty());
 }
 
 TEST(SystemPrinter, AServerThatIsAwayIsNoPrinter) {
     UseServer(DeadAddress());
-    ExpectRefused("cannot be reached");
+    ExpectRefused("cannot be reached", "Check that the printing system runs");
 }
 
 TEST(SystemPrinter, AServerThatStopsMeanwhileIsNoPrinter) {
     PrintServer server({QueueSetup()});
     EXPECT_NO_THROW(SystemPrinter().Page());
     EXPECT_EQ(server.Stop(), 0);
-    ExpectRefused("cannot be reached");
+    ExpectRefused("cannot be reached", "Check that the printing system runs");
 }
 
 TEST(SystemPrinter, AJobThatTheServerForbidsIsRefused) {
@@ -291,6 +299,7 @@ TEST(SystemPrinter, AJobThatTheServerForbidsIsRefused) {
         FAIL() << "the job went through";
     } catch (const PrinterError& error) {
         EXPECT_THAT(error.what(), HasSubstr("The printer Paper refused the job: "));
+        EXPECT_THAT(error.Advice(), HasSubstr("printer settings"));
     }
     EXPECT_TRUE(server.JobStates().empty());
 }

@@ -71,6 +71,20 @@ TEST_F(RealBoxes, ShowAMessageAsItIsWritten) {
     EXPECT_EQ(shown, 1);
 }
 
+TEST_F(RealBoxes, ShowWhatBelongsToAMessageBelowIt) {
+    WhenOpen<QMessageBox>([](QMessageBox& box) {
+        EXPECT_EQ(box.text(), QStringLiteral("It failed."));
+        EXPECT_EQ(box.informativeText(), QStringLiteral("<b>Why</b> & how\nto mend"));
+        EXPECT_EQ(
+            box.findChild<QLabel*>(QStringLiteral("qt_msgbox_informativelabel"))->textFormat(),
+            Qt::PlainText);
+    });
+    boxes.Message("It failed.", "<b>Why</b> & how\r\nto mend");
+    WhenOpen<QMessageBox>([](QMessageBox& box) { EXPECT_EQ(box.informativeText(), QString()); });
+    boxes.Message("It failed.");
+    EXPECT_EQ(shown, 2);
+}
+
 TEST_F(RealBoxes, AskAsItIsWritten) {
     AskAndDo([](QMessageBox& box) {
         EXPECT_EQ(box.text(), QStringLiteral("Delete <b>it</b>?\nReally?"));

@@ -18,11 +18,11 @@ using testing::ShowsWaiting;
 template <class Print>
 std::string SaidBy(FakeBoxes& boxes, bool printed, const Print& print) {
     ::testing::internal::CaptureStderr();
-    EXPECT_EQ(Printed(boxes, print), printed);
+    EXPECT_EQ(tarn::Print(boxes, print), printed);
     return ::testing::internal::GetCapturedStderr();
 }
 
-TEST(Printed, ShowsThatTheProgramWaitsWhileItPrints) {
+TEST(Print, ShowsThatTheProgramWaitsWhileItPrints) {
     FakeBoxes boxes;
     bool printed = false;
     EXPECT_EQ(SaidBy(boxes, true,
@@ -36,7 +36,7 @@ TEST(Printed, ShowsThatTheProgramWaitsWhileItPrints) {
     EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
 }
 
-TEST(Printed, TellsEveryFailureInOneMessageAndItsCauseOnStandardError) {
+TEST(Print, TellsEveryFailureInOneMessageAndItsCauseOnStandardError) {
     FakeBoxes boxes;
     boxes.OnMessage = [] { EXPECT_FALSE(ShowsWaiting()); };
     EXPECT_EQ(SaidBy(boxes, false, [] { throw PrinterError("The printer Hall is off line."); }),
@@ -44,7 +44,19 @@ TEST(Printed, TellsEveryFailureInOneMessageAndItsCauseOnStandardError) {
     EXPECT_EQ(SaidBy(boxes, false, [] { throw std::length_error("too long"); }),
               "tarn: too long\n");
     EXPECT_EQ(boxes.Messages, std::vector<std::string>(2, PrinterNotReadyMessage));
+    EXPECT_EQ(boxes.Informative.at(0), "The printer Hall is off line.\r\n"
+                                       "Or right-click what is shown and choose \"Save as PDF\".");
+    EXPECT_EQ(boxes.Informative.at(1),
+              "too long\r\nOr right-click what is shown and choose \"Save as PDF\".");
     EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+}
+
+TEST(Print, TellsWhatHelpsBelowTheCause) {
+    FakeBoxes boxes;
+    SaidBy(boxes, false,
+           [] { throw PrinterError("The printer Hall is stopped.", "Start it again."); });
+    EXPECT_EQ(boxes.Informative.at(0), "The printer Hall is stopped.\r\nStart it again.\r\n"
+                                       "Or right-click what is shown and choose \"Save as PDF\".");
 }
 
 } // namespace

@@ -22,14 +22,21 @@ using namespace tarn::testing;
 struct Trouble {
     const char* What;
     std::optional<std::vector<QueueSetup>> Queues; ///< nothing: there is no server
+    const char* Told;                              ///< of its cause and what helps
 };
 
 std::vector<Trouble> Troubles() {
     QueueSetup stopped;
     stopped.Stopped = true;
-    return {{"no queue", std::vector<QueueSetup>{}},
-            {"a stopped queue", std::vector<QueueSetup>{stopped}},
-            {"no server", std::nullopt}};
+    QueueSetup closed;
+    closed.Accepting = false;
+    return {{"no queue", std::vector<QueueSetup>{},
+             "There is no default printer.\r\nChoose a default printer in "},
+            {"a stopped queue", std::vector<QueueSetup>{stopped},
+             "The printer Paper is stopped.\r\nStart it again in "},
+            {"a queue that takes no jobs", std::vector<QueueSetup>{closed},
+             "The printer Paper takes no jobs.\r\nLet it accept jobs in "},
+            {"no server", std::nullopt, " cannot be reached.\r\nCheck that the printing system "}};
 }
 
 /// Printing fails once with one message in every trouble, and works when the queue is back.
@@ -38,6 +45,7 @@ void ExpectToldOnceAndPrintedLater(FakeBoxes& boxes, const std::function<void()>
     for (const Trouble& trouble : Troubles()) {
         SCOPED_TRACE(trouble.What);
         boxes.Messages.clear();
+        boxes.Informative.clear();
         std::optional<PrintServer> server;
         if (trouble.Queues) {
             server.emplace(*trouble.Queues);
@@ -46,6 +54,9 @@ void ExpectToldOnceAndPrintedLater(FakeBoxes& boxes, const std::function<void()>
         }
         press();
         EXPECT_EQ(boxes.Messages, std::vector<std::string>{PrinterNotReadyMessage});
+        EXPECT_NE(boxes.Informative.at(0).find(trouble.Told), std::string::npos)
+            << boxes.Informative.at(0);
+        EXPECT_TRUE(boxes.Informative.at(0).ends_with("choose \"Save as PDF\"."));
         expectUsable();
         if (server) {
             EXPECT_TRUE(server->JobStates().empty());

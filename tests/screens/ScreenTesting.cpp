@@ -15,8 +15,9 @@
 
 namespace tarn::testing {
 
-void FakeBoxes::Message(const std::string& text) {
+void FakeBoxes::Message(const std::string& text, const std::string& informative) {
     Messages.push_back(text);
+    Informative.push_back(informative);
     if (OnMessage) {
         OnMessage();
     }

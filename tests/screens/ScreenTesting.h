@@ -28,6 +28,7 @@ namespace tarn::testing {
 /// queue fails the test.
 struct FakeBoxes : Dialogs {
     std::vector<std::string> Messages;
+    std::vector<std::string> Informative; ///< what stands below each message
     std::vector<std::string> Questions;
     std::vector<std::string> Prompts;
     std::vector<std::string> InitialTexts; ///< of the input boxes, one for each prompt
@@ -41,7 +42,8 @@ struct FakeBoxes : Dialogs {
     /// Called while a message stands, such as to look at the screen behind it.
     std::function<void()> OnMessage;
 
-    void Message(const std::string& text) override;
+    using Dialogs::Message;
+    void Message(const std::string& text, const std::string& informative) override;
     bool AskYesNo(const std::string& text) override;
     std::optional<std::size_t> Choose(const std::string& text,
                                       const std::vector<std::string>& actions) override;

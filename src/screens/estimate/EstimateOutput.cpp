@@ -5,6 +5,7 @@
 #include "files/ShortDate.h"
 #include "files/Svg.h"
 #include "paper/EstimatePage.h"
+#include "paper/EstimatePaper.h"
 #include "paper/PdfFile.h"
 #include "screens/Printing.h"
 #include "screens/SaveAs.h"
@@ -29,22 +30,33 @@ void AskForSheet(Session& session) {
     }
 }
 
+void TellOfALostList(const Session& session, const EstimatePage& page) {
+    if (LosesCutList(page, PaperOf(page.Sheet))) {
+        session.Boxes.Message(std::string(ListNotShownText), std::string(ListElsewhereText));
+    }
+}
+
 } // namespace
 
 void PrintEstimate(Session& session, const std::optional<Estimate>& estimate,
                    const Drawing& drawing) {
-    Printed(session.Boxes, [&] {
+    const bool printed = Print(session.Boxes, [&] {
         if (!session.Page.IsKnown()) {
             AskForSheet(session);
         }
         session.Paper.PrintEstimate(PageOf(session, estimate, drawing));
     });
+    if (printed) {
+        TellOfALostList(session, PageOf(session, estimate, drawing));
+    }
 }
 
 void SaveEstimateAsPdf(Session& session, const std::optional<Estimate>& estimate,
                        const Drawing& drawing) {
     SaveAs(session.Boxes, session.Project.Now.Name, "pdf", [&](const std::string& path) {
-        WriteEstimatePdf(PageOf(session, estimate, drawing), path);
+        const EstimatePage page = PageOf(session, estimate, drawing);
+        WriteEstimatePdf(page, path);
+        TellOfALostList(session, page);
     });
 }
 

@@ -12,7 +12,8 @@
 namespace tarn {
 
 /// Print the drawing as it stands, with the line of its carpet, on one page. The printer's sheet is
-/// asked for while it is not known. What fails is told as Printed does.
+/// asked for while it is not known. What fails is told as Print does;
+/// so is it, afterwards, when the page cannot show the cut list.
 void PrintEstimate(Session& session, const std::optional<Estimate>& estimate,
                    const Drawing& drawing);
 

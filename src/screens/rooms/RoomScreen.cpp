@@ -256,7 +256,7 @@ void RoomScreen::SetEntryEnabled(bool enabled) {
 }
 
 void RoomScreen::PrintReport() {
-    if (Printed(Shared().Boxes, [this] { Shared().Paper.PrintReport(report_->Shown()); })) {
+    if (Print(Shared().Boxes, [this] { Shared().Paper.PrintReport(report_->Shown()); })) {
         CloseReport();
     }
 }

@@ -197,6 +197,35 @@ TEST_F(EstimatePictures, AreSavedAsPdfAndSvgFromTheirMenu) {
     EXPECT_THAT(boxes.Messages, IsEmpty());
 }
 
+TEST_F(EstimatePictures, TellThatAPageCannotShowTheirList) {
+    const TestFolder files;
+    Open({{30, 16000}});
+    Click(Option(Controls::otherWidth));
+    Type(Box(Controls::otherWidthMajor), "3");
+    PressOk();
+    Search();
+    const std::vector<std::string> told{std::string(ListNotShownText)};
+    const std::vector<std::string> where{std::string(ListElsewhereText)};
+    Click(Button(Controls::printEstimate));
+    EXPECT_EQ(printer.Estimates.size(), 1U) << "it is printed all the same";
+    EXPECT_EQ(boxes.Messages, told);
+    EXPECT_EQ(boxes.Informative, where);
+    boxes.Messages.clear();
+    boxes.Files = {files.Path("a.pdf")};
+    ChooseByKeys(1);
+    EXPECT_EQ(boxes.Messages, told);
+    EXPECT_THAT(files.Content(), ElementsAre("a.pdf"));
+    boxes.Messages.clear();
+    Click(Button(Controls::redrawLayout));
+    Click(Button(Controls::printEstimate));
+    EXPECT_THAT(boxes.Messages, IsEmpty()) << "the list was not to be printed";
+    printer.Failure = "It is off.";
+    Click(Button(Controls::pasteCuts));
+    Press(*form, Qt::Key_Return);
+    Click(Button(Controls::printEstimate));
+    EXPECT_EQ(boxes.Messages, std::vector<std::string>{PrinterNotReadyMessage});
+}
+
 TEST_F(EstimatePictures, OfferTheirMenuToTheMouse) {
     const TestFolder files;
     OpenEstimated();
