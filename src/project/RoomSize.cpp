@@ -26,11 +26,6 @@ bool HasBlankBetweenDigits(std::string_view text) {
     return text.substr(first, last - first).find_first_of(" \t") != std::string_view::npos;
 }
 
-/// The size that two texts make, not rounded.
-Double Joined(std::string_view major, std::string_view minor, Units units) {
-    return Val(major) * SmallUnits(units) + Val(minor);
-}
-
 bool IsReadableAndRefused(std::string_view text) {
     try {
         return IsRefusedSizeText(text);
@@ -65,11 +60,15 @@ std::optional<SizePart> RefusedPart(std::string_view major, std::string_view min
     return IsReadableAndRefused(minor) ? std::optional(SizePart::Minor) : std::nullopt;
 }
 
+Double JoinedSize(std::string_view major, std::string_view minor, Units units) {
+    return Val(major) * SmallUnits(units) + Val(minor);
+}
+
 std::optional<Integer> ReadSize(std::string_view major, std::string_view minor, Units units) {
     if (RefusedPart(major, minor)) {
         return std::nullopt;
     }
-    const Double size = Joined(major, minor, units);
+    const Double size = JoinedSize(major, minor, units);
     if (size < std::numeric_limits<Integer>::min()) {
         return std::nullopt;
     }

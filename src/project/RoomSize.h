@@ -40,6 +40,10 @@ enum class SizePart { Major, Minor };
 /// Double is none that is refused.
 std::optional<SizePart> RefusedPart(std::string_view major, std::string_view minor);
 
+/// The size that two typed texts make before it is rounded, inches or centimetres: Val(major) × 12
+/// + Val(minor), or × 100. Raises "Overflow" as Val does.
+Double JoinedSize(std::string_view major, std::string_view minor, Units units);
+
 /// The stored size that two typed texts make: CInt(Val(major) × 12 + Val(minor)), or × 100 for
 /// metres and centimetres. Fractions count (12.5 feet are 150 inches), and so do 13 inches or 120
 /// centimetres. Nothing when either text is refused or the size is negative, be it as large as it

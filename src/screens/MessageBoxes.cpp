@@ -2,7 +2,7 @@
 
 #include "base/Text.h"
 #include "files/QtText.h"
-#include "screens/Controls.h"
+#include "project/TypedText.h"
 
 #include <QDir>
 #include <QFileDialog>
@@ -79,7 +79,8 @@ std::optional<std::string> MessageBoxes::Input(const std::string& prompt,
     if (box.exec() != QDialog::Accepted) {
         return std::nullopt;
     }
-    return FromQt(box.textValue());
+    const std::u32string line = OneLineText(ToCharacters(box.textValue()));
+    return FromQt(QString::fromStdU32String(line));
 }
 
 std::optional<std::string> MessageBoxes::SaveFileName(const std::string& suggestedName,

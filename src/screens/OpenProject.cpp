@@ -1,5 +1,6 @@
 #include "screens/OpenProject.h"
 
+#include "project/SizeNotes.h"
 #include "store/ProjectStore.h"
 
 #include <utility>
@@ -9,6 +10,12 @@ namespace tarn {
 void SaveOpenProject(OpenProject& project, ProjectStore& store) {
     project.Now = store.Save(project.Now, project.Shown).Value;
     project.Saved = project.Now;
+}
+
+std::string SaveAndNameEmptyRooms(OpenProject& project, ProjectStore& store) {
+    std::string emptyRooms = EmptyRoomsText(project.Saved.Rooms, project.Now.Rooms);
+    SaveOpenProject(project, store);
+    return emptyRooms;
 }
 
 void DropRooms(OpenProject& project) {

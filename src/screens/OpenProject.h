@@ -5,6 +5,7 @@
 #include "base/Units.h"
 #include "project/Project.h"
 
+#include <string>
 #include <string_view>
 
 namespace tarn {
@@ -38,6 +39,10 @@ inline constexpr std::string_view NotSavedMessage = "The project could not be sa
 /// Store the project, which then counts as saved. Raises as ProjectStore::Save, with nothing
 /// changed.
 void SaveOpenProject(OpenProject& project, ProjectStore& store);
+
+/// SaveOpenProject; answers what to say of rooms that it stored without a size for the first time
+/// (see EmptyRoomsText).
+std::string SaveAndNameEmptyRooms(OpenProject& project, ProjectStore& store);
 
 /// Drop the project's rooms from memory, saved or not, and all else that belongs to them; its name
 /// and its directory remain. What is stored stays.

@@ -2,10 +2,12 @@
 
 #include "base/Text.h"
 #include "files/QtText.h"
+#include "project/TypedText.h"
 #include "store/Months.h"
 #include "store/Names.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace tarn {
 
@@ -19,19 +21,20 @@ std::string Encoded(const std::u32string& characters) {
     return FromQt(QString::fromStdU32String(characters));
 }
 
-/// `text` without the characters for which `isForbidden`, which takes each as UTF-8.
+/// The characters for which `isForbidden`, which takes each as UTF-8, and those that no text keeps
+/// are left out.
 template <typename Test>
-NameText Without(std::string_view text, Test isForbidden) {
-    std::u32string kept = Characters(text);
-    const auto left =
-        std::erase_if(kept, [&](char32_t c) { return isForbidden(Encoded(std::u32string(1, c))); });
-    return {Encoded(kept), left > 0};
+NameText Without(std::u32string characters, Test isForbidden) {
+    const auto left = std::erase_if(characters, [&](char32_t c) {
+        return !IsKeptCharacter(c) || isForbidden(Encoded(std::u32string(1, c)));
+    });
+    return {Encoded(characters), left > 0};
 }
 
 } // namespace
 
 NameText TypedNameText(std::string_view text) {
-    NameText typed = Without(text, [](const std::string& c) {
+    NameText typed = Without(Characters(text), [](const std::string& c) {
         return c.find_first_of(ForbiddenInProjectName) != std::string::npos;
     });
     typed.Text = UpperCaseLetters(typed.Text);
@@ -39,7 +42,10 @@ NameText TypedNameText(std::string_view text) {
 }
 
 NameText PastedNameText(std::string_view text) {
-    NameText pasted = Without(text, HoldsForbiddenCharacter);
+    std::u32string characters = Characters(text);
+    // What is copied as a whole line has one at its end.
+    characters.resize(characters.find_last_not_of(LineBreaks) + 1); // npos + 1 is 0
+    NameText pasted = Without(std::move(characters), HoldsForbiddenCharacter);
     pasted.Text = UpperCase(pasted.Text);
     return pasted;
 }

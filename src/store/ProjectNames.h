@@ -21,10 +21,12 @@ struct NameText {
     bool LeftOut = false; ///< a character was left out
 };
 
-/// Text that was typed: a to z in upper case, without the characters of ForbiddenInProjectName.
+/// Text that was typed: a to z in upper case, without the characters of ForbiddenInProjectName and
+/// without what no text keeps (see IsKeptCharacter).
 NameText TypedNameText(std::string_view text);
 
-/// Text that was pasted or dropped: in full upper case, also without control characters.
+/// Text that was pasted or dropped: in full upper case, without those and without line breaks. Line
+/// breaks at its end do not count as left out.
 NameText PastedNameText(std::string_view text);
 
 /// As much of `text` as a name of `length` characters takes before it is full.

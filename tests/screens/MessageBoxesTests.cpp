@@ -85,6 +85,17 @@ TEST_F(RealBoxes, ShowWhatBelongsToAMessageBelowIt) {
     EXPECT_EQ(shown, 2);
 }
 
+TEST_F(RealBoxes, TakeOneLineOfWhatIsPastedIntoAnInput) {
+    WhenOpen<QInputDialog>([](QInputDialog& box) {
+        auto& line = *box.findChild<QLineEdit*>();
+        line.selectAll();
+        line.insert(QStringLiteral("old\tmill\x01\r\nhouse\uFFFE\n"));
+        box.accept();
+    });
+    EXPECT_EQ(boxes.Input("Name?"), "old mill house");
+    EXPECT_EQ(shown, 1);
+}
+
 TEST_F(RealBoxes, AskAsItIsWritten) {
     AskAndDo([](QMessageBox& box) {
         EXPECT_EQ(box.text(), QStringLiteral("Delete <b>it</b>?\nReally?"));

@@ -46,6 +46,20 @@ TEST(PastedNames, LeaveOutForbiddenAndControlCharacters) {
     ExpectText(PastedNameText(" a "), " A ", false);
 }
 
+TEST(PastedNames, LoseLineBreaksAtTheEndAsIfTheyWereNotThere) {
+    for (const char* end : {"\n", "\r\n", "\n\r\n\v\f", "\u0085", "\u2028\u2029"}) {
+        ExpectText(PastedNameText(std::string("mill 9") + end), "MILL 9", false);
+        ExpectText(PastedNameText(end), "", false);
+    }
+    ExpectText(PastedNameText("mill\t"), "MILL", true);
+    ExpectText(PastedNameText("mill\n9\n"), "MILL9", true);
+}
+
+TEST(PastedNames, LeaveOutWhatNoTextKeeps) {
+    ExpectText(PastedNameText("a\uFFFEb\uFFFFc"), "ABC", true);
+    ExpectText(TypedNameText("a\uFFFEb\x01"), "AB", true);
+}
+
 TEST(FittingNames, EndAt64Characters) {
     const std::string sixty(60, 'A');
     EXPECT_EQ(FittingNameText("BCDE", 60), "BCDE");

@@ -380,8 +380,8 @@ bool EstimateScreen::PasteCutList(Double x, Double y) {
 }
 
 void EstimateScreen::SaveRooms() {
-    SaveOpenProject(Shared().Project, Shared().Store);
-    Shared().Boxes.Message(std::string(SavedMessage));
+    const std::string emptyRooms = SaveAndNameEmptyRooms(Shared().Project, Shared().Store);
+    Shared().Boxes.Message(std::string(SavedMessage), emptyRooms);
 }
 
 /// Closing while a search improves the layout ends the search alone.

@@ -34,6 +34,13 @@ void ChoiceList::Add(const std::string& name) {
     scrollToItem(item(count() - 1));
 }
 
+void ChoiceList::ScrollTo(const std::string& name) {
+    const auto found = findItems(ToQt(name), Qt::MatchFixedString);
+    if (!found.isEmpty()) {
+        scrollToItem(found.constFirst());
+    }
+}
+
 void ChoiceList::SetEntry(int row, const std::string& name) {
     const QSignalBlocker quiet(this);
     item(row)->setText(ToQt(name));

@@ -27,6 +27,8 @@ class ChoiceList : public QListWidget {
     void SetEntries(const std::vector<std::string>& names);
     /// Add an entry at the end and scroll to it.
     void Add(const std::string& name);
+    /// Scroll to an entry, in whatever case it is written; nothing when there is none.
+    void ScrollTo(const std::string& name);
     void SetEntry(int row, const std::string& name);
     /// Remove an entry; none is chosen then.
     void Remove(int row);

@@ -115,7 +115,7 @@ void ProjectScreen::OpenSelection() {
     selection_->Months->SetEntries({MonthNames.begin(), MonthNames.end()});
     selection_->Directories->SetEntries(directories);
     selection_->Projects->SetEntries(projects);
-    selection_->Name->SetName({});
+    ShowChosenName({});
     selection_->Name->SetLocked(true);
     shownList_ = selection_->Months;
     shownRow_ = month;
@@ -171,12 +171,17 @@ void ProjectScreen::DirectoryChosen(ChoiceList& chosen, ChoiceList& other) {
 
 void ProjectScreen::ProjectChosen() {
     ProjectBox& box = *selection_->Name;
-    if (!box.IsLocked() && box.Name().empty()) {
+    if (box.Name().empty() || box.Name() == chosenName_) {
         box.SetLocked(true);
     }
     if (box.IsLocked()) {
-        box.SetName(selection_->Projects->ChosenName().value());
+        ShowChosenName(selection_->Projects->ChosenName().value());
     }
+}
+
+void ProjectScreen::ShowChosenName(const std::string& name) {
+    chosenName_ = name;
+    selection_->Name->SetName(name);
 }
 
 void ProjectScreen::ListProjectsOfChoice() {
@@ -238,7 +243,8 @@ void ProjectScreen::NewDirectory() {
     AskName("Enter the new directory name", MakeDirectoryFailure,
             [this](const std::string& name) -> std::optional<std::string> {
                 if (IsDirectoryTaken(Shared().Store, name)) {
-                    return std::nullopt; // there it is
+                    selection_->Directories->ScrollTo(name); // there it is
+                    return std::nullopt;
                 }
                 Shared().Store.AddDirectory(name);
                 selection_->Directories->Add(name);
@@ -279,7 +285,7 @@ void ProjectScreen::AskProjectName() {
                 list.SetEntry(list.Chosen(), name);
                 ProjectBox& box = *selection_->Name;
                 if (box.IsLocked() && StoredName(box.Name()) == StoredName(oldName)) {
-                    box.SetName(name);
+                    ShowChosenName(name);
                 }
                 ShowSettings();
                 return std::nullopt;
@@ -301,7 +307,7 @@ void ProjectScreen::AskDeleteDirectory() {
     shownRow_ = -1;
     selection_->Projects->SetEntries({});
     if (selection_->Name->IsLocked()) {
-        selection_->Name->SetName({});
+        ShowChosenName({});
     }
     const int neighbour = NeighbourOf(row, list);
     if (neighbour >= 0) {
@@ -325,7 +331,7 @@ void ProjectScreen::AskDeleteProject() {
         list.Choose(neighbour);
         ProjectChosen();
     } else if (selection_->Name->IsLocked()) {
-        selection_->Name->SetName({});
+        ShowChosenName({});
     }
 }
 

@@ -39,7 +39,9 @@ class ProjectScreen : public TitledScreen {
     /// The month or directory that the user or the program chose in one of the two lists; the other
     /// one is `other`.
     void DirectoryChosen(ChoiceList& chosen, ChoiceList& other);
+    /// The box takes the name chosen unless another one is being typed in it.
     void ProjectChosen();
+    void ShowChosenName(const std::string& name);
     void ListProjectsOfChoice();
     void NewProject();
     void BoxTaken();
@@ -63,6 +65,7 @@ class ProjectScreen : public TitledScreen {
     /// The list and the row whose projects are shown; no row at first.
     ChoiceList* shownList_;
     int shownRow_ = -1;
+    std::string chosenName_; ///< what a choice in the list put into the box last
 };
 
 } // namespace tarn

@@ -1,14 +1,16 @@
 #include "screens/rooms/EntryField.h"
 
+#include "files/QtText.h"
+
 #include <QSignalBlocker>
 
 #include <algorithm>
 
 namespace tarn {
 
-EntryField::EntryField(QWidget* parent, const FieldRule& rule)
+EntryField::EntryField(QWidget* parent, std::size_t most)
     : QLineEdit(parent)
-    , rule_(rule) {
+    , most_(most) {
     connect(this, &QLineEdit::textEdited, this, [this] { FitLastChange(); });
     connect(this, &QLineEdit::textChanged, this, [this] { before_ = text(); });
 }
@@ -50,9 +52,9 @@ void EntryField::FitLastChange() {
         return;
     }
     const QString typed = text();
-    const TypedText fitted = Fitted(
-        before_.toStdU32String(),
-        {typed.toStdU32String(), typed.left(cursorPosition()).toStdU32String().size()}, rule_);
+    const TypedText fitted =
+        Fitted(ToCharacters(before_),
+               {ToCharacters(typed), ToCharacters(typed.left(cursorPosition())).size()}, most_);
     const QString allowed = QString::fromStdU32String(fitted.Text);
     if (allowed == typed) {
         return;

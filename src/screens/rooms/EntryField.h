@@ -6,12 +6,12 @@
 
 namespace tarn {
 
-/// A field of the room entry. What is typed, pasted or dropped into it is fitted to its rule (see
-/// Fitted); what the program shows in it is not, however long it is. Undo and redo go through the
-/// texts as they stood after the fitting.
+/// A field of the room entry, of so many characters. What is typed, pasted or dropped into it is
+/// fitted (see Fitted); what the program shows in it is not, however long it is. Undo and redo go
+/// through the texts as they stood after the fitting.
 class EntryField : public QLineEdit {
   public:
-    EntryField(QWidget* parent, const FieldRule& rule);
+    EntryField(QWidget* parent, std::size_t most);
 
     void Show(const QString& text);
     /// Put another text in place of the present one, as one step of undo.
@@ -23,7 +23,7 @@ class EntryField : public QLineEdit {
   private:
     void FitLastChange();
 
-    FieldRule rule_;
+    std::size_t most_;
     QString before_; ///< the text before a change that is being fitted
     bool replacing_ = false;
 };

@@ -3,6 +3,7 @@
 #include "base/Text.h"
 #include "files/QtText.h"
 #include "project/Coverings.h"
+#include "project/SizeNotes.h"
 #include "project/WallBase.h"
 #include "screens/Arrangement.h"
 #include "screens/ControlNames.h"
@@ -11,6 +12,7 @@
 #include "screens/Guard.h"
 #include "screens/Theme.h"
 
+#include <QApplication>
 #include <QComboBox>
 #include <QEvent>
 #include <QGridLayout>
@@ -45,18 +47,17 @@ void SetGroupCaption(QGroupBox& group, const char* name, const QString& caption)
     SetPlainTitle(group, caption);
 }
 
-/// What each text takes.
-FieldRule RuleOf(int index) {
-    using Breaks = FieldRule::Breaks;
+/// How many characters each text takes.
+std::size_t MostCharactersOf(int index) {
     switch (index) {
     case RoomEntryFrame::Base:
-        return {MaxBaseTextLength, Breaks::EndOnly};
+        return MaxBaseTextLength;
     case RoomEntryFrame::Number:
-        return {MaxRoomNumberLength, Breaks::Blanks};
+        return MaxRoomNumberLength;
     case RoomEntryFrame::Remark:
-        return {MaxRemarkLength, Breaks::Blanks};
+        return MaxRemarkLength;
     default:
-        return {std::numeric_limits<std::size_t>::max(), Breaks::EndOnly};
+        return std::numeric_limits<std::size_t>::max();
     }
 }
 
@@ -108,7 +109,8 @@ void AddSizeRow(QWidget* parent, QGridLayout& grid, int at, const SizeRow& row, 
 } // namespace
 
 RoomEntryFrame::RoomEntryFrame(const std::string& project, Units shown, Dialogs& boxes)
-    : boxes_(boxes) {
+    : boxes_(boxes)
+    , units_(shown) {
     SetGroupCaption(*this, Controls::roomPanel, ToQt("PROJECT: " + project).toUpper());
     SetPanel(*this);
     MakeFields();
@@ -124,7 +126,7 @@ void RoomEntryFrame::MakeFields() {
         Controls::roomLengthMinor, Controls::wallBase,       Controls::roomNumber,
         Controls::remark};
     for (int i = 0; i < Texts; ++i) {
-        auto* text = new EntryField(this, RuleOf(i));
+        auto* text = new EntryField(this, MostCharactersOf(i));
         text->setObjectName(Names.at(static_cast<std::size_t>(i)));
         texts_.at(static_cast<std::size_t>(i)) = text;
         if (i < SizeTexts) {
@@ -307,7 +309,10 @@ void RoomEntryFrame::Show(const RoomDraft& draft) {
     Text(Number).Show(ToQt(draft.Number));
     Text(Remark).Show(ToQt(draft.Remark));
     covering_->setCurrentIndex(draft.Covering ? *draft.Covering : -1);
-    SetHint({});
+    dropped_ = {};
+    const auto [width, length] = emptySizes_ = EmptySizes();
+    const bool isNew = draft.Width == SizeParts() && draft.Length == SizeParts();
+    SetHint(isNew ? QString() : ToQt(EmptySizeNote(width, length)));
 }
 
 void RoomEntryFrame::ShowNewRoom() {
@@ -345,8 +350,8 @@ void RoomEntryFrame::ConnectFields() {
     }
     covering_->installEventFilter(this);
     for (int i = 0; i < SizeTexts; ++i) {
-        QLineEdit& field = Text(i);
-        connect(&field, &QLineEdit::textChanged, this, [this, &field] { TestSize(field); });
+        connect(&Text(i), &QLineEdit::textChanged, this,
+                [this, i] { Guarded(boxes_, NotTested, [this, i] { TestTypedSize(i); }); });
     }
     connect(&Text(Base), &QLineEdit::textChanged, this,
             [this] { Guarded(boxes_, NotTested, [this] { TestTypedBase(); }); });
@@ -368,7 +373,7 @@ bool RoomEntryFrame::eventFilter(QObject* watched, QEvent* event) {
         return true;
     }
     if (event->type() == QEvent::FocusOut && text && *text < SizeTexts) {
-        TestSize(Text(*text));
+        Guarded(boxes_, NotTested, [&] { TestLeftSize(*text); });
     }
     if (event->type() == QEvent::Wheel && watched == covering_ && !covering_->hasFocus()) {
         event->ignore(); // a turn of the wheel in passing must not change the covering
@@ -393,12 +398,62 @@ void RoomEntryFrame::EnterFrom(const QObject& field) {
     }
 }
 
-void RoomEntryFrame::TestSize(QLineEdit& field) {
-    Guarded(boxes_, NotTested, [&field] {
-        if (IsEmptiedSizeText(FromQt(field.text()), field.hasFocus())) {
-            field.clear();
+bool RoomEntryFrame::EmptyWithoutSize(int index) {
+    EntryField& field = Text(index);
+    const std::string text = FromQt(field.text());
+    if (!IsEmptiedSizeText(text, field.hasFocus())) {
+        return false;
+    }
+    dropped_.at(static_cast<std::size_t>(index)) += text;
+    emptying_ = true;
+    field.clear();
+    emptying_ = false;
+    return true;
+}
+
+void RoomEntryFrame::TestTypedSize(int index) {
+    if (emptying_) {
+        return;
+    }
+    const auto typedIn = static_cast<std::size_t>(index);
+    const bool emptied = EmptyWithoutSize(index);
+    for (std::size_t i = 0; i < dropped_.size(); ++i) {
+        if (i != typedIn || (!emptied && Text(index).text().isEmpty())) {
+            dropped_.at(i).clear();
         }
-    });
+    }
+    const auto before = emptySizes_;
+    emptySizes_ = EmptySizes();
+    const std::size_t side = index < LengthMajor ? 0 : 1;
+    SetHint(ToQt(SizeNote(index, emptySizes_.at(side) && !before.at(side))));
+}
+
+std::string RoomEntryFrame::SizeNote(int index, bool erased) const {
+    const auto at = static_cast<std::size_t>(index);
+    std::string note = DroppedNote(dropped_.at(at), FromQt(texts_.at(at)->text()));
+    if (note.empty()) {
+        const RoomDraft draft = Draft();
+        note = KeptNote(index < LengthMajor ? draft.Width : draft.Length, units_);
+    }
+    if (note.empty() && erased) {
+        note = EmptySizeNote(emptySizes_[0], emptySizes_[1]);
+    }
+    return note;
+}
+
+void RoomEntryFrame::TestLeftSize(int index) {
+    EmptyWithoutSize(index);
+    const auto to = IndexOf(QApplication::focusWidget());
+    const bool leaves = QApplication::focusWidget() != nullptr && (!to || *to >= SizeTexts);
+    const auto [width, length] = EmptySizes();
+    if (leaves && width != length && hint_.isEmpty()) {
+        SetHint(ToQt(EmptySizeNote(width, length)));
+    }
+}
+
+std::array<bool, 2> RoomEntryFrame::EmptySizes() const {
+    const RoomDraft draft = Draft();
+    return {IsEmptySize(draft.Width, units_), IsEmptySize(draft.Length, units_)};
 }
 
 void RoomEntryFrame::TestTypedBase() {

@@ -85,7 +85,16 @@ class RoomEntryFrame : public QGroupBox {
     /// Which text this is; nothing for any other object.
     std::optional<int> IndexOf(const QObject* object) const;
     void EnterFrom(const QObject& field);
-    void TestSize(QLineEdit& field);
+    /// A size field changed: empty it when it holds no size, and say what became of the typing.
+    void TestTypedSize(int index);
+    /// The focus left a size field: nothing stays behind in it that is no size.
+    void TestLeftSize(int index);
+    /// Empty the field when it holds no size; answers whether it did.
+    bool EmptyWithoutSize(int index);
+    /// What there is to say of the typing in a size field, which made `erased` an empty size.
+    std::string SizeNote(int index, bool erased) const;
+    /// Which sizes are empty: width, length.
+    std::array<bool, 2> EmptySizes() const;
     void TestTypedBase();
     void TestEnteredBase();
 
@@ -101,7 +110,12 @@ class RoomEntryFrame : public QGroupBox {
     QLabel* note_ = nullptr; ///< the line below the sizes
     QString warning_;
     QString hint_;
+    Units units_;
     RoomDraft shown_; ///< as it was shown last
+    /// What was taken off each size field since another field was typed in.
+    std::array<std::string, SizeTexts> dropped_;
+    std::array<bool, 2> emptySizes_{true, true}; ///< EmptySizes before the change in hand
+    bool emptying_ = false;                      ///< a field is being emptied by the frame
 };
 
 } // namespace tarn

@@ -216,15 +216,16 @@ void RoomScreen::Save() {
 
 void RoomScreen::SaveAll() {
     std::string message(SavedMessage);
+    std::string emptyRooms;
     const StoreResult result = WithRoomStored([&] {
         try {
-            SaveOpenProject(Shared().Project, Shared().Store);
+            emptyRooms = SaveAndNameEmptyRooms(Shared().Project, Shared().Store);
         } catch (const DatabaseError& error) { // the room stays in memory
             message = std::string(NotSavedMessage) + " " + error.what();
         }
     });
     if (!result.Stops()) {
-        Shared().Boxes.Message(message);
+        Shared().Boxes.Message(message, emptyRooms);
     }
     FocusAfter(result);
 }

@@ -147,6 +147,41 @@ TEST_F(ProjectBoxes, AreLockedAgainByAProjectOnlyWhileEmpty) {
     EXPECT_EQ(screens.Calls, Lines{"menu existing"});
 }
 
+TEST_F(ProjectBoxes, TakeAnotherProjectWhileTheyHoldTheOneThatAClickPutThere) {
+    Open();
+    ClickEntry(Projects(), "BARN");
+    Focus(Box());
+    ASSERT_FALSE(Box().isReadOnly());
+    ClickEntry(Projects(), "ANNEX");
+    EXPECT_TRUE(Box().isReadOnly());
+    EXPECT_EQ(BoxText(), "ANNEX");
+    Click(Button(Controls::acceptProject));
+    EXPECT_TRUE(boxes.Messages.empty());
+    EXPECT_EQ(screens.Calls, Lines{"menu existing"});
+    EXPECT_EQ(open.Now.Name, "ANNEX");
+}
+
+TEST_F(ProjectBoxes, KeepWhatIsTypedBehindTheNameThatAClickPutThere) {
+    Open();
+    ClickEntry(Projects(), "BARN");
+    Focus(Box());
+    Press(*form, Qt::Key_End);
+    Type(Box(), "s");
+    ClickEntry(Projects(), "ANNEX");
+    EXPECT_EQ(BoxText(), "BARNS");
+    EXPECT_FALSE(Box().isReadOnly());
+}
+
+TEST_F(ProjectBoxes, TakeNothingOfAnEarlierChoiceWhenTheSelectionOpensAgain) {
+    Open();
+    ClickEntry(Projects(), "BARN");
+    Click(Button(Controls::closeSelection));
+    Click(Button(Controls::selectProject));
+    TypeNew("barn");
+    ClickEntry(Projects(), "ANNEX");
+    EXPECT_EQ(BoxText(), "BARN") << "this one was typed";
+}
+
 TEST_F(ProjectBoxes, TakeNothingWhileLocked) {
     Open();
     ClickEntry(Projects(), "BARN");
@@ -196,6 +231,39 @@ TEST_F(ProjectBoxes, CleanWhatIsPastedWithOneMessage) {
     Paste("::");
     EXPECT_EQ(BoxText(), "AMÜLLER X B");
     ExpectOneMessage();
+}
+
+TEST_F(ProjectBoxes, LoseTheLineBreaksAtTheEndOfAPasteSilently) {
+    Open();
+    TypeNew("ab");
+    for (const char* end : {"\n", "\r\n", "\r\n\r\n", "\u2028", "\u2029"}) {
+        Box().clear();
+        Paste(std::string("mill") + end);
+        EXPECT_EQ(BoxText(), "MILL");
+        EXPECT_TRUE(boxes.Messages.empty());
+    }
+    Box().clear();
+    Drop("barn\n");
+    EXPECT_EQ(BoxText(), "BARN");
+    EXPECT_TRUE(boxes.Messages.empty());
+}
+
+TEST_F(ProjectBoxes, TakeNoCharacterThatNoTextKeeps) {
+    Open();
+    TypeNew("");
+    for (const char16_t bad : {u'\xFFFE', u'\xFFFF', u'\xD83D', u'\xDEC1', u'\x9F'}) {
+        Box().clear();
+        QGuiApplication::clipboard()->setText(QStringLiteral("a") + QChar(bad) +
+                                              QStringLiteral("b"));
+        QTest::keyClick(&Box(), Qt::Key_V, Qt::ControlModifier);
+        EXPECT_EQ(BoxText(), "AB") << int{bad};
+        ExpectOneMessage();
+        QInputMethodEvent commit;
+        commit.setCommitString(QStringLiteral("c") + QChar(bad));
+        QApplication::sendEvent(&Box(), &commit);
+        EXPECT_EQ(BoxText(), "ABC") << int{bad};
+        ExpectOneMessage();
+    }
 }
 
 TEST_F(ProjectBoxes, KeepTheirTextWhenNothingOfAPasteIsLeft) {

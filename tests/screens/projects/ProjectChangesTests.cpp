@@ -75,6 +75,34 @@ TEST_F(NewDirectories, AreAskedForAgainUntilTheyCanBeMade) {
     EXPECT_EQ(Entries(Directories()), (Lines{"HOUSES", "SHOPS", "BARNS"}));
 }
 
+TEST_F(NewDirectories, AreScrolledToHoweverManyThereAre) {
+    for (int count = 3; count < 25; ++count) {
+        file.AddDirectory("D" + std::to_string(count));
+        Open();
+        ClickEntry(Directories(), "HOUSES");
+        Directories().setFocus();
+        Answer({"zoo" + std::to_string(count)});
+        QCoreApplication::processEvents();
+        QListWidget& list = Directories();
+        const QListWidgetItem* last = list.item(list.count() - 1);
+        EXPECT_EQ(FromQt(last->text()), "ZOO" + std::to_string(count));
+        EXPECT_TRUE(list.viewport()->rect().contains(list.visualItemRect(last))) << count;
+        EXPECT_EQ(Selected(list), "HOUSES") << "the selection stays";
+    }
+}
+
+TEST_F(NewDirectories, AreScrolledToWhereTheyAreThereAlready) {
+    for (int i = 0; i < 40; ++i) {
+        file.AddDirectory("D" + std::to_string(i));
+    }
+    Open();
+    Answer({"d39"});
+    QListWidget& list = Directories();
+    EXPECT_TRUE(list.viewport()->rect().contains(list.visualItemRect(list.item(41))));
+    EXPECT_EQ(Selected(list), "(none)");
+    EXPECT_EQ(Selected(Months()), "MARCH");
+}
+
 TEST_F(NewDirectories, AreScrolledTo) {
     for (int i = 0; i < 40; ++i) {
         file.AddDirectory("D" + std::to_string(i));

@@ -68,6 +68,96 @@ TEST_F(RoomNote, HoldsAWarningBeforeTheHintUntilItIsTakenBack) {
     EXPECT_EQ(Note(), "");
 }
 
+TEST_F(RoomNote, TellsWhatASizeFieldDroppedWhileTheRestIsTyped) {
+    Open();
+    const std::pair<const char*, const char*> typed[] = {
+        {"-5", "A sign is not taken: type the number alone, such as 5"},
+        {"0,5", "A comma is not taken: type 0.5"},
+        {"3,45", "A comma is not taken: type 3.45"},
+        {"abc", "Letters are not taken: type the number alone, such as 12"}};
+    for (int field = 0; field < 4; ++field) {
+        for (const auto& [text, note] : typed) {
+            Text(field).clear();
+            TypeInto(field, text);
+            EXPECT_EQ(Note(), note) << text;
+            Press(*form, Qt::Key_Tab);
+            EXPECT_EQ(Note(), note) << "it stays when the field is left";
+            TypeInto(6, "x");
+            EXPECT_EQ(Note(), "") << "and goes with the next change";
+        }
+        Text(field).clear();
+        TypeInto(field, "-");
+        TypeInto((field + 1) % 4, "7");
+        TypeInto(field, "5");
+        EXPECT_EQ(Note(), "") << "another typing";
+        Text((field + 1) % 4).clear();
+        Text(field).clear();
+    }
+}
+
+TEST_F(RoomNote, ForgetsWhatWasDroppedWhenTheFieldIsEmptied) {
+    Open();
+    TypeInto(0, "-5");
+    Press(*form, Qt::Key_Backspace);
+    Type(Text(0), "6");
+    EXPECT_EQ(Note(), "");
+}
+
+TEST_F(RoomNote, TellsOfAWholeNumberThatIsKept) {
+    Open();
+    TypeInto(0, "12");
+    TypeInto(1, "6.5");
+    EXPECT_EQ(Note(), "Kept as 12'6\" (typed 12'6.5\")");
+    Press(*form, Qt::Key_Backspace);
+    EXPECT_EQ(Note(), "");
+    open.Shown = Units::Metric;
+    Open();
+    TypeInto(2, "3.455");
+    EXPECT_EQ(Note(), "Kept as 3 m 46 cm (typed 3.455 m)");
+}
+
+TEST_F(RoomNote, TellsOfASizeThatIsErased) {
+    AddRooms(2);
+    Open();
+    ClickOn(Controls::previousRoom);
+    Focus(Text(2));
+    Press(*form, Qt::Key_A, Qt::ControlModifier);
+    Press(*form, Qt::Key_Delete);
+    EXPECT_EQ(Note(), "") << "an inch is left";
+    Focus(Text(3));
+    Press(*form, Qt::Key_A, Qt::ControlModifier);
+    Press(*form, Qt::Key_Delete);
+    EXPECT_EQ(Note(), "The length is empty and counts as 0.");
+    Press(*form, Qt::Key_Tab);
+    EXPECT_EQ(Note(), "The length is empty and counts as 0.");
+    ClickOn(Controls::nextRoom);
+    EXPECT_EQ(Note(), "");
+    ClickOn(Controls::previousRoom);
+    EXPECT_EQ(Note(), "The length is empty and counts as 0.") << "as it is stored";
+}
+
+TEST_F(RoomNote, TellsOfOneSizeMissingOnceTheSizesAreLeft) {
+    Open();
+    TypeInto(0, "12");
+    Press(*form, Qt::Key_Tab);
+    Press(*form, Qt::Key_Tab);
+    EXPECT_EQ(Note(), "") << "it may still come";
+    Focus(Text(6));
+    EXPECT_EQ(Note(), "The length is empty and counts as 0.");
+    TypeInto(2, "9");
+    EXPECT_EQ(Note(), "");
+    Focus(Text(6));
+    EXPECT_EQ(Note(), "");
+}
+
+TEST_F(RoomNote, SaysNothingOfANewRoomThatIsPassed) {
+    Open();
+    for (int i = 0; i < 12; ++i) {
+        Press(*form, Qt::Key_Tab);
+        EXPECT_EQ(Note(), "");
+    }
+}
+
 TEST_F(RoomNote, MovesNothingWhenItComes) {
     for (const auto& [width, height] : {std::pair{800, 600}, {1920, 1080}}) {
         Open(width, height);

@@ -219,6 +219,38 @@ TEST_P(SavingEitherWay, KeepsASavedRoomWhenTheMessageFails) {
     EXPECT_FALSE(open.HasUnsavedRooms());
 }
 
+TEST_F(SavingRooms, NamesRoomsThatAreStoredWithoutASizeOnce) {
+    const std::string named =
+        "Room 2 has no width or no length: it is stored with 0, and nothing is cut for it.";
+    Open();
+    ClickOn(Controls::previousRoom);
+    for (const int field : {2, 3}) {
+        Text(field).selectAll();
+        Focus(Text(field));
+        Press(*form, Qt::Key_Delete);
+    }
+    ClickOn(Controls::saveRooms);
+    EXPECT_EQ(boxes.Messages, Lines{"Data is saved"});
+    EXPECT_EQ(boxes.Informative, Lines{named});
+    EXPECT_EQ(Stored(), (Lines{"0|100|200|", "1|101|0|", "2"}));
+    ClickOn(Controls::saveRooms);
+    EXPECT_EQ(boxes.Informative, (Lines{named, ""}));
+    TypeInto(6, "hall");
+    ClickOn(Controls::saveRooms);
+    EXPECT_EQ(boxes.Informative, (Lines{named, "", named})) << "it was changed";
+}
+
+TEST_F(SavingRooms, NamesNoRoomWhenItFails) {
+    Open();
+    ClickOn(Controls::previousRoom);
+    for (const int field : {2, 3}) {
+        Text(field).clear();
+    }
+    store = ProjectStore("It is gone.");
+    ClickOn(Controls::saveRooms);
+    EXPECT_EQ(boxes.Informative, Lines{""});
+}
+
 TEST_F(SavingRooms, StoresThatARoomWasDeleted) {
     Open();
     ClickOn(Controls::previousRoom);

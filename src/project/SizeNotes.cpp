@@ -1,0 +1,169 @@
+#include "project/SizeNotes.h"
+
+#include "base/Lengths.h"
+#include "base/Numbers.h"
+#include "base/RunTimeError.h"
+#include "base/Text.h"
+
+#include <algorithm>
+#include <cmath>
+#include <optional>
+
+namespace tarn {
+
+namespace {
+
+constexpr std::string_view Digits = "0123456789";
+
+bool IsSign(char c) {
+    return c == '-' || c == '+';
+}
+
+/// A letter of any language, seen byte by byte.
+bool IsLetter(char c) {
+    const auto byte = static_cast<unsigned char>(c);
+    return (byte >= 'A' && byte <= 'Z') || (byte >= 'a' && byte <= 'z') || byte >= 0x80U;
+}
+
+bool HasSize(std::string_view text) {
+    return text.find_first_of("123456789") != std::string_view::npos;
+}
+
+/// The size that the user may have meant: its digits with the last comma or point as the point.
+std::string Meant(std::string_view typed) {
+    const std::size_t point = typed.find_last_of(",.");
+    std::string number;
+    for (std::size_t i = 0; i < typed.size(); ++i) {
+        if (Digits.find(typed[i]) != std::string_view::npos) {
+            number += typed[i];
+        } else if (i == point && i + 1 < typed.size()) {
+            number += number.empty() ? "0." : ".";
+        }
+    }
+    return number;
+}
+
+std::string NumberAlone(const std::string& what, std::string_view standing) {
+    return what + ": type the number alone, such as " +
+           (HasSize(standing) ? Meant(standing) : std::string("12"));
+}
+
+/// What is stored of a size; nothing when it cannot be stored.
+std::optional<Integer> StoredSize(const SizeParts& typed, Units units) {
+    try {
+        return ReadSize(typed.Major, typed.Minor, units);
+    } catch (const RunTimeError&) {
+        return std::nullopt;
+    }
+}
+
+/// The part of a text that Val reads, without the blanks around it.
+std::string NumberIn(const std::string& text) {
+    return TrimStr(std::string_view(text).substr(0, ReadVal(text).Length));
+}
+
+/// A size in its two units, without a part that is empty.
+std::string SizeTextOf(const SizeParts& parts, Units units) {
+    const bool isMetric = units == Units::Metric;
+    std::string text;
+    if (!parts.Major.empty()) {
+        text = parts.Major + (isMetric ? " m" : "'");
+    }
+    if (!parts.Minor.empty()) {
+        text += (isMetric && !text.empty() ? " " : "") + parts.Minor + (isMetric ? " cm" : "\"");
+    }
+    return text;
+}
+
+bool HasEmptySize(const Room& room) {
+    return room.Width == 0 || room.Length == 0;
+}
+
+/// "3", "3 and 5", "3, 5 and 7": at most ten of them, and how many more there are.
+std::string Listed(const std::vector<std::size_t>& numbers) {
+    constexpr std::size_t Most = 10;
+    const std::size_t shown = std::min(numbers.size(), Most);
+    const std::size_t more = numbers.size() - shown;
+    std::string list;
+    for (std::size_t i = 0; i < shown; ++i) {
+        const bool isLast = i + 1 == shown && more == 0;
+        list += i == 0 ? "" : isLast ? " and " : ", ";
+        list += TrimStr(static_cast<long long>(numbers[i]));
+    }
+    return more == 0 ? list : list + " and " + TrimStr(static_cast<long long>(more)) + " more";
+}
+
+} // namespace
+
+std::string DroppedNote(std::string_view dropped, std::string_view standing) {
+    const std::string typed = std::string(dropped).append(standing);
+    const std::size_t comma = typed.find_last_of(',');
+    if (comma != std::string::npos &&
+        (comma < dropped.size() || HasSize(std::string_view(typed).substr(comma)))) {
+        return "A comma is not taken: type " +
+               (HasSize(standing) ? Meant(typed) : std::string("3.45"));
+    }
+    const bool isNegative = !standing.empty() && standing.front() == '-';
+    if (isNegative || std::any_of(dropped.begin(), dropped.end(), IsSign)) {
+        return NumberAlone("A sign is not taken", standing);
+    }
+    if (std::any_of(dropped.begin(), dropped.end(), IsLetter)) {
+        return NumberAlone("Letters are not taken", standing);
+    }
+    const bool hasMark = dropped.find_first_not_of("0. \t") != std::string_view::npos;
+    return hasMark ? NumberAlone("Only a number is taken", standing) : std::string();
+}
+
+std::string KeptNote(const SizeParts& typed, Units units) {
+    constexpr Double RoundingError = 1e-6;
+    const auto kept = StoredSize(typed, units);
+    if (!kept) {
+        return {};
+    }
+    const Double exact = JoinedSize(typed.Major, typed.Minor, units);
+    if (std::abs(exact - *kept) < RoundingError) {
+        return {};
+    }
+    SizeParts keptParts = SplitSize(*kept, units);
+    if (units == Units::Metric && keptParts.Major == "0") {
+        keptParts.Major.clear();
+    }
+    const SizeParts typedParts{NumberIn(typed.Major), NumberIn(typed.Minor)};
+    return "Kept as " + SizeTextOf(keptParts, units) + " (typed " + SizeTextOf(typedParts, units) +
+           ")";
+}
+
+bool IsEmptySize(const SizeParts& typed, Units units) {
+    return StoredSize(typed, units) == Integer{0};
+}
+
+std::string EmptySizeNote(bool isWidthEmpty, bool isLengthEmpty) {
+    if (isWidthEmpty && isLengthEmpty) {
+        return "Width and length are empty and count as 0.";
+    }
+    if (isWidthEmpty || isLengthEmpty) {
+        return std::string("The ") + (isWidthEmpty ? "width" : "length") +
+               " is empty and counts as 0.";
+    }
+    return {};
+}
+
+std::string EmptyRoomsText(const std::vector<Room>& before, const std::vector<Room>& now) {
+    std::vector<std::size_t> numbers;
+    for (std::size_t i = 0; i < now.size(); ++i) {
+        if (HasEmptySize(now[i]) &&
+            std::find(before.begin(), before.end(), now[i]) == before.end()) {
+            numbers.push_back(i + 1);
+        }
+    }
+    if (numbers.empty()) {
+        return {};
+    }
+    const bool isOne = numbers.size() == 1;
+    return (isOne ? "Room " : "Rooms ") + Listed(numbers) +
+           (isOne ? " has no width or no length: it is stored with 0, and nothing is cut for it."
+                  : " have no width or no length: they are stored with 0, and nothing is cut for "
+                    "them.");
+}
+
+} // namespace tarn
