@@ -1,10 +1,13 @@
 #include "store/Configuration.h"
 
 #include "base/Text.h"
+#include "files/Descriptor.h"
 #include "files/FileModes.h"
+#include "files/TemporaryFile.h"
 
 #include <algorithm>
 #include <cstdlib>
+#include <fcntl.h>
 #include <fstream>
 #include <iterator>
 #include <sstream>
@@ -86,6 +89,17 @@ std::string TextFor(const std::string& dataFolder) {
     throw std::runtime_error("Cannot write " + file.string() + ": " + cause + ".");
 }
 
+/// Fill an empty file, and have it stored on the disk. Raises std::system_error.
+void FillFile(const fs::path& file, const std::string& text) {
+    Descriptor stream(::open(file.c_str(), O_WRONLY | O_CLOEXEC));
+    if (!stream.IsOpen()) {
+        throw LastError();
+    }
+    WriteAll(stream, text);
+    Synchronise(stream);
+    stream.Close();
+}
+
 void RequireReadableBack(const fs::path& file, const std::string& dataFolder) {
     if (dataFolder.empty() || FolderOfText(TextFor(dataFolder)) != dataFolder ||
         WithNativeSeparators(dataFolder) != dataFolder) {
@@ -143,8 +157,9 @@ void WriteConfiguration(const fs::path& directory, const std::string& dataFolder
     // Written beside and moved into place, so that no half-written file is ever in force.
     fs::path draft = file;
     draft += ".new";
+    std::error_code ignored;
     try {
-        MakePrivateFolder(directory);
+        const auto made = MakePrivateFolder(directory);
         if (fs::exists(file) && !(fs::is_regular_file(file) && fs::is_empty(file))) {
             RefuseToWrite(file, "it is there already");
         }
@@ -152,20 +167,15 @@ void WriteConfiguration(const fs::path& directory, const std::string& dataFolder
             fs::remove(draft); // of a run that was ended in the middle
         }
         MakePrivateFile(draft);
-    } catch (const fs::filesystem_error& failure) {
-        RefuseToWrite(file, failure.code().message());
-    }
-    std::error_code error;
-    std::ofstream stream(draft, std::ios::binary);
-    stream << TextFor(dataFolder);
-    stream.close();
-    if (stream.good()) {
-        fs::rename(draft, file, error);
-    }
-    if (!stream.good() || error) {
-        std::error_code ignored;
+        FillFile(draft, TextFor(dataFolder));
+        fs::rename(draft, file);
+        SynchroniseEntries(directory.native());
+        for (const fs::path& folder : made) {
+            SynchroniseEntries(folder.parent_path().native());
+        }
+    } catch (const std::system_error& failure) {
         fs::remove(draft, ignored);
-        RefuseToWrite(file, error ? error.message() : "its directory takes no file");
+        RefuseToWrite(file, CauseOf(failure.code()));
     }
 }
 
