@@ -26,7 +26,8 @@ enum ResultCode {
     Corrupt = 11,
     DiskFull = 13,
     NotADatabase = 26,
-    FileMoved = 1032, // an extended code of ReadOnlyFile
+    FileMoved = 1032,       // an extended code of ReadOnlyFile
+    FolderNotOnDisk = 1290, // an extended code of DiskError
 };
 
 QString UniqueName() {
@@ -55,6 +56,10 @@ std::string Cause(const QSqlError& error) {
     if (error.nativeErrorCode().toInt() == FileMoved) {
         return "the database file was moved, deleted or replaced while it was open. Put it back, "
                "or start the program again.";
+    }
+    if (error.nativeErrorCode().toInt() == FolderNotOnDisk) {
+        return "the disk does not confirm that it keeps the change, which may be there all the "
+               "same. Look whether it is.";
     }
     switch (error.nativeErrorCode().toInt() & PrimaryCode) {
     case Busy:

@@ -129,7 +129,7 @@ std::unique_ptr<Connection> OpenDatabaseFile(const std::string& path, DatabaseAc
     auto connection = ConnectToFile(path, access, busyWait);
     RequireSound(*connection, path);
     const std::string failing = "The database file " + path + " cannot be opened";
-    connection->Run("PRAGMA synchronous = FULL", failing);
+    connection->Run("PRAGMA synchronous = EXTRA", failing);
     // Nothing of a change reaches the file before the journal is whole, the first page in it: by
     // that page a journal is told to be the file's own.
     connection->Run("PRAGMA cache_spill = OFF", failing);

@@ -68,10 +68,10 @@ TEST(OpeningADatabase, LeavesNoFileBesideTheDatabase) {
 
 // The next two settings belong to the connection: a query on it is the one way to see them.
 
-TEST(OpeningADatabase, SynchronisesFully) {
+TEST(OpeningADatabase, SynchronisesTheFolderOfTheJournalToo) {
     const TestDatabase file;
     const auto connection = OpenDatabaseFile(file.Path(), DatabaseAccess::ReadWrite, ShortWait);
-    EXPECT_EQ(connection->Run("PRAGMA synchronous", "").Rows.at(0).at(0).toInt(), 2);
+    EXPECT_EQ(connection->Run("PRAGMA synchronous", "").Rows.at(0).at(0).toInt(), 3);
 }
 
 TEST(OpeningADatabase, WaitsForALockAsLongAsItIsTold) {
