@@ -1,5 +1,7 @@
 #include "files/FileModes.h"
 
+#include "files/TemporaryFile.h"
+
 #include <cerrno>
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -88,6 +90,12 @@ std::vector<fs::path> MakePrivateFolder(const fs::path& folder) {
         }
         SetMode(path, mode);
         made.push_back(path);
+        try {
+            SynchroniseEntries(OrHere(path.parent_path()).native());
+        } catch (const std::system_error& error) {
+            RemoveAll(made);
+            throw fs::filesystem_error("The folder cannot be made", path, error.code());
+        }
     }
     return made;
 }

@@ -17,9 +17,9 @@ std::filesystem::perms PrivateFileMode(const std::filesystem::path& folder);
 /// folder as they are, with its bit that hands the group on.
 std::filesystem::perms PrivateFolderMode(const std::filesystem::path& folder);
 
-/// Make `folder`, and those missing on the way to it, each with PrivateFolderMode of the one above.
-/// Gives those made, outermost first; none when it is there. Raises filesystem_error, with nothing
-/// left behind, when one cannot be made.
+/// Make `folder`, and those missing on the way to it, each with PrivateFolderMode of the one above
+/// and stored on the disk. Gives those made, outermost first; none when it is there. Raises
+/// filesystem_error, with nothing left behind, when one cannot be made.
 std::vector<std::filesystem::path> MakePrivateFolder(const std::filesystem::path& folder);
 
 /// Make an empty file with PrivateFileMode of its folder, to be filled by whoever opens it next.

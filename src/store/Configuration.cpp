@@ -159,7 +159,7 @@ void WriteConfiguration(const fs::path& directory, const std::string& dataFolder
     draft += ".new";
     std::error_code ignored;
     try {
-        const auto made = MakePrivateFolder(directory);
+        MakePrivateFolder(directory);
         if (fs::exists(file) && !(fs::is_regular_file(file) && fs::is_empty(file))) {
             RefuseToWrite(file, "it is there already");
         }
@@ -170,9 +170,6 @@ void WriteConfiguration(const fs::path& directory, const std::string& dataFolder
         FillFile(draft, TextFor(dataFolder));
         fs::rename(draft, file);
         SynchroniseEntries(directory.native());
-        for (const fs::path& folder : made) {
-            SynchroniseEntries(folder.parent_path().native());
-        }
     } catch (const std::system_error& failure) {
         fs::remove(draft, ignored);
         RefuseToWrite(file, CauseOf(failure.code()));
