@@ -21,6 +21,10 @@ RunTimeError RunTimeError::WithAdvice(std::string advice) const {
     return RunTimeError(number_, text_, std::move(advice));
 }
 
+void RaiseInvalidCall(std::string advice) {
+    throw RunTimeError(InvalidCallNumber, "Invalid procedure call", std::move(advice));
+}
+
 void RaiseOverflow(std::string advice) {
     throw RunTimeError(OverflowNumber, "Overflow", std::move(advice));
 }

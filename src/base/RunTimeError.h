@@ -34,12 +34,14 @@ class RunTimeError : public std::exception {
     std::string advice_;
 };
 
+constexpr int InvalidCallNumber = 5;
 constexpr int OverflowNumber = 6;
 constexpr int SubscriptNumber = 9;
 constexpr int DivisionByZeroNumber = 11;
 constexpr int InternalNumber = 51;
 
 /// Raise the error of that number with its fixed text.
+[[noreturn]] void RaiseInvalidCall(std::string advice = {});
 [[noreturn]] void RaiseOverflow(std::string advice = {});
 [[noreturn]] void RaiseSubscript(std::string advice = {});
 [[noreturn]] void RaiseDivisionByZero(std::string advice = {});

@@ -13,6 +13,12 @@ bool AnyDivisible(const ImproveJob& job) {
                        [&](const ImproveFill& fill) { return PartsAllowed(job, fill) > 1; });
 }
 
+bool HasPattern(const ImproveJob& job) {
+    const bool repeats = job.Repeat.Across > 0 || job.Repeat.Along > 0;
+    return repeats && std::any_of(job.Fills.begin(), job.Fills.end(),
+                                  [](const ImproveFill& fill) { return fill.Room != NoRoom; });
+}
+
 Area64 TotalArea(const ImproveJob& job) {
     Area64 area = 0;
     for (const ImproveFill& fill : job.Fills) {

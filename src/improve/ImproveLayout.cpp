@@ -7,8 +7,9 @@ namespace tarn {
 
 namespace {
 
-bool Continues(const ImprovePart& a, const ImprovePart& b) {
-    return a.Fill == b.Fill && a.X == b.X && a.Y + a.Length == b.Y;
+bool Continues(const ImprovePart& a, const ImprovePart& b, bool pattern) {
+    return a.Fill == b.Fill && a.X == b.X && a.Y + a.Length == b.Y &&
+           (!pattern || a.From + a.Length == b.From);
 }
 
 /// How far the parts reach between two edges across the roll.
@@ -28,13 +29,13 @@ bool LayoutMerit::BetterThan(const LayoutMerit& other) const {
     return std::tie(Length, Parts, other.FreeEnd) < std::tie(other.Length, other.Parts, FreeEnd);
 }
 
-void JoinAndOrder(std::vector<ImprovePart>& parts) {
+void JoinAndOrder(std::vector<ImprovePart>& parts, bool pattern) {
     std::sort(parts.begin(), parts.end(), [](const ImprovePart& a, const ImprovePart& b) {
         return std::tie(a.Fill, a.X, a.Y) < std::tie(b.Fill, b.X, b.Y);
     });
     std::vector<ImprovePart> joined;
     for (const ImprovePart& part : parts) {
-        if (!joined.empty() && Continues(joined.back(), part)) {
+        if (!joined.empty() && Continues(joined.back(), part, pattern)) {
             joined.back().Length += part.Length;
         } else {
             joined.push_back(part);

@@ -14,6 +14,7 @@ struct ImprovePart {
     Long X;           ///< left edge; 0 = the roll's left edge
     Long Y;           ///< begin along the roll; 0 = the roll's start
     Long Length;
+    Long From = 0; ///< with a pattern: where the part begins in its fill
 };
 
 /// What decides between layouts: the shorter one, then fewer parts (each part more is a join more),
@@ -27,8 +28,9 @@ struct LayoutMerit {
 };
 
 /// Join parts of one fill that lie end to end, and bring the parts into the order along the roll,
-/// from left to right where they begin together.
-void JoinAndOrder(std::vector<ImprovePart>& parts);
+/// from left to right where they begin together. With a pattern parts are joined that follow each
+/// other in their fill too.
+void JoinAndOrder(std::vector<ImprovePart>& parts, bool pattern = false);
 
 /// The merit of a whole layout.
 LayoutMerit MeritOf(const ImproveJob& job, const std::vector<ImprovePart>& parts);

@@ -52,7 +52,7 @@ void ImproveRun::Tell() {
 }
 
 LayoutMerit ImproveRun::Offer(std::vector<ImprovePart> parts) {
-    JoinAndOrder(parts);
+    JoinAndOrder(parts, HasPattern(job_));
     const LayoutMerit merit = MeritOf(job_, parts);
     if (merit.Parts <= job_.MostPieces && merit.BetterThan(best_)) {
         best_ = merit;

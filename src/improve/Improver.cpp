@@ -2,9 +2,8 @@
 
 #include "improve/Bounds.h"
 #include "improve/ColumnGeneration.h"
-#include "improve/PartPlan.h"
+#include "improve/MakePlan.h"
 #include "improve/Searches.h"
-#include "improve/WholePlan.h"
 
 #include <algorithm>
 #include <memory>
@@ -22,19 +21,12 @@ constexpr std::size_t StartsPerRoof = 4;
 constexpr std::size_t BestStarts = 12;     ///< that take turns
 constexpr std::int64_t LastPolish = 20000; ///< steps without a gain, when no layout is shorter
 
-std::unique_ptr<Plan> PlanOf(const ImproveJob& job) {
-    if (AnyDivisible(job)) {
-        return std::make_unique<PartPlan>(job);
-    }
-    return std::make_unique<WholePlan>(job);
-}
-
 class Improver {
   public:
     Improver(ImproveRun& run, std::uint64_t seed)
         : run_(run)
         , random_(seed)
-        , plan_(PlanOf(run.Job())) {}
+        , plan_(MakePlan(run.Job())) {}
 
     void Search() {
         run_.RaiseBound(QuickBound(run_.Job()));

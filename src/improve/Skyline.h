@@ -71,6 +71,22 @@ class Skyline {
         return x;
     }
 
+    /// Put a piece anywhere into the gap, up to a top above the gap's y. What is below it is closed.
+    void Cover(const Gap& gap, Long x, Long width, Long top) {
+        std::size_t i = gap.Segment;
+        const Long right = gap.X + gap.Width - (x + width);
+        segments_[i].Width = x - gap.X;
+        if (x > gap.X) {
+            segments_.insert(At(++i), {x, top, width});
+        } else {
+            segments_[i] = {x, top, width};
+        }
+        if (right > 0) {
+            segments_.insert(At(i + 1), {x + width, gap.Y, right});
+        }
+        JoinWithNeighbours(i);
+    }
+
     /// Fill the gap up by `height`, at most to its lower neighbour.
     void Raise(const Gap& gap, Long height) {
         segments_[gap.Segment].Y += height;

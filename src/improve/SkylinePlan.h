@@ -43,6 +43,8 @@ class SkylinePlan : public Plan {
     bool LeavesNextFree() { return skips_.Holds(step_++); }
     /// Lay a part of a fill.
     void Lay(std::size_t fill, Long length, const Gap& gap, const Walls& walls, FitClass fit);
+    /// Lay a part anywhere in a gap, at or above the gap's y. What is below it is lost.
+    void LayAt(const ImprovePart& part, const Gap& gap);
 
     void BeginWith(PlacingRule rule) {
         rule_ = rule;
@@ -75,6 +77,7 @@ class SkylinePlan : public Plan {
     std::size_t step_ = 0;
     std::vector<ImprovePart> placed_;
     Area64 placedArea_ = 0;
+    Area64 waste_ = 0; ///< left free below what is laid
     Area64 end_ = 0;
 };
 
@@ -85,7 +88,7 @@ bool SkylinePlan::FillGaps(const Limits& limits, HasMore hasMore, Choose choose,
     placedArea_ = 0;
     end_ = 0;
     step_ = 0;
-    Area64 waste = 0;
+    waste_ = 0;
     while (hasMore()) {
         const Gap gap = skyline_.Lowest();
         if (gap.Y >= limits.Roof) {
@@ -100,15 +103,15 @@ bool SkylinePlan::FillGaps(const Limits& limits, HasMore hasMore, Choose choose,
                 continue; // the step was only left out: the whole width takes any fill
             }
             const Long height = wholeWidth ? room : walls.Short;
-            waste += static_cast<Area64>(gap.Width) * height;
-            if (waste > limits.Waste) {
+            waste_ += static_cast<Area64>(gap.Width) * height;
+            if (waste_ > limits.Waste) {
                 return false;
             }
             skyline_.Raise(gap, height);
             continue;
         }
         put(gap, walls, choice);
-        if (end_ > limits.Farthest) {
+        if (end_ > limits.Farthest || waste_ > limits.Waste) {
             return false;
         }
     }
@@ -122,6 +125,15 @@ inline void SkylinePlan::Lay(std::size_t fill, Long length, const Gap& gap, cons
     placed_.push_back({fill, x, gap.Y, length});
     placedArea_ += static_cast<Area64>(width) * length;
     end_ = std::max(end_, static_cast<Area64>(gap.Y) + length);
+}
+
+inline void SkylinePlan::LayAt(const ImprovePart& part, const Gap& gap) {
+    const Area64 width = job_->Fills[part.Fill].Width;
+    skyline_.Cover(gap, part.X, static_cast<Long>(width), part.Y + part.Length);
+    placed_.push_back(part);
+    placedArea_ += width * part.Length;
+    waste_ += width * (part.Y - gap.Y);
+    end_ = std::max(end_, static_cast<Area64>(part.Y) + part.Length);
 }
 
 } // namespace tarn

@@ -37,14 +37,98 @@ inline ImproveJob SmallFills(std::mt19937& random, Long parts) {
                       : RandomFills(random, 3, 4, std::min(parts, 3), 5);
 }
 
+/// Up to `most` rooms of one or more strips that have to match by a small repeat; whole-width strips
+/// first. Fills, and now and then whole rooms, may be laid in up to `parts` parts.
+inline ImproveJob RandomPattern(std::mt19937& random, Long most, Long width, Long parts,
+                                Long longest = 30, Long largestRepeat = 6) {
+    ImproveJob job;
+    job.Width = width;
+    job.MinPart = Between(random, 1, 4);
+    job.Repeat = {Between(random, 0, 3), Between(random, 0, largestRepeat), false};
+    job.Repeat.HalfDrop =
+        job.Repeat.Along > 0 && job.Repeat.Along % 2 == 0 && Below(random, 2) == 0;
+    const Long across = job.Repeat.Across;
+    Long rooms = 0;
+    for (Long count = Between(random, 1, most); count > 0; --count) {
+        const Long length = Between(random, 1, longest);
+        const Long kind = Below(random, 3);
+        if (kind == 0) {
+            const bool joined = Below(random, 2) == 0;
+            job.Fills.push_back({Between(random, 1, width - 1), length, joined ? parts : 1,
+                                 joined && parts > 1 ? rooms++ : NoRoom});
+            continue;
+        }
+        const bool drops = kind == 2 && (across == 0 || width % across == 0);
+        job.Fills.push_back({width, length, 1, rooms});
+        if (drops) {
+            job.Fills.push_back({width, length, 1, rooms, width, 1});
+        }
+        const Long strip = drops ? 2 : 1;
+        const Long begin = strip * width;
+        const Long left = across == 0 ? 0 : begin % across;
+        if (left < width) {
+            job.Fills.push_back(
+                {Between(random, 1, width - left), length, parts, rooms, begin, strip});
+        }
+        if (job.Fills.back().Room == rooms && job.Fills.back().Strip == 0) {
+            job.Fills.back().Room = NoRoom;
+        } else {
+            ++rooms;
+        }
+    }
+    return job;
+}
+
 inline std::string Describe(const ImproveJob& job) {
     std::string text =
         "roll " + std::to_string(job.Width) + ", parts from " + std::to_string(job.MinPart) + ":";
     for (const ImproveFill& fill : job.Fills) {
         text += " " + std::to_string(fill.Width) + "x" + std::to_string(fill.Length) + "/" +
                 std::to_string(fill.Parts);
+        if (fill.Room != NoRoom) {
+            text += "@" + std::to_string(fill.Room) + "+" + std::to_string(fill.Begin);
+        }
+    }
+    if (HasPattern(job)) {
+        text += ", repeat " + std::to_string(job.Repeat.Across) + "x" +
+                std::to_string(job.Repeat.Along) + (job.Repeat.HalfDrop ? " half drop" : "");
     }
     return text;
+}
+
+/// Whether two parts show the pattern as the job's repeat asks of parts of one room.
+inline bool Match(const ImproveJob& job, const ImprovePart& a, const ImprovePart& b) {
+    const ImproveFill& fillA = job.Fills.at(a.Fill);
+    const ImproveFill& fillB = job.Fills.at(b.Fill);
+    const ImproveRepeat& repeat = job.Repeat;
+    const Long across = fillA.Begin - a.X - (fillB.Begin - b.X);
+    const Long columns = repeat.Across > 0 ? across / repeat.Across : fillA.Strip - fillB.Strip;
+    const Long half = repeat.HalfDrop && columns % 2 != 0 ? repeat.Along / 2 : 0;
+    const Long along = a.From - a.Y - (b.From - b.Y) + half;
+    return (repeat.Across == 0 || across % repeat.Across == 0) &&
+           (repeat.Along == 0 || along % repeat.Along == 0);
+}
+
+/// What is wrong with a layout of a job with a pattern besides what FaultOf finds.
+inline std::string PatternFaultOf(const ImproveJob& job, std::vector<ImprovePart> parts) {
+    for (const ImprovePart& a : parts) {
+        for (const ImprovePart& b : parts) {
+            const Long room = job.Fills.at(a.Fill).Room;
+            if (room != NoRoom && room == job.Fills.at(b.Fill).Room && !Match(job, a, b)) {
+                return "parts of room " + std::to_string(room) + " do not match";
+            }
+        }
+    }
+    std::sort(parts.begin(), parts.end(), [](const ImprovePart& a, const ImprovePart& b) {
+        return a.Fill != b.Fill ? a.Fill < b.Fill : a.From < b.From;
+    });
+    for (std::size_t i = 0; i < parts.size(); ++i) {
+        const bool first = i == 0 || parts[i - 1].Fill != parts[i].Fill;
+        if (parts[i].From != (first ? 0 : parts[i - 1].From + parts[i - 1].Length)) {
+            return "parts of fill " + std::to_string(parts[i].Fill) + " do not follow each other";
+        }
+    }
+    return "";
 }
 
 /// What is wrong with a layout; empty when it is whole, within the roll, free of overlaps, and as

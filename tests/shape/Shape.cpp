@@ -58,7 +58,8 @@ std::vector<Layer> MakeLayers() {
     add("improve", {"engine"}, {});
     add("drawing", {}, {});
     add("estimate", {"project", "engine", "improve", "drawing"}, {});
-    add("files", Below(layers, {"estimate"}), {"Qt6::Core"});
+    add("order", Below(layers, {"estimate"}), {"Threads::Threads"});
+    add("files", Below(layers, {"order"}), {"Qt6::Core"});
     add("store", {"project", "files"}, {"Qt6::Core", "Qt6::Sql"});
     add("text", {}, {"Qt6::Core", "Qt6::Gui"});
     add("paper", Below(layers, {"files", "text"}), {"Qt6::Core", "Qt6::Gui", "Cups::Cups"});
