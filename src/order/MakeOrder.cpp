@@ -29,6 +29,7 @@ struct Row {
     RowLayout Layout;
     RowFinding Found{};
     bool HasNews = false;
+    bool HasLayout = false;
     bool Done = false;
 };
 
@@ -122,7 +123,7 @@ class OrderMaker {
             if (found != nullptr) {
                 const std::scoped_lock lock(mutex_);
                 row.Found = *found;
-                row.HasNews = true;
+                row.HasNews = row.HasLayout = true;
                 changed_.notify_one();
             }
             if (std::exchange(first, false)) {
@@ -159,7 +160,12 @@ class OrderMaker {
             return std::all_of(rows_.begin(), rows_.end(),
                                [](const auto& row) { return row->Done; });
         };
-        changed_.wait_for(lock, LookAfter, allDone);
+        const auto isFirstTable = [this] {
+            return !hadTable_ && std::all_of(rows_.begin(), rows_.end(),
+                                             [](const auto& row) { return row->HasLayout; });
+        };
+        changed_.wait_for(lock, LookAfter, [&] { return allDone() || isFirstTable(); });
+        hadTable_ = hadTable_ || isFirstTable();
         if (limits_.Steps == 0 && Passed() >= limits_.Seconds) {
             stop_ = true;
         }
@@ -211,6 +217,7 @@ class OrderMaker {
     std::mutex mutex_; ///< of what the rows' threads hand over
     std::condition_variable changed_;
     std::exception_ptr fault_;
+    bool hadTable_ = false; ///< each row had a layout
     std::atomic<bool> stop_ = false;
 };
 

@@ -93,7 +93,7 @@ INSTANTIATE_TEST_SUITE_P(Orders, Known, ::testing::ValuesIn(KnownOrders()),
 TEST_P(Known, IsTheLeast) {
     const KnownOrder& known = GetParam();
     const Project project = ProjectOf(known.Rooms);
-    const Order order = MakeOrderOf(project, known.Request, 20000);
+    const Order order = MakeOrderOf(project, known.Request, 60000);
     EXPECT_EQ(CheckOrder(project, order), "");
     ASSERT_EQ(order.Candidates.size(), 1U);
     ASSERT_TRUE(order.Candidates[0].Figures) << order.Candidates[0].Refused;

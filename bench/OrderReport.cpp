@@ -1,0 +1,163 @@
+// How far orders are above their bounds, and how soon the first comparison stands.
+//
+//   tarn_order_report [JOBS [SECONDS]]
+//
+// prints, for JOBS (200) random jobs of SECONDS (2) each, the average gap by the kind of pattern and
+// the number of rooms; and the time to the first complete comparison of four widths and both lays.
+
+#include "order/MakeOrder.h"
+
+#include <sys/resource.h>
+
+#include <chrono>
+#include <cstdlib>
+#include <iomanip>
+#include <iostream>
+#include <map>
+#include <random>
+#include <string>
+
+namespace {
+
+using namespace tarn;
+using Clock = std::chrono::steady_clock;
+
+Long Between(std::mt19937& random, Long least, Long most) {
+    return least + static_cast<Long>(random() % static_cast<unsigned>(most - least + 1));
+}
+
+/// Rooms of 3 to 20 feet a side.
+Project RandomRooms(std::mt19937& random, int count) {
+    Project project;
+    for (int i = 0; i < count; ++i) {
+        Room room;
+        room.Width = static_cast<Integer>(Between(random, 36, 240));
+        room.Length = static_cast<Integer>(Between(random, 36, 240));
+        project.Rooms.push_back(room);
+    }
+    return project;
+}
+
+OrderRequest FourWidths() {
+    OrderRequest request = DefaultOrderRequest(Units::Imperial);
+    for (const Double width : {72, 144, 162, 180}) {
+        request.Rolls.push_back({width, "", "", std::nullopt});
+    }
+    request.Lays = {Lay::Down, Lay::Cross};
+    return request;
+}
+
+struct Kind {
+    const char* Name;
+    PatternChoice Pattern;
+};
+constexpr Kind Kinds[] = {{"none", {}},
+                          {"18 x 24", {18, 24, false}},
+                          {"18 x 24 half drop", {18, 24, true}},
+                          {"0 x 25", {0, 25, false}},
+                          {"9 x 36 half drop", {9, 36, true}}};
+
+struct Gaps {
+    int Rows = 0;
+    int Least = 0;
+    Double Percent = 0;
+
+    void Add(const OrderFigures& figures) {
+        ++Rows;
+        Least += figures.LengthNeeded == figures.LeastLength ? 1 : 0;
+        Percent += 100.0 * (figures.LengthNeeded - figures.LeastLength) / figures.LeastLength;
+    }
+};
+
+void PrintGaps(const std::string& name, const Gaps& gaps) {
+    std::cout << std::left << std::setw(40) << name << std::right << std::setw(6) << gaps.Rows
+              << " rows  " << std::fixed << std::setprecision(2) << std::setw(6)
+              << gaps.Percent / gaps.Rows << "%  least " << gaps.Least << std::endl;
+}
+
+/// Notes when the first complete comparison was there, and stops a little later.
+class FirstTable : public OrderObserver {
+  public:
+    bool Progress(const Order& soFar, bool /*changed*/) override {
+        bool all = true;
+        for (const OrderCandidate& row : soFar.Candidates) {
+            all = all && (row.Figures || !row.Refused.empty());
+        }
+        if (all) {
+            Seconds = std::chrono::duration<Double>(Clock::now() - begin_).count();
+        }
+        return !all;
+    }
+
+    Double Seconds = 0;
+
+  private:
+    Clock::time_point begin_ = Clock::now();
+};
+
+void MeasureFirstTables() {
+    for (const Kind& kind : {Kinds[0], Kinds[2]}) {
+        for (const int rooms : {10, 30, 100, 270, 500}) {
+            std::mt19937 random(static_cast<unsigned>(rooms));
+            const Project project = RandomRooms(random, rooms);
+            OrderRequest request = FourWidths();
+            request.Pattern = kind.Pattern;
+            request.MostParts = 4;
+            OrderLimits limits;
+            limits.Seconds = 60;
+            FirstTable first;
+            MakeOrder(project, 0, request, limits, first);
+            rusage usage{};
+            getrusage(RUSAGE_SELF, &usage);
+            std::cout << "first table of " << rooms << " rooms, pattern " << kind.Name << ": "
+                      << std::fixed << std::setprecision(3) << first.Seconds << " s, "
+                      << usage.ru_maxrss / 1024 << " MB so far" << std::endl;
+        }
+    }
+}
+
+void MeasureGaps(int jobs, Double seconds) {
+    constexpr int Rooms[] = {3, 6, 12, 20, 30};
+    std::map<std::string, Gaps> byKind;
+    Gaps all;
+    for (int job = 0; job < jobs; ++job) {
+        std::mt19937 random(static_cast<unsigned>(1000 + job));
+        const int rooms = Rooms[job / std::size(Kinds) % std::size(Rooms)];
+        const Kind& kind = Kinds[static_cast<std::size_t>(job) % std::size(Kinds)];
+        const Project project = RandomRooms(random, rooms);
+        OrderRequest request = FourWidths();
+        request.Pattern = kind.Pattern;
+        request.TrimAlong = 3;
+        request.TrimAcross = 1;
+        request.MostParts = job % 3 == 0 ? 4 : 1;
+        request.JoinRooms = job % 6 == 0;
+        OrderLimits limits;
+        limits.Seconds = seconds;
+        OrderObserver nobody;
+        const Order order = MakeOrder(project, 0, request, limits, nobody);
+        for (const OrderCandidate& row : order.Candidates) {
+            if (row.Figures) {
+                std::string name = std::string(kind.Name) + ", " + std::to_string(rooms) + " rooms";
+                byKind[name].Add(*row.Figures);
+                byKind[std::string(kind.Name) + ", all"].Add(*row.Figures);
+                byKind["parts " + std::to_string(request.MostParts)].Add(*row.Figures);
+                byKind["roll " + std::to_string(row.RollWidth)].Add(*row.Figures);
+                all.Add(*row.Figures);
+            }
+        }
+    }
+    for (const auto& [name, gaps] : byKind) {
+        PrintGaps(name, gaps);
+    }
+    PrintGaps("all", all);
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    const int jobs = argc > 1 ? std::atoi(argv[1]) : 200;
+    const Double seconds = argc > 2 ? std::atof(argv[2]) : 2;
+    MeasureFirstTables();
+    MeasureGaps(jobs, seconds);
+    return 0;
+}
