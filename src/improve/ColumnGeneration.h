@@ -13,6 +13,8 @@ namespace tarn {
 /// length over all fractions of cross sections is a bound for every layout; it is at least as good
 /// as those of Bounds.h but for the rounding described below.
 ///
+/// With a pattern a cross section keeps to its columns; see ColumnKnapsack.
+///
 /// Solved by column generation: a simplex over the cross sections found so far, and a knapsack that
 /// finds the best one to add. The simplex computes in Double, the bound does not depend on it:
 /// whatever prices it gives, the bound is computed from them in whole numbers (the worth of all

@@ -1,3 +1,4 @@
+#include "improve/ColumnKnapsack.h"
 #include "improve/CoveringSimplex.h"
 #include "improve/ImproveTesting.h"
 #include "improve/Knapsack.h"
@@ -48,6 +49,60 @@ TEST(Knapsack, FindsTheBestChoice) {
         EXPECT_LE(used, width);
         EXPECT_EQ(knapsack.Solve(worth), best) << "again";
     }
+}
+
+/// The greatest worth of items in a cross section, by trying every place of every copy.
+std::int64_t BestSection(const std::vector<ColumnItem>& items,
+                         const std::vector<std::int64_t>& worth, Long width, Long column,
+                         std::vector<Long> left, Long from = 0) {
+    std::int64_t best = 0;
+    for (std::size_t item = 0; item < items.size(); ++item) {
+        for (Long x = from; left[item] > 0 && x + items[item].Width <= width; ++x) {
+            if (items[item].InColumns && (width - x) % column != 0) {
+                continue;
+            }
+            --left[item];
+            best = std::max(best, worth[item] + BestSection(items, worth, width, column, left,
+                                                            x + items[item].Width));
+            ++left[item];
+        }
+    }
+    return best;
+}
+
+TEST(ColumnKnapsack, IsNeverWorthLessThanACrossSectionNorMoreThanWithoutColumns) {
+    int exact = 0;
+    for (unsigned seed = 1; seed <= 300; ++seed) {
+        SCOPED_TRACE(seed);
+        std::mt19937 random(seed);
+        const Long width = testing::Between(random, 2, 12);
+        const Long column = testing::Between(random, 1, 5);
+        std::vector<ColumnItem> items;
+        std::vector<KnapsackItem> plain;
+        std::vector<std::int64_t> worth;
+        std::vector<Long> left;
+        for (Long count = testing::Between(random, 1, 4); count > 0; --count) {
+            items.push_back({testing::Between(random, 1, 7), testing::Between(random, 1, 3),
+                             testing::Between(random, 0, 2) > 0});
+            plain.push_back({items.back().Width, items.back().Copies});
+            left.push_back(items.back().Copies);
+            worth.push_back(testing::Between(random, 0, 20));
+        }
+        ColumnKnapsack knapsack(items, width, column);
+        const std::int64_t best = knapsack.Solve(worth);
+        const std::int64_t section = BestSection(items, worth, width, column, left);
+        EXPECT_GE(best, section);
+        EXPECT_LE(best, BestOf(plain, worth, width));
+        exact += best == section ? 1 : 0;
+        std::int64_t sum = 0;
+        for (std::size_t i = 0; i < items.size(); ++i) {
+            EXPECT_LE(knapsack.Chosen()[i], items[i].Copies);
+            sum += knapsack.Chosen()[i] * worth[i];
+        }
+        EXPECT_EQ(sum, best);
+        EXPECT_EQ(knapsack.Solve(worth), best) << "again";
+    }
+    EXPECT_GT(exact, 250);
 }
 
 TEST(CoveringSimplex, BeginsWithTheColumnsOfOneRow) {
