@@ -19,7 +19,7 @@ namespace tarn {
 struct Session {
     OpenProject& Project;
     ProjectStore& Store;
-    DataFolder& Folder; ///< where the store is; it is tried again while the store is not open
+    DataFolder& Folder; ///< where the store is
     PageTwips& Page;    ///< of the printer, as it was read last
     Dialogs& Boxes;
     Printer& Paper;

@@ -16,15 +16,12 @@ FindDataFolder(const std::vector<std::filesystem::path>& configurationDirectorie
 }
 
 ProjectStore OpenStore(const DataFolder& folder) {
-    try {
-        return ProjectStore(WithNativeSeparators(folder.DatabaseName), DatabaseAccess::ReadWrite);
-    } catch (const DatabaseError& error) {
-        std::string reason = error.what();
-        if (folder.Path.empty()) {
-            reason += " No data folder is named in " + folder.Configuration.string() + ".";
-        }
-        return ProjectStore::Unavailable(std::move(reason));
+    std::string advice;
+    if (folder.Path.empty()) {
+        advice = " No data folder is named in " + folder.Configuration.string() + ".";
     }
+    return ProjectStore::OpenedWhenUsed(WithNativeSeparators(folder.DatabaseName),
+                                        DatabaseAccess::ReadWrite, std::move(advice));
 }
 
 } // namespace tarn

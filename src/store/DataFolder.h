@@ -31,8 +31,8 @@ struct DataFolder {
 std::optional<DataFolder>
 FindDataFolder(const std::vector<std::filesystem::path>& configurationDirectories);
 
-/// Open the folder's database for reading and writing. Raises no DatabaseError: a store that could
-/// not be opened says why when it is used. To try again is to call this again.
+/// The folder's database, for reading and writing. It is opened when it is first used; a store that
+/// cannot be opened says why, and is tried again at its next use.
 ProjectStore OpenStore(const DataFolder& folder);
 
 } // namespace tarn

@@ -4,6 +4,7 @@
 #include "base/Text.h"
 #include "project/RoomEntry.h"
 #include "store/DatabaseFile.h"
+#include "store/FileIdentity.h"
 #include "store/Names.h"
 #include "store/RoomRows.h"
 #include "store/Schema.h"
@@ -109,67 +110,88 @@ std::vector<std::string> TextsIn(const std::vector<StoredRow>& rows, std::string
     return texts;
 }
 
-/// Give every row of the table whose `field` is `oldName` the new one.
+/// Give every row of the table whose `field` reads as `oldName` the new one.
 void Rename(Connection& connection, std::string_view table, std::string_view field,
-            const std::string& oldName, const std::string& newName) {
+            std::string_view oldName, const std::string& newName) {
     Table rows(connection, table);
-    for (const StoredRow& row : rows.RowsWhere(field, TextValue(oldName))) {
+    for (const StoredRow& row : rows.RowsShowing(field, oldName)) {
         rows.Change(row, field, TextValue(newName));
     }
 }
 
-/// What stands in the file of a project that has a sheet; empty for one that has none.
-StoredMark MarkOf(Connection& connection, std::string_view project) {
+/// Delete every row of the table whose `field` reads as `name`; gives them back.
+std::vector<StoredRow> DeleteNamed(Connection& connection, std::string_view table,
+                                   std::string_view field, std::string_view name) {
+    Table rows(connection, table);
+    auto named = rows.RowsShowing(field, name);
+    rows.Delete(named);
+    return named;
+}
+
+StoredMark MarkOf(const StoredProject& stored) {
     StoredMark mark;
-    const auto sheets = Table(connection, MainTab).RowsWhere("ProjName", TextValue(project));
-    for (const StoredRow& sheet : sheets) {
-        mark.Content += MainTab;
-        mark.Content += sheet.Content();
-    }
-    if (!sheets.empty()) {
-        const QVariant& number = sheets.front().ValueIn("TabIndex");
-        for (const StoredRow& room :
-             Table(connection, InputData).RowsWhere("TabIndex", number, "ObjNum")) {
-            mark.Content += InputData;
-            mark.Content += room.Content();
+    const auto add = [&mark](std::string_view table, const std::vector<StoredRow>& rows) {
+        for (const StoredRow& row : rows) {
+            mark.Content.append(table).append(row.Content());
         }
-    }
+    };
+    add(MainTab, stored.Sheets);
+    add(InputData, stored.Rooms);
     return mark;
 }
 
-/// Read the project's sheet of that number and its rooms into `loaded`.
-void LoadSheet(Connection& connection, Integer number, LoadedProject& loaded) {
+/// Take what is stored of a project that has a sheet into `loaded`.
+void LoadSheet(Connection& connection, const StoredProject& stored, LoadedProject& loaded) {
     Project& project = loaded.Value;
-    const SheetsUnder sheets(connection, number, project.Name);
-    const StoredRow* sheet = sheets.Own();
-    if (sheet == nullptr) {
-        throw DatabaseError("The project's sheet, number " + TrimStr(number) + ", is missing.");
-    }
-    const SheetContent content = ContentOf(*sheet);
-    const auto rows = ReadRoomRows(connection, number);
-    const auto count = static_cast<std::size_t>(content.Rooms);
-    project.EnteredIn = EnteredUnitsOf(*sheet);
-    project.Sheet = content.Number;
+    const StoredRow& sheet = stored.Sheets.front();
+    project.Sheet = SheetNumberOf(sheet, project.Name);
+    const SheetContent content = ContentOf(sheet);
+    const auto rows = ReadRoomRows(stored.Rooms);
+    project.EnteredIn = EnteredUnitsOf(sheet);
     project.Scale = content.Scale;
-    project.Rooms = RoomsOf(rows, count);
-    loaded.Findings = RoomFindings(rows, count, sheets.OtherProjects());
+    project.Rooms = RoomsOf(rows, content.Rooms);
+    loaded.Findings = SheetFindings(stored.Sheets, project.Sheet);
+    const auto others = OtherProjectsUnder(connection, project.Sheet, project.Name);
+    for (std::string& finding : RoomFindings(rows, content.Rooms, others)) {
+        loaded.Findings.push_back(std::move(finding));
+    }
+}
+
+/// The project as a save stores it: with texts that may be stored.
+Project StorableProject(Project project) {
+    project.IsNew = false;
+    for (Room& room : project.Rooms) {
+        room.Number = StorableText(room.Number);
+        room.Remark = StorableText(room.Remark);
+    }
+    if (project.Rooms.empty()) {
+        project.EnteredIn = Units::Imperial;
+    }
+    return project;
 }
 
 } // namespace
 
 class ProjectStore::Impl {
   public:
+    /// Where the database is, and how it is opened.
+    struct Source {
+        std::string Path;
+        DatabaseAccess Access = DatabaseAccess::ReadOnly;
+        int BusyWait = DefaultBusyWait;
+        std::string Advice; ///< ends the text of an error in opening
+    };
+
     explicit Impl(std::string reason)
         : reason_(std::move(reason)) {}
-    Impl(std::unique_ptr<Connection> connection, DatabaseAccess access)
-        : connection_(std::move(connection))
-        , access_(access) {}
+    explicit Impl(Source source)
+        : source_(std::move(source)) {}
 
-    bool IsOpen() const { return connection_ != nullptr; }
-    /// The database. Raises DatabaseError, with the reason why, when there is none.
+    /// The database. It is opened first where no action is running, and it is not open yet or
+    /// another file stands at its path by now. Raises DatabaseError when there is none.
     Connection& Database() {
-        if (!connection_) {
-            throw DatabaseError(reason_);
+        if (!inTransaction_) {
+            OpenIfNeeded();
         }
         return *connection_;
     }
@@ -177,7 +199,7 @@ class ProjectStore::Impl {
     /// The same, before a change.
     Connection& DatabaseToChange() {
         Connection& database = Database();
-        if (access_ == DatabaseAccess::ReadOnly || inTransaction_ || !beforeFirstChange_) {
+        if (inTransaction_ || !beforeFirstChange_ || source_->Access == DatabaseAccess::ReadOnly) {
             return database;
         }
         std::exchange(beforeFirstChange_, {})();
@@ -198,6 +220,23 @@ class ProjectStore::Impl {
     }
 
   private:
+    void OpenIfNeeded() {
+        if (!source_) {
+            throw DatabaseError(reason_);
+        }
+        const auto found = IdentityOf(source_->Path);
+        if (connection_ && found && found == opened_) {
+            return;
+        }
+        // What is open is no longer the database: not a byte is written to it any more.
+        connection_.reset();
+        opened_ = found;
+        try {
+            connection_ = OpenDatabaseFile(source_->Path, source_->Access, source_->BusyWait);
+        } catch (const DatabaseError& error) {
+            throw DatabaseError(error.what() + source_->Advice);
+        }
+    }
     void Run(Step::Kind kind, const std::function<void()>& body) {
         Step step(Database(), kind);
         const bool before = std::exchange(inTransaction_, true);
@@ -211,9 +250,10 @@ class ProjectStore::Impl {
         step.Keep();
     }
 
+    std::optional<Source> source_; ///< nothing for a store without a database
+    std::string reason_;           ///< why there is none
     std::unique_ptr<Connection> connection_;
-    DatabaseAccess access_ = DatabaseAccess::ReadOnly;
-    std::string reason_;
+    std::optional<FileIdentity> opened_; ///< the file that connection_ leads to
     std::function<void()> beforeFirstChange_;
     bool inTransaction_ = false;
 };
@@ -228,16 +268,20 @@ ProjectStore ProjectStore::Unavailable(std::string reason) {
     return ProjectStore(std::make_unique<Impl>(std::move(reason)));
 }
 
+ProjectStore ProjectStore::OpenedWhenUsed(std::string path, DatabaseAccess access,
+                                          std::string advice) {
+    return ProjectStore(std::make_unique<Impl>(
+        Impl::Source{std::move(path), access, DefaultBusyWait, std::move(advice)}));
+}
+
 ProjectStore::ProjectStore(const std::string& path, DatabaseAccess access, int busyWait)
-    : impl_(std::make_unique<Impl>(OpenDatabaseFile(path, access, busyWait), access)) {}
+    : impl_(std::make_unique<Impl>(Impl::Source{path, access, busyWait, {}})) {
+    impl_->Database();
+}
 
 ProjectStore::~ProjectStore() = default;
 ProjectStore::ProjectStore(ProjectStore&&) noexcept = default;
 ProjectStore& ProjectStore::operator=(ProjectStore&&) noexcept = default;
-
-bool ProjectStore::IsOpen() const {
-    return impl_->IsOpen();
-}
 
 std::vector<std::string> ProjectStore::Directories() {
     return TextsIn(Table(impl_->Database(), DirTab).Rows("Directory"), "Directory");
@@ -268,13 +312,14 @@ void ProjectStore::DeleteDirectory(const std::string& name) {
     RequireUsable(name);
     impl_->Change([&] {
         Connection& database = impl_->Database();
-        LeaveSharedNumbers(database, Projects(name));
-        Table projects(database, ProjTab);
-        for (const StoredRow& project : projects.RowsWhere("Dir", TextValue(name))) {
-            DeleteSheetsOf(database, project.ValueIn("ProjName"));
+        for (const StoredRow& row : DeleteNamed(database, ProjTab, "Dir", name)) {
+            const std::string project = row.TextIn("ProjName");
+            // One that is stored in another directory too keeps its rooms there.
+            if (Table(database, ProjTab).RowsShowing("ProjName", project).empty()) {
+                DeleteSheetsOf(database, project);
+            }
         }
-        projects.DeleteWhere("Dir", TextValue(name));
-        Table(database, DirTab).DeleteWhere("Directory", TextValue(name));
+        DeleteNamed(database, DirTab, "Directory", name);
     });
 }
 
@@ -299,12 +344,25 @@ std::vector<std::pair<std::string, std::string>> ProjectStore::AllProjects() {
 
 std::optional<std::string> ProjectStore::DirectoryOf(std::string_view project) {
     const std::string wanted = StoredName(project);
-    for (const auto& [directory, name] : AllProjects()) {
-        if (StoredName(name) == wanted) {
-            return directory;
+    std::optional<std::string> found;
+    impl_->Read([&] {
+        // By its row where that is written alike: to compare every name of a large database with
+        // every other takes minutes.
+        for (const std::string_view written : {project, std::string_view(wanted)}) {
+            const auto rows = Table(impl_->Database(), ProjTab).RowsShowing("ProjName", written);
+            if (!rows.empty()) {
+                found = rows.front().TextIn("Dir");
+                return;
+            }
         }
-    }
-    return std::nullopt;
+        for (const auto& [directory, name] : AllProjects()) {
+            if (StoredName(name) == wanted) {
+                found = directory;
+                return;
+            }
+        }
+    });
+    return found;
 }
 
 void ProjectStore::AddProject(std::string_view directory, std::string_view project) {
@@ -328,9 +386,8 @@ void ProjectStore::DeleteProject(const std::string& name) {
     RequireUsable(name);
     impl_->Change([&] {
         Connection& database = impl_->Database();
-        LeaveSharedNumbers(database, {name});
-        DeleteSheetsOf(database, TextValue(name));
-        Table(database, ProjTab).DeleteWhere("ProjName", TextValue(name));
+        DeleteSheetsOf(database, name);
+        DeleteNamed(database, ProjTab, "ProjName", name);
     });
 }
 
@@ -340,18 +397,15 @@ LoadedProject ProjectStore::Load(std::string_view project) {
     loaded.Value.Name = project;
     impl_->Read([&] {
         Connection& database = impl_->Database();
-        if (const auto number = FindSheetNumber(database, project)) {
-            LoadSheet(database, *number, loaded);
-            loaded.Mark = MarkOf(database, project);
-        } else {
+        const StoredProject stored = ReadStored(database, project);
+        if (stored.Sheets.empty()) {
             loaded.Value.IsNew = true;
             loaded.Value.Sheet = NewSheetNumber(database);
+        } else {
+            LoadSheet(database, stored, loaded);
         }
-        // By its row where that is written alike: to compare every name of a large database with
-        // every other takes minutes.
-        const auto rows = Table(database, ProjTab).RowsWhere("ProjName", TextValue(project));
-        loaded.Value.Directory = rows.empty() ? DirectoryOf(project).value_or(std::string())
-                                              : rows.front().TextIn("Dir");
+        loaded.Mark = MarkOf(stored);
+        loaded.Value.Directory = DirectoryOf(project).value_or(std::string());
     });
     return loaded;
 }
@@ -370,18 +424,18 @@ SaveResult ProjectStore::Save(const Project& project, Units shown,
     SaveResult result{SaveResult::Outcome::Saved, project, read.value_or(StoredMark{})};
     impl_->Change([&] {
         Connection& database = impl_->Database();
+        const StoredProject before = ReadStored(database, project.Name);
         if (!DirectoryOf(project.Name)) {
             result.What = SaveResult::Outcome::Gone;
-        } else if (read && *read != MarkOf(database, project.Name)) {
+        } else if (read && *read != MarkOf(before)) {
             result.What = SaveResult::Outcome::Changed;
         } else {
-            Project& stored = result.Value;
-            stored.IsNew = false;
-            stored.Sheet = SheetNumberToSave(database, project);
-            stored.EnteredIn = project.Rooms.empty() ? Units::Imperial : project.EnteredIn;
-            StoreSheet(database, stored, shown);
+            Project stored = StorableProject(project);
+            stored.Sheet = SheetNumberToSave(database, project, before.Sheets);
+            StoreSheet(database, stored, before.Sheets, shown);
             StoreRoomRows(database, stored.Sheet, stored.Rooms);
-            result.Mark = MarkOf(database, project.Name);
+            result.Value = std::move(stored);
+            result.Mark = MarkOf(ReadStored(database, project.Name));
         }
     });
     return result;

@@ -58,6 +58,10 @@ struct SaveResult {
 /// StoredName makes it. A name with a double quote can be found in a list, but not be used:
 /// neither renamed, deleted, loaded nor saved.
 ///
+/// Before each action that is no part of a transaction the store looks whether the file at its path
+/// is still the one that it opened. Where another one was put in its place, or it was gone for a
+/// while, it is opened again, as at first: what stands there is what counts.
+///
 /// Every function raises DatabaseError when the database fails or refuses, with nothing changed.
 class ProjectStore {
   public:
@@ -65,6 +69,9 @@ class ProjectStore {
     static ProjectStore Unavailable(std::string reason);
     /// Unavailable until another store is moved into it.
     ProjectStore();
+    /// A store whose file, as below, is opened by its first use, or the next one when that failed.
+    /// `advice` ends the text of the error then.
+    static ProjectStore OpenedWhenUsed(std::string path, DatabaseAccess access, std::string advice);
     /// Open an existing file, which is never made or written over. `path` may hold any character.
     /// Raises DatabaseError, naming the file, the cause and what to do, for a file that is missing,
     /// a folder, empty, of the older Jet format, no database, damaged, locked by another program
@@ -74,8 +81,6 @@ class ProjectStore {
     ~ProjectStore();
     ProjectStore(ProjectStore&&) noexcept;
     ProjectStore& operator=(ProjectStore&&) noexcept;
-
-    bool IsOpen() const;
 
     // --- directories; the months have no row ---
 

@@ -101,27 +101,31 @@ Slots RepeatedSlots(const std::vector<RoomRow>& rows) {
     return SlotsWhere(rows, [&seen](const RoomRow& row) { return !seen.insert(*row.Slot).second; });
 }
 
+/// The numbers of the rows that no room can have; of many the first, and how many more there are.
 std::string NumbersOutside(const std::vector<RoomRow>& rows) {
+    constexpr std::size_t MostListed = 20;
     std::string numbers;
+    std::size_t count = 0;
     for (const RoomRow& row : rows) {
-        if (!row.Slot) {
+        if (!row.Slot && ++count <= MostListed) {
             numbers += (numbers.empty() ? "" : ", ") + row.ObjNumText;
         }
     }
-    return numbers;
+    return count > MostListed ? numbers + " and " + std::to_string(count - MostListed) + " more"
+                              : numbers;
 }
 
 } // namespace
 
-std::vector<RoomRow> ReadRoomRows(Connection& connection, Integer sheet) {
+std::vector<RoomRow> ReadRoomRows(const std::vector<StoredRow>& stored) {
     std::vector<RoomRow> rows;
-    for (const StoredRow& stored :
-         Table(connection, InputData).RowsWhere("TabIndex", sheet, "ObjNum")) {
+    rows.reserve(stored.size());
+    for (const StoredRow& row : stored) {
         try {
-            rows.push_back(ReadRoomRow(stored));
+            rows.push_back(ReadRoomRow(row));
         } catch (const RunTimeError& error) {
             throw error.WithAdvice("A number stored in the room row with ObjNum " +
-                                   stored.TextIn("ObjNum") + " is too large.");
+                                   row.TextIn("ObjNum") + " is too large.");
         }
     }
     return rows;

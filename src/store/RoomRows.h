@@ -3,7 +3,7 @@
 #pragma once
 
 #include "project/Room.h"
-#include "store/Connection.h"
+#include "store/Tables.h"
 
 #include <optional>
 #include <string>
@@ -22,9 +22,10 @@ struct RoomRow {
     bool HasBase = false;     ///< the wall base was no null
 };
 
-/// The stored rooms of a sheet by ObjNum. Raises DatabaseError, and "Overflow", naming the room,
-/// for a number that does not fit.
-std::vector<RoomRow> ReadRoomRows(Connection& connection, Integer sheet);
+/// The rooms that stand in rows of InputData, in their order. Raises DatabaseError for a field that
+/// is missing and a text where a number belongs, and "Overflow", naming the room, for a number that
+/// does not fit.
+std::vector<RoomRow> ReadRoomRows(const std::vector<StoredRow>& stored);
 
 /// The first `count` rooms by their places: one without a row is empty, of several rows the last
 /// counts, rows of other places are left out.

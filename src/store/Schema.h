@@ -24,42 +24,8 @@ inline constexpr std::array<std::string_view, 10> SheetTables = {
     "AFillTab", "AngleMCut", "AInputData", "ESTTab",   "FillCut",
     InputData,  "MasterCut", "SAFill",     "SFillCut", MainTab};
 
-/// What may stand in a field.
-enum class FieldContent {
-    Anything,      ///< its value is not used
-    WholeNumber,   ///< from Field::Least to Field::Greatest
-    AboveZero,     ///< a number above 0
-    Text,          ///< a text without a TextFault, or a null
-    DirectoryName, ///< a name as StoredName makes it
-    ProjectName,   ///< the same, without the characters that no project name holds
-};
-
-/// A field of a table.
-struct Field {
-    std::string_view Name;
-    std::string_view Type; ///< as it is declared
-    FieldContent Content = FieldContent::Anything;
-    std::int32_t Least = 0; ///< of a WholeNumber
-    std::int32_t Greatest = 0;
-    bool Indexed = false;
-    bool MayBeNull = false; ///< of a WholeNumber
-    /// A database made without the field is in order all the same.
-    bool Optional = false;
-};
-
-/// A table with its fields.
-struct TableShape {
-    std::string_view Name;
-    std::vector<Field> Fields;
-};
-
-/// Every table.
-const std::vector<TableShape>& TableShapes();
-/// The table of that name, which must be one of them.
-const TableShape& ShapeOf(std::string_view table);
-
-/// Make every table, empty, with its indexes. Raises DatabaseError.
-void CreateTables(Connection& connection);
+/// Also holds rows of a sheet, by its TabIndex, where it is there; a database needs none.
+inline constexpr std::string_view OrderData = "OrderData";
 
 /// Make an empty database file with every table. The folders on the way are made too. Raises
 /// DatabaseError, and leaves nothing behind, when it cannot, and when anything stands at `path`.

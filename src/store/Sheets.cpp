@@ -3,12 +3,13 @@
 #include "base/Numbers.h"
 #include "base/RunTimeError.h"
 #include "base/Text.h"
+#include "files/QtText.h"
 #include "store/DatabaseError.h"
-#include "store/Names.h"
 #include "store/Schema.h"
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <limits>
 #include <set>
 
@@ -17,6 +18,13 @@ namespace tarn {
 namespace {
 
 constexpr std::string_view EnteredMetricField = "EnteredMetric";
+/// Every table whose rows belong to a sheet.
+std::vector<std::string_view> TablesBySheet() {
+    std::vector<std::string_view> tables(SheetTables.begin(), SheetTables.end());
+    tables.push_back(OrderData);
+    return tables;
+}
+
 constexpr Integer GreatestNumber = std::numeric_limits<Integer>::max();
 
 /// A number of the sheet that must be there.
@@ -36,71 +44,102 @@ void RequireGood(bool good, std::string_view field) {
     }
 }
 
-bool HasTable(Connection& connection, std::string_view name) {
-    const std::string table(name);
-    return !connection
-                .Run("SELECT 1 FROM sqlite_master WHERE type = 'table' AND name = ? COLLATE NOCASE",
-                     table + " cannot be read", {TextValue(name)})
-                .Rows.empty();
+/// "table" or "view", what stands in the database under the name of a table; empty for nothing.
+std::string KindOf(Connection& connection, std::string_view table) {
+    const Result found = connection.Run("SELECT type FROM sqlite_master WHERE type IN ('table', "
+                                        "'view') AND name = ? COLLATE NOCASE",
+                                        std::string(table) + " cannot be read", {TextValue(table)});
+    return found.Rows.empty() ? std::string() : FromQt(found.Rows.at(0).at(0).toString());
 }
 
-void DeleteRowsUnder(Connection& connection, Integer number) {
-    for (const std::string_view table : SheetTables) {
-        if (HasTable(connection, table)) {
+/// Delete what every table but that of the sheets holds under a number, which is taken as it
+/// stands: of another number no row may go.
+void DeleteRowsUnder(Connection& connection, const QVariant& number) {
+    for (const std::string_view table : TablesBySheet()) {
+        const std::string kind = KindOf(connection, table);
+        if (kind == "view") {
+            throw DatabaseError(std::string(table) +
+                                " cannot be deleted from: it is a view and no table.");
+        }
+        if (!kind.empty() && table != MainTab) {
             Table(connection, table).DeleteWhere("TabIndex", number);
         }
     }
 }
 
+/// The sheet numbers from `least` to `most` under which a table has rows.
+std::set<Double> NumbersInUse(Connection& connection, Integer least, Integer most) {
+    std::set<Double> numbers;
+    for (const std::string_view name : TablesBySheet()) {
+        if (!KindOf(connection, name).empty()) {
+            Table table(connection, name);
+            if (table.HasField("TabIndex")) {
+                numbers.merge(table.NumbersBetween("TabIndex", least, most));
+            }
+        }
+    }
+    return numbers;
+}
+
 } // namespace
 
-std::optional<Integer> FindSheetNumber(Connection& connection, std::string_view project) {
-    const auto sheets = Table(connection, MainTab).RowsWhere("ProjName", TextValue(project));
-    if (sheets.empty()) {
-        return std::nullopt;
+StoredProject ReadStored(Connection& connection, std::string_view project) {
+    StoredProject stored;
+    stored.Sheets = Table(connection, MainTab).RowsShowing("ProjName", project);
+    if (!stored.Sheets.empty()) {
+        const QVariant& number = stored.Sheets.front().ValueIn("TabIndex");
+        stored.Rooms = Table(connection, InputData).RowsWhere("TabIndex", number, "ObjNum");
     }
-    const Double number = RequiredNumber(sheets.front(), "TabIndex");
+    return stored;
+}
+
+Integer SheetNumberOf(const StoredRow& sheet, std::string_view project) {
+    const Double number = RequiredNumber(sheet, "TabIndex");
+    const auto text = [&](const std::string& fault) {
+        return "The sheet of the project " + std::string(project) + " has the number " +
+               sheet.TextIn("TabIndex") + "; " + fault;
+    };
     if (std::abs(number) > GreatestNumber) {
-        RaiseOverflow("The sheet of the project " + std::string(project) + " has the number " +
-                      sheets.front().TextIn("TabIndex") + "; the greatest is " +
-                      TrimStr(GreatestNumber) + ".");
+        RaiseOverflow(text("the greatest is " + TrimStr(GreatestNumber) + "."));
+    }
+    if (number != std::floor(number)) {
+        throw DatabaseError(text("it must be a whole one."));
     }
     return CInt(number);
 }
 
+std::optional<Integer> FindSheetNumber(Connection& connection, std::string_view project) {
+    const auto sheets = Table(connection, MainTab).RowsShowing("ProjName", project);
+    return sheets.empty() ? std::nullopt : std::optional(SheetNumberOf(sheets.front(), project));
+}
+
 Integer NewSheetNumber(Connection& connection) {
-    const auto greatest = Table(connection, MainTab).Greatest("TabIndex");
-    if (!greatest || *greatest + 1 < 0) {
-        return 0;
-    }
-    if (*greatest >= GreatestNumber) {
+    const auto overflow = [] {
         RaiseOverflow("No sheet number is left: the greatest one, 32767, is in use.");
+    };
+    const auto greatest = Table(connection, MainTab).Greatest("TabIndex");
+    if (greatest && *greatest >= GreatestNumber) {
+        overflow();
     }
-    return CInt(*greatest + 1);
-}
-
-SheetsUnder::SheetsUnder(Connection& connection, Integer number, std::string_view project)
-    : project_(StoredName(project))
-    , sheets_(Table(connection, MainTab).RowsWhere("TabIndex", number)) {}
-
-bool SheetsUnder::IsOwn(const StoredRow& sheet) const {
-    return StoredName(sheet.TextIn("ProjName")) == project_;
-}
-
-const StoredRow* SheetsUnder::Own() const {
-    if (sheets_.empty()) {
-        return nullptr;
+    int number = greatest ? std::max<int>(CInt(*greatest + 1), 0) : 0;
+    // Rows without a sheet may be all that is left of somebody's rooms.
+    const auto inUse = NumbersInUse(connection, ToInteger(number), GreatestNumber);
+    while (inUse.contains(number)) {
+        ++number;
     }
-    const auto own = std::find_if(sheets_.begin(), sheets_.end(),
-                                  [this](const StoredRow& sheet) { return IsOwn(sheet); });
-    return own == sheets_.end() ? &sheets_.front() : &*own;
+    if (number > GreatestNumber) {
+        overflow();
+    }
+    return ToInteger(number);
 }
 
-std::vector<std::string> SheetsUnder::OtherProjects() const {
+std::vector<std::string> OtherProjectsUnder(Connection& connection, Integer number,
+                                            std::string_view project) {
     std::vector<std::string> others;
-    for (const StoredRow& sheet : sheets_) {
-        if (!IsOwn(sheet)) {
-            others.push_back(sheet.TextIn("ProjName"));
+    for (const StoredRow& sheet : Table(connection, MainTab).RowsWhere("TabIndex", number)) {
+        std::string name = sheet.TextIn("ProjName");
+        if (!EqualsIgnoringCase(name, project)) {
+            others.push_back(std::move(name));
         }
     }
     return others;
@@ -108,7 +147,6 @@ std::vector<std::string> SheetsUnder::OtherProjects() const {
 
 SheetContent ContentOf(const StoredRow& sheet) {
     const Double rooms = RequiredNumber(sheet, "ObjNum");
-    const Double number = RequiredNumber(sheet, "TabIndex");
     const Double scale = RequiredNumber(sheet, "DigScale");
     RequireGood(rooms >= 0 && rooms <= RoomCapacity, "ObjNum");
     RequireGood(scale > 0 && std::isfinite(scale), "DigScale");
@@ -116,7 +154,7 @@ SheetContent ContentOf(const StoredRow& sheet) {
     for (const char* field : {"PicScale", "MagScale", "ScaleTop", "ScaleLeft"}) {
         sheet.ValueIn(field);
     }
-    return {CInt(number), CInt(rooms), scale};
+    return {static_cast<std::size_t>(CInt(rooms)), scale};
 }
 
 Units EnteredUnitsOf(const StoredRow& sheet) {
@@ -126,31 +164,42 @@ Units EnteredUnitsOf(const StoredRow& sheet) {
     return metric == 1 ? Units::Metric : Units::Imperial;
 }
 
-Integer SheetNumberToSave(Connection& connection, const Project& project) {
-    const auto own = FindSheetNumber(connection, project.Name);
-    Integer number = own.value_or(project.Sheet);
-    if (number == NoSheet ||
-        !SheetsUnder(connection, number, project.Name).OtherProjects().empty()) {
-        number = NewSheetNumber(connection);
+std::vector<std::string> SheetFindings(const std::vector<StoredRow>& sheets, Integer number) {
+    if (sheets.size() < 2) {
+        return {};
     }
-    if (own) {
-        Table table(connection, MainTab);
-        for (const StoredRow& sheet : table.RowsWhere("ProjName", TextValue(project.Name))) {
-            if (sheet.NumberIn("TabIndex") != number) {
-                table.Change(sheet, "TabIndex", number);
-            }
-        }
+    std::string others;
+    for (auto sheet = sheets.begin() + 1; sheet != sheets.end(); ++sheet) {
+        const std::string other = sheet->TextIn("TabIndex");
+        others += (others.empty() ? "" : ", ") + (other.empty() ? "one without a number" : other);
     }
-    return number;
+    return {"Stored with more than one sheet, the first, number " + TrimStr(number) +
+            ", is used; not reached: " + others + "."};
 }
 
-void StoreSheet(Connection& connection, const Project& project, Units shown) {
+Integer SheetNumberToSave(Connection& connection, const Project& project,
+                          const std::vector<StoredRow>& sheets) {
+    const Integer number =
+        sheets.empty() ? project.Sheet : SheetNumberOf(sheets.front(), project.Name);
+    const bool isFree = sheets.empty()
+                            ? NumbersInUse(connection, number, number).empty()
+                            : OtherProjectsUnder(connection, number, project.Name).empty();
+    return isFree && number != NoSheet ? number : NewSheetNumber(connection);
+}
+
+void StoreSheet(Connection& connection, const Project& project,
+                const std::vector<StoredRow>& sheets, Units shown) {
     Table table(connection, MainTab);
     if (!table.HasField(EnteredMetricField)) {
         table.AddNumberField(EnteredMetricField);
     }
-    table.DeleteWhere("TabIndex", project.Sheet);
-    table.Add({
+    std::vector<StoredRow> replaced;
+    std::copy_if(sheets.begin(), sheets.end(), std::back_inserter(replaced),
+                 [&sheets](const StoredRow& sheet) {
+                     return sheet.ValueIn("TabIndex") == sheets.front().ValueIn("TabIndex");
+                 });
+    table.Delete(replaced);
+    const Table::Values values = {
         {"ProjName", TextValue(project.Name)},
         {"ObjNum", static_cast<int>(project.Rooms.size())},
         {"TabIndex", project.Sheet},
@@ -161,40 +210,24 @@ void StoreSheet(Connection& connection, const Project& project, Units shown) {
         {"ScaleTop", -500},
         {"ScaleLeft", -500},
         {EnteredMetricField, project.EnteredIn == Units::Metric ? 1 : 0},
-    });
+    };
+    table.Add(values, sheets.empty() ? nullptr : &sheets.front());
 }
 
-void DeleteSheetsOf(Connection& connection, const QVariant& project) {
-    for (const StoredRow& sheet : Table(connection, MainTab).RowsWhere("ProjName", project)) {
+void DeleteSheetsOf(Connection& connection, std::string_view project) {
+    Table table(connection, MainTab);
+    const auto sheets = table.RowsShowing("ProjName", project);
+    for (const StoredRow& sheet : sheets) {
         if (!sheet.NumberIn("TabIndex")) {
             throw DatabaseError("A project's sheet has no number; its data cannot be deleted.");
         }
-        DeleteRowsUnder(connection, sheet.IntegerIn("TabIndex"));
+        sheet.IntegerIn("TabIndex"); // a number past the greatest overflows
     }
-}
-
-void LeaveSharedNumbers(Connection& connection, const std::vector<std::string>& projects) {
-    std::set<std::string> leaving;
-    for (const std::string& project : projects) {
-        leaving.insert(StoredName(project));
-    }
-    const auto isLeaving = [&leaving](const StoredRow& sheet) {
-        return leaving.contains(StoredName(sheet.TextIn("ProjName")));
-    };
-
-    Table table(connection, MainTab);
-    const auto sheets = table.Rows();
-    // As texts, so that a number out of order in a row of another project stops no deletion.
-    std::set<std::string> others;
+    table.Delete(sheets);
     for (const StoredRow& sheet : sheets) {
-        if (!isLeaving(sheet)) {
-            others.insert(sheet.TextIn("TabIndex"));
-        }
-    }
-    others.erase(std::string()); // of sheets without a number
-    for (const StoredRow& sheet : sheets) {
-        if (isLeaving(sheet) && others.contains(sheet.TextIn("TabIndex"))) {
-            table.Change(sheet, "TabIndex", NewSheetNumber(connection));
+        const QVariant& number = sheet.ValueIn("TabIndex");
+        if (table.RowsWhere("TabIndex", number).empty()) {
+            DeleteRowsUnder(connection, number);
         }
     }
 }

@@ -19,34 +19,36 @@ namespace tarn {
 /// Stands for "no sheet" in older versions; never given to a sheet.
 inline constexpr Integer NoSheet = -100;
 
-/// The number of the project's first sheet; nothing when it has none. Raises DatabaseError when the
-/// sheet has no number, and "Overflow" for one past 32767.
+/// What is stored of a project: rows as they were read.
+struct StoredProject {
+    std::vector<StoredRow>
+        Sheets;                   ///< the first one counts; none for a project that was never saved
+    std::vector<StoredRow> Rooms; ///< those under the first sheet's number, by ObjNum
+};
+
+/// What is stored of the project that reads as that name, whatever the case of A to Z. Raises
+/// DatabaseError.
+StoredProject ReadStored(Connection& connection, std::string_view project);
+
+/// The number of a sheet. Raises DatabaseError when it has none or no whole one, and "Overflow" for
+/// one past 32767; `project` names the sheet for the user.
+Integer SheetNumberOf(const StoredRow& sheet, std::string_view project);
+
+/// The number of the project's first sheet; nothing when it has none. Raises as ReadStored and
+/// SheetNumberOf.
 std::optional<Integer> FindSheetNumber(Connection& connection, std::string_view project);
 
-/// The next free number: one above the greatest, at least 0. Raises "Overflow" past 32767.
+/// The next free number: one above the greatest sheet's, at least 0, or the next above that under
+/// which no table has rows. Raises DatabaseError, and "Overflow" past 32767.
 Integer NewSheetNumber(Connection& connection);
 
-/// The sheets under one number, as they stood when this was made.
-class SheetsUnder {
-  public:
-    SheetsUnder(Connection& connection, Integer number, std::string_view project);
-
-    /// The project's own sheet; the first one where none is its own. Null without any.
-    const StoredRow* Own() const;
-    /// The other projects that have a sheet under the number, as stored.
-    std::vector<std::string> OtherProjects() const;
-
-  private:
-    bool IsOwn(const StoredRow& sheet) const;
-
-    std::string project_;
-    std::vector<StoredRow> sheets_;
-};
+/// The other projects that have a sheet under the number, as they read. Raises DatabaseError.
+std::vector<std::string> OtherProjectsUnder(Connection& connection, Integer number,
+                                            std::string_view project);
 
 /// What a sheet says of its project.
 struct SheetContent {
-    Integer Number = 0;
-    Integer Rooms = 0; ///< 0 .. RoomCapacity
+    std::size_t Rooms = 0; ///< 0 .. RoomCapacity
     Double Scale = 0;
 };
 
@@ -55,25 +57,30 @@ struct SheetContent {
 SheetContent ContentOf(const StoredRow& sheet);
 
 /// In which units the sheet's rooms were entered: its EnteredMetric; where that is missing or null,
-/// the units that were in force when it was saved.
+/// the units that were in force when it was saved. Raises DatabaseError for a text in either field.
 Units EnteredUnitsOf(const StoredRow& sheet);
 
-/// The number under which to save the project: that of its sheet, or the one set aside for it, or,
-/// where another project has that number, the next free one. Sheets that the project has already
-/// are given the number.
-Integer SheetNumberToSave(Connection& connection, const Project& project);
+/// What is odd about the sheets of a project, the first of which has that number: a line that names
+/// those that are not reached; none for one sheet.
+std::vector<std::string> SheetFindings(const std::vector<StoredRow>& sheets, Integer number);
 
-/// Replace the sheets under Project::Sheet by one of the project; `shown` are the units in force.
-/// EnteredMetric is added to the table where it is missing. Raises DatabaseError.
-void StoreSheet(Connection& connection, const Project& project, Units shown);
+/// The number under which to save the project, of which `sheets` are stored: that of the first of
+/// them, or the one set aside for it, or, where that is in use, the next free one. Raises as
+/// SheetNumberOf and NewSheetNumber.
+Integer SheetNumberToSave(Connection& connection, const Project& project,
+                          const std::vector<StoredRow>& sheets);
 
-/// Delete every sheet of the project with all rows of its number in every table; a table that is
-/// not there is skipped.
-void DeleteSheetsOf(Connection& connection, const QVariant& project);
+/// Put a sheet of the project, with the number Project::Sheet, in the place of the first of the
+/// `sheets` that are stored of it, and of those that share its number; the others stay. `shown` are
+/// the units in force. EnteredMetric is added to the table where it is missing. Raises
+/// DatabaseError.
+void StoreSheet(Connection& connection, const Project& project,
+                const std::vector<StoredRow>& sheets, Units shown);
 
-/// Before `projects` are deleted by their sheet numbers: give each of their sheets that shares its
-/// number with another project the next free one. The room rows stay under the old number, since
-/// they do not tell whose they are.
-void LeaveSharedNumbers(Connection& connection, const std::vector<std::string>& projects);
+/// Delete every sheet of the project, with all rows under its number in every table; a table that
+/// is not there is skipped. Where another sheet has the number too, the rows stay: they do not tell
+/// whose they are. Raises DatabaseError, also for a sheet without a number and for a view in the
+/// place of a table, and "Overflow" for a number past 32767.
+void DeleteSheetsOf(Connection& connection, std::string_view project);
 
 } // namespace tarn

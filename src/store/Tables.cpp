@@ -2,6 +2,7 @@
 
 #include "base/Numbers.h"
 #include "base/Text.h"
+#include "files/QtText.h"
 #include "store/DatabaseError.h"
 
 #include <algorithm>
@@ -56,6 +57,21 @@ std::size_t RequirePlace(std::string_view field, const std::vector<std::string>&
     return place;
 }
 
+/// A text or a whole number as UTF-8.
+std::string TextOf(const QVariant& value) {
+    if (value.typeId() == QMetaType::QByteArray) {
+        return value.toByteArray().toStdString();
+    }
+    const QString text = value.toString();
+    // The toolkit writes a question mark for half of a surrogate pair, unless it comes this way.
+    return text.isValidUtf16() ? FromQt(text)
+                               : FromQt(QString::fromStdU32String(text.toStdU32String()));
+}
+
+[[noreturn]] void RaiseKept(const std::string& failing) {
+    throw DatabaseError(failing + ": the database keeps a row as it was.");
+}
+
 } // namespace
 
 StoredRow::StoredRow(std::shared_ptr<const Source> source, QVariant rowNumber, QVariantList values)
@@ -88,7 +104,7 @@ std::string StoredRow::TextIn(std::string_view field) const {
     if (value.isNull()) {
         return {};
     }
-    return IsReal(value) ? DecimalText(value.toDouble()) : value.toString().toStdString();
+    return IsReal(value) ? DecimalText(value.toDouble()) : StorableText(TextOf(value));
 }
 
 std::string StoredRow::Content() const {
@@ -144,6 +160,24 @@ std::vector<StoredRow> Table::RowsWhere(std::string_view field, const QVariant& 
     return Read(" WHERE " + std::string(field) + " = ?", {value}, order);
 }
 
+std::vector<StoredRow> Table::RowsShowing(std::string_view field, std::string_view text) {
+    const std::string name(field);
+    std::vector<StoredRow> rows;
+    if (text.find(Replacement) != std::string_view::npos) {
+        rows = Rows(); // what is replaced in reading stands there as something else
+    } else {
+        rows = RowsWhere(field, TextValue(text));
+        // A blob is no text, whatever it reads as; each is greater than x'', and no text is.
+        for (StoredRow& row : Read(" WHERE " + name + " >= x''", {}, {})) {
+            rows.push_back(std::move(row));
+        }
+    }
+    std::erase_if(rows, [field, text](const StoredRow& row) {
+        return !EqualsIgnoringCase(row.TextIn(field), text);
+    });
+    return rows;
+}
+
 std::vector<StoredRow> Table::Read(const std::string& condition, const QVariantList& values,
                                    std::string_view order) {
     LearnOfChanges();
@@ -173,18 +207,39 @@ std::optional<Double> Table::Greatest(std::string_view field) {
     return NumberOf(result.Rows.at(0).at(0), greatest);
 }
 
-void Table::Add(const Values& values) {
+std::set<Double> Table::NumbersBetween(std::string_view field, Double least, Double most) {
+    const std::string name(field);
+    const Result result = connection_.Run("SELECT DISTINCT " + name + " FROM " + name_ + " WHERE " +
+                                              name + " BETWEEN ? AND ?",
+                                          Failing(" cannot be read"), {least, most});
+    std::set<Double> numbers;
+    for (const QVariantList& row : result.Rows) {
+        numbers.insert(NumberOf(row.at(0), field).value());
+    }
+    return numbers;
+}
+
+void Table::Add(const Values& values, const StoredRow* place) {
     std::string names;
     std::string marks;
     QVariantList bound;
+    if (place != nullptr) {
+        names = "rowid";
+        marks = "?";
+        bound.push_back(place->rowNumber_);
+    }
     for (const auto& [field, value] : values) {
         RequirePlace(field, Fields(), name_);
         names += (names.empty() ? "" : ", ") + std::string(field);
         marks += marks.empty() ? "?" : ", ?";
         bound.push_back(value);
     }
-    RunOnRow("INSERT INTO " + name_ + " (" + names + ") VALUES (" + marks + ")",
-             Failing(" takes no new row"), bound);
+    const std::string failing = Failing(" takes no new row");
+    const std::string statement =
+        "INSERT INTO " + name_ + " (" + names + ") VALUES (" + marks + ")";
+    if (connection_.Run(statement, failing, bound).Affected != 1) {
+        throw DatabaseError(failing + ": the database leaves it out.");
+    }
 }
 
 void Table::Change(const StoredRow& row, std::string_view field, const QVariant& value) {
@@ -192,17 +247,41 @@ void Table::Change(const StoredRow& row, std::string_view field, const QVariant&
              Failing(" cannot be changed"), {value, row.rowNumber_});
 }
 
+void Table::Delete(const std::vector<StoredRow>& rows) {
+    const qint64 before = Count({}, {});
+    for (const StoredRow& row : rows) {
+        RunOnRow("DELETE FROM " + name_ + " WHERE rowid = ?", DeleteFailing(), {row.rowNumber_});
+    }
+    if (Count({}, {}) != before - static_cast<qint64>(rows.size())) {
+        RaiseKept(DeleteFailing()); // it put one back
+    }
+}
+
+qint64 Table::Count(const std::string& condition, const QVariantList& values) {
+    return connection_
+        .Run("SELECT count(*) FROM " + name_ + condition, Failing(" cannot be read"), values)
+        .Rows.at(0)
+        .at(0)
+        .toLongLong();
+}
+
 void Table::DeleteWhere(std::string_view field, const QVariant& value) {
-    for (const StoredRow& row : RowsWhere(field, value)) {
-        RunOnRow("DELETE FROM " + name_ + " WHERE rowid = ?", Failing(" cannot be deleted from"),
-                 {row.rowNumber_});
+    const std::string condition = " WHERE " + std::string(field) + " = ?";
+    const qint64 count = Count(condition, {value});
+    if (count == 0) {
+        return;
+    }
+    const Result deletion =
+        connection_.Run("DELETE FROM " + name_ + condition, DeleteFailing(), {value});
+    if (deletion.Affected != count || Count(condition, {value}) != 0) {
+        RaiseKept(DeleteFailing());
     }
 }
 
 void Table::RunOnRow(const std::string& statement, const std::string& failing,
                      const QVariantList& values) {
     if (connection_.Run(statement, failing, values).Affected != 1) {
-        throw DatabaseError(failing + ": the database keeps a row as it was.");
+        RaiseKept(failing);
     }
 }
 

@@ -8,6 +8,7 @@
 
 #include <memory>
 #include <optional>
+#include <set>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -37,7 +38,8 @@ class StoredRow {
     /// not fit.
     Integer IntegerIn(std::string_view field) const;
     Byte ByteIn(std::string_view field) const;
-    /// The text in a field, null as the empty text, a number as its decimal text.
+    /// The text in a field, null as the empty text, a number as its decimal text; with a
+    /// Replacement for what may not be stored, whoever stored it.
     std::string TextIn(std::string_view field) const;
     /// All that stands in the row, as bytes to be compared: two rows have the same where the same
     /// fields hold the same values of the same types. A null counts as a missing field.
@@ -72,16 +74,27 @@ class Table {
     /// The rows whose `field` is `value`, in the same order.
     std::vector<StoredRow> RowsWhere(std::string_view field, const QVariant& value,
                                      std::string_view order = {});
+    /// The rows whose `field` reads as `text`, whatever the case of A to Z, by row number. Found by
+    /// the field's index, unless the text holds a Replacement.
+    std::vector<StoredRow> RowsShowing(std::string_view field, std::string_view text);
     /// The greatest value of a field of numbers; nothing when no row has one.
     std::optional<Double> Greatest(std::string_view field);
+    /// The numbers from `least` to `most` that stand in a field.
+    std::set<Double> NumbersBetween(std::string_view field, Double least, Double most);
 
-    void Add(const Values& values);
-    /// Change or delete rows. A row that the database keeps as it was, such as for a trigger that
-    /// another program left in it, is a failure.
+    // A row that the database does not take, or keeps as it was, such as for a trigger that another
+    // program left in it, is a failure.
+
+    /// Add a row; with the row number of `place`, which is no longer there, where one is given.
+    void Add(const Values& values, const StoredRow* place = nullptr);
     void Change(const StoredRow& row, std::string_view field, const QVariant& value);
+    void Delete(const std::vector<StoredRow>& rows);
+    /// Delete all rows whose `field` is `value`, in one statement.
     void DeleteWhere(std::string_view field, const QVariant& value);
 
   private:
+    /// How many rows there are; with a condition, how many it holds for.
+    qint64 Count(const std::string& condition, const QVariantList& values);
     /// Run a statement that has to touch exactly one row.
     void RunOnRow(const std::string& statement, const std::string& failing,
                   const QVariantList& values);
@@ -93,6 +106,7 @@ class Table {
     void LearnOfChanges();
     const std::vector<std::string>& Fields();
     std::string Failing(std::string_view what) const { return name_ + std::string(what); }
+    std::string DeleteFailing() const { return Failing(" cannot be deleted from"); }
 
     Connection& connection_;
     std::string name_;

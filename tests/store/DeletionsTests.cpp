@@ -4,7 +4,11 @@
 
 #include <gtest/gtest.h>
 
+#include <csignal>
 #include <functional>
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 namespace tarn {
 namespace {
@@ -345,13 +349,31 @@ TEST_F(SharedNumbers, AnotherSheetsBadNumberStopsNoDeletion) {
     }
 }
 
-TEST_F(SharedNumbers, ADeletionThatNeedsANumberAndFindsNoneChangesNothing) {
+TEST_F(SharedNumbers, ADeletionNeedsNoNumber) {
     file.AddProject("HOUSES", "TOWER", 1, 1);
-    file.AddProject("MAY", "LAST", 32766);
-    const Lines sheets = Sheets();
-    EXPECT_THROW(store.DeleteDirectory("HOUSES"), RunTimeError) << "it needs two";
-    EXPECT_EQ(Sheets(), sheets);
+    file.AddProject("MAY", "LAST", 32767);
+    store.DeleteDirectory("HOUSES");
+    EXPECT_EQ(Sheets(), (Lines{"2|CABIN|1", "1|HUT|4", "32767|LAST|0"}));
     EXPECT_EQ(Rooms(), (Lines{"1|7", "2|1"}));
+}
+
+TEST_F(SharedNumbers, ARefusedDeletionChangesNothing) {
+    file.AddDirectory("A\"B");
+    file.AddProject("A\"B", "TOWER", 1, 1);
+    file.AddProject("MAY", "X\"Y", 1, 1);
+    const auto everything = [&] {
+        Lines all = Sheets();
+        for (const char* table : {"InputData", "ProjTab", "DirTab"}) {
+            for (const std::string& row : file.Rows("SELECT rowid, * FROM " + std::string(table))) {
+                all.push_back(row);
+            }
+        }
+        return all;
+    };
+    const Lines before = everything();
+    EXPECT_THROW(store.DeleteDirectory("A\"B"), DatabaseError);
+    EXPECT_THROW(store.DeleteProject("X\"Y"), DatabaseError);
+    EXPECT_EQ(everything(), before);
 }
 
 TEST_F(SharedNumbers, ADeletionThatFailsLeavesTheNumbersAsTheyWere) {
@@ -360,6 +382,152 @@ TEST_F(SharedNumbers, ADeletionThatFailsLeavesTheNumbersAsTheyWere) {
     EXPECT_THROW(store.DeleteDirectory("HOUSES"), DatabaseError);
     EXPECT_EQ(Sheets(), sheets);
     EXPECT_EQ(Rooms(), (Lines{"1|6", "2|1"}));
+}
+
+TEST_F(Deletions, ANumberWithAFractionTakesNoRowOfAnother) {
+    AddFullProject("KEEP", "ODD", 5);
+    for (const std::string_view table : SheetTables) {
+        file_.Run("UPDATE " + std::string(table) + " SET TabIndex = 2.4 WHERE TabIndex = 5");
+    }
+    store_.DeleteProject("ODD");
+    EXPECT_EQ(NumbersInUse(), EveryTableHolds(" 2"));
+}
+
+TEST_F(Deletions, AProjectThatIsInAnotherDirectoryTooKeepsItsRooms) {
+    file_.AddDirectory("GONE");
+    file_.Run("INSERT INTO ProjTab VALUES ('GONE', 'KEPT', 0)");
+    store_.DeleteDirectory("GONE");
+    EXPECT_EQ(NumbersInUse(), EveryTableHolds(" 2"));
+    EXPECT_EQ(file_.Rows("SELECT Dir, ProjName FROM ProjTab"), Lines{"KEEP|KEPT"});
+    store_.DeleteDirectory("KEEP");
+    EXPECT_EQ(NumbersInUse(), EveryTableHolds(""));
+}
+
+TEST_F(Deletions, EmptyTheTableOfOrdersWhereThereIsOne) {
+    file_.Run("CREATE TABLE OrderData (TabIndex INTEGER, Carpet INTEGER)");
+    file_.Run("INSERT INTO OrderData VALUES (2, 0), (2, 1), (3, 0)");
+    store_.DeleteProject("KEPT");
+    EXPECT_EQ(file_.Rows("SELECT * FROM OrderData"), Lines{"3|0"});
+}
+
+TEST_F(Deletions, ChangeNothingWhereARowIsSilentlyKept) {
+    const Lines before = Everything();
+    Lines tables = TablesOfADeletion;
+    tables.emplace_back("DirTab");
+    for (const std::string& table : tables) {
+        file_.Run("CREATE TRIGGER Keep BEFORE DELETE ON " + table +
+                  " BEGIN SELECT RAISE(IGNORE); END");
+        EXPECT_EQ(DatabaseErrorOf([&] { store_.DeleteDirectory("KEEP"); }),
+                  table + " cannot be deleted from: the database keeps a row as it was.");
+        EXPECT_EQ(Everything(), before) << table;
+        file_.Run("DROP TRIGGER Keep");
+    }
+    store_.DeleteDirectory("KEEP");
+    EXPECT_EQ(Everything(), Lines{});
+}
+
+TEST_F(Deletions, ChangeNothingWhereARowComesBack) {
+    const Lines before = Everything();
+    Lines tables = TablesOfADeletion;
+    tables.emplace_back("DirTab");
+    for (const std::string& table : tables) {
+        const std::string field = table == "ProjTab"  ? "ProjName"
+                                  : table == "DirTab" ? "Directory"
+                                                      : "TabIndex";
+        file_.Run("CREATE TRIGGER Again AFTER DELETE ON " + table + " BEGIN INSERT INTO " + table +
+                  " (" + field + ") VALUES (OLD." + field + "); END");
+        EXPECT_EQ(DatabaseErrorOf([&] { store_.DeleteDirectory("KEEP"); }),
+                  table + " cannot be deleted from: the database keeps a row as it was.");
+        EXPECT_EQ(Everything(), before) << table;
+        file_.Run("DROP TRIGGER Again");
+    }
+}
+
+TEST_F(Deletions, ChangeNothingWhereAViewStandsInThePlaceOfATable) {
+    for (const std::string_view table : SheetTables) {
+        const std::string name(table);
+        SCOPED_TRACE(name);
+        file_.Run("ALTER TABLE " + name + " RENAME TO Hidden");
+        file_.Run("CREATE VIEW " + name + " AS SELECT * FROM Hidden");
+        const Lines before = Everything();
+        EXPECT_THROW(store_.DeleteProject("KEPT"), DatabaseError);
+        EXPECT_THROW(store_.DeleteDirectory("KEEP"), DatabaseError);
+        file_.Run("CREATE TRIGGER Take INSTEAD OF DELETE ON " + name + " BEGIN SELECT 1; END");
+        EXPECT_THROW(store_.DeleteProject("KEPT"), DatabaseError);
+        EXPECT_EQ(Everything(), before);
+        file_.Run("DROP VIEW " + name);
+        file_.Run("ALTER TABLE Hidden RENAME TO " + name);
+    }
+    store_.DeleteProject("KEPT");
+    EXPECT_EQ(NumbersInUse(), EveryTableHolds(""));
+}
+
+TEST_F(Deletions, TakeNoLongForVeryManyRows) {
+    AddFullProject("KEEP", "FULL", 5);
+    RawDatabase raw(file_.Path());
+    raw.Run("WITH RECURSIVE n(i) AS (SELECT 2 UNION ALL SELECT i + 1 FROM n WHERE i < 200000) "
+            "INSERT INTO InputData (ObjNum, TabIndex) SELECT i, 5 FROM n");
+    store_.DeleteProject("FULL");
+    EXPECT_EQ(NumbersInUse(), EveryTableHolds(" 2"));
+}
+
+/// What a child process that deletes the directory KEEP comes to, when no file may grow beyond
+/// `limit` bytes: true for done, false for a DatabaseError.
+bool DeletesWithin(const TestDatabase& file, rlim_t limit) {
+    const pid_t child = fork();
+    if (child == 0) {
+        ProjectStore store = file.Open();
+        const rlimit bounds{limit, limit};
+        signal(SIGXFSZ, SIG_IGN);
+        setrlimit(RLIMIT_FSIZE, &bounds);
+        try {
+            store.DeleteDirectory("KEEP");
+            _exit(0);
+        } catch (const DatabaseError&) {
+            _exit(1);
+        }
+    }
+    int status = 0;
+    EXPECT_EQ(waitpid(child, &status, 0), child);
+    EXPECT_TRUE(WIFEXITED(status));
+    return WEXITSTATUS(status) == 0;
+}
+
+TEST_F(Deletions, ChangeNothingWhereverTheDiskFails) {
+    for (int project = 0; project < 20; ++project) {
+        AddFullProject("KEEP", "P" + std::to_string(project), 10 + project);
+    }
+    const Lines before = Everything();
+    constexpr rlim_t Step = 1400;
+    int failures = 0;
+    rlim_t limit = 0;
+    while (!DeletesWithin(file_, limit)) {
+        EXPECT_EQ(Everything(), before) << limit;
+        ++failures;
+        limit += Step;
+    }
+    EXPECT_GT(failures, 10);
+    EXPECT_EQ(Everything(), Lines{});
+}
+
+TEST_F(Deletions, ThatAreCutOffChangeNothing) {
+    AddFullProject("KEEP", "P", 5);
+    const Lines before = Everything();
+    store_ = ProjectStore();
+    const pid_t child = fork();
+    ASSERT_GE(child, 0);
+    if (child == 0) {
+        ProjectStore store = file_.Open();
+        store.InOneTransaction([&] {
+            store.DeleteDirectory("KEEP");
+            _exit(0);
+        });
+        _exit(1);
+    }
+    int status = 0;
+    ASSERT_EQ(waitpid(child, &status, 0), child);
+    ASSERT_EQ(status, 0) << "the child did not get as far as it should";
+    EXPECT_EQ(Everything(), before);
 }
 
 } // namespace

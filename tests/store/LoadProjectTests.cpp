@@ -187,10 +187,17 @@ TEST_F(LoadingAProject, FailsForASheetWithoutANumber) {
     EXPECT_THROW(store_.SheetOf("P"), DatabaseError);
 }
 
-TEST_F(LoadingAProject, FailsForASheetNumberThatIsNoneOfTheRooms) {
+TEST_F(LoadingAProject, FailsForASheetNumberThatIsNoWholeOne) {
     AddProject(2);
-    ChangeSheet("TabIndex = 5.4");
-    EXPECT_EQ(CauseOfFailure(), "The project's sheet, number 5, is missing.");
+    file_.AddProject("MARCH", "OTHER", 6, 4);
+    ChangeSheet("TabIndex = 5.5");
+    EXPECT_EQ(CauseOfFailure(),
+              "The sheet of the project P has the number 5.5; it must be a whole one.");
+    EXPECT_THROW(store_.SheetOf("P"), DatabaseError);
+    Project project;
+    project.Name = "P";
+    EXPECT_THROW(store_.Save(project, Units::Imperial), DatabaseError);
+    EXPECT_EQ(file_.Rows("SELECT count(*) FROM InputData"), Lines{"6"});
 }
 
 TEST_F(LoadingAProject, FailsForANameWithADoubleQuote) {
@@ -436,6 +443,36 @@ TEST_F(LoadingAProject, NamesTheRoomsThatMayBeThoseOfOtherProjects) {
     file_.Run("DELETE FROM InputData");
     file_.Run("UPDATE MainTab SET ObjNum = 0");
     EXPECT_EQ(Findings(), Lines{}) << "no room, no doubt";
+}
+
+TEST_F(LoadingAProject, NamesTheSheetsThatAreNotReached) {
+    AddProject(2);
+    file_.AddProject("MARCH", "P", 7, 1);
+    const LoadedProject loaded = store_.Load("P");
+    EXPECT_EQ(loaded.Findings, Lines{"Stored with more than one sheet, the first, number 5, is "
+                                     "used; not reached: 7."});
+    EXPECT_EQ(loaded.Value.Sheet, 5);
+    EXPECT_EQ(loaded.Value.Rooms.size(), 2U);
+    file_.Run("INSERT INTO MainTab (ProjName) VALUES ('p')");
+    EXPECT_EQ(Findings(), Lines{"Stored with more than one sheet, the first, number 5, is used; "
+                                "not reached: 7, one without a number."});
+    store_.Save(loaded.Value, Units::Imperial);
+    EXPECT_EQ(Findings().size(), 1U) << "a save does not hide it";
+    store_.AddProject("MARCH", "NEW");
+    EXPECT_EQ(store_.Load("NEW").Value.Sheet, 8) << "nor does a new project take its number";
+}
+
+TEST_F(LoadingAProject, ListsOnlySoManyRowsThatNoRoomCanHave) {
+    AddProject(1);
+    for (int row = 0; row < 23; ++row) {
+        AddRoom(std::to_string(600 + row) + ", 1, 1, '', '', 0, 0, 5");
+    }
+    std::string numbers = "600";
+    for (int row = 1; row < 20; ++row) {
+        numbers += ", " + std::to_string(600 + row);
+    }
+    EXPECT_EQ(Findings(), Lines{"Outside rooms 1 to 501, left out and dropped by SAVE: ObjNum " +
+                                numbers + " and 3 more."});
 }
 
 TEST_F(LoadingAProject, ReadsOneStateWhileAnotherProgramChangesIt) {

@@ -54,7 +54,6 @@ TEST(OpeningADatabase, MovesWithItsStore) {
     const TestDatabase file;
     ProjectStore store;
     store = file.Open();
-    ASSERT_TRUE(store.IsOpen());
     ProjectStore moved = std::move(store);
     moved.AddDirectory("MARCH");
     EXPECT_EQ(file.Rows("SELECT Directory FROM DirTab"), Lines{"MARCH"});

@@ -3,8 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include <filesystem>
-
 namespace tarn {
 namespace {
 
@@ -96,14 +94,6 @@ TEST_F(Projects, ADirectoryIsAddedInItsStoredForm) {
     store_.AddDirectory("  müller & söhne ");
     EXPECT_EQ(file_.Rows("SELECT Directory FROM DirTab"), Lines{"MÜLLER & SÖHNE"});
     EXPECT_TRUE(store_.HasDirectory("Müller & Söhne"));
-}
-
-TEST_F(Projects, AFileThatWasMovedMeanwhileIsToldFromAReadOnlyOne) {
-    const std::string away = file_.Folder().Path("away.mdb");
-    std::filesystem::rename(file_.Path(), away);
-    ExpectError([&] { store_.AddDirectory("HOUSES"); }, "was moved, deleted or replaced");
-    std::filesystem::rename(away, file_.Path());
-    EXPECT_NO_THROW(store_.AddDirectory("HOUSES"));
 }
 
 TEST_F(Projects, ADirectoryMayHoldADoubleQuote) {

@@ -98,7 +98,7 @@ TEST_F(SavingAProject, WritesEveryFieldOfItsRooms) {
 
 TEST_F(SavingAProject, AndLoadingItGivesItBack) {
     project_.Scale = 0.1;
-    project_.Rooms = {{120, 144, 11, 8, "101", "a\r\nb"},
+    project_.Rooms = {{120, 144, 11, 8, "101", "a\\b"},
                       {-1, 0, 255, 255, "DIR", "\""},
                       {32767, -32768, 7, 1, " blanks ", "ß"}};
     for (const Units entered : {Units::Imperial, Units::Metric}) {
@@ -306,7 +306,7 @@ TEST_F(SavingAProject, NeverGivesAProjectASecondSheet) {
 TEST_F(SavingAProject, LeavesANumberThatTwoProjectsShare) {
     file_.AddProject("MARCH", "OTHER", 5);
     EXPECT_EQ(Save().Sheet, 6);
-    EXPECT_EQ(Sheets(), (Lines{"5|OTHER|0", "6|P|4"}));
+    EXPECT_EQ(Sheets(), (Lines{"6|P|4", "5|OTHER|0"}));
     EXPECT_EQ(Widths(6), newWidths_);
     EXPECT_EQ(store_.SheetOf("P"), 6) << "what was saved is what opens next time";
 }
@@ -315,6 +315,7 @@ TEST_F(SavingAProject, KeepsItsUnitsWhenItLeavesASharedNumber) {
     for (const char* stored : {"EnteredMetric = 1", "EnteredMetric = NULL, TileLabelNUm = 1"}) {
         SCOPED_TRACE(stored);
         file_.Run("DELETE FROM MainTab");
+        file_.Run("DELETE FROM InputData");
         file_.AddProject("MARCH", "OTHER", 5);
         file_.AddProject("MARCH", "P", 5);
         file_.Run("UPDATE MainTab SET " + std::string(stored) + " WHERE ProjName = 'P'");
@@ -336,10 +337,62 @@ TEST_F(SavingAProject, OpensNextTimeAsItWasSavedThoughItHadTwoSheets) {
     file_.AddProject("MARCH", "P", 7, 1);
     ASSERT_EQ(store_.SheetOf("P"), 5) << "the first one counts";
     Save();
-    EXPECT_EQ(Sheets(), Lines{"5|P|4"});
+    EXPECT_EQ(Sheets(), (Lines{"5|P|4", "7|P|1"})) << "it is still said that there are two";
     EXPECT_EQ(store_.SheetOf("P"), 5);
     EXPECT_EQ(Widths(5), newWidths_);
     EXPECT_EQ(Widths(7), Lines{"100"}) << "no room is deleted that was not seen";
+}
+
+TEST_F(SavingAProject, PutsOneSheetInThePlaceOfThoseUnderOneNumber) {
+    file_.AddProject("MARCH", "P", 5, 0);
+    file_.AddProject("MARCH", "OTHER", 8);
+    Save();
+    EXPECT_EQ(Sheets(), (Lines{"5|P|4", "8|OTHER|0"}));
+}
+
+TEST_F(SavingAProject, LeavesRowsWithoutASheetAlone) {
+    // What another program left behind: nobody knows whose rooms they are.
+    file_.Run("INSERT INTO InputData VALUES (0, 77, 7, '', '', 0, 0, 6)");
+    SaveAsNew("NEW");
+    project_.Sheet = 6;
+    EXPECT_EQ(Save().Sheet, 7);
+    EXPECT_EQ(Widths(6), Lines{"77"});
+    SaveAsNew("NEWER");
+    project_.Sheet = store_.Load("NEWER").Value.Sheet;
+    EXPECT_EQ(Save().Sheet, 8);
+}
+
+TEST_F(SavingAProject, FailsWhereAViewStandsInThePlaceOfATable) {
+    for (const std::string table : {"MainTab", "InputData"}) {
+        SCOPED_TRACE(table);
+        file_.Run("ALTER TABLE " + table + " RENAME TO Hidden");
+        file_.Run("CREATE VIEW " + table + " AS SELECT * FROM Hidden");
+        EXPECT_THROW(Save(), DatabaseError);
+        file_.Run("DROP VIEW " + table);
+        file_.Run("ALTER TABLE Hidden RENAME TO " + table);
+        ExpectOldProject();
+    }
+}
+
+TEST_F(SavingAProject, IsNoSuccessWhenTheDatabaseSilentlyLeavesARowOut) {
+    for (const std::string table : {"MainTab", "InputData"}) {
+        file_.Run("CREATE TRIGGER Leave BEFORE INSERT ON " + table +
+                  " BEGIN SELECT RAISE(IGNORE); END");
+        EXPECT_EQ(DatabaseErrorOf([&] { Save(); }),
+                  table + " takes no new row: the database leaves it out.");
+        ExpectOldProject();
+        file_.Run("DROP TRIGGER Leave");
+    }
+}
+
+TEST_F(SavingAProject, KeepsWhatOtherProgramsHaveInTheRowsOfOtherProjects) {
+    file_.AddProject("MARCH", "OTHER", 6, 2);
+    const auto others = [&] {
+        return file_.Rows("SELECT rowid, * FROM InputData WHERE TabIndex = 6");
+    };
+    const Lines before = others();
+    Save();
+    EXPECT_EQ(others(), before);
 }
 
 TEST_F(SavingAProject, NeverStoresTheNumberThatMeansNoSheet) {

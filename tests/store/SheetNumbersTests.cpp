@@ -1,5 +1,6 @@
 #include "base/RunTimeError.h"
 #include "store/DatabaseFile.h"
+#include "store/Schema.h"
 #include "store/Sheets.h"
 #include "store/TestDatabase.h"
 
@@ -79,16 +80,44 @@ TEST_F(SheetNumbers, OfAProjectIsThatOfItsFirstSheet) {
     EXPECT_EQ(FindSheetNumber(*connection_, "Q"), std::nullopt);
 }
 
-TEST_F(SheetNumbers, UnderOneTheProjectsOwnSheetOrTheFirstCounts) {
+TEST_F(SheetNumbers, MayBelongToSeveralProjects) {
+    using Lines = std::vector<std::string>;
     file_.AddProject("MARCH", "A", 4, 2);
     file_.AddProject("MARCH", "p", 4, 3);
-    const auto roomsOf = [&](const char* project) {
-        return SheetsUnder(*connection_, 4, project).Own()->IntegerIn("ObjNum");
-    };
-    EXPECT_EQ(roomsOf("P"), 3);
-    EXPECT_EQ(roomsOf("NONE OF THEM"), 2) << "the first";
-    EXPECT_EQ(SheetsUnder(*connection_, 4, "P").OtherProjects(), std::vector<std::string>{"A"});
-    EXPECT_EQ(SheetsUnder(*connection_, 5, "P").Own(), nullptr);
+    EXPECT_EQ(OtherProjectsUnder(*connection_, 4, "P"), Lines{"A"});
+    EXPECT_EQ(OtherProjectsUnder(*connection_, 4, "NONE OF THEM"), (Lines{"A", "p"}));
+    EXPECT_EQ(OtherProjectsUnder(*connection_, 5, "P"), Lines{});
+}
+
+TEST_F(SheetNumbers, PassOverThoseUnderWhichAnyTableHasRows) {
+    file_.AddProject("MARCH", "A", 6);
+    int number = 7;
+    for (const std::string_view table : SheetTables) {
+        if (table != MainTab) {
+            file_.Run("INSERT INTO " + std::string(table) + " (TabIndex) VALUES (" +
+                      std::to_string(number++) + ")");
+        }
+    }
+    file_.Run("INSERT INTO InputData (TabIndex) VALUES (18), (NULL), ('many'), (99999), (-3)");
+    EXPECT_EQ(New(), 16);
+    file_.Run("CREATE TABLE OrderData (TabIndex INTEGER, Carpet INTEGER)");
+    file_.Run("INSERT INTO OrderData VALUES (16, 0)");
+    EXPECT_EQ(New(), 17);
+    file_.AddProject("MARCH", "B", 17);
+    EXPECT_EQ(New(), 19);
+}
+
+TEST_F(SheetNumbers, DoNotNeedTheTablesOfOlderVersions) {
+    file_.AddProject("MARCH", "A", 6);
+    file_.Run("DROP TABLE SAFill");
+    file_.Run("ALTER TABLE ESTTab RENAME COLUMN TabIndex TO Other");
+    EXPECT_EQ(New(), 7);
+}
+
+TEST_F(SheetNumbers, OverflowWhenRowsTakeTheLastOne) {
+    file_.AddProject("MARCH", "A", 32766);
+    file_.Run("INSERT INTO SFillCut VALUES (32767)");
+    EXPECT_THROW(New(), RunTimeError);
 }
 
 } // namespace

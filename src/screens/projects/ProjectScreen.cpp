@@ -105,9 +105,6 @@ std::string ProjectScreen::CurrentMonth() const {
 
 void ProjectScreen::OpenSelection() {
     ProjectStore& store = Shared().Store;
-    if (!store.IsOpen()) {
-        store = OpenStore(Shared().Folder); // such as a file that was locked at the start
-    }
     const int month = Shared().Today().month() - 1;
     const auto directories = store.Directories();
     const auto projects = store.Projects(CurrentMonth());
