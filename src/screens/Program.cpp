@@ -54,4 +54,10 @@ void Program::Show(const QLocale& locale) {
     window_.show();
 }
 
+void Program::BackUp() {
+    // The change that it goes before is made all the same.
+    Guarded(boxes_, "There is no backup of the data as it was before this change.",
+            [this] { MakeBackup(WithNativeSeparators(folder_.DatabaseName)); });
+}
+
 } // namespace tarn

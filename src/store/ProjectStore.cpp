@@ -5,6 +5,7 @@
 #include "project/RoomEntry.h"
 #include "store/DatabaseFile.h"
 #include "store/FileIdentity.h"
+#include "store/Journal.h"
 #include "store/Names.h"
 #include "store/RoomRows.h"
 #include "store/Schema.h"
@@ -226,6 +227,8 @@ class ProjectStore::Impl {
         }
         const auto found = IdentityOf(source_->Path);
         if (connection_ && found && found == opened_) {
+            // The engine looks for a journal at each reading, not only at the first.
+            RequireOwnJournal(source_->Path);
             return;
         }
         // What is open is no longer the database: not a byte is written to it any more.

@@ -43,7 +43,7 @@ class RowWriter {
         , shape_(ShapeOf(table)) {}
 
     void Add(const std::vector<RawValue>& values) {
-        constexpr std::size_t AtOnce = 200;
+        constexpr std::size_t AtOnce = 10; // of more the driver compares all names of values
         for (const RawValue& value : values) {
             values_.push_back(VariantOf(value));
         }

@@ -4,6 +4,7 @@
 #include "store/Configuration.h"
 #include "store/DataFolder.h"
 #include "store/Names.h"
+#include "tools/CareCommands.h"
 #include "tools/DataCommands.h"
 #include "tools/Files.h"
 #include "tools/ToolMain.h"

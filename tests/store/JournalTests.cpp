@@ -218,6 +218,21 @@ TEST(ABackupCopiedOverTheFile, IsNeverMixedWithTheJournalOfACrash) {
     EXPECT_GE(refused, 30);
 }
 
+TEST(ABackupCopiedOverTheFile, IsNotMixedByAProgramThatHasTheFileOpenEither) {
+    const TestDatabase file;
+    FillWithRooms(file);
+    const std::string backup = ReadFile(file.Path());
+    file.Run("UPDATE InputData SET RoomW = 1");
+    const CutOffChange change = RecordChange(file.Path(), Changes[1]);
+    ProjectStore store = file.Open(ShortWait);
+    EXPECT_EQ(store.Directories(), Lines{});
+    WriteFile(file.Path(), backup);
+    WriteFile(file.Path() + "-journal", change.Journal);
+    EXPECT_NE(DatabaseErrorOf([&] { store.Directories(); }).find("another state of the file"),
+              std::string::npos);
+    EXPECT_EQ(ReadFile(file.Path()), backup);
+}
+
 TEST(ABackupCopiedOverTheFile, IsToldApartByItsMarkAloneWhereItsCounterWouldFit) {
     const TestDatabase file; // of one change, as a backup is
     const TestFolder copies;
