@@ -98,7 +98,9 @@ void ListProject(std::ostream& out, ProjectStore& store, const std::string& proj
     };
     out << "  " << ShownText(project);
     try {
-        ListRooms(out, store.Load(project));
+        // Without a sheet there is nothing to load, which takes longest where there are most
+        // projects.
+        ListRooms(out, store.SheetOf(project) ? store.Load(project) : LoadedProject());
     } catch (const DatabaseError& error) {
         tellCause(error.what());
     } catch (const RunTimeError& error) {

@@ -382,6 +382,8 @@ TEST_F(DataTool, HelpTellsEveryCommand) {
         EXPECT_TRUE(run.Out.contains(command)) << command;
     }
     EXPECT_TRUE(Data({S("import"), S("--help")}).Out.contains("--replace"));
+    EXPECT_TRUE(Data({S("export"), S("--help")}).Out.contains("--force"));
+    EXPECT_TRUE(run.Out.contains("at most 64 characters")) << run.Out.toStdString();
     EXPECT_EQ(Data({S("--version")}).Out.toStdString(), "tarn-data " TARN_VERSION "\n");
 }
 

@@ -367,10 +367,18 @@ TEST_F(EstimateTool, WrongUsageHasAStatusOfItsOwn) {
 TEST_F(EstimateTool, HelpTellsEveryOption) {
     const ToolRun run = Estimate({S("--help")});
     EXPECT_EQ(run.Status, 0);
-    for (const char* option : {"--database", "--project", "--rooms", "--metric", "--carpet",
-                               "--roll-width", "--lay", "--match", "--min-cut", "--max-pieces",
-                               "--text", "--json", "--svg", "--pdf", "--version", "Exit status"}) {
+    for (const char* option :
+         {"--database", "--project", "--rooms", "--metric", "--carpet", "--roll-width", "--lay",
+          "--match", "--min-cut", "--max-pieces", "--text", "--json", "--svg", "--pdf", "--force",
+          "--version", "Exit status"}) {
         EXPECT_TRUE(run.Out.contains(option)) << option;
+    }
+}
+
+TEST_F(EstimateTool, HelpTellsTheBoundsOfARoomFile) {
+    const QString help = QString::fromUtf8(Estimate({S("--help")}).Out).simplified();
+    for (const char* bound : {"at most 8 characters", "a remark 255", "501 rooms", "16 MB"}) {
+        EXPECT_TRUE(help.contains(QLatin1String(bound))) << bound << " in " << help.toStdString();
     }
 }
 
