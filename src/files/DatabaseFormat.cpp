@@ -25,7 +25,8 @@ bool IsDatabaseFile(const std::string& path) {
     QByteArray head(DatabaseHeadSize, '\0');
     std::ifstream file(path, std::ios::binary);
     file.read(head.data(), head.size());
-    return DatabaseFormatOf(head) != DatabaseFormat::None;
+    return DatabaseFormatOf(head) != DatabaseFormat::None ||
+           std::string_view(head.constData(), JournalSignature.size()) == JournalSignature;
 }
 
 } // namespace tarn

@@ -55,9 +55,9 @@ Descriptor Open(const std::string& path, std::chrono::milliseconds patience) {
         if (file.IsOpen()) {
             return file;
         }
-        const std::system_error error = LastError();
-        if (error.code().value() != EINTR && (error.code().value() != ENXIO || !IsPipe(path))) {
-            throw error;
+        const std::error_code error = LastError().code();
+        if (error.value() != EINTR && (error.value() != ENXIO || !IsPipe(path))) {
+            throw std::system_error(error);
         }
         if (std::chrono::steady_clock::now() >= end) {
             throw std::system_error(std::make_error_code(std::errc::timed_out));

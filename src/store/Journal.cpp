@@ -30,9 +30,6 @@ struct SegmentHead {
     quint32 PageSize = 0;
 };
 
-constexpr std::array<unsigned char, 8> JournalMagic = {0xD9, 0xD5, 0x05, 0xF9,
-                                                       0x20, 0xA1, 0x63, 0xD7};
-
 // Where the fields of a database file's head stand.
 constexpr qsizetype ChangeCounterAt = 24;
 constexpr qsizetype PageCountAt = 28;
@@ -57,8 +54,7 @@ QByteArray ReadAt(QFile& file, qint64 at, qint64 size) {
 
 std::optional<SegmentHead> HeadFrom(const QByteArray& bytes) {
     if (bytes.size() < SegmentHead::Size ||
-        !std::equal(JournalMagic.begin(), JournalMagic.end(),
-                    reinterpret_cast<const unsigned char*>(bytes.constData()))) {
+        std::string_view(bytes.constData(), JournalSignature.size()) != JournalSignature) {
         return std::nullopt;
     }
     return SegmentHead{NumberAt(bytes, 8), NumberAt(bytes, 12), NumberAt(bytes, 16),

@@ -304,7 +304,8 @@ TEST_F(OutputFile, TakesANameOfAnyBytes) {
 
 TEST_F(OutputFile, ReplacesADatabaseOnlyByForce) {
     for (const std::string& database :
-         {Database, std::string("\0\1\0\0Standard Jet DB", 19) + std::string(100, 'x')}) {
+         {Database, std::string("\0\1\0\0Standard Jet DB", 19) + std::string(100, 'x'),
+          std::string("\xD9\xD5\x05\xF9\x20\xA1\x63\xD7") + std::string(20, 'x')}) {
         Write("data.mdb", database);
         for (const Overwrite over : {Overwrite::Files, Overwrite::Chosen}) {
             EXPECT_EQ(Refusal(Path("data.mdb"), "new", over),
