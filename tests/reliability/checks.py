@@ -219,10 +219,10 @@ def require_whole_log(disk, folder):
         raise AssertionError(f"the log does not tell what became of {names}")
 
 
-def kill_while_saving(workshop, base, tally, dice, times):
+def kill_while_saving(workshop, tally, dice, times):
     """Kill a program that saves one version after the other, again and again on the same file: what
     was told to be saved is there, and nothing but whole versions."""
-    folder = workshop.copy(base, "saved")
+    folder = workshop.copy(workshop.base, "saved")
     database = os.path.join(folder, DATABASE)
     workshop.must(step("save", "MINE", "1", "1"), folder)
     last = 1
@@ -240,18 +240,19 @@ def kill_while_saving(workshop, base, tally, dice, times):
         last = found[0]
 
 
-def run_and_kill(command, home, dice, **variables):
-    """Run a program until a moment after its first line, and kill it; answers its lines."""
+def run_and_kill(command, home, dice, longest=0.02):
+    """Run a program until a moment after its first line, at most that many seconds, or before it;
+    then kill it. Answers its lines."""
     process = subprocess.Popen(
-        command, env=environment(home, **variables), stdin=subprocess.DEVNULL,
+        command, env=environment(home), stdin=subprocess.DEVNULL,
         stdout=subprocess.PIPE, stderr=subprocess.PIPE, bufsize=0,
     )
     if dice.random() < 0.8:
         first = process.stdout.readline()
-        time.sleep(dice.uniform(0, 0.02))
+        time.sleep(dice.uniform(0, longest))
     else:
         first = b""
-        time.sleep(dice.uniform(0, 0.05))
+        time.sleep(dice.uniform(0, 0.05 + longest))
     process.kill()
     rest, errors = process.communicate()
     if process.returncode != -signal.SIGKILL:

@@ -4,7 +4,7 @@ import collections
 import os
 import subprocess
 
-PROGRAMS = os.environ["TARN_PROGRAMS"]
+PROGRAMS = os.path.abspath(os.environ["TARN_PROGRAMS"])
 TROUBLED_DISK = os.path.join(PROGRAMS, "tests", "reliability", "tarn_troubled_disk.so")
 
 DYING = ("die-before", "die-amid", "die-after")

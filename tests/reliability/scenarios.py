@@ -23,7 +23,8 @@ STEPS = os.path.join(PROGRAMS, "tests", "reliability", "tarn_store_steps")
 
 
 class Workshop:
-    """A folder for everything that the tests make, and how its paths are written in a command."""
+    """A folder for everything that the tests make, and how its paths are written in a command. The
+    scenarios begin with a copy of its folder `base`."""
 
     def __init__(self):
         # In memory where there is such a place: the power is never really taken away, and a disk
@@ -34,6 +35,7 @@ class Workshop:
         self.home = os.path.join(self.root, "home")
         self.log = os.path.join(self.root, "log")
         os.mkdir(self.home, 0o700)
+        self.base = make_base(self)
 
     def __enter__(self):
         return self
@@ -98,9 +100,9 @@ class Scenario:
         self.again = again or command
         self.several = several
 
-    def set_up(self, workshop, base):
-        """Find out, on a copy of the folder `base`, what the command makes of it."""
-        self.start = workshop.copy(base, "start of " + self.name)
+    def set_up(self, workshop):
+        """Find out what the command makes of the folder."""
+        self.start = workshop.copy(workshop.base, "start of " + self.name)
         for command in self.prepare:
             workshop.must(command, self.start)
         self.before = contents(self.start)

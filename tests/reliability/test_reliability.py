@@ -5,7 +5,8 @@ import random
 import unittest
 
 import checks
-from scenarios import EVERYTHING, Workshop, make_base
+import screens
+from scenarios import EVERYTHING, Workshop
 
 SEED = 20260314
 
@@ -15,7 +16,6 @@ class Reliability(unittest.TestCase):
     def setUpClass(cls):
         cls.workshop = Workshop()
         cls.addClassCleanup(cls.workshop.__exit__)
-        cls.base = make_base(cls.workshop)
 
     def setUp(self):
         self.dice = random.Random(SEED)
@@ -28,7 +28,7 @@ class Reliability(unittest.TestCase):
         for scenario in EVERYTHING:
             with self.subTest(scenario.name):
                 tally = checks.Tally()
-                scenario.set_up(self.workshop, self.base)
+                scenario.set_up(self.workshop)
                 check(scenario, tally)
                 self.tally.add(tally)
                 self.assertTrue(tally.total(), "nothing was tried")
@@ -51,7 +51,7 @@ class Kills(Reliability):
         )
 
     def test_while_saving_lose_nothing_that_was_told_to_be_saved(self):
-        checks.kill_while_saving(self.workshop, self.base, self.tally, self.dice, 60)
+        checks.kill_while_saving(self.workshop, self.tally, self.dice, 60)
         self.assertFalse(self.tally.broken, "\n".join(self.tally.broken))
 
 
@@ -71,6 +71,12 @@ class PulledPlug(Reliability):
                 self.workshop, scenario, tally, self.dice, tries=1, share=0.05
             )
         )
+
+
+class Screens(Reliability):
+    def test_lose_nothing_that_they_said_was_saved(self):
+        screens.kill_while_working(self.workshop, self.tally, self.dice, 15)
+        self.assertFalse(self.tally.broken, "\n".join(self.tally.broken))
 
 
 if __name__ == "__main__":

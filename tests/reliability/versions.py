@@ -1,5 +1,5 @@
-"""The rooms that StoreSteps.cpp and ScreenSteps.cpp store: which version of a project a database
-holds, and whether it is there whole."""
+"""The rooms that StoreSteps.cpp and ScreenSteps.cpp store: which version of a project is stored, and
+whether it is there whole."""
 
 import sqlite3
 
@@ -13,8 +13,26 @@ def rooms_of_version(version):
     ]
 
 
-def version_in(path, project):
-    """The one version that is stored of the project; 0 for a project without rooms."""
+# Width, length and number of the rooms into which the screens type.
+TYPED = ((20, 212, "101"), (17, 155, "102"), (4, 186, "103"))
+
+
+def typed_rooms_of_version(version):
+    return [
+        (place, 12 * feet + version % 12, length, number, f"version {version}")
+        for place, (feet, length, number) in enumerate(TYPED)
+    ]
+
+
+def version_of(remarks):
+    """The one version that all rooms tell."""
+    if len(remarks) != 1:
+        raise Broken(f"rooms of several versions: {sorted(remarks)}")
+    return int(remarks.pop().split()[1])
+
+
+def version_in(path, project, rooms_of=rooms_of_version):
+    """The one version that is stored of the project."""
     database = sqlite3.connect(path)
     try:
         findings = database.execute("PRAGMA integrity_check").fetchall()
@@ -34,12 +52,7 @@ def version_in(path, project):
         raise Broken(f"the database cannot be read: {error}") from error
     finally:
         database.close()
-    if not rooms and count == 0:
-        return 0
-    remarks = {room[4] for room in rooms}
-    if len(remarks) != 1:
-        raise Broken(f"rooms of several versions: {sorted(remarks)}")
-    version = int(remarks.pop().split()[1])
-    if rooms != rooms_of_version(version) or count != len(rooms):
+    version = version_of({room[4] for room in rooms})
+    if rooms != rooms_of(version) or count != len(rooms):
         raise Broken(f"version {version} is not whole: {len(rooms)} rooms, {count} on the sheet")
     return version

@@ -1,0 +1,70 @@
+"""The program on its screens, killed while it works (ScreenSteps.cpp)."""
+
+import csv
+import glob
+import os
+
+from checks import run_and_kill
+from contents import Broken
+from disk import PROGRAMS
+from scenarios import DATABASE, data
+from versions import TYPED, typed_rooms_of_version, version_in
+
+STEPS = os.path.join(PROGRAMS, "tests", "reliability", "tarn_screen_steps")
+PROJECT = "WORK"
+
+
+def set_up(workshop):
+    """A data folder with the project into which the screens type, version 0 of it."""
+    folder = workshop.copy(workshop.base, "screens")
+    settings = workshop.folder("settings")
+    with open(os.path.join(settings, "TarnWin.INI"), "w", encoding="utf-8") as file:
+        file.write(f"[TarnWin Directory]\n{folder}\n")
+    rooms = os.path.join(workshop.root, "rooms.csv")
+    with open(rooms, "w", encoding="utf-8", newline="") as file:
+        lines = csv.writer(file)
+        lines.writerow(("width", "length", "covering", "base", "room", "remark"))
+        for feet, length, number in TYPED:
+            size = f"{length // 12}'{length % 12}\""
+            lines.writerow((f"{feet}'0\"", size, "C1", "", number, "version 0"))
+    workshop.must(
+        data("import", "--project", PROJECT, "--directory", "MARCH", "--replace", rooms), folder
+    )
+    return folder, settings
+
+
+def kill_while_working(workshop, tally, dice, times):
+    """Kill the program again and again, on the same files: what it said was saved is there, and
+    nothing but whole versions, in the database and in its backups."""
+    folder, settings = set_up(workshop)
+    last = 0
+    for _ in range(times):
+        lines = run_and_kill(
+            [STEPS, settings, str(last + 1)], workshop.home, dice, longest=0.3
+        )
+        told = [line.split() for line in lines]
+        saved = max((int(version) for word, version in told if word == "saved"), default=last)
+        found = []
+        tally.attempt(
+            "kills of the screens", f"screens, killed after version {saved} was told to be saved",
+            lambda saved=saved, found=found: found.append(_require(workshop, folder, saved)),
+        )
+        if not found:
+            return
+        last = found[0]
+
+
+def _require(workshop, folder, saved):
+    left = workshop.copy(folder, "left")
+    version = version_in(os.path.join(left, DATABASE), PROJECT, typed_rooms_of_version)
+    if version not in (saved, saved + 1):
+        raise Broken(f"version {version} is there")
+    _require_whole_backups(left, version)
+    return version
+
+
+def _require_whole_backups(folder, newest):
+    for path in glob.glob(os.path.join(folder, "BACKUP", "*.mdb")):
+        version = version_in(path, PROJECT, typed_rooms_of_version)
+        if version > newest:
+            raise Broken(f"{path} holds version {version}, which was never stored")
