@@ -62,7 +62,7 @@ struct Disk {
     Disk()
         : Folder(Variable("TROUBLED_FOLDER"))
         , WithData(!Variable("TROUBLED_DATA").empty())
-        , At(std::atol(Variable("TROUBLE_AT").c_str())) {
+        , At(std::strtol(Variable("TROUBLE_AT").c_str(), nullptr, 10)) {
         const std::string wanted = Variable("TROUBLE");
         for (const auto& [name, trouble] : Troubles) {
             if (name == wanted) {
