@@ -5,7 +5,6 @@
 #include "store/DatabaseError.h"
 
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 
 #include <algorithm>
@@ -54,6 +53,17 @@ void RemoveLeftOvers(const QString& folder) {
     }
 }
 
+/// Rename a file unless something stands at its new name. (The toolkit would copy a file that it
+/// cannot rename, and not have the copy stored on the disk.)
+bool MoveToNewName(const std::string& path, const std::string& target) {
+    if (::renameat2(AT_FDCWD, path.c_str(), AT_FDCWD, target.c_str(), RENAME_NOREPLACE) == 0) {
+        return true;
+    }
+    // A file system that knows no such renaming.
+    return (errno == EINVAL || errno == ENOSYS) && ::access(target.c_str(), F_OK) != 0 &&
+           ::rename(path.c_str(), target.c_str()) == 0;
+}
+
 } // namespace
 
 FileInMaking::FileInMaking(const std::string& target, Target kind)
@@ -95,20 +105,24 @@ void FileInMaking::Place() {
     } catch (const std::system_error& error) {
         Refuse(CauseOf(error.code()));
     }
-    const bool moved = kind_ == Target::New ? QFile::rename(QString::fromStdString(Path()), target_)
+    const bool moved = kind_ == Target::New ? MoveToNewName(Path(), target)
                                             : std::rename(Path().c_str(), target.c_str()) == 0;
     if (!moved) {
         Refuse("it cannot be moved into its folder, or another program made it meanwhile");
     }
-    placed_ = true;
     try {
         for (const auto& made : madeFolders_) {
             SynchroniseFolder(made.parent_path().string());
         }
         SynchroniseFolder(folder);
     } catch (const OutputFileError& error) {
-        throw DatabaseError(error.what());
+        if (kind_ == Target::New) {
+            ::unlink(target.c_str());
+            throw DatabaseError(error.what());
+        }
+        throw DatabaseError(std::string(error.what()) + " The new file may be there all the same.");
     }
+    placed_ = true;
 }
 
 void FileInMaking::SetPermissions() const {

@@ -40,9 +40,9 @@ void Say(const std::string& text) {
 struct Boxes : FakeBoxes {
     bool IsSaved = false;
 
-    void Message(const std::string& text) override {
+    void Message(const std::string& text, const std::string& informative) override {
         if (text != SavedMessage) {
-            std::cerr << "tarn_screen_steps: " << text << '\n';
+            std::cerr << "tarn_screen_steps: " << text << ' ' << informative << '\n';
             std::_Exit(Refused); // an exception does not pass the toolkit
         }
         IsSaved = true;

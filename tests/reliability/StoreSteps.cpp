@@ -2,6 +2,7 @@
 // away: what the screens store, without a screen. After each change that is stored, its name or the
 // number of the version is a line on standard output.
 
+#include "store/Backups.h"
 #include "store/Drafts.h"
 #include "store/ProjectStore.h"
 #include "tools/ToolMain.h"
@@ -54,17 +55,32 @@ void SaveVersions(ProjectStore& store, const Arguments& arguments) {
     }
 }
 
+/// A moment of the one day on which all this happens.
+QDateTime Moment(const std::string& minute) {
+    return {QDate(2026, 3, 14), QTime(9, std::stoi(minute)), Qt::UTC};
+}
+
 /// draft FOLDER NAME PROJECT VERSION: the rooms of a version as a draft in a file of that name.
 void KeepDraft(const std::string& database, const Arguments& arguments) {
     const std::string& folder = arguments.at(0);
     Draft draft;
     draft.Rooms = RoomsOfVersion(std::stoi(arguments.at(3)));
-    const QDateTime now(QDate(2026, 3, 14), QTime(9, 30), Qt::UTC);
-    Drafts(folder, database).Write(folder + '/' + arguments.at(1), arguments.at(2), draft, now);
+    Drafts(folder, database)
+        .Write(folder + '/' + arguments.at(1), arguments.at(2), draft, Moment("30"));
 }
 
 /// Take one step, STEP ARGUMENT..., and say its name.
 void TakeStep(const std::string& database, const std::string& step, const Arguments& arguments) {
+    if (step == "make-backup") { // MINUTE
+        MakeBackup(database, Moment(arguments.at(0)));
+        Say(step);
+        return;
+    }
+    if (step == "restore") { // BACKUP MINUTE
+        RestoreBackup(FindBackup(arguments.at(0), database), database, Moment(arguments.at(1)));
+        Say(step);
+        return;
+    }
     ProjectStore store(database, DatabaseAccess::ReadWrite);
     if (step == "save") {
         SaveVersions(store, arguments);

@@ -8,7 +8,7 @@ import signal
 import subprocess
 import time
 
-from contents import Broken, contents
+from contents import Broken
 from disk import (
     DYING, FAILING, FOLDER, Disk, environment, lay_out, read_log, steps_in, trouble_in, troubled,
 )
@@ -73,7 +73,7 @@ def _kill_at_step(workshop, scenario, way, step):
 def _require_whole_and_repeatable(workshop, scenario, folder):
     # The next run is on what the kill left: the look at the database takes a cut-off change back.
     left = workshop.copy(folder, "left")
-    scenario.require_whole(contents(folder))
+    scenario.require_whole(scenario.look(folder))
     scenario.require_repeatable(workshop, left)
 
 
@@ -100,7 +100,7 @@ def _kill_after(workshop, scenario, moment):
     process.kill()
     errors = process.communicate()[1].decode()
     if process.returncode == 0:
-        scenario.require_done(contents(folder))
+        scenario.require_done(scenario.look(folder))
     elif process.returncode != -signal.SIGKILL:
         raise Broken(f"ended with {process.returncode}: {errors}")
     _require_whole_and_repeatable(workshop, scenario, folder)
@@ -134,7 +134,7 @@ def _fail_at_step(workshop, scenario, tally, way, step):
 
 
 def _require_old_or_new(workshop, scenario, way, done, disk, records):
-    found = contents(disk.folder)
+    found = scenario.look(disk.folder)
     if done.status == 0:
         scenario.require_done(found)
         _require_on_disk(workshop, scenario, disk, records)
@@ -157,17 +157,17 @@ def _require_on_disk(workshop, scenario, disk, records):
     """What was reported as done outlasts the power."""
     for record in records:
         disk.play(record)
-    scenario.require_done(_contents_of(workshop, disk.after_loss()))
+    scenario.require_done(_contents_of(workshop, scenario, disk.after_loss()))
 
 
-def _contents_of(workshop, files):
+def _contents_of(workshop, scenario, files):
     folder = workshop.folder("lost")
     lay_out(files, folder)
-    return contents(folder)
+    return scenario.look(folder)
 
 
 def _require_whole_after_loss(workshop, scenario, left, repeats):
-    scenario.require_whole(_contents_of(workshop, left))
+    scenario.require_whole(_contents_of(workshop, scenario, left))
     if repeats:
         folder = workshop.folder("lost")
         lay_out(left, folder)
@@ -199,7 +199,7 @@ def pull_plug(workshop, scenario, tally, dice, tries, share):
     require_whole_log(disk, start)
     tally.attempt(
         "pulled plugs", f"{scenario.name}, power lost after the end",
-        lambda: scenario.require_done(_contents_of(workshop, disk.after_loss())),
+        lambda: scenario.require_done(_contents_of(workshop, scenario, disk.after_loss())),
     )
 
 

@@ -12,13 +12,14 @@ class Broken(AssertionError):
 
 
 def rows_of_database(path):
-    """{table: rows in their order}. What a crash cut off is taken back by opening the file."""
+    """(table, its rows) for each table, or the faults of a database that is damaged. What a crash
+    cut off is taken back by opening the file."""
     try:
         database = sqlite3.connect(path)
         try:
             findings = database.execute("PRAGMA integrity_check").fetchall()
             if findings != [("ok",)]:
-                raise Broken(f"{path} is damaged: {findings}")
+                return (("DAMAGED", tuple(findings)),)
             tables = database.execute(
                 "SELECT name FROM sqlite_master WHERE type = 'table' ORDER BY name"
             ).fetchall()
@@ -29,7 +30,7 @@ def rows_of_database(path):
         finally:
             database.close()
     except sqlite3.Error as error:
-        raise Broken(f"{path} cannot be read: {error}") from error
+        return (("DAMAGED", (str(error),)),)
 
 
 def is_database(path):
