@@ -4,6 +4,8 @@
 #include "Fuzzing.h"
 #include "TemporaryFolder.h"
 #include "base/RunTimeError.h"
+#include "base/Text.h"
+#include "store/Check.h"
 #include "store/Connection.h"
 #include "store/DatabaseError.h"
 #include "store/Names.h"
@@ -198,8 +200,10 @@ void CheckDeleting(ProjectStore& store, const std::string& name) {
     const bool deleted = Try([&] { return store.DeleteProject(name), true; }).has_value();
     const Content after = ContentOf(store);
     RequireOthersKept(before, after, name);
-    Require(deleted ? !store.DirectoryOf(name).has_value() : after == before,
-            "a project is deleted whole or not at all");
+    Require(deleted || after == before, "a project is deleted whole or not at all");
+    for (const auto& [directory, left] : store.AllProjects()) {
+        Require(!deleted || !EqualsIgnoringCase(left, name), "a deleted project is gone");
+    }
 }
 
 void CheckDatabase(FuzzInput input) {

@@ -1,4 +1,5 @@
 #include "Fuzzing.h"
+#include "base/Lengths.h"
 #include "base/Numbers.h"
 #include "base/RunTimeError.h"
 #include "estimate/CutList.h"
@@ -126,8 +127,10 @@ void CheckImproved(const Project& project, const Estimate& estimate, std::uint64
     const ImprovedEstimate improved = ImproveEstimate(estimate, limits, nobody);
     RequireSound(project, improved.Value);
     const ImproveResult& result = improved.Result;
-    Require(result.Length <= result.StartLength, "an improved layout is never longer");
-    Require(EndOf(improved.Value.Fills.Layout) <= EndOf(estimate.Fills.Layout) + Hair,
+    Require(IsWithinTolerance(result.Length - result.StartLength),
+            "an improved layout is never longer");
+    Require(improved.Value.Fills.Length <= estimate.Fills.Length, "no more has to be ordered");
+    Require(EndOf(improved.Value.Fills.Layout) <= EndOf(estimate.Fills.Layout) + Tolerance + Hair,
             "its pieces end no later");
     Require(result.StartBelowRules || result.Bound <= static_cast<double>(result.Length) + Hair,
             "no layout is shorter than the bound");

@@ -1,6 +1,7 @@
 #include "store/Names.h"
 
 #include "Fuzzing.h"
+#include "base/Text.h"
 #include "files/QtText.h"
 #include "project/TypedText.h"
 #include "store/ProjectNames.h"
@@ -33,7 +34,7 @@ void CheckFitting(std::string_view text) {
     for (const long long length : {0LL, 1LL, MaxNameLength - 1, MaxNameLength, MaxNameLength + 1}) {
         const std::string fitting = FittingNameText(text, length);
         Require(ToQt(text).startsWith(ToQt(fitting)), "what fits is how the text begins");
-        Require(length + ToQt(fitting).size() <= std::max(length, MaxNameLength),
+        Require(length + Len(fitting) <= std::max(length, MaxNameLength),
                 "no name grows beyond the limit");
     }
 }

@@ -20,6 +20,8 @@ template <class... Cases>
 struct Overloaded : Cases... {
     using Cases::operator()...;
 };
+template <class... Cases>
+Overloaded(Cases...) -> Overloaded<Cases...>; // clang 14 finds it only so
 
 RawValue ValueFrom(const QVariant& value) {
     switch (value.typeId()) {

@@ -4,7 +4,7 @@
 #include "project/Coverings.h"
 #include "screens/ControlNames.h"
 #include "screens/OpenProject.h"
-#include "store/Schema.h"
+#include "store/Check.h"
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
