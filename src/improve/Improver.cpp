@@ -3,6 +3,7 @@
 #include "improve/Bounds.h"
 #include "improve/ColumnGeneration.h"
 #include "improve/MakePlan.h"
+#include "improve/PatternBounds.h"
 #include "improve/Searches.h"
 
 #include <algorithm>
@@ -32,8 +33,9 @@ class Improver {
         run_.RaiseBound(QuickBound(run_.Job()));
         starts_ = RankedStarts(run_, *plan_);
         if (!run_.IsLeast() && !run_.Stopped()) {
-            RelaxBars();
+            RaiseBounds();
         }
+
         for (int round = 0; !run_.IsLeast() && !run_.Stopped(); ++round) {
             LowerRoof();
             if (!run_.Stopped()) {
@@ -48,12 +50,16 @@ class Improver {
   private:
     std::int64_t Steps(Double share) const { return static_cast<std::int64_t>(effort_ * share); }
 
-    void RelaxBars() {
+    void RaiseBounds() {
         const Double seconds = run_.Limits().Seconds;
         const Double end = run_.Passed() + RelaxationShare * seconds;
-        run_.RaiseBound(BarRelaxationBound(run_.Job(), run_.Bound(), [&] {
-            return run_.Ask() && (seconds <= 0 || run_.Passed() < end);
-        }));
+        const auto goOn = [&] { return run_.Ask() && (seconds <= 0 || run_.Passed() < end); };
+        if (HasPattern(run_.Job())) {
+            run_.RaiseBound(PatternBound(run_.Job(), run_.Best().Length, goOn));
+        }
+        if (!run_.IsLeast() && !run_.Stopped()) {
+            run_.RaiseBound(BarRelaxationBound(run_.Job(), run_.Bound(), goOn));
+        }
     }
 
     /// Look for the lowest roof between the bound and the best below which all can be packed.
