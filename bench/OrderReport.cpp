@@ -2,12 +2,11 @@
 //
 //   tarn_order_report [JOBS [SECONDS]]
 //
-// prints, for JOBS (200) random jobs of SECONDS (2) each, the average gap by the kind of pattern and
-// the number of rooms; and the time to the first complete comparison of four widths and both lays.
+// prints, for JOBS (200) random jobs of SECONDS (2) each, the average gap by the kind of pattern
+// and the number of rooms; and the time to the first complete comparison of four widths and both
+// lays.
 
 #include "order/MakeOrder.h"
-
-#include <sys/resource.h>
 
 #include <chrono>
 #include <cstdlib>
@@ -16,6 +15,7 @@
 #include <map>
 #include <random>
 #include <string>
+#include <sys/resource.h>
 
 namespace {
 

@@ -16,11 +16,11 @@ namespace tarn {
 
 namespace {
 
-constexpr std::size_t MostRows = 250; ///< different fills beyond which it would take too long
-constexpr std::size_t FewFills = 80;  ///< up to here every fill has a row of its own
-constexpr Long LargestWidth = 4000;   ///< widths are rounded down to fit below
+constexpr std::size_t MostRows = 250;   ///< different fills beyond which it would take too long
+constexpr std::size_t FewFills = 80;    ///< up to here every fill has a row of its own
+constexpr Long LargestWidth = 4000;     ///< widths are rounded down to fit below
 constexpr Long LargestInColumns = 1000; ///< width up to which columns of a pattern are looked at
-constexpr Double PriceScale = 1e6;    ///< prices in whole numbers
+constexpr Double PriceScale = 1e6;      ///< prices in whole numbers
 constexpr Double Negligible = 1e-6;
 constexpr std::size_t ColumnsPerRow = 12; ///< a limit on the cross sections tried
 

@@ -82,8 +82,8 @@ void ColumnKnapsack::AddInColumns(std::size_t number, std::int64_t gain) {
         for (std::size_t uses = 0; uses <= Uses; ++uses) {
             for (std::size_t used = 0; used <= most; ++used) {
                 const std::size_t from = uses == Uses ? Uses : uses + used;
-                const auto wide = static_cast<std::size_t>(WidthOf(
-                    bundle, uses == Uses ? static_cast<std::size_t>(bundle.Copies) : used));
+                const auto wide = static_cast<std::size_t>(
+                    WidthOf(bundle, uses == Uses ? static_cast<std::size_t>(bundle.Copies) : used));
                 if (from > Uses || wide > width) {
                     continue;
                 }

@@ -59,7 +59,8 @@ class ColumnKnapsack {
     std::vector<Bundle> bundles_;
     std::size_t firstInColumns_ = 0; ///< bundle
     Table best_;
-    std::vector<std::uint8_t> taken_;  ///< by bundle and place in the table: 0, or how it was, from 1
+    std::vector<std::uint8_t>
+        taken_; ///< by bundle and place in the table: 0, or how it was, from 1
     std::vector<std::uint8_t> madeUse_; ///< by place: of what is before the first column
     std::vector<Long> chosen_;
 };

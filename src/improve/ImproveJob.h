@@ -28,8 +28,8 @@ struct ImproveFill {
 
 /// The repeat of a pattern; 0 for none in that direction.
 ///
-/// A piece that begins at (X, Y) of its room and lies at (x, y) shows the pattern shifted by (X - x,
-/// Y - y). Two pieces match when their shifts differ by k repeats across and a whole number of
+/// A piece that begins at (X, Y) of its room and lies at (x, y) shows the pattern shifted by (X -
+/// x, Y - y). Two pieces match when their shifts differ by k repeats across and a whole number of
 /// repeats along, with a half drop half a repeat more for odd k. Without a repeat across k is the
 /// difference of their strip numbers, and the shift across does not count.
 struct ImproveRepeat {

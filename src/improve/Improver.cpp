@@ -13,9 +13,10 @@ namespace tarn {
 
 namespace {
 
-constexpr Double FirstEffort = 3000;  ///< steps from one start in the first round
-constexpr Double EffortGrowth = 1.5;  ///< a round
-constexpr Double ShortenShare = 0.05; ///< of the steps from one start
+constexpr Double FirstEffort = 3000;       ///< steps from one start in the first round
+constexpr Double FirstPatternEffort = 500; ///< with a pattern, whose layouts take longer to try
+constexpr Double EffortGrowth = 1.5;       ///< a round
+constexpr Double ShortenShare = 0.05;      ///< of the steps from one start
 constexpr Double PolishShare = 0.05;
 constexpr Double RelaxationShare = 0.2; ///< of the seconds of a run at most
 constexpr std::size_t StartsPerRoof = 4;
@@ -114,7 +115,7 @@ class Improver {
     std::vector<PlanStart> starts_;
     std::size_t next_ = 0;       ///< start
     std::unique_ptr<Plan> best_; ///< the last that packed all below a roof
-    Double effort_ = FirstEffort;
+    Double effort_ = HasPattern(run_.Job()) ? FirstPatternEffort : FirstEffort;
 };
 
 } // namespace

@@ -27,10 +27,10 @@ struct PartTurn {
     bool FromEnd = false; ///< with a pattern: taken off the fill's far end
 };
 
-/// What a plan varies that divides fills. Every part that a fill may have holds a place in the order
-/// and a rule that says how long the part is; a fill's next part is laid when its turn comes, until
-/// the fill is used up. A division that leaves less than the minimum part on either side does not
-/// happen.
+/// What a plan varies that divides fills. Every part that a fill may have holds a place in the
+/// order and a rule that says how long the part is; a fill's next part is laid when its turn comes,
+/// until the fill is used up. A division that leaves less than the minimum part on either side does
+/// not happen.
 class PartTurns {
   public:
     /// `job` must outlive the turns.

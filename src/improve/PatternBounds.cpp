@@ -71,8 +71,8 @@ class StackSearch {
             sum_ += fill.Length;
             parities_.push_back(ParitiesOf(job_, fill));
             const std::size_t alone = rooms.size();
-            rooms_.push_back(fill.Room == NoRoom ? NoBase
-                                                 : rooms.try_emplace(fill.Room, alone).first->second);
+            rooms_.push_back(
+                fill.Room == NoRoom ? NoBase : rooms.try_emplace(fill.Room, alone).first->second);
         }
         bases_.assign(rooms.size(), Unknown);
         left_.assign(rooms.size(), 0);
@@ -190,9 +190,9 @@ class StackSearch {
     const std::function<bool()>& goOn_;
     Long sum_ = 0;
     std::vector<Parities> parities_;
-    std::vector<std::size_t> rooms_; ///< by fill
-    std::vector<Long> bases_;        ///< by room: the phase of its even columns
-    std::vector<Long> left_;         ///< by room: fills that are not laid yet
+    std::vector<std::size_t> rooms_;           ///< by fill
+    std::vector<Long> bases_;                  ///< by room: the phase of its even columns
+    std::vector<Long> left_;                   ///< by room: fills that are not laid yet
     std::map<std::vector<Long>, Long> failed_; ///< gaps with which a state cannot be gone on from
     std::size_t states_ = 0;
     bool gaveUp_ = false;

@@ -6,7 +6,8 @@
 
 namespace tarn {
 
-/// The first place at or behind `place` that is a whole number of `repeat` (1 or more) from `phase`.
+/// The first place at or behind `place` that is a whole number of `repeat` (1 or more) from
+/// `phase`.
 constexpr Long NextInPhase(Long place, Long phase, Long repeat) {
     const Long beyond = (phase - place) % repeat;
     return place + (beyond < 0 ? beyond + repeat : beyond);

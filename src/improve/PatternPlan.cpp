@@ -88,9 +88,10 @@ bool PatternPlan::IsClosing() const {
         return false;
     }
     const auto& open = turns_.Open();
-    const auto first = std::min_element(open.begin(), open.end(), [&](std::size_t a, std::size_t b) {
-        return turns_.NextOf(a).Place < turns_.NextOf(b).Place;
-    });
+    const auto first =
+        std::min_element(open.begin(), open.end(), [&](std::size_t a, std::size_t b) {
+            return turns_.NextOf(a).Place < turns_.NextOf(b).Place;
+        });
     return closes_[*first] != 0;
 }
 
@@ -211,8 +212,8 @@ void PatternPlan::Consider(std::size_t fill, const Gap& gap, const Walls& walls,
         choice.Place = turns_.NextOf(fill).Place;
         // On the roll's whole width all goes by the order: what is as wide as the roll is in no
         // hurry.
-        choice.Fit = gap.Width == Job().Width ? FitClass::Fits
-                                              : ClassOf(width == gap.Width, reach, walls);
+        choice.Fit =
+            gap.Width == Job().Width ? FitClass::Fits : ClassOf(width == gap.Width, reach, walls);
         if (choice.Fit == FitClass::Fits &&
             (width > widest || (Rule().NotAboveWall && reach > walls.Tall))) {
             continue;

@@ -30,7 +30,7 @@ class PatternPlan : public SkylinePlan {
   private:
     /// How much it counts that a part has to be moved along.
     enum class Leveling : std::uint8_t {
-        None,     ///< not at all
+        None, ///< not at all
         UnmovedFirst,
         LeastFirst,
         Count

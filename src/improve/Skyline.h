@@ -71,7 +71,8 @@ class Skyline {
         return x;
     }
 
-    /// Put a piece anywhere into the gap, up to a top above the gap's y. What is below it is closed.
+    /// Put a piece anywhere into the gap, up to a top above the gap's y. What is below it is
+    /// closed.
     void Cover(const Gap& gap, Long x, Long width, Long top) {
         std::size_t i = gap.Segment;
         const Long right = gap.X + gap.Width - (x + width);

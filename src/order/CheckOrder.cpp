@@ -72,8 +72,7 @@ class CandidateCheck {
   private:
     void CheckRoll() const {
         const RollChoice& roll = request_.Rolls.at(row_.Roll);
-        Require(std::abs(roll.Width - row_.RollWidth) < 1 &&
-                    row_.RollWidth <= roll.Width + 1e-6,
+        Require(std::abs(roll.Width - row_.RollWidth) < 1 && row_.RollWidth <= roll.Width + 1e-6,
                 "the roll's width is not its whole units");
         Require(row_.UsableWidth == row_.RollWidth - 2 * request_.Selvage,
                 "the usable width is not what the selvage leaves");
@@ -96,8 +95,8 @@ class CandidateCheck {
                 const Long net = std::min(across - left, usable);
                 const Long width = std::min(net + request_.TrimAcross, usable);
                 wanted_[{static_cast<Long>(i) + 1, strip}] = {
-                    width, along + request_.TrimAlong, net,   along,
-                    left,  strips,                     strip > 0 && strip == strips - 1};
+                    width,  along + request_.TrimAlong,      net, along, left,
+                    strips, strip > 0 && strip == strips - 1};
             }
         }
     }
@@ -137,9 +136,8 @@ class CandidateCheck {
     void CheckOverlaps() const {
         Pieces beside; // pieces, in their order along the roll, that may reach the next one
         for (const OrderPiece& piece : row_.Pieces) {
-            std::erase_if(beside, [&](const OrderPiece* each) {
-                return each->Y + each->Length <= piece.Y;
-            });
+            std::erase_if(
+                beside, [&](const OrderPiece* each) { return each->Y + each->Length <= piece.Y; });
             for (const OrderPiece* each : beside) {
                 Require(each->X + each->Width <= piece.X || piece.X + piece.Width <= each->X,
                         "pieces " + each->Label + " and " + piece.Label + " overlap");
@@ -149,9 +147,8 @@ class CandidateCheck {
     }
 
     void CheckStrip(const Wanted& strip, Pieces& parts) const {
-        std::sort(parts.begin(), parts.end(), [](const OrderPiece* a, const OrderPiece* b) {
-            return a->Part < b->Part;
-        });
+        std::sort(parts.begin(), parts.end(),
+                  [](const OrderPiece* a, const OrderPiece* b) { return a->Part < b->Part; });
         const std::string name = "the strip of piece " + parts.front()->Label;
         const auto count = static_cast<Long>(parts.size());
         Long end = 0;
@@ -200,7 +197,8 @@ class CandidateCheck {
         for (const OrderPiece& piece : row_.Pieces) {
             needed = std::max<Area>(needed, piece.Y + piece.Length);
         }
-        Require(figures.LengthNeeded == needed, "the length needed is not the end of the last piece");
+        Require(figures.LengthNeeded == needed,
+                "the length needed is not the end of the last piece");
         Require(figures.LeastLength <= needed, "the least length is above the length needed");
         CheckOrderedLength(needed);
         Require(figures.AreaBought == figures.Length * row_.RollWidth, "the area bought is wrong");
@@ -211,13 +209,16 @@ class CandidateCheck {
         CheckPrice();
     }
 
-    /// Not shorter than with its drift, in whole steps, and not a step longer than that.
+    /// The fewest whole steps that hold what is needed with its drift, which counts in ten
+    /// thousandths of a percent.
     void CheckOrderedLength(Area needed) const {
+        constexpr Area Whole = 100 * 10000;
         const Area ordered = row_.Figures->Length;
         const Double drift = request_.PatternDrift.value_or(request_.Pattern.Along > 0 ? 1 : 0);
-        const Double least = static_cast<Double>(needed) * (100 + drift) / 100;
-        Require(ordered % request_.Step == 0 && static_cast<Double>(ordered) > least - 1e-3 &&
-                    static_cast<Double>(ordered - request_.Step) < least + 1,
+        const auto more = static_cast<Area>(std::ceil(drift * 10000 - 1e-6));
+        const Area least = needed * (Whole + more);
+        Require(ordered % request_.Step == 0 && ordered * Whole >= least &&
+                    (ordered - request_.Step) * Whole < least,
                 "the length to be ordered is wrong");
     }
 
@@ -280,8 +281,7 @@ void CheckBest(const Order& order) {
     std::optional<std::size_t> best;
     for (std::size_t i = 0; i < order.Candidates.size(); ++i) {
         const auto& figures = order.Candidates[i].Figures;
-        if (figures &&
-            (!best || IsBetter(*figures, *order.Candidates[*best].Figures, priced))) {
+        if (figures && (!best || IsBetter(*figures, *order.Candidates[*best].Figures, priced))) {
             best = i;
         }
     }

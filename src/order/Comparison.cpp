@@ -64,14 +64,12 @@ std::vector<std::string> NotesOf(const Project& project, const OrderRequest& req
         notes.emplace_back("Nothing is allowed for trimming.");
     }
     const std::vector<Long> tight = RoomsWhere(strips, [&](const OrderStrip& strip) {
-        return strip.Number == strip.Count - 1 &&
-               strip.Width < strip.NetWidth + request.TrimAcross;
+        return strip.Number == strip.Count - 1 && strip.Width < strip.NetWidth + request.TrimAcross;
     });
     if (!tight.empty()) {
         notes.push_back("Less trim than asked for: " + RoomList(project, tight) + ".");
     }
-    const Long narrow =
-        request.In == Units::Metric ? NarrowFillCentimetres : NarrowFillInches;
+    const Long narrow = request.In == Units::Metric ? NarrowFillCentimetres : NarrowFillInches;
     const std::vector<Long> slivers = RoomsWhere(strips, [&](const OrderStrip& strip) {
         return strip.Count > 1 && strip.NetWidth < narrow;
     });
@@ -138,9 +136,9 @@ OrderFigures FiguresOf(const Project& project, const OrderRequest& request,
     const auto bought = static_cast<Double>(figures.AreaBought);
     figures.WastePercent = (bought - static_cast<Double>(figures.AreaRooms)) / bought * 100;
     if (const auto price = request.Rolls.at(candidate.Roll).Price) {
-        figures.Price = RoundedPrice(*price * bought /
-                                     (request.In == Units::Metric ? CentimetresInSquareMetre
-                                                                  : InchesInSquareYard));
+        figures.Price = RoundedPrice(
+            *price * bought /
+            (request.In == Units::Metric ? CentimetresInSquareMetre : InchesInSquareYard));
     }
     figures.Notes = NotesOf(project, request, candidate, strips);
     return figures;

@@ -86,8 +86,8 @@ class OrderMaker {
         candidate.RollWidth = WholeRollWidth(choice.Width);
         candidate.UsableWidth = UsableWidth(choice, order_.Request);
         candidate.Direction = lay;
-        OrderStrips strips = StripsOf(project_, order_.Carpet, order_.Request,
-                                      candidate.UsableWidth, lay);
+        OrderStrips strips =
+            StripsOf(project_, order_.Carpet, order_.Request, candidate.UsableWidth, lay);
         candidate.Refused = strips.Refused;
         if (strips.Refused.empty() && !strips.Strips.empty()) {
             rows_.push_back(std::make_unique<Row>(
@@ -196,8 +196,8 @@ class OrderMaker {
     void Take(const Row& row, RowFinding& found) {
         OrderCandidate& candidate = order_.Candidates[row.Candidate];
         candidate.Pieces = row.Layout.PiecesOf(std::move(found.Parts));
-        candidate.Figures = FiguresOf(project_, order_.Request, candidate, row.Layout.Strips(),
-                                      found.Least);
+        candidate.Figures =
+            FiguresOf(project_, order_.Request, candidate, row.Layout.Strips(), found.Least);
         RequireSound(CheckCandidate(project_, order_, row.Candidate));
     }
 

@@ -37,9 +37,9 @@ class OrderObserver {
 /// search finds, checked (see CheckOrder). Without a room of the carpet that has an area all rows
 /// have no piece, and there is no best one.
 ///
-/// Raises what the observer raises, once the search has ended; RunTimeError "Invalid procedure call"
-/// (5) for a request with a fault (see FaultOf), "Subscript out of range" for more rooms than a
-/// project holds, and "Internal error" when an order fails its check.
+/// Raises what the observer raises, once the search has ended; RunTimeError "Invalid procedure
+/// call" (5) for a request with a fault (see FaultOf), "Subscript out of range" for more rooms than
+/// a project holds, and "Internal error" when an order fails its check.
 Order MakeOrder(const Project& project, Byte carpet, const OrderRequest& request,
                 const OrderLimits& limits, OrderObserver& observer);
 

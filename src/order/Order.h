@@ -42,9 +42,9 @@ struct SeamTotal {
 /// The figures of one row of the comparison. Lengths are whole units, areas whole square units; see
 /// OrderArea.
 struct OrderFigures {
-    std::int64_t Length = 0;    ///< to be ordered
-    Long LengthNeeded = 0;      ///< the end of the last piece
-    Long LeastLength = 0;       ///< no layout by the same rules needs less
+    std::int64_t Length = 0; ///< to be ordered
+    Long LengthNeeded = 0;   ///< the end of the last piece
+    Long LeastLength = 0;    ///< no layout by the same rules needs less
     std::int64_t AreaBought = 0;
     std::int64_t AreaRooms = 0;
     std::int64_t AreaRoomsTrimmed = 0; ///< of the strips, with their trim

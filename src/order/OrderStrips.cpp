@@ -29,8 +29,8 @@ class RoomCutter {
         const Long rest = room.Width % usable_;
         const Long count = drops + (rest > 0 ? 1 : 0);
         if (room.Length + request_.TrimAlong > LongestStrip) {
-            return Refuse(room, "is too long: with its trim a strip may be " +
-                                    Text(LongestStrip) + " long.");
+            return Refuse(room, "is too long: with its trim a strip may be " + Text(LongestStrip) +
+                                    " long.");
         }
         if (result_.Strips.size() + static_cast<std::size_t>(count) > MostStrips) {
             result_.Refused = "There are more than " + TrimStr(static_cast<Long>(MostStrips)) +
@@ -74,8 +74,9 @@ class RoomCutter {
         }
         const std::string usable = "the roll's usable width of " + Text(usable_);
         if (drops > 1 && usable_ % repeat != 0) {
-            return Refuse(room, "cannot match: " + usable + " is not a whole number of repeats of " +
-                                    Text(repeat) + " across.");
+            return Refuse(room, "cannot match: " + usable +
+                                    " is not a whole number of repeats of " + Text(repeat) +
+                                    " across.");
         }
         if (NextInPhase(0, last.Begin, repeat) + last.Width > usable_) {
             return Refuse(room, "cannot match: its fill of " + Text(last.Width) +
@@ -107,8 +108,8 @@ OrderStrips StripsOf(const Project& project, Byte carpet, const OrderRequest& re
         }
         const auto number = static_cast<Long>(i);
         const bool down = lay == Lay::Down;
-        if (!cutter.Cut({number, down ? room.Width : room.Length,
-                         down ? room.Length : room.Width})) {
+        if (!cutter.Cut(
+                {number, down ? room.Width : room.Length, down ? room.Length : room.Width})) {
             break;
         }
     }

@@ -54,10 +54,9 @@ Fault FaultOfRolls(const OrderRequest& request) {
     for (const RollChoice& roll : request.Rolls) {
         const bool isNumber = std::isfinite(roll.Width) && roll.Width < LongestStrip + 1;
         if (!isNumber || WholeRollWidth(roll.Width) < 1) {
-            return OrderRequestFault{"roll", "A roll must be between " +
-                                                 OrderLengthText(1, request.In) + " and " +
-                                                 OrderLengthText(LongestStrip, request.In) +
-                                                 " wide."};
+            return OrderRequestFault{
+                "roll", "A roll must be between " + OrderLengthText(1, request.In) + " and " +
+                            OrderLengthText(LongestStrip, request.In) + " wide."};
         }
         if (roll.Price && (!std::isfinite(*roll.Price) || *roll.Price < 0)) {
             return OrderRequestFault{"price", "A price must be a number of 0 or more."};
@@ -82,14 +81,13 @@ Fault FaultOfLengths(const OrderRequest& request) {
     const auto fault = [&](const std::string& option, Long value, Long least, Long most) {
         return FaultOfLength(option, value, least, most, request.In);
     };
-    for (const Fault& found :
-         {fault("selvage", request.Selvage, 0, lengths.MostSelvage),
-          fault("trim along", request.TrimAlong, 0, lengths.MostTrim),
-          fault("trim across", request.TrimAcross, 0, lengths.MostTrim),
-          fault("shortest part", request.ShortestPart, 1, LongestStrip),
-          fault("pattern across", request.Pattern.Across, 0, LongestStrip),
-          fault("pattern along", request.Pattern.Along, 0, LongestStrip),
-          fault("step", request.Step, 1, lengths.MostStep)}) {
+    for (const Fault& found : {fault("selvage", request.Selvage, 0, lengths.MostSelvage),
+                               fault("trim along", request.TrimAlong, 0, lengths.MostTrim),
+                               fault("trim across", request.TrimAcross, 0, lengths.MostTrim),
+                               fault("shortest part", request.ShortestPart, 1, LongestStrip),
+                               fault("pattern across", request.Pattern.Across, 0, LongestStrip),
+                               fault("pattern along", request.Pattern.Along, 0, LongestStrip),
+                               fault("step", request.Step, 1, lengths.MostStep)}) {
         if (found) {
             return found;
         }
@@ -116,8 +114,8 @@ bool IsBetween(Double value, Double least, Double most) {
 
 Fault FaultOfNumbers(const OrderRequest& request) {
     if (request.MostParts < 1 || request.MostParts > MostPartsOfStrip) {
-        return OrderRequestFault{"parts", "A strip may have 1 to " + TrimStr(MostPartsOfStrip) +
-                                              " parts."};
+        return OrderRequestFault{"parts",
+                                 "A strip may have 1 to " + TrimStr(MostPartsOfStrip) + " parts."};
     }
     if (request.PatternDrift && !IsBetween(*request.PatternDrift, 0, MostDrift)) {
         return OrderRequestFault{"pattern drift", "The pattern drift must be 0 to 10 percent."};
@@ -143,9 +141,8 @@ Double DriftOf(const OrderRequest& request) {
 }
 
 std::optional<OrderRequestFault> FaultOf(const OrderRequest& request) {
-    for (const Fault& fault :
-         {FaultOfRolls(request), FaultOfLays(request), FaultOfLengths(request),
-          FaultOfHalfDrop(request.Pattern), FaultOfNumbers(request)}) {
+    for (const Fault& fault : {FaultOfRolls(request), FaultOfLays(request), FaultOfLengths(request),
+                               FaultOfHalfDrop(request.Pattern), FaultOfNumbers(request)}) {
         if (fault) {
             return fault;
         }

@@ -37,8 +37,8 @@ inline ImproveJob SmallFills(std::mt19937& random, Long parts) {
                       : RandomFills(random, 3, 4, std::min(parts, 3), 5);
 }
 
-/// Up to `most` rooms of one or more strips that have to match by a small repeat; whole-width strips
-/// first. Fills, and now and then whole rooms, may be laid in up to `parts` parts.
+/// Up to `most` rooms of one or more strips that have to match by a small repeat; whole-width
+/// strips first. Fills, and now and then whole rooms, may be laid in up to `parts` parts.
 inline ImproveJob RandomPattern(std::mt19937& random, Long most, Long width, Long parts,
                                 Long longest = 30, Long largestRepeat = 6) {
     ImproveJob job;

@@ -67,10 +67,8 @@ TEST(PatternStackBound, IsNeverAboveTheLeast) {
 // Drops of two rooms, two each, 16 and 20 beyond whole repeats of 24. In turns they leave 12 free.
 TEST(PatternStackBound, TriesEveryOrder) {
     ImproveJob job{144, 36, 1, 1000, {}, {0, 24, false}};
-    job.Fills = {{144, 136, 1, 0},
-                 {144, 136, 1, 0, 144, 1},
-                 {144, 92, 1, 1},
-                 {144, 92, 1, 1, 144, 1}};
+    job.Fills = {
+        {144, 136, 1, 0}, {144, 136, 1, 0, 144, 1}, {144, 92, 1, 1}, {144, 92, 1, 1, 144, 1}};
     EXPECT_EQ(PatternStackBound(job, Far, GoOn), 468);
     EXPECT_EQ(PatternStackBound(job, 460, GoOn), 460) << "no further than what is known";
     job.Repeat.HalfDrop = true;

@@ -6,8 +6,8 @@
 
 namespace tarn::testing {
 
-/// The least length of a small job with a pattern, found by trying every division of every fill, and
-/// every place of every part.
+/// The least length of a small job with a pattern, found by trying every division of every fill,
+/// and every place of every part.
 class LeastPatternLength {
   public:
     static Long Of(const ImproveJob& job) {

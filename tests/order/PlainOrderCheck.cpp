@@ -28,12 +28,12 @@ std::string CoverFault(const Project& project, const Order& order, const OrderCa
         const Sides sides = SidesOf(project, piece, row.Direction);
         auto& room = cells[piece.Room];
         room.resize(static_cast<std::size_t>(sides.Across * sides.Along), 0);
-        for (long long y = piece.RoomY; y < std::min<long long>(piece.RoomY + piece.Length,
-                                                                sides.Along);
-             ++y) {
-            const long long right = std::min<long long>(piece.RoomX + row.UsableWidth, sides.Across);
-            for (long long x = piece.RoomX; x < std::min<long long>(piece.RoomX + piece.Width, right);
-                 ++x) {
+        for (long long y = piece.RoomY;
+             y < std::min<long long>(piece.RoomY + piece.Length, sides.Along); ++y) {
+            const long long right =
+                std::min<long long>(piece.RoomX + row.UsableWidth, sides.Across);
+            for (long long x = piece.RoomX;
+                 x < std::min<long long>(piece.RoomX + piece.Width, right); ++x) {
                 ++room[static_cast<std::size_t>(y * sides.Across + x)];
             }
         }
@@ -118,10 +118,10 @@ std::string PieceFault(const Project& project, const Order& order, const OrderCa
     for (const OrderPiece& piece : row.Pieces) {
         const Sides sides = SidesOf(project, piece, row.Direction);
         const long long left = sides.Across - piece.RoomX;
-        const long long wide = left >= row.UsableWidth
-                                   ? row.UsableWidth
-                                   : std::min<long long>(row.UsableWidth,
-                                                         left + request.TrimAcross);
+        const long long wide =
+            left >= row.UsableWidth
+                ? row.UsableWidth
+                : std::min<long long>(row.UsableWidth, left + request.TrimAcross);
         if (piece.Width != wide) {
             return piece.Label + " is not as wide as it has to be";
         }
@@ -129,8 +129,8 @@ std::string PieceFault(const Project& project, const Order& order, const OrderCa
         if (last != (piece.RoomY + piece.Length == sides.Along + request.TrimAlong)) {
             return piece.Label + " does not end where it has to";
         }
-        const bool divisible = wide < row.UsableWidth &&
-                               (request.JoinRooms || sides.Across > row.UsableWidth);
+        const bool divisible =
+            wide < row.UsableWidth && (request.JoinRooms || sides.Across > row.UsableWidth);
         if (piece.Parts > 1 && (!divisible || piece.Parts > request.MostParts ||
                                 piece.Length < request.ShortestPart)) {
             return piece.Label + " must not be a part like that";

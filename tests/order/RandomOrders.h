@@ -33,8 +33,7 @@ inline Project RandomRooms(std::mt19937& random, Long most, Long longest) {
 
 /// A request with every option, for rolls of about `width` units.
 inline OrderRequest RandomRequest(std::mt19937& random, Long width) {
-    OrderRequest request =
-        DefaultOrderRequest(OneIn(random, 2) ? Units::Metric : Units::Imperial);
+    OrderRequest request = DefaultOrderRequest(OneIn(random, 2) ? Units::Metric : Units::Imperial);
     for (Long rolls = Between(random, 1, 3); rolls > 0; --rolls) {
         RollChoice roll;
         roll.Width = Between(random, width / 2, 2 * width) + 0.25 * Between(random, 0, 3);

@@ -64,14 +64,16 @@ TEST(OrderRequestFault, NamesTheOptionThatIsOutOfItsBounds) {
     const auto along = [](OrderRequest& r) -> Long& { return r.TrimAlong; };
     const auto across = [](OrderRequest& r) -> Long& { return r.TrimAcross; };
     const auto selvage = [](OrderRequest& r) -> Long& { return r.Selvage; };
-    const std::vector<Case> cases{
-        {"selvage", Units::Imperial, 6, selvage},    {"selvage", Units::Metric, 15, selvage},
-        {"trim along", Units::Imperial, 24, along},  {"trim along", Units::Metric, 60, along},
-        {"trim across", Units::Imperial, 24, across}, {"trim across", Units::Metric, 60, across},
-        {"pattern across", Units::Imperial, 32767,
-         [](OrderRequest& r) -> Long& { return r.Pattern.Across; }},
-        {"pattern along", Units::Imperial, 32767,
-         [](OrderRequest& r) -> Long& { return r.Pattern.Along; }}};
+    const std::vector<Case> cases{{"selvage", Units::Imperial, 6, selvage},
+                                  {"selvage", Units::Metric, 15, selvage},
+                                  {"trim along", Units::Imperial, 24, along},
+                                  {"trim along", Units::Metric, 60, along},
+                                  {"trim across", Units::Imperial, 24, across},
+                                  {"trim across", Units::Metric, 60, across},
+                                  {"pattern across", Units::Imperial, 32767,
+                                   [](OrderRequest& r) -> Long& { return r.Pattern.Across; }},
+                                  {"pattern along", Units::Imperial, 32767,
+                                   [](OrderRequest& r) -> Long& { return r.Pattern.Along; }}};
     for (const Case& each : cases) {
         SCOPED_TRACE(each.Option);
         const auto to = [&](Long value) {
