@@ -9,9 +9,8 @@ namespace tarn {
 
 namespace {
 
-bool IsControlOrBreak(QChar c) {
-    return IsControlCharacter(c.unicode()) || c.category() == QChar::Separator_Line ||
-           c.category() == QChar::Separator_Paragraph;
+bool IsBreak(QChar c) {
+    return c.category() == QChar::Separator_Line || c.category() == QChar::Separator_Paragraph;
 }
 
 } // namespace
@@ -22,7 +21,8 @@ std::string UpperCase(std::string_view text) {
 
 bool HoldsControlCharacter(std::string_view text) {
     const QString decoded = ToQt(text);
-    return std::any_of(decoded.begin(), decoded.end(), IsControlOrBreak);
+    return FindTextFault(text) != TextFault::None ||
+           std::any_of(decoded.begin(), decoded.end(), IsBreak);
 }
 
 bool HoldsForbiddenCharacter(std::string_view name) {
@@ -33,6 +33,10 @@ bool HoldsForbiddenCharacter(std::string_view name) {
 std::string NameTooLongText(std::string_view kind, std::string_view name) {
     return "The " + std::string(kind) + " name " + std::string(name) + " has more than " +
            TrimStr(MaxNameLength) + " characters.";
+}
+
+std::string ControlCharacterText(std::string_view kind) {
+    return "The " + std::string(kind) + " name holds a line break or another control character.";
 }
 
 std::string StoredName(std::string_view name) {

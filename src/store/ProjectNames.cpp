@@ -65,6 +65,9 @@ bool IsDirectoryTaken(ProjectStore& store, std::string_view name) {
 }
 
 std::optional<std::string> DirectoryNameRefusal(ProjectStore& store, std::string_view name) {
+    if (HoldsControlCharacter(name)) {
+        return ControlCharacterText("directory");
+    }
     if (Len(StoredName(name)) > MaxNameLength) {
         return NameTooLongText("directory", StoredName(name));
     }

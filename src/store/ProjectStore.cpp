@@ -70,6 +70,12 @@ class Step {
     bool kept_ = false;
 };
 
+void RequireNoControlCharacter(std::string_view kind, std::string_view name) {
+    if (HoldsControlCharacter(name)) {
+        throw DatabaseError(ControlCharacterText(kind));
+    }
+}
+
 /// The stored form of a name that is to be added. `kind` is what it names.
 std::string NewName(std::string_view kind, std::string_view name) {
     std::string stored = StoredName(name);
@@ -79,6 +85,7 @@ std::string NewName(std::string_view kind, std::string_view name) {
     if (Len(stored) > MaxNameLength) {
         throw DatabaseError(NameTooLongText(kind, stored));
     }
+    RequireNoControlCharacter(kind, name);
     return stored;
 }
 
@@ -87,9 +94,6 @@ std::string NewProjectName(std::string_view project) {
     if (name.find_first_of(ForbiddenInProjectName) != std::string::npos) {
         throw DatabaseError("The project name " + name + " holds one of the characters " +
                             std::string(ForbiddenInProjectName) + ".");
-    }
-    if (HoldsControlCharacter(name)) {
-        throw DatabaseError("The project name holds a line break or another control character.");
     }
     return name;
 }
@@ -304,6 +308,7 @@ void ProjectStore::AddDirectory(std::string_view name) {
 
 void ProjectStore::RenameDirectory(const std::string& oldName, const std::string& newName) {
     RequireUsable(oldName);
+    RequireNoControlCharacter("directory", newName);
     impl_->Change([&] {
         Connection& database = impl_->Database();
         Rename(database, DirTab, "Directory", oldName, StoredName(newName));
@@ -378,6 +383,7 @@ void ProjectStore::AddProject(std::string_view directory, std::string_view proje
 
 void ProjectStore::RenameProject(const std::string& oldName, const std::string& newName) {
     RequireUsable(oldName);
+    RequireNoControlCharacter("project", newName);
     impl_->Change([&] {
         Connection& database = impl_->Database();
         Rename(database, MainTab, "ProjName", oldName, StoredName(newName));

@@ -58,6 +58,9 @@ struct SaveResult {
 /// StoredName makes it. A name with a double quote can be found in a list, but not be used:
 /// neither renamed, deleted, loaded nor saved.
 ///
+/// A text that another program stored with a TextFault is given as ShownText, and a name is found
+/// by that. What is stored holds none: of rooms it is stored as it is shown, names are refused.
+///
 /// Before each action that is no part of a transaction the store looks whether the file at its path
 /// is still the one that it opened. Where another one was put in its place, or it was gone for a
 /// while, it is opened again, as at first: what stands there is what counts.
@@ -88,11 +91,13 @@ class ProjectStore {
     std::vector<std::string> Directories();
     bool HasDirectory(std::string_view name);
     /// Add a directory. Whether the name is taken is the caller's to check. Raises DatabaseError
-    /// for a name that is empty or longer than MaxNameLength.
+    /// for a name that is empty, longer than MaxNameLength or HoldsControlCharacter.
     void AddDirectory(std::string_view name);
-    /// Rename a directory and move its projects with it.
+    /// Rename a directory and move its projects with it. Raises DatabaseError for a new name that
+    /// HoldsControlCharacter.
     void RenameDirectory(const std::string& oldName, const std::string& newName);
-    /// Delete a directory, its projects and all their data. Raises and spares as DeleteProject.
+    /// Delete a directory, its projects and all their data; of a project that has a row in another
+    /// directory too, the row alone. Raises and spares as DeleteProject.
     void DeleteDirectory(const std::string& name);
 
     // --- projects ---
@@ -104,13 +109,14 @@ class ProjectStore {
     /// The directory of a project; nothing when there is no such project.
     std::optional<std::string> DirectoryOf(std::string_view project);
     /// Add a project without a sheet. As AddDirectory, for either name; raises DatabaseError also
-    /// for a project name with a character of ForbiddenInProjectName or a control character.
+    /// for a project name with a character of ForbiddenInProjectName.
     void AddProject(std::string_view directory, std::string_view project);
-    /// Rename a project and its sheet.
+    /// Rename a project and its sheets. Raises as RenameDirectory.
     void RenameProject(const std::string& oldName, const std::string& newName);
     /// Delete a project and all its data. Where it shares its sheet number with another project,
     /// the rooms stay: they do not tell whose they are. Raises DatabaseError for a sheet without a
-    /// number, and "Overflow" for one past 32767 and when a number is needed and none is left.
+    /// number, a view in the place of a table and a row that the database keeps, and "Overflow" for
+    /// a sheet number past 32767.
     void DeleteProject(const std::string& name);
 
     /// The project of that name with its rooms, all as it stands at one moment. One that was never

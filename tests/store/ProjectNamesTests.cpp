@@ -93,6 +93,8 @@ TEST_F(NewNames, ADirectoryIsRefusedForATakenOrALongName) {
     const std::string taken = "There is one directory with the same name, change to other one!";
     EXPECT_EQ(DirectoryNameRefusal(store, "houses"), taken);
     EXPECT_EQ(DirectoryNameRefusal(store, "MAY"), taken);
+    EXPECT_EQ(DirectoryNameRefusal(store, "A\tB"),
+              "The directory name holds a line break or another control character.");
     EXPECT_EQ(DirectoryNameRefusal(store, "A\"B:C"), std::nullopt);
     EXPECT_EQ(DirectoryNameRefusal(store, std::string(64, 'A')), std::nullopt);
     const std::string tooLong(65, 'A');

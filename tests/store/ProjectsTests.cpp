@@ -131,13 +131,19 @@ TEST_F(Projects, NamesMayNotBeEmpty) {
     EXPECT_EQ(file_.Rows("SELECT * FROM ProjTab"), Lines{});
 }
 
-TEST_F(Projects, AProjectNameHoldsNoControlCharacter) {
-    for (const char c : {'\0', '\t', '\n', '\x1F', '\x7F'}) {
-        ExpectError([&] { store_.AddProject("MARCH", std::string("A") + c + "B"); },
-                    "control character");
+TEST_F(Projects, NamesHoldNoControlCharacterAndNothingThatIsNone) {
+    for (const std::string& bad :
+         {std::string("\0", 1), std::string("\t"), std::string("\n"), std::string("\x1F"),
+          std::string("\x7F"), std::string("\u0085"), std::string("\u2028"), std::string("\uFFFE"),
+          std::string("\uFFFF"), std::string("\xED\xA0\x80"), std::string("\xFF")}) {
+        const std::string name = "A" + bad + "B";
+        ExpectError([&] { store_.AddProject("MARCH", name); }, "project name holds a line break");
+        ExpectError([&] { store_.AddProject(name, "P"); }, "directory name holds a line break");
+        ExpectError([&] { store_.AddDirectory(name); }, "directory name holds a line break");
     }
     EXPECT_EQ(file_.Rows("SELECT * FROM ProjTab"), Lines{});
-    EXPECT_NO_THROW(store_.AddProject("MARCH", "ÄÖ 浴室"));
+    EXPECT_EQ(file_.Rows("SELECT * FROM DirTab"), Lines{});
+    EXPECT_NO_THROW(store_.AddProject("MARCH", "ÄÖ 浴室 \U0001F3E0"));
 }
 
 TEST_F(Projects, AProjectNameHoldsNoForbiddenCharacter) {

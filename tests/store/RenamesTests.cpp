@@ -97,6 +97,16 @@ TEST_F(Renames, AnOldNameWithADoubleQuoteFailsAndChangesNothing) {
     ExpectNothingChanged();
 }
 
+TEST_F(Renames, ANewNameHoldsNoControlCharacterAndNothingThatIsNone) {
+    for (const char* name : {"A\tB", "A\nB", "A\uFFFE", "A\xFF"}) {
+        EXPECT_EQ(DatabaseErrorOf([&] { store_.RenameDirectory("D1", name); }),
+                  "The directory name holds a line break or another control character.");
+        EXPECT_EQ(DatabaseErrorOf([&] { store_.RenameProject("P1", name); }),
+                  "The project name holds a line break or another control character.");
+    }
+    ExpectNothingChanged();
+}
+
 TEST_F(Renames, AFailureInTheSecondTableTakesTheFirstBack) {
     file_.Run("CREATE TRIGGER Stop BEFORE UPDATE ON ProjTab WHEN OLD.ProjName = 'P3' "
               "BEGIN SELECT RAISE(ABORT, 'stop'); END");
