@@ -96,12 +96,22 @@ TEST_F(OpenProjects, SavedInFeetAndInchesKeepTheUnitsStored) {
     }
 }
 
-TEST_F(OpenProjects, SavedInFeetAndInchesForgetThatUnsavedRoomsWereTypedInMetric) {
+TEST_F(OpenProjects, SavedInFeetAndInchesRememberThatUnsavedRoomsWereTypedInMetric) {
     open.Now.EnteredIn = Units::Metric;
     open.Now.Rooms[0].Width = 321;
     SaveOpenProject(open, store);
-    open.Now.Rooms[0].Width = 322;
+    EXPECT_TRUE(open.IsInMetric());
+    EXPECT_EQ(file.Rows("SELECT TileLabelNUm, EnteredMetric FROM MainTab"), Lines{"0|1"});
+    Load();
+    EXPECT_TRUE(open.IsInMetric()) << "as stored";
+}
+
+TEST_F(OpenProjects, SavedWithAStrayTickStayInFeetAndInches) {
+    open.Shown = Units::Metric;
+    SaveOpenProject(open, store);
     EXPECT_FALSE(open.IsInMetric());
+    Load();
+    EXPECT_FALSE(open.IsInMetric()) << "as stored";
 }
 
 TEST_F(OpenProjects, KnowTheirNumberAndUnitsAfterLeavingASharedNumber) {

@@ -122,11 +122,14 @@ TEST_F(FailingProjects, AFileThatVanishesWhileTheProgramRunsLosesNothingTyped) {
     TypeNew("HUT");
     std::filesystem::rename(file.Path(), away);
     Click(Button(Controls::acceptProject));
-    ExpectMessage("The project could not be selected.",
-                  "was moved, deleted or replaced while it was open");
+    ExpectMessage("The project could not be selected.", file.Path() + " is missing.");
     EXPECT_EQ(BoxText(), "HUT");
     EXPECT_TRUE(screens.Calls.empty());
     EXPECT_FALSE(std::filesystem::exists(file.Path())) << "no other file is made";
+    std::filesystem::rename(away, file.Path());
+    Click(Button(Controls::acceptProject));
+    EXPECT_TRUE(boxes.Messages.empty());
+    EXPECT_EQ(screens.Calls.size(), 1U) << "it goes on when the file is back";
 }
 
 TEST_F(FailingProjects, ALockedDatabaseKeepsDirectoriesAndProjectsAsTheyAre) {
