@@ -79,7 +79,8 @@ std::string FreePath(const QString& folder, const QFileInfo& file, const QString
 void RequireEveryTable(Connection& connection, const std::string& backup) {
     for (const TableShape& shape : TableShapes()) {
         const std::string name(shape.Name);
-        if (connection
+        if (!shape.Optional &&
+            connection
                 .Run("SELECT 1 FROM sqlite_master WHERE type = 'table' AND name = ? COLLATE NOCASE",
                      "The backup " + backup + " cannot be read", {TextValue(name)})
                 .Rows.empty()) {

@@ -71,6 +71,9 @@ bool IsTable(Connection& connection, const TableShape& shape, Findings& findings
                                "SELECT type FROM sqlite_master WHERE name = ? COLLATE NOCASE "
                                "AND type IN ('table', 'view')",
                                shape);
+    if (kinds.empty() && shape.Optional) {
+        return false;
+    }
     if (kinds.empty()) {
         findings.Tell("The table " + name + " is missing.");
         return false;
@@ -200,9 +203,7 @@ void RowCheck::Run(const std::vector<const TableShape*>& readable) {
     }
     CompareSheets();
     for (const TableShape* shape : readable) {
-        const auto& tables = SheetTables;
-        if (shape->Name != MainTab &&
-            std::find(tables.begin(), tables.end(), shape->Name) != tables.end()) {
+        if (shape->Name != MainTab && IsOfSheets(*shape)) {
             FindUnreached(*shape);
         }
     }

@@ -92,12 +92,20 @@ class Source {
 
     const UntouchedFile& File() const { return file_; }
 
+    /// Whether there is a table of that name.
+    bool Has(std::string_view table) {
+        return !file_.Database()
+                    .Run("SELECT 1 FROM sqlite_master WHERE type = 'table' AND "
+                         "name = ? COLLATE NOCASE",
+                         std::string(table) + " cannot be read", {TextValue(table)})
+                    .Rows.empty();
+    }
     /// Give `visit` every row of a table that can be read.
     void Read(std::string_view table, const RawTable::Visitor& visit) {
         const TableShape& shape = ShapeOf(table);
         const std::string name(table);
         try {
-            if (!IsThere(name)) {
+            if (!Has(table)) {
                 changes_.Add("Tables that were missing and are empty now", name);
                 return;
             }
@@ -146,13 +154,6 @@ class Source {
     }
 
   private:
-    bool IsThere(const std::string& table) {
-        return !file_.Database()
-                    .Run("SELECT 1 FROM sqlite_master WHERE type = 'table' AND "
-                         "name = ? COLLATE NOCASE",
-                         table + " cannot be read", {TextValue(table)})
-                    .Rows.empty();
-    }
     void TellOfFields(const std::string& table) {
         const auto& shapes = TableShapes();
         const auto& fields = std::find_if(shapes.begin(), shapes.end(), [&](const auto& shape) {
@@ -202,11 +203,16 @@ void WriteProjects(Connection& target, const RepairedData& data) {
 /// Copy the other rows of sheets to their new numbers.
 void CopySheetTables(Source& source, Connection& target, const RepairedData& data,
                      Findings& changes) {
-    for (const std::string_view table : SheetTables) {
-        if (table == MainTab || table == InputData) {
+    for (const TableShape& shape : TableShapes()) {
+        const std::string_view table = shape.Name;
+        if (!IsOfSheets(shape) || table == MainTab || table == InputData ||
+            (shape.Optional && !source.Has(table))) {
             continue;
         }
-        const auto& fields = ShapeOf(table).Fields;
+        if (shape.Optional) {
+            CreateTable(target, shape);
+        }
+        const auto& fields = shape.Fields;
         RowWriter writer(target, table);
         source.Read(table, [&](const RawRow& row) {
             std::vector<RawValue> values;

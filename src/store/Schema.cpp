@@ -89,10 +89,31 @@ std::vector<TableShape> MakeShapes() {
     for (const std::string_view name : SheetTables) {
         shapes.push_back({name, FieldsOf(name)});
     }
+    shapes.push_back({OrderData,
+                      {SheetNumber(), WholeField("Carpet", FirstTileCode), WholeField("Metric", 1),
+                       TextField("Request", FieldContent::Text)},
+                      true});
     return shapes;
 }
 
-void Create(Connection& connection, const TableShape& table) {
+} // namespace
+
+const std::vector<TableShape>& TableShapes() {
+    static const std::vector<TableShape> shapes = MakeShapes();
+    return shapes;
+}
+
+const TableShape& ShapeOf(std::string_view table) {
+    return *std::find_if(TableShapes().begin(), TableShapes().end(),
+                         [table](const TableShape& shape) { return shape.Name == table; });
+}
+
+bool IsOfSheets(const TableShape& shape) {
+    return std::any_of(shape.Fields.begin(), shape.Fields.end(),
+                       [](const Field& field) { return field.Name == SheetNumber().Name; });
+}
+
+void CreateTable(Connection& connection, const TableShape& table) {
     const std::string name(table.Name);
     const std::string failing = "The table " + name + " cannot be made";
     std::string columns;
@@ -111,21 +132,11 @@ void Create(Connection& connection, const TableShape& table) {
     }
 }
 
-} // namespace
-
-const std::vector<TableShape>& TableShapes() {
-    static const std::vector<TableShape> shapes = MakeShapes();
-    return shapes;
-}
-
-const TableShape& ShapeOf(std::string_view table) {
-    return *std::find_if(TableShapes().begin(), TableShapes().end(),
-                         [table](const TableShape& shape) { return shape.Name == table; });
-}
-
 void CreateTables(Connection& connection) {
     for (const TableShape& table : TableShapes()) {
-        Create(connection, table);
+        if (!table.Optional) {
+            CreateTable(connection, table);
+        }
     }
 }
 

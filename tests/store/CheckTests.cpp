@@ -144,6 +144,14 @@ INSTANTIATE_TEST_SUITE_P(
                  {"Rows of FillCut without a sheet, which nothing reaches: 2 under the number 9.",
                   "Rooms without a sheet, which nothing shows: 3 under the number 7.",
                   "Rooms without a row, which are read as empty: SMITH, all 3."}},
+        Disorder{"RequestsWithoutASheet",
+                 {"CREATE TABLE OrderData (TabIndex INTEGER, Carpet INTEGER, Metric INTEGER, "
+                  "Request TEXT COLLATE NOCASE)",
+                  "CREATE INDEX OrderDataTabIndex ON OrderData (TabIndex)",
+                  "INSERT INTO OrderData VALUES (1, 0, 0, '{}'), (9, 0, 2, '{}')"},
+                 {"Metric in OrderData is no whole number from 0 to 1: row 2 (2).",
+                  "Rows of OrderData without a sheet, which nothing reaches: 1 under the number "
+                  "9."}},
         Disorder{"RowsWithoutANumber",
                  {"UPDATE InputData SET TabIndex = NULL WHERE TabIndex = 2",
                   "UPDATE MainTab SET ObjNum = 0 WHERE TabIndex = 2"},

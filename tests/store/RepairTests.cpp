@@ -197,6 +197,15 @@ TEST_F(ARepair, GivesWrongNumbersANewOne) {
               (Lines{"1", "0"}));
 }
 
+TEST_F(ARepair, KeepsTheRequestsOfOrdersWhereThereAreAny) {
+    EXPECT_EQ(Repair({"CREATE TABLE OrderData (TabIndex INTEGER, Carpet INTEGER, Metric INTEGER, "
+                      "Request TEXT COLLATE NOCASE)",
+                      "CREATE INDEX OrderDataTabIndex ON OrderData (TabIndex)",
+                      "INSERT INTO OrderData VALUES (2, 3, 1, '{\"step\": 5}'), (9, 0, 0, '{}')"}),
+              Lines{"Rows of sheets that are not there, left out: OrderData, row 2."});
+    EXPECT_EQ(Rows("SELECT * FROM OrderData"), Lines{"2|3|1|{\"step\": 5}"});
+}
+
 TEST_F(ARepair, MakesMissingTablesAndLeavesOutWhatIsAnothers) {
     EXPECT_EQ(Repair({"DROP TABLE DirTab", "DROP TABLE SAFill",
                       "CREATE VIEW SAFill AS SELECT TabIndex FROM FillCut",
