@@ -59,8 +59,11 @@ class PartTurns {
     /// Whether a part of that length can be cut off and leave a rest.
     bool MayCut(std::size_t fill, Long length) const {
         const State& state = states_[fill];
-        return state.Turn + 1 < firstTurn_[fill + 1] && length >= job_->MinPart &&
-               state.Rest - length >= job_->MinPart;
+        return HasMore(fill) && length >= job_->MinPart && state.Rest - length >= job_->MinPart;
+    }
+    /// Whether the fill may be laid in more parts than its next.
+    bool HasMore(std::size_t fill) const {
+        return states_[fill].Turn + 1 < firstTurn_[fill + 1];
     }
     Long WholeSteps(Long length) const { return length - length % job_->CutStep; }
     /// What was laid is taken off its fill.

@@ -7,6 +7,15 @@
 
 namespace tarn {
 
+namespace {
+
+/// A difference of two numbers of 0 and more below a period, in it.
+Long Beyond(Long difference, Long period) {
+    return difference < 0 ? difference + period : difference;
+}
+
+} // namespace
+
 struct PatternPlan::Choice {
     std::size_t Fill = 0;
     FitClass Fit = FitClass::None;
@@ -14,24 +23,38 @@ struct PatternPlan::Choice {
     Long Length = 0;
     Long Lift = 0; ///< how far above the gap's y it begins
     Long From = 0; ///< where it begins in its fill
-    Columns At{};
+    Long Left = 0; ///< the leftmost place in the gap
+    bool Odd = false;
 };
 
 PatternPlan::PatternPlan(const ImproveJob& job)
     : SkylinePlan(job)
     , turns_(job)
     , closes_(job.Fills.size(), 0)
-    , fronts_(job.Fills.size(), 0)
-    , lifts_(job.Fills.size(), 0) {
+    , period_(job.Repeat.HalfDrop ? 2 * job.Repeat.Across : job.Repeat.Across)
+    , empty_(job.Fills.size())
+    , matching_(job.Fills.size()) {
     for (std::size_t i = 0; i < job.Fills.size(); ++i) {
         const ImproveFill& fill = job.Fills[i];
         if (fill.Width == job.Width) {
             wholeWidths_.push_back(i);
         }
+        const bool drops = job.Repeat.HalfDrop && fill.Room != NoRoom;
+        const bool byStrips = job.Repeat.Across == 0;
+        inEven_.push_back(!drops || !byStrips || fill.Strip % 2 == 0 ? 1 : 0);
+        inOdd_.push_back(drops && (!byStrips || fill.Strip % 2 != 0) ? 1 : 0);
         if (fill.Room != NoRoom) {
             const auto room = static_cast<std::size_t>(fill.Room);
             fillsOf_.resize(std::max(fillsOf_.size(), room + 1));
             fillsOf_[room].push_back(i);
+        }
+    }
+    for (const std::vector<std::size_t>& fills : fillsOf_) {
+        // The first of several strips lies at the roll's edge, as it does in the room.
+        for (const std::size_t fill : fills) {
+            if (fills.size() > 1 && period_ > 0) {
+                empty_[fill].Column = job.Fills[fill].Begin % period_;
+            }
         }
     }
     delays_.assign(fillsOf_.size(), 0);
@@ -46,6 +69,7 @@ void PatternPlan::Begin(std::size_t order, PlacingRule rule) {
     leveling_ = static_cast<Leveling>(order / turns_.Orders());
     std::fill(delays_.begin(), delays_.end(), 0);
     std::fill(closes_.begin(), closes_.end(), std::uint8_t{0});
+    closing_ = 0;
     changed_ = Changed::Nothing;
     BeginWith(rule);
 }
@@ -60,12 +84,7 @@ void PatternPlan::TakeFrom(const Plan& other) {
 
 bool PatternPlan::LayOut(const Limits& limits) {
     turns_.LayNone();
-    std::fill(fronts_.begin(), fronts_.end(), 0);
-    shifts_.assign(fillsOf_.size(), {});
-    for (std::size_t room = 0; room < fillsOf_.size(); ++room) {
-        // The first of several strips lies at the roll's edge, as it does in the room.
-        shifts_[room].Across = fillsOf_[room].size() > 1;
-    }
+    matching_ = empty_;
     return FillGaps(
         limits, [this] { return !turns_.Open().empty(); },
         [this](const Gap& gap, const Walls& walls, Long room) {
@@ -84,7 +103,7 @@ bool PatternPlan::LayOut(const Limits& limits) {
 }
 
 bool PatternPlan::IsClosing() const {
-    if (wholeWidths_.empty()) {
+    if (closing_ == 0) {
         return false;
     }
     const auto& open = turns_.Open();
@@ -97,130 +116,135 @@ bool PatternPlan::IsClosing() const {
 
 void PatternPlan::Put(const Gap& gap, const Walls& walls, const Choice& choice) {
     const ImproveFill& fill = Job().Fills[choice.Fill];
-    const Long x = StandsLeft(choice.Fit, walls) ? choice.At.Left : choice.At.Right;
+    const Long x = StandsLeft(choice.Fit, walls) ? choice.Left : RightOf(choice, gap);
     const Long y = gap.Y + choice.Lift;
     LayAt({choice.Fill, x, y, choice.Length, choice.From}, gap);
-    lifts_[choice.Fill] = choice.Lift;
-    if (choice.From == fronts_[choice.Fill]) {
-        fronts_[choice.Fill] += choice.Length;
-    }
     turns_.TakeOff(choice.Fill, choice.Length);
     if (fill.Room == NoRoom) {
         return;
     }
-    RoomShift& shift = shifts_[static_cast<std::size_t>(fill.Room)];
-    if (!shift.Across) {
-        shift.Across = true;
-        shift.AcrossBy = fill.Begin - x;
+    Matching& own = matching_[choice.Fill];
+    own.Lift = choice.Lift;
+    const Long before = own.Front;
+    if (choice.From == own.Front) {
+        own.Front += choice.Length;
     }
-    if (!shift.Known) {
-        shift.Known = true;
-        shift.Along = choice.From - y - (choice.At.Odd ? Half() : 0);
+    KeepMatching(fill, choice, x, y);
+    if (Job().Repeat.Along > 0 && own.Front != before) {
+        own.Phase = NextInPhase(0, own.Phase + choice.Length, Job().Repeat.Along);
     }
 }
 
-bool PatternPlan::FindColumns(std::size_t number, const Gap& gap, bool odd,
-                              Columns& columns) const {
-    const ImproveFill& fill = Job().Fills[number];
-    const ImproveRepeat& repeat = Job().Repeat;
-    const Long rightmost = gap.X + gap.Width - fill.Width;
-    columns = {odd, gap.X, rightmost};
-    if (fill.Room == NoRoom) {
-        return !odd;
-    }
-    if (repeat.Across == 0) {
-        return odd == (repeat.HalfDrop && fill.Strip % 2 != 0);
-    }
-    const RoomShift& shift = shifts_[static_cast<std::size_t>(fill.Room)];
-    if (!shift.Across) {
-        return !odd;
-    }
-    const Long column = fill.Begin - shift.AcrossBy - (odd ? repeat.Across : 0);
-    const Long period = repeat.HalfDrop ? 2 * repeat.Across : repeat.Across;
-    columns.Left = NextInPhase(gap.X, column, period);
-    columns.Right = LastInPhase(rightmost, column, period);
-    return (repeat.HalfDrop || !odd) && columns.Left <= rightmost;
-}
-
-Long PatternPlan::PhaseOf(const Choice& choice) const {
-    const ImproveFill& fill = Job().Fills[choice.Fill];
-    const RoomShift& shift = shifts_[static_cast<std::size_t>(fill.Room)];
-    return -shift.Along - (choice.At.Odd ? Half() : 0);
-}
-
-Long PatternPlan::LiftOf(const Choice& choice, const Gap& gap) const {
-    const ImproveFill& fill = Job().Fills[choice.Fill];
+void PatternPlan::KeepMatching(const ImproveFill& fill, const Choice& choice, Long x, Long y) {
     const Long along = Job().Repeat.Along;
-    if (fill.Room == NoRoom || along == 0) {
+    Matching& own = matching_[choice.Fill];
+    if (period_ > 0 && own.Column == Free) {
+        own.Column = x % period_; // all parts of the only strip
+    }
+    if (along > 0 && own.Phase == Free) {
+        // Where a part would begin that begins at its fill's begin, in an even column.
+        const Long begin = y - choice.From + (choice.Odd ? Half() : 0);
+        const Long phase = NextInPhase(0, begin, along);
+        for (const std::size_t number : fillsOf_[static_cast<std::size_t>(fill.Room)]) {
+            matching_[number].Phase = phase;
+        }
+    }
+}
+
+Long PatternPlan::LeftOf(std::size_t fill, bool odd, const Gap& gap) const {
+    const Long column = matching_[fill].Column;
+    if (column == Free) {
+        return gap.X;
+    }
+    const Long shifted = odd ? Beyond(column - Job().Repeat.Across, period_) : column;
+    return gap.X + Beyond(shifted - gapColumn_, period_);
+}
+
+Long PatternPlan::RightOf(const Choice& choice, const Gap& gap) const {
+    const Long rightmost = gap.X + gap.Width - Job().Fills[choice.Fill].Width;
+    return matching_[choice.Fill].Column == Free ? rightmost
+                                                 : LastInPhase(rightmost, choice.Left, period_);
+}
+
+Long PatternPlan::LiftOf(std::size_t fill, bool odd, Long from) const {
+    const Long along = Job().Repeat.Along;
+    const Matching& matching = matching_[fill];
+    if (along == 0 || Job().Fills[fill].Room == NoRoom) {
         return 0;
     }
-    const auto room = static_cast<std::size_t>(fill.Room);
-    if (!shifts_[room].Known) {
-        return delays_[room];
+    if (matching.Phase == Free) {
+        return delays_[static_cast<std::size_t>(Job().Fills[fill].Room)];
     }
-    return NextInPhase(gap.Y, choice.From + PhaseOf(choice), along) - gap.Y;
+    Long phase = matching.Phase - (odd ? Half() : 0);
+    if (from != matching.Front) {
+        phase = NextInPhase(0, phase + from - matching.Front, along);
+    }
+    return Beyond(Beyond(phase, along) - gapPhase_, along);
 }
 
-void PatternPlan::Measure(const Gap& gap, const Walls& walls, Long room, Choice& choice) const {
-    const PartTurn& turn = turns_.NextOf(choice.Fill);
-    const Long rest = turns_.StateOf(choice.Fill).Rest;
-    const Long front = fronts_[choice.Fill];
-    choice.From = front;
-    choice.Length = rest;
-    choice.Lift = LiftOf(choice, gap);
+void PatternPlan::Measure(const Walls& walls, Long room, Choice& choice) const {
+    const std::size_t fill = choice.Fill;
+    const PartTurn& turn = turns_.NextOf(fill);
+    const Long rest = choice.Length;
     const Long wall = turn.Rule == PartCut::ToShort ? walls.Short : walls.Tall;
     const bool toWall = turn.Rule == PartCut::ToShort || turn.Rule == PartCut::ToTall;
     if (turn.FromEnd && turn.Rule != PartCut::Rest) {
         Choice cut = choice;
         cut.Length = toWall ? wall : turn.Length;
-        cut.From = front + rest - cut.Length;
-        cut.Lift = LiftOf(cut, gap);
-        if (toWall && cut.Lift > 0) {
+        cut.From = choice.From + rest - cut.Length;
+        if (turns_.MayCut(fill, cut.Length)) {
+            cut.Lift = LiftOf(fill, choice.Odd, cut.From);
+        }
+        if (toWall && cut.Lift > 0 && turns_.MayCut(fill, cut.Length)) {
             // Its end lies where the wall's end is, or as little below it as the pattern asks.
             cut.Length -= Job().Repeat.Along - cut.Lift;
-            cut.From = front + rest - cut.Length;
-            cut.Lift = LiftOf(cut, gap);
+            cut.From = choice.From + rest - cut.Length;
+            cut.Lift = LiftOf(fill, choice.Odd, cut.From);
         }
-        if (turns_.MayCut(choice.Fill, cut.Length) && cut.Lift + cut.Length <= room) {
+        if (turns_.MayCut(fill, cut.Length) && cut.Lift + cut.Length <= room) {
             choice = cut;
             return;
         }
     } else if (turn.Rule != PartCut::Rest) {
         const Long wanted = toWall ? wall - choice.Lift : turn.Length;
-        choice.Length = turns_.MayCut(choice.Fill, wanted) ? wanted : rest;
+        choice.Length = turns_.MayCut(fill, wanted) ? wanted : rest;
     }
     const Long most = room - choice.Lift;
-    if (choice.Length > most && turns_.MayCut(choice.Fill, most)) {
+    if (choice.Length > most && turns_.MayCut(fill, most)) {
         choice.Length = most;
     }
 }
 
-void PatternPlan::Consider(std::size_t fill, const Gap& gap, const Walls& walls, Long room,
-                           Long widest, Choice& best) const {
+void PatternPlan::Consider(std::size_t fill, bool odd, const Gap& gap, const Walls& walls,
+                           Long room, Long widest, Choice& best) const {
     const Long width = Job().Fills[fill].Width;
-    for (const bool odd : {false, true}) {
-        Choice choice;
-        choice.Fill = fill;
-        if (!FindColumns(fill, gap, odd, choice.At)) {
-            continue;
-        }
-        Measure(gap, walls, room, choice);
-        const Long reach = choice.Lift + choice.Length;
-        if (reach > room) {
-            continue;
-        }
-        choice.Place = turns_.NextOf(fill).Place;
-        // On the roll's whole width all goes by the order: what is as wide as the roll is in no
-        // hurry.
-        choice.Fit =
-            gap.Width == Job().Width ? FitClass::Fits : ClassOf(width == gap.Width, reach, walls);
-        if (choice.Fit == FitClass::Fits &&
-            (width > widest || (Rule().NotAboveWall && reach > walls.Tall))) {
-            continue;
-        }
-        if (BetterThan(choice, best)) {
-            best = choice;
-        }
+    Choice choice;
+    choice.Fill = fill;
+    choice.Odd = odd;
+    choice.Left = LeftOf(fill, odd, gap);
+    if (choice.Left + width > gap.X + gap.Width) {
+        return;
+    }
+    choice.From = matching_[fill].Front;
+    choice.Length = turns_.StateOf(fill).Rest;
+    choice.Lift = LiftOf(fill, odd, choice.From);
+    if (turns_.HasMore(fill)) {
+        Measure(walls, room, choice);
+    }
+    const Long reach = choice.Lift + choice.Length;
+    if (reach > room) {
+        return;
+    }
+    choice.Place = turns_.NextOf(fill).Place;
+    // On the roll's whole width all goes by the order: what is as wide as the roll is in no hurry.
+    choice.Fit = gap.Width == Job().Width ? FitClass::Fits
+                                          : ClassOf(width == gap.Width, reach, walls);
+    if (choice.Fit == FitClass::Fits &&
+        (width > widest || (Rule().NotAboveWall && reach > walls.Tall))) {
+        return;
+    }
+    if (BetterThan(choice, best)) {
+        best = choice;
     }
 }
 
@@ -249,16 +273,28 @@ bool PatternPlan::BetterThan(const Choice& a, const Choice& b) const {
     return a.Place != b.Place ? a.Place < b.Place : a.Lift < b.Lift;
 }
 
-PatternPlan::Choice PatternPlan::Choose(const Gap& gap, const Walls& walls, Long room) const {
+PatternPlan::Choice PatternPlan::Choose(const Gap& gap, const Walls& walls, Long room) {
+    gapPhase_ = Job().Repeat.Along > 0 ? gap.Y % Job().Repeat.Along : 0;
+    gapColumn_ = period_ > 0 ? gap.X % period_ : 0;
     Long narrowest = Job().Width;
-    for (const std::size_t fill : turns_.Open()) {
-        narrowest = std::min(narrowest, Job().Fills[fill].Width);
+    if (Rule().LeaveRoom) {
+        for (const std::size_t fill : turns_.Open()) {
+            narrowest = std::min(narrowest, Job().Fills[fill].Width);
+        }
     }
     const Long widest = WidestFor(gap, narrowest);
     Choice best;
     for (const std::size_t fill : turns_.Open()) {
-        if (Job().Fills[fill].Width <= gap.Width) {
-            Consider(fill, gap, walls, room, widest, best);
+        if (Job().Fills[fill].Width > gap.Width) {
+            continue;
+        }
+        // The first piece of a room whose place across is free says which columns are even.
+        const bool says = period_ > 0 && matching_[fill].Column == Free;
+        if (inEven_[fill] != 0) {
+            Consider(fill, false, gap, walls, room, widest, best);
+        }
+        if (inOdd_[fill] != 0 && !says) {
+            Consider(fill, true, gap, walls, room, widest, best);
         }
     }
     return best;
@@ -280,11 +316,16 @@ void PatternPlan::ChangeDelay(RandomSteps& random) {
     default: {
         // So that one of the others need not be moved.
         const std::vector<std::size_t>& fills = fillsOf_[number_];
-        const Long lift = lifts_[fills[random.Below(fills.size())]];
+        const Long lift = matching_[fills[random.Below(fills.size())]].Lift;
         delay = NextInPhase(0, delay - lift, Job().Repeat.Along);
         break;
     }
     }
+}
+
+void PatternPlan::ToggleClosing() {
+    closes_[number_] ^= 1U;
+    closing_ += closes_[number_] != 0 ? 1 : -1;
 }
 
 void PatternPlan::Change(RandomSteps& random, bool skips) {
@@ -300,7 +341,7 @@ void PatternPlan::Change(RandomSteps& random, bool skips) {
     } else if (!wholeWidths_.empty() && random.Below(ClosingOneIn) == 0) {
         changed_ = Changed::Closing;
         number_ = wholeWidths_[random.Below(wholeWidths_.size())];
-        closes_[number_] ^= 1U;
+        ToggleClosing();
     } else {
         changed_ = Changed::Turns;
         turns_.Change(random);
@@ -317,7 +358,7 @@ void PatternPlan::Undo() {
         delays_[number_] = delayBefore_;
         break;
     case Changed::Closing:
-        closes_[number_] ^= 1U;
+        ToggleClosing();
         break;
     case Changed::Nothing:
         break;

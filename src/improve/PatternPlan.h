@@ -35,42 +35,41 @@ class PatternPlan : public SkylinePlan {
         LeastFirst,
         Count
     };
-    /// How the pattern lies for a room: the shift of its pieces in even columns.
-    struct RoomShift {
-        bool Known = false;  ///< along
-        bool Across = false; ///< whether AcrossBy is known
-        Long AcrossBy = 0;
-        Long Along = 0;
+    /// Where the next part of a fill matches while it is laid. What the many questions of a layout
+    /// need is kept, so that none of them has to divide.
+    struct Matching {
+        Long Column = Free; ///< across: a place in an even column, below the period; Free for any
+        Long Phase = Free;  ///< along: where it begins in an even column, below the repeat
+        Long Front = 0;     ///< where what is left of the fill begins
+        Long Lift = 0;      ///< how far its last part was moved
     };
-    /// The places across at which a part matches by one and the same shift along.
-    struct Columns {
-        bool Odd;
-        Long Left; ///< the leftmost in the gap
-        Long Right;
-    };
+    static constexpr Long Free = -1;
     /// A part that may be laid in a gap.
     struct Choice;
 
     bool LayOut(const Limits& limits) override;
-    Choice Choose(const Gap& gap, const Walls& walls, Long room) const;
-    /// Consider every way of laying the fill's next part.
-    void Consider(std::size_t fill, const Gap& gap, const Walls& walls, Long room, Long widest,
-                  Choice& best) const;
-    /// The columns of one kind in a gap. False when there is none.
-    bool FindColumns(std::size_t fill, const Gap& gap, bool odd, Columns& columns) const;
-    /// Set length, begin and lift of a part in these columns.
-    void Measure(const Gap& gap, const Walls& walls, Long room, Choice& choice) const;
-    Long LiftOf(const Choice& choice, const Gap& gap) const;
-    /// The phase along at which a fill's begin would lie.
-    Long PhaseOf(const Choice& choice) const;
+    Choice Choose(const Gap& gap, const Walls& walls, Long room);
+    /// Consider a way of laying the fill's next part: in an even or an odd column.
+    void Consider(std::size_t fill, bool odd, const Gap& gap, const Walls& walls, Long room,
+                  Long widest, Choice& best) const;
+    /// The leftmost place at or behind the gap's left edge.
+    Long LeftOf(std::size_t fill, bool odd, const Gap& gap) const;
+    Long RightOf(const Choice& choice, const Gap& gap) const;
+    /// How far a part that begins at `from` in its fill is moved up from the gap.
+    Long LiftOf(std::size_t fill, bool odd, Long from) const;
+    /// Set length, begin and lift of a part that may be a division of its fill.
+    void Measure(const Walls& walls, Long room, Choice& choice) const;
     bool BetterThan(const Choice& a, const Choice& b) const;
     /// Whether gaps are left free, since the next fill by the order is as wide as the roll.
     bool IsClosing() const;
     void Put(const Gap& gap, const Walls& walls, const Choice& choice);
+    /// Keep to what the first piece of a room says.
+    void KeepMatching(const ImproveFill& fill, const Choice& choice, Long x, Long y);
 
     Long Half() const { return Job().Repeat.HalfDrop ? Job().Repeat.Along / 2 : 0; }
 
     void ChangeDelay(RandomSteps& random);
+    void ToggleClosing();
 
     PartTurns turns_;
     Leveling leveling_ = Leveling::None;
@@ -78,15 +77,20 @@ class PatternPlan : public SkylinePlan {
     std::vector<std::size_t> wholeWidths_;          ///< fills as wide as the roll
     std::vector<Long> delays_;                      ///< by room: how far its first piece is moved
     std::vector<std::uint8_t> closes_; ///< by fill: gaps are left free before it when it is first
+    int closing_ = 0;                  ///< fills that do
 
     enum class Changed : std::uint8_t { Nothing, Turns, Delay, Closing };
     Changed changed_ = Changed::Nothing;
     std::size_t number_ = 0; ///< of what changed
     Long delayBefore_ = 0;
 
-    std::vector<RoomShift> shifts_; ///< by room
-    std::vector<Long> fronts_;      ///< by fill: where what is left of it begins
-    std::vector<Long> lifts_;       ///< by fill: how far its last part was moved
+    Long period_ = 0; ///< across: two columns with a half drop
+    std::vector<std::uint8_t> inEven_; ///< by fill: whether it may lie in even columns
+    std::vector<std::uint8_t> inOdd_;
+    std::vector<Matching> empty_; ///< by fill: on an empty roll
+    std::vector<Matching> matching_;
+    Long gapPhase_ = 0; ///< of the gap in hand: its y below the repeat along
+    Long gapColumn_ = 0;
 };
 
 } // namespace tarn
