@@ -84,6 +84,8 @@ void WriteOutputFile(const std::string& path, const std::string& content, Overwr
         } else {
             WriteFile(path, content, over);
         }
+    } catch (const NotTakenBack& error) {
+        Refuse(path, CauseOf(error.code()) + ". The new file may be there all the same");
     } catch (const std::system_error& error) {
         if (error.code() == std::errc::timed_out) {
             Refuse(path, "nothing reads from it");

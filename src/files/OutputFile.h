@@ -31,8 +31,9 @@ enum class Overwrite {
 /// after a while.
 ///
 /// Raises OutputFileError when it cannot be written, or when something stands there that `over`
-/// does not allow to be written over; the file that was there before is then still there, whole. A
-/// file that may not be written stays as it is whatever `over` says.
+/// does not allow to be written over; the file that was there before is then still there, whole,
+/// unless the message says that the new one may be there. A file that may not be written stays as
+/// it is whatever `over` says.
 void WriteOutputFile(const std::string& path, const std::string& content,
                      Overwrite over = Overwrite::Chosen);
 

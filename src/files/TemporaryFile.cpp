@@ -84,10 +84,13 @@ class FormerFile {
     FormerFile(const FormerFile&) = delete;
     FormerFile& operator=(const FormerFile&) = delete;
 
-    void PutBack(const std::string& target) {
-        if (isKept_ && ::rename(path_.c_str(), target.c_str()) == 0) {
-            isKept_ = false;
+    /// Whether it stands there again.
+    bool PutBack(const std::string& target) {
+        if (!isKept_ || ::rename(path_.c_str(), target.c_str()) != 0) {
+            return false;
         }
+        isKept_ = false;
+        return true;
     }
 
   private:
@@ -166,11 +169,10 @@ void TemporaryFile::Place() {
     placed_ = true;
     try {
         SynchroniseEntries(FolderOfPath(target_));
-    } catch (const std::system_error&) {
-        if (former_) {
-            former.PutBack(target_);
-        } else {
-            ::unlink(target_.c_str());
+    } catch (const std::system_error& error) {
+        const bool isAsBefore = former_ ? former.PutBack(target_) : ::unlink(target_.c_str()) == 0;
+        if (!isAsBefore) {
+            throw NotTakenBack(error.code());
         }
         throw;
     }

@@ -8,8 +8,16 @@
 #include <string>
 #include <string_view>
 #include <sys/stat.h>
+#include <system_error>
 
 namespace tarn {
+
+/// A file was put in its place, the disk does not confirm that it keeps it, and it could not be
+/// taken away again: nobody knows what is there.
+class NotTakenBack : public std::system_error {
+  public:
+    using std::system_error::system_error;
+};
 
 /// A new, empty file in the folder of its target, locked for as long as this run makes it, so that
 /// no other takes it for a left-over. It is removed again unless it was placed. All raise
@@ -26,7 +34,7 @@ class TemporaryFile {
     /// Write the content and have it stored on the disk.
     void Fill(std::string_view content);
     /// Put the file in the place of the target, and see to it that it stays there. When that fails
-    /// the target is again as it was.
+    /// the target is again as it was, or NotTakenBack is raised.
     void Place();
 
   private:

@@ -240,6 +240,8 @@ WRITING = [
              [step("make-backup", "1"), step("save", "MINE", "5", "5")],
              again=step("restore", "{}/BACKUP/Tarn 2026-03-14 09-01-00.mdb", "3"), several=True,
              elsewhere=("DATA/Tarn before", "BACKUP/Tarn before")),
+    Scenario("repair", data("repair", "--to", "{}/clean.mdb"),
+             again=data("repair", "--to", "{}/other.mdb")),
     Scenario("draft over an older one", step("draft", "{}/state", "one.json", "MINE", "9"),
              [step("draft", "{}/state", "one.json", "MINE", "8")]),
     Scenario("first draft", step("draft", "{}/state/tarn", "one.json", "MINE", "9"),
