@@ -22,6 +22,23 @@ if(TARN_COVERAGE)
   target_link_options(tarn_options INTERFACE --coverage)
 endif()
 
+# What makes a fault of memory hard to make use of: the program and its tables lie at addresses that
+# change, the tables are closed once it runs, buffers on the stack and in library calls are watched,
+# and jumps lead only to where something begins. tests/hardening looks at the built programs. Builds
+# for finding faults have their own means, and Debug is for debuggers.
+set(TARN_HARDENED OFF)
+if(NOT TARN_SANITIZE AND NOT TARN_COVERAGE AND NOT TARN_FUZZ AND NOT CMAKE_BUILD_TYPE STREQUAL "Debug")
+  set(TARN_HARDENED ON)
+  # Before all else: what uses Qt is compiled with -fPIC, and of the two the later one counts.
+  string(APPEND CMAKE_CXX_FLAGS " -fPIE")
+  target_compile_options(tarn_options INTERFACE -fstack-protector-strong -U_FORTIFY_SOURCE
+                                                -D_FORTIFY_SOURCE=2)
+  if(CMAKE_SYSTEM_PROCESSOR MATCHES "^(x86_64|AMD64|i[3-6]86)$")
+    target_compile_options(tarn_options INTERFACE -fcf-protection=full)
+  endif()
+  target_link_options(tarn_options INTERFACE -pie -Wl,-z,relro,-z,now,-z,noexecstack)
+endif()
+
 add_library(tarn_warnings INTERFACE)
 target_compile_options(tarn_warnings INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wshadow)
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
