@@ -360,6 +360,44 @@ TEST_F(ProgramTest, KeepsUnsavedRoomsAcrossTheMenuAndDropsThemWithTheProject) {
         RawDatabase(folder_.Path("data/DATA/Tarn.mdb")).Rows("SELECT * FROM InputData").empty());
 }
 
+TEST_F(ProgramTest, BacksUpTheDataBeforeTheFirstChangeOfARun) {
+    const std::string database = folder_.Path("data/DATA/Tarn.mdb");
+    RawDatabase(database).Run("INSERT INTO DirTab VALUES ('OLD')");
+    ASSERT_TRUE(Start());
+    EXPECT_TRUE(BackupsOf(database).empty()) << "nothing was changed yet";
+    MakeProject("HOUSE");
+    ASSERT_EQ(BackupsOf(database).size(), 1U);
+    RawDatabase backup(BackupsOf(database).front().Path);
+    EXPECT_EQ(backup.Rows("SELECT Directory FROM DirTab"), std::vector<std::string>{"OLD"});
+    EXPECT_TRUE(backup.Rows("SELECT * FROM ProjTab").empty());
+
+    Click(Control(Controls::enterRooms));
+    TypeRoom("10", "14");
+    Click(Control(Controls::saveRooms));
+    EXPECT_EQ(BackupsOf(database).size(), 1U) << "one for each run";
+    EXPECT_EQ(boxes_.Messages, std::vector<std::string>{"Data is saved"});
+}
+
+TEST_F(ProgramTest, ChangesDataAlsoWhereNoBackupCanBeMadeAndSaysSoOnce) {
+    WriteFile(folder_.Path("data/BACKUP"), "in the way");
+    ASSERT_TRUE(Start());
+    MakeProject("HOUSE");
+    ExpectFront(Controls::menuScreen, 1);
+    ASSERT_EQ(boxes_.Messages.size(), 1U);
+    EXPECT_EQ(boxes_.Messages[0].find("There is no backup of the data as it was before this "
+                                      "change. The file " +
+                                      folder_.Path("data/BACKUP")),
+              0U)
+        << boxes_.Messages[0];
+    Click(Control(Controls::enterRooms));
+    TypeRoom("10", "14");
+    Click(Control(Controls::saveRooms));
+    EXPECT_EQ(boxes_.Messages.size(), 2U);
+    EXPECT_EQ(boxes_.Messages.back(), "Data is saved");
+    EXPECT_EQ(RawDatabase(folder_.Path("data/DATA/Tarn.mdb")).Rows("SELECT ProjName FROM ProjTab"),
+              std::vector<std::string>{"HOUSE"});
+}
+
 TEST_F(ProgramTest, FillsTheDisplayWithEveryScreen) {
     ASSERT_TRUE(Start());
     const QRect display = program_.Window().screen()->geometry();
