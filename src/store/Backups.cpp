@@ -84,9 +84,9 @@ void RequireEveryTable(Connection& connection, const std::string& backup) {
                 .Run("SELECT 1 FROM sqlite_master WHERE type = 'table' AND name = ? COLLATE NOCASE",
                      "The backup " + backup + " cannot be read", {TextValue(name)})
                 .Rows.empty()) {
-            throw DatabaseError("The file " + backup +
-                                " is no backup of this program's data: it has no table " + name +
-                                ".");
+            std::string text = "The file " + backup;
+            text.append(" is no backup of this program's data: it has no table ").append(name);
+            throw DatabaseError(text.append("."));
         }
     }
 }
@@ -124,7 +124,7 @@ std::string KeepFormer(const QFileInfo& file, const QDateTime& now) {
     const QString words = QStringLiteral(" before restoring");
     const std::string path = file.filePath().toStdString();
     const auto keepIn = [&](const QString& folder) {
-        const std::string kept = FreePath(folder, file, words, now);
+        std::string kept = FreePath(folder, file, words, now);
         FileInMaking copy(kept);
         QFile former(file.filePath());
         if (!former.copy(QString::fromStdString(copy.Path()))) {
@@ -150,10 +150,10 @@ std::string SetJournalAside(const QFileInfo& file, const std::string& former,
         return {};
     }
     // Not as the journal of the former file is named: the database engine would find it there.
-    const std::string aside = (former.empty() ? FreePath(file.absolutePath(), file,
-                                                         QStringLiteral(" before restoring"), now)
-                                              : former) +
-                              ".journal";
+    std::string aside = (former.empty() ? FreePath(file.absolutePath(), file,
+                                                   QStringLiteral(" before restoring"), now)
+                                        : former) +
+                        ".journal";
     if (!QFile::rename(journal, QString::fromStdString(aside)) &&
         !(QFile::copy(journal, QString::fromStdString(aside)) && QFile::remove(journal))) {
         throw DatabaseError("The journal " + journal.toStdString() + " cannot be set aside as " +
@@ -205,8 +205,7 @@ std::vector<Backup> OutdatedBackups(const std::vector<Backup>& backups, const QD
 
 std::string MakeBackup(const std::string& database, const QDateTime& now, int busyWait) {
     const QFileInfo file = FileOf(database);
-    const std::string made =
-        FreePath(QString::fromStdString(BackupFolder(database)), file, {}, now);
+    std::string made = FreePath(QString::fromStdString(BackupFolder(database)), file, {}, now);
     BackUpDatabaseFile(database, made, busyWait);
     for (const Backup& backup : OutdatedBackups(BackupsOf(database), now)) {
         if (backup.Path != made) { // by a clock that was set back it may be the oldest

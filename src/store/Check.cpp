@@ -261,7 +261,7 @@ void RowCheck::CompareProjects() {
             if (!directories_.contains(directory)) {
                 findings_.Add("Projects that no screen shows, since their directory is neither "
                               "listed nor a month",
-                              project + " in " + directory);
+                              std::string(project).append(" in ").append(directory));
             }
         }
     }
@@ -397,7 +397,7 @@ void RowCheck::FindWrongValues(const TableShape& shape) {
 std::string RowCheck::PlaceOf(const TableShape& shape, const RawRow& row,
                               const RawTable& table) const {
     if (shape.Name == ProjTab || shape.Name == MainTab) {
-        const std::string name = TextOf(row.Values.at(table.At("ProjName")));
+        std::string name = TextOf(row.Values.at(table.At("ProjName")));
         if (!name.empty()) {
             return name;
         }

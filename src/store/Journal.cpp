@@ -183,10 +183,12 @@ JournalKind JournalBeside(const std::string& database) {
 void RequireFilesBeside(const std::string& database) {
     const std::string path = CanonicalPath(database).toStdString();
     for (const char* suffix : {"-journal", "-wal"}) {
-        const QFileInfo beside(QString::fromStdString(path + suffix));
-        if (beside.exists() && !beside.isFile()) {
-            throw DatabaseError("The database file " + database + " cannot be opened: " + path +
-                                suffix + " is no file. Remove it.");
+        const std::string beside = path + suffix;
+        const QFileInfo info(QString::fromStdString(beside));
+        if (info.exists() && !info.isFile()) {
+            std::string text = "The database file ";
+            text.append(database).append(" cannot be opened: ").append(beside);
+            throw DatabaseError(text.append(" is no file. Remove it."));
         }
     }
 }

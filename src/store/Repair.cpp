@@ -146,7 +146,8 @@ class Source {
                 return EqualsIgnoringCase(shape.Name, name);
             });
             if (type == "trigger" || type == "view" || (type == "table" && !isOwn)) {
-                changes_.Add("What another program put there, left out", type + " " + name);
+                changes_.Add("What another program put there, left out",
+                             std::string(type).append(" ").append(name));
             } else if (type == "table") {
                 TellOfFields(name);
             }
