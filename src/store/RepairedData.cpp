@@ -112,7 +112,7 @@ std::string RepairedData::CleanName(const RawValue& value, bool isProject) {
             c = U'-';
         }
     }
-    const std::string clean =
+    std::string clean =
         StoredName(FittingNameText(StoredName(FromQt(QString::fromStdU32String(name))), 0));
     const auto* text = std::get_if<std::string>(&value);
     if (text == nullptr || !EqualsIgnoringCase(*text, clean)) {
