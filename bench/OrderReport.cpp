@@ -116,14 +116,15 @@ void MeasureFirstTables() {
     }
 }
 
-void MeasureGaps(int jobs, Double seconds) {
+void MeasureGaps(long jobs, Double seconds) {
     constexpr int Rooms[] = {3, 6, 12, 20, 30};
     std::map<std::string, Gaps> byKind;
     Gaps all;
-    for (int job = 0; job < jobs; ++job) {
+    for (long job = 0; job < jobs; ++job) {
         std::mt19937 random(static_cast<unsigned>(1000 + job));
-        const int rooms = Rooms[job / std::size(Kinds) % std::size(Rooms)];
-        const Kind& kind = Kinds[static_cast<std::size_t>(job) % std::size(Kinds)];
+        const auto number = static_cast<std::size_t>(job);
+        const int rooms = Rooms[number / std::size(Kinds) % std::size(Rooms)];
+        const Kind& kind = Kinds[number % std::size(Kinds)];
         const Project project = RandomRooms(random, rooms);
         OrderRequest request = FourWidths();
         request.Pattern = kind.Pattern;
@@ -155,8 +156,9 @@ void MeasureGaps(int jobs, Double seconds) {
 } // namespace
 
 int main(int argc, char** argv) {
-    const int jobs = argc > 1 ? std::atoi(argv[1]) : 200;
-    const Double seconds = argc > 2 ? std::atof(argv[2]) : 2;
+    constexpr int Decimal = 10;
+    const long jobs = argc > 1 ? std::strtol(argv[1], nullptr, Decimal) : 200;
+    const Double seconds = argc > 2 ? std::strtod(argv[2], nullptr) : 2;
     MeasureFirstTables();
     MeasureGaps(jobs, seconds);
     return 0;

@@ -42,12 +42,12 @@ Long ColumnKnapsack::WidthOf(const Bundle& bundle, std::size_t inRests) const {
 
 void ColumnKnapsack::AddFree(std::size_t number, std::int64_t gain) {
     const Bundle& bundle = bundles_[number];
-    const auto wide = static_cast<std::size_t>(bundle.Copies * items_[bundle.Item].Width);
+    const auto copies = static_cast<std::size_t>(bundle.Copies);
+    const std::size_t wide = copies * static_cast<std::size_t>(items_[bundle.Item].Width);
     std::uint8_t* const taken = taken_.data() + number * (Uses + 1) * row_;
     for (std::size_t width = row_; width-- > wide;) {
         for (std::size_t uses = 0; uses <= Uses; ++uses) {
-            const std::size_t after =
-                std::min(Uses, uses + static_cast<std::size_t>(bundle.Copies));
+            const std::size_t after = std::min(Uses, uses + copies);
             const std::int64_t sum = best_[At(uses, width - wide)] + gain;
             if (sum > best_[At(after, width)]) {
                 best_[At(after, width)] = sum;

@@ -62,9 +62,7 @@ class PartTurns {
         return HasMore(fill) && length >= job_->MinPart && state.Rest - length >= job_->MinPart;
     }
     /// Whether the fill may be laid in more parts than its next.
-    bool HasMore(std::size_t fill) const {
-        return states_[fill].Turn + 1 < firstTurn_[fill + 1];
-    }
+    bool HasMore(std::size_t fill) const { return states_[fill].Turn + 1 < firstTurn_[fill + 1]; }
     Long WholeSteps(Long length) const { return length - length % job_->CutStep; }
     /// What was laid is taken off its fill.
     void TakeOff(std::size_t fill, Long length);

@@ -237,8 +237,8 @@ void PatternPlan::Consider(std::size_t fill, bool odd, const Gap& gap, const Wal
     }
     choice.Place = turns_.NextOf(fill).Place;
     // On the roll's whole width all goes by the order: what is as wide as the roll is in no hurry.
-    choice.Fit = gap.Width == Job().Width ? FitClass::Fits
-                                          : ClassOf(width == gap.Width, reach, walls);
+    choice.Fit =
+        gap.Width == Job().Width ? FitClass::Fits : ClassOf(width == gap.Width, reach, walls);
     if (choice.Fit == FitClass::Fits &&
         (width > widest || (Rule().NotAboveWall && reach > walls.Tall))) {
         return;

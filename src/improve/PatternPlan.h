@@ -84,7 +84,7 @@ class PatternPlan : public SkylinePlan {
     std::size_t number_ = 0; ///< of what changed
     Long delayBefore_ = 0;
 
-    Long period_ = 0; ///< across: two columns with a half drop
+    Long period_ = 0;                  ///< across: two columns with a half drop
     std::vector<std::uint8_t> inEven_; ///< by fill: whether it may lie in even columns
     std::vector<std::uint8_t> inOdd_;
     std::vector<Matching> empty_; ///< by fill: on an empty roll

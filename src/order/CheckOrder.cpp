@@ -212,7 +212,7 @@ class CandidateCheck {
     /// The fewest whole steps that hold what is needed with its drift, which counts in ten
     /// thousandths of a percent.
     void CheckOrderedLength(Area needed) const {
-        constexpr Area Whole = 100 * 10000;
+        constexpr Area Whole = 1000000;
         const Area ordered = row_.Figures->Length;
         const Double drift = request_.PatternDrift.value_or(request_.Pattern.Along > 0 ? 1 : 0);
         const auto more = static_cast<Area>(std::ceil(drift * 10000 - 1e-6));

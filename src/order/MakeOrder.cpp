@@ -193,9 +193,9 @@ class OrderMaker {
         return changed;
     }
 
-    void Take(const Row& row, RowFinding& found) {
+    void Take(const Row& row, const RowFinding& found) {
         OrderCandidate& candidate = order_.Candidates[row.Candidate];
-        candidate.Pieces = row.Layout.PiecesOf(std::move(found.Parts));
+        candidate.Pieces = row.Layout.PiecesOf(found.Parts);
         candidate.Figures =
             FiguresOf(project_, order_.Request, candidate, row.Layout.Strips(), found.Least);
         RequireSound(CheckCandidate(project_, order_, row.Candidate));

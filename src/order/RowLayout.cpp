@@ -56,7 +56,7 @@ RowLayout::RowLayout(std::vector<OrderStrip> strips, const OrderRequest& request
     searched_ = std::move(searched);
 }
 
-std::vector<OrderPiece> RowLayout::PiecesOf(std::vector<ImprovePart> parts) const {
+std::vector<OrderPiece> RowLayout::PiecesOf(const std::vector<ImprovePart>& parts) const {
     std::vector<OrderPiece> pieces;
     Long y = 0;
     for (const std::size_t whole : wholes_) {

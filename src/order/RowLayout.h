@@ -22,7 +22,7 @@ class RowLayout {
     /// The length of what lies before the searched layout.
     Long StackedLength() const { return stacked_; }
     /// All pieces in cutting order; `parts` is a whole layout of the job.
-    std::vector<OrderPiece> PiecesOf(std::vector<ImprovePart> parts) const;
+    std::vector<OrderPiece> PiecesOf(const std::vector<ImprovePart>& parts) const;
 
   private:
     /// Number the parts of each strip and say where they begin in it.
