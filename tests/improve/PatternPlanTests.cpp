@@ -79,7 +79,8 @@ void ForChangedPlans(Look look) {
     for (unsigned seed = 1; seed <= 40; ++seed) {
         SCOPED_TRACE(seed);
         std::mt19937 random(seed);
-        const ImproveJob job = testing::RandomPattern(random, 12, 12, 1 + (seed % 4));
+        const ImproveJob job =
+            testing::RandomPattern(random, 12, 12, static_cast<Long>(1 + seed % 4));
         if (!HasPattern(job)) {
             continue;
         }

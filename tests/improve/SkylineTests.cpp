@@ -54,6 +54,29 @@ TEST(Skyline, APieceLevelWithBothWallsJoinsThem) {
     ExpectGap(skyline.Lowest(), 0, 6, 12, NoWall, NoWall);
 }
 
+//   0  2    6    12
+// 0 +--+----+-----+
+//   |  |    |     |    a piece of 4 x 3 at (2, 5)
+// 5 |  +----+     |
+// 8 |  +----+     |
+TEST(Skyline, APieceCanBeLaidAnywhereAboveTheGap) {
+    Skyline skyline;
+    skyline.Reset(12);
+    skyline.Cover(skyline.Lowest(), 2, 4, 8);
+    EXPECT_EQ(skyline.Count(), 3U);
+    ExpectGap(skyline.Lowest(), 0, 0, 2, NoWall, 8);
+    skyline.Cover(skyline.Lowest(), 0, 2, 8);
+    EXPECT_EQ(skyline.Count(), 2U) << "level with the first";
+    ExpectGap(skyline.Lowest(), 6, 0, 6, 8, NoWall);
+    skyline.Cover(skyline.Lowest(), 7, 5, 1);
+    ExpectGap(skyline.Lowest(), 6, 0, 1, 8, 1);
+    skyline.Cover(skyline.Lowest(), 6, 1, 1);
+    ExpectGap(skyline.Lowest(), 6, 1, 6, 7, NoWall);
+    skyline.Cover(skyline.Lowest(), 6, 6, 8);
+    EXPECT_EQ(skyline.Count(), 1U);
+    ExpectGap(skyline.Lowest(), 0, 8, 12, NoWall, NoWall);
+}
+
 TEST(Skyline, OfEquallyLowGapsTheLeftmostComesFirst) {
     Skyline skyline;
     skyline.Reset(12);
