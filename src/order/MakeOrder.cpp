@@ -20,7 +20,7 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-constexpr std::chrono::milliseconds LookAfter{20};
+constexpr std::chrono::milliseconds LookAfter{50};
 constexpr std::chrono::milliseconds CallAfter{100};
 
 /// A row while it is searched. What its thread finds is handed over under the lock of all rows.
