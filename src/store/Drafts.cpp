@@ -1,5 +1,6 @@
 #include "store/Drafts.h"
 
+#include "files/FileModes.h"
 #include "files/OutputFile.h"
 #include "files/QtText.h"
 #include "store/Names.h"
@@ -65,6 +66,43 @@ std::optional<std::string> ReadAll(const std::string& path) {
     return file.read(LargestFile).toStdString();
 }
 
+void RemoveFile(const std::string& file) noexcept {
+    std::error_code error;
+    fs::remove(file, error);
+}
+
+/// A failure of a draft's file as one of its folder: the file's name tells nobody anything.
+std::string FolderFailure(const std::string& file, std::string failure) {
+    const std::string named = "file " + file;
+    const std::size_t at = failure.find(named);
+    if (at != std::string::npos) {
+        failure.replace(at, named.size(), "folder " + fs::path(file).parent_path().string());
+    }
+    return failure;
+}
+
+/// Raises OutputFileError.
+void WriteFile(const std::string& file, const DraftRecord& record) {
+    const fs::path folder = fs::path(file).parent_path();
+    bool isNew = false;
+    try {
+        MakePrivateFolder(folder);
+        isNew = !fs::exists(file);
+        if (isNew) {
+            MakePrivateFile(file); // its mode is kept when it is replaced
+        }
+        WriteOutputFile(file, DraftText(record));
+    } catch (const fs::filesystem_error& error) {
+        throw OutputFileError("The folder " + folder.string() +
+                              " cannot be written: " + error.code().message() + ".");
+    } catch (const OutputFileError& error) {
+        if (isNew) {
+            RemoveFile(file);
+        }
+        throw OutputFileError(FolderFailure(file, error.what()));
+    }
+}
+
 template <typename Action>
 void DoWhatCanBeDone(Action&& action) noexcept {
     try {
@@ -86,6 +124,12 @@ std::optional<fs::path> UserStateDirectory() {
     return std::nullopt;
 }
 
+Drafts UserDrafts(const std::string& database) {
+    const auto folder = UserStateDirectory();
+    return folder ? Drafts(*folder, database)
+                  : Drafts("There is no folder for it: the environment names no home.");
+}
+
 Drafts::Drafts(std::string reason)
     : reason_(std::move(reason)) {}
 
@@ -105,13 +149,7 @@ void Drafts::Write(const std::string& file, std::string_view project, const Draf
     if (!reason_.empty()) {
         throw OutputFileError(reason_);
     }
-    std::error_code error;
-    fs::create_directories(folder_, error);
-    if (error) {
-        throw OutputFileError("The folder " + folder_.string() +
-                              " cannot be made: " + error.message() + ".");
-    }
-    WriteOutputFile(file, DraftText({database_, StoredName(project), now, {}, draft}));
+    WriteFile(file, {database_, StoredName(project), now, {}, draft});
 }
 
 std::optional<DraftRecord> Drafts::Read(const std::string& file) const {
@@ -151,8 +189,7 @@ std::vector<KeptDraft> Drafts::Of(std::string_view project) const {
 }
 
 void Drafts::Remove(const std::string& file) const noexcept {
-    std::error_code error;
-    fs::remove(file, error);
+    RemoveFile(file);
 }
 
 void Drafts::Supersede(std::string_view project, const std::string& except,
@@ -161,10 +198,10 @@ void Drafts::Supersede(std::string_view project, const std::string& except,
         std::size_t kept = 0;
         for (KeptDraft& draft : Of(project)) {
             if (++kept > MostDrafts && draft.File != except) {
-                Remove(draft.File);
+                RemoveFile(draft.File);
             } else if (draft.File != except && !draft.Record.Superseded.isValid()) {
                 draft.Record.Superseded = now;
-                DoWhatCanBeDone([&] { WriteOutputFile(draft.File, DraftText(draft.Record)); });
+                DoWhatCanBeDone([&] { WriteFile(draft.File, draft.Record); });
             }
         }
     });
@@ -172,11 +209,12 @@ void Drafts::Supersede(std::string_view project, const std::string& except,
 
 void Drafts::Move(std::string_view project, std::string_view newName) noexcept {
     DoWhatCanBeDone([&] {
+        End(newName);
         for (KeptDraft& draft : Of(project)) {
             draft.Record.Project = StoredName(newName);
             DoWhatCanBeDone([&] {
-                WriteOutputFile(NewFile(newName), DraftText(draft.Record));
-                Remove(draft.File);
+                WriteFile(NewFile(newName), draft.Record);
+                RemoveFile(draft.File);
             });
         }
     });
@@ -185,7 +223,7 @@ void Drafts::Move(std::string_view project, std::string_view newName) noexcept {
 void Drafts::End(std::string_view project) const noexcept {
     DoWhatCanBeDone([&] {
         for (const std::string& file : FilesOf(project)) {
-            Remove(file);
+            RemoveFile(file);
         }
     });
 }
@@ -198,7 +236,7 @@ void Drafts::EndExpired(const QDateTime& now) const noexcept {
             const auto record = text ? ReadDraftText(*text) : std::nullopt;
             if (record && record->Superseded.isValid() &&
                 record->Superseded.addDays(DraftDays) < now) {
-                Remove(file);
+                RemoveFile(file);
             }
         }
     });

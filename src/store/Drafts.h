@@ -61,7 +61,7 @@ class Drafts {
     /// MostDrafts.
     void Supersede(std::string_view project, const std::string& except,
                    const QDateTime& now) const noexcept;
-    /// The project has another name now.
+    /// The project has another name now, one that no project had.
     void Move(std::string_view project, std::string_view newName) noexcept;
     /// End all drafts of a project: it was deleted, or is a new one.
     void End(std::string_view project) const noexcept;
@@ -78,5 +78,8 @@ class Drafts {
     QString run_;
     int count_ = 0;
 };
+
+/// The drafts in the user's own state folder.
+Drafts UserDrafts(const std::string& database);
 
 } // namespace tarn

@@ -1,3 +1,4 @@
+#include "store/Drafts.h"
 #include "store/Months.h"
 #include "store/ProjectNames.h"
 #include "store/ProjectStore.h"
@@ -49,8 +50,10 @@ void ImportProject(const ImportRequest& request) {
         request.Directory.empty() ? "" : NameArgument("directory", request.Directory);
     const std::vector<Room> rooms = ReadRoomFile(request.Rooms, request.In);
     ProjectStore store(request.Database, DatabaseAccess::ReadWrite);
+    bool isNew = false;
     store.InOneTransaction([&] {
-        if (!store.DirectoryOf(name)) {
+        isNew = !store.DirectoryOf(name);
+        if (isNew) {
             AddNewProject(store, name, directory);
         }
         LoadedProject loaded = LoadWhole(store, name);
@@ -59,6 +62,9 @@ void ImportProject(const ImportRequest& request) {
         loaded.Value.EnteredIn = request.In;
         store.Save(loaded.Value, request.In);
     });
+    if (isNew) {
+        UserDrafts(request.Database).End(name); // of a project that had its name
+    }
     std::cout << name << ": " << rooms.size() << (rooms.size() == 1 ? " room.\n" : " rooms.\n");
 }
 

@@ -126,13 +126,13 @@ TEST_F(KeptDrafts, OfTwoRunsStandBesideEachOther) {
 }
 
 TEST_F(KeptDrafts, OfNoFolderAreNone) {
-    Drafts none("The environment names no home.");
+    Drafts none("There is no home.");
     const std::string file = none.NewFile("P");
     try {
         none.Write(file, "P", RoomsOf(1), Noon);
         FAIL() << "nothing was raised";
     } catch (const OutputFileError& error) {
-        EXPECT_STREQ(error.what(), "The environment names no home.");
+        EXPECT_STREQ(error.what(), "There is no home.");
     }
     EXPECT_TRUE(none.Of("P").empty());
     none.Supersede("P", "", Noon);
@@ -148,11 +148,25 @@ TEST_F(KeptDrafts, SayWhyTheyCannotBeWritten) {
         drafts.Write(file, "P", RoomsOf(1), Noon);
         FAIL() << "nothing was raised";
     } catch (const OutputFileError& error) {
-        EXPECT_NE(std::string(error.what()).find(folder.Path("state")), std::string::npos)
-            << error.what();
+        EXPECT_EQ(error.what(),
+                  "The folder " + folder.Path("state") + " cannot be written: Not a directory.");
     }
     EXPECT_TRUE(drafts.Of("P").empty());
     EXPECT_EQ(ReadFile(folder.Path("state")), "no folder");
+}
+
+TEST_F(KeptDrafts, NameTheirFolderWhenTheirFileCannotBeReplaced) {
+    const std::string file = Keep(drafts, "P", 1);
+    drafts.Remove(file);
+    QDir().mkpath(QString::fromStdString(file + "/below"));
+    try {
+        drafts.Write(file, "P", RoomsOf(2), Noon);
+        FAIL() << "nothing was raised";
+    } catch (const OutputFileError& error) {
+        EXPECT_EQ(std::string(error.what()).find(file), std::string::npos) << error.what();
+        EXPECT_NE(std::string(error.what()).find(folder.Path("state")), std::string::npos)
+            << error.what();
+    }
 }
 
 TEST_F(KeptDrafts, ThatAreDamagedArePassedOverAndStay) {
@@ -249,6 +263,7 @@ TEST_F(KeptDrafts, MoveWithTheirProject) {
     Keep(drafts, "P", 1, 1);
     Keep(drafts, "P", 2, 2);
     Keep(drafts, "R", 3, 3);
+    Keep(drafts, "NEW", 9, 9); // of a project that another program deleted
     drafts.Supersede("P", "", Noon);
     drafts.Move("p", "new");
     EXPECT_TRUE(Widths(drafts, "P").empty());
