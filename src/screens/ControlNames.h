@@ -13,6 +13,7 @@ inline constexpr const char* window = "Window";
 inline constexpr const char* body = "Body";
 inline constexpr const char* productTitle = "PTitle";
 inline constexpr const char* formTitle = "FTitle";
+inline constexpr const char* titleWarning = "FWarning";
 
 // Projects: the projects and their directories.
 inline constexpr const char* projectScreen = "ProjectForm";
@@ -43,6 +44,9 @@ inline constexpr const char* menuHeading = "Label1";
 inline constexpr const char* notSaved = "NotSaved";
 inline constexpr const char* metric = "Check1";
 inline constexpr const char* enteredInMetric = "EnteredMetric";
+inline constexpr const char* takeBack = "TakeBack";
+inline constexpr const char* earlierRooms = "EarlierRooms";
+inline constexpr const char* earlierRoomsMenu = "EarlierRoomsMenu";
 inline constexpr const char* enterRooms = "Command1(0)";
 inline constexpr const char* backToProjects = "Command1(1)";
 inline constexpr const char* estimateFromMenu = "Command1(2)";

@@ -1,15 +1,100 @@
 #include "screens/OpenProject.h"
 
-#include "project/SizeNotes.h"
-#include "store/ProjectStore.h"
+#include "project/RoomExtents.h"
+#include "store/Names.h"
+#include "store/ProjectNames.h"
 
 #include <utility>
 
 namespace tarn {
 
-void SaveOpenProject(OpenProject& project, ProjectStore& store) {
-    project.Now = store.Save(project.Now, project.Shown).Value;
+bool OpenProject::IsInMetric() const {
+    return Saved.EnteredIn == Units::Metric ||
+           (Now.EnteredIn == Units::Metric && HasUnsavedRooms()) ||
+           (Now.Rooms.empty() && !Typed.IsEmpty() && Typed.In == Units::Metric);
+}
+
+std::string_view UnitsWarning(const OpenProject& project) {
+    const bool hasSizes = !project.Now.Rooms.empty() || !project.Typed.IsEmpty();
+    if (project.Shown == Units::Imperial) {
+        return project.IsInMetric() ? "ENTERED IN METRIC" : "";
+    }
+    return hasSizes && !project.IsInMetric() ? "ENTERED IN FEET" : "";
+}
+
+Draft DraftOf(const OpenProject& project) {
+    Draft draft;
+    if (project.HasUnsavedRooms()) {
+        draft.Rooms = project.Now.Rooms;
+    }
+    draft.EnteredIn = project.Now.EnteredIn;
+    draft.Typed = project.Typed;
+    return draft;
+}
+
+bool IsWorthTakingBack(const Draft& draft, const OpenProject& project) {
+    const bool hasTyping = !draft.Typed.IsEmpty();
+    const bool isStored = !draft.Rooms || *draft.Rooms == project.Saved.Rooms;
+    const bool isInMemory = !draft.Rooms || *draft.Rooms == project.Now.Rooms;
+    const bool isStanding = !hasTyping || draft.Typed == project.Typed;
+    return (!isStored || hasTyping) && (!isInMemory || !isStanding);
+}
+
+void TakeBack(OpenProject& project, const Draft& draft) {
+    OpenProject taken = project;
+    if (draft.Rooms) {
+        taken.Now.Rooms = *draft.Rooms;
+        taken.Now.EnteredIn = draft.EnteredIn;
+    }
+    taken.Typed = FittedTo(draft.Typed, taken.Now.Rooms);
+    taken.Shown = taken.Typed.IsEmpty() ? taken.Now.EnteredIn : taken.Typed.In;
+    RequireExtents(taken.Now, taken.Shown);
+    project = std::move(taken);
+}
+
+namespace {
+
+void TakeSaved(OpenProject& project, SaveResult result) {
+    project.Now = std::move(result.Value);
     project.Saved = project.Now;
+    project.Read = std::move(result.Mark);
+}
+
+} // namespace
+
+SaveResult::Outcome SaveOpenProject(OpenProject& project, ProjectStore& store,
+                                    MeanwhileStored meanwhile) {
+    const bool replaces = meanwhile == MeanwhileStored::IsReplaced;
+    SaveResult result =
+        store.Save(project.Now, project.Shown, replaces ? std::nullopt : project.Read);
+    const SaveResult::Outcome outcome = result.What;
+    if (result.IsSaved()) {
+        TakeSaved(project, std::move(result));
+    }
+    return outcome;
+}
+
+std::optional<std::string> SaveAsNewProject(OpenProject& project, ProjectStore& store,
+                                            const std::string& name) {
+    Project renamed = project.Now;
+    renamed.Name = StoredName(name);
+    std::optional<std::string> refusal;
+    SaveResult result;
+    store.InOneTransaction([&] {
+        refusal = ProjectNameRefusal(store, renamed.Name);
+        if (refusal) {
+            return;
+        }
+        if (!IsDirectoryTaken(store, renamed.Directory)) {
+            store.AddDirectory(renamed.Directory);
+        }
+        store.AddProject(renamed.Directory, renamed.Name);
+        result = store.Save(renamed, project.Shown);
+    });
+    if (!refusal) {
+        TakeSaved(project, std::move(result));
+    }
+    return refusal;
 }
 
 std::string SaveAndNameEmptyRooms(OpenProject& project, ProjectStore& store) {

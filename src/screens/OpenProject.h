@@ -4,19 +4,23 @@
 
 #include "base/Units.h"
 #include "project/Project.h"
+#include "project/Typing.h"
+#include "store/DraftRecord.h"
+#include "store/ProjectStore.h"
 
+#include <optional>
 #include <string>
 #include <string_view>
 
 namespace tarn {
 
-class ProjectStore;
-
 /// The project that the screens work on: as it stands in memory, and as it is stored.
 struct OpenProject {
     Project Now;
-    Project Saved;                 ///< as last loaded or saved
-    Units Shown = Units::Imperial; ///< the units in force: the menu's Metric
+    Project Saved;                  ///< as last loaded or saved
+    std::optional<StoredMark> Read; ///< what the store had of it then; nothing before
+    Typing Typed;                   ///< what stands in the fields of the rooms and is in none
+    Units Shown = Units::Imperial;  ///< the units in force: the menu's Metric
 
     bool OffersEstimate = true; ///< the menu offers ESTIMATE
     bool IsUsable = true;       ///< it was loaded whole, or is new
@@ -24,11 +28,12 @@ struct OpenProject {
     /// Whether the rooms differ from what was last loaded or saved.
     bool HasUnsavedRooms() const { return Now.Rooms != Saved.Rooms; }
     /// Whether the stored rooms were entered in metric, or unsaved ones were typed so.
-    bool IsInMetric() const {
-        return Saved.EnteredIn == Units::Metric ||
-               (Now.EnteredIn == Units::Metric && HasUnsavedRooms());
-    }
+    bool IsInMetric() const;
 };
+
+/// What tells the user in which units the project was entered, while others are in force; empty
+/// while they are not.
+std::string_view UnitsWarning(const OpenProject& project);
 
 /// Shown when a project was saved.
 inline constexpr std::string_view SavedMessage = "Data is saved";
@@ -36,9 +41,29 @@ inline constexpr std::string_view SavedMessage = "Data is saved";
 /// What could not be done when saving failed; the cause follows it.
 inline constexpr std::string_view NotSavedMessage = "The project could not be saved.";
 
-/// Store the project, which then counts as saved. Raises as ProjectStore::Save, with nothing
-/// changed.
-void SaveOpenProject(OpenProject& project, ProjectStore& store);
+/// How a save treats what another program stored since the project was read.
+enum class MeanwhileStored { Stays, IsReplaced };
+
+/// Store the project, which then counts as saved. Answers what became of it; unless it was saved
+/// nothing is changed. Raises as ProjectStore::Save, with nothing changed.
+SaveResult::Outcome SaveOpenProject(OpenProject& project, ProjectStore& store,
+                                    MeanwhileStored meanwhile = MeanwhileStored::Stays);
+
+/// Store the project, of which the store has no row any more, under another name or its own again,
+/// in its directory, which is made where it is gone as well. Why the name is refused, in words for
+/// the user, if it is. Raises as ProjectStore; in both cases nothing is changed.
+std::optional<std::string> SaveAsNewProject(OpenProject& project, ProjectStore& store,
+                                            const std::string& name);
+
+/// What a draft has to keep of the project; empty when nothing of it is unsaved.
+Draft DraftOf(const OpenProject& project);
+
+/// Whether a draft has something that neither the store nor the memory has.
+bool IsWorthTakingBack(const Draft& draft, const OpenProject& project);
+
+/// Put a draft's rooms, its typing and its units in place of those in memory; unsaved. Raises as
+/// RequireExtents, with nothing changed.
+void TakeBack(OpenProject& project, const Draft& draft);
 
 /// SaveOpenProject; answers what to say of rooms that it stored without a size for the first time
 /// (see EmptyRoomsText).

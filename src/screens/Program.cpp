@@ -5,12 +5,22 @@
 #include "screens/WaitCursor.h"
 #include "store/Months.h"
 
+#include <QApplication>
+
 namespace tarn {
 
 Program::Program(Dialogs& boxes, Printer& printer)
     : boxes_(boxes)
     , printer_(printer) {
     screens_.SetSession(session_);
+    const auto* application = qApp;
+    const auto keep = [this] { drafts_.Flush(); };
+    QObject::connect(application, &QCoreApplication::aboutToQuit, &window_, keep);
+    QObject::connect(application, &QGuiApplication::commitDataRequest, &window_, keep);
+}
+
+Program::~Program() {
+    drafts_.Flush();
 }
 
 bool Program::Start(const std::vector<std::filesystem::path>& configurationDirectories,
@@ -44,6 +54,8 @@ bool Program::CanRun(const std::vector<std::filesystem::path>& configurationDire
 
 void Program::Show(const QLocale& locale) {
     store_ = OpenStore(folder_);
+    store_.SetBeforeFirstChange([this] { BackUp(); });
+    drafts_.SetDrafts(UserDrafts(WithNativeSeparators(folder_.DatabaseName)));
     project_.Now.Directory = MonthDirectoryName(session_.Today(), locale);
     screens_.ShowProjects();
     // A print server that is slow to answer must not keep the first screen from being drawn.

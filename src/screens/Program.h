@@ -18,6 +18,10 @@ namespace tarn {
 class Program {
   public:
     Program(Dialogs& boxes, Printer& printer);
+    /// What is unsaved is kept in its draft.
+    ~Program();
+    Program(const Program&) = delete;
+    Program& operator=(const Program&) = delete;
 
     /// Refuse a display that is too small, find the data folder, open the store, show the project
     /// selection in the directory of the month and, once it is painted, read the printer's page.
@@ -43,7 +47,8 @@ class Program {
     Dialogs& boxes_;
     Printer& printer_;
     ProgramScreens screens_{window_};
-    Session session_{project_, store_, folder_, page_, boxes_, printer_, screens_};
+    DraftKeeper drafts_{project_};
+    Session session_{project_, store_, folder_, page_, boxes_, printer_, screens_, drafts_};
     ScreenWindow window_; // the last one: its screens are unloaded before the session goes
 };
 

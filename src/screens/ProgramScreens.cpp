@@ -40,6 +40,7 @@ void ProgramScreens::Return() {
 }
 
 void ProgramScreens::End() {
+    session_->Drafts.Flush();
     window_.hide();
     QCoreApplication::exit(0);
 }

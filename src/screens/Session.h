@@ -3,6 +3,7 @@
 #include "paper/Printer.h"
 #include "paper/PrinterPage.h"
 #include "screens/Dialogs.h"
+#include "screens/DraftKeeper.h"
 #include "screens/OpenProject.h"
 #include "screens/Screens.h"
 #include "store/DataFolder.h"
@@ -24,6 +25,7 @@ struct Session {
     Dialogs& Boxes;
     Printer& Paper;
     Screens& Go;
+    DraftKeeper& Drafts;
     std::function<QDate()> Today = &QDate::currentDate;
 };
 

@@ -63,6 +63,7 @@ QGroupBox[panel="true"]::title { subcontrol-origin: border; top: 135tw; }
 
 QPushButton { background: @Field; border: 2px solid @Border; border-radius: 75tw;
     padding: 45tw 210tw; min-height: 345tw; }
+QPushButton[textRole="Warning"] { color: @Warning; font-weight: 600; }
 QPushButton:hover { background: @Window; }
 QPushButton:pressed { background: @Border; }
 QPushButton:disabled { color: @Disabled; background: @Surface; }

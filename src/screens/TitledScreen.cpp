@@ -33,6 +33,9 @@ TitledScreen::TitledScreen(Session& session, QAnyStringView name, std::string_vi
     productTitle_ =
         NewTitle(&Body(), Controls::productTitle, ApplicationTitle, TextRole::ProductTitle);
     formTitle_ = NewTitle(&Body(), Controls::formTitle, formTitle, TextRole::FormTitle);
+    titleWarning_ = NewLabel(&Body(), Controls::titleWarning, "");
+    SetRole(*titleWarning_, TextRole::Warning);
+    titleWarning_->hide();
     setWindowTitle(ToQt(formTitle).remove(QLatin1Char('*')));
     Body().installEventFilter(this);
 }
@@ -52,6 +55,12 @@ void TitledScreen::ShowPanel(QWidget& panel) {
         }
     }
     panel.show();
+    Arrange();
+}
+
+void TitledScreen::SetTitleWarning(std::string_view words) {
+    SetText(*titleWarning_, words);
+    titleWarning_->setVisible(!words.empty());
     Arrange();
 }
 
@@ -121,11 +130,22 @@ void TitledScreen::Arrange() {
     productTitle_->setGeometry(0, top - titles, area.width(), productTitle_->sizeHint().height());
     formTitle_->setGeometry(0, top - Pixels(FormTitleAbovePanel), area.width(),
                             formTitle_->sizeHint().height());
+    PlaceTitleWarning();
     if (hasBelow) {
         below_->setGeometry((area.width() - belowSize.width()) / 2, top + size.height() + gap,
                             belowSize.width(), belowSize.height());
     }
     arranging_ = false;
+}
+
+/// On the line of the title, which stays in the middle of the screen.
+void TitledScreen::PlaceTitleWarning() {
+    const QRect title = formTitle_->geometry();
+    const QSize size = titleWarning_->sizeHint();
+    const int left =
+        title.center().x() + formTitle_->sizeHint().width() / 2 + Pixels(Metrics::Margin);
+    titleWarning_->setGeometry(
+        QRect(QPoint(left, title.bottom() - (title.height() + size.height()) / 2 + 1), size));
 }
 
 } // namespace tarn

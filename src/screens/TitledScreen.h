@@ -23,6 +23,9 @@ class TitledScreen : public Screen {
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   protected:
+    /// Have these words stand beside the title, in the colour of a warning; empty for none.
+    void SetTitleWarning(std::string_view words);
+
     enum class PanelSize {
         Natural, ///< as large as its content asks for
         Filling, ///< as much of the screen as the titles leave
@@ -41,10 +44,12 @@ class TitledScreen : public Screen {
     };
     bool ChangesArrangement(const QObject* watched, QEvent::Type event);
     void Arrange();
+    void PlaceTitleWarning();
     const Panel* VisiblePanel() const;
 
     QLabel* productTitle_ = nullptr;
     QLabel* formTitle_ = nullptr;
+    QLabel* titleWarning_ = nullptr;
     std::vector<Panel> panels_;
     QWidget* below_ = nullptr;
     bool arranging_ = false;

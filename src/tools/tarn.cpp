@@ -1,6 +1,7 @@
 #include "base/Version.h"
 #include "paper/SystemPrinter.h"
 #include "screens/Display.h"
+#include "screens/EndSignals.h"
 #include "screens/MessageBoxes.h"
 #include "screens/Program.h"
 #include "screens/Theme.h"
@@ -37,6 +38,7 @@ int Run(int argc, char* argv[]) {
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("tarn"));
     QApplication::setQuitOnLastWindowClosed(false);
+    const tarn::EndSignals ending;
     const QScreen* display = QGuiApplication::primaryScreen();
     if (display == nullptr) {
         std::cerr << "tarn: There is no display to show the program on.\n";

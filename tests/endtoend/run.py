@@ -55,6 +55,7 @@ def main():
             XDG_RUNTIME_DIR=folder,
             XDG_CONFIG_HOME=folder + "/config",
             XDG_DATA_HOME=folder + "/data",
+            XDG_STATE_HOME=folder + "/state",
             LC_ALL="C.UTF-8",
             QT_QPA_PLATFORM="xcb",
             QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1",

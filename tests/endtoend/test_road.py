@@ -269,10 +269,10 @@ class MetricRoad(Road):
         )
         self.assertEqual(self.house.rows("select TileLabelNUm, EnteredMetric from MainTab"), [(1, 1)])
         ui.press("BACK")
-        ui.see("label", "ENTERED IN METRIC")
         self.assertFalse(ui.is_checked("check box", "Metric"))
-        ui.click("check box", "Metric")
-        ui.wait_gone("label", "ENTERED IN METRIC")
+        ui.press("ENTERED IN METRIC")
+        ui.wait_gone("push button", "ENTERED IN METRIC")
+        self.assertTrue(ui.is_checked("check box", "Metric"))
         ui.press("ESTIMATE")
         ui.press("OK")
         ui.choose("2")
@@ -355,6 +355,72 @@ class DatabaseTrouble(Road):
         self.assertEqual(self.ui.field("ROOM   WIDTH"), "10")
         os.rename(hidden, self.house.database)
         self.expect_saved_later()
+
+
+class Unsaved(Road):
+    """What was typed and not saved outlives the program, however it ends."""
+
+    def type_room(self):
+        ui = self.ui
+        ui.press("SELECT PROJECT")
+        ui.press("NEW PROJECT")
+        ui.type("power")
+        ui.press("DONE")
+        ui.press("ENTER/EDIT DATA")
+        ui.see("push button", "SAVE")
+        for text in ("10", "6", "14", ""):
+            ui.type(text)
+            ui.key("Return")
+        ui.press("NEXT ROOM")
+        ui.see("label", "2")
+        ui.type("7")
+
+    def drafts(self):
+        state = os.path.join(os.environ["XDG_STATE_HOME"], "tarn")
+        texts = []
+        for name in os.listdir(state) if os.path.isdir(state) else []:
+            with open(os.path.join(state, name), encoding="utf-8") as file:
+                texts.append(file.read())
+        return [text for text in texts if self.house.database in text]
+
+    def expect_taken_back(self):
+        self.ui = Program(self.house.program("tarn"), "--config-dir", self.house.config)
+        self.addCleanup(self.ui.__exit__)
+        ui = self.ui
+        ui.press("SELECT PROJECT")
+        ui.click_on(ui.item("PROJECTS", "POWER"))
+        ui.press("DONE")
+        ui.see("label", "OPERATION MENU")
+        (button,) = [
+            each.name for each in ui.showing("push button") if each.name.startswith("TAKE BACK")
+        ]
+        ui.press(button)
+        ui.see("label", "NOT SAVED")
+        ui.press("ENTER/EDIT DATA")
+        ui.see("label", "2")
+        self.assertEqual(ui.field("ROOM   WIDTH"), "7")
+        ui.fill("ROOM LENGTH", "8")
+        ui.press("SAVE")
+        self.expect_message("Data is saved")
+        self.assertEqual(
+            self.house.rows("select RoomW, RoomL from InputData order by ObjNum"),
+            [(126, 168), (84, 96)],
+        )
+        self.assertEqual(self.drafts(), [])
+
+    def test_a_killed_program_loses_nothing(self):
+        self.type_room()
+        wait_for(lambda: any('"7"' in text for text in self.drafts()), "the draft")
+        self.ui.process.kill()
+        self.ui.process.wait()
+        self.expect_taken_back()
+
+    def test_a_program_that_is_told_to_end_keeps_the_last_key(self):
+        self.type_room()
+        wait_for(lambda: self.ui.field("ROOM   WIDTH") == "7", "the key")
+        self.ui.process.terminate()
+        self.assertEqual(self.ui.wait_for_end(), 0)
+        self.expect_taken_back()
 
 
 if __name__ == "__main__":

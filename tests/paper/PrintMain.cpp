@@ -7,7 +7,7 @@
 
 int main(int argc, char** argv) {
     const QTemporaryDir home;
-    for (const char* directory : {"HOME", "XDG_RUNTIME_DIR"}) {
+    for (const char* directory : {"HOME", "XDG_RUNTIME_DIR", "XDG_STATE_HOME"}) {
         qputenv(directory, home.path().toLocal8Bit());
     }
     for (const char* choice :

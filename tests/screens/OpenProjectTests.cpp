@@ -1,3 +1,4 @@
+#include "base/RunTimeError.h"
 #include "screens/OpenProject.h"
 #include "store/TestDatabase.h"
 
@@ -18,8 +19,10 @@ struct OpenProjects : ::testing::Test {
         Load();
     }
     void Load() {
-        open.Now = store.Load("P").Value;
+        LoadedProject loaded = store.Load("P");
+        open.Now = loaded.Value;
         open.Saved = open.Now;
+        open.Read = loaded.Mark;
     }
 
     TestDatabase file;
@@ -149,9 +152,156 @@ TEST_F(OpenProjects, ThatCouldNotBeSavedAreAsTheyWere) {
     EXPECT_TRUE(open.HasUnsavedRooms());
 }
 
+using Outcome = SaveResult::Outcome;
+
+TEST_F(OpenProjects, ChangedByAnotherProgramAreStoredOnlyWhenTheyReplaceIt) {
+    open.Now.Rooms[0].Width = 321;
+    file.Run("UPDATE InputData SET RoomW = 7 WHERE ObjNum = 2");
+    const Project now = open.Now;
+    EXPECT_EQ(SaveOpenProject(open, store), Outcome::Changed);
+    EXPECT_EQ(open.Now, now);
+    EXPECT_TRUE(open.HasUnsavedRooms());
+    EXPECT_EQ(file.Rows("SELECT RoomW FROM InputData ORDER BY ObjNum"), (Lines{"100", "101", "7"}));
+    EXPECT_EQ(SaveOpenProject(open, store, MeanwhileStored::IsReplaced), Outcome::Saved);
+    EXPECT_FALSE(open.HasUnsavedRooms());
+    EXPECT_EQ(file.Rows("SELECT RoomW FROM InputData ORDER BY ObjNum"),
+              (Lines{"321", "101", "102"}));
+    open.Now.Rooms[0].Width = 322;
+    EXPECT_EQ(SaveOpenProject(open, store), Outcome::Saved) << "that was its own save";
+}
+
+TEST_F(OpenProjects, ThatAreGoneAreStoredAsNewOnes) {
+    open.Now.Rooms[0].Width = 321;
+    file.Run("UPDATE ProjTab SET ProjName = 'Q'");
+    file.Run("UPDATE MainTab SET ProjName = 'Q'");
+    EXPECT_EQ(SaveOpenProject(open, store), Outcome::Gone);
+    EXPECT_EQ(SaveOpenProject(open, store, MeanwhileStored::IsReplaced), Outcome::Gone);
+    const Project now = open.Now;
+    EXPECT_EQ(SaveAsNewProject(open, store, "q"),
+              "There is one project with the same name, change to other one!");
+    EXPECT_EQ(open.Now, now);
+    EXPECT_EQ(SaveAsNewProject(open, store, "new"), std::nullopt);
+    EXPECT_EQ(open.Now.Name, "NEW");
+    EXPECT_FALSE(open.HasUnsavedRooms());
+    EXPECT_EQ(file.Rows("SELECT Dir, ProjName FROM ProjTab"), (Lines{"MARCH|Q", "MARCH|NEW"}));
+    EXPECT_EQ(store.Load("NEW").Value.Rooms, now.Rooms);
+    EXPECT_EQ(store.Load("Q").Value.Rooms[0].Width, 100) << "the other one is as it was";
+    EXPECT_EQ(SaveOpenProject(open, store), Outcome::Saved);
+}
+
+TEST_F(OpenProjects, ThatAreGoneWithTheirDirectoryMakeItAgain) {
+    open.Now.Directory = "HOUSES";
+    file.Run("DELETE FROM ProjTab");
+    EXPECT_EQ(SaveAsNewProject(open, store, "P"), std::nullopt);
+    EXPECT_EQ(store.Directories(), Lines{"HOUSES"});
+    EXPECT_EQ(store.Projects("HOUSES"), Lines{"P"});
+    open.Now.Directory = "MARCH";
+    file.Run("DELETE FROM ProjTab");
+    EXPECT_EQ(SaveAsNewProject(open, store, "P"), std::nullopt);
+    EXPECT_EQ(store.Directories(), Lines{"HOUSES"}) << "a month has no row";
+}
+
+TEST_F(OpenProjects, SayInWhichUnitsTheyWereEnteredWhileOthersAreInForce) {
+    EXPECT_EQ(UnitsWarning(open), "");
+    open.Shown = Units::Metric;
+    EXPECT_EQ(UnitsWarning(open), "ENTERED IN FEET");
+    open.Saved.EnteredIn = Units::Metric;
+    EXPECT_EQ(UnitsWarning(open), "");
+    open.Shown = Units::Imperial;
+    EXPECT_EQ(UnitsWarning(open), "ENTERED IN METRIC");
+}
+
+TEST_F(OpenProjects, WithoutRoomsWereEnteredAsTheyAreTyped) {
+    open.Now.Rooms.clear();
+    open.Saved.Rooms.clear();
+    for (const Units shown : {Units::Imperial, Units::Metric}) {
+        open.Typed = {};
+        open.Shown = shown;
+        EXPECT_EQ(UnitsWarning(open), "") << "nothing was entered";
+        open.Typed.New.emplace();
+        open.Typed.In = Units::Metric;
+        EXPECT_EQ(UnitsWarning(open), shown == Units::Metric ? "" : "ENTERED IN METRIC");
+        open.Typed.In = Units::Imperial;
+        EXPECT_EQ(UnitsWarning(open), shown == Units::Metric ? "ENTERED IN FEET" : "");
+    }
+}
+
+TEST_F(OpenProjects, HaveADraftOfWhatIsUnsaved) {
+    EXPECT_TRUE(DraftOf(open).IsEmpty());
+    open.Typed.New.emplace();
+    EXPECT_FALSE(DraftOf(open).Rooms);
+    EXPECT_EQ(DraftOf(open).Typed, open.Typed);
+    open.Now.Rooms[0].Width = 7;
+    open.Now.EnteredIn = Units::Metric;
+    EXPECT_EQ(DraftOf(open).Rooms, open.Now.Rooms);
+    EXPECT_EQ(DraftOf(open).EnteredIn, Units::Metric);
+    open.Typed = {};
+    open.Now.Rooms.clear();
+    EXPECT_EQ(DraftOf(open).Rooms, std::vector<Room>()) << "that all were deleted is unsaved too";
+}
+
+TEST_F(OpenProjects, OfferADraftThatHasWhatTheyHaveNot) {
+    Draft draft;
+    EXPECT_FALSE(IsWorthTakingBack(draft, open)) << "nothing";
+    draft.Rooms = open.Saved.Rooms;
+    EXPECT_FALSE(IsWorthTakingBack(draft, open)) << "as stored";
+    open.Now.Rooms[0].Width = 7;
+    EXPECT_FALSE(IsWorthTakingBack(draft, open)) << "as stored, whatever is in memory";
+    draft.Rooms = open.Now.Rooms;
+    EXPECT_FALSE(IsWorthTakingBack(draft, open)) << "as in memory";
+    draft.Rooms->clear();
+    EXPECT_TRUE(IsWorthTakingBack(draft, open));
+    draft.Rooms.reset();
+    draft.Typed.New.emplace().Remark = "hall";
+    EXPECT_TRUE(IsWorthTakingBack(draft, open)) << "typed";
+    open.Typed = draft.Typed;
+    EXPECT_FALSE(IsWorthTakingBack(draft, open)) << "standing in the fields";
+}
+
+TEST_F(OpenProjects, TakeADraftBackWithItsUnits) {
+    Draft draft;
+    draft.Rooms = {{366, 500, 0, 0, "", ""}};
+    draft.EnteredIn = Units::Metric;
+    TakeBack(open, draft);
+    EXPECT_EQ(open.Now.Rooms, draft.Rooms);
+    EXPECT_EQ(open.Now.EnteredIn, Units::Metric);
+    EXPECT_EQ(open.Shown, Units::Metric);
+    EXPECT_TRUE(open.HasUnsavedRooms());
+    EXPECT_EQ(open.Now.Name, "P");
+    EXPECT_EQ(UnitsWarning(open), "");
+    EXPECT_EQ(SaveOpenProject(open, store), Outcome::Saved);
+    EXPECT_EQ(file.Rows("SELECT EnteredMetric FROM MainTab"), Lines{"1"});
+}
+
+TEST_F(OpenProjects, TakeBackWhatWasTypedBesideTheirRooms) {
+    Draft draft;
+    draft.Typed.In = Units::Metric;
+    draft.Typed.Changed = ChangedRoom{1, open.Now.Rooms[1], {}};
+    open.Now.Rooms[0].Width = 7;
+    const std::vector<Room> rooms = open.Now.Rooms;
+    TakeBack(open, draft);
+    EXPECT_EQ(open.Now.Rooms, rooms);
+    EXPECT_EQ(open.Typed, draft.Typed);
+    EXPECT_EQ(open.Shown, Units::Metric) << "the sizes in the fields are metric";
+    open.Now.Rooms[1].Width = 8;
+    TakeBack(open, draft);
+    EXPECT_FALSE(open.Typed.Changed) << "the room is another one now";
+    EXPECT_TRUE(open.Typed.New);
+}
+
+TEST_F(OpenProjects, ThatCannotBeLaidOutAreNotTakenBack) {
+    open.Now.Scale = 1e-300;
+    const Project now = open.Now;
+    Draft draft;
+    draft.Rooms = {{366, 500, 0, 0, "", ""}};
+    EXPECT_THROW(TakeBack(open, draft), RunTimeError);
+    EXPECT_EQ(open.Now, now);
+}
+
 TEST_F(OpenProjects, DroppedHaveNoRoomsAndKeepWhatIsStored) {
     open.Now.Rooms[2].Width = 7;
     open.Now.EnteredIn = Units::Metric;
+    open.Typed.New.emplace();
     open.OffersEstimate = false;
     open.IsUsable = false;
     DropRooms(open);
@@ -160,6 +310,7 @@ TEST_F(OpenProjects, DroppedHaveNoRoomsAndKeepWhatIsStored) {
     EXPECT_FALSE(open.IsInMetric());
     EXPECT_TRUE(open.OffersEstimate);
     EXPECT_TRUE(open.IsUsable);
+    EXPECT_TRUE(open.Typed.IsEmpty());
     EXPECT_EQ(open.Now.Name, "P");
     EXPECT_EQ(file.Rows("SELECT count(*) FROM InputData"), Lines{"3"});
 }

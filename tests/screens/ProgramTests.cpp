@@ -244,6 +244,78 @@ TEST_F(ProgramTest, ReturnsFromTheEstimateToTheRoomsThatOpenedIt) {
     ExpectFront(Controls::menuScreen, 1);
 }
 
+TEST_F(ProgramTest, OffersWhatWasTypedAndNotSavedAgain) {
+    ASSERT_TRUE(Start());
+    MakeProject("HOUSE");
+    Click(Control(Controls::enterRooms));
+    TypeRoom("10", "14");
+    Click(Control(Controls::nextRoom));
+    Type(Control<QLineEdit>(Controls::remark), "hall");
+    program_.Window().close(); // a double click on the cross
+    program_.Window().close();
+    EXPECT_FALSE(program_.Window().isVisible());
+    EXPECT_TRUE(boxes_.Questions.empty()) << "nothing is asked";
+
+    Program next(boxes_, printer_);
+    ASSERT_TRUE(next.Start(
+        {folder_.Path()}, {800, 600}, [] { return QDate(2026, 3, 14); },
+        QLocale(QLocale::English, QLocale::UnitedStates)));
+    const auto control = [&next](const char* name) -> QPushButton& {
+        return Find<QPushButton>(*next.Window().Front(), name);
+    };
+    Click(control(Controls::selectProject));
+    auto& projects = Find<QListWidget>(*next.Window().Front(), Controls::projects);
+    QTest::mouseClick(projects.viewport(), Qt::LeftButton, {},
+                      projects.visualItemRect(projects.item(0)).center());
+    Click(control(Controls::acceptProject));
+    EXPECT_TRUE(next.Project().Now.Rooms.empty()) << "what is stored is opened";
+    Click(control(Controls::takeBack));
+    EXPECT_EQ(next.Project().Now.Rooms.size(), 1U);
+    Click(control(Controls::enterRooms));
+    EXPECT_EQ(Find<QLineEdit>(*next.Window().Front(), Controls::remark).text(),
+              QStringLiteral("hall"));
+    Click(control(Controls::saveRooms));
+    EXPECT_EQ(boxes_.Messages, std::vector<std::string>{"Data is saved"});
+    Click(control(Controls::leaveRooms));
+    EXPECT_FALSE(control(Controls::takeBack).isVisible()) << "it is stored";
+}
+
+TEST_F(ProgramTest, OffersItAgainAfterGoingBackwardToo) {
+    ASSERT_TRUE(Start());
+    MakeProject("HOUSE");
+    Click(Control(Controls::enterRooms));
+    TypeRoom("10", "14");
+    Click(Control(Controls::leaveRooms));
+    Click(Control(Controls::backToProjects));
+    Click(Control(Controls::selectProject));
+    auto& projects = Control<QListWidget>(Controls::projects);
+    QTest::mouseClick(projects.viewport(), Qt::LeftButton, {},
+                      projects.visualItemRect(projects.item(0)).center());
+    Click(Control(Controls::acceptProject));
+    EXPECT_TRUE(program_.Project().Now.Rooms.empty());
+    Click(Control(Controls::takeBack));
+    EXPECT_EQ(program_.Project().Now.Rooms.size(), 1U);
+}
+
+TEST_F(ProgramTest, KeepsWhatIsTypedWhenItIsUnloaded) {
+    auto program = std::make_unique<Program>(boxes_, printer_);
+    ASSERT_TRUE(program->Start(
+        {folder_.Path()}, {800, 600}, [] { return QDate(2026, 3, 14); }, QLocale::c()));
+    const auto control = [&program](const char* name) -> QWidget& {
+        return Find<QWidget>(*program->Window().Front(), name);
+    };
+    Click(control(Controls::selectProject));
+    Click(control(Controls::newProject));
+    Type(control(Controls::projectBox), "shed");
+    Click(control(Controls::acceptProject));
+    Click(control(Controls::enterRooms));
+    Type(control(Controls::remark), "hall");
+    program.reset();
+    const Drafts drafts = UserDrafts(folder_.Path("data/DATA/Tarn.mdb"));
+    ASSERT_EQ(drafts.Of("SHED").size(), 1U);
+    EXPECT_EQ(drafts.Of("SHED")[0].Record.Content.Typed.New->Remark, "hall");
+}
+
 /// The program on the options screen above the estimate of some rooms, opened from the room entry.
 class SearchTest : public ProgramTest {
   protected:

@@ -9,6 +9,7 @@
 #include "screens/Session.h"
 
 #include <QApplication>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QWidget>
 
@@ -124,7 +125,12 @@ std::string ShownToolTip(const QWidget& widget);
 
 /// A session with everything recorded: no database, no project, the directory of March.
 struct ScreenTest : ::testing::Test {
-    ScreenTest() { open.Now.Directory = "MARCH"; }
+    ScreenTest() {
+        open.Now.Directory = "MARCH";
+        drafts.SetDrafts(NewRun());
+    }
+    /// The drafts of the test's projects, as another run of the program has them.
+    Drafts NewRun() const { return {FromQt(state.filePath(QStringLiteral("tarn"))), "Tarn.mdb"}; }
 
     OpenProject open;
     ProjectStore store;
@@ -133,8 +139,11 @@ struct ScreenTest : ::testing::Test {
     FakeBoxes boxes;
     FakePrinter printer;
     FakeScreens screens;
-    Session session{open,  store,   folder,  page,
-                    boxes, printer, screens, [] { return QDate(2026, 3, 14); }};
+    QTemporaryDir state; ///< of the drafts
+    DraftKeeper drafts{open};
+    Session session{open,    store,  folder,
+                    page,    boxes,  printer,
+                    screens, drafts, [] { return QDate(2026, 3, 14); }};
 };
 
 } // namespace tarn::testing

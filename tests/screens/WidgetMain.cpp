@@ -12,6 +12,7 @@ int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QTemporaryDir runtime;
     qputenv("XDG_RUNTIME_DIR", runtime.path().toLocal8Bit());
+    qputenv("XDG_STATE_HOME", runtime.path().toLocal8Bit());
     QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
     const tarn::Theme theme(application);

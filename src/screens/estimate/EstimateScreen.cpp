@@ -12,6 +12,7 @@
 #include "screens/Display.h"
 #include "screens/ElidedLabel.h"
 #include "screens/SaveAs.h"
+#include "screens/SaveProject.h"
 #include "screens/Theme.h"
 #include "screens/estimate/ChoicePanel.h"
 #include "screens/estimate/EstimateOutput.h"
@@ -83,13 +84,13 @@ void EstimateScreen::TellNoData() {
 }
 
 void EstimateScreen::Build() {
-    setWindowTitle(QStringLiteral("ESTIMATE FOR PROJECT: ") + ToQt(OpenedProject().Name));
     auto* rows = new QVBoxLayout(&Body());
     SetSpacing(*rows, Metrics::Margin);
-    rows->addWidget(
-        NewElidedLabel(&Body(), Controls::formTitle, windowTitle(), TextRole::FormTitle));
+    rows->addLayout(BuildTitle());
     rows->addLayout(BuildPictureAndButtons(), 1);
     rows->addLayout(BuildStatus());
+    ShowProjectName();
+    ShowUnitsWarning();
     OfferDrawing();
 
     panel_ = new ChoicePanel(&Body(), Shared().Boxes, ShownUnits());
@@ -99,6 +100,32 @@ void EstimateScreen::Build() {
     panel_->installEventFilter(this);
     SetTabOrders({&panel_->CancelButton(), openPanel_, improve_, paste_, redraw_, print_, save_,
                   back_, picture_});
+}
+
+QHBoxLayout* EstimateScreen::BuildTitle() {
+    title_ = NewElidedLabel(&Body(), Controls::formTitle, {}, TextRole::FormTitle);
+    title_->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed); // the warning is next to it
+    unitsWarning_ = NewLabel(&Body(), Controls::titleWarning, "");
+    SetRole(*unitsWarning_, TextRole::Warning);
+    auto* title = new QHBoxLayout;
+    title->setSpacing(Pixels(Metrics::Margin));
+    title->addWidget(title_);
+    title->addWidget(unitsWarning_);
+    title->addStretch();
+    return title;
+}
+
+void EstimateScreen::ShowProjectName() {
+    const std::string& name = OpenedProject().Name;
+    setWindowTitle(ToQt("ESTIMATE FOR PROJECT: " + name));
+    SetText(*title_, FromQt(windowTitle()));
+    SetText(*projectName_, "PROJ: " + name);
+}
+
+void EstimateScreen::ShowUnitsWarning() {
+    const std::string_view words = UnitsWarning(Shared().Project);
+    SetText(*unitsWarning_, words);
+    unitsWarning_->setVisible(!words.empty());
 }
 
 QHBoxLayout* EstimateScreen::BuildPictureAndButtons() {
@@ -115,10 +142,8 @@ QHBoxLayout* EstimateScreen::BuildPictureAndButtons() {
 QHBoxLayout* EstimateScreen::BuildStatus() {
     auto* status = new QHBoxLayout;
     status->setSpacing(Pixels(Metrics::Margin));
-    status->addWidget(NewElidedLabel(&Body(), Controls::estimatedProject,
-                                     QStringLiteral("PROJ: ") + ToQt(OpenedProject().Name),
-                                     TextRole::Label),
-                      1);
+    projectName_ = NewElidedLabel(&Body(), Controls::estimatedProject, {}, TextRole::Label);
+    status->addWidget(projectName_, 1);
     zoomHint_ = NewLabel(&Body(), Controls::zoomHint, FromQt(PictureBox::ZoomHint()));
     SetRole(*zoomHint_, TextRole::Hint);
     status->addWidget(zoomHint_);
@@ -380,8 +405,11 @@ bool EstimateScreen::PasteCutList(Double x, Double y) {
 }
 
 void EstimateScreen::SaveRooms() {
-    const std::string emptyRooms = SaveAndNameEmptyRooms(Shared().Project, Shared().Store);
-    Shared().Boxes.Message(std::string(SavedMessage), emptyRooms);
+    if (const auto emptyRooms = SaveOrAsk(Shared())) {
+        ShowProjectName();
+        ShowUnitsWarning();
+        Shared().Boxes.Message(std::string(SavedMessage), *emptyRooms);
+    }
 }
 
 /// Closing while a search improves the layout ends the search alone.

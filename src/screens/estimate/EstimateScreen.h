@@ -44,6 +44,9 @@ class EstimateScreen : public Screen, public EstimateClient {
 
   private:
     void Build();
+    QHBoxLayout* BuildTitle();
+    void ShowProjectName();
+    void ShowUnitsWarning();
     QHBoxLayout* BuildPictureAndButtons();
     QHBoxLayout* BuildStatus();
     QVBoxLayout* BuildButtons();
@@ -80,6 +83,9 @@ class EstimateScreen : public Screen, public EstimateClient {
     PictureBox* picture_ = nullptr;
     ImprovePanel* improvePanel_ = nullptr;
     QMenu* pictureMenu_ = nullptr;
+    QLabel* title_ = nullptr;
+    QLabel* unitsWarning_ = nullptr;
+    QLabel* projectName_ = nullptr;
     QLabel* zoomHint_ = nullptr;
     QPushButton* openPanel_ = nullptr;
     QPushButton* improve_ = nullptr;

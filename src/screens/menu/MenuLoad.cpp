@@ -46,6 +46,8 @@ std::string LoadRooms(OpenProject& project, ProjectStore& store,
             loaded.Value.Directory = project.Now.Directory;
             project.Now = std::move(loaded.Value);
             project.Saved = project.Now;
+            project.Read = std::move(loaded.Mark);
+            project.Typed = FittedTo(std::move(project.Typed), project.Now.Rooms);
             findings = std::move(loaded.Findings);
         }
         return cause;

@@ -1,5 +1,7 @@
 #include "screens/menu/MenuScreen.h"
 
+#include "base/Text.h"
+#include "files/QtText.h"
 #include "screens/Arrangement.h"
 #include "screens/ControlNames.h"
 #include "screens/Controls.h"
@@ -11,6 +13,8 @@
 #include <QCheckBox>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QLocale>
+#include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -21,6 +25,27 @@ namespace {
 
 constexpr double PanelWidth = 5700; // twips
 
+constexpr const char* UnitsFailure = "The units could not be changed.";
+constexpr const char* TakeBackFailure = "The rooms could not be taken back.";
+
+/// The time of a draft as the user's clock showed it, such as 22 Nov 14:05; with the year when it
+/// is not this one.
+std::string DraftTime(const QDateTime& written, const QDate& today) {
+    const QDateTime local = written.toLocalTime();
+    const bool isThisYear = local.date().year() == today.year();
+    return FromQt(QLocale::c().toString(local, isThisYear ? QStringLiteral("d MMM HH:mm")
+                                                          : QStringLiteral("d MMM yyyy HH:mm")));
+}
+
+/// What a draft has, in a word.
+std::string RoomsText(const Draft& draft) {
+    if (!draft.Rooms) {
+        return "a room that was being typed";
+    }
+    const std::size_t rooms = draft.Rooms->size();
+    return TrimStr(static_cast<long long>(rooms)) + (rooms == 1 ? " room" : " rooms");
+}
+
 } // namespace
 
 MenuScreen::MenuScreen(Session& session, MenuEntry entry)
@@ -29,13 +54,14 @@ MenuScreen::MenuScreen(Session& session, MenuEntry entry)
     BuildExit();
     OpenProject& project = Shared().Project;
     const MenuLoad load = LoadMenu(project, Shared().Store, entry);
-    notSaved_->setVisible(load.Unsaved);
+    if (!project.IsUsable) {
+        Shared().Drafts.LetGo(); // its rooms were dropped, not given up
+    }
     estimate_->setVisible(project.OffersEstimate);
     for (QPushButton* button : {enterRooms_, estimate_}) {
         button->setEnabled(project.IsUsable);
     }
-    metric_->setChecked(project.Shown == Units::Metric);
-    ShowUnits();
+    ShowProject();
     if (!load.Message.empty()) {
         // When this screen is in front: the box is about it.
         Later([this, message = load.Message] { Shared().Boxes.Message(message); });
@@ -56,22 +82,8 @@ void MenuScreen::BuildPanel() {
     SetRole(*notSaved_, TextRole::Warning);
     notSaved_->setAlignment(Qt::AlignCenter);
 
-    metric_ = new QCheckBox(panel);
-    metric_->setObjectName(Controls::metric);
-    SetCaption(*metric_, "Metric", 'M');
-    connect(metric_, &QCheckBox::toggled, this, [this](bool ticked) {
-        Guard("The units could not be changed.", [&] {
-            Shared().Project.Shown = ticked ? Units::Metric : Units::Imperial;
-            ShowUnits();
-        });
-    });
-    enteredInMetric_ = NewLabel(panel, Controls::enteredInMetric, "ENTERED IN METRIC");
-    SetRole(*enteredInMetric_, TextRole::Warning);
-    auto* units = new QHBoxLayout;
-    units->addWidget(metric_);
-    units->addWidget(enteredInMetric_);
-    units->addStretch();
-
+    QHBoxLayout* units = BuildUnits(panel);
+    QHBoxLayout* drafts = BuildTakeBack(panel);
     enterRooms_ = NewButton(panel, Controls::enterRooms, "ENTER/EDIT DATA", 'D');
     back_ = NewButton(panel, Controls::backToProjects, "BACKWARD", 'B');
     estimate_ = NewButton(panel, Controls::estimateFromMenu, "ESTIMATE", 'E');
@@ -85,12 +97,13 @@ void MenuScreen::BuildPanel() {
     layout->addWidget(heading);
     layout->addWidget(notSaved_);
     layout->addLayout(units);
+    layout->addLayout(drafts);
     layout->addWidget(enterRooms_);
     layout->addWidget(estimate_);
     layout->addWidget(back_);
     AddPanel(*panel);
 
-    SetTabOrders({metric_, enterRooms_, estimate_, back_});
+    SetTabOrders({metric_, enteredIn_, takeBack_, earlier_, enterRooms_, estimate_, back_});
 }
 
 void MenuScreen::BuildExit() {
@@ -100,9 +113,83 @@ void MenuScreen::BuildExit() {
             [this] { Guard("The program could not be ended.", [this] { Shared().Go.End(); }); });
 }
 
-void MenuScreen::ShowUnits() {
+QHBoxLayout* MenuScreen::BuildUnits(QWidget* panel) {
+    metric_ = new QCheckBox(panel);
+    metric_->setObjectName(Controls::metric);
+    SetCaption(*metric_, "Metric", 'M');
+    connect(metric_, &QCheckBox::toggled, this, [this](bool ticked) {
+        Guard(UnitsFailure, [&] {
+            Shared().Project.Shown = ticked ? Units::Metric : Units::Imperial;
+            ShowUnits();
+        });
+    });
+    enteredIn_ = NewButton(panel, Controls::enteredInMetric, "");
+    SetRole(*enteredIn_, TextRole::Warning);
+    OnClick(*enteredIn_, UnitsFailure, [this] {
+        metric_->setFocus(); // for the button goes
+        metric_->toggle();
+    });
+    auto* units = new QHBoxLayout;
+    units->addWidget(metric_);
+    units->addWidget(enteredIn_);
+    units->addStretch();
+    return units;
+}
+
+QHBoxLayout* MenuScreen::BuildTakeBack(QWidget* panel) {
+    takeBack_ = NewButton(panel, Controls::takeBack, "");
+    earlier_ = NewButton(panel, Controls::earlierRooms, "EARLIER", 'R');
+    earlierMenu_ = new QMenu(earlier_);
+    earlierMenu_->setObjectName(Controls::earlierRoomsMenu);
+    earlier_->setMenu(earlierMenu_);
+    OnClick(*takeBack_, TakeBackFailure, [this] { TakeBack(0); });
+    auto* row = new QHBoxLayout;
+    row->setSpacing(Pixels(Metrics::Spacing));
+    row->addWidget(takeBack_, 1);
+    row->addWidget(earlier_);
+    return row;
+}
+
+void MenuScreen::ShowProject() {
     const OpenProject& project = Shared().Project;
-    enteredInMetric_->setVisible(project.Shown == Units::Imperial && project.IsInMetric());
+    notSaved_->setVisible(project.HasUnsavedRooms());
+    metric_->setChecked(project.Shown == Units::Metric);
+    ShowUnits();
+    OfferDrafts();
+}
+
+void MenuScreen::ShowUnits() {
+    const std::string_view words = UnitsWarning(Shared().Project);
+    SetCaption(*enteredIn_, words, words.empty() ? '\0' : 'N');
+    enteredIn_->setVisible(!words.empty());
+}
+
+void MenuScreen::OfferDrafts() {
+    offered_.clear();
+    if (Shared().Project.IsUsable) {
+        offered_ = Shared().Drafts.WorthTakingBack();
+    }
+    const QDate today = Shared().Today();
+    takeBack_->setVisible(!offered_.empty());
+    earlier_->setVisible(offered_.size() > 1);
+    earlierMenu_->clear();
+    for (std::size_t i = 0; i < offered_.size(); ++i) {
+        const std::string time = DraftTime(offered_[i].Record.Written, today);
+        if (i == 0) {
+            SetCaption(*takeBack_, "TAKE BACK ROOMS OF " + time, 'T');
+        }
+        const QAction* item =
+            earlierMenu_->addAction(ToQt(time + ", " + RoomsText(offered_[i].Record.Content)));
+        connect(item, &QAction::triggered, this,
+                [this, i] { Guard(TakeBackFailure, [this, i] { TakeBack(i); }); });
+    }
+}
+
+void MenuScreen::TakeBack(std::size_t place) {
+    const KeptDraft draft = offered_.at(place);
+    Shared().Drafts.TakeBack(draft);
+    enterRooms_->setFocus(); // before the button goes
+    ShowProject();
 }
 
 QWidget* MenuScreen::FirstFocus() {
@@ -115,6 +202,7 @@ void MenuScreen::EnterRooms() {
 }
 
 void MenuScreen::GoBack() {
+    Shared().Drafts.Flush();
     Shared().Go.ShowProjects(); // which drops the rooms
 }
 

@@ -2,14 +2,20 @@
 
 #include "screens/TitledScreen.h"
 
+#include <cstddef>
+#include <vector>
+
 class QCheckBox;
+class QHBoxLayout;
 class QLabel;
+class QMenu;
 class QPushButton;
 
 namespace tarn {
 
 /// The operation menu of the current project: the way to its rooms and its estimate, and the
-/// switch of the units that everything after it is shown in. Loading it loads the project.
+/// switch of the units that everything after it is shown in. Loading it loads the project, and
+/// offers the rooms that were typed and not saved.
 class MenuScreen : public TitledScreen {
   public:
     MenuScreen(Session& session, MenuEntry entry);
@@ -21,14 +27,25 @@ class MenuScreen : public TitledScreen {
   private:
     void BuildPanel();
     void BuildExit();
+    QHBoxLayout* BuildUnits(QWidget* panel);
+    QHBoxLayout* BuildTakeBack(QWidget* panel);
+    /// Show what the open project is: its units, whether it is saved, which drafts it has.
+    void ShowProject();
     void ShowUnits();
+    void OfferDrafts();
+    /// Take back the draft of that place among those offered.
+    void TakeBack(std::size_t place);
     void EnterRooms();
     void GoBack();
     void Estimate();
 
     QLabel* notSaved_ = nullptr;
     QCheckBox* metric_ = nullptr;
-    QLabel* enteredInMetric_ = nullptr;
+    QPushButton* enteredIn_ = nullptr; ///< says so, and changes Metric
+    QPushButton* takeBack_ = nullptr;
+    QPushButton* earlier_ = nullptr;
+    QMenu* earlierMenu_ = nullptr;
+    std::vector<KeptDraft> offered_;
     QPushButton* enterRooms_ = nullptr;
     QPushButton* estimate_ = nullptr;
     QPushButton* back_ = nullptr;

@@ -42,6 +42,7 @@ ProjectScreen::ProjectScreen(Session& session)
     ConnectSelection();
     ShowSettings();
     // Last: when this screen cannot be made, the one in front keeps its rooms.
+    Shared().Drafts.LetGo();
     DropRooms(Shared().Project);
 }
 
@@ -133,6 +134,9 @@ void ProjectScreen::Done() {
     if (result.Result == ChoiceResult::Outcome::Refused) {
         Shared().Boxes.Message(result.Message);
         return;
+    }
+    if (result.Result == ChoiceResult::Outcome::New) {
+        Shared().Drafts.Files().End(Shared().Project.Now.Name); // of one that had its name
     }
     ShowSettings();
     CloseSelection();
@@ -279,6 +283,7 @@ void ProjectScreen::AskProjectName() {
                     return refusal;
                 }
                 RenameProject(Shared().Store, Shared().Project.Now, oldName, name);
+                Shared().Drafts.Files().Move(oldName, name);
                 list.SetEntry(list.Chosen(), name);
                 ProjectBox& box = *selection_->Name;
                 if (box.IsLocked() && StoredName(box.Name()) == StoredName(oldName)) {
@@ -297,8 +302,12 @@ void ProjectScreen::AskDeleteDirectory() {
     }
     ChoiceList& list = *selection_->Directories;
     const int row = list.Chosen();
-    DeleteDirectory(Shared().Store, Shared().Project.Now, list.ChosenName().value(),
-                    CurrentMonth());
+    const std::string name = list.ChosenName().value();
+    const auto projects = Shared().Store.Projects(name);
+    DeleteDirectory(Shared().Store, Shared().Project.Now, name, CurrentMonth());
+    for (const std::string& project : projects) {
+        Shared().Drafts.Files().End(project);
+    }
     ShowSettings();
     list.Remove(row);
     shownRow_ = -1;
@@ -320,7 +329,9 @@ void ProjectScreen::AskDeleteProject() {
     }
     ChoiceList& list = *selection_->Projects;
     const int row = list.Chosen();
-    DeleteProject(Shared().Store, Shared().Project.Now, list.ChosenName().value());
+    const std::string name = list.ChosenName().value();
+    DeleteProject(Shared().Store, Shared().Project.Now, name);
+    Shared().Drafts.Files().End(name);
     ShowSettings();
     list.Remove(row);
     const int neighbour = NeighbourOf(row, list);

@@ -111,7 +111,7 @@ void AddSizeRow(QWidget* parent, QGridLayout& grid, int at, const SizeRow& row, 
 RoomEntryFrame::RoomEntryFrame(const std::string& project, Units shown, Dialogs& boxes)
     : boxes_(boxes)
     , units_(shown) {
-    SetGroupCaption(*this, Controls::roomPanel, ToQt("PROJECT: " + project).toUpper());
+    SetProject(project);
     SetPanel(*this);
     MakeFields();
     MakeButtons();
@@ -319,6 +319,11 @@ void RoomEntryFrame::ShowNewRoom() {
     RoomDraft draft;
     draft.Covering = static_cast<Byte>(std::max(covering_->currentIndex(), 0));
     Show(draft);
+}
+
+void RoomEntryFrame::SetProject(const std::string& project) {
+    SetGroupCaption(*this, Controls::roomPanel, ToQt("PROJECT: " + project).toUpper());
+    FitCaption();
 }
 
 void RoomEntryFrame::SetItemNumber(std::size_t number) {

@@ -49,6 +49,8 @@ class RoomEntryFrame : public QGroupBox {
     /// Empty the texts for a new room. The covering stays; where none is chosen, the first one is.
     void ShowNewRoom();
     void SetItemNumber(std::size_t number);
+    /// The project's name, a part of the caption.
+    void SetProject(const std::string& project);
 
     /// Say below the sizes what became of the typing; it stands there until the next change of a
     /// field, or until a room is shown.

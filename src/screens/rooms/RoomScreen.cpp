@@ -1,7 +1,9 @@
 #include "screens/rooms/RoomScreen.h"
 
 #include "base/RunTimeError.h"
+#include "base/Text.h"
 #include "files/OutputFile.h"
+#include "files/QtText.h"
 #include "files/ReportSvg.h"
 #include "files/ShortDate.h"
 #include "paper/PdfFile.h"
@@ -12,6 +14,7 @@
 #include "screens/Display.h"
 #include "screens/Printing.h"
 #include "screens/SaveAs.h"
+#include "screens/SaveProject.h"
 #include "screens/Theme.h"
 #include "screens/rooms/ReportFrame.h"
 #include "screens/rooms/RoomEntryFrame.h"
@@ -23,6 +26,7 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 
+#include <optional>
 #include <utility>
 #include <vector>
 
@@ -54,14 +58,19 @@ RoomScreen::RoomScreen(Session& session)
     : TitledScreen(session, Controls::roomScreen, "*EDIT DATA*")
     , entry_(new RoomEntryFrame(session.Project.Now.Name, session.Project.Shown, session.Boxes))
     , report_(new ReportFrame)
-    , current_(session.Project.Now.Rooms.size()) {
+    , current_(FirstRoom(session.Project)) {
     MakeMenu();
     AddPanel(*entry_);
     AddPanel(*report_, PanelSize::Filling);
     MakeButtonsBelow();
     SetTabOrder();
     ConnectButtons();
+    session.Project.Typed = InUnits(std::move(session.Project.Typed), session.Project.Shown);
     ShowRoom(current_);
+    ConnectTyping();
+    ShowUnitsWarning();
+    ShowTrouble();
+    session.Drafts.OnTrouble(*this, [this] { ShowTrouble(); });
 }
 
 void RoomScreen::MakeMenu() {
@@ -137,19 +146,83 @@ void RoomScreen::RunCommand(const std::string& failure, const std::function<void
     }
 }
 
+std::size_t RoomScreen::FirstRoom(const OpenProject& project) {
+    const auto& changed = project.Typed.Changed;
+    return changed ? changed->Place : project.Now.Rooms.size();
+}
+
 void RoomScreen::ShowRoom(std::size_t room) {
     const OpenProject& project = Shared().Project;
+    showing_ = true;
     if (room == project.Now.Rooms.size()) {
         entry_->ShowNewRoom();
+        untouched_ = entry_->Draft();
+        if (project.Typed.New) {
+            entry_->Show(*project.Typed.New);
+        }
     } else {
         entry_->Show(DraftOf(project.Now.Rooms.at(room), project.Shown));
+        untouched_ = entry_->Draft();
+        if (const auto& changed = project.Typed.Changed; changed && changed->Place == room) {
+            entry_->Show(changed->Texts);
+        }
     }
+    showing_ = false;
     entry_->SetItemNumber(room + 1);
 }
 
-StoreResult RoomScreen::StoreShownRoom() {
+void RoomScreen::ConnectTyping() {
+    const auto typed = [this] {
+        if (!showing_) {
+            Guard({}, [this] { KeepTyping(); });
+        }
+    };
+    for (int i = 0; i < RoomEntryFrame::Texts; ++i) {
+        connect(&entry_->Text(i), &QLineEdit::textChanged, this, typed);
+    }
+    connect(&entry_->Covering(), &QComboBox::currentIndexChanged, this, typed);
+}
+
+void RoomScreen::KeepTyping() {
     OpenProject& project = Shared().Project;
-    const StoreResult result = StoreRoom(project.Now, project.Shown, current_, entry_->Draft());
+    const RoomDraft fields = entry_->Draft();
+    project.Typed.In = project.Shown;
+    project.Typed.Changed.reset();
+    if (current_ == project.Now.Rooms.size()) {
+        project.Typed.New = IsBlank(fields) ? std::nullopt : std::optional(fields);
+    } else if (fields != untouched_) {
+        project.Typed.Changed = ChangedRoom{current_, project.Now.Rooms.at(current_), fields};
+    }
+    Shared().Drafts.NoteChange();
+    ShowUnitsWarning();
+}
+
+void RoomScreen::ShowUnitsWarning() {
+    SetTitleWarning(UnitsWarning(Shared().Project));
+}
+
+void RoomScreen::ShowTrouble() {
+    const std::string& trouble = Shared().Drafts.Trouble();
+    entry_->SetWarning(trouble.empty() ? QString() : ToQt("NOT KEPT: " + trouble));
+}
+
+StoreResult RoomScreen::StoreFields() {
+    OpenProject& project = Shared().Project;
+    const RoomDraft fields = entry_->Draft();
+    const bool isNew = current_ == project.Now.Rooms.size();
+    const StoreResult result = StoreRoom(project.Now, project.Shown, current_, fields);
+    if (result.IsStored()) {
+        untouched_ = fields;
+        if (isNew) {
+            project.Typed.New.reset();
+        }
+    }
+    KeepTyping();
+    return result;
+}
+
+StoreResult RoomScreen::StoreShownRoom() {
+    const StoreResult result = StoreFields();
     if (!result.Message().empty()) {
         Shared().Boxes.Message(std::string(result.Message()));
     }
@@ -161,6 +234,7 @@ StoreResult RoomScreen::StoreShownRoom() {
 
 StoreResult RoomScreen::WithRoomStored(const std::function<void()>& action) {
     Project before = Shared().Project.Now;
+    RoomDraft untouched = untouched_;
     const StoreResult result = StoreShownRoom();
     if (result.Stops()) {
         return result;
@@ -169,6 +243,8 @@ StoreResult RoomScreen::WithRoomStored(const std::function<void()>& action) {
         action();
     } catch (...) {
         Shared().Project.Now = std::move(before);
+        untouched_ = std::move(untouched);
+        KeepTyping();
         throw;
     }
     return result;
@@ -204,8 +280,14 @@ void RoomScreen::ShowPrevious() {
 
 void RoomScreen::AskAndDelete() {
     if (Shared().Boxes.AskYesNo(DeleteQuestion)) {
-        DeleteRoom(Shared().Project.Now, current_);
+        OpenProject& project = Shared().Project;
+        if (current_ == project.Now.Rooms.size()) {
+            project.Typed.New.reset();
+        }
+        project.Typed.Changed.reset();
+        DeleteRoom(project.Now, current_);
         ShowRoom(current_);
+        KeepTyping();
         FirstFocus()->setFocus();
     }
 }
@@ -215,19 +297,33 @@ void RoomScreen::Save() {
 }
 
 void RoomScreen::SaveAll() {
-    std::string message(SavedMessage);
-    std::string emptyRooms;
+    std::string message;
+    std::optional<std::string> emptyRooms;
     const StoreResult result = WithRoomStored([&] {
         try {
-            emptyRooms = SaveAndNameEmptyRooms(Shared().Project, Shared().Store);
+            emptyRooms = SaveOrAsk(Shared());
         } catch (const DatabaseError& error) { // the room stays in memory
             message = std::string(NotSavedMessage) + " " + error.what();
         }
     });
-    if (!result.Stops()) {
-        Shared().Boxes.Message(message, emptyRooms);
+    entry_->SetProject(Shared().Project.Now.Name);
+    ShowUnitsWarning();
+    if (emptyRooms) {
+        Shared().Boxes.Message(std::string(SavedMessage), *emptyRooms);
+        TellNotStored();
+    } else if (!message.empty()) {
+        Shared().Boxes.Message(message);
     }
     FocusAfter(result);
+}
+
+void RoomScreen::TellNotStored() {
+    const OpenProject& project = Shared().Project;
+    if (project.Typed.New) {
+        const auto room = static_cast<long long>(project.Now.Rooms.size() + 1);
+        entry_->SetHint(
+            ToQt("Room " + TrimStr(room) + " is not stored: it needs a width and a length."));
+    }
 }
 
 void RoomScreen::Estimate() {
@@ -280,12 +376,12 @@ void RoomScreen::CloseReport() {
 }
 
 void RoomScreen::Leave() {
-    OpenProject& project = Shared().Project;
     try {
-        StoreRoom(project.Now, project.Shown, current_, entry_->Draft());
+        StoreFields();
     } catch (const RunTimeError&) {
-        // A size that no room can have: the room stays as it was, and nothing is said on leaving.
+        // A size that no room can have: nothing is said on leaving.
     }
+    Shared().Drafts.Flush();
     Shared().Go.ShowMenu(MenuEntry::Returning);
 }
 

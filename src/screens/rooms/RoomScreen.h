@@ -18,8 +18,9 @@ class RoomEntryFrame;
 /// on a new room after the last one. Rooms are changed in memory; SAVE writes them to the database.
 /// NEXT, PREVIOUS, SAVE, ESTIMATE and REPORT wait while a size on the screen is refused or the
 /// project is full. Leaving waits for nothing: a room that cannot be stored without a word with the
-/// user is left as it was in memory, and what was typed is gone. An action that fails takes back
-/// the room that it stored, which stays on the screen.
+/// user is left as it was in memory, and what was typed stands in its fields when the screen opens
+/// again. An action that fails takes back the room that it stored, which stays on the screen. What
+/// is typed is kept in the project's draft.
 class RoomScreen : public TitledScreen {
   public:
     explicit RoomScreen(Session& session);
@@ -39,13 +40,27 @@ class RoomScreen : public TitledScreen {
     void RunCommand(const std::string& failure, const std::function<void()>& body);
     void OnCommand(QPushButton& button, const std::string& failure, std::function<void()> body);
 
-    /// Show a room, 0 .. number of rooms; see RoomEntry.h.
+    /// The room to begin with: the one that was being typed, or the new one.
+    static std::size_t FirstRoom(const OpenProject& project);
+    /// Show a room, 0 .. number of rooms, see RoomEntry.h; with what was typed for it and is not
+    /// stored.
     void ShowRoom(std::size_t room);
+    void ConnectTyping();
+    /// Take what stands in the fields for the typing of the open project, unless it is what the
+    /// room has, and tell the draft.
+    void KeepTyping();
+    void ShowUnitsWarning();
+    void ShowTrouble();
+    /// Store the fields as the room on the screen, or keep them as typing.
+    StoreResult StoreFields();
     /// Store the fields as the room on the screen, or say why not and go to the field to correct.
     StoreResult StoreShownRoom();
     /// StoreShownRoom, then `action`, unless a field is to be corrected.
     StoreResult WithRoomStored(const std::function<void()>& action);
     void FocusAfter(const StoreResult& result);
+
+    /// Say below the fields which room a save could not store.
+    void TellNotStored();
 
     void ShowNext();
     void ShowPrevious();
@@ -69,7 +84,9 @@ class RoomScreen : public TitledScreen {
     QWidget* below_ = nullptr; ///< holds BACK and SAVE
     QPushButton* back_ = nullptr;
     QPushButton* save_ = nullptr;
-    std::size_t current_; ///< the room on the screen
+    std::size_t current_;  ///< the room on the screen
+    RoomDraft untouched_;  ///< its fields as they stand when nothing is typed
+    bool showing_ = false; ///< the fields are being filled in by the program
 };
 
 } // namespace tarn

@@ -27,7 +27,9 @@ struct EstimateScreenActions : EstimateScreenTest {
     /// Have the session work on the project as it is stored there.
     void LoadFrom(const TestDatabase& database) {
         store = database.Open();
-        open.Now = open.Saved = store.Load("MAPLE STREET 9").Value;
+        const LoadedProject loaded = store.Load("MAPLE STREET 9");
+        open.Now = open.Saved = loaded.Value;
+        open.Read = loaded.Mark;
     }
     void ClickPaper(QPoint at) { QTest::mouseClick(&Paper(), Qt::LeftButton, {}, at); }
 };
@@ -213,6 +215,44 @@ TEST_F(EstimateScreenActions, SaveTheProjectAndSaySo) {
     ASSERT_EQ(stored.Rooms.size(), 2U);
     EXPECT_EQ(stored.Rooms[1].Width, 288);
     EXPECT_EQ(stored.Rooms[1].Covering, 3);
+}
+
+TEST_F(EstimateScreenActions, AskBeforeTheyReplaceWhatAnotherProgramStored) {
+    const TestDatabase database;
+    database.AddProject("MARCH", "MAPLE STREET 9", 7, 1);
+    LoadFrom(database);
+    Open({{288, 120, 3}});
+    PressOk();
+    database.Run("UPDATE InputData SET RoomW = 7");
+    boxes.Choices = {"", "Replace it"};
+    Click(Button(Controls::saveFromEstimate));
+    EXPECT_TRUE(boxes.Messages.empty());
+    EXPECT_EQ(database.Rows("SELECT RoomW FROM InputData"), std::vector<std::string>{"7"});
+    EXPECT_TRUE(open.HasUnsavedRooms());
+    Click(Button(Controls::saveFromEstimate));
+    EXPECT_EQ(boxes.Messages, std::vector<std::string>{"Data is saved"});
+    EXPECT_EQ(database.Rows("SELECT RoomW FROM InputData"),
+              (std::vector<std::string>{"100", "288"}));
+    EXPECT_EQ(boxes.Questions.size(), 2U);
+}
+
+TEST_F(EstimateScreenActions, SaveAProjectThatIsGoneAsANewOneAndShowItsName) {
+    const TestDatabase database;
+    database.AddProject("MARCH", "MAPLE STREET 9", 7, 1);
+    LoadFrom(database);
+    Open({{288, 120, 3}});
+    PressOk();
+    store.DeleteProject("MAPLE STREET 9");
+    boxes.Choices = {"Save it as a new project"};
+    boxes.Inputs = {"oak street"};
+    Click(Button(Controls::saveFromEstimate));
+    EXPECT_EQ(boxes.Messages, std::vector<std::string>{"Data is saved"});
+    EXPECT_EQ(store.Load("OAK STREET").Value.Rooms, open.Now.Rooms);
+    EXPECT_EQ(Control<QLabel>(Controls::formTitle).text(),
+              QStringLiteral("ESTIMATE FOR PROJECT: OAK STREET"));
+    EXPECT_EQ(Control<QLabel>(Controls::estimatedProject).text(),
+              QStringLiteral("PROJ: OAK STREET"));
+    EXPECT_EQ(form->Caption(), QStringLiteral("ESTIMATE FOR PROJECT: OAK STREET"));
 }
 
 TEST_F(EstimateScreenActions, TellWhyNothingWasSaved) {

@@ -1,5 +1,6 @@
 // How the carpet estimate looks where it is dark or small.
 
+#include "screens/Display.h"
 #include "screens/Theme.h"
 #include "screens/estimate/EstimateScreenTesting.h"
 
@@ -87,6 +88,21 @@ TEST_F(EstimateScreenLooks, FitADisplayOfLargeLettersInHalf) {
     EXPECT_FALSE(Control(Controls::estimatedProject)
                      .geometry()
                      .intersects(Control(Controls::zoomHint).geometry()));
+}
+
+TEST_F(EstimateScreenLooks, SayBesideTheTitleThatOtherUnitsAreInForce) {
+    open.Shown = Units::Metric;
+    Open({{288, 120}});
+    const QLabel& title = Control<QLabel>(Controls::formTitle);
+    const QLabel& words = Control<QLabel>(Controls::titleWarning);
+    EXPECT_TRUE(words.isVisible());
+    EXPECT_EQ(words.text(), QStringLiteral("ENTERED IN FEET"));
+    EXPECT_GT(words.geometry().left(), title.geometry().right());
+    EXPECT_LT(words.geometry().left() - title.geometry().right(), Pixels(600));
+    EXPECT_GE(title.width(), title.sizeHint().width()) << "the title is whole";
+    open.Shown = Units::Imperial;
+    Open({});
+    EXPECT_FALSE(Control<QLabel>(Controls::titleWarning).isVisible());
 }
 
 } // namespace

@@ -57,7 +57,7 @@ TEST_F(MenuScreens, CarryTheirCaptions) {
 
 TEST_F(MenuScreens, UseEachNameAndMnemonicOnce) {
     Load();
-    ExpectNamesAndMnemonicsOnce(*menu, 5);
+    ExpectNamesAndMnemonicsOnce(*menu, 6);
 }
 
 TEST_F(MenuScreens, StandInTheMiddleWithTheTitlesAbove) {
@@ -106,8 +106,7 @@ TEST_F(MenuScreens, SetTheUnitsByTheCheckBox) {
 TEST_F(MenuScreens, SayThatTheRoomsWereEnteredInMetric) {
     file.Run("UPDATE MainTab SET EnteredMetric = 1");
     Load();
-    EXPECT_EQ(Find<QLabel>(*menu, Controls::enteredInMetric).text(),
-              QStringLiteral("ENTERED IN METRIC"));
+    EXPECT_EQ(CaptionOf(Button(Controls::enteredInMetric)), QStringLiteral("ENTERED IN METRIC"));
     EXPECT_TRUE(Shows(Controls::enteredInMetric));
     Click(Metric());
     EXPECT_FALSE(Shows(Controls::enteredInMetric));

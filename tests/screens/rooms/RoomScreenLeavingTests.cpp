@@ -137,6 +137,7 @@ TEST_P(LeavingTheRooms, SaysNothingOfWhatCannotBeTaken) {
                            {"-12", "", "10", ""},
                            {"", "", "", ""}};
     for (const Lines& sizes : cases) {
+        open.Typed = {}; // which would stand in the fields again
         Open();
         for (int i = 0; i < 4; ++i) {
             Paste(i, sizes[static_cast<std::size_t>(i)]);
@@ -152,6 +153,7 @@ TEST_P(LeavingTheRooms, SaysNothingOfWhatCannotBeTaken) {
 TEST_P(LeavingTheRooms, LeavesARoomWithABadSizeAsItWas) {
     AddRooms(2);
     for (const char* size : {"12'6", "-12", "2731", "1e400"}) {
+        open.Typed = {}; // which would stand in the fields again
         Open();
         ClickOn(Controls::previousRoom);
         TypeInto(6, "!");

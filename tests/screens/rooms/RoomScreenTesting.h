@@ -42,6 +42,7 @@ struct RoomScreenTest : ScreenTest {
     }
     void AddRooms(Integer count) {
         open.Now.Rooms.clear();
+        open.Typed = {};
         for (Integer i = 0; i < count; ++i) {
             open.Now.Rooms.push_back(NumberedRoom(i));
         }

@@ -1,0 +1,141 @@
+#include "screens/DraftKeeper.h"
+
+#include "files/OutputFile.h"
+
+#include <algorithm>
+#include <exception>
+#include <utility>
+
+namespace tarn {
+
+DraftKeeper::DraftKeeper(OpenProject& project, std::function<QDateTime()> now)
+    : project_(project)
+    , now_(std::move(now)) {
+    timer_.setSingleShot(true);
+    QObject::connect(&timer_, &QTimer::timeout, &timer_, [this] { Flush(); });
+}
+
+void DraftKeeper::SetDrafts(Drafts drafts) {
+    drafts_ = std::move(drafts);
+    drafts_.EndExpired(now_());
+}
+
+void DraftKeeper::NoteChange() {
+    // Not from the last change on: whoever types without a pause is kept too.
+    if (!timer_.isActive() || timer_.remainingTime() > KeepingDelay) {
+        timer_.start(KeepingDelay);
+    }
+}
+
+void DraftKeeper::Flush() noexcept {
+    timer_.stop();
+    try {
+        const Draft draft = DraftOf(project_);
+        if (draft.IsEmpty()) {
+            Forget();
+        } else if (kept_ != draft) {
+            Keep(draft);
+        }
+        SetTrouble({});
+    } catch (const std::exception& error) {
+        timer_.start(RetryDelay);
+        SetTrouble(error.what());
+    }
+}
+
+void DraftKeeper::Keep(const Draft& draft) {
+    const QDateTime now = now_();
+    const std::string& project = project_.Now.Name;
+    if (file_.empty()) {
+        file_ = drafts_.NewFile(project);
+    }
+    drafts_.Write(file_, project, draft, now);
+    if (!std::exchange(kept_, draft)) {
+        drafts_.Supersede(project, file_, now);
+    }
+}
+
+/// End the draft in use: nothing is unsaved.
+void DraftKeeper::Forget() noexcept {
+    if (kept_) {
+        drafts_.Remove(file_);
+    }
+    Part();
+}
+
+/// What is unsaved from now on goes into another draft.
+void DraftKeeper::Part() noexcept {
+    file_.clear();
+    kept_.reset();
+}
+
+void DraftKeeper::LetGo() noexcept {
+    timer_.stop();
+    Part();
+    taken_.clear();
+    trouble_.clear();
+}
+
+void DraftKeeper::NoteSaved() noexcept {
+    Flush();
+    for (const KeptDraft& taken : taken_) {
+        const auto now = drafts_.Read(taken.File);
+        if (now && now->Content == taken.Record.Content) { // no other run has gone on with it
+            drafts_.Remove(taken.File);
+        }
+    }
+    taken_.clear();
+    drafts_.Supersede(project_.Now.Name, file_, now_());
+}
+
+void DraftKeeper::NoteSavedAs(const std::string& former) noexcept {
+    if (former != project_.Now.Name) {
+        Forget(); // it is told by its name whose it is
+        drafts_.End(project_.Now.Name);
+        drafts_.Move(former, project_.Now.Name);
+    }
+    NoteSaved();
+}
+
+std::vector<KeptDraft> DraftKeeper::WorthTakingBack() const {
+    std::vector<KeptDraft> worth;
+    for (KeptDraft& draft : drafts_.Of(project_.Now.Name)) {
+        const Draft& content = draft.Record.Content;
+        const bool isKnown = std::any_of(worth.begin(), worth.end(), [&](const KeptDraft& each) {
+            return each.Record.Content == content;
+        });
+        if (draft.File != file_ && !isKnown && worth.size() < MostDrafts &&
+            IsWorthTakingBack(content, project_)) {
+            worth.push_back(std::move(draft));
+        }
+    }
+    return worth;
+}
+
+void DraftKeeper::TakeBack(const KeptDraft& draft) {
+    Flush();
+    if (!trouble_.empty()) {
+        throw OutputFileError("What is not saved could not be kept. " + trouble_);
+    }
+    tarn::TakeBack(project_, draft.Record.Content);
+    Part();
+    taken_.push_back(draft);
+    Flush();
+}
+
+void DraftKeeper::SetTrouble(std::string trouble) {
+    if (trouble == trouble_) {
+        return;
+    }
+    trouble_ = std::move(trouble);
+    if (context_ && told_) {
+        told_();
+    }
+}
+
+void DraftKeeper::OnTrouble(QObject& context, std::function<void()> told) {
+    context_ = &context;
+    told_ = std::move(told);
+}
+
+} // namespace tarn
