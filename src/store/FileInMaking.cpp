@@ -116,8 +116,7 @@ void FileInMaking::Place() {
         }
         SynchroniseFolder(folder);
     } catch (const OutputFileError& error) {
-        if (kind_ == Target::New) {
-            ::unlink(target.c_str());
+        if (kind_ == Target::New && ::unlink(target.c_str()) == 0) {
             throw DatabaseError(error.what());
         }
         throw DatabaseError(std::string(error.what()) + " The new file may be there all the same.");
