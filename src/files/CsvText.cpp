@@ -1,5 +1,7 @@
 #include "files/CsvText.h"
 
+#include "base/Text.h"
+
 #include <algorithm>
 
 namespace tarn {
@@ -102,6 +104,13 @@ bool CsvReader::TakeQuoted(std::string& field) {
         }
     }
     return false;
+}
+
+std::string CsvTextCell(std::string_view text) {
+    constexpr std::string_view MarkedStarts = "=+-@'";
+    const std::string shown = ShownText(text);
+    const bool marked = !shown.empty() && MarkedStarts.find(shown.front()) != std::string::npos;
+    return marked ? CsvTextMark + shown : shown;
 }
 
 void AppendCsvRecord(std::string& text, const std::vector<std::string>& fields) {

@@ -56,6 +56,15 @@ class CsvReader {
     long long line_ = 1;
 };
 
+/// What keeps a spreadsheet from taking a text for a formula, and marks one that begins with
+/// itself.
+inline constexpr char CsvTextMark = '\'';
+
+/// A text of the user's as a field: each TextFault in it as it is shown, and with CsvTextMark
+/// before it where a spreadsheet would take it for a formula (= + - @ first) or it begins with the
+/// mark.
+std::string CsvTextCell(std::string_view text);
+
 /// Append one record with a line end (CR LF) to `text`. A field is quoted when it holds a comma, a
 /// quote or a line end, or would begin the text with a byte-order mark; CsvReader gives the same
 /// fields back, except that one empty field alone is an empty line.

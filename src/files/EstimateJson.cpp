@@ -2,9 +2,9 @@
 
 #include "estimate/FillLabels.h"
 #include "estimate/Totals.h"
+#include "files/JsonText.h"
 
 #include <QJsonArray>
-#include <QJsonDocument>
 #include <QJsonObject>
 
 namespace tarn {
@@ -79,26 +79,6 @@ QJsonObject Improved(const Improvement& improvement) {
             {QStringLiteral("pieces"), improvement.Pieces}};
 }
 
-/// The document with escapes for the control characters that the toolkit leaves as they are in
-/// texts, DEL and U+0080 to U+009F: printed on a terminal they would move things.
-std::string WithEscapedControls(std::string_view json) {
-    constexpr char LeadOfHighControls = '\xC2';
-    std::string escaped;
-    escaped.reserve(json.size());
-    for (std::size_t i = 0; i < json.size(); ++i) {
-        const bool high = json[i] == LeadOfHighControls && i + 1 < json.size();
-        const auto code = static_cast<unsigned char>(high ? json[i + 1] : json[i]);
-        if (code >= 0x7FU && code < 0xA0U && (high || code == 0x7FU)) {
-            escaped += code < 0x80U ? "\\u007" : code < 0x90U ? "\\u008" : "\\u009";
-            escaped += "0123456789abcdef"[code % 16U];
-            i += high ? 1 : 0;
-        } else {
-            escaped += json[i];
-        }
-    }
-    return escaped;
-}
-
 } // namespace
 
 std::string EstimateJson(const Estimate& estimate) {
@@ -120,8 +100,7 @@ std::string EstimateJson(const Estimate& estimate) {
     if (estimate.Improved) {
         document.insert(QStringLiteral("improved"), Improved(*estimate.Improved));
     }
-    return WithEscapedControls(
-        QJsonDocument(document).toJson(QJsonDocument::Indented).toStdString());
+    return JsonText(document);
 }
 
 } // namespace tarn

@@ -32,11 +32,6 @@ std::string_view NameOf(Column column) {
     return ColumnNames[static_cast<std::size_t>(column)];
 }
 
-/// What keeps a spreadsheet from taking a text for a formula, and marks one that begins with
-/// itself.
-constexpr char TextMark = '\'';
-constexpr std::string_view MarkedStarts = "=+-@'";
-
 /// What is wrong with a file as a whole, as spreadsheets save one, or nothing: every line of it
 /// would otherwise be a mistake.
 std::string FormProblem(std::string_view text, const CsvRecord& header) {
@@ -154,7 +149,7 @@ Problem CheckCharacters(std::string_view text) {
 }
 
 Problem TakeText(std::string_view field, long long most, std::string& text) {
-    if (field.starts_with(TextMark)) {
+    if (field.starts_with(CsvTextMark)) {
         field.remove_prefix(1);
     }
     text = field;
@@ -301,13 +296,6 @@ class RoomCsvReader {
     RoomCsvReading reading_;
 };
 
-/// A room number or remark as it is written.
-std::string MarkedText(std::string_view text) {
-    const std::string shown = ShownText(text);
-    const bool marked = !shown.empty() && MarkedStarts.find(shown.front()) != std::string::npos;
-    return marked ? TextMark + shown : shown;
-}
-
 /// A value for one line of text: control characters as blanks, invalid bytes as replacement
 /// characters, and not too long.
 std::string Shown(std::string_view value) {
@@ -349,7 +337,7 @@ std::string WriteRoomCsv(const std::vector<Room>& rooms) {
     for (const Room& room : rooms) {
         AppendCsvRecord(text,
                         {TrimStr(room.Width), TrimStr(room.Length), CoveringCaption(room.Covering),
-                         BaseText(room.Base), MarkedText(room.Number), MarkedText(room.Remark)});
+                         BaseText(room.Base), CsvTextCell(room.Number), CsvTextCell(room.Remark)});
     }
     return text;
 }

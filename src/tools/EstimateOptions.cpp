@@ -8,15 +8,14 @@
 #include "files/RoomCsv.h"
 #include "project/Project.h"
 #include "tools/Files.h"
+#include "tools/Outputs.h"
 #include "tools/Refusal.h"
 #include "tools/ToolMain.h"
 
 #include <CLI/CLI.hpp>
 
-#include <array>
 #include <functional>
 #include <string>
-#include <utility>
 
 namespace tarn {
 
@@ -179,30 +178,15 @@ void AddImprovement(CLI::App& app, EstimateOptions& options) {
     });
 }
 
-/// Raises CLI::ValidationError when two outputs would overwrite or mix with each other.
-void RequireDifferentOutputs(const EstimateOptions& options) {
-    const std::array<std::pair<std::string, std::string>, 4> outputs{{{"--text", options.Text},
-                                                                      {"--json", options.Json},
-                                                                      {"--svg", options.Svg},
-                                                                      {"--pdf", options.Pdf}}};
-    for (auto output = outputs.begin(); output != outputs.end(); ++output) {
-        for (auto other = output + 1; other != outputs.end(); ++other) {
-            const std::string& path = output->second;
-            if (!path.empty() && !other->second.empty() && IsSameFile(path, other->second)) {
-                throw CLI::ValidationError(output->first + " and " + other->first +
-                                           " cannot both go to " +
-                                           (path == StandardOutput ? "standard output" : path));
-            }
-        }
-    }
-}
-
 /// What the single options cannot tell. Raises CLI::ValidationError.
 void CheckTogether(EstimateOptions& options) {
     if (options.Database.empty() && options.Rooms.empty()) {
         throw CLI::ValidationError("either --database and --project, or --rooms is required");
     }
-    RequireDifferentOutputs(options);
+    RequireDifferentOutputs({{"--text", options.Text},
+                             {"--json", options.Json},
+                             {"--svg", options.Svg},
+                             {"--pdf", options.Pdf}});
     if (options.Text.empty() && options.Json.empty() && options.Svg.empty() &&
         options.Pdf.empty()) {
         options.Text = StandardOutput;

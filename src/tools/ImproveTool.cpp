@@ -2,9 +2,9 @@
 
 #include "base/Lengths.h"
 #include "estimate/ImproveEstimate.h"
+#include "tools/InterruptStops.h"
 
 #include <chrono>
-#include <csignal>
 #include <cstdio>
 #include <iostream>
 #include <string>
@@ -14,29 +14,6 @@
 namespace tarn {
 
 namespace {
-
-volatile std::sig_atomic_t interrupted = 0;
-
-void NoteInterrupt(int /*signal*/) {
-    interrupted = 1;
-}
-
-/// Takes interrupts as the wish to stop while it lives.
-class InterruptStops {
-  public:
-    InterruptStops()
-        : before_(std::signal(SIGINT, NoteInterrupt)) {
-        interrupted = 0;
-    }
-    ~InterruptStops() {
-        static_cast<void>(std::signal(SIGINT, before_ == SIG_ERR ? SIG_DFL : before_));
-    }
-    InterruptStops(const InterruptStops&) = delete;
-    InterruptStops& operator=(const InterruptStops&) = delete;
-
-  private:
-    void (*before_)(int);
-};
 
 /// Writes how far the search is into one line of a terminal.
 class ProgressLine : public ImproveObserver {
@@ -61,7 +38,7 @@ class ProgressLine : public ImproveObserver {
             last_ = now;
             written_ = true;
         }
-        return interrupted == 0;
+        return !WasInterrupted();
     }
 
   private:

@@ -59,7 +59,7 @@ std::vector<Layer> MakeLayers() {
     add("drawing", {}, {});
     add("estimate", {"project", "engine", "improve", "drawing"}, {});
     add("order", Below(layers, {"estimate"}), {"Threads::Threads"});
-    add("files", Below(layers, {"order"}), {"Qt6::Core"});
+    add("files", Below(layers, {"order"}), {"Qt6::Core", "Xlsxwriter::Xlsxwriter"});
     add("store", {"project", "files"}, {"Qt6::Core", "Qt6::Sql"});
     add("text", {}, {"Qt6::Core", "Qt6::Gui"});
     add("paper", Below(layers, {"files", "text"}), {"Qt6::Core", "Qt6::Gui", "Cups::Cups"});

@@ -1,0 +1,140 @@
+#include "files/OrderTables.h"
+
+#include "files/CsvText.h"
+
+#include <array>
+#include <charconv>
+
+namespace tarn {
+
+namespace {
+
+template <typename Number>
+TableCell NumberCell(Number number) {
+    return static_cast<std::int64_t>(number);
+}
+
+std::string Joined(const std::vector<std::string>& texts) {
+    std::string joined;
+    for (const std::string& text : texts) {
+        joined += (joined.empty() ? "" : " ") + text;
+    }
+    return joined;
+}
+
+/// The cells of the figures, as many without figures.
+std::vector<TableCell> FigureCells(const OrderCandidate& candidate, Units units) {
+    constexpr std::size_t Figures = 13;
+    if (!candidate.Figures) {
+        return std::vector<TableCell>(Figures);
+    }
+    const OrderFigures& figures = *candidate.Figures;
+    return {NumberCell(figures.Length),
+            NumberCell(figures.LengthNeeded),
+            NumberCell(figures.LeastLength),
+            OrderArea(figures.AreaBought, units),
+            OrderArea(figures.AreaRooms, units),
+            OrderArea(figures.AreaRoomsTrimmed, units),
+            figures.WastePercent,
+            NumberCell(figures.SideSeams.Count),
+            NumberCell(figures.SideSeams.Length),
+            NumberCell(figures.CrossJoins.Count),
+            NumberCell(figures.CrossJoins.Length),
+            figures.Price ? TableCell(*figures.Price) : TableCell(),
+            Joined(figures.Notes)};
+}
+
+std::vector<TableCell> CandidateCells(const Order& order, std::size_t number) {
+    const OrderCandidate& candidate = order.Candidates.at(number);
+    const RollChoice& roll = order.Request.Rolls.at(candidate.Roll);
+    std::vector<TableCell> cells{NumberCell(order.Carpet + 1),
+                                 roll.Name,
+                                 roll.AsTyped,
+                                 NumberCell(candidate.RollWidth),
+                                 NumberCell(candidate.UsableWidth),
+                                 std::string(LayWord(candidate.Direction)),
+                                 std::string(order.Best == number ? "best" : ""),
+                                 candidate.Refused};
+    for (TableCell& cell : FigureCells(candidate, order.Request.In)) {
+        cells.push_back(std::move(cell));
+    }
+    return cells;
+}
+
+/// Numbers as they are read back to the same value.
+std::string NumberText(double number) {
+    std::array<char, 32> digits{};
+    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), number).ptr;
+    return {digits.data(), end};
+}
+
+std::string CsvCell(const TableCell& cell) {
+    if (const auto* text = std::get_if<std::string>(&cell)) {
+        return CsvTextCell(*text);
+    }
+    if (const auto* whole = std::get_if<std::int64_t>(&cell)) {
+        return std::to_string(*whole);
+    }
+    const auto* number = std::get_if<double>(&cell);
+    return number == nullptr ? std::string() : NumberText(*number);
+}
+
+void AppendTable(std::string& csv, const ValueTable& table) {
+    AppendCsvRecord(csv, {table.Heads.begin(), table.Heads.end()});
+    for (const auto& row : table.Rows) {
+        std::vector<std::string> fields;
+        fields.reserve(row.size());
+        for (const TableCell& cell : row) {
+            fields.push_back(CsvCell(cell));
+        }
+        AppendCsvRecord(csv, fields);
+    }
+}
+
+} // namespace
+
+ValueTable ComparisonTable(const OrderDocument& document) {
+    ValueTable table{
+        "Comparison",
+        {"carpet",      "name",           "roll",       "rollWidth",        "usableWidth",
+         "lay",         "best",           "refused",    "length",           "lengthNeeded",
+         "leastLength", "areaBought",     "areaRooms",  "areaRoomsTrimmed", "wastePercent",
+         "sideSeams",   "sideSeamLength", "crossJoins", "crossJoinLength",  "price",
+         "notes"},
+        {}};
+    for (const Order& order : document.Orders) {
+        for (std::size_t number = 0; number < order.Candidates.size(); ++number) {
+            table.Rows.push_back(CandidateCells(order, number));
+        }
+    }
+    return table;
+}
+
+ValueTable PieceTable(const OrderDocument& document) {
+    ValueTable table{"Pieces",
+                     {"carpet", "label", "room", "roomNumber", "remark", "strip", "strips", "part",
+                      "parts", "x", "y", "width", "length", "roomX", "roomY"},
+                     {}};
+    for (const Order& order : document.Orders) {
+        for (const OrderPiece& piece : BestPieces(order)) {
+            const Room& room = RoomOf(document, piece);
+            table.Rows.push_back({NumberCell(order.Carpet + 1), piece.Label, NumberCell(piece.Room),
+                                  room.Number, room.Remark, NumberCell(piece.Strip),
+                                  NumberCell(piece.Strips), NumberCell(piece.Part),
+                                  NumberCell(piece.Parts), NumberCell(piece.X), NumberCell(piece.Y),
+                                  NumberCell(piece.Width), NumberCell(piece.Length),
+                                  NumberCell(piece.RoomX), NumberCell(piece.RoomY)});
+        }
+    }
+    return table;
+}
+
+std::string OrderCsv(const OrderDocument& document) {
+    std::string csv;
+    AppendTable(csv, ComparisonTable(document));
+    csv += "\r\n";
+    AppendTable(csv, PieceTable(document));
+    return csv;
+}
+
+} // namespace tarn

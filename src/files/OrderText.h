@@ -1,0 +1,16 @@
+#pragma once
+
+#include "files/OrderDocument.h"
+
+#include <string>
+
+namespace tarn {
+
+/// The orders as a text to be read: for each carpet the comparison, its best row marked with *,
+/// what there is to note on it, and the list by which it is cut. Ends with a line feed.
+std::string OrderText(const OrderDocument& document);
+
+/// "12ft, down": how a row is called.
+std::string CandidateName(const Order& order, const OrderCandidate& candidate);
+
+} // namespace tarn

@@ -1,0 +1,282 @@
+#include "tools/OrderOptions.h"
+
+#include "base/Version.h"
+#include "project/OrderLengths.h"
+#include "tools/Files.h"
+#include "tools/Outputs.h"
+#include "tools/Refusal.h"
+#include "tools/ToolMain.h"
+
+#include <CLI/CLI.hpp>
+
+#include <cmath>
+#include <utility>
+
+namespace tarn {
+
+namespace {
+
+constexpr const char* Description =
+    "What to buy and how to cut it: compares rolls and lays, and lists the cuts of the best.\n"
+    "The rooms come from a database (--database and --project) or from a CSV file (--rooms).";
+
+constexpr const char* Footer =
+    "Lengths are written 12ft6in, 18in, 366cm or 3.66m; a bare number is in the project's units.\n"
+    "All lengths of an order are whole inches, with --metric whole centimetres: roll widths are\n"
+    "rounded down; trim, selvage, shortest part and step up. A pattern repeat must be whole.\n\n"
+    "The repeat across is the distance to the next column of the pattern, which with --half-drop\n"
+    "stands half a repeat further along: half the repeat of makers who name the whole design.\n\n"
+    "Options that are given win over the request that is saved with the project.\n\n"
+    "Exit status: 0 done, 1 refused, or no carpet has an order (the reason is on standard error),\n"
+    "2 wrong usage.\n\n"
+    "Example:\n"
+    "  tarn-order --rooms house.csv --roll 12ft=18.50 --roll 15ft=19 --lay both --trim 3in";
+
+/// Refuses an option that is given without its value ("--trim=").
+std::string NotEmpty(const std::string& value) {
+    return value.empty() ? "the value is empty" : "";
+}
+
+void AddInput(CLI::App& app, OrderOptions& options) {
+    auto* database = app.add_option("--database", options.Database, "Database file of the project")
+                         ->type_name("FILE");
+    auto* project =
+        app.add_option("--project", options.Project, "Name of the project")->type_name("NAME");
+    auto* rooms =
+        app.add_option("--rooms", options.Rooms, "CSV file with the rooms")->type_name("FILE.csv");
+    database->needs(project);
+    project->needs(database);
+    rooms->excludes(database)->excludes(project);
+    auto* metric = app.add_flag("--metric", options.Metric, "The sizes are centimetres");
+    app.add_flag("--feet", options.Feet,
+                 "The sizes are inches, also of a project that was entered in metric")
+        ->excludes(metric);
+    app.add_option("--carpet", options.Carpet,
+                   "Number of the carpet, 1 to 8 (default: all of the project)")
+        ->check(CLI::Range(1, 8))
+        ->type_name("N");
+}
+
+void AddRolls(CLI::App& app, OrderOptions& options) {
+    app.add_option("--roll", options.Rolls,
+                   "A roll to compare, with a name and a price per square yard (square metre with "
+                   "--metric) if wanted; may be given several times")
+        ->check(NotEmpty)
+        ->expected(1)
+        ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll)
+        ->type_name("[NAME:]12ft[=PRICE]");
+    app.add_option("--selvage", options.Selvage,
+                   "Cut off along each edge of the roll (default 0, at most 6in or 15cm)")
+        ->check(NotEmpty)
+        ->type_name("1in");
+    app.add_option("--lay", options.Lay,
+                   "down: room widths across the roll (default); cross: room lengths")
+        ->check(CLI::IsMember({"down", "cross", "both"}))
+        ->type_name("down|cross|both");
+    app.add_option("--step", options.Step,
+                   "The roll is ordered in whole steps (default 3in, 5cm with --metric)")
+        ->check(NotEmpty)
+        ->type_name("3in");
+}
+
+void AddCutting(CLI::App& app, OrderOptions& options) {
+    app.add_option("--trim", options.Trim,
+                   "More than a strip's length, at its far end (default 0, at most 24in or 60cm)")
+        ->check(NotEmpty)
+        ->type_name("3in");
+    app.add_option("--trim-across", options.TrimAcross, "More than a room's width, the same bounds")
+        ->check(NotEmpty)
+        ->type_name("1in");
+    app.add_option("--max-parts", options.MaxParts,
+                   "Most parts of a strip, 1 to " + std::to_string(MostPartsOfStrip) +
+                       " (default 1)")
+        ->check(CLI::Range(1, static_cast<int>(MostPartsOfStrip)))
+        ->type_name("N");
+    app.add_option("--min-part", options.MinPart,
+                   "Shortest part of a divided strip (default 3ft, 91cm with --metric)")
+        ->check(NotEmpty)
+        ->type_name("3ft");
+    app.add_flag("--join-rooms", options.JoinRooms,
+                 "A room no wider than the roll may be divided, too");
+    app.add_option("--pattern", options.Pattern,
+                   "Pattern repeat across x along, 0 for none in that direction")
+        ->check(NotEmpty)
+        ->type_name("18x24");
+    app.add_flag("--half-drop", options.HalfDrop,
+                 "The next column of the pattern stands half a repeat further along");
+    app.add_option("--pattern-drift", options.PatternDrift,
+                   "Percent by which the pattern may run short (default 1 with a repeat along, "
+                   "else 0; at most 10)")
+        ->type_name("P");
+}
+
+void AddSearch(CLI::App& app, OrderOptions& options) {
+    app.add_option("--seconds", options.Seconds,
+                   "How long to look for shorter layouts, all rows together (default 2); Ctrl+C "
+                   "ends that earlier and keeps the best")
+        ->check(CLI::Range(0.0, 3600.0))
+        ->type_name("S");
+    app.add_option("--steps", options.Steps,
+                   "So many layouts for each row instead, so that the result can be repeated")
+        ->check(CLI::PositiveNumber)
+        ->type_name("N");
+    app.add_option("--seed", options.Seed, "Another seed makes the search take another way")
+        ->capture_default_str()
+        ->type_name("N");
+}
+
+void AddOutput(CLI::App& app, OrderOptions& options) {
+    const auto add = [&app](const char* name, std::string& path, const char* what) {
+        app.add_option(name, path, what)->check(NotEmpty)->type_name("FILE|-");
+    };
+    add("--text", options.Text,
+        "Write comparison and list as text (on standard output when no other output is asked for)");
+    add("--json", options.Json, "Write requests, comparison and pieces as JSON");
+    add("--csv", options.Csv, "Write comparison and pieces as CSV");
+    add("--xlsx", options.Xlsx, "Write comparison and pieces as a spreadsheet");
+    AddForce(app, options.Over);
+}
+
+/// What the single options cannot tell. Raises CLI::ValidationError.
+void CheckTogether(OrderOptions& options) {
+    if (options.Database.empty() && options.Rooms.empty()) {
+        throw CLI::ValidationError("either --database and --project, or --rooms is required");
+    }
+    RequireDifferentOutputs({{"--text", options.Text},
+                             {"--json", options.Json},
+                             {"--csv", options.Csv},
+                             {"--xlsx", options.Xlsx}});
+    if (options.Text.empty() && options.Json.empty() && options.Csv.empty() &&
+        options.Xlsx.empty()) {
+        options.Text = StandardOutput;
+    }
+}
+
+[[noreturn]] void Refuse(const std::string& option, const std::string& value,
+                         const std::string& reason) {
+    throw Refusal(option + " \"" + value + "\": " + reason);
+}
+
+Double LengthOf(const std::string& option, const std::string& value, Units units) {
+    const auto length = ReadOrderLength(value, units);
+    if (!length) {
+        Refuse(option, value, "write the length as 12ft6in, 18in, 366cm or 3.66m.");
+    }
+    return *length;
+}
+
+void TakeLength(const std::string& option, const std::optional<std::string>& value, Units units,
+                Long& length) {
+    if (value) {
+        length = RaisedToWhole(LengthOf(option, *value, units));
+    }
+}
+
+Double PriceOf(const std::string& roll, const std::string& text) {
+    Double price = 0;
+    if (!CLI::detail::lexical_cast(text, price) || !std::isfinite(price) || price < 0) {
+        Refuse("--roll", roll, "the price must be a number of 0 or more.");
+    }
+    return price;
+}
+
+/// [NAME:]WIDTH[=PRICE]; a name may hold colons, but no equals sign behind the last of them.
+RollChoice RollOf(const std::string& text, Units units) {
+    RollChoice roll;
+    std::string rest = text;
+    if (const auto colon = rest.rfind(':'); colon != std::string::npos) {
+        roll.Name = rest.substr(0, colon);
+        rest.erase(0, colon + 1);
+    }
+    if (const auto equals = rest.find('='); equals != std::string::npos) {
+        roll.Price = PriceOf(text, rest.substr(equals + 1));
+        rest.erase(equals);
+    }
+    roll.AsTyped = rest;
+    roll.Width = LengthOf("--roll", rest, units);
+    return roll;
+}
+
+Long RepeatOf(const std::string& option, const std::string& text, Units units) {
+    const auto repeat = WholeRepeat(LengthOf("--pattern", text, units));
+    if (!repeat) {
+        Refuse("--pattern", text, FaultOfRepeat(option, units).Reason);
+    }
+    return *repeat;
+}
+
+void TakePattern(const std::optional<std::string>& text, Units units, PatternChoice& pattern) {
+    if (!text) {
+        return;
+    }
+    const auto cross = text->find_first_of("xX");
+    if (cross == std::string::npos) {
+        Refuse("--pattern", *text, "write the repeat across and along, as 18x24.");
+    }
+    pattern.Across = RepeatOf("pattern across", text->substr(0, cross), units);
+    pattern.Along = RepeatOf("pattern along", text->substr(cross + 1), units);
+}
+
+std::vector<Lay> LaysOf(const std::string& word) {
+    if (word == "both") {
+        return {Lay::Down, Lay::Cross};
+    }
+    return {word == "cross" ? Lay::Cross : Lay::Down};
+}
+
+} // namespace
+
+std::optional<OrderOptions> ReadOrderOptions(int argc, const char* const* argv, int& status) {
+    CLI::App app(Description, "tarn-order");
+    app.footer(Footer);
+    app.set_version_flag("--version", VersionText(app.get_name()));
+    app.get_formatter()->column_width(28);
+    OrderOptions options;
+    AddInput(app, options);
+    AddRolls(app, options);
+    AddCutting(app, options);
+    AddSearch(app, options);
+    AddOutput(app, options);
+    try {
+        app.parse(argc, argv);
+        CheckTogether(options);
+    } catch (const CLI::ParseError& error) {
+        status = ExplainArguments(app, error);
+        return std::nullopt;
+    }
+    return options;
+}
+
+OrderRequest RequestOf(const OrderOptions& options, Units units,
+                       const std::optional<OrderRequest>& saved) {
+    OrderRequest request = saved.value_or(DefaultOrderRequest(units));
+    if (!options.Rolls.empty()) {
+        request.Rolls.clear();
+        for (const std::string& roll : options.Rolls) {
+            request.Rolls.push_back(RollOf(roll, units));
+        }
+    }
+    if (options.Lay) {
+        request.Lays = LaysOf(*options.Lay);
+    }
+    TakeLength("--selvage", options.Selvage, units, request.Selvage);
+    TakeLength("--trim", options.Trim, units, request.TrimAlong);
+    TakeLength("--trim-across", options.TrimAcross, units, request.TrimAcross);
+    TakeLength("--min-part", options.MinPart, units, request.ShortestPart);
+    TakeLength("--step", options.Step, units, request.Step);
+    TakePattern(options.Pattern, units, request.Pattern);
+    request.MostParts = options.MaxParts.value_or(static_cast<int>(request.MostParts));
+    request.JoinRooms = request.JoinRooms || options.JoinRooms;
+    request.Pattern.HalfDrop = request.Pattern.HalfDrop || options.HalfDrop;
+    request.Seconds = options.Seconds.value_or(request.Seconds);
+    if (options.PatternDrift || options.Pattern) {
+        request.PatternDrift = options.PatternDrift; // that of another pattern does not count
+    }
+    if (const auto fault = FaultOf(request)) {
+        throw Refusal(fault->Reason +
+                      (fault->Option == "roll" && request.Rolls.empty() ? " Use --roll." : ""));
+    }
+    return request;
+}
+
+} // namespace tarn

@@ -1,0 +1,180 @@
+#include "tools/OrderTool.h"
+
+#include "files/OrderDocument.h"
+#include "files/OrderJson.h"
+#include "files/OrderTables.h"
+#include "files/OrderText.h"
+#include "files/OrderXlsx.h"
+#include "order/MakeOrder.h"
+#include "project/Coverings.h"
+#include "store/ProjectStore.h"
+#include "tools/Files.h"
+#include "tools/InterruptStops.h"
+#include "tools/ProjectFile.h"
+#include "tools/Refusal.h"
+#include "tools/StandardStreams.h"
+
+#include <algorithm>
+#include <chrono>
+#include <iostream>
+#include <unistd.h>
+
+namespace tarn {
+
+namespace {
+
+/// The project, and in which units it is ordered.
+OrderDocument ReadProject(const OrderOptions& options) {
+    const Units asked = options.Metric ? Units::Metric : Units::Imperial;
+    if (!options.Rooms.empty()) {
+        OrderDocument document{{}, asked, {}};
+        document.Of.Rooms = ReadRoomFile(options.Rooms, asked);
+        return document;
+    }
+    ProjectStore store(options.Database, DatabaseAccess::ReadOnly);
+    OrderDocument document{LoadProjectNamed(store, options.Project), asked, {}};
+    const Units entered = document.Of.EnteredIn;
+    if (entered != asked && !options.Metric && !options.Feet) {
+        throw Refusal("The project " + document.Of.Name +
+                      " was entered in metric. Use --metric, or --feet to take its sizes as "
+                      "inches.");
+    }
+    return document;
+}
+
+bool HasArea(const Room& room) {
+    return room.Width > 0 && room.Length > 0;
+}
+
+/// The carpets to be ordered: those that have a room with an area.
+std::vector<Byte> CarpetsOf(const OrderOptions& options, const Project& project) {
+    std::vector<Byte> carpets;
+    for (Byte carpet = 0; carpet < FirstTileCode; ++carpet) {
+        const bool wanted = !options.Carpet || *options.Carpet == carpet + 1;
+        if (wanted &&
+            std::any_of(project.Rooms.begin(), project.Rooms.end(), [&](const Room& room) {
+                return room.Covering == carpet && HasArea(room);
+            })) {
+            carpets.push_back(carpet);
+        }
+    }
+    if (carpets.empty()) {
+        throw Refusal(options.Carpet
+                          ? "No room with an area has " +
+                                CoveringCaption(static_cast<Byte>(*options.Carpet - 1)) + "."
+                          : "No room with an area has a carpet.");
+    }
+    return carpets;
+}
+
+/// Writes how far the search is into one line of a terminal.
+class ProgressLine : public OrderObserver {
+  public:
+    ProgressLine() = default;
+    ~ProgressLine() override {
+        if (written_) {
+            std::cerr << StartOfLine << std::flush;
+        }
+    }
+    ProgressLine(const ProgressLine&) = delete;
+    ProgressLine& operator=(const ProgressLine&) = delete;
+
+    bool Progress(const Order& soFar, bool changed) override {
+        if (isTerminal_ && (changed || !written_)) {
+            std::cerr << StartOfLine << CoveringCaption(soFar.Carpet) << ": " << BestText(soFar)
+                      << std::flush;
+            written_ = true;
+        }
+        return !WasInterrupted();
+    }
+
+  private:
+    static constexpr const char* StartOfLine = "\r\033[K";
+
+    static std::string BestText(const Order& order) {
+        if (!order.Best) {
+            return "comparing";
+        }
+        const OrderCandidate& best = order.Candidates.at(*order.Best);
+        return CandidateName(order, best) + ", " +
+               OrderLengthText(static_cast<Long>(best.Figures->Length), order.Request.In);
+    }
+
+    bool isTerminal_ = isatty(STDERR_FILENO) == 1;
+    bool written_ = false;
+};
+
+OrderLimits LimitsOf(const OrderOptions& options, const OrderRequest& request) {
+    OrderLimits limits;
+    limits.Seconds = request.Seconds;
+    limits.Steps = options.Steps;
+    limits.Seed = options.Seed;
+    return limits;
+}
+
+void Tell(const Order& order, const std::string& text) {
+    std::cerr << "Note: " << CoveringCaption(order.Carpet) << ", " << ShownLines(text) << '\n';
+}
+
+/// Tell what there is to note: what the best rows have, and which carpets have no order.
+void TellNotes(const OrderDocument& document) {
+    for (const Order& order : document.Orders) {
+        if (order.Best) {
+            const OrderCandidate& best = order.Candidates.at(*order.Best);
+            for (const std::string& note : best.Figures->Notes) {
+                Tell(order, CandidateName(order, best) + ": " + note);
+            }
+        } else {
+            for (const OrderCandidate& candidate : order.Candidates) {
+                Tell(order, CandidateName(order, candidate) + " is refused: " + candidate.Refused);
+            }
+        }
+    }
+}
+
+void RequireOutputsBesideInput(const OrderOptions& options) {
+    const std::string& input = options.Rooms.empty() ? options.Database : options.Rooms;
+    for (const std::string& output : {options.Text, options.Json, options.Csv, options.Xlsx}) {
+        RequireOtherFile(output, input);
+    }
+}
+
+void WriteOutputs(const OrderOptions& options, const OrderDocument& document) {
+    if (!options.Xlsx.empty()) {
+        WriteWholeFile(options.Xlsx, OrderXlsx(document), options.Over);
+    }
+    if (!options.Json.empty()) {
+        WriteWholeFile(options.Json, OrderJson(document), options.Over);
+    }
+    if (!options.Csv.empty()) {
+        WriteWholeFile(options.Csv, OrderCsv(document), options.Over);
+    }
+    if (!options.Text.empty()) {
+        WriteWholeFile(options.Text, OrderText(document), options.Over);
+    }
+}
+
+} // namespace
+
+void OrderFor(const OrderOptions& options) {
+    RequireOutputsBesideInput(options);
+    OrderDocument document = ReadProject(options);
+    const OrderRequest request = RequestOf(options, document.In, std::nullopt);
+    const std::vector<Byte> carpets = CarpetsOf(options, document.Of);
+    {
+        const InterruptStops stops;
+        ProgressLine line;
+        for (const Byte carpet : carpets) {
+            document.Orders.push_back(
+                MakeOrder(document.Of, carpet, request, LimitsOf(options, request), line));
+        }
+    }
+    WriteOutputs(options, document);
+    TellNotes(document);
+    if (std::none_of(document.Orders.begin(), document.Orders.end(),
+                     [](const Order& order) { return order.Best.has_value(); })) {
+        throw Refusal("No carpet has an order: every roll and lay is refused.");
+    }
+}
+
+} // namespace tarn
