@@ -15,6 +15,7 @@ TEST(CoreTurns, NeverGivesMoreTurnsThanThereAreCores) {
         std::atomic<std::size_t> running = 0;
         std::atomic<std::size_t> most = 0;
         std::vector<std::thread> threads;
+        threads.reserve(6);
         for (int i = 0; i < 6; ++i) {
             threads.emplace_back([&] {
                 for (int turn = 0; turn < 200; ++turn) {

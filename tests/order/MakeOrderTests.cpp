@@ -239,18 +239,18 @@ class Watcher : public OrderObserver {
         changes_ += changed ? 1 : 0;
         EXPECT_EQ(CheckOrder(project_, soFar), "");
         if (calls_ > 1 && !changed) {
-            EXPECT_TRUE(soFar == last_seen_);
+            EXPECT_TRUE(soFar == lastSeen_);
         }
-        for (std::size_t i = 0; i < last_seen_.Candidates.size(); ++i) {
-            ExpectNotWorse(soFar.Candidates[i], last_seen_.Candidates[i]);
+        for (std::size_t i = 0; i < lastSeen_.Candidates.size(); ++i) {
+            ExpectNotWorse(soFar.Candidates[i], lastSeen_.Candidates[i]);
         }
-        last_seen_ = soFar;
+        lastSeen_ = soFar;
         return calls_ < last_;
     }
 
     int Calls() const { return calls_; }
     int Changes() const { return changes_; }
-    const Order& LastSeen() const { return last_seen_; }
+    const Order& LastSeen() const { return lastSeen_; }
 
     static void ExpectNotWorse(const OrderCandidate& now, const OrderCandidate& before) {
         if (before.Figures) {
@@ -265,7 +265,7 @@ class Watcher : public OrderObserver {
     int last_;
     int calls_ = 0;
     int changes_ = 0;
-    Order last_seen_;
+    Order lastSeen_;
 };
 
 TEST(MakeOrder, TellsWhatIsFoundAndStopsWhenItIsToldTo) {
