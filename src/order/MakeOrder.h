@@ -24,8 +24,8 @@ class OrderObserver {
   public:
     virtual ~OrderObserver() = default;
 
-    /// Called whenever a row has become better, at most some twenty times a second, and at least ten
-    /// times a second: `changed` says whether anything did since the last call. Each row of the
+    /// Called whenever a row has become better, at most some twenty times a second, and at least
+    /// ten times a second: `changed` says whether anything did since the last call. Each row of the
     /// order is refused, has its best layout so far, or has none yet. False stops the search; the
     /// best so far is taken all the same.
     virtual bool Progress([[maybe_unused]] const Order& soFar, [[maybe_unused]] bool changed) {
