@@ -27,6 +27,7 @@ const std::vector<Outside> Outsides{
     {"Qt6::Sql", "(QtSql/.*|QSql.*)"},
     {"Qt6::Core", "([Qq][A-Z].*|Qt.*)"}, // a module that is not linked to has no headers to offer
     {"Cups::Cups", "cups/.*"},
+    {"Xlsxwriter::Xlsxwriter", "xlsxwriter\\.h"},
     {"CLI11::CLI11", "CLI/.*"},
 };
 
