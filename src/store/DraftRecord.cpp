@@ -107,8 +107,7 @@ Units UnitsIn(const QJsonObject& object, const char* name) {
 }
 
 QDateTime TimeIn(const QJsonObject& object, const char* name) {
-    const QDateTime time =
-        QDateTime::fromString(ToQt(TextOf(ValueIn(object, name))), Qt::ISODateWithMs);
+    QDateTime time = QDateTime::fromString(ToQt(TextOf(ValueIn(object, name))), Qt::ISODateWithMs);
     Require(time.isValid());
     return time;
 }
@@ -126,7 +125,7 @@ std::vector<Room> RoomsOf(const QJsonValue& value) {
     const QJsonArray array = value.toArray();
     Require(array.size() <= static_cast<qsizetype>(RoomCapacity));
     std::vector<Room> rooms;
-    for (const QJsonValue& each : array) {
+    for (const auto& each : array) {
         rooms.push_back(RoomOf(each));
     }
     return rooms;

@@ -22,7 +22,7 @@ namespace fs = std::filesystem;
 namespace {
 
 /// No draft is larger; what is, was written by something else.
-constexpr qint64 LargestFile = 16 * 1024 * 1024;
+constexpr qint64 LargestFile = 16777216;
 
 /// The beginning of a draft's file name, and its end.
 constexpr const char* Prefix = "draft-";

@@ -320,7 +320,7 @@ void RoomScreen::SaveAll() {
 void RoomScreen::TellNotStored() {
     const OpenProject& project = Shared().Project;
     if (project.Typed.New) {
-        const auto room = static_cast<long long>(project.Now.Rooms.size() + 1);
+        const auto room = static_cast<long long>(project.Now.Rooms.size()) + 1;
         entry_->SetHint(
             ToQt("Room " + TrimStr(room) + " is not stored: it needs a width and a length."));
     }
