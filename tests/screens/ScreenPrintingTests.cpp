@@ -116,7 +116,7 @@ struct PrintedFromRooms : ScreenTest {
     bool IsReportShown() { return Find(*form, Controls::reportPanel).isVisible(); }
 
     WatchedPrinter system;
-    Session real{open, store, folder, page, boxes, system, screens, session.Today};
+    Session real{open, store, folder, page, boxes, system, screens, drafts, session.Today};
     std::unique_ptr<RoomScreen> form;
 };
 
@@ -152,7 +152,7 @@ struct PrintedFromEstimate : EstimateScreenTest {
     void Print() { Click(Button(Controls::printEstimate)); }
 
     WatchedPrinter system;
-    Session real{open, store, folder, page, boxes, system, screens, session.Today};
+    Session real{open, store, folder, page, boxes, system, screens, drafts, session.Today};
 };
 
 TEST_F(PrintedFromEstimate, TheEstimateArrives) {
