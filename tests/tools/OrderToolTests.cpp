@@ -41,8 +41,9 @@ TEST_F(OrderTool, ComparesRollsAndLaysAndListsTheBest) {
     EXPECT_EQ(run.Status, 0) << run.Error.toStdString();
     const QByteArray text = run.Out;
     EXPECT_TRUE(text.startsWith("CARPET-1\n\n")) << text.toStdString();
-    EXPECT_EQ(text.count("Shop 12ft  down"), 1) << text.toStdString();
-    EXPECT_EQ(text.count("15ft  cross"), 1);
+    for (const char* row : {"Shop 12ft down", "Shop 12ft cross", " 15ft down", " 15ft cross"}) {
+        EXPECT_TRUE(text.simplified().contains(row)) << row << ": " << text.toStdString();
+    }
     EXPECT_EQ(text.count("\n*  "), 1);
     EXPECT_TRUE(text.contains("in one length without a join\n"));
     EXPECT_TRUE(text.contains("drop 1 of 2"));
