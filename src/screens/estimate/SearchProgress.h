@@ -16,9 +16,9 @@ class SearchProgress : public SearchObserver {
 
     /// Stop the search after the placement in hand; after the last one, have its layout dropped.
     void Stop() { stopped_ = true; }
-    /// Whether it was stopped, also by what the user did until now: that was meant for the search,
-    /// and must not wait for the screen below.
-    bool IsStopped();
+    /// Take in what the user did until now, which was meant for the search and must not wait for
+    /// the screen below; answers whether the search was stopped.
+    bool CatchUp();
 
     void Started(Long maximum) override;
     bool Scored(Long done) override;
