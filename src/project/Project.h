@@ -2,8 +2,10 @@
 
 #include "base/Types.h"
 #include "base/Units.h"
+#include "project/OrderRequest.h"
 #include "project/Room.h"
 
+#include <map>
 #include <string>
 #include <vector>
 
@@ -20,6 +22,9 @@ struct Project {
 
     /// In which units the sizes were typed: those of the last one that was typed or changed.
     Units EnteredIn = Units::Imperial;
+
+    /// What was last asked for of the orders, by the carpets' covering codes.
+    std::map<Byte, OrderRequest> Orders;
 
     bool operator==(const Project&) const = default;
 };

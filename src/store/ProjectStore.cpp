@@ -7,6 +7,7 @@
 #include "store/FileIdentity.h"
 #include "store/Journal.h"
 #include "store/Names.h"
+#include "store/OrderRows.h"
 #include "store/RoomRows.h"
 #include "store/Schema.h"
 #include "store/Sheets.h"
@@ -142,6 +143,7 @@ StoredMark MarkOf(const StoredProject& stored) {
     };
     add(MainTab, stored.Sheets);
     add(InputData, stored.Rooms);
+    add(OrderData, stored.Orders);
     return mark;
 }
 
@@ -158,6 +160,11 @@ void LoadSheet(Connection& connection, const StoredProject& stored, LoadedProjec
     loaded.Findings = SheetFindings(stored.Sheets, project.Sheet);
     const auto others = OtherProjectsUnder(connection, project.Sheet, project.Name);
     for (std::string& finding : RoomFindings(rows, content.Rooms, others)) {
+        loaded.Findings.push_back(std::move(finding));
+    }
+    StoredRequests requests = RequestsOf(stored.Orders);
+    project.Orders = std::move(requests.Requests);
+    for (std::string& finding : requests.Findings) {
         loaded.Findings.push_back(std::move(finding));
     }
 }
@@ -443,6 +450,7 @@ SaveResult ProjectStore::Save(const Project& project, Units shown,
             stored.Sheet = SheetNumberToSave(database, project, before.Sheets);
             StoreSheet(database, stored, before.Sheets, shown);
             StoreRoomRows(database, stored.Sheet, stored.Rooms);
+            StoreOrderRows(database, stored.Sheet, stored.Orders);
             result.Value = std::move(stored);
             result.Mark = MarkOf(ReadStored(database, project.Name));
         }

@@ -54,6 +54,11 @@ Field ProjectName() {
     return Indexed(TextField("ProjName", FieldContent::ProjectName));
 }
 
+/// A carpet's number as it is shown, from 1.
+Field CarpetNumber() {
+    return {"Carpet", Number, FieldContent::WholeNumber, 1, FirstTileCode};
+}
+
 std::vector<Field> FieldsOf(std::string_view sheetTable) {
     constexpr std::int32_t MostRooms = RoomCapacity;
     constexpr std::int32_t GreatestSize = std::numeric_limits<Integer>::max();
@@ -90,7 +95,7 @@ std::vector<TableShape> MakeShapes() {
         shapes.push_back({name, FieldsOf(name)});
     }
     shapes.push_back({OrderData,
-                      {SheetNumber(), WholeField("Carpet", FirstTileCode), WholeField("Metric", 1),
+                      {SheetNumber(), CarpetNumber(), WholeField("Metric", 1),
                        TextField("Request", FieldContent::Text)},
                       true});
     return shapes;

@@ -44,14 +44,6 @@ void RequireGood(bool good, std::string_view field) {
     }
 }
 
-/// "table" or "view", what stands in the database under the name of a table; empty for nothing.
-std::string KindOf(Connection& connection, std::string_view table) {
-    const Result found = connection.Run("SELECT type FROM sqlite_master WHERE type IN ('table', "
-                                        "'view') AND name = ? COLLATE NOCASE",
-                                        std::string(table) + " cannot be read", {TextValue(table)});
-    return found.Rows.empty() ? std::string() : FromQt(found.Rows.at(0).at(0).toString());
-}
-
 /// Delete what every table but that of the sheets holds under a number, which is taken as it
 /// stands: of another number no row may go.
 void DeleteRowsUnder(Connection& connection, const QVariant& number) {
@@ -89,6 +81,9 @@ StoredProject ReadStored(Connection& connection, std::string_view project) {
     if (!stored.Sheets.empty()) {
         const QVariant& number = stored.Sheets.front().ValueIn("TabIndex");
         stored.Rooms = Table(connection, InputData).RowsWhere("TabIndex", number, "ObjNum");
+        if (!KindOf(connection, OrderData).empty()) {
+            stored.Orders = Table(connection, OrderData).RowsWhere("TabIndex", number, "Carpet");
+        }
     }
     return stored;
 }

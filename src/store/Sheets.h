@@ -24,6 +24,7 @@ struct StoredProject {
     std::vector<StoredRow>
         Sheets;                   ///< the first one counts; none for a project that was never saved
     std::vector<StoredRow> Rooms; ///< those under the first sheet's number, by ObjNum
+    std::vector<StoredRow> Orders; ///< its rows of OrderData, by the carpet
 };
 
 /// What is stored of the project that reads as that name, whatever the case of A to Z. Raises

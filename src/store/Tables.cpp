@@ -285,4 +285,11 @@ void Table::RunOnRow(const std::string& statement, const std::string& failing,
     }
 }
 
+std::string KindOf(Connection& connection, std::string_view table) {
+    const Result found = connection.Run("SELECT type FROM sqlite_master WHERE type IN ('table', "
+                                        "'view') AND name = ? COLLATE NOCASE",
+                                        std::string(table) + " cannot be read", {TextValue(table)});
+    return found.Rows.empty() ? std::string() : FromQt(found.Rows.at(0).at(0).toString());
+}
+
 } // namespace tarn

@@ -53,6 +53,10 @@ class StoredRow {
     QVariantList values_;
 };
 
+/// "table" or "view", what stands in the database under the name of a table; empty for nothing.
+/// Raises DatabaseError.
+std::string KindOf(Connection& connection, std::string_view table);
+
 /// A table of a database, read and written by rows. What is read is read afresh each time, and all
 /// of it at once, so that no lock stays behind. Rows are changed and deleted by their numbers,
 /// which hold as long as the transaction in which they were read. Every failure raises

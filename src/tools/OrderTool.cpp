@@ -17,6 +17,8 @@
 #include <algorithm>
 #include <chrono>
 #include <iostream>
+#include <map>
+#include <optional>
 #include <unistd.h>
 
 namespace tarn {
@@ -65,6 +67,25 @@ std::vector<Byte> CarpetsOf(const OrderOptions& options, const Project& project)
                           : "No room with an area has a carpet.");
     }
     return carpets;
+}
+
+/// The request of each carpet that is to be ordered: what the options leave open is as it is saved,
+/// unless that is in other units.
+std::map<Byte, OrderRequest> RequestsOf(const OrderOptions& options,
+                                        const OrderDocument& document) {
+    std::map<Byte, OrderRequest> requests;
+    for (const Byte carpet : CarpetsOf(options, document.Of)) {
+        const auto saved = document.Of.Orders.find(carpet);
+        const bool isSaved = saved != document.Of.Orders.end();
+        const bool isUsed = isSaved && saved->second.In == document.In;
+        if (isSaved && !isUsed) {
+            std::cerr << "Note: " << CoveringCaption(carpet)
+                      << ": the saved request is in other units and is not used.\n";
+        }
+        requests.emplace(carpet, RequestOf(options, document.In,
+                                           isUsed ? std::optional(saved->second) : std::nullopt));
+    }
+    return requests;
 }
 
 /// Writes how far the search is into one line of a terminal.
@@ -159,12 +180,11 @@ void WriteOutputs(const OrderOptions& options, const OrderDocument& document) {
 void OrderFor(const OrderOptions& options) {
     RequireOutputsBesideInput(options);
     OrderDocument document = ReadProject(options);
-    const OrderRequest request = RequestOf(options, document.In, std::nullopt);
-    const std::vector<Byte> carpets = CarpetsOf(options, document.Of);
+    const std::map<Byte, OrderRequest> requests = RequestsOf(options, document);
     {
         const InterruptStops stops;
         ProgressLine line;
-        for (const Byte carpet : carpets) {
+        for (const auto& [carpet, request] : requests) {
             document.Orders.push_back(
                 MakeOrder(document.Of, carpet, request, LimitsOf(options, request), line));
         }

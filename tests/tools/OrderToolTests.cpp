@@ -1,5 +1,7 @@
 // tarn-order: from rooms and options to comparison, list and files, and what it refuses.
 
+#include "project/OrderLengths.h"
+#include "store/ProjectStore.h"
 #include "tools/ToolTesting.h"
 
 #include <QJsonArray>
@@ -106,6 +108,41 @@ TEST_F(OrderTool, OrdersTheProjectOfADatabaseInItsUnits) {
     EXPECT_EQ(Order((input + "--feet --roll 12ft --steps 100").c_str()).Status, 0);
     ExpectRefused((input + "--metric --roll 366cm --carpet 1").c_str(),
                   "No room with an area has CARPET-1.");
+}
+
+/// Keeps a request with CARPET-2 of the only project of a database.
+void KeepRequest(const QString& database, Units units, const char* roll) {
+    ProjectStore store(database.toStdString(), DatabaseAccess::ReadWrite);
+    Project project = store.Load("SMITH").Value;
+    OrderRequest request = DefaultOrderRequest(units);
+    request.Rolls = {{*ReadOrderLength(roll, units), "Kept", roll, std::nullopt}};
+    request.TrimAlong = 5;
+    project.Orders[1] = request;
+    EXPECT_TRUE(store.Save(project, units).IsSaved());
+}
+
+TEST_F(OrderTool, UsesTheRequestThatIsSavedWhereNoOptionSaysOtherwise) {
+    const QString database = MakeDatabase(S("SMITH"), "width,length,covering\n100,100,C2\n");
+    KeepRequest(database, Units::Imperial, "15ft");
+    const std::string input = "--database " + database.toStdString() + " --project SMITH";
+    const QByteArray before = Read(database);
+    QJsonObject request = Carpet(input.c_str()).value(u"request").toObject();
+    EXPECT_EQ(request.value(u"trimAlong").toInt(), 5);
+    EXPECT_EQ(request.value(u"rolls").toArray().at(0).toObject().value(u"name").toString(),
+              S("Kept"));
+    request = Carpet((input + " --trim 2 --roll 12ft").c_str()).value(u"request").toObject();
+    EXPECT_EQ(request.value(u"trimAlong").toInt(), 2);
+    EXPECT_EQ(request.value(u"rolls").toArray().at(0).toObject().value(u"width").toString(),
+              S("12ft"));
+    EXPECT_EQ(Read(database), before) << "the request is never written";
+}
+
+TEST_F(OrderTool, DoesNotUseARequestInOtherUnits) {
+    const QString database = MakeDatabase(S("SMITH"), "width,length,covering\n100,100,C2\n");
+    KeepRequest(database, Units::Metric, "366cm");
+    const std::string input = "--database " + database.toStdString() + " --project SMITH";
+    ExpectRefused(input.c_str(), "CARPET-2: the saved request is in other units and is not used.");
+    ExpectRefused(input.c_str(), "There is no roll to order from");
 }
 
 TEST_F(OrderTool, LeavesOutCarpetsWithoutAnArea) {
