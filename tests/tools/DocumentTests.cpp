@@ -1,7 +1,16 @@
+// What the documents say of the programs: their commands, what those print, and the drawings.
+
 #include "tools/ToolTesting.h"
 
 #include <QDir>
 #include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QRegularExpression>
+#include <QSet>
+
+#include <vector>
 
 namespace tarn {
 namespace {
@@ -15,22 +24,115 @@ QByteArray Document(const char* name) {
     return file.readAll();
 }
 
-class Documents : public ToolTest {};
+/// A command of a document, what the document says that it prints, and the drawing below it.
+struct DocumentCommand {
+    QByteArray Line;
+    QByteArray Out;
+    QByteArray Drawing; ///< path in docs; empty without one
+};
 
-TEST_F(Documents, TheReadmesExampleIsWhatTheProgramPrints) {
-    const QByteArray readme = Document("README.md");
-    const QByteArray begin = "```console\n$ tarn-estimate ";
-    const auto at = readme.indexOf(begin);
-    ASSERT_GE(at, 0);
-    const auto from = at + begin.size();
-    const QByteArray block = readme.mid(from, readme.indexOf("```", from) - from);
-    const auto lineEnd = block.indexOf('\n');
-    QStringList arguments = QString::fromUtf8(block.left(lineEnd)).split(QLatin1Char(' '));
-    arguments.replaceInStrings(QStringLiteral("samples/"),
-                               QStringLiteral(TARN_SOURCE_DIRECTORY "/samples/"));
-    const ToolRun run = Estimate(arguments);
-    EXPECT_EQ(run.Status, 0) << run.Error.toStdString();
-    EXPECT_EQ(run.Out.toStdString(), block.mid(lineEnd + 1).toStdString());
+std::vector<DocumentCommand> CommandsOf(const char* document) {
+    static const QRegularExpression block(QStringLiteral(
+        "```console\n\\$ ([^\n]*)\n([^`]*)```\n(?:\n!\\[[^\\]]*\\]\\(([^)]*\\.svg)\\))?"));
+    std::vector<DocumentCommand> commands;
+    auto matches = block.globalMatch(QString::fromUtf8(Document(document)));
+    while (matches.hasNext()) {
+        const QRegularExpressionMatch match = matches.next();
+        commands.push_back(
+            {match.captured(1).toUtf8(), match.captured(2).toUtf8(), match.captured(3).toUtf8()});
+    }
+    return commands;
+}
+
+class Documents : public ToolTest {
+  protected:
+    /// Run a line where the documents say: in a checkout. Its messages stand with its output.
+    ToolRun RunInCheckout(const QByteArray& line) const {
+        ToolRun run = Shell("cd '" TARN_SOURCE_DIRECTORY "' && (" + line + ") 2>&1");
+        run.Out.replace("\r\n", "\n");
+        return run;
+    }
+    QJsonObject OrderOf(const QByteArray& line) const {
+        const ToolRun run = RunInCheckout(line + " --json - 2>/dev/null");
+        EXPECT_EQ(run.Status, 0) << line.toStdString();
+        return QJsonDocument::fromJson(run.Out).object();
+    }
+};
+
+class CommandsOfDocuments : public Documents, public ::testing::WithParamInterface<const char*> {};
+
+TEST_P(CommandsOfDocuments, PrintWhatStandsThere) {
+    const std::vector<DocumentCommand> commands = CommandsOf(GetParam());
+    EXPECT_GE(commands.size(), 2U);
+    EXPECT_EQ(static_cast<qsizetype>(commands.size()), Document(GetParam()).count("```console"));
+    for (const DocumentCommand& command : commands) {
+        const ToolRun run = RunInCheckout(command.Line);
+        EXPECT_EQ(run.Status, 0) << command.Line.toStdString();
+        EXPECT_EQ(run.Out.toStdString(), command.Out.toStdString()) << command.Line.toStdString();
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(All, CommandsOfDocuments, ::testing::Values("README.md", "docs/order.md"));
+
+TEST_F(Documents, TheDrawingsOfOrdersShowTheirPieces) {
+    int drawings = 0;
+    for (const DocumentCommand& command : CommandsOf("docs/order.md")) {
+        if (command.Drawing.isEmpty() || !command.Line.startsWith("tarn-order ")) {
+            continue;
+        }
+        ++drawings;
+        const QByteArray drawing = Document(("docs/" + command.Drawing).constData());
+        const QJsonObject carpet = OrderOf(command.Line).value(u"carpets")[0].toObject();
+        const QJsonArray pieces = carpet.value(u"pieces").toArray();
+        EXPECT_EQ(drawing.count("<rect class=\"cut\""), pieces.size())
+            << command.Drawing.toStdString();
+        for (const QJsonValue piece : pieces) {
+            const auto attribute = [&](const char* name, const char* member) {
+                return QByteArray(" ") + name + "=\"" +
+                       QByteArray::number(piece[QLatin1String(member)].toInt(-1)) + '"';
+            };
+            const QByteArray cut = "<rect class=\"cut\"" + attribute("x", "y") +
+                                   attribute("y", "x") + attribute("width", "length") +
+                                   attribute("height", "width") + ' ';
+            EXPECT_TRUE(drawing.contains(cut))
+                << command.Drawing.toStdString() << ": " << cut.toStdString();
+        }
+    }
+    EXPECT_GE(drawings, 4);
+}
+
+/// The names of all members of a JSON value.
+void CollectMembers(const QJsonValue& value, QSet<QString>& names) {
+    for (const QJsonValue element : value.toArray()) {
+        CollectMembers(element, names);
+    }
+    const QJsonObject object = value.toObject();
+    for (auto member = object.begin(); member != object.end(); ++member) {
+        names.insert(member.key());
+        CollectMembers(member.value(), names);
+    }
+}
+
+TEST_F(Documents, TheFilesOfOrdersAreDescribed) {
+    const QByteArray line =
+        "tarn-order --rooms samples/orders/two-rooms.csv --roll 12ft --steps 10";
+    QSet<QString> names;
+    CollectMembers(OrderOf(line), names);
+    const ToolRun run = RunInCheckout(line + " --csv - 2>/dev/null");
+    const QList<QByteArray> csv = run.Out.split('\n');
+    const auto pieceHeads = csv.indexOf(QByteArray()) + 1;
+    ASSERT_LT(pieceHeads, csv.size());
+    for (const QByteArray& heads : {csv.at(0), csv.at(pieceHeads)}) {
+        for (const QByteArray& head : heads.split(',')) {
+            names.insert(QString::fromUtf8(head));
+        }
+    }
+    EXPECT_GT(names.size(), 50);
+    const QByteArray document = Document("docs/order.md");
+    const QByteArray files = document.mid(document.indexOf("\n## Files\n"));
+    for (const QString& name : names) {
+        EXPECT_TRUE(files.contains('`' + name.toUtf8() + '`')) << name.toStdString();
+    }
 }
 
 TEST_F(Documents, TheExampleWorkedByHandIsWhatTheProgramPrints) {

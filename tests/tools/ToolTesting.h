@@ -41,7 +41,7 @@ class ToolTest : public ::testing::Test {
         return RunProgram(QStringLiteral("tarn-data"), arguments, directory_.path());
     }
 
-    ToolRun Shell(const char* line) const {
+    ToolRun Shell(const QByteArray& line) const {
         return RunShell(QString::fromUtf8(line), directory_.path());
     }
 
