@@ -37,6 +37,8 @@ std::string_view ColorText(DrawingColor color) {
         return "#008000";
     case DrawingColor::Red:
         return "#FF0000";
+    case DrawingColor::Gray:
+        return "#808080";
     case DrawingColor::Black:
         break;
     }
@@ -53,6 +55,14 @@ Double HeightOfLine(Double fontSize) {
 
 Double AscentOfLine(Double fontSize) {
     return ArialAscent * LetterHeight(fontSize);
+}
+
+Double WidthOfText(std::string_view utf8, Double fontSize) {
+    int thousandths = 0;
+    for (const char c : utf8) {
+        thousandths += ContinuesCharacter(c) ? 0 : LetterWidth(static_cast<unsigned char>(c));
+    }
+    return thousandths * fontSize * TwipsPerPoint / 1000;
 }
 
 void Drawing::Clear() {
@@ -92,16 +102,67 @@ void Drawing::WriteLine(std::string_view text) {
     PenY += LineHeight();
 }
 
+void Drawing::AddLine(Double x1, Double y1, Double x2, Double y2, DrawingColor color,
+                      Double width) {
+    DrawingStep step;
+    step.What = DrawingStep::Kind::Line;
+    step.Color = color;
+    step.X1 = x1;
+    step.Y1 = y1;
+    step.X2 = x2;
+    step.Y2 = y2;
+    step.LineWidth = width;
+    steps_.push_back(std::move(step));
+    Reach(std::max(x1, x2), std::max(y1, y2));
+}
+
+void Drawing::AddText(Double x, Double y, std::string_view text, Double fontSize) {
+    DrawingStep step;
+    step.What = DrawingStep::Kind::Text;
+    step.Color = Color;
+    step.X1 = x;
+    step.Y1 = y;
+    step.X2 = x + WidthOfText(text, fontSize);
+    step.FontSize = fontSize;
+    step.IsLoose = true;
+    step.Text = text;
+    Reach(step.X2, y + HeightOfLine(fontSize));
+    steps_.push_back(std::move(step));
+}
+
+void Drawing::AddUpwardText(Double x, Double y, std::string_view text, Double fontSize) {
+    DrawingStep step;
+    step.What = DrawingStep::Kind::Text;
+    step.Color = Color;
+    step.X1 = x;
+    step.Y1 = y;
+    step.X2 = x + HeightOfLine(fontSize);
+    step.Y2 = y - WidthOfText(text, fontSize);
+    step.FontSize = fontSize;
+    step.IsUpward = true;
+    step.IsLoose = true;
+    step.Text = text;
+    Reach(step.X2, y);
+    steps_.push_back(std::move(step));
+}
+
+void Drawing::Append(const Drawing& other, Double dx, Double dy) {
+    for (DrawingStep step : other.steps_) {
+        step.X1 += dx;
+        step.X2 += dx;
+        step.Y1 += dy;
+        step.Y2 += dy;
+        steps_.push_back(std::move(step));
+    }
+    Reach(other.farthestX_ + dx, other.farthestY_ + dy);
+}
+
 Double Drawing::LineHeight() const {
     return HeightOfLine(FontSize);
 }
 
 Double Drawing::TextWidth(std::string_view utf8) const {
-    int thousandths = 0;
-    for (const char c : utf8) {
-        thousandths += ContinuesCharacter(c) ? 0 : LetterWidth(static_cast<unsigned char>(c));
-    }
-    return thousandths * FontSize * TwipsPerPoint / 1000;
+    return WidthOfText(utf8, FontSize);
 }
 
 void Drawing::Reach(Double x, Double y) {

@@ -11,7 +11,7 @@
 namespace tarn {
 
 /// The colours of a drawing.
-enum class DrawingColor { Black, Green, Red };
+enum class DrawingColor { Black, Green, Red, Gray };
 /// The same as "#RRGGBB".
 std::string_view ColorText(DrawingColor color);
 
@@ -22,18 +22,26 @@ inline constexpr Double DrawingMargin = 100;
 Double LetterHeight(Double fontSize); ///< the size itself
 Double HeightOfLine(Double fontSize); ///< from a line's top to the next line's
 Double AscentOfLine(Double fontSize); ///< from a line's top to what its letters stand on
+/// The width of a text (UTF-8), by the face's own letter widths.
+Double WidthOfText(std::string_view utf8, Double fontSize);
 
 /// One step of a drawing. Positions and sizes are twips (1/1440 inch), type sizes points.
 struct DrawingStep {
-    enum class Kind { Box, Text };
+    enum class Kind { Box, Text, Line };
 
     Kind What = Kind::Box;
     DrawingColor Color = DrawingColor::Black;
-    Double X1 = 0; ///< box: left; text: left of its first letter
+    Double X1 = 0; ///< box: left; text: left of its first letter; line: where it begins
     Double Y1 = 0; ///< box: top; text: top of its line
-    Double X2 = 0; ///< right; of a text by the face's own letter widths
-    Double Y2 = 0; ///< box: bottom
+    Double X2 = 0; ///< right; of a text by the face's own letter widths; line: where it ends
+    Double Y2 = 0; ///< bottom of a box; of an upward text its end, by the letter widths
+    Double LineWidth = DrawnLineWidth; ///< of a line
     Double FontSize = 0;
+    /// Text: its letters run upwards, from (X1, Y1) to (X1, Y2), their tops to the left at X1.
+    bool IsUpward = false;
+    /// Text: its ends are the most that it takes: where its letters are narrower than they were
+    /// taken to be, they are not drawn out.
+    bool IsLoose = false;
     std::string Text;
     std::string Tip; ///< box: what it stands for, for viewers that show it on request
 };
@@ -57,6 +65,16 @@ class Drawing {
     /// Write one line at the pen in FontSize and Color; then go to the left edge, one line height
     /// further down.
     void WriteLine(std::string_view text);
+    /// Draw a line.
+    void AddLine(Double x1, Double y1, Double x2, Double y2,
+                 DrawingColor color = DrawingColor::Black, Double width = DrawnLineWidth);
+    /// Write a text with the left end of its line's top at (x, y), in Color, and leave the pen. Its
+    /// letters are not drawn out.
+    void AddText(Double x, Double y, std::string_view text, Double fontSize);
+    /// The same upwards, from (x, y) on, the tops of its letters at x.
+    void AddUpwardText(Double x, Double y, std::string_view text, Double fontSize);
+    /// Draw all of another drawing, moved by (dx, dy).
+    void Append(const Drawing& other, Double dx, Double dy);
 
     /// The height of a line in FontSize, twips.
     Double LineHeight() const;

@@ -4,6 +4,7 @@
 #include "base/Lengths.h"
 #include "base/Text.h"
 #include "order/CutLines.h"
+#include "order/OrderWords.h"
 #include "project/Coverings.h"
 
 #include <algorithm>
@@ -40,17 +41,6 @@ std::string Columns(const std::vector<TextRow>& rows, std::size_t left) {
     return text;
 }
 
-/// Whole square feet or square metres with two places.
-std::string AreaText(std::int64_t area, Units units) {
-    return Format(OrderArea(area, units), "#,##0.00");
-}
-
-std::string SeamText(const SeamTotal& seams, Units units) {
-    return seams.Count == 0 ? "none"
-                            : TrimStr(seams.Count) + ", " +
-                                  WholeLengthText(static_cast<Long>(seams.Length), units);
-}
-
 TextRow Heads(Units units) {
     const bool metric = units == Units::Metric;
     return {"",
@@ -66,15 +56,6 @@ TextRow Heads(Units units) {
             metric ? "Seams cm" : "Seams",
             metric ? "Joins cm" : "Joins",
             "Price"};
-}
-
-std::string RollName(const RollChoice& roll) {
-    return roll.Name.empty() ? ShownText(roll.AsTyped)
-                             : ShownText(roll.Name) + ' ' + ShownText(roll.AsTyped);
-}
-
-const char* LayName(Lay lay) {
-    return lay == Lay::Cross ? "cross" : "down";
 }
 
 TextRow RowOf(const Order& order, std::size_t number) {
@@ -140,10 +121,6 @@ std::string ListText(const OrderDocument& document, const Order& order) {
 }
 
 } // namespace
-
-std::string CandidateName(const Order& order, const OrderCandidate& candidate) {
-    return RollName(order.Request.Rolls.at(candidate.Roll)) + ", " + LayName(candidate.Direction);
-}
 
 std::string OrderText(const OrderDocument& document) {
     std::string text;

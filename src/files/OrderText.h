@@ -10,7 +10,4 @@ namespace tarn {
 /// what there is to note on it, and the list by which it is cut. Ends with a line feed.
 std::string OrderText(const OrderDocument& document);
 
-/// "12ft, down": how a row is called.
-std::string CandidateName(const Order& order, const OrderCandidate& candidate);
-
 } // namespace tarn

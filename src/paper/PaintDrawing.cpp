@@ -55,11 +55,22 @@ class Brush {
         FillOutline(OnWholePixels(box), ColorOf(step.Color));
     }
 
+    void Line(const DrawingStep& step) {
+        const QPointF begin(step.X1, step.Y1);
+        const QPointF end(step.X2, step.Y2);
+        if (visible_ && !Reaches(QRectF(begin, end).normalized())) {
+            return;
+        }
+        painter_.save();
+        painter_.setRenderHint(QPainter::Antialiasing);
+        painter_.setPen(QPen(ColorOf(step.Color), std::max(step.LineWidth, 1 / scale_)));
+        painter_.drawLine(begin, end);
+        painter_.restore();
+    }
+
     void Text(const DrawingStep& step) {
-        const QRectF line(QPointF(step.X1, step.Y1),
-                          QPointF(step.X2, step.Y1 + HeightOfLine(step.FontSize)));
         if (!AreLettersPainted(step.FontSize, scale_) || step.Text.empty() ||
-            (visible_ && !Reaches(line))) {
+            (visible_ && !Reaches(BoxOf(step)))) {
             return;
         }
         if (fontSize_ != step.FontSize) {
@@ -69,18 +80,31 @@ class Brush {
         }
         const QString text = ToQt(step.Text);
         const double natural = metrics_->horizontalAdvance(text);
+        const double width = step.IsUpward ? step.Y1 - step.Y2 : step.X2 - step.X1;
         painter_.save();
         painter_.setPen(ColorOf(step.Color));
         painter_.setFont(font_);
-        painter_.translate(step.X1, step.Y1 + AscentOfLine(step.FontSize));
-        if (natural > 0) {
-            painter_.scale((step.X2 - step.X1) / natural, 1);
+        if (step.IsUpward) {
+            painter_.translate(step.X1 + AscentOfLine(step.FontSize), step.Y1);
+            painter_.rotate(-90);
+        } else {
+            painter_.translate(step.X1, step.Y1 + AscentOfLine(step.FontSize));
+        }
+        if (natural > (step.IsLoose ? width : 0)) {
+            painter_.scale(width / natural, 1);
         }
         painter_.drawText(QPointF(0, 0), text);
         painter_.restore();
     }
 
   private:
+    /// The place of a text.
+    static QRectF BoxOf(const DrawingStep& text) {
+        return text.IsUpward ? QRectF(QPointF(text.X1, text.Y2), QPointF(text.X2, text.Y1))
+                             : QRectF(QPointF(text.X1, text.Y1),
+                                      QPointF(text.X2, text.Y1 + HeightOfLine(text.FontSize)));
+    }
+
     /// Like QRectF::intersects, but true of rectangles without an area too.
     bool Reaches(const QRectF& box) const {
         return box.right() >= visible_->left() && box.left() <= visible_->right() &&
@@ -136,10 +160,16 @@ void PaintDrawing(QPainter& painter, const Drawing& drawing) {
     painter.setRenderHint(QPainter::TextAntialiasing);
     Brush brush(painter);
     for (const DrawingStep& step : drawing.Steps()) {
-        if (step.What == DrawingStep::Kind::Box) {
+        switch (step.What) {
+        case DrawingStep::Kind::Box:
             brush.Box(step);
-        } else {
+            break;
+        case DrawingStep::Kind::Line:
+            brush.Line(step);
+            break;
+        case DrawingStep::Kind::Text:
             brush.Text(step);
+            break;
         }
     }
     painter.restore();

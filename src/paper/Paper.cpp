@@ -5,12 +5,25 @@
 #include <QPagedPaintDevice>
 #include <QPainter>
 
+#include <algorithm>
+
 namespace tarn {
 
 namespace {
 
 QRectF Twips(const QRectF& points) {
     return {points.topLeft() * TwipsPerPoint, points.size() * TwipsPerPoint};
+}
+
+QPageLayout LayoutOf(const Paper& paper, QPageLayout::Orientation orientation,
+                     const QMarginsF& margins) {
+    // A page size is that of the sheet held upright.
+    const QSizeF upright(paper.Size.Height / TwipsPerPoint, paper.Size.Width / TwipsPerPoint);
+    const QPageSize size(upright, QPageSize::Point, QString(), QPageSize::FuzzyMatch);
+    QPageLayout layout(size, orientation, QMarginsF(), QPageLayout::Point);
+    layout.setMode(QPageLayout::FullPageMode);
+    layout.setMargins(margins / TwipsPerPoint);
+    return layout;
 }
 
 } // namespace
@@ -24,15 +37,13 @@ Paper PaperOf(PageTwips sheet) {
 }
 
 QPageLayout LayoutOf(const Paper& paper) {
-    // A page size is that of the sheet held upright.
-    const QSizeF upright(paper.Size.Height / TwipsPerPoint, paper.Size.Width / TwipsPerPoint);
-    const QPageSize size(upright, QPageSize::Point, QString(), QPageSize::FuzzyMatch);
-    const QMarginsF margins =
-        QMarginsF(paper.Left, paper.Top, paper.Right, paper.Bottom) / TwipsPerPoint;
-    QPageLayout layout(size, QPageLayout::Landscape, QMarginsF(), QPageLayout::Point);
-    layout.setMode(QPageLayout::FullPageMode);
-    layout.setMargins(margins);
-    return layout;
+    return LayoutOf(paper, QPageLayout::Landscape,
+                    QMarginsF(paper.Left, paper.Top, paper.Right, paper.Bottom));
+}
+
+QPageLayout UprightLayoutOf(const Paper& paper) {
+    const double widest = std::max({paper.Left, paper.Top, paper.Right, paper.Bottom});
+    return LayoutOf(paper, QPageLayout::Portrait, QMarginsF(widest, widest, widest, widest));
 }
 
 QRectF SheetOf(const QPagedPaintDevice& device) {

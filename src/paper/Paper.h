@@ -39,8 +39,11 @@ inline constexpr int PageResolution = 1200;
 /// A sheet of that size; A4 when it is not known.
 Paper PaperOf(PageTwips sheet);
 
-/// The layout of a paged device for such a sheet. Positions on it count from the sheet's corner.
+/// The layout of a paged device for such a sheet in landscape. Positions on it count from the sheet's corner.
 QPageLayout LayoutOf(const Paper& paper);
+
+/// The same for such a sheet held upright, all edges as wide as the widest.
+QPageLayout UprightLayoutOf(const Paper& paper);
 
 /// A device's sheet, twips from its corner: the whole of it, and the part inside its margins.
 QRectF SheetOf(const QPagedPaintDevice& device);

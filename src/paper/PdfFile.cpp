@@ -4,6 +4,7 @@
 #include "files/OutputFile.h"
 #include "files/QtText.h"
 #include "paper/EstimatePaper.h"
+#include "paper/OrderPaper.h"
 #include "paper/ReportPaper.h"
 #include "project/Report.h"
 
@@ -16,7 +17,7 @@ namespace tarn {
 
 namespace {
 
-std::string Document(const QString& title, const Paper& paper,
+std::string Document(const QString& title, const QPageLayout& layout,
                      const std::function<void(QPagedPaintDevice&)>& paint) {
     QByteArray content;
     QBuffer buffer(&content);
@@ -24,7 +25,7 @@ std::string Document(const QString& title, const Paper& paper,
     {
         QPdfWriter writer(&buffer);
         writer.setResolution(PageResolution);
-        if (!writer.setPageLayout(LayoutOf(paper))) {
+        if (!writer.setPageLayout(layout)) {
             throw PrinterError("No page can be made on paper of that size.", LargerPaperAdvice);
         }
         writer.setTitle(title);
@@ -37,17 +38,22 @@ std::string Document(const QString& title, const Paper& paper,
 } // namespace
 
 std::string ReportPdf(const EnteredDataReport& report, const Paper& paper) {
-    return Document(ToQt(ReportTitle), paper,
+    return Document(ToQt(ReportTitle), LayoutOf(paper),
                     [&](QPagedPaintDevice& device) { PaintReport(device, report); });
 }
 
 std::string EstimatePdf(const EstimatePage& page, const Paper& paper) {
-    return Document(ToQt(TrimStr(page.Title)), paper,
+    return Document(ToQt(TrimStr(page.Title)), LayoutOf(paper),
                     [&](QPagedPaintDevice& device) { PaintEstimate(device, page); });
 }
 
 std::string EstimatePdf(const EstimatePage& page) {
     return EstimatePdf(page, PaperOf(page.Sheet));
+}
+
+std::string OrderPdf(const OrderDocument& document, std::string_view date, const Paper& paper) {
+    return Document(ToQt(OrderTitle(document)), UprightLayoutOf(paper),
+                    [&](QPagedPaintDevice& device) { PaintOrder(device, document, date); });
 }
 
 void WriteReportPdf(const EnteredDataReport& report, const std::string& path, const Paper& paper) {

@@ -1,4 +1,4 @@
-// What printing is to the screens: a printer that can be asked for its sheet and given two kinds of
+// What printing is to the screens: a printer that can be asked for its sheet and given three kinds of
 // jobs.
 
 #pragma once
@@ -13,6 +13,7 @@ namespace tarn {
 
 struct EnteredDataReport;
 struct EstimatePage;
+struct OrderDocument;
 
 /// The printer cannot be used, or refused the job; what() says why, and Advice what helps.
 class PrinterError : public std::runtime_error {
@@ -50,6 +51,8 @@ class Printer {
     virtual void PrintReport(const EnteredDataReport& report) = 0;
     /// Print an estimate as one job of one landscape page.
     virtual void PrintEstimate(const EstimatePage& page) = 0;
+    /// Print the sheet of a project's orders as one job, upright; `date` is printed as it is.
+    virtual void PrintOrder(const OrderDocument& document, const std::string& date) = 0;
 };
 
 } // namespace tarn

@@ -3,6 +3,7 @@
 #include "base/Text.h"
 #include "paper/CupsQueue.h"
 #include "paper/EstimatePage.h"
+#include "paper/OrderPaper.h"
 #include "paper/PdfFile.h"
 #include "project/Report.h"
 
@@ -20,6 +21,11 @@ void SystemPrinter::PrintReport(const EnteredDataReport& report) {
 void SystemPrinter::PrintEstimate(const EstimatePage& page) {
     CupsQueue queue(patience_);
     queue.Submit(TrimStr(page.Title), EstimatePdf(page, queue.DefaultPaper()));
+}
+
+void SystemPrinter::PrintOrder(const OrderDocument& document, const std::string& date) {
+    CupsQueue queue(patience_);
+    queue.Submit(OrderTitle(document), OrderPdf(document, date, queue.DefaultPaper()));
 }
 
 } // namespace tarn

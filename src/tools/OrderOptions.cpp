@@ -134,6 +134,12 @@ void AddOutput(CLI::App& app, OrderOptions& options) {
     add("--json", options.Json, "Write requests, comparison and pieces as JSON");
     add("--csv", options.Csv, "Write comparison and pieces as CSV");
     add("--xlsx", options.Xlsx, "Write comparison and pieces as a spreadsheet");
+    add("--pdf", options.Pdf,
+        "Write the sheet to buy and cut by, of all carpets, as it is printed; A4 unless the "
+        "printer has another paper");
+    add("--svg", options.Svg,
+        "Write the pages of one carpet's sheet below each other as a drawing (with --carpet when "
+        "there are several)");
     AddForce(app, options.Over);
 }
 
@@ -145,9 +151,11 @@ void CheckTogether(OrderOptions& options) {
     RequireDifferentOutputs({{"--text", options.Text},
                              {"--json", options.Json},
                              {"--csv", options.Csv},
-                             {"--xlsx", options.Xlsx}});
+                             {"--xlsx", options.Xlsx},
+                             {"--pdf", options.Pdf},
+                             {"--svg", options.Svg}});
     if (options.Text.empty() && options.Json.empty() && options.Csv.empty() &&
-        options.Xlsx.empty()) {
+        options.Xlsx.empty() && options.Pdf.empty() && options.Svg.empty()) {
         options.Text = StandardOutput;
     }
 }

@@ -43,6 +43,8 @@ struct OrderOptions {
     std::string Json;
     std::string Csv;
     std::string Xlsx;
+    std::string Pdf;
+    std::string Svg;
     Overwrite Over = Overwrite::Files;
 };
 

@@ -5,7 +5,14 @@
 #include "files/OrderTables.h"
 #include "files/OrderText.h"
 #include "files/OrderXlsx.h"
+#include "files/ShortDate.h"
+#include "files/Svg.h"
 #include "order/MakeOrder.h"
+#include "order/OrderSheet.h"
+#include "order/OrderWords.h"
+#include "paper/PdfFile.h"
+#include "paper/PrinterPage.h"
+#include "paper/SystemPrinter.h"
 #include "project/Coverings.h"
 #include "store/ProjectStore.h"
 #include "tools/Files.h"
@@ -155,12 +162,32 @@ void TellNotes(const OrderDocument& document) {
 
 void RequireOutputsBesideInput(const OrderOptions& options) {
     const std::string& input = options.Rooms.empty() ? options.Database : options.Rooms;
-    for (const std::string& output : {options.Text, options.Json, options.Csv, options.Xlsx}) {
+    for (const std::string& output : {options.Text, options.Json, options.Csv, options.Xlsx,
+                                      options.Pdf, options.Svg}) {
         RequireOtherFile(output, input);
     }
 }
 
+std::string PdfOf(const OrderDocument& document) {
+    SystemPrinter printer;
+    return OrderPdf(document, ShortDateOfToday(), PaperOf(ReadPrinterPage(printer)));
+}
+
+/// The sheet of the one carpet.
+std::string SvgOf(const OrderDocument& document) {
+    const Order& order = document.Orders.front();
+    const std::string carpet = CoveringCaption(order.Carpet);
+    return SvgDocument(OrderPicture(document.Of, order, {}, ShortDateOfToday()),
+                       document.Of.Name.empty() ? carpet : document.Of.Name + ", " + carpet);
+}
+
 void WriteOutputs(const OrderOptions& options, const OrderDocument& document) {
+    if (!options.Svg.empty()) {
+        WriteWholeFile(options.Svg, SvgOf(document), options.Over);
+    }
+    if (!options.Pdf.empty()) {
+        WriteWholeFile(options.Pdf, PdfOf(document), options.Over);
+    }
     if (!options.Xlsx.empty()) {
         WriteWholeFile(options.Xlsx, OrderXlsx(document), options.Over);
     }
@@ -180,7 +207,12 @@ void WriteOutputs(const OrderOptions& options, const OrderDocument& document) {
 void OrderFor(const OrderOptions& options) {
     RequireOutputsBesideInput(options);
     OrderDocument document = ReadProject(options);
-    const std::map<Byte, OrderRequest> requests = RequestsOf(options, document);
+    const OrderRequest request = RequestOf(options, document.In, std::nullopt);
+    const std::vector<Byte> carpets = CarpetsOf(options, document.Of);
+    if (!options.Svg.empty() && carpets.size() > 1) {
+        throw Refusal("The drawing of --svg shows one carpet, and there are several: choose one "
+                      "with --carpet.");
+    }
     {
         const InterruptStops stops;
         ProgressLine line;

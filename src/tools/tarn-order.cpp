@@ -1,10 +1,9 @@
 // tarn-order: what to buy and how to cut it, without a display.
 
 #include "tools/OrderTool.h"
+#include "tools/PaintingApplication.h"
 #include "tools/StandardStreams.h"
 #include "tools/ToolMain.h"
-
-#include <QCoreApplication>
 
 int main(int argc, char* argv[]) {
     tarn::HoldStandardStreams();
@@ -13,6 +12,6 @@ int main(int argc, char* argv[]) {
     if (!options) {
         return status;
     }
-    const QCoreApplication application(argc, argv);
+    const auto application = tarn::NewApplication(argc, argv, !options->Pdf.empty());
     return tarn::RunTool("tarn-order", [&] { tarn::OrderFor(*options); });
 }

@@ -1,0 +1,32 @@
+#include "order/OrderWords.h"
+
+#include "base/Format.h"
+#include "base/Lengths.h"
+#include "base/Text.h"
+
+namespace tarn {
+
+const char* LayName(Lay lay) {
+    return lay == Lay::Cross ? "cross" : "down";
+}
+
+std::string RollName(const RollChoice& roll) {
+    return roll.Name.empty() ? ShownText(roll.AsTyped)
+                             : ShownText(roll.Name) + ' ' + ShownText(roll.AsTyped);
+}
+
+std::string CandidateName(const Order& order, const OrderCandidate& candidate) {
+    return RollName(order.Request.Rolls.at(candidate.Roll)) + ", " + LayName(candidate.Direction);
+}
+
+std::string AreaText(std::int64_t area, Units units) {
+    return Format(OrderArea(area, units), "#,##0.00");
+}
+
+std::string SeamText(const SeamTotal& seams, Units units) {
+    return seams.Count == 0 ? "none"
+                            : TrimStr(seams.Count) + ", " +
+                                  WholeLengthText(static_cast<Long>(seams.Length), units);
+}
+
+} // namespace tarn

@@ -1,0 +1,24 @@
+// The words and figures of an order as lists, sheets and messages have them.
+
+#pragma once
+
+#include "order/Order.h"
+
+#include <cstdint>
+#include <string>
+
+namespace tarn {
+
+/// "down" or "cross".
+const char* LayName(Lay lay);
+/// A roll by its name, if it has one, and its width as typed: "Shop 12ft".
+std::string RollName(const RollChoice& roll);
+/// A row of the comparison: "Shop 12ft, down".
+std::string CandidateName(const Order& order, const OrderCandidate& candidate);
+
+/// Whole square units as square feet or square metres with two places.
+std::string AreaText(std::int64_t area, Units units);
+/// How many seams or joins and how long together: "5, 60'0""; "none".
+std::string SeamText(const SeamTotal& seams, Units units);
+
+} // namespace tarn

@@ -1,0 +1,49 @@
+// What is written on the pieces of a stretch of roll, and beside it where a piece is too small.
+
+#pragma once
+
+#include "order/SheetPage.h"
+
+#include <string>
+#include <vector>
+
+namespace tarn {
+
+/// A piece as it is drawn, and what is to be written on it.
+struct LabelledBox {
+    SheetArea Box;
+    std::string Letter;
+    bool Continues = false; ///< the piece began on another stretch
+    std::string Across;     ///< its size across the roll
+    std::string Along;      ///< and along
+    std::string Room;
+
+    std::string Size() const { return Across + " X " + Along; }
+    /// The letter, and whether it goes on from another stretch.
+    std::string Name() const { return Letter + (Continues ? " continues" : ""); }
+};
+
+/// Where a stretch is drawn.
+struct LabelPlaces {
+    Double Left = 0;      ///< edge of the roll
+    Double Right = 0;     ///< the other edge; the lane begins there
+    Double Top = 0;       ///< of the lane
+    Double Bottom = 0;    ///< of the lane
+    Double LaneWidth = 0; ///< 0 for none
+};
+
+/// The writing on the boxes and in the lane.
+struct StretchLabels {
+    Drawing Written;
+    std::size_t Notes = 0;         ///< of boxes that are too small for what is to be written
+    std::vector<std::size_t> Lost; ///< boxes whose note found no place in the lane either
+};
+
+/// Label the boxes of one stretch. No two texts overlap, and each text is inside its box or in the
+/// lane.
+StretchLabels LabelBoxes(const std::vector<LabelledBox>& boxes, const LabelPlaces& places);
+
+/// How wide a lane has to be for the notes of such boxes.
+Double WidthOfLane(const std::vector<LabelledBox>& boxes);
+
+} // namespace tarn

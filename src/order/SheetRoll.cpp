@@ -1,0 +1,218 @@
+#include "order/SheetRoll.h"
+
+#include "base/Lengths.h"
+#include "base/Text.h"
+#include "order/RollPlan.h"
+#include "order/SheetText.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace tarn {
+
+namespace {
+
+constexpr Double HeadSize = 9;
+constexpr Double HatchStep = 130; ///< between two hatching lines, down the page
+constexpr Double TickLength = 60;
+constexpr Double LongTickLength = 110;
+
+class RollPainter {
+  public:
+    RollPainter(const OrderCandidate& candidate, const OrderRequest& request, const RollPlan& plan,
+                const SheetPaper& paper, std::string_view head)
+        : candidate_(candidate)
+        , request_(request)
+        , plan_(plan)
+        , paper_(paper)
+        , head_(head) {}
+
+    std::vector<Drawing> Paint() {
+        for (const RollStrip& strip : plan_.Strips) {
+            if (strip.Page == pages_.size()) {
+                pages_.push_back(NewPage(paper_, head_));
+            }
+            Drawing& page = pages_.back();
+            PaintHead(page, strip);
+            PaintRuler(page, strip);
+            PaintLeftOvers(page, strip);
+            PaintPieces(page, strip);
+            page.Append(strip.Labels.Written, 0, 0);
+        }
+        AddLostNotes();
+        return std::move(pages_);
+    }
+
+  private:
+    std::string Text(Long length) const { return WholeLengthText(length, request_.In); }
+    std::string LengthWithUnit(Long length) const { return OrderLengthText(length, request_.In); }
+
+    Double Down(const RollStrip& strip, Long y) const {
+        return strip.Roll.Top + static_cast<Double>(y - strip.Stretch.From) * plan_.Scale;
+    }
+
+    /// Which stretch of the roll it is, and the way of the pile.
+    void PaintHead(Drawing& page, const RollStrip& strip) const {
+        const Double top = strip.Roll.Top - StripHeadHeight + 20;
+        const Double left = strip.Roll.Left - RulerWidth;
+        page.AddText(left, top,
+                     Text(strip.Stretch.From) + " to " + LengthWithUnit(strip.Stretch.To),
+                     HeadSize);
+        const Double second = top + HeightOfLine(HeadSize) + 40;
+        page.AddText(strip.Roll.Left, second, "pile", LeastTypeSize);
+        const Double x = strip.Roll.Left + WidthOfText("pile", LeastTypeSize) + 110;
+        const Double tip = second + HeightOfLine(LeastTypeSize) + 20;
+        constexpr Double Head = 55;
+        page.AddLine(x, second - 10, x, tip);
+        page.AddLine(x - Head, tip - 1.6 * Head, x, tip);
+        page.AddLine(x + Head, tip - 1.6 * Head, x, tip);
+    }
+
+    /// The least of the round lengths that is at least so many twips, and divides `whole` if given.
+    Long RoundStep(Double twips, Long whole = 0) const {
+        static constexpr std::array<Long, 4> Steps{1, 2, 5, 10};
+        const Long unit = request_.In == Units::Metric ? 10 : 12;
+        for (Long power = unit;; power *= Steps.back()) {
+            for (const Long step : Steps) {
+                const Long length = step * power;
+                if (static_cast<Double>(length) * plan_.Scale >= twips &&
+                    (whole == 0 || whole % length == 0)) {
+                    return length;
+                }
+                if (whole > 0 && length >= whole) {
+                    return whole;
+                }
+                if (length > LongestStrip) {
+                    return length;
+                }
+            }
+        }
+    }
+
+    void PaintRuler(Drawing& page, const RollStrip& strip) const {
+        constexpr Double LabelRoom = 500;
+        constexpr Double TickRoom = 70;
+        const Double right = strip.Roll.Left;
+        const Long labelled = RoundStep(LabelRoom);
+        const Long ticked = RoundStep(TickRoom, labelled);
+        const Long first = (strip.Stretch.From + ticked - 1) / ticked * ticked;
+        for (Long y = first; y <= strip.Stretch.To; y += ticked) {
+            const bool isLong = y % labelled == 0;
+            const Double at = Down(strip, y);
+            const Double tick = isLong ? LongTickLength : TickLength;
+            page.AddLine(right - tick, at, right, at, DrawingColor::Black, FineLine);
+            if (isLong) {
+                const std::string text = Text(y);
+                page.AddText(right - LongTickLength - 40 - WidthOfText(text, LeastTypeSize),
+                             at - HeightOfLine(LeastTypeSize) / 2, text, LeastTypeSize);
+            }
+        }
+    }
+
+    void Hatch(Drawing& page, const SheetArea& area) const {
+        // Of all lines x + y = k × HatchStep, so that the hatching goes on from area to area.
+        const Double first = std::ceil((area.Left + area.Top) / HatchStep) * HatchStep;
+        for (Double sum = first; sum < area.Right + area.Bottom; sum += HatchStep) {
+            const Double x1 = std::max(area.Left, sum - area.Bottom);
+            const Double x2 = std::min(area.Right, sum - area.Top);
+            page.AddLine(x1, sum - x1, x2, sum - x2, DrawingColor::Gray, FineLine);
+        }
+    }
+
+    void PaintLeftOvers(Drawing& page, const RollStrip& strip) const {
+        const Double edge = static_cast<Double>(request_.Selvage) * plan_.Scale;
+        for (const LeftOver& each :
+             LeftOvers(candidate_.Pieces, candidate_.UsableWidth, strip.Stretch)) {
+            const auto across = [&](Long x) {
+                return strip.Roll.Left + edge + static_cast<Double>(x) * plan_.Scale;
+            };
+            Hatch(page, {across(each.X1), Down(strip, each.Y1), across(each.X2),
+                         Down(strip, each.Y2)});
+        }
+        if (request_.Selvage > 0) {
+            SheetArea band = strip.Roll;
+            band.Right = band.Left + edge;
+            Hatch(page, band);
+            page.AddLine(band.Right, band.Top, band.Right, band.Bottom);
+            band = strip.Roll;
+            band.Left = band.Right - edge;
+            Hatch(page, band);
+            page.AddLine(band.Left, band.Top, band.Left, band.Bottom);
+        }
+        page.AddBox(strip.Roll.Left, strip.Roll.Top, strip.Roll.Right, strip.Roll.Bottom,
+                    DrawingColor::Black);
+    }
+
+    /// Mark an edge at which a piece is broken, to go on elsewhere.
+    static void PaintBreak(Drawing& page, const SheetArea& box, Double y) {
+        constexpr Double Tooth = 60;
+        const Double middle = (box.Left + box.Right) / 2;
+        if (box.Width() < 4 * Tooth) {
+            return;
+        }
+        page.AddLine(middle - Tooth, y, middle - Tooth / 2, y - Tooth / 2);
+        page.AddLine(middle - Tooth / 2, y - Tooth / 2, middle + Tooth / 2, y + Tooth / 2);
+        page.AddLine(middle + Tooth / 2, y + Tooth / 2, middle + Tooth, y);
+    }
+
+    void PaintPieces(Drawing& page, const RollStrip& strip) const {
+        for (std::size_t i = 0; i < strip.Boxes.size(); ++i) {
+            const LabelledBox& each = strip.Boxes[i];
+            const OrderPiece& piece = candidate_.Pieces.at(strip.Pieces[i]);
+            page.AddBox(each.Box.Left, each.Box.Top, each.Box.Right, each.Box.Bottom,
+                        DrawingColor::Black, each.Letter + ": " + each.Size());
+            if (each.Continues) {
+                PaintBreak(page, each.Box, each.Box.Top);
+            }
+            if (piece.Y + piece.Length > strip.Stretch.To) {
+                PaintBreak(page, each.Box, each.Box.Bottom);
+            }
+        }
+    }
+
+    /// What found no place beside the roll, on pages of its own.
+    void AddLostNotes() {
+        std::vector<std::string> lines;
+        const SheetArea body = BodyOf(paper_);
+        for (const RollStrip& strip : plan_.Strips) {
+            for (const std::size_t number : strip.Labels.Lost) {
+                const LabelledBox& box = strip.Boxes.at(number);
+                const OrderPiece& piece = candidate_.Pieces.at(strip.Pieces.at(number));
+                const std::string text = box.Name() + "  " + box.Size() + "  " + box.Room +
+                                         "  at " + LengthWithUnit(piece.Y) + ", " +
+                                         LengthWithUnit(piece.X) + " across";
+                for (std::string& line : WrappedText(text, body.Width(), HeadSize)) {
+                    lines.push_back(std::move(line));
+                }
+            }
+        }
+        const auto perPage = static_cast<std::size_t>(body.Height() / HeightOfLine(HeadSize)) - 2;
+        for (std::size_t first = 0; first < lines.size(); first += perPage) {
+            pages_.push_back(NewPage(paper_, head_));
+            std::vector<std::string> shown{"Pieces too small to be labelled on the roll", ""};
+            const auto begin = lines.begin() + static_cast<std::ptrdiff_t>(first);
+            const auto count = std::min(perPage, lines.size() - first);
+            shown.insert(shown.end(), begin, begin + static_cast<std::ptrdiff_t>(count));
+            AddLines(pages_.back(), body, shown, HeadSize);
+        }
+    }
+
+    const OrderCandidate& candidate_;
+    const OrderRequest& request_;
+    const RollPlan& plan_;
+    const SheetPaper& paper_;
+    std::string_view head_;
+    std::vector<Drawing> pages_;
+};
+
+} // namespace
+
+std::vector<Drawing> RollPages(const Project& project, const Order& order,
+                               const OrderCandidate& candidate, const SheetPaper& paper,
+                               std::string_view head) {
+    const RollPlan plan = PlanRoll(project, order, candidate, paper);
+    return RollPainter(candidate, order.Request, plan, paper, head).Paint();
+}
+
+} // namespace tarn
