@@ -46,8 +46,8 @@ std::string TextElement(const DrawingStep& step) {
         element += SvgAttribute("transform", "rotate(-90 " + x + " " + y + ")");
     }
     if (!step.IsLoose || HasKnownLetters(step.Text)) {
-        element += SvgAttribute("textLength", SvgNumber(length)) +
-                   " lengthAdjust=\"spacingAndGlyphs\"";
+        element +=
+            SvgAttribute("textLength", SvgNumber(length)) + " lengthAdjust=\"spacingAndGlyphs\"";
     }
     return element + SvgAttribute("fill", ColorText(step.Color)) + ">" + SvgEscaped(step.Text) +
            "</text>\n";

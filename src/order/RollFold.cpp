@@ -31,8 +31,8 @@ class Folder {
     }
 
   private:
-    /// Places that may be free: the last one, and those that far from the pieces' ends; the farthest
-    /// first.
+    /// Places that may be free: the last one, and those that far from the pieces' ends; the
+    /// farthest first.
     std::set<Long, std::greater<>> Ends(Long from, Long last, Long apart) const {
         std::set<Long, std::greater<>> ends{last};
         for (const OrderPiece& piece : pieces_) {
@@ -53,8 +53,7 @@ class Folder {
         return std::all_of(pieces_.begin(), pieces_.end(), [&](const OrderPiece& piece) {
             const Long before = end - piece.Y;
             const Long behind = piece.Y + piece.Length - end;
-            return before <= 0 || behind <= 0 ||
-                   (apart > 0 && before >= apart && behind >= apart);
+            return before <= 0 || behind <= 0 || (apart > 0 && before >= apart && behind >= apart);
         });
     }
 

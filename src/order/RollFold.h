@@ -16,8 +16,8 @@ struct RollStretch {
     bool operator==(const RollStretch&) const = default;
 };
 
-/// A roll of that length as stretches of at most `most` units, one behind the other: broken where no
-/// piece is, as far as that leaves a stretch more than half as long; else where pieces go on for
+/// A roll of that length as stretches of at most `most` units, one behind the other: broken where
+/// no piece is, as far as that leaves a stretch more than half as long; else where pieces go on for
 /// `least` units on both sides, if there is such a place. `pieces` are in cutting order.
 std::vector<RollStretch> FoldedRoll(const std::vector<OrderPiece>& pieces, Long length, Long most,
                                     Long least);

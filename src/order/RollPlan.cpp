@@ -5,7 +5,6 @@
 #include "order/SheetText.h"
 
 #include <algorithm>
-#include <numeric>
 #include <optional>
 
 namespace tarn {
@@ -22,9 +21,11 @@ constexpr long long MostRoomCharacters = 32; ///< on a piece; the list has all o
 std::string ShortRoom(const Project& project, const OrderPiece& piece) {
     const Room& room = project.Rooms.at(static_cast<std::size_t>(piece.Room - 1));
     const std::string& name = room.Number.empty() ? room.Remark : room.Number;
-    const std::string text = OneLine(ShownText(name));
-    return TrimStr(text).empty() ? "room " + TrimStr(piece.Room)
-                                 : FirstCharacters(TrimStr(text), MostRoomCharacters);
+    std::string text = TrimStr(OneLine(ShownText(name)));
+    text.erase(
+        std::unique(text.begin(), text.end(), [](char a, char b) { return a == ' ' && b == ' '; }),
+        text.end());
+    return text.empty() ? "room " + TrimStr(piece.Room) : FirstCharacters(text, MostRoomCharacters);
 }
 
 class RollPlanner {
@@ -45,14 +46,21 @@ class RollPlanner {
     }
 
     RollPlan Plan() const {
-        std::vector<RollPlan> plans;
-        for (int columns = 1; const auto scale = ScaleFor(columns, 0); ++columns) {
-            RollPlan plan = Folded(columns, *scale, 0);
-            const Double lane = WidthOfLane(SmallBoxes(plan));
-            const auto smaller = NotesOf(plan) > 0 ? ScaleFor(columns, lane) : std::nullopt;
-            plans.push_back(smaller ? Folded(columns, *smaller, lane) : std::move(plan));
+        RollPlan best;
+        std::size_t least = 0;
+        for (int columns = 1; ScaleFor(columns, 0); ++columns) {
+            RollPlan plan = Folded(columns);
+            const std::size_t trouble = TroubleOf(plan);
+            const bool isHopeless = plan.Notes.size() > std::max<std::size_t>(boxes_.size() / 2, 8);
+            if (columns == 1 || trouble < least) {
+                least = trouble;
+                best = std::move(plan);
+            }
+            if (isHopeless) {
+                break;
+            }
         }
-        return Best(std::move(plans));
+        return best;
     }
 
   private:
@@ -67,32 +75,58 @@ class RollPlanner {
         return std::min(width / static_cast<Double>(candidate_.RollWidth), most);
     }
 
-    RollPlan Folded(int columns, Double scale, Double lane) const {
-        const auto length = static_cast<Long>(candidate_.Figures->Length);
-        const Double height = body_.Height() - StripHeadHeight;
-        const auto units = [scale](Double twips) { return static_cast<Long>(twips / scale); };
+    /// So many strips beside each other, with a lane beside each if one is needed, and as much room
+    /// for notes at the foot of the pages as they take.
+    RollPlan Folded(int columns) const {
+        constexpr int Tries = 5;
+        Double lane = 0;
+        std::size_t noteLines = 0;
         RollPlan plan;
-        plan.Scale = scale;
-        const auto stretches =
-            FoldedRoll(candidate_.Pieces, length, std::max(units(height), Long{1}),
-                       std::max(units(LeastPart), Long{1}));
-        const Double pitch =
-            RulerWidth + static_cast<Double>(candidate_.RollWidth) * scale + lane + StripGap;
+        for (int i = 0; i < Tries; ++i) {
+            plan = Folded(columns, lane, noteLines);
+            const bool needsLane = lane == 0 && HasUnmarked(plan);
+            const Double wanted = needsLane ? WidthOfLane(boxes_) : lane;
+            const std::size_t lines = std::min(LinesOfNotes(plan), MostNoteLines());
+            if ((!needsLane || !ScaleFor(columns, wanted)) && lines <= noteLines) {
+                break;
+            }
+            lane = ScaleFor(columns, wanted) ? wanted : lane;
+            noteLines = std::max(noteLines, lines);
+        }
+        return plan;
+    }
+
+    RollPlan Folded(int columns, Double lane, std::size_t noteLines) const {
+        RollPlan plan;
+        plan.Scale = *ScaleFor(columns, lane);
+        plan.NoteLines = noteLines;
+        const Double foot =
+            noteLines == 0 ? 0 : NoteGap + static_cast<Double>(noteLines) * HeightOfLine(NoteSize);
+        const auto units = [&](Double twips) {
+            return std::max(static_cast<Long>(twips / plan.Scale), Long{1});
+        };
+        const auto stretches = FoldedRoll(
+            candidate_.Pieces, static_cast<Long>(candidate_.Figures->Length),
+            units(body_.Height() - StripHeadHeight - foot - BreakRoom), units(LeastPart));
+        const Double width = static_cast<Double>(candidate_.RollWidth) * plan.Scale;
         for (std::size_t i = 0; i < stretches.size(); ++i) {
             RollStrip strip;
             strip.Stretch = stretches[i];
             strip.Page = i / static_cast<std::size_t>(columns);
-            strip.Lane = lane;
             const auto column = static_cast<Double>(i % static_cast<std::size_t>(columns));
-            strip.Roll.Left = body_.Left + column * pitch + RulerWidth;
-            strip.Roll.Right =
-                strip.Roll.Left + static_cast<Double>(candidate_.RollWidth) * scale;
+            strip.Roll.Left =
+                body_.Left + column * (RulerWidth + width + lane + StripGap) + RulerWidth;
+            strip.Roll.Right = strip.Roll.Left + width;
             strip.Roll.Top = body_.Top + StripHeadHeight;
             strip.Roll.Bottom =
-                strip.Roll.Top + static_cast<Double>(strip.Stretch.To - strip.Stretch.From) * scale;
-            AddPieces(strip, scale);
+                strip.Roll.Top +
+                static_cast<Double>(strip.Stretch.To - strip.Stretch.From) * plan.Scale;
+            AddPieces(strip, plan.Scale);
+            strip.Labels = LabelBoxes(strip.Boxes, {strip.Roll.Left, strip.Roll.Right,
+                                                    strip.Roll.Top, body_.Bottom - foot, lane > 0});
             plan.Strips.push_back(std::move(strip));
         }
+        AddNotes(plan);
         return plan;
     }
 
@@ -117,47 +151,60 @@ class RollPlanner {
             strip.Pieces.push_back(i);
             strip.Boxes.push_back(std::move(box));
         }
-        strip.Labels = LabelBoxes(strip.Boxes, {strip.Roll.Left, strip.Roll.Right, strip.Roll.Top,
-                                                body_.Bottom, strip.Lane});
     }
 
-    static std::vector<LabelledBox> SmallBoxes(const RollPlan& plan) {
-        std::vector<LabelledBox> boxes;
+    /// A note for each piece on a page that is too small there, in the order of their letters.
+    void AddNotes(RollPlan& plan) const {
+        Double widest = 1;
         for (const RollStrip& strip : plan.Strips) {
-            for (const std::size_t lost : strip.Labels.Lost) {
-                boxes.push_back(strip.Boxes.at(lost));
+            for (const std::size_t small : strip.Labels.Small) {
+                const LabelledBox& box = strip.Boxes.at(small);
+                std::string text = box.Name() + "  " + box.Size() + "  " + box.Room;
+                const auto& unmarked = strip.Labels.Unmarked;
+                if (std::find(unmarked.begin(), unmarked.end(), small) != unmarked.end()) {
+                    const OrderPiece& piece = candidate_.Pieces.at(strip.Pieces.at(small));
+                    text += "  (at " + OrderLengthText(piece.Y, request_.In) + ", " +
+                            OrderLengthText(piece.X, request_.In) + " across)";
+                }
+                text = ShortenedText(text, body_.Width(), NoteSize);
+                widest = std::max(widest, WidthOfText(text, NoteSize) + StripGap);
+                plan.Notes.push_back({std::move(text), strip.Page});
             }
         }
-        return boxes;
+        plan.NoteColumns =
+            std::max(static_cast<std::size_t>((body_.Width() + StripGap) / widest), std::size_t{1});
     }
 
-    template <typename Count> static std::size_t Sum(const RollPlan& plan, Count count) {
-        return std::accumulate(
-            plan.Strips.begin(), plan.Strips.end(), std::size_t{0},
-            [&](std::size_t sum, const RollStrip& strip) { return sum + count(strip); });
-    }
-    static std::size_t NotesOf(const RollPlan& plan) {
-        return Sum(plan, [](const RollStrip& strip) { return strip.Labels.Notes; });
-    }
-    static std::size_t LostOf(const RollPlan& plan) {
-        return Sum(plan, [](const RollStrip& strip) { return strip.Labels.Lost.size(); });
+    /// How many lines the notes of that page take that has the most.
+    static std::size_t LinesOfNotes(const RollPlan& plan) {
+        std::vector<std::size_t> notes(plan.Pages());
+        for (const RollNote& note : plan.Notes) {
+            ++notes.at(note.Page);
+        }
+        const std::size_t most = *std::max_element(notes.begin(), notes.end());
+        return (most + plan.NoteColumns - 1) / plan.NoteColumns;
     }
 
-    RollPlan Best(std::vector<RollPlan> plans) const {
-        constexpr std::size_t OneNoteIn = 12; // pieces
-        const auto least = [&plans](auto value) {
-            return value(*std::min_element(plans.begin(), plans.end(), [&](auto& a, auto& b) {
-                return value(a) < value(b);
-            }));
-        };
-        const auto keep = [&plans](auto value, std::size_t most) {
-            std::erase_if(plans, [&](const RollPlan& plan) { return value(plan) > most; });
-        };
-        keep(LostOf, least(LostOf));
-        keep(NotesOf, least(NotesOf) + boxes_.size() / OneNoteIn);
-        const auto pages = [](const RollPlan& plan) { return plan.Pages(); };
-        keep(pages, least(pages));
-        return std::move(plans.front());
+    std::size_t MostNoteLines() const {
+        constexpr Double MostOfPage = 0.4;
+        return static_cast<std::size_t>(body_.Height() * MostOfPage / HeightOfLine(NoteSize));
+    }
+
+    static bool HasUnmarked(const RollPlan& plan) {
+        return std::any_of(plan.Strips.begin(), plan.Strips.end(),
+                           [](const RollStrip& strip) { return !strip.Labels.Unmarked.empty(); });
+    }
+
+    static std::size_t TroubleOf(const RollPlan& plan) {
+        constexpr std::size_t Page = 4;
+        constexpr std::size_t LaneLetter = 2;
+        constexpr std::size_t UnmarkedPiece = 20;
+        std::size_t trouble = Page * plan.Pages() + plan.Notes.size();
+        for (const RollStrip& strip : plan.Strips) {
+            trouble += LaneLetter * strip.Labels.InLane.size() +
+                       UnmarkedPiece * strip.Labels.Unmarked.size();
+        }
+        return trouble;
     }
 
     const OrderCandidate& candidate_;

@@ -130,6 +130,13 @@ void WriteTotals(FrontWriter& writer, const Order& order, const OrderCandidate& 
     writer.Value("Price", figures.Price ? Format(*figures.Price, "#,##0.00") : "");
 }
 
+/// With two places, where they say something.
+std::string Percent(Double value) {
+    std::string text = Format(value, "##0.00");
+    text.erase(text.find_last_not_of('0') + 1);
+    return text + (text.back() == '.' ? "0" : "") + " %";
+}
+
 std::string PatternText(const OrderRequest& request) {
     const PatternChoice& pattern = request.Pattern;
     const auto repeat = [&](Long length) {
@@ -139,8 +146,7 @@ std::string PatternText(const OrderRequest& request) {
         return "none";
     }
     return repeat(pattern.Across) + " across, " + repeat(pattern.Along) + " along" +
-           (pattern.HalfDrop ? ", half drop" : "") + "; drift " +
-           Format(DriftOf(request), "##0.####") + " %";
+           (pattern.HalfDrop ? ", half drop" : "") + "; drift " + Percent(DriftOf(request));
 }
 
 void WriteCutting(FrontWriter& writer, const OrderRequest& request) {
@@ -148,12 +154,12 @@ void WriteCutting(FrontWriter& writer, const OrderRequest& request) {
     writer.Heading("How it is cut");
     writer.Value("Trim", length(request.TrimAlong) + " along, " + length(request.TrimAcross) +
                              " across; part of the sizes");
-    writer.Value("Parts of a strip",
-                 request.MostParts == 1 ? "1"
-                                        : "at most " + TrimStr(request.MostParts) +
-                                              ", none shorter than " +
-                                              length(request.ShortestPart) +
-                                              (request.JoinRooms ? ", of rooms too" : ""));
+    writer.Value("Parts of a strip", request.MostParts == 1
+                                         ? "1"
+                                         : "at most " + TrimStr(request.MostParts) +
+                                               ", none shorter than " +
+                                               length(request.ShortestPart) +
+                                               (request.JoinRooms ? ", of rooms too" : ""));
     writer.Value("Pattern repeat", PatternText(request));
     writer.Value("Pile", "the same way on all pieces: see the arrows");
 }
@@ -181,9 +187,8 @@ void WriteRest(FrontWriter& writer, const Project& project, Units units) {
 
 } // namespace
 
-std::vector<Drawing> FrontPages(const Project& project, const Order& order,
-                                const SheetPaper& paper, std::string_view head,
-                                std::string_view date) {
+std::vector<Drawing> FrontPages(const Project& project, const Order& order, const SheetPaper& paper,
+                                std::string_view head, std::string_view date) {
     FrontWriter writer(paper, head);
     writer.Title(order.Best ? "Order and cutting sheet" : "No order");
     writer.Value("Project", ShownText(project.Name));
@@ -203,8 +208,7 @@ std::vector<Drawing> FrontPages(const Project& project, const Order& order,
     } else {
         writer.Heading("Every roll and lay is refused");
         for (const OrderCandidate& candidate : order.Candidates) {
-            writer.Paragraph(CandidateName(order, candidate) + ": " +
-                             ShownText(candidate.Refused));
+            writer.Paragraph(CandidateName(order, candidate) + ": " + ShownText(candidate.Refused));
         }
     }
     WriteRest(writer, project, order.Request.In);

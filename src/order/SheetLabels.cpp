@@ -5,20 +5,16 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <numeric>
 #include <optional>
 
 namespace tarn {
 
 namespace {
 
-constexpr Double Pad = 50;         ///< between a box and what is written in it
-constexpr Double LetterPad = 16;   ///< the same for a letter alone
-constexpr Double LaneGap = 240;    ///< between the roll and its notes, for the leaders
-constexpr Double LaneEnd = 60;     ///< behind the notes
-constexpr Double MostNote = 2000;  ///< width
-constexpr Double NoteGap = 60;     ///< between two notes
-constexpr Double LeaderGap = 40;   ///< between two leaders, and a leader and a text
+constexpr Double Pad = 50;       ///< between a box and what is written in it
+constexpr Double LetterPad = 16; ///< the same for a letter alone
+constexpr Double LaneGap = 180;  ///< between the roll and its letters, for their lines
+constexpr Double LeaderGap = 40; ///< between two leaders, and a leader and a text
 constexpr std::size_t MostRoomLines = 3;
 
 struct Line {
@@ -53,7 +49,21 @@ Double HeightOf(const Lines& lines) {
     return height;
 }
 
-/// The lines of a label in a room that is so wide; nothing when the room's name takes too many.
+/// The name of a room in lines of that width; none when it takes too many, or has to be broken
+/// inside a word.
+std::vector<std::string> RoomLines(const std::string& room, Double width, Double size) {
+    std::vector<std::string> lines = WrappedText(room, width, size);
+    std::string whole;
+    for (const std::string& line : lines) {
+        whole += (whole.empty() ? "" : " ") + line;
+    }
+    if (lines.size() > MostRoomLines || whole != room) {
+        lines.clear();
+    }
+    return lines;
+}
+
+/// The lines of a label that may be so wide; nothing when the room's name does not go into them.
 std::optional<Lines> LinesOf(const LabelledBox& box, Form form, const LabelSizes& sizes,
                              Double width) {
     Lines lines;
@@ -73,8 +83,8 @@ std::optional<Lines> LinesOf(const LabelledBox& box, Form form, const LabelSizes
     case Form::NameAlone:
         return Lines{{box.Name(), sizes.Text}};
     }
-    const auto room = WrappedText(box.Room, width, sizes.Text);
-    if (room.size() > MostRoomLines) {
+    const auto room = RoomLines(box.Room, width, sizes.Text);
+    if (room.empty()) {
         return std::nullopt;
     }
     for (const std::string& line : room) {
@@ -120,20 +130,19 @@ bool WriteLabel(Drawing& drawing, const LabelledBox& box) {
         }
         return lines.has_value();
     };
-    for (const LabelSizes& sizes : Sizes) {
-        for (const bool upward : {false, true}) {
-            for (const Form form : {Form::Stacked, Form::LetterBesideSize, Form::OneLine}) {
-                if (wrote(form, sizes, upward)) {
-                    return true;
-                }
-            }
-            if (sizes.Text == LeastTypeSize && wrote(Form::SizeInTwo, sizes, upward)) {
-                return true;
-            }
-        }
+    const auto wroteAny = [&](const LabelSizes& sizes, bool upward) {
+        return wrote(Form::Stacked, sizes, upward) ||
+               wrote(Form::LetterBesideSize, sizes, upward) ||
+               wrote(Form::OneLine, sizes, upward) ||
+               (sizes.Text == LeastTypeSize && wrote(Form::SizeInTwo, sizes, upward));
+    };
+    const auto& [large, medium, least] = Sizes;
+    if (wroteAny(large, false) || wroteAny(medium, false) || wroteAny(large, true) ||
+        wroteAny(medium, true) || wroteAny(least, false) || wroteAny(least, true)) {
+        return true;
     }
-    return box.Continues && (wrote(Form::NameAlone, Sizes.back(), false) ||
-                             wrote(Form::NameAlone, Sizes.back(), true));
+    return box.Continues &&
+           (wrote(Form::NameAlone, least, false) || wrote(Form::NameAlone, least, true));
 }
 
 /// Write the letter alone into its box; false when not even that goes into it.
@@ -147,32 +156,17 @@ bool WriteLetter(Drawing& drawing, const LabelledBox& box) {
     return fits;
 }
 
-std::vector<std::string> NoteOf(const LabelledBox& box, Double width) {
-    std::vector<std::string> lines{ShortenedText(box.Name() + "  " + box.Size(), width,
-                                                 LeastTypeSize)};
-    for (std::string& line : WrappedText(box.Room, width, LeastTypeSize)) {
-        lines.push_back(std::move(line));
-    }
-    return lines;
-}
-
 SheetArea PlaceOf(const DrawingStep& text) {
     return text.IsUpward
                ? SheetArea{text.X1, text.Y2, text.X2, text.Y1}
                : SheetArea{text.X1, text.Y1, text.X2, text.Y1 + HeightOfLine(text.FontSize)};
 }
 
-/// A note beside the roll.
-struct Note {
+/// A letter beside the roll, with a line to its box.
+struct LaneLetter {
     std::size_t Box = 0;
-    std::vector<std::string> Text;
-    Double At = 0;     ///< where it points to along the roll
-    Double Top = 0;    ///< where it stands
-    bool Points = false; ///< it has a leader
-
-    Double Height() const {
-        return static_cast<Double>(Text.size()) * HeightOfLine(LeastTypeSize) + NoteGap;
-    }
+    Double At = 0;  ///< where the line leaves the box
+    Double Top = 0; ///< of the letter
 };
 
 class Labeller {
@@ -182,55 +176,42 @@ class Labeller {
         , places_(places) {}
 
     StretchLabels Label() {
-        std::vector<std::size_t> small;
         for (std::size_t i = 0; i < boxes_.size(); ++i) {
             if (!WriteLabel(result_.Written, boxes_[i])) {
-                small.push_back(i);
+                result_.Small.push_back(i);
             }
         }
-        result_.Notes = small.size();
-        std::vector<bool> lettered(boxes_.size());
-        for (const std::size_t i : small) {
-            lettered[i] = WriteLetter(result_.Written, boxes_[i]);
+        std::vector<std::size_t> outside;
+        for (const std::size_t i : result_.Small) {
+            if (!WriteLetter(result_.Written, boxes_[i])) {
+                outside.push_back(i);
+            }
         }
-        for (const SheetArea& place : Places()) {
-            taken_.push_back(place);
+        for (const DrawingStep& step : result_.Written.Steps()) {
+            taken_.push_back(PlaceOf(step));
         }
-        for (const std::size_t i : small) {
-            AddNote(i, !lettered[i]);
+        for (const std::size_t i : outside) {
+            PutIntoLane(i);
         }
-        PlaceNotes();
-        for (const Note& note : notes_) {
-            WriteNote(note);
+        PlaceLetters();
+        for (const LaneLetter& letter : letters_) {
+            WriteLane(letter);
         }
         return std::move(result_);
     }
 
   private:
-    std::vector<SheetArea> Places() const {
-        std::vector<SheetArea> places;
-        for (const DrawingStep& step : result_.Written.Steps()) {
-            places.push_back(PlaceOf(step));
-        }
-        return places;
-    }
-
-    void AddNote(std::size_t number, bool points) {
-        const LabelledBox& box = boxes_[number];
-        const Double width = places_.LaneWidth - LaneGap - LaneEnd;
-        Note note{number, NoteOf(box, width), (box.Box.Top + box.Box.Bottom) / 2, 0, points};
-        const Double used = std::accumulate(
-            notes_.begin(), notes_.end(), note.Height(),
-            [](Double sum, const Note& each) { return sum + each.Height(); });
-        if (width <= 0 || used > places_.Bottom - places_.Top) {
-            result_.Lost.push_back(number);
+    void PutIntoLane(std::size_t number) {
+        const Double used = static_cast<Double>(letters_.size() + 1) * LineHeight();
+        if (!places_.HasLane || used > places_.Bottom - places_.Top) {
+            result_.Unmarked.push_back(number);
             return;
         }
-        if (points) {
-            note.At = LeaderOf(box.Box);
-        }
-        notes_.push_back(std::move(note));
+        result_.InLane.push_back(number);
+        letters_.push_back({number, LeaderOf(boxes_[number].Box), 0});
     }
+
+    static Double LineHeight() { return HeightOfLine(LeastTypeSize); }
 
     /// Where a leader leaves a box: near its middle, clear of texts and other leaders.
     Double LeaderOf(const SheetArea& box) {
@@ -239,8 +220,9 @@ class Labeller {
         const Double x = (box.Left + box.Right) / 2;
         Double at = middle;
         for (int i = 0; i <= 2 * Tries; ++i) {
-            const Double off = (i + 1) / 2 * (i % 2 == 0 ? 1.0 : -1.0) / Tries;
-            const Double y = middle + off * box.Height() * 0.45;
+            const int step = (i + 1) / 2;
+            const Double off = (i % 2 == 0 ? 0.45 : -0.45) * step / Tries;
+            const Double y = middle + off * box.Height();
             const bool clear = std::none_of(taken_.begin(), taken_.end(), [&](const auto& each) {
                 return each.Right > x && each.Top - LeaderGap < y && each.Bottom + LeaderGap > y;
             });
@@ -253,46 +235,43 @@ class Labeller {
         return at;
     }
 
-    /// Notes below each other, each as near to what it points to as the others let it.
-    void PlaceNotes() {
-        std::stable_sort(notes_.begin(), notes_.end(),
-                         [](const Note& a, const Note& b) { return a.At < b.At; });
+    /// Letters below each other, each as near to what it points to as the others let it.
+    void PlaceLetters() {
+        std::stable_sort(letters_.begin(), letters_.end(),
+                         [](const auto& a, const auto& b) { return a.At < b.At; });
         Double y = places_.Top;
-        for (Note& note : notes_) {
-            note.Top = std::max(y, note.At - HeightOfLine(LeastTypeSize) / 2);
-            y = note.Top + note.Height();
+        for (LaneLetter& letter : letters_) {
+            letter.Top = std::max(y, letter.At - LineHeight() / 2);
+            y = letter.Top + LineHeight();
         }
         y = places_.Bottom;
-        for (auto note = notes_.rbegin(); note != notes_.rend(); ++note) {
-            note->Top = std::min(note->Top, y - note->Height());
-            y = note->Top;
+        for (auto letter = letters_.rbegin(); letter != letters_.rend(); ++letter) {
+            letter->Top = std::min(letter->Top, y - LineHeight());
+            y = letter->Top;
         }
     }
 
-    void WriteNote(const Note& note) {
-        Drawing& drawing = result_.Written;
-        const Double left = places_.Right + LaneGap;
-        AddLines(drawing, {left, note.Top, 0, 0}, note.Text, LeastTypeSize);
-        if (!note.Points) {
-            return;
-        }
+    void WriteLane(const LaneLetter& letter) {
         constexpr Double Dot = 20;
-        constexpr Double BeforeText = 30;
-        const SheetArea& box = boxes_[note.Box].Box;
-        const Double x = (box.Left + box.Right) / 2;
+        constexpr Double BeforeText = 20;
+        Drawing& drawing = result_.Written;
+        const LabelledBox& box = boxes_[letter.Box];
+        const Double left = places_.Right + LaneGap;
+        drawing.AddText(left, letter.Top, box.Letter, LeastTypeSize);
+        const Double x = (box.Box.Left + box.Box.Right) / 2;
         const Double knee = places_.Right + 20;
-        const Double y = note.Top + HeightOfLine(LeastTypeSize) / 2;
-        drawing.AddBox(x - Dot / 2, note.At - Dot / 2, x + Dot / 2, note.At + Dot / 2,
+        drawing.AddBox(x - Dot / 2, letter.At - Dot / 2, x + Dot / 2, letter.At + Dot / 2,
                        DrawingColor::Black);
-        drawing.AddLine(x, note.At, knee, note.At, DrawingColor::Black, FineLine);
-        drawing.AddLine(knee, note.At, left - BeforeText, y, DrawingColor::Black, FineLine);
+        drawing.AddLine(x, letter.At, knee, letter.At, DrawingColor::Black, FineLine);
+        drawing.AddLine(knee, letter.At, left - BeforeText, letter.Top + LineHeight() / 2,
+                        DrawingColor::Black, FineLine);
     }
 
     const std::vector<LabelledBox>& boxes_;
     const LabelPlaces& places_;
     StretchLabels result_;
     std::vector<SheetArea> taken_; ///< by texts and leaders
-    std::vector<Note> notes_;
+    std::vector<LaneLetter> letters_;
 };
 
 } // namespace
@@ -304,10 +283,9 @@ StretchLabels LabelBoxes(const std::vector<LabelledBox>& boxes, const LabelPlace
 Double WidthOfLane(const std::vector<LabelledBox>& boxes) {
     Double width = 0;
     for (const LabelledBox& box : boxes) {
-        width = std::max({width, WidthOfText(box.Name() + "  " + box.Size(), LeastTypeSize),
-                          std::min(MostNote, WidthOfText(box.Room, LeastTypeSize))});
+        width = std::max(width, WidthOfText(box.Letter, LeastTypeSize));
     }
-    return width + LaneGap + LaneEnd;
+    return LaneGap + width;
 }
 
 } // namespace tarn

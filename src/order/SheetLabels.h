@@ -1,4 +1,4 @@
-// What is written on the pieces of a stretch of roll, and beside it where a piece is too small.
+// What is written on the pieces of a stretch of roll, and where a piece is too small for it.
 
 #pragma once
 
@@ -25,25 +25,28 @@ struct LabelledBox {
 
 /// Where a stretch is drawn.
 struct LabelPlaces {
-    Double Left = 0;      ///< edge of the roll
-    Double Right = 0;     ///< the other edge; the lane begins there
-    Double Top = 0;       ///< of the lane
-    Double Bottom = 0;    ///< of the lane
-    Double LaneWidth = 0; ///< 0 for none
+    Double Left = 0;   ///< edge of the roll
+    Double Right = 0;  ///< the other edge; the lane begins there
+    Double Top = 0;    ///< of the lane
+    Double Bottom = 0; ///< of the lane
+    bool HasLane = false;
 };
 
 /// The writing on the boxes and in the lane.
 struct StretchLabels {
     Drawing Written;
-    std::size_t Notes = 0;         ///< of boxes that are too small for what is to be written
-    std::vector<std::size_t> Lost; ///< boxes whose note found no place in the lane either
+    /// Boxes that are too small for their label: their letter alone is in them, or else in the lane
+    /// with a line to the box.
+    std::vector<std::size_t> Small;
+    std::vector<std::size_t> InLane;   ///< of these those whose letter is in the lane
+    std::vector<std::size_t> Unmarked; ///< and those whose letter found no place there either
 };
 
 /// Label the boxes of one stretch. No two texts overlap, and each text is inside its box or in the
 /// lane.
 StretchLabels LabelBoxes(const std::vector<LabelledBox>& boxes, const LabelPlaces& places);
 
-/// How wide a lane has to be for the notes of such boxes.
+/// How wide a lane has to be for the letters of such boxes.
 Double WidthOfLane(const std::vector<LabelledBox>& boxes);
 
 } // namespace tarn

@@ -13,13 +13,14 @@ namespace tarn {
 namespace {
 
 constexpr Double ColumnGap = 190;
-constexpr Double RowGap = 45; ///< above and below a row's text
+constexpr Double RowGap = 45;        ///< above and below a row's text
 constexpr Double LeastColumn = 1000; ///< of texts that are broken into lines
 constexpr Double MostColumn = 2100;  ///< of those that the room's name leaves most of the place
 
 enum Column { Cut, From, To, Across, Size, InRoom, Which, Match, ColumnCount };
 
-template <typename T> using Row = std::array<T, ColumnCount>;
+template <typename T>
+using Row = std::array<T, ColumnCount>;
 using Cells = Row<std::vector<std::string>>;
 
 constexpr bool IsFlushRight(int column) {
@@ -35,8 +36,8 @@ class ListPainter {
         , body_(BodyOf(paper))
         , units_(order.Request.In) {
         for (const CutLine& line : CutLines(project, order.Request, candidate)) {
-            rows_.push_back({line.Label, line.From, line.To, line.Across, line.Size, OneLine(line.Room),
-                             line.Which, line.Match});
+            rows_.push_back({line.Label, line.From, line.To, line.Across, line.Size,
+                             OneLine(line.Room), line.Which, line.Match});
         }
         SetWidths();
     }
@@ -73,10 +74,10 @@ class ListPainter {
         for (std::size_t column = 0; column < ColumnCount; ++column) {
             widths_.at(column) = NaturalWidth(column);
         }
-        const auto gaps = static_cast<Double>(std::count_if(widths_.begin(), widths_.end(),
-                                                            [](Double w) { return w > 0; }) -
-                                              1) *
-                          ColumnGap;
+        const auto gaps =
+            static_cast<Double>(
+                std::count_if(widths_.begin(), widths_.end(), [](Double w) { return w > 0; }) - 1) *
+            ColumnGap;
         const auto excess = [&] {
             return std::accumulate(widths_.begin(), widths_.end(), gaps) - body_.Width();
         };
@@ -95,8 +96,10 @@ class ListPainter {
     Cells CellsOf(const Row<std::string>& row) const {
         Cells cells;
         for (std::size_t column = 0; column < ColumnCount; ++column) {
-            cells.at(column) =
-                WrappedText(row.at(column), widths_.at(column) + 1, ListTypeSize);
+            if (widths_.at(column) > 0) {
+                cells.at(column) =
+                    WrappedText(row.at(column), widths_.at(column) + 1, ListTypeSize);
+            }
         }
         return cells;
     }

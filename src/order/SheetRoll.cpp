@@ -40,7 +40,7 @@ class RollPainter {
             PaintPieces(page, strip);
             page.Append(strip.Labels.Written, 0, 0);
         }
-        AddLostNotes();
+        AddNotes();
         return std::move(pages_);
     }
 
@@ -127,8 +127,8 @@ class RollPainter {
             const auto across = [&](Long x) {
                 return strip.Roll.Left + edge + static_cast<Double>(x) * plan_.Scale;
             };
-            Hatch(page, {across(each.X1), Down(strip, each.Y1), across(each.X2),
-                         Down(strip, each.Y2)});
+            Hatch(page,
+                  {across(each.X1), Down(strip, each.Y1), across(each.X2), Down(strip, each.Y2)});
         }
         if (request_.Selvage > 0) {
             SheetArea band = strip.Roll;
@@ -146,14 +146,14 @@ class RollPainter {
 
     /// Mark an edge at which a piece is broken, to go on elsewhere.
     static void PaintBreak(Drawing& page, const SheetArea& box, Double y) {
-        constexpr Double Tooth = 60;
+        constexpr Double Tooth = 2 * BreakRoom;
         const Double middle = (box.Left + box.Right) / 2;
         if (box.Width() < 4 * Tooth) {
             return;
         }
-        page.AddLine(middle - Tooth, y, middle - Tooth / 2, y - Tooth / 2);
-        page.AddLine(middle - Tooth / 2, y - Tooth / 2, middle + Tooth / 2, y + Tooth / 2);
-        page.AddLine(middle + Tooth / 2, y + Tooth / 2, middle + Tooth, y);
+        page.AddLine(middle - Tooth, y, middle - Tooth / 2, y - BreakRoom);
+        page.AddLine(middle - Tooth / 2, y - BreakRoom, middle + Tooth / 2, y + BreakRoom);
+        page.AddLine(middle + Tooth / 2, y + BreakRoom, middle + Tooth, y);
     }
 
     void PaintPieces(Drawing& page, const RollStrip& strip) const {
@@ -171,30 +171,44 @@ class RollPainter {
         }
     }
 
-    /// What found no place beside the roll, on pages of its own.
-    void AddLostNotes() {
-        std::vector<std::string> lines;
+    /// The notes at the foot of each page, in columns; what finds no place there on pages of its
+    /// own.
+    void AddNotes() {
         const SheetArea body = BodyOf(paper_);
-        for (const RollStrip& strip : plan_.Strips) {
-            for (const std::size_t number : strip.Labels.Lost) {
-                const LabelledBox& box = strip.Boxes.at(number);
-                const OrderPiece& piece = candidate_.Pieces.at(strip.Pieces.at(number));
-                const std::string text = box.Name() + "  " + box.Size() + "  " + box.Room +
-                                         "  at " + LengthWithUnit(piece.Y) + ", " +
-                                         LengthWithUnit(piece.X) + " across";
-                for (std::string& line : WrappedText(text, body.Width(), HeadSize)) {
-                    lines.push_back(std::move(line));
-                }
+        const Double line = HeightOfLine(NoteSize);
+        const Double foot = body.Bottom - static_cast<Double>(plan_.NoteLines) * line;
+        const Double width = body.Width() / static_cast<Double>(plan_.NoteColumns);
+        std::vector<std::size_t> written(pages_.size());
+        std::vector<std::string> rest;
+        for (const RollNote& note : plan_.Notes) {
+            std::size_t& count = written.at(note.Page);
+            if (count == plan_.NoteLines * plan_.NoteColumns) {
+                rest.push_back(note.Text);
+                continue;
             }
+            Drawing& page = pages_.at(note.Page);
+            if (count == 0) {
+                page.AddLine(body.Left, foot - NoteGap / 4, body.Right, foot - NoteGap / 4,
+                             DrawingColor::Gray, FineLine);
+            }
+            const auto column = static_cast<Double>(count / plan_.NoteLines);
+            const auto row = static_cast<Double>(count % plan_.NoteLines);
+            page.AddText(body.Left + column * width, foot + row * line, note.Text, NoteSize);
+            ++count;
         }
-        const auto perPage = static_cast<std::size_t>(body.Height() / HeightOfLine(HeadSize)) - 2;
+        AddRest(rest);
+    }
+
+    void AddRest(const std::vector<std::string>& lines) {
+        const SheetArea body = BodyOf(paper_);
+        const auto perPage = static_cast<std::size_t>(body.Height() / HeightOfLine(NoteSize)) - 2;
         for (std::size_t first = 0; first < lines.size(); first += perPage) {
             pages_.push_back(NewPage(paper_, head_));
             std::vector<std::string> shown{"Pieces too small to be labelled on the roll", ""};
             const auto begin = lines.begin() + static_cast<std::ptrdiff_t>(first);
             const auto count = std::min(perPage, lines.size() - first);
             shown.insert(shown.end(), begin, begin + static_cast<std::ptrdiff_t>(count));
-            AddLines(pages_.back(), body, shown, HeadSize);
+            AddLines(pages_.back(), body, shown, NoteSize);
         }
     }
 

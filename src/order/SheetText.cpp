@@ -10,7 +10,8 @@ namespace {
 constexpr std::string_view Ellipsis = "\xE2\x80\xA6";
 
 /// Bytes of the longest beginning of `text` that ends between characters and of which `fits`.
-template <typename Fits> std::size_t LongestBeginning(std::string_view text, Fits fits) {
+template <typename Fits>
+std::size_t LongestBeginning(std::string_view text, Fits fits) {
     std::size_t longest = 0;
     for (std::size_t end = 1; end <= text.size(); ++end) {
         if (end < text.size() && ContinuesCharacter(text[end])) {

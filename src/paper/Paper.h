@@ -39,7 +39,8 @@ inline constexpr int PageResolution = 1200;
 /// A sheet of that size; A4 when it is not known.
 Paper PaperOf(PageTwips sheet);
 
-/// The layout of a paged device for such a sheet in landscape. Positions on it count from the sheet's corner.
+/// The layout of a paged device for such a sheet in landscape. Positions on it count from the
+/// sheet's corner.
 QPageLayout LayoutOf(const Paper& paper);
 
 /// The same for such a sheet held upright, all edges as wide as the widest.

@@ -22,8 +22,7 @@ std::string EstimatePdf(const EstimatePage& page, const Paper& paper);
 std::string EstimatePdf(const EstimatePage& page);
 
 /// The sheet of a project's orders (see OrderSheet), upright, as PDF. Raises as the others.
-std::string OrderPdf(const OrderDocument& document, std::string_view date,
-                     const Paper& paper = {});
+std::string OrderPdf(const OrderDocument& document, std::string_view date, const Paper& paper = {});
 
 /// Write such a document to a file, whole or not at all. Raise OutputFileError, which names the
 /// file, when it cannot be written.

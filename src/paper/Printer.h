@@ -1,5 +1,5 @@
-// What printing is to the screens: a printer that can be asked for its sheet and given three kinds of
-// jobs.
+// What printing is to the screens: a printer that can be asked for its sheet and given three kinds
+// of jobs.
 
 #pragma once
 

@@ -8,7 +8,8 @@ namespace tarn {
 /// The default printer of the system, over CUPS. Each call looks afresh which queue that is and
 /// whether it takes jobs; a server that does not answer costs some seconds, one that takes a
 /// document slowly half a minute at most. Pages are painted as PDF and handed in as one job, titled
-/// by the heading of the report, the estimate or the order. Needs a QGuiApplication, on whatever platform.
+/// by the heading of the report, the estimate or the order. Needs a QGuiApplication, on whatever
+/// platform.
 class SystemPrinter : public Printer {
   public:
     explicit SystemPrinter(CupsPatience patience = {})

@@ -162,8 +162,8 @@ void TellNotes(const OrderDocument& document) {
 
 void RequireOutputsBesideInput(const OrderOptions& options) {
     const std::string& input = options.Rooms.empty() ? options.Database : options.Rooms;
-    for (const std::string& output : {options.Text, options.Json, options.Csv, options.Xlsx,
-                                      options.Pdf, options.Svg}) {
+    for (const std::string& output :
+         {options.Text, options.Json, options.Csv, options.Xlsx, options.Pdf, options.Svg}) {
         RequireOtherFile(output, input);
     }
 }

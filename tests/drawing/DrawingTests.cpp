@@ -106,6 +106,71 @@ TEST(Drawing, LineHeightFollowsTheTypeSize) {
     EXPECT_DOUBLE_EQ(drawing.LineHeight(), 12 * 20 * 1.15);
 }
 
+TEST(Drawing, AddTextWritesAnywhereAndLeavesThePen) {
+    Drawing drawing;
+    drawing.PenX = 11;
+    drawing.AddText(300, 400, "A line", 10);
+    const DrawingStep& step = drawing.Steps().at(0);
+    EXPECT_EQ(step.What, Kind::Text);
+    EXPECT_EQ(step.Text, "A line");
+    EXPECT_EQ(step.X1, 300);
+    EXPECT_EQ(step.Y1, 400);
+    EXPECT_EQ(step.X2, 300 + WidthOfText("A line", 10));
+    EXPECT_EQ(step.FontSize, 10);
+    EXPECT_TRUE(step.IsLoose);
+    EXPECT_FALSE(step.IsUpward);
+    EXPECT_EQ(drawing.PenX, 11);
+    EXPECT_EQ(drawing.FarthestX(), step.X2);
+    EXPECT_EQ(drawing.FarthestY(), 400 + HeightOfLine(10));
+}
+
+TEST(Drawing, AnUpwardTextEndsAboveWhereItBegins) {
+    Drawing drawing;
+    drawing.AddUpwardText(300, 4000, "upwards", 9);
+    const DrawingStep& step = drawing.Steps().at(0);
+    EXPECT_TRUE(step.IsUpward);
+    EXPECT_EQ(step.X1, 300);
+    EXPECT_EQ(step.X2, 300 + HeightOfLine(9));
+    EXPECT_EQ(step.Y1, 4000);
+    EXPECT_EQ(step.Y2, 4000 - WidthOfText("upwards", 9));
+    EXPECT_EQ(drawing.FarthestX(), step.X2);
+    EXPECT_EQ(drawing.FarthestY(), 4000);
+}
+
+TEST(Drawing, AddLineDrawsALineBetweenTwoPoints) {
+    Drawing drawing;
+    drawing.AddLine(500, 20, 100, 300, DrawingColor::Gray, 6);
+    const DrawingStep& step = drawing.Steps().at(0);
+    EXPECT_EQ(step.What, Kind::Line);
+    EXPECT_EQ(step.X1, 500);
+    EXPECT_EQ(step.Y1, 20);
+    EXPECT_EQ(step.X2, 100);
+    EXPECT_EQ(step.Y2, 300);
+    EXPECT_EQ(step.Color, DrawingColor::Gray);
+    EXPECT_EQ(step.LineWidth, 6);
+    EXPECT_EQ(drawing.FarthestX(), 500);
+    EXPECT_EQ(drawing.FarthestY(), 300);
+}
+
+TEST(Drawing, AppendDrawsAnotherDrawingElsewhere) {
+    Drawing part;
+    part.AddBox(1, 2, 30, 40, DrawingColor::Red);
+    part.AddUpwardText(5, 200, "up", 8);
+    Drawing drawing;
+    drawing.AddBox(0, 0, 10, 10, DrawingColor::Black);
+    drawing.Append(part, 100, 1000);
+    ASSERT_EQ(drawing.Steps().size(), 3U);
+    const DrawingStep& box = drawing.Steps()[1];
+    EXPECT_EQ(box.X1, 101);
+    EXPECT_EQ(box.Y1, 1002);
+    EXPECT_EQ(box.X2, 130);
+    EXPECT_EQ(box.Y2, 1040);
+    EXPECT_EQ(box.Color, DrawingColor::Red);
+    EXPECT_EQ(drawing.Steps()[2].Y2, 1200 - WidthOfText("up", 8));
+    EXPECT_EQ(drawing.FarthestX(), part.FarthestX() + 100);
+    EXPECT_EQ(drawing.FarthestY(), 1200);
+}
+
 // By hand from the face's letter widths: N 722, O 778, blank 278, F 611, I 278, L 556, S 667,
 // T 611, D 722, P 667, A 667, Y 667.
 TEST(Drawing, TextWidthIsTheSumOfTheLettersAdvances) {

@@ -166,6 +166,38 @@ TEST(Svg, BlanksInsideTextsAreKept) {
     EXPECT_NE(svg.find("xml:space=\"preserve\""), std::string::npos);
 }
 
+TEST(Svg, DrawsLinesAsWideAsTheyAre) {
+    Drawing drawing;
+    drawing.AddLine(10, 20, 300, 5, DrawingColor::Gray, 6);
+    const auto line = Read(SvgDocument(drawing, "")).Drawn.at(0);
+    EXPECT_EQ(line.Name, "line");
+    EXPECT_EQ(line.Number("x1"), 10);
+    EXPECT_EQ(line.Number("y1"), 20);
+    EXPECT_EQ(line.Number("x2"), 300);
+    EXPECT_EQ(line.Number("y2"), 5);
+    EXPECT_EQ(line.Number("stroke-width"), 6);
+    EXPECT_EQ(line.Attributes.at("stroke"), "#808080");
+}
+
+TEST(Svg, TurnsUpwardTextsAroundWhereTheyBegin) {
+    Drawing drawing;
+    drawing.AddUpwardText(100, 2000, "up", 10);
+    const auto text = Read(SvgDocument(drawing, "")).Drawn.at(0);
+    EXPECT_EQ(text.Number("x"), 281); // 0.905 of 200 twips
+    EXPECT_EQ(text.Number("y"), 2000);
+    EXPECT_EQ(text.Attributes.at("transform"), "rotate(-90 281.00 2000.00)");
+    EXPECT_NEAR(text.Number("textLength"), WidthOfText("up", 10), 0.01);
+}
+
+TEST(Svg, DoesNotDrawOutALooseTextOfOtherLetters) {
+    Drawing drawing;
+    drawing.AddText(0, 0, "één", 10);
+    drawing.AddText(0, 500, "een", 10);
+    const auto drawn = Read(SvgDocument(drawing, "")).Drawn;
+    EXPECT_EQ(drawn.at(0).Attributes.count("textLength"), 0U);
+    EXPECT_EQ(drawn.at(1).Attributes.count("textLength"), 1U);
+}
+
 TEST(Svg, EverythingOfARandomEstimateIsInsideTheView) {
     for (unsigned seed = 1; seed <= 300; ++seed) {
         SCOPED_TRACE(::testing::Message() << "seed " << seed);

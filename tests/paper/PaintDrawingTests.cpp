@@ -180,5 +180,37 @@ TEST(PaintDrawing, OfNothingPaintsNothing) {
     EXPECT_TRUE(Ink(Painted(WithText(""), {80, 80})).isNull());
 }
 
+TEST(PaintDrawing, DrawsALineFromPointToPoint) {
+    Drawing drawing;
+    drawing.AddLine(150, 300, 1500, 300, DrawingColor::Red, 30);
+    const QRect ink = Ink(Painted(drawing, {120, 60}));
+    EXPECT_NEAR(ink.left(), 10, 1);
+    EXPECT_NEAR(ink.right(), 100, 1);
+    EXPECT_NEAR(ink.center().y(), 20, 1);
+    EXPECT_LE(ink.height(), 3);
+    EXPECT_TRUE(Ink(Painted(drawing, {120, 60}, 1, {0, 40, 120, 20})).isEmpty());
+    EXPECT_FALSE(Ink(Painted(drawing, {120, 60}, 1, {50, 0, 10, 60})).isEmpty());
+}
+
+TEST(PaintDrawing, TurnsAnUpwardTextInsideItsPlace) {
+    Drawing drawing;
+    drawing.AddUpwardText(300, 3000, "Living room", 12);
+    const DrawingStep& text = drawing.Steps().front();
+    const QRect ink = Ink(Painted(drawing, {100, 300}));
+    const QRect place(QPoint(20, qRound(text.Y2 / 15)), QPoint(qRound(text.X2 / 15), 200));
+    EXPECT_TRUE(place.adjusted(-1, -1, 1, 1).contains(ink));
+    EXPECT_GT(ink.height(), place.height() * 9 / 10);
+    EXPECT_FALSE(Ink(Painted(drawing, {100, 300}, 1, {0, place.top(), 100, 20})).isEmpty());
+}
+
+TEST(PaintDrawing, DoesNotDrawOutALooseText) {
+    Drawing drawing;
+    drawing.AddText(0, 0, "ÉÉÉÉ", 12);
+    Drawing drawnOut = WithText("ÉÉÉÉ", 12);
+    const int loose = Ink(Painted(drawing, {300, 100})).width();
+    const int out = Ink(Painted(drawnOut, {300, 100})).width();
+    EXPECT_LT(loose, out * 8 / 10);
+}
+
 } // namespace
 } // namespace tarn

@@ -22,6 +22,7 @@ struct SheetPrinter : Printer {
     }
     void PrintReport(const EnteredDataReport&) override {}
     void PrintEstimate(const EstimatePage&) override {}
+    void PrintOrder(const OrderDocument&, const std::string&) override {}
 };
 
 TEST(PageTwips, AreKnownWhenBothSidesAre) {

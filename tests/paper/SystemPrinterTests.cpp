@@ -1,4 +1,6 @@
+#include "files/OrderDocument.h"
 #include "files/QtText.h"
+#include "order/SheetTesting.h"
 #include "paper/ColumnTesting.h"
 #include "paper/PdfFile.h"
 #include "paper/PdfTesting.h"
@@ -22,6 +24,8 @@ using testing::CornersDrawing;
 using testing::DeadAddress;
 using testing::Driven;
 using ::testing::HasSubstr;
+using testing::HouseOf;
+using testing::HouseOrder;
 using testing::PageOf;
 using testing::Pdf;
 using testing::PrintedJob;
@@ -47,6 +51,7 @@ void ExpectRefused(const std::string& reason, const std::string& advice) {
     refused("Page", [&] { printer.Page(); });
     refused("PrintReport", [&] { printer.PrintReport(ReportOf(3)); });
     refused("PrintEstimate", [&] { printer.PrintEstimate(PageOf(drawing)); });
+    refused("PrintOrder", [&] { printer.PrintOrder(OrderDocument(), ""); });
 }
 
 // --- jobs that arrive ---
@@ -86,6 +91,19 @@ TEST(SystemPrinter, TheEstimateArrivesAsOneLandscapeJobOfOnePage) {
     EXPECT_EQ(pdf.Pages(), 1);
     EXPECT_EQ(pdf.Text().toStdString(), "TARN RESULT (PROJECT: MAPLE HOUSE) 11/21/2031 "
                                         "Total Length:30'0\" Carpet-1 Width=12'0\" DOWNLAY");
+}
+
+TEST(SystemPrinter, TheOrderArrivesAsOneUprightJob) {
+    const PrintServer server({QueueSetup()});
+    OrderDocument document{HouseOf({4, Units::Imperial, false}), Units::Imperial, {}};
+    document.Orders.push_back(HouseOrder({4, Units::Imperial, false}, document.Of));
+    SystemPrinter().PrintOrder(document, "11/22/2026");
+    const PrintedJob job = server.Printed(1).at(0);
+    EXPECT_EQ(job.Title, "ORDER (PROJECT: MAPLE HOUSE)");
+    const Pdf pdf(job.Document);
+    EXPECT_EQ(pdf.PageSize(), QSizeF(A4Height, A4Width));
+    EXPECT_EQ(pdf.Text(), Pdf(OrderPdf(document, "11/22/2026")).Text());
+    EXPECT_TRUE(pdf.Text().contains(QStringLiteral("11/22/2026")));
 }
 
 TEST(SystemPrinter, ATitleTooLongForAJobsNameIsCutBetweenCharacters) {

@@ -83,6 +83,10 @@ struct WatchedPrinter : Printer {
         Waiting.push_back(ShowsWaiting());
         System.PrintEstimate(page);
     }
+    void PrintOrder(const OrderDocument& document, const std::string& date) override {
+        Waiting.push_back(ShowsWaiting());
+        System.PrintOrder(document, date);
+    }
 
     SystemPrinter System;
     std::vector<bool> Waiting;

@@ -93,6 +93,11 @@ void FakePrinter::PrintEstimate(const EstimatePage& page) {
     Estimates.push_back(page);
 }
 
+void FakePrinter::PrintOrder(const OrderDocument& document, const std::string& /*date*/) {
+    Page();
+    Orders.push_back(document);
+}
+
 void FakeScreens::ShowMenu(MenuEntry entry) {
     switch (entry) {
     case MenuEntry::ExistingProject:

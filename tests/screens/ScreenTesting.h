@@ -4,6 +4,7 @@
 // and real mouse and key events.
 
 #include "estimate/EstimateRequest.h"
+#include "files/OrderDocument.h"
 #include "files/QtText.h"
 #include "paper/EstimatePage.h"
 #include "screens/Session.h"
@@ -60,10 +61,12 @@ struct FakePrinter : Printer {
     PageSize Size{16838, 11906};
     std::vector<std::string> Reports; ///< their texts
     std::vector<EstimatePage> Estimates;
+    std::vector<OrderDocument> Orders;
 
     PageSize Page() override;
     void PrintReport(const EnteredDataReport& report) override;
     void PrintEstimate(const EstimatePage& page) override;
+    void PrintOrder(const OrderDocument& document, const std::string& date) override;
 };
 
 /// Records the way between the screens: "projects", "menu existing", "menu new", "menu returning",

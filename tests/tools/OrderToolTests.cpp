@@ -1,12 +1,13 @@
 // tarn-order: from rooms and options to comparison, list and files, and what it refuses.
 
-#include "project/OrderLengths.h"
-#include "store/ProjectStore.h"
+#include "paper/PdfTesting.h"
+#include "paper/PrintServer.h"
 #include "tools/ToolTesting.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QXmlStreamReader>
 
 namespace tarn {
 namespace {
@@ -64,6 +65,58 @@ TEST_F(OrderTool, WritesEveryFileAlike) {
     EXPECT_EQ(compared.Status, 0) << compared.Error.toStdString();
     EXPECT_TRUE(compared.Out.startsWith("rows: 12 ")) << compared.Out.toStdString();
     EXPECT_TRUE(Read(S("o.json")).contains("\"refused\": \"")) << "a row should be refused";
+}
+
+constexpr const char* TwoCarpets =
+    "width,length,covering,base,room,remark\n192,240,C1,W2L2,101,Hall\n60,96,C1,,102,\n"
+    "180,100,C3,,103,\"a, b\"\n100,100,T1,,104,\n";
+
+TEST_F(OrderTool, WritesTheSheetOfAllCarpetsAsPdf) {
+    Write(S("a.csv"), TwoCarpets);
+    const ToolRun run = Order("--rooms a.csv --roll 12ft --trim 3 --steps 100 --pdf -");
+    EXPECT_EQ(run.Status, 0) << run.Error.toStdString();
+    const testing::Pdf pdf(run.Out.toStdString());
+    EXPECT_EQ(pdf.PageSize(), QSizeF(595, 842));
+    EXPECT_EQ(pdf.Pages(), 6);
+    const QString text = pdf.Text();
+    EXPECT_EQ(text.count(S("Order and cutting sheet")), 2);
+    EXPECT_TRUE(text.contains(S("Carpet CARPET-1"))) << text.toStdString();
+    EXPECT_TRUE(text.contains(S("Carpet CARPET-3")));
+    EXPECT_TRUE(text.contains(S("TILE-1 69.44 sq. ft.")));
+    EXPECT_TRUE(text.contains(S("6 of 6")));
+}
+
+TEST_F(OrderTool, WritesTheSheetOnThePaperOfTheDefaultPrinter) {
+    Write(S("a.csv"), TwoCarpets);
+    testing::QueueSetup queue;
+    queue.DriverPaper = "Letter";
+    const testing::PrintServer server({queue});
+    const ToolRun run = testing::RunProgram(S("tarn-order"),
+                                            {S("--rooms"), Path(S("a.csv")), S("--roll"), S("12ft"),
+                                             S("--steps"), S("10"), S("--pdf"), Path(S("a.pdf"))},
+                                            Path(S("")), server.Address());
+    EXPECT_EQ(run.Status, 0) << run.Error.toStdString();
+    EXPECT_EQ(testing::Pdf(Read(S("a.pdf")).toStdString()).PageSize(), QSizeF(612, 792));
+}
+
+TEST_F(OrderTool, WritesTheSheetOfOneCarpetAsSvg) {
+    Write(S("a.csv"), TwoCarpets);
+    ExpectRefused("--rooms a.csv --roll 12ft --steps 10 --svg a.svg",
+                  "there are several: choose one with --carpet.");
+    EXPECT_FALSE(Exists(S("a.svg")));
+    const ToolRun run =
+        Order("--rooms a.csv --roll 12ft --steps 10 --carpet 3 --svg a.svg --text a.txt");
+    EXPECT_EQ(run.Status, 0) << run.Error.toStdString();
+    QXmlStreamReader reader(Read(S("a.svg")));
+    QStringList texts;
+    while (!reader.atEnd()) {
+        if (reader.readNext() == QXmlStreamReader::StartElement && reader.name() == u"text") {
+            texts += reader.readElementText();
+        }
+    }
+    EXPECT_FALSE(reader.hasError()) << reader.errorString().toStdString();
+    EXPECT_TRUE(texts.contains(S("103 a, b")));
+    EXPECT_TRUE(texts.contains(S("3 of 3")));
 }
 
 TEST_F(OrderTool, GivesTheSameDocumentForTheSameSteps) {
