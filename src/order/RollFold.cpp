@@ -116,24 +116,17 @@ void AddGap(std::vector<LeftOver>& rectangles, const Gap& gap, Long from, Long t
 
 } // namespace
 
-std::vector<RollStretch> FoldedRoll(const std::vector<OrderPiece>& pieces, Long length, Long most,
-                                    Long least) {
-    std::vector<RollStretch> stretches;
-    Long from = 0;
-    for (std::size_t first = 0; length - from > most;) {
-        std::vector<OrderPiece> near;
-        while (first < pieces.size() && pieces[first].Y + LongestStrip < from) {
-            ++first;
-        }
-        for (std::size_t i = first; i < pieces.size() && pieces[i].Y <= from + most; ++i) {
-            near.push_back(pieces[i]);
-        }
-        const Long to = Folder(near, most, least).EndOf(from);
-        stretches.push_back({from, to});
-        from = to;
+RollStretch StretchFrom(const std::vector<OrderPiece>& pieces, Long from, Long length,
+                        const StretchLimits& limits) {
+    if (length - from <= limits.Most) {
+        return {from, length};
     }
-    stretches.push_back({from, length});
-    return stretches;
+    std::vector<OrderPiece> near;
+    std::copy_if(pieces.begin(), pieces.end(), std::back_inserter(near),
+                 [&](const OrderPiece& piece) {
+                     return piece.Y <= from + limits.Most && piece.Y + piece.Length > from;
+                 });
+    return {from, Folder(near, limits.Most, limits.Least).EndOf(from)};
 }
 
 std::vector<LeftOver> LeftOvers(const std::vector<OrderPiece>& pieces, Long width,

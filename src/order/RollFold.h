@@ -16,11 +16,17 @@ struct RollStretch {
     bool operator==(const RollStretch&) const = default;
 };
 
-/// A roll of that length as stretches of at most `most` units, one behind the other: broken where
-/// no piece is, as far as that leaves a stretch more than half as long; else where pieces go on for
-/// `least` units on both sides, if there is such a place. `pieces` are in cutting order.
-std::vector<RollStretch> FoldedRoll(const std::vector<OrderPiece>& pieces, Long length, Long most,
-                                    Long least);
+/// How long the stretches of a folded roll may be, whole units.
+struct StretchLimits {
+    Long Most = 0;  ///< of each
+    Long Least = 0; ///< of a piece that is broken, on both sides, where there is such a place
+};
+
+/// The stretch of a roll of that length that begins at `from`: all that is left where it is not too
+/// long; broken where no piece is, as far as that leaves it more than half as long as it may be;
+/// else where pieces go on for long enough on both sides. `pieces` are in cutting order.
+RollStretch StretchFrom(const std::vector<OrderPiece>& pieces, Long from, Long length,
+                        const StretchLimits& limits);
 
 /// A part of the roll that no piece takes, whole units from the usable edge and the roll's start.
 struct LeftOver {

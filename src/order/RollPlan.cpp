@@ -5,6 +5,7 @@
 #include "order/SheetText.h"
 
 #include <algorithm>
+#include <numeric>
 #include <optional>
 
 namespace tarn {
@@ -51,7 +52,7 @@ class RollPlanner {
         for (int columns = 1; ScaleFor(columns, 0); ++columns) {
             RollPlan plan = Folded(columns);
             const std::size_t trouble = TroubleOf(plan);
-            const bool isHopeless = plan.Notes.size() > std::max<std::size_t>(boxes_.size() / 2, 8);
+            const bool isHopeless = NotesOf(plan) > std::max<std::size_t>(boxes_.size() / 2, 8);
             if (columns == 1 || trouble < least) {
                 least = trouble;
                 best = std::move(plan);
@@ -75,59 +76,85 @@ class RollPlanner {
         return std::min(width / static_cast<Double>(candidate_.RollWidth), most);
     }
 
-    /// So many strips beside each other, with a lane beside each if one is needed, and as much room
-    /// for notes at the foot of the pages as they take.
+    /// So many strips beside each other, with a lane beside each if one is needed.
     RollPlan Folded(int columns) const {
-        constexpr int Tries = 5;
-        Double lane = 0;
-        std::size_t noteLines = 0;
-        RollPlan plan;
-        for (int i = 0; i < Tries; ++i) {
-            plan = Folded(columns, lane, noteLines);
-            const bool needsLane = lane == 0 && HasUnmarked(plan);
-            const Double wanted = needsLane ? WidthOfLane(boxes_) : lane;
-            const std::size_t lines = std::min(LinesOfNotes(plan), MostNoteLines());
-            if ((!needsLane || !ScaleFor(columns, wanted)) && lines <= noteLines) {
-                break;
-            }
-            lane = ScaleFor(columns, wanted) ? wanted : lane;
-            noteLines = std::max(noteLines, lines);
+        RollPlan plan = Folded(columns, 0);
+        const Double lane = WidthOfLane(boxes_);
+        if (UnmarkedOf(plan) > 0 && ScaleFor(columns, lane)) {
+            plan = Folded(columns, lane);
         }
         return plan;
     }
 
-    RollPlan Folded(int columns, Double lane, std::size_t noteLines) const {
+    RollPlan Folded(int columns, Double lane) const {
         RollPlan plan;
         plan.Scale = *ScaleFor(columns, lane);
-        plan.NoteLines = noteLines;
+        const PageKind kind{columns, lane, plan.Scale,
+                            static_cast<Long>(candidate_.Figures->Length)};
+        Long from = 0;
+        do {
+            plan.Pages.push_back(PageFrom(from, kind));
+            from = plan.Pages.back().Strips.back().Stretch.To;
+        } while (from < kind.Length);
+        return plan;
+    }
+
+    /// What all pages of a plan have in common.
+    struct PageKind {
+        int Columns;
+        Double Lane;
+        Double Scale;
+        Long Length; ///< of the whole roll
+    };
+
+    /// A page with as much room for notes at its foot as it needs, within bounds.
+    RollPage PageFrom(Long from, const PageKind& kind) const {
+        constexpr Double MostOfPage = 0.4;
+        const auto most =
+            static_cast<std::size_t>(body_.Height() * MostOfPage / HeightOfLine(NoteSize));
+        for (std::size_t lines = 0;;) {
+            RollPage page = PageFrom(from, kind, lines);
+            const std::size_t needed =
+                (page.Notes.size() + page.NoteColumns - 1) / page.NoteColumns;
+            if (needed <= lines || lines == most) {
+                return page;
+            }
+            lines = std::min(needed, most);
+        }
+    }
+
+    RollPage PageFrom(Long from, const PageKind& kind, std::size_t noteLines) const {
+        RollPage page;
+        page.NoteLines = noteLines;
         const Double foot =
             noteLines == 0 ? 0 : NoteGap + static_cast<Double>(noteLines) * HeightOfLine(NoteSize);
-        const auto units = [&](Double twips) {
-            return std::max(static_cast<Long>(twips / plan.Scale), Long{1});
-        };
-        const auto stretches = FoldedRoll(
-            candidate_.Pieces, static_cast<Long>(candidate_.Figures->Length),
-            units(body_.Height() - StripHeadHeight - foot - BreakRoom), units(LeastPart));
-        const Double width = static_cast<Double>(candidate_.RollWidth) * plan.Scale;
-        for (std::size_t i = 0; i < stretches.size(); ++i) {
+        const Double height = body_.Height() - StripHeadHeight - foot - StripFoot;
+        const StretchLimits limits{WholeUnits(height / kind.Scale),
+                                   WholeUnits(LeastPart / kind.Scale)};
+        const Double width = static_cast<Double>(candidate_.RollWidth) * kind.Scale;
+        for (int column = 0; column < kind.Columns && (column == 0 || from < kind.Length);
+             ++column) {
             RollStrip strip;
-            strip.Stretch = stretches[i];
-            strip.Page = i / static_cast<std::size_t>(columns);
-            const auto column = static_cast<Double>(i % static_cast<std::size_t>(columns));
+            strip.Stretch = StretchFrom(candidate_.Pieces, from, kind.Length, limits);
             strip.Roll.Left =
-                body_.Left + column * (RulerWidth + width + lane + StripGap) + RulerWidth;
+                body_.Left + RulerWidth + column * (RulerWidth + width + kind.Lane + StripGap);
             strip.Roll.Right = strip.Roll.Left + width;
             strip.Roll.Top = body_.Top + StripHeadHeight;
             strip.Roll.Bottom =
-                strip.Roll.Top +
-                static_cast<Double>(strip.Stretch.To - strip.Stretch.From) * plan.Scale;
-            AddPieces(strip, plan.Scale);
-            strip.Labels = LabelBoxes(strip.Boxes, {strip.Roll.Left, strip.Roll.Right,
-                                                    strip.Roll.Top, body_.Bottom - foot, lane > 0});
-            plan.Strips.push_back(std::move(strip));
+                strip.Roll.Top + static_cast<Double>(strip.Stretch.To - from) * kind.Scale;
+            AddPieces(strip, kind.Scale);
+            strip.Labels =
+                LabelBoxes(strip.Boxes, {strip.Roll.Left, strip.Roll.Right, strip.Roll.Top,
+                                         body_.Bottom - foot, kind.Lane > 0});
+            from = strip.Stretch.To;
+            page.Strips.push_back(std::move(strip));
         }
-        AddNotes(plan);
-        return plan;
+        AddNotes(page);
+        return page;
+    }
+
+    static Long WholeUnits(Double length) {
+        return static_cast<Long>(std::clamp(length, 1.0, 1e9));
     }
 
     void AddPieces(RollStrip& strip, Double scale) const {
@@ -153,58 +180,61 @@ class RollPlanner {
         }
     }
 
-    /// A note for each piece on a page that is too small there, in the order of their letters.
-    void AddNotes(RollPlan& plan) const {
+    /// A note for each piece that is too small, by strips and in the order of their letters.
+    void AddNotes(RollPage& page) const {
         Double widest = 1;
-        for (const RollStrip& strip : plan.Strips) {
+        for (const RollStrip& strip : page.Strips) {
             for (const std::size_t small : strip.Labels.Small) {
-                const LabelledBox& box = strip.Boxes.at(small);
-                std::string text = box.Name() + "  " + box.Size() + "  " + box.Room;
-                const auto& unmarked = strip.Labels.Unmarked;
-                if (std::find(unmarked.begin(), unmarked.end(), small) != unmarked.end()) {
-                    const OrderPiece& piece = candidate_.Pieces.at(strip.Pieces.at(small));
-                    text += "  (at " + OrderLengthText(piece.Y, request_.In) + ", " +
-                            OrderLengthText(piece.X, request_.In) + " across)";
-                }
-                text = ShortenedText(text, body_.Width(), NoteSize);
-                widest = std::max(widest, WidthOfText(text, NoteSize) + StripGap);
-                plan.Notes.push_back({std::move(text), strip.Page});
+                page.Notes.push_back(NoteOf(strip, small));
+                widest = std::max(widest, WidthOfText(page.Notes.back(), NoteSize) + StripGap);
             }
         }
-        plan.NoteColumns =
+        page.NoteColumns =
             std::max(static_cast<std::size_t>((body_.Width() + StripGap) / widest), std::size_t{1});
     }
 
-    /// How many lines the notes of that page take that has the most.
-    static std::size_t LinesOfNotes(const RollPlan& plan) {
-        std::vector<std::size_t> notes(plan.Pages());
-        for (const RollNote& note : plan.Notes) {
-            ++notes.at(note.Page);
+    /// The whole label of a box; where it is, too, where not even its letter has a place.
+    std::string NoteOf(const RollStrip& strip, std::size_t number) const {
+        const LabelledBox& box = strip.Boxes.at(number);
+        std::string text = box.Name() + "  " + box.Size() + "  " + box.Room;
+        const auto& unmarked = strip.Labels.Unmarked;
+        if (std::find(unmarked.begin(), unmarked.end(), number) != unmarked.end()) {
+            const OrderPiece& piece = candidate_.Pieces.at(strip.Pieces.at(number));
+            text += "  (at " + OrderLengthText(piece.Y, request_.In) + ", " +
+                    OrderLengthText(piece.X, request_.In) + " across)";
         }
-        const std::size_t most = *std::max_element(notes.begin(), notes.end());
-        return (most + plan.NoteColumns - 1) / plan.NoteColumns;
+        return ShortenedText(text, body_.Width(), NoteSize);
     }
 
-    std::size_t MostNoteLines() const {
-        constexpr Double MostOfPage = 0.4;
-        return static_cast<std::size_t>(body_.Height() * MostOfPage / HeightOfLine(NoteSize));
+    static std::size_t NotesOf(const RollPlan& plan) {
+        return std::accumulate(
+            plan.Pages.begin(), plan.Pages.end(), std::size_t{0},
+            [](std::size_t sum, const RollPage& page) { return sum + page.Notes.size(); });
     }
 
-    static bool HasUnmarked(const RollPlan& plan) {
-        return std::any_of(plan.Strips.begin(), plan.Strips.end(),
-                           [](const RollStrip& strip) { return !strip.Labels.Unmarked.empty(); });
+    template <typename Count>
+    static std::size_t Sum(const RollPlan& plan, Count count) {
+        std::size_t sum = 0;
+        for (const RollPage& page : plan.Pages) {
+            for (const RollStrip& strip : page.Strips) {
+                sum += count(strip.Labels);
+            }
+        }
+        return sum;
+    }
+    static std::size_t UnmarkedOf(const RollPlan& plan) {
+        return Sum(plan, [](const StretchLabels& labels) { return labels.Unmarked.size(); });
     }
 
+    /// How hard the pages are to read: a page more is worth a few labels beside their pieces.
     static std::size_t TroubleOf(const RollPlan& plan) {
         constexpr std::size_t Page = 4;
         constexpr std::size_t LaneLetter = 2;
         constexpr std::size_t UnmarkedPiece = 20;
-        std::size_t trouble = Page * plan.Pages() + plan.Notes.size();
-        for (const RollStrip& strip : plan.Strips) {
-            trouble += LaneLetter * strip.Labels.InLane.size() +
-                       UnmarkedPiece * strip.Labels.Unmarked.size();
-        }
-        return trouble;
+        const std::size_t inLane =
+            Sum(plan, [](const StretchLabels& labels) { return labels.InLane.size(); });
+        return Page * plan.Pages.size() + NotesOf(plan) + LaneLetter * inLane +
+               UnmarkedPiece * UnmarkedOf(plan);
     }
 
     const OrderCandidate& candidate_;

@@ -15,28 +15,25 @@ namespace tarn {
 /// A strip of the folded roll, placed on its page.
 struct RollStrip {
     RollStretch Stretch;
-    std::size_t Page = 0;            ///< from 0
     SheetArea Roll;                  ///< the whole width of the roll, twips
     std::vector<std::size_t> Pieces; ///< those that it shows
     std::vector<LabelledBox> Boxes;  ///< for each of them
     StretchLabels Labels;
 };
 
-/// What is said at the foot of a page of a piece that is too small for its label.
-struct RollNote {
-    std::string Text;
-    std::size_t Page = 0; ///< from 0
+/// A page with strips side by side, and at its foot what is said of pieces that are too small for
+/// their label.
+struct RollPage {
+    std::vector<RollStrip> Strips;
+    std::vector<std::string> Notes;
+    std::size_t NoteColumns = 1; ///< side by side
+    std::size_t NoteLines = 0;   ///< for which there is room; notes may be left over
 };
 
 /// A roll on its pages.
 struct RollPlan {
     Double Scale = 0; ///< twips in a whole unit
-    std::vector<RollStrip> Strips;
-    std::vector<RollNote> Notes; ///< by page
-    std::size_t NoteColumns = 1; ///< side by side at a page's foot
-    std::size_t NoteLines = 0;   ///< below each other, at most, at a page's foot
-
-    std::size_t Pages() const { return Strips.empty() ? 0 : Strips.back().Page + 1; }
+    std::vector<RollPage> Pages;
 };
 
 /// The type size of the notes, points, and the room above them, twips.
@@ -46,8 +43,8 @@ inline constexpr Double NoteGap = 240;
 /// Room for what stands over each strip, twips, and at its left.
 inline constexpr Double StripHeadHeight = 560;
 inline constexpr Double RulerWidth = 860;
-/// Room below each strip for the mark of a piece that is broken there, and as much above.
-inline constexpr Double BreakRoom = 30;
+/// Room below each strip, for half a line of the ruler.
+inline constexpr Double StripFoot = 100;
 
 /// The fold that is read with the least trouble: each page counts as much as a few labels that are
 /// not on their piece.

@@ -13,9 +13,12 @@ namespace tarn {
 namespace {
 
 constexpr Double ColumnGap = 190;
-constexpr Double RowGap = 45;        ///< above and below a row's text
-constexpr Double LeastColumn = 1000; ///< of texts that are broken into lines
-constexpr Double MostColumn = 2100;  ///< of those that the room's name leaves most of the place
+constexpr Double RowGap = 45; ///< above and below a row's text
+// How wide columns of texts stay while others that are wider are broken into lines first.
+constexpr Double WidestColumn = 2800;
+constexpr Double WideColumn = 1800;
+constexpr Double NarrowColumn = 1300;
+constexpr Double LeastColumn = 1000;
 
 enum Column { Cut, From, To, Across, Size, InRoom, Which, Match, ColumnCount };
 
@@ -85,12 +88,13 @@ class ListPainter {
             Double& width = widths_.at(column);
             width = std::min(width, std::max(least, width - std::max(excess(), 0.0)));
         };
-        narrow(InRoom, MostColumn);
-        narrow(Match, MostColumn);
-        narrow(Which, MostColumn);
-        narrow(Match, LeastColumn);
-        narrow(Which, LeastColumn);
-        narrow(InRoom, LeastColumn);
+        narrow(Match, WideColumn);
+        narrow(InRoom, WidestColumn);
+        narrow(Which, NarrowColumn);
+        narrow(InRoom, WideColumn);
+        for (const Column column : {Match, Which, InRoom}) {
+            narrow(column, LeastColumn);
+        }
     }
 
     Cells CellsOf(const Row<std::string>& row) const {

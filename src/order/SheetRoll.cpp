@@ -29,18 +29,19 @@ class RollPainter {
         , head_(head) {}
 
     std::vector<Drawing> Paint() {
-        for (const RollStrip& strip : plan_.Strips) {
-            if (strip.Page == pages_.size()) {
-                pages_.push_back(NewPage(paper_, head_));
-            }
+        for (const RollPage& planned : plan_.Pages) {
+            pages_.push_back(NewPage(paper_, head_));
             Drawing& page = pages_.back();
-            PaintHead(page, strip);
-            PaintRuler(page, strip);
-            PaintLeftOvers(page, strip);
-            PaintPieces(page, strip);
-            page.Append(strip.Labels.Written, 0, 0);
+            for (const RollStrip& strip : planned.Strips) {
+                PaintHead(page, strip);
+                PaintRuler(page, strip);
+                PaintLeftOvers(page, strip);
+                PaintPieces(page, strip);
+                page.Append(strip.Labels.Written, 0, 0);
+            }
+            PaintNotes(page, planned);
         }
-        AddNotes();
+        AddRest();
         return std::move(pages_);
     }
 
@@ -146,14 +147,14 @@ class RollPainter {
 
     /// Mark an edge at which a piece is broken, to go on elsewhere.
     static void PaintBreak(Drawing& page, const SheetArea& box, Double y) {
-        constexpr Double Tooth = 2 * BreakRoom;
+        constexpr Double Tooth = 60;
         const Double middle = (box.Left + box.Right) / 2;
         if (box.Width() < 4 * Tooth) {
             return;
         }
-        page.AddLine(middle - Tooth, y, middle - Tooth / 2, y - BreakRoom);
-        page.AddLine(middle - Tooth / 2, y - BreakRoom, middle + Tooth / 2, y + BreakRoom);
-        page.AddLine(middle + Tooth / 2, y + BreakRoom, middle + Tooth, y);
+        page.AddLine(middle - Tooth, y, middle - Tooth / 2, y - Tooth / 2);
+        page.AddLine(middle - Tooth / 2, y - Tooth / 2, middle + Tooth / 2, y + Tooth / 2);
+        page.AddLine(middle + Tooth / 2, y + Tooth / 2, middle + Tooth, y);
     }
 
     void PaintPieces(Drawing& page, const RollStrip& strip) const {
@@ -171,42 +172,38 @@ class RollPainter {
         }
     }
 
-    /// The notes at the foot of each page, in columns; what finds no place there on pages of its
-    /// own.
-    void AddNotes() {
+    /// The notes of a page at its foot, in columns.
+    void PaintNotes(Drawing& page, const RollPage& planned) {
+        if (planned.NoteLines == 0) {
+            return;
+        }
         const SheetArea body = BodyOf(paper_);
         const Double line = HeightOfLine(NoteSize);
-        const Double foot = body.Bottom - static_cast<Double>(plan_.NoteLines) * line;
-        const Double width = body.Width() / static_cast<Double>(plan_.NoteColumns);
-        std::vector<std::size_t> written(pages_.size());
-        std::vector<std::string> rest;
-        for (const RollNote& note : plan_.Notes) {
-            std::size_t& count = written.at(note.Page);
-            if (count == plan_.NoteLines * plan_.NoteColumns) {
-                rest.push_back(note.Text);
-                continue;
+        const Double foot = body.Bottom - static_cast<Double>(planned.NoteLines) * line;
+        const Double width = body.Width() / static_cast<Double>(planned.NoteColumns);
+        page.AddLine(body.Left, foot - NoteGap / 4, body.Right, foot - NoteGap / 4,
+                     DrawingColor::Gray, FineLine);
+        for (std::size_t i = 0; i < planned.Notes.size(); ++i) {
+            const auto column = static_cast<Double>(i / planned.NoteLines);
+            const auto row = static_cast<Double>(i % planned.NoteLines);
+            if (i >= planned.NoteLines * planned.NoteColumns) {
+                rest_.push_back(planned.Notes[i]);
+            } else {
+                page.AddText(body.Left + column * width, foot + row * line, planned.Notes[i],
+                             NoteSize);
             }
-            Drawing& page = pages_.at(note.Page);
-            if (count == 0) {
-                page.AddLine(body.Left, foot - NoteGap / 4, body.Right, foot - NoteGap / 4,
-                             DrawingColor::Gray, FineLine);
-            }
-            const auto column = static_cast<Double>(count / plan_.NoteLines);
-            const auto row = static_cast<Double>(count % plan_.NoteLines);
-            page.AddText(body.Left + column * width, foot + row * line, note.Text, NoteSize);
-            ++count;
         }
-        AddRest(rest);
     }
 
-    void AddRest(const std::vector<std::string>& lines) {
+    /// Notes that found no place on their page, on pages of their own.
+    void AddRest() {
         const SheetArea body = BodyOf(paper_);
         const auto perPage = static_cast<std::size_t>(body.Height() / HeightOfLine(NoteSize)) - 2;
-        for (std::size_t first = 0; first < lines.size(); first += perPage) {
+        for (std::size_t first = 0; first < rest_.size(); first += perPage) {
             pages_.push_back(NewPage(paper_, head_));
             std::vector<std::string> shown{"Pieces too small to be labelled on the roll", ""};
-            const auto begin = lines.begin() + static_cast<std::ptrdiff_t>(first);
-            const auto count = std::min(perPage, lines.size() - first);
+            const auto begin = rest_.begin() + static_cast<std::ptrdiff_t>(first);
+            const auto count = std::min(perPage, rest_.size() - first);
             shown.insert(shown.end(), begin, begin + static_cast<std::ptrdiff_t>(count));
             AddLines(pages_.back(), body, shown, NoteSize);
         }
@@ -218,6 +215,7 @@ class RollPainter {
     const SheetPaper& paper_;
     std::string_view head_;
     std::vector<Drawing> pages_;
+    std::vector<std::string> rest_; ///< of the notes
 };
 
 } // namespace

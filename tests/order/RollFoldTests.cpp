@@ -18,6 +18,17 @@ OrderPiece PieceAt(Long x, Long y, Long width, Long length) {
     return piece;
 }
 
+/// The whole roll, stretch after stretch.
+Stretches FoldedRoll(const std::vector<OrderPiece>& pieces, Long length, Long most, Long least) {
+    Stretches stretches;
+    Long from = 0;
+    do {
+        stretches.push_back(StretchFrom(pieces, from, length, {most, least}));
+        from = stretches.back().To;
+    } while (from < length);
+    return stretches;
+}
+
 TEST(FoldedRoll, IsOneStretchWhereItFits) {
     EXPECT_EQ(FoldedRoll({PieceAt(0, 0, 10, 90)}, 100, 100, 5), (Stretches{{0, 100}}));
     EXPECT_EQ(FoldedRoll({}, 0, 100, 5), (Stretches{{0, 0}}));
