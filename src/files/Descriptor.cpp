@@ -1,6 +1,8 @@
 #include "files/Descriptor.h"
 
+#include <array>
 #include <cerrno>
+#include <fcntl.h>
 #include <unistd.h>
 
 namespace tarn {
@@ -30,6 +32,31 @@ void WriteAll(const Descriptor& file, std::string_view content) {
             throw LastError();
         }
     }
+}
+
+void CopyContent(const std::string& from, const std::string& to) {
+    constexpr mode_t OwnerAlone = 0600;
+    const Descriptor source(::open(from.c_str(), O_RDONLY | O_CLOEXEC));
+    if (!source.IsOpen()) {
+        throw LastError();
+    }
+    Descriptor copy(::open(to.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, OwnerAlone));
+    if (!copy.IsOpen()) {
+        throw LastError();
+    }
+    std::array<char, std::size_t{64} * 1024> part{};
+    for (;;) {
+        const ssize_t count = ::read(source.Number(), part.data(), part.size());
+        if (count == 0) {
+            break;
+        }
+        if (count > 0) {
+            WriteAll(copy, {part.data(), static_cast<std::size_t>(count)});
+        } else if (errno != EINTR) {
+            throw LastError();
+        }
+    }
+    copy.Close();
 }
 
 void Synchronise(const Descriptor& file) {

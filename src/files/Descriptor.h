@@ -40,6 +40,10 @@ std::system_error LastError();
 /// Write all of `content`, in as many calls as the system takes. Raises std::system_error.
 void WriteAll(const Descriptor& file, std::string_view content);
 
+/// Write the content of the file `from` to a new file, which its owner alone may read. Raises
+/// std::system_error, also when anything stands at `to`.
+void CopyContent(const std::string& from, const std::string& to);
+
 /// Have what was written stored on the disk. Raises std::system_error.
 void Synchronise(const Descriptor& file);
 

@@ -1,5 +1,6 @@
 #include "store/Backups.h"
 
+#include "files/Descriptor.h"
 #include "files/OutputFile.h"
 #include "store/DatabaseError.h"
 #include "store/DatabaseFile.h"
@@ -126,10 +127,11 @@ std::string KeepFormer(const QFileInfo& file, const QDateTime& now) {
     const auto keepIn = [&](const QString& folder) {
         std::string kept = FreePath(folder, file, words, now);
         FileInMaking copy(kept);
-        QFile former(file.filePath());
-        if (!former.copy(QString::fromStdString(copy.Path()))) {
+        try {
+            CopyContent(path, copy.Path());
+        } catch (const std::system_error& error) {
             throw DatabaseError("The file " + path + " cannot be kept as " + kept + ": " +
-                                former.errorString().toStdString() + ".");
+                                CauseOf(error.code()) + ".");
         }
         copy.Place();
         return kept;

@@ -1,24 +1,25 @@
 #include "store/UntouchedFile.h"
 
+#include "files/Descriptor.h"
 #include "store/DatabaseError.h"
 #include "store/DatabaseFile.h"
 #include "store/FileLock.h"
 
-#include <QFile>
+#include <QFileInfo>
 
 namespace tarn {
 
 namespace {
 
 void CopyFile(const std::string& from, const std::string& to) {
-    QFile file(QString::fromStdString(from));
-    if (!file.copy(QString::fromStdString(to))) {
+    try {
+        CopyContent(from, to);
+    } catch (const std::system_error& error) {
         throw DatabaseError("The database file " + from +
-                            " cannot be looked over: a copy of it "
-                            "cannot be made (" +
-                            file.errorString().toStdString() + ").");
+                            " cannot be looked over: a copy of it cannot be made in " +
+                            QFileInfo(QString::fromStdString(to)).path().toStdString() + ": " +
+                            CauseOf(error.code()) + ".");
     }
-    QFile::setPermissions(QString::fromStdString(to), QFile::ReadOwner | QFile::WriteOwner);
 }
 
 } // namespace

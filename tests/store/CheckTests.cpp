@@ -1,3 +1,4 @@
+#include "files/SystemCallFaults.h"
 #include "store/Check.h"
 #include "store/DatabaseFile.h"
 #include "store/Findings.h"
@@ -7,6 +8,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cerrno>
 #include <filesystem>
 
 namespace tarn {
@@ -275,6 +277,25 @@ TEST_F(ACrashedFile, IsCheckedAsTheNextProgramFindsItAndLeftAsItIs) {
                     "that change back."});
     EXPECT_EQ(ReadFile(Path()), content);
     EXPECT_EQ(ReadFile(Path() + "-journal"), journal);
+}
+
+TEST_F(ACrashedFile, ThatCannotBeCopiedForTheCheckIsToldWithTheCause) {
+    const auto check = [this] { return CheckDatabaseFile(Path()); };
+    const Lines calls = testing::CallsOf(check);
+    int writes = 0;
+    for (std::size_t place = 0; place < calls.size(); ++place) {
+        if (calls.at(place) == "write") {
+            ++writes;
+            Lines findings;
+            testing::WithFailingCall(place, ENOSPC, [&] { findings = check(); });
+            ASSERT_EQ(findings.size(), 1U);
+            EXPECT_NE(findings.front().find("cannot be looked over"), std::string::npos)
+                << findings.front();
+            EXPECT_NE(findings.front().find("the disk is full"), std::string::npos)
+                << findings.front();
+        }
+    }
+    EXPECT_GT(writes, 1) << "the file and its journal";
 }
 
 TEST_F(ACrashedFile, IsCheckedWithoutAJournalThatIsNotItsOwn) {

@@ -8,6 +8,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cerrno>
 #include <csignal>
 #include <filesystem>
 #include <sys/stat.h>
@@ -200,6 +201,35 @@ TEST_F(ARestoring, KeepsTheFileBesideTheDatabaseWhereNoFolderCanBeMade) {
     EXPECT_EQ(restored.Former,
               folder_.Path("data/DATA/Tarn before restoring 2026-11-22 14-05-33.mdb"));
     EXPECT_EQ(DirectoriesOf(restored.Former), Lines{"NEW"});
+}
+
+TEST_F(ARestoring, SaysThatTheDiskIsFullWhereWhatWasThereCannotBeKept) {
+    const std::string elsewhere = folder_.Path("elsewhere.mdb");
+    fs::rename(backup_, elsewhere);
+    fs::remove(folder_.Path("data/BACKUP"));
+    WriteFile(folder_.Path("data/BACKUP"), "in the way"); // there is one place left
+    const std::string before = ReadFile(Database());
+    const std::string kept =
+        folder_.Path("data/DATA/Tarn before restoring 2026-11-22 14-05-33.mdb");
+    const auto restore = [&] { RestoreBackup(elsewhere, Database(), Now, ShortWait); };
+    const Lines calls = testing::CallsOf(restore);
+    int writes = 0;
+    for (std::size_t place = 0; place < calls.size(); ++place) {
+        if (calls.at(place) != "write") {
+            continue;
+        }
+        SCOPED_TRACE(place);
+        ++writes;
+        fs::remove(kept);
+        WriteFile(Database(), before);
+        std::string text;
+        testing::WithFailingCall(place, ENOSPC, [&] { text = DatabaseErrorOf(restore); });
+        EXPECT_EQ(text, "The file " + Database() + " cannot be kept as " + kept +
+                            ": the disk is full. Free some space and try again.");
+        EXPECT_EQ(ReadFile(Database()), before);
+        EXPECT_EQ(InDataFolder(), Lines{"Tarn.mdb"});
+    }
+    EXPECT_GT(writes, 0);
 }
 
 TEST_F(ARestoring, LeavesTheOldFileOrTheNewOneWhenItIsKilledAnywhere) {
