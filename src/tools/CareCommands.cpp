@@ -79,6 +79,10 @@ void ListBackups(const std::string& database) {
 
 void RestoreData(const std::string& backup, const std::string& database) {
     const std::string path = FindBackup(backup, database);
+    if (!QFileInfo::exists(QString::fromStdString(path))) {
+        throw Refusal("There is no backup " + backup +
+                      ". \"tarn-data backups\" tells the backups that there are.");
+    }
     const Restored restored = RestoreBackup(path, database);
     std::cout << "Put " << path << " in the place of " << database << ".\n";
     if (!restored.Former.empty()) {

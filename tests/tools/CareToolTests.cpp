@@ -145,6 +145,12 @@ TEST_F(CareTool, RestoreRefusesAFileThatIsNoBackup) {
     EXPECT_EQ(run.Status, 1);
     EXPECT_TRUE(run.Error.contains("text.mdb")) << run.Error.toStdString();
     EXPECT_EQ(Listed(), before);
+    const ToolRun missing = On("restore", {S("Tarn 2026-11-19 10-00-00.mdb")});
+    EXPECT_EQ(missing.Status, 1);
+    EXPECT_EQ(missing.Error.toStdString(),
+              "tarn-data: There is no backup Tarn 2026-11-19 10-00-00.mdb. \"tarn-data backups\" "
+              "tells the backups that there are.\n");
+    EXPECT_EQ(Listed(), before);
     EXPECT_EQ(On("restore").Status, 2) << "it needs a backup";
 }
 
