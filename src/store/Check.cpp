@@ -42,7 +42,7 @@ void FindDamage(UntouchedFile& file, Findings& findings) {
     for (const QVariantList& row : check.Rows) {
         const QString line = row.at(0).toString();
         if (line != QStringLiteral("ok")) {
-            findings.Tell("Damaged: " + ShownText(line.toStdString()));
+            findings.Tell("Damaged: " + OneLine(line.toStdString()));
             sound = false;
         }
     }

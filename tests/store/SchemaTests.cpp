@@ -160,6 +160,20 @@ TEST(CheckDatabaseFile, ReportsDamage) {
     EXPECT_EQ(findings.front().find("Damaged: "), 0U) << findings.front();
 }
 
+TEST(CheckDatabaseFile, ReportsDamageThatIsToldInSeveralLinesInOne) {
+    const TestDatabase file;
+    std::string bytes = ReadFile(file.Path());
+    constexpr std::size_t FreePagesAt = 32; // the first one, and how many there are
+    bytes.replace(FreePagesAt, 8, std::string("\0\0\0\5\0\0\0\1", 8));
+    WriteFile(file.Path(), bytes);
+    const Lines findings = CheckDatabaseFile(file.Path());
+    ASSERT_FALSE(findings.empty());
+    EXPECT_EQ(findings.front().find("Damaged: "), 0U) << findings.front();
+    EXPECT_NE(findings.front().find("freelist"), std::string::npos) << findings.front();
+    EXPECT_EQ(findings.front().find('\n'), std::string::npos) << findings.front();
+    EXPECT_EQ(findings.front().find("\uFFFD"), std::string::npos) << findings.front();
+}
+
 TEST(CheckDatabaseFile, ReportsAFileThatCannotBeOpenedAsItsOneFinding) {
     const TestDatabase file;
     const std::string whole = ReadFile(file.Path());
