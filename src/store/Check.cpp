@@ -82,11 +82,7 @@ bool IsTable(Connection& connection, const TableShape& shape, Findings& findings
         findings.Tell("In the place of the table " + name + " is a view, which stores nothing.");
         return false;
     }
-    const auto plain = NamesOf(connection,
-                               "SELECT 1 FROM pragma_table_list WHERE schema = 'main' AND "
-                               "name = ? COLLATE NOCASE AND type = 'table' AND wr = 0",
-                               shape);
-    if (plain.empty()) {
+    if (!RawTable(connection, shape).HasRowNumbers()) {
         findings.Tell("In the place of the table " + name + " is one without row numbers.");
         return false;
     }

@@ -72,6 +72,16 @@ std::string MayBeFaulty(const Field& field) {
     return {};
 }
 
+/// A row of which the number and then the fields were selected.
+RawRow RowFrom(const QVariantList& stored) {
+    RawRow row;
+    row.Number = stored.at(0).toLongLong();
+    for (qsizetype i = 1; i < stored.size(); ++i) {
+        row.Values.push_back(ValueFrom(stored.at(i)));
+    }
+    return row;
+}
+
 std::optional<std::string> NameFault(const std::string& name, bool isProject) {
     if (StoredName(name).empty()) {
         return "is empty";
@@ -168,7 +178,6 @@ RawTable::RawTable(Connection& connection, const TableShape& shape)
     const std::string name(shape.Name);
     const Result columns =
         connection.Run("PRAGMA table_info(" + name + ")", name + " cannot be read");
-    selected_ = "rowid";
     for (const Field& field : shape.Fields) {
         has_.push_back(std::any_of(
             columns.Rows.begin(), columns.Rows.end(), [&field](const QVariantList& column) {
@@ -176,6 +185,11 @@ RawTable::RawTable(Connection& connection, const TableShape& shape)
             }));
         selected_ += ", " + (has_.back() ? Selected(field.Name) : std::string("NULL"));
     }
+    hasRowNumbers_ = !connection
+                          .Run("SELECT 1 FROM pragma_table_list WHERE schema = 'main' AND "
+                               "name = ? COLLATE NOCASE AND type = 'table' AND wr = 0",
+                               name + " cannot be read", {TextValue(name)})
+                          .Rows.empty();
 }
 
 std::size_t RawTable::At(std::string_view field) const {
@@ -200,21 +214,37 @@ bool RawTable::IsComplete() const {
 
 std::vector<RawRow> RawTable::Read(std::int64_t after, int most, const std::string& condition) {
     const std::string name(shape_.Name);
-    Result result =
-        connection_.Run("SELECT " + selected_ + " FROM " + name + " NOT INDEXED WHERE rowid > ?" +
-                            condition + " ORDER BY rowid LIMIT " + std::to_string(most),
-                        name + " cannot be read", {QVariant::fromValue(after)});
+    const Result result = connection_.Run("SELECT rowid" + selected_ + " FROM " + name +
+                                              " NOT INDEXED WHERE rowid > ?" + condition +
+                                              " ORDER BY rowid LIMIT " + std::to_string(most),
+                                          name + " cannot be read", {QVariant::fromValue(after)});
     std::vector<RawRow> rows;
     rows.reserve(result.Rows.size());
     for (const QVariantList& stored : result.Rows) {
-        RawRow row;
-        row.Number = stored.at(0).toLongLong();
-        for (qsizetype i = 1; i < stored.size(); ++i) {
-            row.Values.push_back(ValueFrom(stored.at(i)));
-        }
-        rows.push_back(std::move(row));
+        rows.push_back(RowFrom(stored));
     }
     return rows;
+}
+
+std::int64_t RawTable::PageCount() {
+    return connection_.Run("PRAGMA page_count", "The file cannot be read")
+        .Rows.at(0)
+        .at(0)
+        .toLongLong();
+}
+
+void RawTable::VisitUnnumbered(const Visitor& visit) {
+    constexpr std::int64_t MostRowsOfPage = 1000; // a view may give rows without end
+    const std::string name(shape_.Name);
+    const Result result = connection_.Run("SELECT 0" + selected_ + " FROM " + name + " LIMIT " +
+                                              std::to_string(MostRowsOfPage * PageCount()),
+                                          name + " cannot be read");
+    std::int64_t number = 0;
+    for (const QVariantList& stored : result.Rows) {
+        RawRow row = RowFrom(stored);
+        row.Number = ++number;
+        visit(row);
+    }
 }
 
 void RawTable::VisitWhere(const std::string& condition, const Visitor& visit) {
@@ -247,6 +277,14 @@ void RawTable::VisitFaulty(const Visitor& visit) {
 
 void RawTable::VisitReadable(const Visitor& visit, const GapVisitor& gap) {
     constexpr int AtOnce = 1000;
+    if (!hasRowNumbers_) {
+        try {
+            VisitUnnumbered(visit);
+        } catch (const DatabaseError&) {
+            gap(LeastRow);
+        }
+        return;
+    }
     int most = AtOnce;
     std::int64_t after = LeastRow;
     for (;;) {
@@ -289,11 +327,7 @@ std::optional<std::int64_t> RawTable::EndOfGap(std::int64_t after) {
     // over, then in ever wider ones; and back to where rows can be read.
     constexpr std::int64_t SmallStep = 32;
     constexpr std::int64_t RowsOfPage = 100; // about
-    const std::int64_t nearRows =
-        RowsOfPage * connection_.Run("PRAGMA page_count", "The file cannot be read")
-                         .Rows.at(0)
-                         .at(0)
-                         .toLongLong();
+    const std::int64_t nearRows = RowsOfPage * PageCount();
     const std::int64_t first = std::max<std::int64_t>(after, 0);
     std::int64_t before = first;
     std::int64_t step = 1;

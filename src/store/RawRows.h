@@ -52,6 +52,8 @@ class RawTable {
     /// Raises DatabaseError when the table's fields cannot be read.
     RawTable(Connection& connection, const TableShape& shape);
 
+    /// Whether it is a table of rows with numbers: no view, and no table of another kind.
+    bool HasRowNumbers() const { return hasRowNumbers_; }
     bool Has(std::string_view field) const;
     /// Whether every field is there that must be.
     bool IsComplete() const;
@@ -62,20 +64,24 @@ class RawTable {
     void Visit(const Visitor& visit);
     /// Visit the rows of which at least one value has a FaultOf its field.
     void VisitFaulty(const Visitor& visit);
-    /// Visit every row that can be read, also behind those that cannot.
+    /// Visit every row that can be read, also behind those that cannot. Rows without numbers are
+    /// counted from 1, and read all at once, no more of them than the file has room for.
     void VisitReadable(const Visitor& visit, const GapVisitor& gap);
 
   private:
     /// At most `most` rows after the number `after` for which `condition` holds.
     std::vector<RawRow> Read(std::int64_t after, int most, const std::string& condition);
     void VisitWhere(const std::string& condition, const Visitor& visit);
+    void VisitUnnumbered(const Visitor& visit);
+    std::int64_t PageCount();
     /// The number behind a gap from which rows can be read again; nothing when there is none.
     std::optional<std::int64_t> EndOfGap(std::int64_t after);
 
     Connection& connection_;
     const TableShape& shape_;
     std::vector<bool> has_; ///< by the fields of the shape
-    std::string selected_;
+    std::string selected_;  ///< the fields' values
+    bool hasRowNumbers_ = true;
 };
 
 } // namespace tarn

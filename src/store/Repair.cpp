@@ -5,6 +5,7 @@
 #include "store/DatabaseError.h"
 #include "store/DatabaseFile.h"
 #include "store/FileInMaking.h"
+#include "store/FileLock.h"
 #include "store/Findings.h"
 #include "store/RawRows.h"
 #include "store/RepairedData.h"
@@ -12,6 +13,7 @@
 #include "store/UntouchedFile.h"
 
 #include <algorithm>
+#include <optional>
 
 namespace tarn {
 
@@ -85,6 +87,9 @@ class Source {
         : path_(path)
         , file_(path, busyWait)
         , changes_(changes) {
+        // That it is locked is no damage. Nothing was read yet, and so no lock of the engine's
+        // goes.
+        lock_.emplace(path, FileLock::Kind::Reading, busyWait);
         // Also a file with a damaged description of its tables, or cut short, is read then.
         file_.Database().Run("PRAGMA writable_schema = ON", "The database file cannot be read");
         file_.Database().Run("BEGIN", "The database file cannot be read"); // all of one moment
@@ -92,10 +97,10 @@ class Source {
 
     const UntouchedFile& File() const { return file_; }
 
-    /// Whether there is a table of that name.
+    /// Whether there is a table of that name, or a view that shows its rows.
     bool Has(std::string_view table) {
         return !file_.Database()
-                    .Run("SELECT 1 FROM sqlite_master WHERE type = 'table' AND "
+                    .Run("SELECT 1 FROM sqlite_master WHERE type IN ('table', 'view') AND "
                          "name = ? COLLATE NOCASE",
                          std::string(table) + " cannot be read", {TextValue(table)})
                     .Rows.empty();
@@ -174,6 +179,7 @@ class Source {
     }
 
     std::string path_;
+    std::optional<FileLock> lock_; ///< let go when the engine has closed the file
     UntouchedFile file_;
     Findings& changes_;
     int tablesRead_ = 0;

@@ -1,4 +1,5 @@
 #include "store/Check.h"
+#include "store/OtherProgram.h"
 #include "store/Repair.h"
 #include "store/TestDatabase.h"
 
@@ -13,6 +14,7 @@ namespace {
 namespace fs = std::filesystem;
 
 using testing::DatabaseErrorOf;
+using testing::OtherProgram;
 using testing::RawDatabase;
 using testing::ReadFile;
 using testing::ShortWait;
@@ -207,17 +209,18 @@ TEST_F(ARepair, KeepsTheRequestsOfOrdersWhereThereAreAny) {
 }
 
 TEST_F(ARepair, MakesMissingTablesAndLeavesOutWhatIsAnothers) {
-    EXPECT_EQ(Repair({"DROP TABLE DirTab", "DROP TABLE SAFill",
-                      "CREATE VIEW SAFill AS SELECT TabIndex FROM FillCut",
+    EXPECT_EQ(Repair({"DROP TABLE DirTab", "DROP TABLE SAFill", "DROP TABLE ESTTab",
+                      "CREATE VIEW ESTTab AS SELECT TabIndex FROM FillCut",
                       "CREATE TABLE Extra (x)", "ALTER TABLE InputData ADD COLUMN Extra",
                       "CREATE TRIGGER Stop BEFORE INSERT ON InputData BEGIN SELECT 1; END"}),
               (Lines{"Tables that were missing and are empty now: DirTab.",
                      "Tables that were missing and are empty now: SAFill.",
                      "Directories that were made for projects which no screen showed: HOUSES.",
                      "What another program put there, left out: field Extra of InputData.",
-                     "What another program put there, left out: view SAFill.",
+                     "What another program put there, left out: view ESTTab.",
                      "What another program put there, left out: table Extra.",
                      "What another program put there, left out: trigger Stop."}));
+    EXPECT_EQ(Rows("SELECT TabIndex FROM ESTTab"), (Lines{"1", "2"}));
 }
 
 /// A file of 200 projects with 20 rooms each, some of whose pages are then spoilt.
@@ -293,6 +296,42 @@ TEST_F(ARepairOfADamagedFile, SpoiltAnywhereGivesASoundFileOrASentence) {
         }
     }
     EXPECT_GT(repaired, 3);
+}
+
+TEST_F(ARepair, KeepsTheRowsOfAViewInThePlaceOfATable) {
+    const Lines changes = Repair(
+        {"ALTER TABLE InputData RENAME TO Kept", "CREATE VIEW InputData AS SELECT * FROM Kept"});
+    EXPECT_EQ(changes, (Lines{"What another program put there, left out: table Kept.",
+                              "What another program put there, left out: view InputData."}));
+    EXPECT_EQ(Widths("SMITH"), (Lines{"100", "101", "102"}));
+    EXPECT_EQ(Widths("JONES"), Lines{"300"});
+}
+
+TEST_F(ARepair, ReadsNoMoreOfAViewThanAFileCanHold) {
+    Repair({"DROP TABLE DirTab",
+            "CREATE VIEW DirTab AS WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 "
+            "FROM n) SELECT 'D' || (i % 3) AS Directory FROM n"});
+    EXPECT_EQ(Rows("SELECT Directory FROM DirTab"), (Lines{"D1", "D2", "D0", "HOUSES"}));
+}
+
+TEST_F(ARepair, KeepsTheRowsOfATableWithoutRowNumbers) {
+    EXPECT_EQ(Repair({"CREATE TABLE Kept (TabIndex, ObjNum, RoomW, RoomL, RoomNoStr, RoomRemark, "
+                      "CTType, BaseSty, PRIMARY KEY (TabIndex, ObjNum)) WITHOUT ROWID",
+                      "INSERT INTO Kept SELECT TabIndex, ObjNum, RoomW, RoomL, RoomNoStr, "
+                      "RoomRemark, CTType, BaseSty FROM InputData",
+                      "DROP TABLE InputData", "ALTER TABLE Kept RENAME TO InputData"}),
+              Lines{});
+    EXPECT_EQ(Widths("SMITH"), (Lines{"100", "101", "102"}));
+    EXPECT_EQ(Widths("JONES"), Lines{"300"});
+}
+
+TEST_F(ARepair, SaysThatAnotherProgramKeepsTheFileToItself) {
+    const OtherProgram other(file_.Path(), {"BEGIN EXCLUSIVE"});
+    const std::string text =
+        DatabaseErrorOf([this] { RepairDatabaseFile(file_.Path(), Target(), ShortWait); });
+    EXPECT_NE(text.find(file_.Path()), std::string::npos) << text;
+    EXPECT_NE(text.find("another program is using the database"), std::string::npos) << text;
+    EXPECT_EQ(target_.Content(), Lines{});
 }
 
 TEST_F(ARepair, RefusesAFileOfWhichNothingCanBeRead) {
