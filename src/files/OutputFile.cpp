@@ -2,10 +2,12 @@
 
 #include "files/DatabaseFormat.h"
 #include "files/DeviceOutput.h"
+#include "files/FileModes.h"
 #include "files/TemporaryFile.h"
 
 #include <cerrno>
 #include <filesystem>
+#include <optional>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -61,7 +63,12 @@ void RequireReplaceable(const std::string& path, const std::string& target, Over
     }
 }
 
-void WriteFile(const std::string& path, const std::string& content, Overwrite over) {
+std::optional<fs::perms> ModeOf(NewFile made, const std::string& target) {
+    return made == NewFile::Private ? std::optional(PrivateFileMode(FolderOfPath(target)))
+                                    : std::nullopt;
+}
+
+void WriteFile(const std::string& path, const std::string& content, Overwrite over, NewFile made) {
     const std::string target = BehindLinks(path);
     if (target != path && over == Overwrite::Files) {
         throw OutputFileError("The file " + path + " is a link, which leads to " + target +
@@ -69,20 +76,21 @@ void WriteFile(const std::string& path, const std::string& content, Overwrite ov
     }
     RequireReplaceable(path, target, over);
     RemoveLeftOvers(FolderOfPath(target));
-    TemporaryFile file(target);
+    TemporaryFile file(target, ModeOf(made, target));
     file.Fill(content);
     file.Place();
 }
 
 } // namespace
 
-void WriteOutputFile(const std::string& path, const std::string& content, Overwrite over) {
+void WriteOutputFile(const std::string& path, const std::string& content, Overwrite over,
+                     NewFile made) {
     try {
         struct stat there {};
         if (::stat(path.c_str(), &there) == 0 && IsDevice(there)) {
             WriteToDevice(path, content);
         } else {
-            WriteFile(path, content, over);
+            WriteFile(path, content, over, made);
         }
     } catch (const NotTakenBack& error) {
         Refuse(path, CauseOf(error.code()) + ". The new file may be there all the same");

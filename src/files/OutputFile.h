@@ -23,9 +23,16 @@ enum class Overwrite {
     Anything, ///< also a database: for a command with --force
 };
 
+/// Who may read a file that replaces none.
+enum class NewFile {
+    AsUsual, ///< whom the user's mask leaves
+    Private, ///< as PrivateFileMode says
+};
+
 /// Write `content` to a file, whole or not at all: beside it first, stored on the disk, then put in
 /// its place. The file has the owner, group and mode of the one that it replaces, as far as the
-/// system allows. What killed runs left beside it of their output is removed.
+/// system allows, or else what `made` says. What killed runs left beside it of their output is
+/// removed.
 ///
 /// To a device or pipe of that name it is written as it is; a pipe that nobody reads is given up
 /// after a while.
@@ -35,7 +42,7 @@ enum class Overwrite {
 /// unless the message says that the new one may be there. A file that may not be written stays as
 /// it is whatever `over` says.
 void WriteOutputFile(const std::string& path, const std::string& content,
-                     Overwrite over = Overwrite::Chosen);
+                     Overwrite over = Overwrite::Chosen, NewFile made = NewFile::AsUsual);
 
 /// Have the entries of a folder stored on the disk: the files that were made, renamed and removed
 /// in it. Nothing where the system has no way to do so: in a folder that may not be read, and on a

@@ -101,15 +101,16 @@ class FormerFile {
 
 } // namespace
 
-TemporaryFile::TemporaryFile(std::string target)
-    : target_(std::move(target)) {
+TemporaryFile::TemporaryFile(std::string target, std::optional<fs::perms> mode)
+    : target_(std::move(target))
+    , mode_(mode) {
     constexpr mode_t Everybody = 0666; // less what the user's mask takes away
     constexpr mode_t OwnerAlone = 0600;
     struct stat former {};
     if (::stat(target_.c_str(), &former) == 0) {
         former_ = former;
     }
-    Make(former_ ? OwnerAlone : Everybody);
+    Make(former_ || mode_ ? OwnerAlone : Everybody);
 }
 
 void TemporaryFile::Make(mode_t mode) {
@@ -150,6 +151,9 @@ void TemporaryFile::TakePermissions(const struct stat& former) const {
 void TemporaryFile::Fill(std::string_view content) {
     if (former_) {
         TakePermissions(*former_);
+    } else if (mode_) {
+        std::error_code notKept; // a file system that knows no permissions keeps its own
+        fs::permissions(path_, *mode_, notKept);
     }
     WriteAll(file_, content);
     Synchronise(file_);

@@ -4,6 +4,7 @@
 
 #include "files/Descriptor.h"
 
+#include <filesystem>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -25,8 +26,10 @@ class NotTakenBack : public std::system_error {
 class TemporaryFile {
   public:
     /// A file for the path `target`, which need not be there. Of a file that stands there it will
-    /// have owner, group and mode, as far as the system allows it.
-    explicit TemporaryFile(std::string target);
+    /// have owner, group and mode, as far as the system allows it; else `mode`, or, without one,
+    /// what the user's mask leaves.
+    explicit TemporaryFile(std::string target,
+                           std::optional<std::filesystem::perms> mode = std::nullopt);
     ~TemporaryFile();
     TemporaryFile(const TemporaryFile&) = delete;
     TemporaryFile& operator=(const TemporaryFile&) = delete;
@@ -42,7 +45,8 @@ class TemporaryFile {
     void TakePermissions(const struct stat& former) const;
 
     std::string target_;
-    std::optional<struct stat> former_; ///< what the target was
+    std::optional<std::filesystem::perms> mode_; ///< where there is no target
+    std::optional<struct stat> former_;          ///< what the target was
     std::string path_;
     Descriptor file_;
     bool placed_ = false;

@@ -84,21 +84,13 @@ std::string FolderFailure(const std::string& file, std::string failure) {
 /// Raises OutputFileError.
 void WriteFile(const std::string& file, const DraftRecord& record) {
     const fs::path folder = fs::path(file).parent_path();
-    bool isNew = false;
     try {
         MakePrivateFolder(folder);
-        isNew = !fs::exists(file);
-        if (isNew) {
-            MakePrivateFile(file); // its mode is kept when it is replaced
-        }
-        WriteOutputFile(file, DraftText(record));
+        WriteOutputFile(file, DraftText(record), Overwrite::Chosen, NewFile::Private);
     } catch (const fs::filesystem_error& error) {
         throw OutputFileError("The folder " + folder.string() +
                               " cannot be written: " + error.code().message() + ".");
     } catch (const OutputFileError& error) {
-        if (isNew) {
-            RemoveFile(file);
-        }
         throw OutputFileError(FolderFailure(file, error.what()));
     }
 }

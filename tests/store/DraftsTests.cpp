@@ -1,6 +1,7 @@
 // The files in which unsaved rooms are kept.
 
 #include "files/OutputFile.h"
+#include "files/SystemCallFaults.h"
 #include "store/Drafts.h"
 #include "store/TestDatabase.h"
 
@@ -16,6 +17,8 @@
 namespace tarn {
 namespace {
 
+using testing::BeforeCall;
+using testing::CallsOf;
 using testing::ReadFile;
 using testing::TestFolder;
 using testing::WriteFile;
@@ -85,6 +88,24 @@ TEST_F(KeptDrafts, StandInAFolderAndAFileOfTheirOwnersAlone) {
     EXPECT_EQ(status.st_mode & 0777U, 0600U);
     ASSERT_EQ(stat(folder.Path("state").c_str(), &status), 0);
     EXPECT_EQ(status.st_mode & 0777U, 0700U);
+}
+
+TEST_F(KeptDrafts, AreWholeOrNotThereWhileTheyAreFirstWritten) {
+    const std::size_t calls = CallsOf([&] { Keep(drafts, "P", 100); }).size();
+    const auto areWhole = [&] {
+        const QString state = QString::fromStdString(folder.Path("state"));
+        const auto files = QDir(state).entryList({QStringLiteral("draft-*")}, QDir::Files);
+        return static_cast<std::size_t>(files.size()) == Widths(drafts, "P").size();
+    };
+    ASSERT_GT(calls, 0U);
+    for (std::size_t call = 0; call < calls; ++call) {
+        EXPECT_TRUE(std::filesystem::remove_all(folder.Path("state")));
+        bool whole = true;
+        BeforeCall(
+            call, [&] { whole = areWhole(); }, [&] { Keep(drafts, "P", 100); });
+        EXPECT_TRUE(whole) << "a kill before call " << call << " leaves half a draft";
+        EXPECT_EQ(Widths(drafts, "P"), Numbers{100});
+    }
 }
 
 TEST_F(KeptDrafts, ComeTheLastWrittenFirst) {
