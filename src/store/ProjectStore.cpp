@@ -221,6 +221,10 @@ class ProjectStore::Impl {
         beforeFirstChange_ = std::move(action);
     }
 
+    /// What saves stored, or tried to, whose end is not known to be good: it may be there all the
+    /// same, and is no other program's then.
+    std::vector<StoredMark> Unsure;
+
     /// Run `changes` as a transaction, or as a part of the one that is running.
     void Change(const std::function<void()>& changes) {
         DatabaseToChange();
@@ -411,6 +415,7 @@ LoadedProject ProjectStore::Load(std::string_view project) {
     RequireUsable(project);
     LoadedProject loaded;
     loaded.Value.Name = project;
+    impl_->Unsure.clear(); // from now on what is loaded counts
     impl_->Read([&] {
         Connection& database = impl_->Database();
         const StoredProject stored = ReadStored(database, project);
@@ -441,9 +446,11 @@ SaveResult ProjectStore::Save(const Project& project, Units shown,
     impl_->Change([&] {
         Connection& database = impl_->Database();
         const StoredProject before = ReadStored(database, project.Name);
+        const StoredMark found = MarkOf(before);
+        const bool isOwn = std::count(impl_->Unsure.begin(), impl_->Unsure.end(), found) > 0;
         if (!DirectoryOf(project.Name)) {
             result.What = SaveResult::Outcome::Gone;
-        } else if (read && *read != MarkOf(before)) {
+        } else if (read && *read != found && !isOwn) {
             result.What = SaveResult::Outcome::Changed;
         } else {
             Project stored = StorableProject(project);
@@ -453,8 +460,10 @@ SaveResult ProjectStore::Save(const Project& project, Units shown,
             StoreOrderRows(database, stored.Sheet, stored.Orders);
             result.Value = std::move(stored);
             result.Mark = MarkOf(ReadStored(database, project.Name));
+            impl_->Unsure.push_back(result.Mark);
         }
     });
+    impl_->Unsure.clear();
     return result;
 }
 

@@ -55,6 +55,23 @@ void SaveVersions(ProjectStore& store, const Arguments& arguments) {
     }
 }
 
+/// save-read PROJECT VERSION: as the screens save what they read, and again when the first time
+/// fails.
+void SaveWhatWasRead(ProjectStore& store, const Arguments& arguments) {
+    const LoadedProject read = store.Load(arguments.at(0));
+    Project project = read.Value;
+    project.Rooms = RoomsOfVersion(std::stoi(arguments.at(1)));
+    SaveResult result;
+    try {
+        result = store.Save(project, Units::Imperial, read.Mark);
+    } catch (const DatabaseError&) {
+        result = store.Save(project, Units::Imperial, read.Mark);
+    }
+    if (!result.IsSaved()) {
+        throw std::runtime_error("The project is another program's by now.");
+    }
+}
+
 /// A moment of the one day on which all this happens.
 QDateTime Moment(const std::string& minute) {
     return {QDate(2026, 3, 14), QTime(9, std::stoi(minute)), Qt::UTC};
@@ -86,7 +103,9 @@ void TakeStep(const std::string& database, const std::string& step, const Argume
         SaveVersions(store, arguments);
         return;
     }
-    if (step == "draft") {
+    if (step == "save-read") {
+        SaveWhatWasRead(store, arguments);
+    } else if (step == "draft") {
         KeepDraft(database, arguments);
     } else if (step == "add-directory") {
         store.AddDirectory(arguments.at(0));

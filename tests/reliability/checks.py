@@ -106,10 +106,10 @@ def _kill_after(workshop, scenario, moment):
     _require_whole_and_repeatable(workshop, scenario, folder)
 
 
-def fail_at_steps(workshop, scenario, tally, choose):
+def fail_at_steps(workshop, scenario, tally, choose, ways=FAILING):
     """Let the steps fail, one run for each, until the program meets no trouble any more:
-    choose(step) names the ways to try with each."""
-    waiting = set(FAILING)
+    choose(step) names those of the ways to try with each."""
+    waiting = set(ways)
     step = 0
     while waiting:
         step += 1

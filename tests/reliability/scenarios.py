@@ -244,6 +244,11 @@ WRITING = [
              again=data("repair", "--to", "{}/other.mdb")),
     Scenario("draft over an older one", step("draft", "{}/state", "one.json", "MINE", "9"),
              [step("draft", "{}/state", "one.json", "MINE", "8")]),
+    Scenario("first draft", step("draft", "{}/state/tarn", "one.json", "MINE", "9"),
+             several=True),
 ]
+
+# What failed once is tried again, as whoever is told of it does.
+AGAIN = Scenario("save again after a failure", step("save-read", "MINE", "5"))
 
 EVERYTHING = STORING + WRITING

@@ -6,7 +6,7 @@ import unittest
 
 import checks
 import screens
-from scenarios import EVERYTHING, Workshop
+from scenarios import AGAIN, EVERYTHING, Workshop
 
 SEED = 20260314
 
@@ -62,6 +62,15 @@ class Failures(Reliability):
                 self.workshop, scenario, tally, checks.some_ways(self.dice, 0.4)
             )
         )
+
+
+    def test_that_were_one_step_each_are_no_other_program(self):
+        AGAIN.set_up(self.workshop)
+        checks.fail_at_steps(
+            self.workshop, AGAIN, self.tally, lambda _: ("error",), ways=("error",)
+        )
+        self.assertGreater(self.tally.total(), 10)
+        self.assertFalse(self.tally.broken, "\n".join(self.tally.broken))
 
 
 class PulledPlug(Reliability):
