@@ -150,7 +150,7 @@ INSTANTIATE_TEST_SUITE_P(
                  {"CREATE TABLE OrderData (TabIndex INTEGER, Carpet INTEGER, Metric INTEGER, "
                   "Request TEXT COLLATE NOCASE)",
                   "CREATE INDEX OrderDataTabIndex ON OrderData (TabIndex)",
-                  "INSERT INTO OrderData VALUES (1, 0, 0, '{}'), (9, 0, 2, '{}')"},
+                  "INSERT INTO OrderData VALUES (1, 1, 0, '{}'), (9, 8, 2, '{}')"},
                  {"Metric in OrderData is no whole number from 0 to 1: row 2 (2).",
                   "Rows of OrderData without a sheet, which nothing reaches: 1 under the number "
                   "9."}},

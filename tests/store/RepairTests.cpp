@@ -203,7 +203,7 @@ TEST_F(ARepair, KeepsTheRequestsOfOrdersWhereThereAreAny) {
     EXPECT_EQ(Repair({"CREATE TABLE OrderData (TabIndex INTEGER, Carpet INTEGER, Metric INTEGER, "
                       "Request TEXT COLLATE NOCASE)",
                       "CREATE INDEX OrderDataTabIndex ON OrderData (TabIndex)",
-                      "INSERT INTO OrderData VALUES (2, 3, 1, '{\"step\": 5}'), (9, 0, 0, '{}')"}),
+                      "INSERT INTO OrderData VALUES (2, 3, 1, '{\"step\": 5}'), (9, 1, 0, '{}')"}),
               Lines{"Rows of sheets that are not there, left out: OrderData, row 2."});
     EXPECT_EQ(Rows("SELECT * FROM OrderData"), Lines{"2|3|1|{\"step\": 5}"});
 }
