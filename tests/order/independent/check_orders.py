@@ -17,7 +17,8 @@ import sys
 import tempfile
 from collections import Counter
 
-from projects import known_job, one_row, random_job, rooms_text, wrong_options
+from projects import (known_job, long_job, one_row, random_job, rooms_text, with_less_asked,
+                      wrong_options)
 from rules import Row
 from shortest import shortest
 from verify import verify
@@ -46,13 +47,15 @@ class Checker:
             self.disagreements += 1
             print(f"seed {seed}: {fault}")
         if faults:
-            print(f"  {shlex.join(['tarn-order', '--rooms', 'rooms.csv', *job.arguments, *output])}")
+            command = ["tarn-order", "--rooms", "rooms.csv", *job.arguments, *output]
+            print("  " + shlex.join(command))
             print("  " + rooms_text(job).replace("\r\n", "\n  ").rstrip(), flush=True)
 
     def check_seed(self, seed):
         dice = random.Random(seed)
         way = dice.random()
-        job = known_job(dice) if way < 0.15 else random_job(dice, tiny=way < 0.5)
+        job = (known_job(dice) if way < 0.2 else long_job(dice) if way < 0.22
+               else random_job(dice, tiny=way < 0.55))
         self.tally["projects"] += 1
         if not job.rolls:
             return
@@ -68,6 +71,8 @@ class Checker:
             self.check_text(job, seed, document)
         if dice.random() < 0.1:
             self.check_one_core(job, seed, document)
+        if dice.random() < 0.5:
+            self.check_less(job, seed, document, dice)
         if dice.random() < 0.3 and len(job.rows()) > 1:
             self.tally["rows alone"] += 1
             self.check_job(one_row(job, dice.randrange(len(job.rows()))), seed, dice)
@@ -91,6 +96,7 @@ class Checker:
         status = 0 if orders else 1
         if ran.returncode != status:
             faults.append(f"exit status {ran.returncode}, not {status}")
+        faults += untold(document, ran.stderr)
         if not faults:
             faults = self.check_bounds(job, document, dice)
         self.count(document)
@@ -116,6 +122,18 @@ class Checker:
                             faults.append(f"carpet {order['carpet']}, row {number}: leastLength is "
                                           f"{found['leastLength']}, but {length} suffices")
         return faults
+
+    def check_less(self, job, seed, document, dice):
+        """Where less is asked for, what was found for more is a length that suffices."""
+        less = with_less_asked(job, dice)
+        if not set(job.carpets()) <= set(less.carpets()):
+            return
+        self.tally["less asked"] += 1
+        other = self.check_job(less, seed, dice)
+        if other is None:
+            return
+        for order, easier in zip(document["carpets"], other["carpets"]):
+            self.tell(less, seed, less_faults(order, easier), "--json", "-")
 
     def check_csv(self, job, seed, document):
         self.tally["tables"] += 1
@@ -148,6 +166,32 @@ class Checker:
             for row in order["candidates"]:
                 self.tally["rows"] += 1
                 self.tally["rows refused"] += row["refused"] is not None
+
+
+def untold(document, said):
+    """What standard error should have said and did not."""
+    faults = []
+    for order in document["carpets"]:
+        lines = [line for line in said.splitlines() if f"CARPET-{order['carpet']}," in line]
+        best = order["best"]
+        wanted = ([row["refused"] for row in order["candidates"]] if best is None
+                  else order["candidates"][best]["notes"])
+        faults += [f"carpet {order['carpet']}: standard error does not tell {text!r}"
+                   for text in wanted if not any(text in line for line in lines)]
+    return faults
+
+
+def less_faults(order, easier):
+    """Bounds of an order for which less is asked beyond what was found where more is."""
+    faults = []
+    for number, (row, other) in enumerate(zip(order["candidates"], easier["candidates"])):
+        if row["refused"] is None and other["refused"] is not None:
+            faults.append(f"carpet {order['carpet']}, row {number}: refused where less is asked")
+        elif row["refused"] is None and other["leastLength"] > row["lengthNeeded"]:
+            faults.append(f"carpet {order['carpet']}, row {number}: leastLength is "
+                          f"{other['leastLength']}, but {row['lengthNeeded']} suffices where more "
+                          "is asked")
+    return faults
 
 
 def main(program, projects=60, seed=1):

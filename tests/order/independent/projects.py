@@ -2,6 +2,7 @@
 
 import csv
 import io
+import re
 from dataclasses import dataclass, field, replace
 from fractions import Fraction
 
@@ -95,10 +96,9 @@ def random_roll(job, dice, tiny):
     text, exact = write_length(whole, job.metric, dice)
     if dice.random() < 0.1 and not tiny:
         text = dice.choice(["12ft", "13.5ft", "12ft6in", "150in", "366cm", "3.66m", "15ft"])
-        exact = {"12ft": in_units(12, "ft", job.metric), "13.5ft": in_units("13.5", "ft", job.metric),
-                 "12ft6in": in_units(150, "in", job.metric), "150in": in_units(150, "in", job.metric),
-                 "366cm": in_units(366, "cm", job.metric), "3.66m": in_units("3.66", "m", job.metric),
-                 "15ft": in_units(15, "ft", job.metric)}[text]
+        number, unit = {"12ft6in": ("150", "in")}.get(text) or re.fullmatch(r"([\d.]+)(\w+)",
+                                                                           text).groups()
+        exact = in_units(number, unit, job.metric)
     return Roll(text, floor(exact), exact)
 
 
@@ -117,7 +117,8 @@ def random_options(job, dice, tiny):
     job.min_part = 91 if job.metric else 36
     job.step = 5 if job.metric else 3
     if sometimes(0.25):
-        job.selvage = add_length(job, dice, "--selvage", dice.randint(1, 1 if tiny else int(5 * units)))
+        most = 1 if tiny else int(5 * units)
+        job.selvage = add_length(job, dice, "--selvage", dice.randint(1, most))
     if sometimes(0.85):
         job.lay = dice.choice(["down", "cross", "both", "both"])
         job.arguments += ["--lay", job.lay]
@@ -125,8 +126,8 @@ def random_options(job, dice, tiny):
         job.trim_along = add_length(job, dice, "--trim",
                                     dice.randint(1, 3 if tiny else int(22 * units)))
     if sometimes(0.5):
-        job.trim_across = add_length(job, dice, "--trim-across",
-                                     dice.randint(1, 3 if tiny else dice.choice([2, int(22 * units)])))
+        most = 3 if tiny else dice.choice([2, int(22 * units)])
+        job.trim_across = add_length(job, dice, "--trim-across", dice.randint(1, most))
     if sometimes(0.65):
         job.max_parts = dice.randint(1, 6)
         job.arguments += ["--max-parts", str(job.max_parts)]
@@ -226,54 +227,136 @@ def random_job(dice, tiny):
 
 
 def cut_up(width, length, pieces, dice):
-    """A rectangle, cut from edge to edge again and again."""
-    rectangles = [(width, length)]
+    """A rectangle, cut from edge to edge again and again: x, y, width and length of each."""
+    rectangles = [(0, 0, width, length)]
     while len(rectangles) < pieces:
-        rectangles.sort(key=lambda sides: sides[0] * sides[1])
-        across, along = rectangles.pop()
+        rectangles.sort(key=lambda rectangle: rectangle[2] * rectangle[3])
+        x, y, across, along = rectangles.pop()
         if across > 1 and (along < 2 or dice.random() < across / (across + along)):
             at = dice.randint(1, across - 1)
-            rectangles += [(at, along), (across - at, along)]
+            rectangles += [(x, y, at, along), (x + at, y, across - at, along)]
         elif along > 1:
             at = dice.randint(1, along - 1)
-            rectangles += [(across, at), (across, along - at)]
+            rectangles += [(x, y, across, at), (x, y + at, across, along - at)]
         else:
-            return rectangles + [(across, along)]
+            return rectangles + [(x, y, across, along)]
     return rectangles
+
+
+def known_options(job, dice):
+    """Some for which a way to cut what comes of one rectangle is known."""
+    if dice.random() < 0.3:
+        job.max_parts = dice.randint(2, 4)
+        job.arguments += ["--max-parts", str(job.max_parts)]
+    if dice.random() < 0.3:
+        job.trim_along, job.trim_across = dice.randint(0, 4), dice.randint(0, 4)
+        job.arguments += ["--trim", str(job.trim_along), "--trim-across", str(job.trim_across)]
+    if dice.random() < 0.3:
+        job.selvage = 1
+        job.arguments += ["--selvage", "1"]
+    if dice.random() < 0.5:
+        usable = job.rolls[0].width - 2 * job.selvage
+        divisors = [n for n in range(2, usable + 1) if usable % n == 0]
+        job.across = dice.choice([0] + divisors)
+        job.along = dice.choice([0, 6, 7, 24]) or (0 if job.across else 24)
+        job.half_drop = job.along % 2 == 0 < job.along and dice.random() < 0.5
+        job.drift = Fraction(1 if job.along else 0)
+        job.arguments += ["--pattern", f"{job.across}x{job.along}"]
+        job.arguments += ["--half-drop"] if job.half_drop else []
+
+
+def drops_beside(job, place, drops, end):
+    """Where the drops end that match a fill and lie one after the other from `end`."""
+    x, y, _, along = place
+    usable = job.rolls[0].width - 2 * job.selvage
+    for drop in range(drops):
+        columns = drop - drops
+        if job.across:
+            columns = (columns * usable + x) // job.across
+        if job.along:
+            half = job.along // 2 if job.half_drop and columns % 2 else 0
+            end += (y - half - end) % job.along
+        end += along
+    return end
 
 
 def known_job(dice):
     """Rooms whose fills come from one rectangle, so that a length that does is known."""
     job = Job([], [], metric=dice.random() < 0.3, lay="down")
-    whole = dice.choice([144, 180, 60, 25])
+    whole = dice.choice([144, 180, 60, 26])
     job.rolls = [Roll(str(whole), whole, Fraction(whole))]
     job.min_part = 91 if job.metric else 36
     job.step = 5 if job.metric else 3
-    if dice.random() < 0.3:
-        job.max_parts = dice.randint(2, 4)
-        job.arguments += ["--max-parts", str(job.max_parts)]
-    length = dice.randint(10, 400)
-    known = length
-    for across, along in cut_up(whole, length, dice.randint(2, 12), dice):
-        drops = dice.choice([0, 0, 1, 2]) if across < whole else 0
-        job.rooms.append(Room(drops * whole + across, along, "C1", dice.choice(NUMBERS),
+    known_options(job, dice)
+    usable = whole - 2 * job.selvage
+    known = length = dice.randint(10, 400)
+    for place in cut_up(usable, length, dice.randint(2, 12), dice):
+        width, along = place[2] - job.trim_across, place[3] - job.trim_along
+        if width < 1 or along < 1:
+            continue
+        # A fill has to begin where a column of the pattern does.
+        may = place[2] < usable and (not job.across or place[0] % job.across == 0)
+        drops = dice.choice([0, 0, 1, 2]) if may else 0
+        job.rooms.append(Room(drops * usable + width, along, "C1", dice.choice(NUMBERS),
                               dice.choice(REMARKS)))
-        known += drops * along
-    job.known = {1: known}
+        known = drops_beside(job, place, drops, known)
+    job.known = {1: known} if job.rooms else {}
     finish(job, dice)
     return job
+
+
+def long_job(dice):
+    """Rooms about as long as a strip may be; together they are far longer."""
+    job = Job([], [], metric=dice.random() < 0.3)
+    widths = dice.sample([366, 400, 150, 144], 2)
+    job.rolls = [Roll(str(width), width, Fraction(width)) for width in widths]
+    random_options(job, dice, tiny=False)
+    for _ in range(dice.randint(1, 6)):
+        less = dice.choice([0, 1, job.trim_along, job.trim_along + 1, 9000])
+        job.rooms.append(Room(random_size(job, dice, tiny=False) % 1500, LONGEST - less, "C4", dice.choice(NUMBERS), dice.choice(REMARKS)))
+    finish(job, dice)
+    return job
+
+
+def without(arguments, *options):
+    """The arguments without some options and their values."""
+    kept = list(arguments)
+    for option in options:
+        while option in kept:
+            at = kept.index(option)
+            del kept[at:at + (1 if option in ("--half-drop", "--join-rooms") else 2)]
+    return kept
 
 
 def one_row(job, number):
     """The same project with one of its rows alone."""
     roll, lay = job.rows()[number]
-    arguments = list(job.arguments)
-    for option in ("--roll", "--lay"):
-        while option in arguments:
-            at = arguments.index(option)
-            del arguments[at:at + 2]
-    arguments += ["--roll", roll.argument(), "--lay", lay]
+    arguments = without(job.arguments, "--roll", "--lay") + ["--roll", roll.argument(),
+                                                             "--lay", lay]
     return replace(job, rolls=[roll], lay=lay, arguments=arguments, known={})
+
+
+def with_less_asked(job, dice):
+    """A project for which whatever does for this one does, too."""
+    way = dice.randrange(5)
+    if way == 0:
+        # One room less, which keeps its place.
+        rooms = list(job.rooms)
+        at = dice.randrange(len(rooms))
+        rooms[at] = replace(rooms[at], covering="T1")
+        return replace(job, rooms=rooms, known={})
+    if way == 1 and not job.join:
+        return replace(job, join=True, known={}, arguments=job.arguments + ["--join-rooms"])
+    if way == 2 and job.max_parts < 6:
+        return replace(job, max_parts=6, known={}, arguments=without(
+            job.arguments, "--max-parts") + ["--max-parts", "6"])
+    if way == 3 and job.min_part > 1:
+        least = dice.choice([1, job.min_part // 2, job.min_part - 1]) or 1
+        return replace(job, min_part=least, known={}, arguments=without(
+            job.arguments, "--min-part") + ["--min-part", str(least)])
+    arguments = without(job.arguments, "--pattern", "--half-drop", "--pattern-drift")
+    return replace(job, across=0, along=0, half_drop=False, drift=Fraction(0), known={},
+                   arguments=arguments)
 
 
 def wrong_options(job, dice):

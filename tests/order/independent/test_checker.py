@@ -10,7 +10,7 @@ import tempfile
 import unittest
 from fractions import Fraction
 
-from check_orders import Checker
+from check_orders import Checker, less_faults, untold
 from projects import Job, Roll, Room
 from rules import Row
 from shortest import shortest
@@ -197,6 +197,18 @@ class Mutations(unittest.TestCase):
                 other = with_change(document, path, lambda notes, note=note: notes + [note])
                 self.assert_found(job, other, word)
 
+    def test_what_is_not_told(self):
+        document = self.document(divided())
+        self.assertTrue(untold(document, ""))
+        ran = self.checker.run(self.checker.command(divided(), "--json", "-"))
+        self.assertEqual(untold(document, ran.stderr), [])
+        self.assertTrue(untold(document, ran.stderr.replace("CARPET-2", "CARPET-3")))
+        for order in document["carpets"]:
+            order["best"] = None
+            for row in order["candidates"]:
+                row["refused"] = "Too wide"
+        self.assertTrue(untold(document, ran.stderr))
+
     def test_bounds(self):
         job = divided()
         document = self.document(job)
@@ -220,6 +232,15 @@ class Mutations(unittest.TestCase):
         job.known = {1: 7, 2: 9}
         self.assertIn("9 suffices", str(self.checker.check_bounds(job, document,
                                                                   random.Random(1))))
+
+    def test_a_bound_beyond_what_suffices_for_more(self):
+        order = self.document(divided())["carpets"][0]
+        self.assertEqual(less_faults(order, order), [])
+        easier = copy.deepcopy(order)
+        easier["candidates"][2]["leastLength"] = order["candidates"][2]["lengthNeeded"] + 1
+        self.assertIn("row 2", str(less_faults(order, easier)))
+        easier["candidates"][2]["refused"] = "Too wide"
+        self.assertIn("refused where less", str(less_faults(order, easier)))
 
     def test_tables(self):
         for job in (patterned(), divided()):
@@ -246,7 +267,8 @@ class Mutations(unittest.TestCase):
                 path = ("carpets", 0, "pieces", number, key)
                 self.assertTrue(verify_text(job, with_change(document, path), text), path)
             self.assertEqual(piece["label"], label_of(number))
-        self.assertTrue(verify_text(job, document, text.replace("repeats on", "repeats and 1\" on")))
+        text = text.replace("repeats on", "repeats and 1\" on")
+        self.assertTrue(verify_text(job, document, text))
 
 
 class Shortest(unittest.TestCase):

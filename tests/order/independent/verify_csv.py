@@ -48,7 +48,8 @@ def compare(columns, lines, wanted, faults):
     for line, row in zip(lines[1:], wanted):
         for column, text in zip(columns, line):
             if column == "notes":
-                right = all(note in text for note in row["notes"]) and bool(text) == bool(row["notes"])
+                right = (all(note in text for note in row["notes"])
+                         and bool(text) == bool(row["notes"]))
             else:
                 right = read_cell(column, text) == cell(column, row[column])
             if not right:

@@ -7,8 +7,8 @@ from rules import Row
 HEADING = re.compile(r"^Cut +Which ")
 LINE = re.compile(r"^(?P<label>[A-Z]+) .*?\s(?P<from>\S+) +(?P<to>\S+) +(?P<across>\S+) +"
                   r"(?P<width>\S+) X (?P<length>\S+)(?: {2,}(?P<pattern>\S.*))?$")
-ON_FROM = re.compile(r"^(?:(?P<repeats>\d+) repeats?)?(?: and )?(?:(?P<rest>[^ ]+(?: cm)?))? on from "
-                     r"(?P<first>[A-Z]+)$")
+ON_FROM = re.compile(r"^(?:(?P<repeats>\d+) repeats?)?(?: and )?(?:(?P<rest>[^ ]+(?: cm)?))?"
+                     r" on from (?P<first>[A-Z]+)$")
 
 
 def read_length(text, metric):
@@ -34,7 +34,7 @@ def lists_of(text):
 
 
 def which(piece, strip, usable):
-    """What a piece is of its room. A fill that its trim makes as wide as the roll is cut as a drop."""
+    """What a piece is of its room. A fill that its trim makes as wide as the roll is a drop."""
     words = []
     if strip.strips > 1:
         kind = "drop" if strip.width == usable else "fill"
@@ -48,6 +48,8 @@ def pattern_faults(job, piece, first, text):
     """Where the piece begins in the pattern, counted from its room's first on the roll."""
     if piece is first or not job.along:
         return [] if text is None else [f"text: piece {piece['label']} is {text!r}"]
+    if text == f"beside {first['label']}" and piece["y"] == first["y"]:
+        return []
     found = ON_FROM.match(text or "")
     if not found:
         return [f"text: piece {piece['label']} says {text!r} of the pattern"]
@@ -73,7 +75,8 @@ def line_faults(job, row, piece, first, line):
         if read_length(found[key], job.metric) != value:
             faults.append(f"text: piece {piece['label']}: {key} is {found[key]}, not {value}")
     words = which(piece, row.strips[piece["room"], piece["strip"]], row.usable)
-    if found["label"] != piece["label"] or not line[len(piece["label"]):].lstrip().startswith(words):
+    rest = line[len(piece["label"]):].lstrip()
+    if found["label"] != piece["label"] or not rest.startswith(words):
         faults.append(f"text: piece {piece['label']} is {words!r}, the line {line!r}")
     return faults + pattern_faults(job, piece, first, found["pattern"])
 
