@@ -313,7 +313,8 @@ def long_job(dice):
     random_options(job, dice, tiny=False)
     for _ in range(dice.randint(1, 6)):
         less = dice.choice([0, 1, job.trim_along, job.trim_along + 1, 9000])
-        job.rooms.append(Room(random_size(job, dice, tiny=False) % 1500, LONGEST - less, "C4", dice.choice(NUMBERS), dice.choice(REMARKS)))
+        job.rooms.append(Room(random_size(job, dice, tiny=False) % 1500, LONGEST - less, "C4",
+                              dice.choice(NUMBERS), dice.choice(REMARKS)))
     finish(job, dice)
     return job
 
