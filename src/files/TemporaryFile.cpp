@@ -15,14 +15,13 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::string_view NameStart = ".tarn-";
 constexpr std::string_view NameEnd = ".part";
 constexpr std::size_t NameDigits = 16;
 constexpr std::string_view Digits = "0123456789abcdef";
 
 std::string NewName() {
     static std::random_device random;
-    std::string name(NameStart);
+    std::string name(InMakingStart);
     for (std::size_t i = 0; i < NameDigits; ++i) {
         name += Digits[random() % Digits.size()];
     }
@@ -30,9 +29,9 @@ std::string NewName() {
 }
 
 bool IsNameOfOne(std::string_view name) {
-    return name.size() == NameStart.size() + NameDigits + NameEnd.size() &&
-           name.starts_with(NameStart) && name.ends_with(NameEnd) &&
-           name.substr(NameStart.size(), NameDigits).find_first_not_of(Digits) ==
+    return name.size() == InMakingStart.size() + NameDigits + NameEnd.size() &&
+           name.starts_with(InMakingStart) && name.ends_with(NameEnd) &&
+           name.substr(InMakingStart.size(), NameDigits).find_first_not_of(Digits) ==
                std::string_view::npos;
 }
 
@@ -62,6 +61,23 @@ void RemoveLeftOver(const std::string& path) {
     if (file.IsOpen() && ::fstat(file.Number(), &status) == 0 && S_ISREG(status.st_mode) &&
         ::flock(file.Number(), LOCK_EX | LOCK_NB) == 0 && StandsAt(file, path)) {
         ::unlink(path.c_str());
+    }
+}
+
+bool IsNameOfFolder(std::string_view name) {
+    return name.size() == InMakingStart.size() + FolderInMakingDigits &&
+           name.starts_with(InMakingStart) &&
+           std::all_of(name.begin() + InMakingStart.size(), name.end(), [](char c) {
+               return (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
+           });
+}
+
+void RemoveFolderLeftOver(const std::string& path) {
+    const Descriptor folder(::open(path.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
+    if (folder.IsOpen() && ::flock(folder.Number(), LOCK_EX | LOCK_NB) == 0 &&
+        StandsAt(folder, path)) {
+        std::error_code ignored;
+        fs::remove_all(path, ignored);
     }
 }
 
@@ -211,8 +227,11 @@ void RemoveLeftOvers(const std::string& folder) {
     std::error_code error;
     for (fs::directory_iterator entry(folder, error), end; !error && entry != end;
          entry.increment(error)) {
-        if (IsNameOfOne(entry->path().filename().native())) {
+        const std::string name = entry->path().filename().native();
+        if (IsNameOfOne(name)) {
             RemoveLeftOver(entry->path().native());
+        } else if (IsNameOfFolder(name)) {
+            RemoveFolderLeftOver(entry->path().native());
         }
     }
 }

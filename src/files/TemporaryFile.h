@@ -4,7 +4,7 @@
 
 #include "files/Descriptor.h"
 
-#include <filesystem>
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -12,6 +12,11 @@
 #include <system_error>
 
 namespace tarn {
+
+/// What is in the making has a name that begins so: a file, or a folder in which a file is made by
+/// others than TemporaryFile, with so many letters and digits behind it.
+inline constexpr std::string_view InMakingStart = ".tarn-";
+inline constexpr std::size_t FolderInMakingDigits = 6;
 
 /// A file was put in its place, the disk does not confirm that it keeps it, and it could not be
 /// taken away again: nobody knows what is there.
@@ -60,7 +65,8 @@ std::string FolderOfPath(const std::string& path);
 /// std::system_error.
 void SynchroniseEntries(const std::string& folder);
 
-/// Remove what runs that were killed left of files in the making in a folder.
+/// Remove what runs that were killed left in a folder: files in the making, and folders of such
+/// files. A run that is alive has a lock on its own (flock).
 void RemoveLeftOvers(const std::string& folder);
 
 } // namespace tarn

@@ -2,12 +2,12 @@
 
 #include "files/FileModes.h"
 #include "files/OutputFile.h"
+#include "files/TemporaryFile.h"
 #include "store/DatabaseError.h"
 
 #include <QDir>
 #include <QFileInfo>
 
-#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <fcntl.h>
@@ -19,10 +19,9 @@ namespace tarn {
 
 namespace {
 
-constexpr qsizetype WorkshopDigits = 6;
-
 QString WorkshopName() {
-    return QStringLiteral(".tarn-") + QString(WorkshopDigits, u'X');
+    return QString::fromLatin1(InMakingStart.data(), InMakingStart.size()) +
+           QString(FolderInMakingDigits, u'X');
 }
 
 /// Whether this run has the folder's lock now; true also where the file system knows no locks.
@@ -33,24 +32,6 @@ bool Lock(const Descriptor& folder) {
 Descriptor OpenFolder(const QString& path) {
     return Descriptor(
         ::open(path.toLocal8Bit().constData(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
-}
-
-/// Remove the workshops in `folder` that no run works in any more.
-void RemoveLeftOvers(const QString& folder) {
-    const auto all = QDir::Dirs | QDir::Hidden | QDir::NoDotAndDotDot | QDir::NoSymLinks;
-    const QString name = WorkshopName();
-    const QDir parent(folder);
-    for (const QString& each :
-         parent.entryList({name.chopped(WorkshopDigits) + QString(WorkshopDigits, u'?')}, all)) {
-        const QString digits = each.right(WorkshopDigits);
-        const bool isOwn = std::all_of(digits.begin(), digits.end(), [](QChar c) {
-            return c.isLetterOrNumber() && c.unicode() < 0x80;
-        });
-        const Descriptor left = OpenFolder(parent.filePath(each));
-        if (isOwn && left.IsOpen() && ::flock(left.Number(), LOCK_EX | LOCK_NB) == 0) {
-            QDir(parent.filePath(each)).removeRecursively();
-        }
-    }
 }
 
 /// Rename a file unless something stands at its new name. (The toolkit would copy a file that it
@@ -77,7 +58,7 @@ FileInMaking::FileInMaking(const std::string& target, Target kind)
         Refuse("something that is no file stands in its place");
     }
     MakeFolder(info.absolutePath());
-    RemoveLeftOvers(info.absolutePath());
+    RemoveLeftOvers(info.absolutePath().toStdString());
     MakeWorkshop(info.absolutePath());
 }
 

@@ -382,6 +382,25 @@ TEST_F(OutputFile, RemovesWhatAKilledRunLeftAndNothingElse) {
     EXPECT_THAT(Names(), ::testing::UnorderedElementsAreArray(expected));
 }
 
+TEST_F(OutputFile, RemovesAFolderInTheMakingThatAKilledRunLeftAndNoOther) {
+    const std::vector<std::string> others{".tarn-aBcD1", ".tarn-aBcD123", ".tarn-aBcD-2", "tarn"};
+    for (const std::string& name : others) {
+        fs::create_directory(Path(name));
+    }
+    fs::create_directory(Path(".tarn-aBcD12"));
+    Write(".tarn-aBcD12/Tarn.mdb", "half a database");
+    Write(".tarn-aBcD34", "a file");
+    fs::create_symlink("tarn", Path(".tarn-aBcD56"));
+    fs::create_directory(Path(".tarn-aBcD78"));
+    const int alive = ::open(Path(".tarn-aBcD78").c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    ASSERT_EQ(::flock(alive, LOCK_EX), 0);
+    WriteOutputFile(Path("out"), "new");
+    ::close(alive);
+    auto expected = others;
+    expected.insert(expected.end(), {"out", ".tarn-aBcD34", ".tarn-aBcD56", ".tarn-aBcD78"});
+    EXPECT_THAT(Names(), ::testing::UnorderedElementsAreArray(expected));
+}
+
 TEST_F(OutputFile, LeavesTheFileInTheMakingOfARunThatIsAlive) {
     const int alive = ::open(Write(LeftOver, "half a li").c_str(), O_RDWR | O_CLOEXEC);
     ASSERT_EQ(::flock(alive, LOCK_EX), 0);

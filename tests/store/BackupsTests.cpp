@@ -187,6 +187,7 @@ TEST_F(Backups, RemoveWhatAKilledRunLeftInTheMaking) {
     fs::create_directories(Folder() + "/.tarn-aBcD12");
     Pretend(".tarn-aBcD12/Tarn 2026-11-21 10-00-00.mdb");
     fs::create_directories(Folder() + "/.tarn-of-another");
+    Pretend(".tarn-0123456789abcdef.part");
     MakeBackup(Database(), At(2026, 11, 22));
     EXPECT_EQ(Names(), (Lines{".tarn-of-another", "Tarn 2026-11-22 12-00-00.mdb"}));
 }
