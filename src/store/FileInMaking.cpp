@@ -51,6 +51,9 @@ FileInMaking::FileInMaking(const std::string& target, Target kind)
     : target_(QFileInfo(QString::fromStdString(target)).absoluteFilePath())
     , kind_(kind) {
     const QFileInfo info(target_);
+    if (QFileInfo(QString::fromStdString(target)).fileName().isEmpty()) {
+        throw DatabaseError("The file " + target + " cannot be made: it has no name.");
+    }
     if (kind == Target::New && (info.exists() || info.isSymLink())) {
         Refuse("it is there already and stays as it is");
     }

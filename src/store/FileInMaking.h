@@ -24,7 +24,7 @@ class FileInMaking {
     };
 
     /// Make the target's folder when it is missing. Raises DatabaseError, naming the target and the
-    /// cause, when something else stands at `target` or the folder takes no files.
+    /// cause, when it names no file, something else stands there, or the folder takes no files.
     explicit FileInMaking(const std::string& target, Target kind = Target::New);
     ~FileInMaking();
     FileInMaking(const FileInMaking&) = delete;

@@ -11,6 +11,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
+using testing::DatabaseErrorOf;
 using testing::RawDatabase;
 using testing::ReadFile;
 using testing::ShortWait;
@@ -85,6 +86,16 @@ TEST(BackUpDatabaseFile, RefusesABadSourceAndLeavesNothingBehind) {
         EXPECT_THROW(BackUpDatabaseFile(file.Path(), target.Path("new/Backup.mdb")), DatabaseError);
     }
     EXPECT_EQ(target.Content(), Lines{});
+}
+
+TEST(BackUpDatabaseFile, NeedsTheNameOfAFile) {
+    const TestDatabase source;
+    const TestFolder folder;
+    for (const std::string& target : {std::string(), folder.Path("new") + "/"}) {
+        EXPECT_EQ(DatabaseErrorOf([&] { BackUpDatabaseFile(source.Path(), target); }),
+                  "The file " + target + " cannot be made: it has no name.");
+    }
+    EXPECT_EQ(folder.Content(), std::vector<std::string>{});
 }
 
 TEST(BackUpDatabaseFile, LeavesNothingBehindWhileTheSourceIsLocked) {
