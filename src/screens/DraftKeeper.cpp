@@ -119,7 +119,12 @@ void DraftKeeper::TakeBack(const KeptDraft& draft) {
     }
     tarn::TakeBack(project_, draft.Record.Content);
     Part();
-    taken_.push_back(draft);
+    for (KeptDraft& each : drafts_.Of(project_.Now.Name)) {
+        // Those that are alike are offered as one.
+        if (each.Record.Content == draft.Record.Content) {
+            taken_.push_back(std::move(each));
+        }
+    }
     Flush();
 }
 

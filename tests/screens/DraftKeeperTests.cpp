@@ -215,6 +215,18 @@ TEST_F(OpenDrafts, ThatWereTakenBackEndWithTheSave) {
     EXPECT_TRUE(Kept().empty());
 }
 
+TEST_F(OpenDrafts, ThatAreAlikeEndTogetherWithTheSave) {
+    TypeRoom(1);
+    OpenAgain();
+    keeper.TakeBack(keeper.WorthTakingBack().at(0));
+    OpenAgain(); // not saved this time either
+    EXPECT_EQ(Kept().size(), 2U);
+    keeper.TakeBack(keeper.WorthTakingBack().at(0));
+    open.Saved = open.Now;
+    keeper.NoteSaved();
+    EXPECT_TRUE(Kept().empty());
+}
+
 TEST_F(OpenDrafts, ThatWereTakenBackStayWhenAnotherRunGoesOnWithThem) {
     OpenProject others = open;
     DraftKeeper other(others, [this] { return clock; });
