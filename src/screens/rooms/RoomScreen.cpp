@@ -331,6 +331,7 @@ void RoomScreen::Estimate() {
         if (Shared().Project.Now.Rooms.empty()) {
             Shared().Boxes.Message(NothingToEstimateMessage);
         } else {
+            Shared().Drafts.Flush();
             Shared().Go.ShowEstimate(false);
         }
     });

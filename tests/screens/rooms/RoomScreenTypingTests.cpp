@@ -104,6 +104,15 @@ TEST_F(TypedRooms, AreInTheDraftAtOnceWhenTheScreenIsLeft) {
     EXPECT_EQ(Kept()[0].Record.Content.Typed.New->Remark, "hall");
 }
 
+TEST_F(TypedRooms, AreInTheDraftAtOnceWhenTheEstimateIsOpened) {
+    Open();
+    TypeSizes({"12", "", "10", ""});
+    ClickOn(Controls::estimateFromRooms);
+    EXPECT_EQ(screens.Calls, Lines{"estimate from rooms"});
+    ASSERT_EQ(Kept().size(), 1U);
+    EXPECT_EQ(Kept()[0].Record.Content.Rooms, open.Now.Rooms);
+}
+
 TEST_F(TypedRooms, AreInTheDraftSoonWhileTheyAreTyped) {
     Open();
     ClickOn(Controls::previousRoom);
