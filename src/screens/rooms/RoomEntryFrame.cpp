@@ -310,9 +310,9 @@ void RoomEntryFrame::Show(const RoomDraft& draft) {
     Text(Remark).Show(ToQt(draft.Remark));
     covering_->setCurrentIndex(draft.Covering ? *draft.Covering : -1);
     dropped_ = {};
-    const auto [width, length] = emptySizes_ = EmptySizes();
+    emptySizes_ = EmptySizes();
     const bool isNew = draft.Width == SizeParts() && draft.Length == SizeParts();
-    SetHint(isNew ? QString() : ToQt(EmptySizeNote(width, length)));
+    SetHint(isNew ? QString() : ToQt(NoteOfSizes()));
 }
 
 void RoomEntryFrame::ShowNewRoom() {
@@ -444,6 +444,15 @@ std::string RoomEntryFrame::SizeNote(int index, bool erased) const {
         note = EmptySizeNote(emptySizes_[0], emptySizes_[1]);
     }
     return note;
+}
+
+std::string RoomEntryFrame::NoteOfSizes() const {
+    for (int i = 0; i < SizeTexts; ++i) {
+        if (std::string note = SizeNote(i, false); !note.empty()) {
+            return note;
+        }
+    }
+    return EmptySizeNote(emptySizes_[0], emptySizes_[1]);
 }
 
 void RoomEntryFrame::TestLeftSize(int index) {

@@ -95,6 +95,8 @@ class RoomEntryFrame : public QGroupBox {
     bool EmptyWithoutSize(int index);
     /// What there is to say of the typing in a size field, which made `erased` an empty size.
     std::string SizeNote(int index, bool erased) const;
+    /// What there is to say of the sizes as they came.
+    std::string NoteOfSizes() const;
     /// Which sizes are empty: width, length.
     std::array<bool, 2> EmptySizes() const;
     void TestTypedBase();

@@ -150,6 +150,22 @@ TEST_F(RoomNote, TellsOfOneSizeMissingOnceTheSizesAreLeft) {
     EXPECT_EQ(Note(), "");
 }
 
+TEST_F(RoomNote, TellsAgainOfTypingThatComesBack) {
+    AddRooms(1);
+    Open();
+    TypeInto(0, "9");
+    TypeInto(1, "3,45");
+    ClickOn(Controls::leaveRooms);
+    Open();
+    EXPECT_EQ(Note(), "A comma is not taken: type 3.45");
+    TypeInto(1, "");
+    Press(*form, Qt::Key_A, Qt::ControlModifier);
+    Type(Text(1), "3.6");
+    ClickOn(Controls::leaveRooms);
+    Open();
+    EXPECT_EQ(Note(), "Kept as 9'4\" (typed 9'3.6\")");
+}
+
 TEST_F(RoomNote, SaysNothingOfANewRoomThatIsPassed) {
     Open();
     for (int i = 0; i < 12; ++i) {
