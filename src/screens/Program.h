@@ -4,6 +4,7 @@
 #include "screens/Dialogs.h"
 #include "screens/ProgramScreens.h"
 #include "screens/Session.h"
+#include "store/DataFolder.h"
 
 #include <QLocale>
 
@@ -48,7 +49,7 @@ class Program {
     Printer& printer_;
     ProgramScreens screens_{window_};
     DraftKeeper drafts_{project_};
-    Session session_{project_, store_, folder_, page_, boxes_, printer_, screens_, drafts_};
+    Session session_{project_, store_, page_, boxes_, printer_, screens_, drafts_};
     ScreenWindow window_; // the last one: its screens are unloaded before the session goes
 };
 

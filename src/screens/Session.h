@@ -6,7 +6,6 @@
 #include "screens/DraftKeeper.h"
 #include "screens/OpenProject.h"
 #include "screens/Screens.h"
-#include "store/DataFolder.h"
 #include "store/ProjectStore.h"
 
 #include <QDate>
@@ -20,8 +19,7 @@ namespace tarn {
 struct Session {
     OpenProject& Project;
     ProjectStore& Store;
-    DataFolder& Folder; ///< where the store is
-    PageTwips& Page;    ///< of the printer, as it was read last
+    PageTwips& Page; ///< of the printer, as it was read last
     Dialogs& Boxes;
     Printer& Paper;
     Screens& Go;

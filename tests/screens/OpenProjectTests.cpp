@@ -66,7 +66,8 @@ TEST_F(OpenProjects, AreInMetricWhenTheirRoomsWereStoredSo) {
     Load();
     EXPECT_TRUE(open.IsInMetric());
     open.Now.Rooms[0].Width = 1;
-    EXPECT_TRUE(open.IsInMetric()) << "also when a stored room is changed";
+    open.Now.EnteredIn = Units::Imperial;
+    EXPECT_TRUE(open.IsInMetric()) << "also when a stored room is changed, in feet too";
 }
 
 TEST_F(OpenProjects, AreInMetricWhenUnsavedRoomsWereTypedSo) {

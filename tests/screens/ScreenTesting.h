@@ -137,16 +137,14 @@ struct ScreenTest : ::testing::Test {
 
     OpenProject open;
     ProjectStore store;
-    DataFolder folder;
     PageTwips page;
     FakeBoxes boxes;
     FakePrinter printer;
     FakeScreens screens;
     QTemporaryDir state; ///< of the drafts
     DraftKeeper drafts{open};
-    Session session{open,    store,  folder,
-                    page,    boxes,  printer,
-                    screens, drafts, [] { return QDate(2026, 3, 14); }};
+    Session session{open,    store,   page,   boxes,
+                    printer, screens, drafts, [] { return QDate(2026, 3, 14); }};
 };
 
 } // namespace tarn::testing

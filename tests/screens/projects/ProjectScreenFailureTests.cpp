@@ -1,6 +1,7 @@
 // The project selection when the database fails.
 
 #include "screens/projects/ProjectScreenTesting.h"
+#include "store/DataFolder.h"
 
 #include <filesystem>
 
@@ -20,6 +21,7 @@ struct FailingProjects : ProjectScreenTest {
     /// As at a start without the file.
     void StartWithout() {
         std::filesystem::rename(file.Path(), away);
+        DataFolder folder;
         folder.Path = file.Folder().Path();
         folder.DatabaseName = file.Path();
         store = OpenStore(folder);
