@@ -3,6 +3,7 @@
 import collections
 import csv
 import glob
+import json
 import os
 
 from checks import run_and_kill
@@ -47,24 +48,47 @@ def kill_while_working(workshop, tally, dice, times):
         )
         told = [line.split() for line in lines]
         saved = max((int(version) for word, version in told if word == "saved"), default=last)
+        typed = max((int(version) for _, version in told), default=0)
         found = []
         tally.attempt(
             "kills of the screens", f"screens, killed after version {saved} was told to be saved",
-            lambda saved=saved, found=found: found.append(_require(workshop, folder, saved)),
+            lambda saved=saved, typed=typed, found=found: found.append(
+                _require(workshop, folder, saved, typed)
+            ),
         )
         if not found:
             return
         last = found[0]
 
 
-def _require(workshop, folder, saved):
+def _require(workshop, folder, saved, typed):
     left = workshop.copy(folder, "left")
     version = version_in(os.path.join(left, DATABASE), PROJECT, typed_rooms_of_version)
     if version not in (saved, saved + 1):
         raise Broken(f"version {version} is there")
     _require_whole_backups(left, version)
+    _require_draft(workshop, typed, version)
     _require_few_temporaries(workshop.home, left)
     return version
+
+
+def _drafts(home):
+    for path in glob.glob(os.path.join(home, ".local", "state", "tarn", "draft-*")):
+        with open(path, encoding="utf-8") as file:
+            try:
+                yield json.load(file)
+            except ValueError as error:
+                raise Broken(f"the draft {path} is not whole: {error}") from error
+
+
+def _require_draft(workshop, typed, version):
+    """What was typed when the room screen was left is stored or in a draft; and every draft is
+    whole."""
+    kept = [
+        {room["remark"] for room in draft.get("rooms") or ()} for draft in _drafts(workshop.home)
+    ]
+    if typed > version and {f"version {typed}"} not in kept:
+        raise Broken(f"version {typed} was typed and left, and is in no draft")
 
 
 def _require_few_temporaries(*folders):
