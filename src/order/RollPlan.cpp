@@ -35,7 +35,9 @@ class RollPlanner {
                 const SheetPaper& paper)
         : candidate_(candidate)
         , request_(order.Request)
-        , body_(BodyOf(paper)) {
+        , body_(BodyOf(paper))
+        , length_(static_cast<Long>(candidate.Figures->Length))
+        , headWidth_(WidthOfText(HeadOf({length_, length_}), StripHeadSize)) {
         for (const OrderPiece& piece : candidate.Pieces) {
             LabelledBox box;
             box.Letter = piece.Label;
@@ -68,7 +70,8 @@ class RollPlanner {
     /// The scale for so many strips beside each other; nothing when they are too many.
     std::optional<Double> ScaleFor(int columns, Double lane) const {
         const Double width = body_.Width() / columns - RulerWidth - StripGap - lane;
-        if (columns > 1 && width < LeastWidth) {
+        if (columns > 1 &&
+            (width < LeastWidth || body_.Width() / columns < headWidth_ + StripGap)) {
             return std::nullopt;
         }
         const Double most =
@@ -89,13 +92,12 @@ class RollPlanner {
     RollPlan Folded(int columns, Double lane) const {
         RollPlan plan;
         plan.Scale = *ScaleFor(columns, lane);
-        const PageKind kind{columns, lane, plan.Scale,
-                            static_cast<Long>(candidate_.Figures->Length)};
+        const PageKind kind{columns, lane, plan.Scale};
         Long from = 0;
         do {
             plan.Pages.push_back(PageFrom(from, kind));
             from = plan.Pages.back().Strips.back().Stretch.To;
-        } while (from < kind.Length);
+        } while (from < length_);
         return plan;
     }
 
@@ -104,7 +106,6 @@ class RollPlanner {
         int Columns;
         Double Lane;
         Double Scale;
-        Long Length; ///< of the whole roll
     };
 
     /// A page with as much room for notes at its foot as it needs, within bounds.
@@ -132,12 +133,12 @@ class RollPlanner {
         const StretchLimits limits{WholeUnits(height / kind.Scale),
                                    WholeUnits(LeastPart / kind.Scale)};
         const Double width = static_cast<Double>(candidate_.RollWidth) * kind.Scale;
-        for (int column = 0; column < kind.Columns && (column == 0 || from < kind.Length);
-             ++column) {
+        const Double pitch = std::max(RulerWidth + width + kind.Lane, headWidth_) + StripGap;
+        for (int column = 0; column < kind.Columns && (column == 0 || from < length_); ++column) {
             RollStrip strip;
-            strip.Stretch = StretchFrom(candidate_.Pieces, from, kind.Length, limits);
-            strip.Roll.Left =
-                body_.Left + RulerWidth + column * (RulerWidth + width + kind.Lane + StripGap);
+            strip.Stretch = StretchFrom(candidate_.Pieces, from, length_, limits);
+            strip.Head = HeadOf(strip.Stretch);
+            strip.Roll.Left = body_.Left + RulerWidth + column * pitch;
             strip.Roll.Right = strip.Roll.Left + width;
             strip.Roll.Top = body_.Top + StripHeadHeight;
             strip.Roll.Bottom =
@@ -151,6 +152,11 @@ class RollPlanner {
         }
         AddNotes(page);
         return page;
+    }
+
+    std::string HeadOf(const RollStretch& stretch) const {
+        return WholeLengthText(stretch.From, request_.In) + " to " +
+               OrderLengthText(stretch.To, request_.In);
     }
 
     static Long WholeUnits(Double length) {
@@ -240,6 +246,8 @@ class RollPlanner {
     const OrderCandidate& candidate_;
     const OrderRequest& request_;
     SheetArea body_;
+    Long length_;                    ///< of the whole roll
+    Double headWidth_;               ///< of the widest head of a strip, twips
     std::vector<LabelledBox> boxes_; ///< for each piece, without its place
 };
 

@@ -15,6 +15,7 @@ namespace tarn {
 /// A strip of the folded roll, placed on its page.
 struct RollStrip {
     RollStretch Stretch;
+    std::string Head;                ///< which stretch it is
     SheetArea Roll;                  ///< the whole width of the roll, twips
     std::vector<std::size_t> Pieces; ///< those that it shows
     std::vector<LabelledBox> Boxes;  ///< for each of them
@@ -40,7 +41,9 @@ struct RollPlan {
 inline constexpr Double NoteSize = 9;
 inline constexpr Double NoteGap = 240;
 
-/// Room for what stands over each strip, twips, and at its left.
+/// The type size of the strips' heads, points, and the room over each strip, twips, and at its
+/// left.
+inline constexpr Double StripHeadSize = 9;
 inline constexpr Double StripHeadHeight = 560;
 inline constexpr Double RulerWidth = 860;
 /// Room below each strip, for half a line of the ruler.

@@ -30,8 +30,8 @@ Drawing NewPage(const SheetPaper& paper, std::string_view head) {
 
 void NumberPages(std::vector<Drawing>& pages, const SheetPaper& paper) {
     for (std::size_t i = 0; i < pages.size(); ++i) {
-        const std::string number = TrimStr(static_cast<long long>(i + 1)) + " of " +
-                                   TrimStr(static_cast<long long>(pages.size()));
+        const std::string number =
+            TrimStr(static_cast<Long>(i + 1)) + " of " + TrimStr(static_cast<Long>(pages.size()));
         pages[i].AddText(paper.Width - paper.Margin - WidthOfText(number, HeadSize), paper.Margin,
                          number, HeadSize);
     }

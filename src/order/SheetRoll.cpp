@@ -13,7 +13,6 @@ namespace tarn {
 
 namespace {
 
-constexpr Double HeadSize = 9;
 constexpr Double HatchStep = 130; ///< between two hatching lines, down the page
 constexpr Double TickLength = 60;
 constexpr Double LongTickLength = 110;
@@ -47,7 +46,6 @@ class RollPainter {
 
   private:
     std::string Text(Long length) const { return WholeLengthText(length, request_.In); }
-    std::string LengthWithUnit(Long length) const { return OrderLengthText(length, request_.In); }
 
     Double Down(const RollStrip& strip, Long y) const {
         return strip.Roll.Top + static_cast<Double>(y - strip.Stretch.From) * plan_.Scale;
@@ -57,10 +55,8 @@ class RollPainter {
     void PaintHead(Drawing& page, const RollStrip& strip) const {
         const Double top = strip.Roll.Top - StripHeadHeight + 20;
         const Double left = strip.Roll.Left - RulerWidth;
-        page.AddText(left, top,
-                     Text(strip.Stretch.From) + " to " + LengthWithUnit(strip.Stretch.To),
-                     HeadSize);
-        const Double second = top + HeightOfLine(HeadSize) + 40;
+        page.AddText(left, top, strip.Head, StripHeadSize);
+        const Double second = top + HeightOfLine(StripHeadSize) + 40;
         page.AddText(strip.Roll.Left, second, "pile", LeastTypeSize);
         const Double x = strip.Roll.Left + WidthOfText("pile", LeastTypeSize) + 110;
         const Double tip = second + HeightOfLine(LeastTypeSize) + 20;
@@ -113,8 +109,10 @@ class RollPainter {
 
     void Hatch(Drawing& page, const SheetArea& area) const {
         // Of all lines x + y = k × HatchStep, so that the hatching goes on from area to area.
-        const Double first = std::ceil((area.Left + area.Top) / HatchStep) * HatchStep;
-        for (Double sum = first; sum < area.Right + area.Bottom; sum += HatchStep) {
+        const auto first = static_cast<Long>(std::ceil((area.Left + area.Top) / HatchStep));
+        const auto last = static_cast<Long>((area.Right + area.Bottom) / HatchStep);
+        for (Long i = first; i <= last; ++i) {
+            const Double sum = i * HatchStep;
             const Double x1 = std::max(area.Left, sum - area.Bottom);
             const Double x2 = std::min(area.Right, sum - area.Top);
             page.AddLine(x1, sum - x1, x2, sum - x2, DrawingColor::Gray, FineLine);
@@ -184,13 +182,13 @@ class RollPainter {
         page.AddLine(body.Left, foot - NoteGap / 4, body.Right, foot - NoteGap / 4,
                      DrawingColor::Gray, FineLine);
         for (std::size_t i = 0; i < planned.Notes.size(); ++i) {
-            const auto column = static_cast<Double>(i / planned.NoteLines);
-            const auto row = static_cast<Double>(i % planned.NoteLines);
+            const std::size_t column = i / planned.NoteLines;
+            const std::size_t row = i % planned.NoteLines;
             if (i >= planned.NoteLines * planned.NoteColumns) {
                 rest_.push_back(planned.Notes[i]);
             } else {
-                page.AddText(body.Left + column * width, foot + row * line, planned.Notes[i],
-                             NoteSize);
+                page.AddText(body.Left + static_cast<Double>(column) * width,
+                             foot + static_cast<Double>(row) * line, planned.Notes[i], NoteSize);
             }
         }
     }
