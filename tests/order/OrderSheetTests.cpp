@@ -215,6 +215,15 @@ TEST(OrderSheet, LosesNoLabelOfPiecesThatAreTooSmall) {
     }
 }
 
+TEST(OrderSheet, HasAPageMoreForLabelsThatFindNoPlaceAtTheFoot) {
+    const Project project = ProjectOf(std::vector<testing::RoomSides>(450, {4, 5}));
+    const Order order = MakeOrderOf(project, RequestFor(1200), 20);
+    const auto pages = SheetOf(project, order);
+    ExpectReadable(pages, A4Sheet);
+    ExpectWhole(project, order, pages);
+    EXPECT_THAT(WordsOf(pages.at(2)), HasSubstr(" Pieces too small to be labelled on the roll "));
+}
+
 TEST(OrderSheet, BeginsWithWhatToBuy) {
     const HouseKind kind{20, Units::Imperial, true};
     Project project = HouseOf(kind);
