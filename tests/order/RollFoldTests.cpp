@@ -97,7 +97,7 @@ TEST(LeftOvers, AndPiecesCoverAnyStretchOnce) {
         const auto length = static_cast<Long>(best.Figures->Length);
         const Long from = Between(random, 0, length / 2);
         const Long to = Between(random, from + 1, length);
-        std::vector<int> taken(static_cast<std::size_t>(40 * length));
+        std::vector<int> taken(std::size_t{40} * static_cast<std::size_t>(length));
         const auto take = [&](Long x1, Long y1, Long x2, Long y2) {
             for (Long y = std::max(y1, from); y < std::min(y2, to); ++y) {
                 for (Long x = x1; x < x2; ++x) {
