@@ -71,7 +71,7 @@ std::vector<std::string> NotesOf(const Project& project, const OrderRequest& req
     }
     const Long narrow = request.In == Units::Metric ? NarrowFillCentimetres : NarrowFillInches;
     const std::vector<Long> slivers = RoomsWhere(strips, [&](const OrderStrip& strip) {
-        return strip.Count > 1 && strip.NetWidth < narrow;
+        return strip.Count > 1 && strip.NetWidth < std::min(narrow, candidate.UsableWidth);
     });
     if (!slivers.empty()) {
         notes.push_back("A fill narrower than " + OrderLengthText(narrow, request.In) + ": " +

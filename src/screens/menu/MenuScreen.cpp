@@ -81,6 +81,11 @@ void MenuScreen::BuildPanel() {
     notSaved_ = NewLabel(panel, Controls::notSaved, "NOT SAVED");
     SetRole(*notSaved_, TextRole::Warning);
     notSaved_->setAlignment(Qt::AlignCenter);
+    notKept_ = NewLabel(panel, Controls::notKept, "");
+    SetRole(*notKept_, TextRole::Warning);
+    notKept_->setAlignment(Qt::AlignCenter);
+    notKept_->setWordWrap(true);
+    Shared().Drafts.OnTrouble(*this, [this] { ShowTrouble(); });
 
     QHBoxLayout* units = BuildUnits(panel);
     QHBoxLayout* drafts = BuildTakeBack(panel);
@@ -96,6 +101,7 @@ void MenuScreen::BuildPanel() {
     SetSpacing(*layout, Metrics::Margin);
     layout->addWidget(heading);
     layout->addWidget(notSaved_);
+    layout->addWidget(notKept_);
     layout->addLayout(units);
     layout->addLayout(drafts);
     layout->addWidget(enterRooms_);
@@ -155,7 +161,14 @@ void MenuScreen::ShowProject() {
     notSaved_->setVisible(project.HasUnsavedRooms());
     metric_->setChecked(project.Shown == Units::Metric);
     ShowUnits();
+    ShowTrouble();
     OfferDrafts();
+}
+
+void MenuScreen::ShowTrouble() {
+    const std::string& trouble = Shared().Drafts.Trouble();
+    notKept_->setText(ToQt("NOT KEPT: " + trouble));
+    notKept_->setVisible(!trouble.empty());
 }
 
 void MenuScreen::ShowUnits() {

@@ -32,6 +32,7 @@ class MenuScreen : public TitledScreen {
     /// Show what the open project is: its units, whether it is saved, which drafts it has.
     void ShowProject();
     void ShowUnits();
+    void ShowTrouble();
     void OfferDrafts();
     /// Take back the draft of that place among those offered.
     void TakeBack(std::size_t place);
@@ -40,6 +41,7 @@ class MenuScreen : public TitledScreen {
     void Estimate();
 
     QLabel* notSaved_ = nullptr;
+    QLabel* notKept_ = nullptr; ///< why the unsaved rooms are in no draft either
     QCheckBox* metric_ = nullptr;
     QPushButton* enteredIn_ = nullptr; ///< says so, and changes Metric
     QPushButton* takeBack_ = nullptr;

@@ -8,6 +8,8 @@
 #include "store/TestDatabase.h"
 
 #include <QCheckBox>
+#include <QFile>
+#include <QLabel>
 #include <QMenu>
 #include <QPushButton>
 #include <QTimer>
@@ -57,6 +59,24 @@ TEST_F(MenuDrafts, AreNotOfferedWhenThereAreNone) {
     Load();
     EXPECT_FALSE(Shows(Controls::takeBack));
     EXPECT_FALSE(Shows(Controls::earlierRooms));
+}
+
+TEST_F(MenuDrafts, ThatCannotBeWrittenSayWhy) {
+    testing::WriteFile(FromQt(state.filePath(QStringLiteral("tarn"))), "no folder");
+    Load();
+    EXPECT_FALSE(Shows(Controls::notKept));
+    open.Now.Rooms.pop_back();
+    drafts.NoteChange();
+    drafts.Flush();
+    Load(MenuEntry::Returning);
+    EXPECT_TRUE(Shows(Controls::notSaved));
+    EXPECT_TRUE(Shows(Controls::notKept)) << "BACKWARD and the exit would lose the rooms";
+    const auto& label = Find<QLabel>(*menu, Controls::notKept);
+    EXPECT_TRUE(label.text().startsWith(QStringLiteral("NOT KEPT: ")))
+        << label.text().toStdString();
+    QFile::remove(state.filePath(QStringLiteral("tarn")));
+    drafts.Flush();
+    EXPECT_FALSE(Shows(Controls::notKept));
 }
 
 TEST_F(MenuDrafts, AreOfferedWithTheirTime) {
