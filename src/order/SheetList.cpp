@@ -37,7 +37,10 @@ class ListPainter {
         : paper_(paper)
         , head_(head)
         , body_(BodyOf(paper))
-        , units_(order.Request.In) {
+        , units_(order.Request.In)
+        , patternAdvice_(order.Request.Pattern.Along > 0
+                             ? " Where a piece must match, cut on the pattern, not on the tape."
+                             : "") {
         for (const CutLine& line : CutLines(project, order.Request, candidate)) {
             rows_.push_back({line.Label, line.From, line.To, line.Across, line.Size,
                              OneLine(line.Room), line.Which, line.Match});
@@ -123,7 +126,7 @@ class ListPainter {
         y_ = AddLines(pages_.back(), body_,
                       WrappedText("Cut in this order. From and to count along the roll from its "
                                   "start, across from its usable edge; " +
-                                      unit + ".",
+                                      unit + "." + patternAdvice_,
                                   body_.Width(), CaptionSize),
                       CaptionSize) +
              2 * RowGap;
@@ -157,6 +160,7 @@ class ListPainter {
     std::string_view head_;
     SheetArea body_;
     Units units_;
+    std::string patternAdvice_;
     std::vector<Row<std::string>> rows_;
     Row<Double> widths_{};
     std::vector<Drawing> pages_;

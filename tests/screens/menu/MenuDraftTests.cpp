@@ -41,7 +41,8 @@ struct MenuDrafts : ScreenTest {
     }
     void Leave(const Draft& draft, int minutesBefore) {
         const QDateTime written(QDate(2026, 3, 13), QTime(14, 5));
-        other.Write(other.NewFile("P"), "P", draft, written.addSecs(-60 * minutesBefore).toUTC());
+        other.Write(other.NewFile("P"), "P", draft,
+                    written.addSecs(qint64{-60} * minutesBefore).toUTC());
     }
     QPushButton& Button(const char* name) const { return Find<QPushButton>(*menu, name); }
     bool Shows(const char* name) const { return Find(*menu, name).isVisible(); }
