@@ -74,7 +74,7 @@ std::string ImprovePlot(const std::vector<FlooringResult>& results) {
         const double y = Bottom - percent * scale;
         svg += "<line x1=\"" + Number(Left) + "\" y1=\"" + Number(y) + "\" x2=\"" + Number(Right) +
                "\" y2=\"" + Number(y) + "\" stroke=\"#DDDDDD\"/>\n" +
-               Text(Left - 8, y + 4, "end", Format(percent, "0") + "%");
+               Text(Left - 8, y + 4, "end", std::to_string(percent) + "%");
     }
     const double step = (Right - Left) / MostPiecesPerFill;
     for (std::size_t i = 0; i < groups.size(); ++i) {

@@ -130,7 +130,7 @@ std::optional<OrderRequest> ReadOrderRequestJson(std::string_view json, Units un
     }
     const QJsonObject object = document.object();
     OrderRequest request = DefaultOrderRequest(units);
-    for (const QJsonValue& roll : object.value(u"rolls").toArray()) {
+    for (const auto& roll : object.value(u"rolls").toArray()) {
         request.Rolls.push_back(RollOf(roll.toObject(), units));
     }
     if (object.contains(u"lay")) {
