@@ -1,34 +1,49 @@
 #include "base/Text.h"
 
 #include <algorithm>
-#include <array>
+#include <utility>
 
 namespace tarn {
 
 namespace {
 
-/// The character at the beginning of a UTF-8 text.
-struct FirstCharacter {
-    std::size_t Length = 1; ///< its bytes; 1 where no character begins
-    bool Storable = false;
-};
+/// The length in bytes of the character that the text begins with, 0 when its first byte belongs to
+/// none.
+std::size_t FirstCharacterLength(std::string_view utf8) {
+    const auto byte = [utf8](std::size_t at) { return static_cast<unsigned char>(utf8[at]); };
+    const unsigned char lead = byte(0);
+    const std::size_t length = lead < 0x80U                    ? 1
+                               : lead >= 0xC2U && lead < 0xE0U ? 2
+                               : lead >= 0xE0U && lead < 0xF0U ? 3
+                               : lead >= 0xF0U && lead < 0xF5U ? 4
+                                                               : 0;
+    if (length == 0 || utf8.size() < length ||
+        !std::all_of(utf8.begin() + 1, utf8.begin() + static_cast<std::ptrdiff_t>(length),
+                     ContinuesCharacter)) {
+        return 0;
+    }
+    const bool tooLong = (lead == 0xE0U && byte(1) < 0xA0U) || (lead == 0xF0U && byte(1) < 0x90U);
+    const bool surrogate = lead == 0xEDU && byte(1) >= 0xA0U;
+    const bool beyondLast = lead == 0xF4U && byte(1) >= 0x90U;
+    return tooLong || surrogate || beyondLast ? 0 : length;
+}
 
-FirstCharacter FirstCharacterOf(std::string_view utf8) {
-    const auto lead = static_cast<unsigned char>(utf8.front());
-    // Of a longer character the lead has as many ones at its left as the character has bytes.
-    const std::size_t length = lead < 0x80U ? 1 : lead < 0xE0U ? 2 : lead < 0xF0U ? 3 : 4;
-    if ((lead >= 0x80U && lead < 0xC0U) || lead >= 0xF8U || utf8.size() < length) {
-        return {};
+/// What is wrong with the first character of a text, and its length in bytes; 1 for a byte that
+/// belongs to none.
+std::pair<TextFault, std::size_t> FirstFault(std::string_view utf8) {
+    constexpr unsigned HighControls = 0xC2U; // U+0080 to U+009F are C2 80 to C2 9F
+    const std::size_t length = FirstCharacterLength(utf8);
+    if (length == 0) {
+        return {TextFault::NotUtf8, 1};
     }
-    char32_t c = length == 1 ? lead : lead & (0x7FU >> length);
-    for (const char byte : utf8.substr(1, length - 1)) {
-        if (!ContinuesCharacter(byte)) {
-            return {};
-        }
-        c = (c << 6U) | (static_cast<unsigned char>(byte) & 0x3FU);
+    const auto first = static_cast<unsigned char>(utf8.front());
+    const auto last = static_cast<unsigned char>(utf8[length - 1]);
+    if ((length == 1 || first == HighControls) && IsControlCharacter(last)) {
+        return {TextFault::ControlCharacter, length};
     }
-    constexpr std::array<char32_t, 5> LeastOfLength = {0, 0, 0x80, 0x800, 0x10000};
-    return c < LeastOfLength.at(length) ? FirstCharacter{} : FirstCharacter{length, IsStorable(c)};
+    const std::string_view character = utf8.substr(0, length);
+    const bool none = character == "\xEF\xBF\xBE" || character == "\xEF\xBF\xBF";
+    return {none ? TextFault::NoCharacter : TextFault::None, length};
 }
 
 } // namespace
@@ -80,7 +95,6 @@ TextFault FindTextFault(std::string_view utf8) {
 }
 
 std::string ShownText(std::string_view utf8) {
-    constexpr std::string_view ReplacementCharacter = "\xEF\xBF\xBD";
     std::string shown;
     shown.reserve(utf8.size());
     while (!utf8.empty()) {
@@ -105,17 +119,6 @@ std::string OneLine(std::string_view utf8) {
         }
     }
     return line;
-}
-
-std::string StorableText(std::string_view utf8) {
-    std::string text;
-    text.reserve(utf8.size());
-    while (!utf8.empty()) {
-        const FirstCharacter first = FirstCharacterOf(utf8);
-        text += first.Storable ? utf8.substr(0, first.Length) : Replacement;
-        utf8.remove_prefix(first.Length);
-    }
-    return text;
 }
 
 } // namespace tarn

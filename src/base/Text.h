@@ -51,24 +51,13 @@ enum class TextFault {
 /// The first fault of a text.
 TextFault FindTextFault(std::string_view utf8);
 
-/// The text as it is shown: with U+FFFD for each fault, and so without any.
+/// U+FFFD, which stands for what no text may hold.
+inline constexpr std::string_view ReplacementCharacter = "\xEF\xBF\xBD";
+
+/// The text as it is shown: with ReplacementCharacter for each fault, and so without any.
 std::string ShownText(std::string_view utf8);
 
 /// The text with a blank for each control character: what can stand in one line.
 std::string OneLine(std::string_view utf8);
-
-/// U+FFFD, which stands for what may not be stored.
-inline constexpr std::string_view Replacement = "\xEF\xBF\xBD";
-
-/// Whether a character may stand in a text that is stored: neither a control character nor U+FFFE,
-/// U+FFFF or half of a surrogate pair.
-constexpr bool IsStorable(char32_t c) {
-    return !IsControlCharacter(c) && c != 0xFFFE && c != 0xFFFF && (c < 0xD800 || c > 0xDFFF) &&
-           c <= 0x10FFFF;
-}
-
-/// The text as it may be stored and as it is shown when it was stored otherwise: with Replacement
-/// for each character that is not IsStorable, and for each byte that is part of none.
-std::string StorableText(std::string_view utf8);
 
 } // namespace tarn

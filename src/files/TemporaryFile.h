@@ -5,6 +5,7 @@
 #include "files/Descriptor.h"
 
 #include <cstddef>
+#include <filesystem>
 #include <optional>
 #include <string>
 #include <string_view>

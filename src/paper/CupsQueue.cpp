@@ -158,7 +158,7 @@ int CupsQueue::CreateJob(const std::string& title) {
     return job;
 }
 
-bool CupsQueue::Arrived(int job, const PrinterError& failure) {
+bool CupsQueue::KeepIfArrived(int job, const PrinterError& failure) {
     server_.GrantRest();
     try {
         const Ipp request = NewJobRequest(IPP_OP_GET_JOB_ATTRIBUTES, job);
@@ -192,7 +192,7 @@ void CupsQueue::Submit(const std::string& title, const std::string& document) {
             throw Refusal(answer);
         }
     } catch (const PrinterError& error) {
-        if (!Arrived(job, error)) {
+        if (!KeepIfArrived(job, error)) {
             throw;
         }
     }

@@ -40,9 +40,9 @@ class CupsQueue {
     void RequireReady(ipp_t* queue) const;
     int CreateJob(const std::string& title);
     PrinterError Refusal(const Ipp& answer) const;
-    /// After that failure: whether the server has the whole document of the job all the same, and
-    /// goes on with it. Otherwise it is cancelled. Raises PrinterError when it is not known.
-    bool Arrived(int job, const PrinterError& failure);
+    /// Find out after that failure whether the server has the whole document of the job all the
+    /// same and goes on with it; otherwise cancel it. Raises PrinterError when it is not known.
+    bool KeepIfArrived(int job, const PrinterError& failure);
 
     CupsServer server_;
     std::string name_;

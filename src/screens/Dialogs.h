@@ -19,6 +19,10 @@ class Dialogs {
     void Message(const std::string& text) { Message(text, {}); }
     /// A question with Yes and No. No is the default; Escape and closing the box count as No.
     virtual bool AskYesNo(const std::string& text) = 0;
+    /// A question with a button for each of `actions`, and Cancel, which is the default; Escape and
+    /// closing the box count as it. The place of the action chosen; nothing when it was cancelled.
+    virtual std::optional<std::size_t> Choose(const std::string& text,
+                                              const std::vector<std::string>& actions) = 0;
     /// An input box for one line (see OneLineText), in which `initial` stands selected. Nothing
     /// when it was cancelled.
     virtual std::optional<std::string> Input(const std::string& prompt,

@@ -3,6 +3,7 @@
 #include "base/Text.h"
 #include "files/QtText.h"
 #include "project/TypedText.h"
+#include "screens/Controls.h"
 
 #include <QDir>
 #include <QFileDialog>

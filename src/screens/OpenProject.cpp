@@ -97,12 +97,6 @@ std::optional<std::string> SaveAsNewProject(OpenProject& project, ProjectStore& 
     return refusal;
 }
 
-std::string SaveAndNameEmptyRooms(OpenProject& project, ProjectStore& store) {
-    std::string emptyRooms = EmptyRoomsText(project.Saved.Rooms, project.Now.Rooms);
-    SaveOpenProject(project, store);
-    return emptyRooms;
-}
-
 void DropRooms(OpenProject& project) {
     OpenProject dropped;
     dropped.Now.Name = std::move(project.Now.Name);

@@ -65,10 +65,6 @@ bool IsWorthTakingBack(const Draft& draft, const OpenProject& project);
 /// RequireExtents, with nothing changed.
 void TakeBack(OpenProject& project, const Draft& draft);
 
-/// SaveOpenProject; answers what to say of rooms that it stored without a size for the first time
-/// (see EmptyRoomsText).
-std::string SaveAndNameEmptyRooms(OpenProject& project, ProjectStore& store);
-
 /// Drop the project's rooms from memory, saved or not, and all else that belongs to them; its name
 /// and its directory remain. What is stored stays.
 void DropRooms(OpenProject& project);

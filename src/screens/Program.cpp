@@ -3,6 +3,8 @@
 #include "screens/Display.h"
 #include "screens/Guard.h"
 #include "screens/WaitCursor.h"
+#include "store/Backups.h"
+#include "store/Configuration.h"
 #include "store/Months.h"
 
 #include <QApplication>

@@ -40,6 +40,9 @@ class Program {
     bool CanRun(const std::vector<std::filesystem::path>& configurationDirectories,
                 QSize displayPixels);
     void Show(const QLocale& locale);
+    /// Make the backup that goes before the first change of a run. A message says when it cannot be
+    /// made.
+    void BackUp();
 
     OpenProject project_;
     ProjectStore store_;

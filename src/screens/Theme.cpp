@@ -1,5 +1,6 @@
 #include "screens/Theme.h"
 
+#include "screens/ControlNames.h"
 #include "screens/Display.h"
 #include "screens/IndicatorStyle.h"
 
@@ -33,10 +34,10 @@ void SetStyled(QWidget& widget, const char* property, const QVariant& value) {
     widget.style()->polish(&widget);
 }
 
-// @NAME stands for a colour, a number before tw for twips.
+// @NAME stands for a colour or a type size, a number before tw for twips, %NAME% for a control.
 constexpr const char* SheetTemplate = R"(
 QWidget { font-size: @BaseFontpt; color: @Text; }
-QWidget#Window, QWidget#Body, QMessageBox, QInputDialog { background: @Window; }
+QWidget#%Window%, QWidget#%Body%, QMessageBox, QInputDialog { background: @Window; }
 QMenuBar { background: @Surface; color: @Text; border-bottom: 1px solid @Border; }
 QMenuBar::item { padding: 60tw 150tw; background: transparent; }
 QMenuBar::item:selected, QMenu::item:selected { background: @Accent; color: @AccentText; }
@@ -111,8 +112,8 @@ QScrollBar::handle:vertical { min-height: 450tw; }
 QScrollBar::handle:horizontal { min-width: 450tw; }
 QScrollBar::add-line, QScrollBar::sub-line { width: 0; height: 0; }
 QScrollBar::add-page, QScrollBar::sub-page { background: none; }
-#Picture1 { background: white; border: 2px solid @Border; }
-#Picture1:focus { border-color: @Accent; }
+#%Picture% { background: white; border: 2px solid @Border; }
+#%Picture%:focus { border-color: @Accent; }
 QScrollArea { border: none; background: @Window; }
 )";
 
@@ -161,7 +162,15 @@ QString StyleSheet(const Colours& colours) {
     for (const auto& [name, size] : sizes) {
         sheet.replace(QLatin1String(name), QString::number(size));
     }
-    return WithPixels(sheet);
+    const std::array<std::pair<const char*, const char*>, 3> controls{
+        {{"%Window%", Controls::window},
+         {"%Body%", Controls::body},
+         {"%Picture%", Controls::layoutPicture}}};
+    sheet = WithPixels(sheet);
+    for (const auto& [name, control] : controls) {
+        sheet.replace(QLatin1String(name), QLatin1String(control));
+    }
+    return sheet;
 }
 
 const char* RoleName(TextRole role) {

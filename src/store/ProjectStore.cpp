@@ -173,8 +173,8 @@ void LoadSheet(Connection& connection, const StoredProject& stored, LoadedProjec
 Project StorableProject(Project project) {
     project.IsNew = false;
     for (Room& room : project.Rooms) {
-        room.Number = StorableText(room.Number);
-        room.Remark = StorableText(room.Remark);
+        room.Number = ShownText(room.Number);
+        room.Remark = ShownText(room.Remark);
     }
     if (project.Rooms.empty()) {
         project.EnteredIn = Units::Imperial;

@@ -104,7 +104,7 @@ std::string StoredRow::TextIn(std::string_view field) const {
     if (value.isNull()) {
         return {};
     }
-    return IsReal(value) ? DecimalText(value.toDouble()) : StorableText(TextOf(value));
+    return IsReal(value) ? DecimalText(value.toDouble()) : ShownText(TextOf(value));
 }
 
 std::string StoredRow::Content() const {
@@ -163,7 +163,7 @@ std::vector<StoredRow> Table::RowsWhere(std::string_view field, const QVariant& 
 std::vector<StoredRow> Table::RowsShowing(std::string_view field, std::string_view text) {
     const std::string name(field);
     std::vector<StoredRow> rows;
-    if (text.find(Replacement) != std::string_view::npos) {
+    if (text.find(ReplacementCharacter) != std::string_view::npos) {
         rows = Rows(); // what is replaced in reading stands there as something else
     } else {
         rows = RowsWhere(field, TextValue(text));

@@ -39,7 +39,7 @@ class StoredRow {
     Integer IntegerIn(std::string_view field) const;
     Byte ByteIn(std::string_view field) const;
     /// The text in a field, null as the empty text, a number as its decimal text; with a
-    /// Replacement for what may not be stored, whoever stored it.
+    /// ReplacementCharacter for what may not be stored, whoever stored it.
     std::string TextIn(std::string_view field) const;
     /// All that stands in the row, as bytes to be compared: two rows have the same where the same
     /// fields hold the same values of the same types. A null counts as a missing field.
@@ -79,7 +79,7 @@ class Table {
     std::vector<StoredRow> RowsWhere(std::string_view field, const QVariant& value,
                                      std::string_view order = {});
     /// The rows whose `field` reads as `text`, whatever the case of A to Z, by row number. Found by
-    /// the field's index, unless the text holds a Replacement.
+    /// the field's index, unless the text holds a ReplacementCharacter.
     std::vector<StoredRow> RowsShowing(std::string_view field, std::string_view text);
     /// The greatest value of a field of numbers; nothing when no row has one.
     std::optional<Double> Greatest(std::string_view field);

@@ -207,9 +207,8 @@ void WriteOutputs(const OrderOptions& options, const OrderDocument& document) {
 void OrderFor(const OrderOptions& options) {
     RequireOutputsBesideInput(options);
     OrderDocument document = ReadProject(options);
-    const OrderRequest request = RequestOf(options, document.In, std::nullopt);
-    const std::vector<Byte> carpets = CarpetsOf(options, document.Of);
-    if (!options.Svg.empty() && carpets.size() > 1) {
+    const std::map<Byte, OrderRequest> requests = RequestsOf(options, document);
+    if (!options.Svg.empty() && requests.size() > 1) {
         throw Refusal("The drawing of --svg shows one carpet, and there are several: choose one "
                       "with --carpet.");
     }

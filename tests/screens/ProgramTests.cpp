@@ -4,6 +4,7 @@
 #include "screens/Display.h"
 #include "screens/Program.h"
 #include "screens/ScreenTesting.h"
+#include "store/Backups.h"
 #include "store/Schema.h"
 #include "store/TestDatabase.h"
 

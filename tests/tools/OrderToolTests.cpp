@@ -2,6 +2,8 @@
 
 #include "paper/PdfTesting.h"
 #include "paper/PrintServer.h"
+#include "project/OrderLengths.h"
+#include "store/ProjectStore.h"
 #include "tools/ToolTesting.h"
 
 #include <QJsonArray>

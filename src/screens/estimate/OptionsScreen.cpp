@@ -187,7 +187,7 @@ void OptionsScreen::Continue() {
 bool OptionsScreen::MakeEstimate(SearchProgress& progress) {
     try {
         const Estimate estimate = tarn::MakeEstimate(Shared().Project.Now, request_, progress);
-        if (progress.IsStopped()) {
+        if (progress.CatchUp()) {
             return false;
         }
         client_.EstimateReady(estimate);

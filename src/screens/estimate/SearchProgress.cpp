@@ -11,7 +11,7 @@ SearchProgress::SearchProgress(QProgressBar& bar, QLabel& percentage)
     : bar_(bar)
     , percentage_(percentage) {}
 
-bool SearchProgress::IsStopped() {
+bool SearchProgress::CatchUp() {
     yield_.Now();
     return stopped_;
 }

@@ -246,7 +246,7 @@ TEST_F(SavingRooms, NamesNoRoomWhenItFails) {
     for (const int field : {2, 3}) {
         Text(field).clear();
     }
-    store = ProjectStore("It is gone.");
+    store = ProjectStore::Unavailable("It is gone.");
     ClickOn(Controls::saveRooms);
     EXPECT_EQ(boxes.Informative, Lines{""});
 }
