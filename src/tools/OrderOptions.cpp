@@ -105,7 +105,7 @@ void AddCutting(CLI::App& app, OrderOptions& options) {
     app.add_flag("--half-drop", options.HalfDrop,
                  "The next column of the pattern stands half a repeat further along");
     app.add_option("--pattern-drift", options.PatternDrift,
-                   "Percent by which the pattern may run short (default 1 with a repeat along, "
+                   "Percent by which repeats may come out longer (default 1 with a repeat along, "
                    "else 0; at most 10)")
         ->type_name("P");
 }
