@@ -8,8 +8,8 @@
 #include "files/RoomCsv.h"
 #include "project/Project.h"
 #include "tools/Files.h"
-#include "tools/Outputs.h"
 #include "tools/Refusal.h"
+#include "tools/SharedOptions.h"
 #include "tools/ToolMain.h"
 
 #include <CLI/CLI.hpp>
@@ -52,11 +52,6 @@ std::string Footer() {
            "house.svg";
 }
 
-/// Refuses an option that is given without its value ("--match=").
-std::string NotEmpty(const std::string& value) {
-    return value.empty() ? "the value is empty" : "";
-}
-
 /// "a, b or c": what `textOf` says of each minimum cut.
 std::string EachMinCut(const std::function<std::string(MinCut)>& textOf) {
     std::string list = textOf(AllMinCuts.front());
@@ -94,15 +89,7 @@ std::string MinCutDescription() {
 }
 
 void AddInput(CLI::App& app, EstimateOptions& options) {
-    auto* database = app.add_option("--database", options.Database, "Database file of the project")
-                         ->type_name("FILE");
-    auto* project =
-        app.add_option("--project", options.Project, "Name of the project")->type_name("NAME");
-    auto* rooms =
-        app.add_option("--rooms", options.Rooms, "CSV file with the rooms")->type_name("FILE.csv");
-    database->needs(project);
-    project->needs(database);
-    rooms->excludes(database)->excludes(project);
+    AddRoomsSource(app, options.Database, options.Project, options.Rooms);
     app.add_flag("--metric", options.Metric,
                  "The sizes are centimetres; lists and totals are metric");
 }
@@ -180,9 +167,7 @@ void AddImprovement(CLI::App& app, EstimateOptions& options) {
 
 /// What the single options cannot tell. Raises CLI::ValidationError.
 void CheckTogether(EstimateOptions& options) {
-    if (options.Database.empty() && options.Rooms.empty()) {
-        throw CLI::ValidationError("either --database and --project, or --rooms is required");
-    }
+    RequireRoomsSource(options.Database, options.Rooms);
     RequireDifferentOutputs({{"--text", options.Text},
                              {"--json", options.Json},
                              {"--svg", options.Svg},

@@ -3,8 +3,8 @@
 #include "base/Version.h"
 #include "project/OrderLengths.h"
 #include "tools/Files.h"
-#include "tools/Outputs.h"
 #include "tools/Refusal.h"
+#include "tools/SharedOptions.h"
 #include "tools/ToolMain.h"
 
 #include <CLI/CLI.hpp>
@@ -32,21 +32,8 @@ constexpr const char* Footer =
     "Example:\n"
     "  tarn-order --rooms house.csv --roll 12ft=18.50 --roll 15ft=19 --lay both --trim 3in";
 
-/// Refuses an option that is given without its value ("--trim=").
-std::string NotEmpty(const std::string& value) {
-    return value.empty() ? "the value is empty" : "";
-}
-
 void AddInput(CLI::App& app, OrderOptions& options) {
-    auto* database = app.add_option("--database", options.Database, "Database file of the project")
-                         ->type_name("FILE");
-    auto* project =
-        app.add_option("--project", options.Project, "Name of the project")->type_name("NAME");
-    auto* rooms =
-        app.add_option("--rooms", options.Rooms, "CSV file with the rooms")->type_name("FILE.csv");
-    database->needs(project);
-    project->needs(database);
-    rooms->excludes(database)->excludes(project);
+    AddRoomsSource(app, options.Database, options.Project, options.Rooms);
     auto* metric = app.add_flag("--metric", options.Metric, "The sizes are centimetres");
     app.add_flag("--feet", options.Feet,
                  "The sizes are inches, also of a project that was entered in metric")
@@ -145,9 +132,7 @@ void AddOutput(CLI::App& app, OrderOptions& options) {
 
 /// What the single options cannot tell. Raises CLI::ValidationError.
 void CheckTogether(OrderOptions& options) {
-    if (options.Database.empty() && options.Rooms.empty()) {
-        throw CLI::ValidationError("either --database and --project, or --rooms is required");
-    }
+    RequireRoomsSource(options.Database, options.Rooms);
     RequireDifferentOutputs({{"--text", options.Text},
                              {"--json", options.Json},
                              {"--csv", options.Csv},

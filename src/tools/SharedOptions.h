@@ -1,0 +1,28 @@
+// What the options of several programs have in common: where rooms come from, and where outputs go.
+
+#pragma once
+
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace CLI {
+class App;
+} // namespace CLI
+
+namespace tarn {
+
+/// Add --database with --project, and --rooms, which excludes them. The texts must outlive `app`.
+void AddRoomsSource(CLI::App& app, std::string& database, std::string& project, std::string& rooms);
+
+/// Raise CLI::ValidationError when neither a database nor a file of rooms was named.
+void RequireRoomsSource(const std::string& database, const std::string& rooms);
+
+/// Refuses an option that is given without its value ("--match=").
+std::string NotEmpty(const std::string& value);
+
+/// Raise CLI::ValidationError when two of the outputs (option and path, empty for none) would
+/// overwrite or mix with each other.
+void RequireDifferentOutputs(const std::vector<std::pair<std::string, std::string>>& outputs);
+
+} // namespace tarn
