@@ -6,6 +6,7 @@
 #include "base/TakeNumber.h"
 #include "base/Text.h"
 
+#include <algorithm>
 #include <optional>
 #include <stdexcept>
 
@@ -56,8 +57,14 @@ const std::array<std::string_view, 4>& WidthCaptions(Units units) {
     return units == Units::Metric ? MetricWidthCaptions : ImperialWidthCaptions;
 }
 
+std::string_view CaptionNumber(std::string_view caption) {
+    std::string_view rest = caption.substr(CaptionNumberAt);
+    rest.remove_prefix(std::min(rest.find_first_not_of(' '), rest.size()));
+    return TakeNumber(rest);
+}
+
 Single CaptionRollWidth(std::string_view caption, Units units) {
-    const Double number = Val(caption.substr(CaptionNumberAt));
+    const Double number = Val(CaptionNumber(caption));
     return units == Units::Metric ? FromCentimetres(number) : CSng(number * InchesPerFoot);
 }
 

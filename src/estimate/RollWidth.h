@@ -23,6 +23,9 @@ inline constexpr std::size_t DefaultWidth = 1;
 /// The captions in the unit in force.
 const std::array<std::string_view, 4>& WidthCaptions(Units units);
 
+/// The number in a caption as it is written: "13.5", "366".
+std::string_view CaptionNumber(std::string_view caption);
+
 /// The roll width, in inches, that a caption names: the number behind "CARPET WIDTH", in feet, or
 /// in centimetres in metric units.
 Single CaptionRollWidth(std::string_view caption, Units units);

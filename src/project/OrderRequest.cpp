@@ -51,15 +51,17 @@ Fault FaultOfRolls(const OrderRequest& request) {
         return OrderRequestFault{"roll", "At most " + TrimStr(static_cast<Long>(MostRolls)) +
                                              " rolls can be compared."};
     }
-    for (const RollChoice& roll : request.Rolls) {
+    for (std::size_t place = 0; place < request.Rolls.size(); ++place) {
+        const RollChoice& roll = request.Rolls[place];
         const bool isNumber = std::isfinite(roll.Width) && roll.Width < LongestStrip + 1;
         if (!isNumber || WholeRollWidth(roll.Width) < 1) {
             return OrderRequestFault{
                 "roll", "A roll must be between " + OrderLengthText(1, request.In) + " and " +
-                            OrderLengthText(LongestStrip, request.In) + " wide."};
+                            OrderLengthText(LongestStrip, request.In) + " wide.",
+                place};
         }
-        if (roll.Price && (!std::isfinite(*roll.Price) || *roll.Price < 0)) {
-            return OrderRequestFault{"price", "A price must be a number of 0 or more."};
+        if (roll.Price && !IsPrice(*roll.Price)) {
+            return OrderRequestFault{"price", "A price " + std::string(WhatAPriceMustBe), place};
         }
     }
     return std::nullopt;
@@ -148,6 +150,10 @@ std::optional<OrderRequestFault> FaultOf(const OrderRequest& request) {
         }
     }
     return std::nullopt;
+}
+
+bool IsPrice(Double number) {
+    return std::isfinite(number) && number >= 0;
 }
 
 Long WholeRollWidth(Double width) {

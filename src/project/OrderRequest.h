@@ -9,6 +9,7 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace tarn {
@@ -71,12 +72,17 @@ Double DriftOf(const OrderRequest& request);
 struct OrderRequestFault {
     std::string Option; ///< as the installer knows it: "half drop"
     std::string Reason; ///< a sentence: "A half drop needs a repeat along."
+    std::size_t Roll = 0; ///< number of the roll, where the fault is that of one
 
     bool operator==(const OrderRequestFault&) const = default;
 };
 
 /// The first fault of a request; nothing when all of it is within its bounds.
 std::optional<OrderRequestFault> FaultOf(const OrderRequest& request);
+
+/// Whether a number can be a price, and what one must be, behind its name.
+bool IsPrice(Double number);
+inline constexpr std::string_view WhatAPriceMustBe = "must be a number of 0 or more.";
 
 /// A roll's width in whole units: what is not whole is rounded down.
 Long WholeRollWidth(Double width);

@@ -1,7 +1,7 @@
 #include "tools/OrderOptions.h"
 
 #include "base/Version.h"
-#include "project/OrderLengths.h"
+#include "project/OrderEntry.h"
 #include "tools/Files.h"
 #include "tools/Refusal.h"
 #include "tools/SharedOptions.h"
@@ -9,7 +9,6 @@
 
 #include <CLI/CLI.hpp>
 
-#include <cmath>
 #include <utility>
 
 namespace tarn {
@@ -150,27 +149,19 @@ void CheckTogether(OrderOptions& options) {
     throw Refusal(option + " \"" + value + "\": " + reason);
 }
 
-Double LengthOf(const std::string& option, const std::string& value, Units units) {
-    const auto length = ReadOrderLength(value, units);
-    if (!length) {
-        Refuse(option, value, "write the length as 12ft6in, 18in, 366cm or 3.66m.");
+template <class Value>
+Value Require(const std::string& option, const std::string& value, const Reading<Value>& reading) {
+    if (!reading.Read) {
+        Refuse(option, value, reading.Reason);
     }
-    return *length;
+    return *reading.Read;
 }
 
 void TakeLength(const std::string& option, const std::optional<std::string>& value, Units units,
                 Long& length) {
     if (value) {
-        length = RaisedToWhole(LengthOf(option, *value, units));
+        length = Require(option, *value, ReadRaisedLength(*value, units));
     }
-}
-
-Double PriceOf(const std::string& roll, const std::string& text) {
-    Double price = 0;
-    if (!CLI::detail::lexical_cast(text, price) || !std::isfinite(price) || price < 0) {
-        Refuse("--roll", roll, "the price must be a number of 0 or more.");
-    }
-    return price;
 }
 
 /// [NAME:]WIDTH[=PRICE]; a name may hold colons, but no equals sign behind the last of them.
@@ -182,16 +173,16 @@ RollChoice RollOf(const std::string& text, Units units) {
         rest.erase(0, colon + 1);
     }
     if (const auto equals = rest.find('='); equals != std::string::npos) {
-        roll.Price = PriceOf(text, rest.substr(equals + 1));
+        roll.Price = Require("--roll", text, ReadPrice(rest.substr(equals + 1)));
         rest.erase(equals);
     }
     roll.AsTyped = rest;
-    roll.Width = LengthOf("--roll", rest, units);
+    roll.Width = Require("--roll", rest, ReadLength(rest, units));
     return roll;
 }
 
 Long RepeatOf(const std::string& option, const std::string& text, Units units) {
-    const auto repeat = WholeRepeat(LengthOf("--pattern", text, units));
+    const auto repeat = WholeRepeat(Require("--pattern", text, ReadLength(text, units)));
     if (!repeat) {
         Refuse("--pattern", text, FaultOfRepeat(option, units).Reason);
     }

@@ -7,6 +7,7 @@
 #include "files/OrderXlsx.h"
 #include "files/ShortDate.h"
 #include "files/Svg.h"
+#include "order/CarpetRequests.h"
 #include "order/MakeOrder.h"
 #include "order/OrderSheet.h"
 #include "order/OrderWords.h"
@@ -51,27 +52,17 @@ OrderDocument ReadProject(const OrderOptions& options) {
     return document;
 }
 
-bool HasArea(const Room& room) {
-    return room.Width > 0 && room.Length > 0;
-}
-
 /// The carpets to be ordered: those that have a room with an area.
 std::vector<Byte> CarpetsOf(const OrderOptions& options, const Project& project) {
-    std::vector<Byte> carpets;
-    for (Byte carpet = 0; carpet < FirstTileCode; ++carpet) {
-        const bool wanted = !options.Carpet || *options.Carpet == carpet + 1;
-        if (wanted &&
-            std::any_of(project.Rooms.begin(), project.Rooms.end(), [&](const Room& room) {
-                return room.Covering == carpet && HasArea(room);
-            })) {
-            carpets.push_back(carpet);
-        }
-    }
+    std::vector<Byte> carpets = CarpetsToOrder(project);
+    std::erase_if(carpets, [&](Byte carpet) {
+        return options.Carpet.value_or(carpet + 1) != carpet + 1;
+    });
     if (carpets.empty()) {
         throw Refusal(options.Carpet
                           ? "No room with an area has " +
                                 CoveringCaption(static_cast<Byte>(*options.Carpet - 1)) + "."
-                          : "No room with an area has a carpet.");
+                          : std::string(NothingToOrder));
     }
     return carpets;
 }
