@@ -1,6 +1,7 @@
 #include "files/OrderTables.h"
 
 #include "files/CsvText.h"
+#include "order/Comparison.h"
 
 #include <array>
 #include <charconv>
@@ -46,6 +47,7 @@ std::vector<TableCell> FigureCells(const OrderCandidate& candidate, Units units)
 
 std::vector<TableCell> CandidateCells(const Order& order, std::size_t number) {
     const OrderCandidate& candidate = order.Candidates.at(number);
+    const char* const mark = IsBest(order, number) ? "best" : "chosen";
     const RollChoice& roll = order.Request.Rolls.at(candidate.Roll);
     std::vector<TableCell> cells{NumberCell(order.Carpet + 1),
                                  roll.Name,
@@ -53,7 +55,7 @@ std::vector<TableCell> CandidateCells(const Order& order, std::size_t number) {
                                  NumberCell(candidate.RollWidth),
                                  NumberCell(candidate.UsableWidth),
                                  std::string(LayWord(candidate.Direction)),
-                                 std::string(order.Best == number ? "best" : ""),
+                                 std::string(order.Best != number ? "" : mark),
                                  candidate.Refused};
     for (TableCell& cell : FigureCells(candidate, order.Request.In)) {
         cells.push_back(std::move(cell));

@@ -1,14 +1,12 @@
 #include "files/OrderText.h"
 
-#include "base/Format.h"
-#include "base/Lengths.h"
 #include "base/Text.h"
+#include "order/ComparisonText.h"
 #include "order/CutLines.h"
 #include "order/OrderWords.h"
 #include "project/Coverings.h"
 
 #include <algorithm>
-#include <array>
 
 namespace tarn {
 
@@ -41,52 +39,17 @@ std::string Columns(const std::vector<TextRow>& rows, std::size_t left) {
     return text;
 }
 
-TextRow Heads(Units units) {
-    const bool metric = units == Units::Metric;
-    return {"",
-            "Roll",
-            "Lay",
-            metric ? "Order cm" : "Order",
-            metric ? "Needed cm" : "Needed",
-            metric ? "Least possible cm" : "Least possible",
-            metric ? "Bought sq. m" : "Bought sq. ft.",
-            metric ? "Rooms sq. m" : "Rooms sq. ft.",
-            metric ? "Trimmed sq. m" : "Trimmed sq. ft.",
-            "Waste %",
-            metric ? "Seams cm" : "Seams",
-            metric ? "Joins cm" : "Joins",
-            "Price"};
-}
-
-TextRow RowOf(const Order& order, std::size_t number) {
-    const OrderCandidate& candidate = order.Candidates.at(number);
-    const Units units = order.Request.In;
-    TextRow row{order.Best == number ? "*" : "", RollName(order.Request.Rolls.at(candidate.Roll)),
-                LayName(candidate.Direction)};
-    if (!candidate.Figures) {
-        row.emplace_back("refused");
-        row.resize(Heads(units).size());
-        return row;
-    }
-    const OrderFigures& figures = *candidate.Figures;
-    const auto length = [units](std::int64_t value) {
-        return WholeLengthText(static_cast<Long>(value), units);
-    };
-    for (std::string& text : std::array<std::string, 10>{
-             length(figures.Length), length(figures.LengthNeeded), length(figures.LeastLength),
-             AreaText(figures.AreaBought, units), AreaText(figures.AreaRooms, units),
-             AreaText(figures.AreaRoomsTrimmed, units), Format(figures.WastePercent, "##0.0"),
-             SeamText(figures.SideSeams, units), SeamText(figures.CrossJoins, units),
-             figures.Price ? Format(*figures.Price, "#,##0.00") : ""}) {
-        row.push_back(std::move(text));
-    }
-    return row;
+/// A row of the comparison with its mark before it.
+TextRow MarkedRow(const char* mark, TextRow cells) {
+    cells.insert(cells.begin(), mark);
+    return cells;
 }
 
 std::string ComparisonText(const Order& order) {
-    std::vector<TextRow> rows{Heads(order.Request.In)};
+    std::vector<TextRow> rows{MarkedRow("", ComparisonHeads(order.Request.In))};
     for (std::size_t number = 0; number < order.Candidates.size(); ++number) {
-        rows.push_back(RowOf(order, number));
+        rows.push_back(MarkedRow(order.Best == number ? "*" : "",
+                                 ComparisonCells(order, order.Candidates[number])));
     }
     constexpr std::size_t LeftColumns = 3;
     return Columns(rows, LeftColumns);
@@ -111,9 +74,7 @@ std::string ListText(const OrderDocument& document, const Order& order) {
                         line.Size, line.Match});
     }
     constexpr std::size_t LeftColumns = 3;
-    std::string text = "\nBest: " + CandidateName(order, best) + ", " +
-                       OrderLengthText(static_cast<Long>(best.Figures->Length), order.Request.In) +
-                       " in one length without a join\n";
+    std::string text = '\n' + TakenText(order, *order.Best) + '\n';
     for (const std::string& note : best.Figures->Notes) {
         text += note + '\n';
     }

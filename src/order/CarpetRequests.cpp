@@ -61,16 +61,15 @@ bool AskForTheSame(const OrderRequest& a, const OrderRequest& b) {
     return a == other && DriftOf(a) == DriftOf(b);
 }
 
-void KeepRequest(std::map<Byte, OrderRequest>& requests,
-                 const std::map<Byte, OrderRequest>& stored, Byte carpet,
-                 const OrderRequest& request) {
-    const auto kept = stored.find(carpet);
-    if (kept == stored.end() && AskForTheSame(request, OfferedRequest(request.In))) {
+void KeepRequest(std::map<Byte, OrderRequest>& requests, const std::map<Byte, OrderRequest>& stored,
+                 Byte carpet, const OrderRequest& request) {
+    if (!AskForTheSame(request, RequestFor(stored, carpet, request.In).Value)) {
+        requests.insert_or_assign(carpet, request);
+    } else if (const auto kept = stored.find(carpet); kept != stored.end()) {
+        requests.insert_or_assign(carpet, kept->second);
+    } else {
         requests.erase(carpet);
-        return;
     }
-    const bool isStored = kept != stored.end() && AskForTheSame(request, kept->second);
-    requests.insert_or_assign(carpet, isStored ? kept->second : request);
 }
 
 } // namespace tarn

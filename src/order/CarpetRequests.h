@@ -32,10 +32,9 @@ CarpetRequest RequestFor(const std::map<Byte, OrderRequest>& requests, Byte carp
 /// Whether two requests ask for the same: a drift that is told may be the usual one.
 bool AskForTheSame(const OrderRequest& a, const OrderRequest& b);
 
-/// Take a carpet's changed request into `requests`. One that asks for the same as the stored one,
-/// or as the one that is offered where none is stored, leaves nothing to be saved.
-void KeepRequest(std::map<Byte, OrderRequest>& requests,
-                 const std::map<Byte, OrderRequest>& stored, Byte carpet,
-                 const OrderRequest& request);
+/// Take a carpet's changed request into `requests`. One that asks for the same as that with which
+/// the stored ones begin (see RequestFor) leaves what is stored, and so nothing to be saved.
+void KeepRequest(std::map<Byte, OrderRequest>& requests, const std::map<Byte, OrderRequest>& stored,
+                 Byte carpet, const OrderRequest& request);
 
 } // namespace tarn

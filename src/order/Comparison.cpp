@@ -162,4 +162,8 @@ std::optional<std::size_t> BestOf(const std::vector<OrderCandidate>& candidates)
     return best;
 }
 
+bool IsBest(const Order& order, std::size_t row) {
+    return BestOf(order.Candidates) == row;
+}
+
 } // namespace tarn

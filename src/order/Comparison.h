@@ -24,4 +24,7 @@ OrderFigures FiguresOf(const Project& project, const OrderRequest& request,
 /// least area; then the one with the shortest seams and joins, then the first.
 std::optional<std::size_t> BestOf(const std::vector<OrderCandidate>& candidates);
 
+/// Whether a row is the one that BestOf names: another one may be taken by choice.
+bool IsBest(const Order& order, std::size_t row);
+
 } // namespace tarn

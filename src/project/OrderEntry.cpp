@@ -204,6 +204,13 @@ TypedOrder UsualTexts(Units units) {
     return TypedOf(DefaultOrderRequest(units));
 }
 
+std::string UsualDriftText(const TypedOrder& typed) {
+    OrderRequest pattern;
+    const auto along = ReadLength(typed.PatternAlong, typed.In).Read;
+    pattern.Pattern.Along = along ? RaisedToWhole(*along) : 0;
+    return TypedNumber(DriftOf(pattern));
+}
+
 std::variant<OrderRequest, OrderRequestFault> RequestOf(const TypedOrder& typed) {
     std::vector<std::size_t> places;
     try {

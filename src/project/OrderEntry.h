@@ -62,8 +62,13 @@ struct TypedOrder {
 /// it goes with the pattern.
 TypedOrder TypedOf(const OrderRequest& request);
 
-/// What stands for a text that is empty: the usual selvage, trim, parts, step and seconds.
+/// What stands for a text that is empty: the usual selvage, trim, parts, step and seconds. For the
+/// drift see UsualDriftText.
 TypedOrder UsualTexts(Units units);
+
+/// The drift that is usual with the pattern along that is typed: what stands for an empty text of
+/// it. As without a pattern where that cannot be read.
+std::string UsualDriftText(const TypedOrder& typed);
 
 /// The request that the texts make, its drift told in any case; or the first fault, whose Roll is a
 /// number in `typed`.

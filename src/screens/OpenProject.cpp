@@ -27,6 +27,9 @@ Draft DraftOf(const OpenProject& project) {
     if (project.HasUnsavedRooms()) {
         draft.Rooms = project.Now.Rooms;
     }
+    if (project.HasUnsavedOrders()) {
+        draft.Orders = project.Now.Orders;
+    }
     draft.EnteredIn = project.Now.EnteredIn;
     draft.Typed = project.Typed;
     return draft;
@@ -34,8 +37,12 @@ Draft DraftOf(const OpenProject& project) {
 
 bool IsWorthTakingBack(const Draft& draft, const OpenProject& project) {
     const bool hasTyping = !draft.Typed.IsEmpty();
-    const bool isStored = !draft.Rooms || *draft.Rooms == project.Saved.Rooms;
-    const bool isInMemory = !draft.Rooms || *draft.Rooms == project.Now.Rooms;
+    const auto isAsIn = [&draft](const Project& other) {
+        return draft.Rooms.value_or(other.Rooms) == other.Rooms &&
+               draft.Orders.value_or(other.Orders) == other.Orders;
+    };
+    const bool isStored = isAsIn(project.Saved);
+    const bool isInMemory = isAsIn(project.Now);
     const bool isStanding = !hasTyping || draft.Typed == project.Typed;
     return (!isStored || hasTyping) && (!isInMemory || !isStanding);
 }
@@ -45,6 +52,9 @@ void TakeBack(OpenProject& project, const Draft& draft) {
     if (draft.Rooms) {
         taken.Now.Rooms = *draft.Rooms;
         taken.Now.EnteredIn = draft.EnteredIn;
+    }
+    if (draft.Orders) {
+        taken.Now.Orders = *draft.Orders;
     }
     taken.Typed = FittedTo(draft.Typed, taken.Now.Rooms);
     taken.Shown = taken.Typed.IsEmpty() ? taken.Now.EnteredIn : taken.Typed.In;

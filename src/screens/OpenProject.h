@@ -27,6 +27,10 @@ struct OpenProject {
 
     /// Whether the rooms differ from what was last loaded or saved.
     bool HasUnsavedRooms() const { return Now.Rooms != Saved.Rooms; }
+    /// Whether what is asked for of the orders does.
+    bool HasUnsavedOrders() const { return Now.Orders != Saved.Orders; }
+    /// Whether SAVE has something to store.
+    bool HasUnsavedChanges() const { return HasUnsavedRooms() || HasUnsavedOrders(); }
     /// Whether the stored rooms were entered in metric, or unsaved ones were typed so.
     bool IsInMetric() const;
 };
@@ -61,8 +65,8 @@ Draft DraftOf(const OpenProject& project);
 /// Whether a draft has something that neither the store nor the memory has.
 bool IsWorthTakingBack(const Draft& draft, const OpenProject& project);
 
-/// Put a draft's rooms, its typing and its units in place of those in memory; unsaved. Raises as
-/// RequireExtents, with nothing changed.
+/// Put a draft's rooms, its orders' requests, its typing and its units in place of those in memory;
+/// unsaved. Raises as RequireExtents, with nothing changed.
 void TakeBack(OpenProject& project, const Draft& draft);
 
 /// Drop the project's rooms from memory, saved or not, and all else that belongs to them; its name

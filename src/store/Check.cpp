@@ -1,11 +1,13 @@
 #include "store/Check.h"
 
 #include "base/Text.h"
+#include "project/Coverings.h"
 #include "store/DatabaseError.h"
 #include "store/DatabaseFile.h"
 #include "store/Findings.h"
 #include "store/Months.h"
 #include "store/Names.h"
+#include "store/OrderRows.h"
 #include "store/RawRows.h"
 #include "store/Schema.h"
 #include "store/UntouchedFile.h"
@@ -161,6 +163,7 @@ class RowCheck {
     void CompareSheets();
     void CompareRooms();
     void FindUnreached(const TableShape& shape);
+    void CompareRequests();
     void FindWrongValues(const TableShape& shape);
     /// The rooms of a sheet beside the number of rooms that the sheet tells.
     void CompareRoomsOf(std::int64_t number, std::int64_t rooms);
@@ -205,6 +208,9 @@ void RowCheck::Run(const std::vector<const TableShape*>& readable) {
     }
     if (Reads(InputData)) {
         CompareRooms();
+    }
+    if (Reads(OrderData)) {
+        CompareRequests();
     }
 }
 
@@ -372,6 +378,27 @@ void RowCheck::CompareRoomsOf(std::int64_t number, std::int64_t rooms) {
         findings_.Add("Rooms beyond the number that the sheet tells, which nothing shows",
                       project + ", " + Counted(beyond, "room"));
     }
+}
+
+/// Those of sheets that are there; what else is wrong with a row is told of its fields.
+void RowCheck::CompareRequests() {
+    std::map<std::pair<std::int64_t, std::int64_t>, int> rowsOf;
+    RawTable(connection_, ShapeOf(OrderData)).Visit([&](const RawRow& row) {
+        const auto request = RawRequestOf(row);
+        const auto sheet = request ? sheetsByNumber_.find(request->Sheet) : sheetsByNumber_.end();
+        if (sheet == sheetsByNumber_.end()) {
+            return;
+        }
+        const std::string place =
+            sheet->second->Project + ", " + CoveringCaption(static_cast<Byte>(request->Carpet - 1));
+        if (!request->IsReadable) {
+            findings_.Add("Requests for orders that cannot be read", place);
+        } else if (++rowsOf[{request->Sheet, request->Carpet}] == 2) {
+            findings_.Add("Carpets with more than one request for an order, of which the last is "
+                          "read",
+                          place);
+        }
+    });
 }
 
 void RowCheck::FindWrongValues(const TableShape& shape) {

@@ -1,6 +1,8 @@
 #include "store/DraftRecord.h"
 
+#include "files/OrderRequestJson.h"
 #include "files/QtText.h"
+#include "project/Coverings.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -131,6 +133,31 @@ std::vector<Room> RoomsOf(const QJsonValue& value) {
     return rooms;
 }
 
+QJsonArray OrderArray(const std::map<Byte, OrderRequest>& orders) {
+    QJsonArray array;
+    for (const auto& [carpet, request] : orders) {
+        array.append(QJsonObject{{QStringLiteral("carpet"), carpet},
+                                 {QStringLiteral("units"), UnitsText(request.In)},
+                                 {QStringLiteral("request"), OrderRequestObject(request)}});
+    }
+    return array;
+}
+
+std::map<Byte, OrderRequest> OrdersOf(const QJsonValue& value) {
+    Require(value.isArray());
+    std::map<Byte, OrderRequest> orders;
+    for (const auto& each : value.toArray()) {
+        const QJsonObject object = each.toObject();
+        const Byte carpet = NumberIn<Byte>(object, "carpet");
+        const QJsonDocument request(ObjectIn(object, "request"));
+        const auto read = ReadOrderRequestJson(request.toJson(QJsonDocument::Compact).toStdString(),
+                                               UnitsIn(object, "units"));
+        Require(IsCarpet(carpet) && read);
+        orders.insert_or_assign(carpet, *read);
+    }
+    return orders;
+}
+
 SizeParts SizeIn(const QJsonObject& object, const char* name) {
     const QJsonArray parts = ValueIn(object, name).toArray();
     Require(parts.size() == 2);
@@ -178,6 +205,9 @@ DraftRecord RecordOf(const QJsonObject& object) {
     if (object.contains(QLatin1String("rooms"))) {
         record.Content.Rooms = RoomsOf(ValueIn(object, "rooms"));
     }
+    if (object.contains(QLatin1String("orders"))) {
+        record.Content.Orders = OrdersOf(ValueIn(object, "orders"));
+    }
     record.Content.Typed = TypingOf(ObjectIn(object, "typed"));
     return record;
 }
@@ -200,6 +230,9 @@ std::string DraftText(const DraftRecord& record) {
             rooms.append(RoomObject(room));
         }
         object[QStringLiteral("rooms")] = rooms;
+    }
+    if (record.Content.Orders) {
+        object[QStringLiteral("orders")] = OrderArray(*record.Content.Orders);
     }
     return QJsonDocument(object).toJson(QJsonDocument::Indented).toStdString();
 }

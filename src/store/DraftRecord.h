@@ -1,13 +1,15 @@
-// Unsaved rooms as a draft keeps them, and the text of a draft's file.
+// What is unsaved of a project as a draft keeps it, and the text of a draft's file.
 
 #pragma once
 
 #include "base/Units.h"
+#include "project/OrderRequest.h"
 #include "project/Room.h"
 #include "project/Typing.h"
 
 #include <QDateTime>
 
+#include <map>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -20,10 +22,12 @@ struct Draft {
     /// The project's rooms as typed; nothing when they are those stored, and only fields were
     /// typed.
     std::optional<std::vector<Room>> Rooms;
+    /// What is asked for of the orders; nothing when that is what is stored.
+    std::optional<std::map<Byte, OrderRequest>> Orders;
     Units EnteredIn = Units::Imperial; ///< the rooms' units, see Project::EnteredIn
     Typing Typed;
 
-    bool IsEmpty() const { return !Rooms && Typed.IsEmpty(); }
+    bool IsEmpty() const { return !Rooms && !Orders && Typed.IsEmpty(); }
     bool operator==(const Draft&) const = default;
 };
 

@@ -24,6 +24,10 @@ std::optional<Integer> NumberOf(const StoredRow& row, std::string_view field) {
     }
 }
 
+std::optional<OrderRequest> ReadRequest(const std::string& text, bool metric) {
+    return ReadOrderRequestJson(text, metric ? Units::Metric : Units::Imperial);
+}
+
 } // namespace
 
 StoredRequests RequestsOf(const std::vector<StoredRow>& rows) {
@@ -33,9 +37,7 @@ StoredRequests RequestsOf(const std::vector<StoredRow>& rows) {
         const auto carpet = NumberOf(row, "Carpet");
         const auto metric = NumberOf(row, "Metric");
         const auto request =
-            metric ? ReadOrderRequestJson(row.TextIn("Request"),
-                                          *metric == 1 ? Units::Metric : Units::Imperial)
-                   : std::nullopt;
+            metric ? ReadRequest(row.TextIn("Request"), *metric == 1) : std::nullopt;
         if (carpet && *carpet >= 1 && *carpet <= FirstTileCode && request) {
             stored.Requests.insert_or_assign(static_cast<Byte>(*carpet - 1), *request);
         } else {
@@ -48,6 +50,29 @@ StoredRequests RequestsOf(const std::vector<StoredRow>& rows) {
                                   unreadable + ".");
     }
     return stored;
+}
+
+std::optional<RawRequest> RawRequestOf(const RawRow& row) {
+    const auto& fields = ShapeOf(OrderData).Fields;
+    const RawValue* text = nullptr;
+    std::map<std::string_view, std::int64_t> numbers;
+    for (std::size_t i = 0; i < fields.size(); ++i) {
+        const RawValue& value = row.Values.at(i);
+        if (fields.at(i).Content == FieldContent::Text) {
+            text = &value;
+            continue;
+        }
+        const auto* number = std::get_if<std::int64_t>(&value);
+        const bool isSheet = fields.at(i).Name == "TabIndex";
+        if (number == nullptr || (!isSheet && FaultOf(value, fields.at(i)))) {
+            return std::nullopt;
+        }
+        numbers[fields.at(i).Name] = *number;
+    }
+    const auto* written = std::get_if<std::string>(text);
+    const bool isReadable =
+        written != nullptr && ReadRequest(*written, numbers.at("Metric") == 1).has_value();
+    return RawRequest{numbers.at("TabIndex"), numbers.at("Carpet"), isReadable};
 }
 
 void StoreOrderRows(Connection& connection, Integer sheet,

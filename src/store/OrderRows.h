@@ -4,9 +4,12 @@
 #pragma once
 
 #include "project/OrderRequest.h"
+#include "store/RawRows.h"
 #include "store/Tables.h"
 
+#include <cstdint>
 #include <map>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -21,6 +24,17 @@ struct StoredRequests {
 /// Read the requests; of two for one carpet the last row counts. Raises DatabaseError for a field
 /// that is missing.
 StoredRequests RequestsOf(const std::vector<StoredRow>& rows);
+
+/// A request as it stands in a row of OrderData, whatever else stands there.
+struct RawRequest {
+    std::int64_t Sheet = 0;
+    std::int64_t Carpet = 0; ///< its number
+    bool IsReadable = false; ///< as RequestsOf reads it
+};
+
+/// The request of a row; nothing without a whole number for its sheet, or when its carpet or its
+/// units are at fault.
+std::optional<RawRequest> RawRequestOf(const RawRow& row);
 
 /// Replace the stored requests of a sheet. Raises DatabaseError.
 void StoreOrderRows(Connection& connection, Integer sheet,

@@ -7,19 +7,23 @@
 #include "store/FileInMaking.h"
 #include "store/FileLock.h"
 #include "store/Findings.h"
+#include "store/OrderRows.h"
 #include "store/RawRows.h"
 #include "store/RepairedData.h"
 #include "store/Schema.h"
 #include "store/UntouchedFile.h"
 
 #include <algorithm>
+#include <map>
 #include <optional>
+#include <utility>
 
 namespace tarn {
 
 namespace {
 
 constexpr std::size_t MostPlaces = 200; // of each kind
+constexpr const char* LeftOutWithoutSheet = "Rows of sheets that are not there, left out";
 
 QVariant VariantOf(const RawValue& value) {
     if (const auto* whole = std::get_if<std::int64_t>(&value)) {
@@ -207,17 +211,50 @@ void WriteProjects(Connection& target, const RepairedData& data) {
     }
 }
 
+/// Copy the requests of orders that a load reads, one for each carpet of a sheet.
+void CopyRequests(Source& source, Connection& target, const RepairedData& data, Findings& changes) {
+    if (!source.Has(OrderData)) {
+        return;
+    }
+    CreateTable(target, ShapeOf(OrderData));
+    const auto place = [](const RawRow& row) {
+        return std::string(OrderData) + ", row " + std::to_string(row.Number);
+    };
+    std::map<std::pair<std::int64_t, std::int64_t>, RawRow> kept; // by sheet and carpet
+    source.Read(OrderData, [&](const RawRow& row) {
+        const auto request = RawRequestOf(row);
+        const auto number =
+            request ? data.NumberFor(RawValue(request->Sheet)) : std::optional<std::int64_t>();
+        if (request && !number) {
+            changes.Add(LeftOutWithoutSheet, place(row));
+        } else if (!request || !request->IsReadable) {
+            changes.Add("Requests for orders that cannot be read, left out", place(row));
+        } else {
+            const auto [former, isFirst] = kept.try_emplace({*number, request->Carpet}, row);
+            if (!isFirst) {
+                changes.Add("Requests for an order that a later one of the carpet replaced, left "
+                            "out",
+                            place(former->second));
+                former->second = row;
+            }
+        }
+    });
+    RowWriter writer(target, OrderData);
+    for (const auto& [of, row] : kept) {
+        std::vector<RawValue> values = row.Values;
+        values.at(0) = of.first;
+        writer.Add(values);
+    }
+    writer.Flush();
+}
+
 /// Copy the other rows of sheets to their new numbers.
 void CopySheetTables(Source& source, Connection& target, const RepairedData& data,
                      Findings& changes) {
     for (const TableShape& shape : TableShapes()) {
         const std::string_view table = shape.Name;
-        if (!IsOfSheets(shape) || table == MainTab || table == InputData ||
-            (shape.Optional && !source.Has(table))) {
+        if (!IsOfSheets(shape) || table == MainTab || table == InputData || table == OrderData) {
             continue;
-        }
-        if (shape.Optional) {
-            CreateTable(target, shape);
         }
         const auto& fields = shape.Fields;
         RowWriter writer(target, table);
@@ -229,7 +266,7 @@ void CopySheetTables(Source& source, Connection& target, const RepairedData& dat
                 } else if (const auto number = data.NumberFor(row.Values.at(i))) {
                     values.emplace_back(*number);
                 } else {
-                    changes.Add("Rows of sheets that are not there, left out",
+                    changes.Add(LeftOutWithoutSheet,
                                 std::string(table) + ", row " + std::to_string(row.Number));
                     return;
                 }
@@ -279,6 +316,7 @@ std::vector<std::string> RepairDatabaseFile(const std::string& source, const std
         CreateTables(to);
         WriteProjects(to, data);
         CopySheetTables(from, to, data, changes);
+        CopyRequests(from, to, data, changes);
         MarkAsCopyOfItsOwn(to, failing);
         to.Run("COMMIT", failing);
     }

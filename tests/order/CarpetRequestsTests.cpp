@@ -81,6 +81,10 @@ TEST(KeepRequest, KeepsWhatDiffersFromWhatIsStored) {
     EXPECT_EQ(now, stored) << "nothing is unsaved";
     KeepRequest(now, stored, 2, OfferedRequest(Units::Imperial));
     EXPECT_EQ(now.at(2), OfferedRequest(Units::Imperial)) << "another one is stored";
+    KeepRequest(now, stored, 2, Request("366cm", Units::Metric));
+    EXPECT_EQ(now.at(2), Request("366cm", Units::Metric));
+    KeepRequest(now, stored, 2, OfferedRequest(Units::Metric));
+    EXPECT_EQ(now, stored) << "the one in feet is not used, and stays";
 }
 
 TEST(KeepRequest, KeepsNothingOfWhatIsOfferedAnyway) {

@@ -216,6 +216,16 @@ TEST(UsualTexts, StandForTextsThatAreEmpty) {
     }
 }
 
+TEST(UsualDriftText, GoesWithThePatternAlong) {
+    TypedOrder typed;
+    for (const char* along : {"", "0", "two"}) {
+        typed.PatternAlong = along;
+        EXPECT_EQ(UsualDriftText(typed), "0") << along;
+    }
+    typed.PatternAlong = "2ft";
+    EXPECT_EQ(UsualDriftText(typed), "1");
+}
+
 TEST(ReadPrice, TakesNumbersOfNoughtOrMoreWhateverTheLocale) {
     EXPECT_EQ(ReadPrice("18.50").Read, 18.5);
     EXPECT_EQ(ReadPrice(" +2e1 ").Read, 20);

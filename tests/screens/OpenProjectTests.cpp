@@ -53,6 +53,23 @@ TEST_F(OpenProjects, AreUnsavedAfterAnyChangeOfARoomAndSavedAfterItsUndoing) {
     expectUnsaved();
 }
 
+TEST_F(OpenProjects, AreUnsavedAfterAChangeOfWhatIsOrdered) {
+    EXPECT_FALSE(open.HasUnsavedChanges());
+    open.Now.Orders[2] = DefaultOrderRequest(Units::Imperial);
+    open.Now.Orders[2].Rolls = {{144, "", "12ft", std::nullopt}};
+    EXPECT_TRUE(open.HasUnsavedOrders());
+    EXPECT_TRUE(open.HasUnsavedChanges());
+    EXPECT_FALSE(open.HasUnsavedRooms());
+    open.Now.EnteredIn = Units::Metric;
+    EXPECT_FALSE(open.IsInMetric()) << "no room was typed";
+    EXPECT_EQ(SaveOpenProject(open, store), SaveResult::Outcome::Saved);
+    EXPECT_FALSE(open.HasUnsavedChanges());
+    EXPECT_EQ(file.Rows("SELECT Carpet FROM OrderData"), Lines{"3"});
+    open.Now.Rooms[0].Width = 7;
+    EXPECT_TRUE(open.HasUnsavedChanges());
+    EXPECT_FALSE(open.HasUnsavedOrders());
+}
+
 TEST_F(OpenProjects, AreUnsavedWithARoomMoreOrLess) {
     open.Now.Rooms.resize(4);
     EXPECT_TRUE(open.HasUnsavedRooms());
@@ -257,6 +274,24 @@ TEST_F(OpenProjects, OfferADraftThatHasWhatTheyHaveNot) {
     EXPECT_TRUE(IsWorthTakingBack(draft, open)) << "typed";
     open.Typed = draft.Typed;
     EXPECT_FALSE(IsWorthTakingBack(draft, open)) << "standing in the fields";
+}
+
+TEST_F(OpenProjects, HaveADraftOfUnsavedOrdersAndTakeItBack) {
+    open.Now.Orders[2] = DefaultOrderRequest(Units::Imperial);
+    const Draft draft = DraftOf(open);
+    EXPECT_FALSE(draft.IsEmpty());
+    EXPECT_FALSE(draft.Rooms);
+    EXPECT_EQ(draft.Orders, open.Now.Orders);
+    EXPECT_FALSE(IsWorthTakingBack(draft, open)) << "as in memory";
+    open.Now.Orders.clear();
+    EXPECT_TRUE(IsWorthTakingBack(draft, open));
+    open.Now.Rooms[0].Width = 7;
+    TakeBack(open, draft);
+    EXPECT_EQ(open.Now.Orders, draft.Orders);
+    EXPECT_EQ(open.Now.Rooms[0].Width, 7) << "the draft has no rooms";
+    open.Saved.Orders = open.Now.Orders;
+    open.Now.Orders.clear();
+    EXPECT_FALSE(IsWorthTakingBack(draft, open)) << "as stored";
 }
 
 TEST_F(OpenProjects, TakeADraftBackWithItsUnits) {

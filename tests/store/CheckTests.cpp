@@ -150,10 +150,22 @@ INSTANTIATE_TEST_SUITE_P(
                  {"CREATE TABLE OrderData (TabIndex INTEGER, Carpet INTEGER, Metric INTEGER, "
                   "Request TEXT COLLATE NOCASE)",
                   "CREATE INDEX OrderDataTabIndex ON OrderData (TabIndex)",
-                  "INSERT INTO OrderData VALUES (1, 1, 0, '{}'), (9, 8, 2, '{}')"},
+                  "INSERT INTO OrderData VALUES (1, 1, 0, '{\"rolls\": [{\"width\": "
+                  "\"12ft\"}]}'), (9, 8, 2, '{}')"},
                  {"Metric in OrderData is no whole number from 0 to 1: row 2 (2).",
                   "Rows of OrderData without a sheet, which nothing reaches: 1 under the number "
                   "9."}},
+        Disorder{"RequestsThatCannotBeReadOrAreTwice",
+                 {"CREATE TABLE OrderData (TabIndex INTEGER, Carpet INTEGER, Metric INTEGER, "
+                  "Request TEXT COLLATE NOCASE)",
+                  "CREATE INDEX OrderDataTabIndex ON OrderData (TabIndex)",
+                  "INSERT INTO OrderData VALUES (1, 1, 0, '{'), (1, 2, 1, '{\"rolls\": "
+                  "[{\"width\": \"12ft\"}]}'), (2, 8, 0, '{\"rolls\": [{\"width\": \"wide\"}]}')",
+                  "INSERT INTO OrderData SELECT TabIndex, Carpet, 0, Request FROM OrderData"},
+                 {"Requests for orders that cannot be read: SMITH, CARPET-1; JONES, CARPET-8; "
+                  "SMITH, CARPET-1; JONES, CARPET-8.",
+                  "Carpets with more than one request for an order, of which the last is read: "
+                  "SMITH, CARPET-2."}},
         Disorder{"RowsWithoutANumber",
                  {"UPDATE InputData SET TabIndex = NULL WHERE TabIndex = 2",
                   "UPDATE MainTab SET ObjNum = 0 WHERE TabIndex = 2"},

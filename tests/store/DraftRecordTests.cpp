@@ -20,11 +20,22 @@ RoomDraft Fields(const std::string& mark) {
     return {{"12" + mark, "6"}, {"", "1/2" + mark}, Byte{3}, "W2", "N" + mark, "remark " + mark};
 }
 
+OrderRequest Request(Units units, const std::string& roll) {
+    OrderRequest request = DefaultOrderRequest(units);
+    request.Rolls = {{units == Units::Metric ? 366.0 : 144.0, "Shop \"1\"", roll, 18.5}};
+    request.Pattern = {18, 24, true};
+    request.PatternDrift = 0.5;
+    return request;
+}
+
 DraftRecord FullRecord() {
     DraftRecord record{"/data/Tarn.mdb", "P \"Q\"\n\\", Noon, Noon.addDays(3), {}};
     record.Content.Rooms = {
         Room{-32768, 32767, 0, 255, "", ""},
         Room{150, 168, 11, 8, "n\t1", "gr\xC3\xBC\xC3\x9F <b>\xF0\x9F\x8F\xA0"}};
+    record.Content.Orders.emplace();
+    record.Content.Orders->insert_or_assign(Byte{0}, Request(Units::Imperial, "12ft"));
+    record.Content.Orders->insert_or_assign(Byte{7}, Request(Units::Metric, "366 cm"));
     record.Content.EnteredIn = Units::Metric;
     record.Content.Typed.In = Units::Metric;
     record.Content.Typed.New = Fields("new");
@@ -125,6 +136,31 @@ TEST(DraftText, IsRefusedWithNumbersThatDoNotFit) {
         room[QLatin1String(name)] = value;
         rooms[0] = room;
         object[QStringLiteral("rooms")] = rooms;
+        EXPECT_FALSE(IsRead(object)) << name;
+    }
+}
+
+TEST(DraftText, OfAnEarlierProgramHasNoOrders) {
+    QJsonObject object = FullObject();
+    object.remove(QStringLiteral("orders"));
+    const auto read = ReadDraftText(QJsonDocument(object).toJson().toStdString());
+    ASSERT_TRUE(read);
+    EXPECT_FALSE(read->Content.Orders) << "the stored ones";
+    EXPECT_EQ(read->Content.Rooms, FullRecord().Content.Rooms);
+}
+
+TEST(DraftText, IsRefusedWithAnOrderThatCannotBeReadOrIsNoCarpets) {
+    for (const auto& [name, value] : {std::pair{"carpet", QJsonValue(8)},
+                                      {"carpet", QJsonValue(-1)},
+                                      {"units", QJsonValue(QStringLiteral("yards"))},
+                                      {"request", QJsonValue(QJsonObject())},
+                                      {"request", QJsonValue(QStringLiteral("{}"))}}) {
+        QJsonObject object = FullObject();
+        QJsonArray orders = object[QStringLiteral("orders")].toArray();
+        QJsonObject order = orders[1].toObject();
+        order[QLatin1String(name)] = value;
+        orders[1] = order;
+        object[QStringLiteral("orders")] = orders;
         EXPECT_FALSE(IsRead(object)) << name;
     }
 }

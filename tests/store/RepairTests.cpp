@@ -203,9 +203,34 @@ TEST_F(ARepair, KeepsTheRequestsOfOrdersWhereThereAreAny) {
     EXPECT_EQ(Repair({"CREATE TABLE OrderData (TabIndex INTEGER, Carpet INTEGER, Metric INTEGER, "
                       "Request TEXT COLLATE NOCASE)",
                       "CREATE INDEX OrderDataTabIndex ON OrderData (TabIndex)",
-                      "INSERT INTO OrderData VALUES (2, 3, 1, '{\"step\": 5}'), (9, 1, 0, '{}')"}),
+                      "INSERT INTO OrderData VALUES (2, 3, 1, '{\"rolls\": [{\"width\": "
+                      "\"366cm\"}]}'), (9, 1, 0, '{}')"}),
               Lines{"Rows of sheets that are not there, left out: OrderData, row 2."});
-    EXPECT_EQ(Rows("SELECT * FROM OrderData"), Lines{"2|3|1|{\"step\": 5}"});
+    EXPECT_EQ(Rows("SELECT * FROM OrderData"),
+              Lines{"2|3|1|{\"rolls\": [{\"width\": \"366cm\"}]}"});
+}
+
+TEST_F(ARepair, LeavesOutRequestsOfOrdersThatNoLoadTakes) {
+    const std::string request = R"('{"rolls": [{"width": "12ft"}]}')";
+    EXPECT_EQ(Repair({"CREATE TABLE OrderData (TabIndex INTEGER, Carpet INTEGER, Metric INTEGER, "
+                      "Request TEXT COLLATE NOCASE)",
+                      "CREATE INDEX OrderDataTabIndex ON OrderData (TabIndex)",
+                      "UPDATE MainTab SET TabIndex = 40000 WHERE ProjName = 'SMITH'",
+                      "UPDATE InputData SET TabIndex = 40000 WHERE TabIndex = 1",
+                      "UPDATE FillCut SET TabIndex = 40000 WHERE TabIndex = 1",
+                      "INSERT INTO OrderData VALUES (40000, 1, 0, " + request + ")",
+                      "INSERT INTO OrderData VALUES (2, 1, 0, '{')",
+                      "INSERT INTO OrderData VALUES (2, NULL, 0, " + request + ")",
+                      "INSERT INTO OrderData VALUES (2, 3, 1, " + request + ")",
+                      "INSERT INTO OrderData VALUES (2, 3, 0, " + request + ")"}),
+              (Lines{"Requests for orders that cannot be read, left out: OrderData, row 2.",
+                     "Requests for orders that cannot be read, left out: OrderData, row 3.",
+                     "Requests for an order that a later one of the carpet replaced, left out: "
+                     "OrderData, row 4."}));
+    EXPECT_EQ(Rows("SELECT TabIndex, Carpet, Metric FROM OrderData ORDER BY Carpet"),
+              (Lines{"0|1|0", "2|3|0"}));
+    const LoadedProject loaded = ProjectStore(Target(), DatabaseAccess::ReadOnly).Load("SMITH");
+    EXPECT_EQ(loaded.Value.Orders.size(), 1U);
 }
 
 TEST_F(ARepair, MakesMissingTablesAndLeavesOutWhatIsAnothers) {

@@ -63,7 +63,7 @@ std::string LoadRooms(OpenProject& project, ProjectStore& store,
 MenuLoad LoadMenu(OpenProject& project, ProjectStore& store, MenuEntry entry) {
     MenuLoad menu;
     project.Shown = Units::Imperial;
-    if (entry == MenuEntry::Returning && project.HasUnsavedRooms()) {
+    if (entry == MenuEntry::Returning && project.HasUnsavedChanges()) {
         menu.Unsaved = true;
         return menu;
     }
@@ -81,7 +81,7 @@ MenuLoad LoadMenu(OpenProject& project, ProjectStore& store, MenuEntry entry) {
 }
 
 void TakeSheetNumber(OpenProject& project, ProjectStore& store) {
-    if (project.HasUnsavedRooms()) {
+    if (project.HasUnsavedChanges()) {
         return; // what was typed is reached without the store too
     }
     const auto sheet = store.SheetOf(project.Now.Name);

@@ -38,9 +38,9 @@ std::string DraftTime(const QDateTime& written, const QDate& today) {
 }
 
 /// What a draft has, in a word.
-std::string RoomsText(const Draft& draft) {
+std::string ContentText(const Draft& draft) {
     if (!draft.Rooms) {
-        return "a room that was being typed";
+        return draft.Orders ? "the choices of an order" : "a room that was being typed";
     }
     const std::size_t rooms = draft.Rooms->size();
     return TrimStr(static_cast<long long>(rooms)) + (rooms == 1 ? " room" : " rooms");
@@ -158,7 +158,7 @@ QHBoxLayout* MenuScreen::BuildTakeBack(QWidget* panel) {
 
 void MenuScreen::ShowProject() {
     const OpenProject& project = Shared().Project;
-    notSaved_->setVisible(project.HasUnsavedRooms());
+    notSaved_->setVisible(project.HasUnsavedChanges());
     metric_->setChecked(project.Shown == Units::Metric);
     ShowUnits();
     ShowTrouble();
@@ -189,10 +189,13 @@ void MenuScreen::OfferDrafts() {
     for (std::size_t i = 0; i < offered_.size(); ++i) {
         const std::string time = DraftTime(offered_[i].Record.Written, today);
         if (i == 0) {
-            SetCaption(*takeBack_, "TAKE BACK ROOMS OF " + time, 'T');
+            const Draft& draft = offered_[i].Record.Content;
+            const bool hasRooms = draft.Rooms || !draft.Typed.IsEmpty();
+            SetCaption(*takeBack_,
+                       (hasRooms ? "TAKE BACK ROOMS OF " : "TAKE BACK ORDER OF ") + time, 'T');
         }
         const QAction* item =
-            earlierMenu_->addAction(ToQt(time + ", " + RoomsText(offered_[i].Record.Content)));
+            earlierMenu_->addAction(ToQt(time + ", " + ContentText(offered_[i].Record.Content)));
         connect(item, &QAction::triggered, this,
                 [this, i] { Guard(TakeBackFailure, [this, i] { TakeBack(i); }); });
     }

@@ -94,6 +94,17 @@ TEST_F(MenuLoads, KeepUnsavedRoomsWithoutReadingTheDatabase) {
     EXPECT_TRUE(open.IsUsable);
 }
 
+TEST_F(MenuLoads, KeepUnsavedOrdersToo) {
+    Load();
+    open.Now.Orders[3] = DefaultOrderRequest(Units::Imperial);
+    store = ProjectStore();
+    const MenuLoad load = Load(MenuEntry::Returning);
+    EXPECT_TRUE(load.Unsaved);
+    EXPECT_EQ(load.Message, "");
+    EXPECT_TRUE(open.Now.Orders.contains(3));
+    EXPECT_NO_THROW(TakeSheetNumber(open, store)) << "it is not asked";
+}
+
 TEST_F(MenuLoads, ReplaceTheRoomsOfAnotherProjectUnlessTheyComeBack) {
     Load();
     open.Now.Rooms.at(1).Width = 444;

@@ -1,0 +1,76 @@
+#include "order/ComparisonText.h"
+
+#include "base/Format.h"
+#include "base/Lengths.h"
+#include "order/Comparison.h"
+#include "order/OrderWords.h"
+
+namespace tarn {
+
+std::vector<std::string> ComparisonHeads(Units units) {
+    const bool metric = units == Units::Metric;
+    return {"Roll",
+            "Lay",
+            metric ? "Order cm" : "Order",
+            metric ? "Needed cm" : "Needed",
+            metric ? "Least possible cm" : "Least possible",
+            metric ? "Bought sq. m" : "Bought sq. ft.",
+            metric ? "Rooms sq. m" : "Rooms sq. ft.",
+            metric ? "Trimmed sq. m" : "Trimmed sq. ft.",
+            "Waste %",
+            metric ? "Seams cm" : "Seams",
+            metric ? "Joins cm" : "Joins",
+            "Price"};
+}
+
+std::vector<std::string> ComparisonCells(const Order& order, const OrderCandidate& candidate) {
+    const Units units = order.Request.In;
+    std::vector<std::string> cells{RollName(order.Request.Rolls.at(candidate.Roll)),
+                                   LayName(candidate.Direction)};
+    if (!candidate.Figures) {
+        cells.emplace_back(candidate.Refused.empty() ? "" : "refused");
+        cells.resize(ComparisonHeads(units).size());
+        return cells;
+    }
+    const OrderFigures& figures = *candidate.Figures;
+    const auto length = [units](std::int64_t value) {
+        return WholeLengthText(static_cast<Long>(value), units);
+    };
+    cells.insert(cells.end(),
+                 {length(figures.Length), length(figures.LengthNeeded), length(figures.LeastLength),
+                  AreaText(figures.AreaBought, units), AreaText(figures.AreaRooms, units),
+                  AreaText(figures.AreaRoomsTrimmed, units), Format(figures.WastePercent, "##0.0"),
+                  SeamText(figures.SideSeams, units), SeamText(figures.CrossJoins, units),
+                  figures.Price ? Format(*figures.Price, "#,##0.00") : ""});
+    return cells;
+}
+
+std::string AboveLeastText(const OrderCandidate& candidate) {
+    if (!candidate.Figures || candidate.Figures->LeastLength <= 0) {
+        return {};
+    }
+    constexpr Double Whole = 100;
+    const auto least = static_cast<Double>(candidate.Figures->LeastLength);
+    return Format((static_cast<Double>(candidate.Figures->LengthNeeded) - least) / least * Whole,
+                  "##0.0");
+}
+
+std::string TakenText(const Order& order, std::size_t row) {
+    const OrderCandidate& taken = order.Candidates.at(row);
+    return (IsBest(order, row) ? "Best: " : "Chosen: ") + CandidateName(order, taken) + ", " +
+           OrderLengthText(static_cast<Long>(taken.Figures->Length), order.Request.In) +
+           " in one length without a join";
+}
+
+std::string RemarksOf(const OrderCandidate& candidate) {
+    if (!candidate.Figures) {
+        return candidate.Refused;
+    }
+    std::string remarks;
+    for (const std::string& note : candidate.Figures->Notes) {
+        remarks += (remarks.empty() ? "" : "\n") + note;
+    }
+    return remarks;
+}
+
+} // namespace tarn
