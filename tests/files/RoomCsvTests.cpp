@@ -337,8 +337,8 @@ TEST(ReadRoomCsv, ReportsEveryBadLineOfAFileAndTakesNoRoom) {
                  ",VINYL,40000,12'6 1/2\r\n"
                  "fine,T4,144,168\r\n"),
         (Lines{"line 3: the line has 1 fields and the header 4",
-               "line 5: remark \"two  lines\" holds a line break or another control character; "
-               "write it in one line",
+               Line("line 5: remark \"two  lines\"",
+                    " holds a line break or another control character; write it in one line"),
                Line("line 5: covering \"C9\"", NoCovering), "line 7: width \"-4\" is negative",
                Line("line 9: covering \"VINYL\"", NoCovering),
                "line 9: width \"40000\" is too large: a size is at most 32767",

@@ -10,6 +10,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 namespace tarn {
 namespace {
 
@@ -244,7 +246,7 @@ TEST_F(OpenDrafts, ThatWereTakenBackStayWhenAnotherRunGoesOnWithThem) {
 
 TEST_F(OpenDrafts, AreWorthTakingBackOnceEachAndFiveAtMost) {
     for (Integer i = 1; i <= 8; ++i) {
-        TypeRoom(i <= 2 ? 1 : i); // the first two are alike
+        TypeRoom(std::max<Integer>(i, 2)); // the first two are alike
         OpenAgain();
     }
     std::vector<Integer> widths;

@@ -14,10 +14,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
-using testing::DatabaseErrorOf;
 using testing::RawDatabase;
 using testing::ReadFile;
-using testing::ShortWait;
 using testing::TestFolder;
 using testing::WriteFile;
 

@@ -178,6 +178,7 @@ TEST_F(RoomNote, MovesNothingWhenItComes) {
     for (const auto& [width, height] : {std::pair{800, 600}, {1920, 1080}}) {
         Open(width, height);
         std::vector<QRect> before;
+        before.reserve(TextNames.size());
         for (const char* name : TextNames) {
             before.push_back(Find(*form, name).geometry());
         }
