@@ -9,11 +9,13 @@
 #include "estimate/Totals.h"
 #include "project/Coverings.h"
 
+#include <utility>
+
 namespace tarn {
 
 namespace {
 
-using Lines = std::vector<std::string>;
+using Items = std::vector<CutListLine>;
 
 constexpr std::string_view TotalFormat = "#,##0.00";
 constexpr std::string_view BaseFormat = "###0.00";
@@ -26,12 +28,11 @@ std::string TotalText(Double inches, Units units) {
 
 /// The size of a cut or piece from its edges in coordinate units.
 template <typename Edges>
-std::string SizeOfEdges(const Estimate& estimate, const Edges& edges) {
+SizeOnRoll SizeOfEdges(const Estimate& estimate, const Edges& edges) {
     const Double scale = estimate.Job.Scale;
     const Double x = static_cast<Double>(edges.X2 - edges.X1) * scale;
     const Double y = static_cast<Double>(edges.Y2 - edges.Y1) * scale;
-    return estimate.Request.Direction == Lay::Cross ? SizeText(y, x, estimate.Request.In)
-                                                    : SizeText(x, y, estimate.Request.In);
+    return estimate.Request.Direction == Lay::Cross ? SizeOnRoll{y, x} : SizeOnRoll{x, y};
 }
 
 class ListWriter {
@@ -41,8 +42,8 @@ class ListWriter {
         , units_(estimate.Request.In)
         , metric_(units_ == Units::Metric) {}
 
-    Lines Write() {
-        lines_.push_back(CarpetHeading(estimate_.Request));
+    Items Write() {
+        Add(CarpetHeading(estimate_.Request));
         AddCuts();
         AddPieces();
         const RollTotals totals = TotalRoll(estimate_);
@@ -59,46 +60,47 @@ class ListWriter {
     }
 
   private:
+    void Add(std::string text) { lines_.push_back({std::move(text), {}, {}}); }
+
     void AddCuts() {
-        Integer number = 0;
-        for (const Cut& cut : estimate_.Cuts) {
-            lines_.push_back("Cut" + TrimStr(++number) + ": " + SizeOf(estimate_, cut));
+        for (std::size_t i = 0; i < estimate_.Cuts.size(); ++i) {
+            lines_.push_back({CutLabel(i) + ": " + SizeOf(estimate_, estimate_.Cuts[i]), i, {}});
         }
     }
 
     void AddPieces() {
-        for (const Placed& placed : estimate_.Fills.Layout) {
-            lines_.push_back(LabelOf(estimate_, placed.Part) + ": " +
-                             SizeOf(estimate_, placed.Part));
+        for (std::size_t i = 0; i < estimate_.Fills.Layout.size(); ++i) {
+            const Piece& piece = estimate_.Fills.Layout[i].Part;
+            lines_.push_back({LabelOf(estimate_, piece) + ": " + SizeOf(estimate_, piece), {}, i});
         }
         if (estimate_.Request.Repeat) {
-            lines_.push_back("Match Pattern: " + RepeatText(*estimate_.Request.Repeat, units_));
+            Add("Match Pattern: " + RepeatText(*estimate_.Request.Repeat, units_));
         }
     }
 
     void AddCounts(const RollTotals& totals) {
         const auto count = [](std::size_t number) { return TrimStr(static_cast<Long>(number)); };
         const Integer reported = estimate_.Fills.Length;
-        lines_.push_back("Total Cuts:" + count(estimate_.Cuts.size()) +
-                         "   Total Cut-Len:" + TotalText(totals.CutLength, units_));
-        lines_.push_back("Total Fills:" + count(estimate_.Fills.Layout.size()) +
-                         "   Total Fill-Len:" + TotalText(reported, units_));
+        Add("Total Cuts:" + count(estimate_.Cuts.size()) +
+            "   Total Cut-Len:" + TotalText(totals.CutLength, units_));
+        Add("Total Fills:" + count(estimate_.Fills.Layout.size()) +
+            "   Total Fill-Len:" + TotalText(reported, units_));
         const Single end = LengthInUse(estimate_.Fills.Layout);
         if (!IsWithinTolerance(end - static_cast<Single>(reported))) {
-            lines_.push_back("Fills end at:" + LengthText(static_cast<Double>(end), units_));
+            Add("Fills end at:" + LengthText(static_cast<Double>(end), units_));
         }
         if (estimate_.Improved) {
-            lines_.push_back(ImprovementText(*estimate_.Improved));
+            Add(ImprovementText(*estimate_.Improved));
         }
     }
 
     void AddRollTotals(const RollTotals& totals) {
-        lines_.push_back("Total Length:" + TotalText(totals.Length, units_));
+        Add("Total Length:" + TotalText(totals.Length, units_));
         if (metric_) {
-            lines_.push_back("Total SQ. Meters:" + Format(totals.Size.SquareMeters, TotalFormat));
+            Add("Total SQ. Meters:" + Format(totals.Size.SquareMeters, TotalFormat));
         } else {
-            lines_.push_back("Total SQ. Yards:" + Format(totals.Size.SquareYards, TotalFormat));
-            lines_.push_back("Total SQ. FT.:" + Format(totals.Size.SquareFeet, TotalFormat));
+            Add("Total SQ. Yards:" + Format(totals.Size.SquareYards, TotalFormat));
+            Add("Total SQ. FT.:" + Format(totals.Size.SquareFeet, TotalFormat));
         }
     }
 
@@ -106,14 +108,14 @@ class ListWriter {
         const std::string size = metric_ ? Format(totals.Size.SquareMeters, "###0.00 SQ. Meters   ")
                                          : Format(totals.Size.SquareFeet, "###0.00 SQ. FT.   ") +
                                                Format(totals.Size.SquareYards, "###0.00 SQ. Yards");
-        lines_.push_back("Total Match Pattern Length: " + WholeLengthText(totals.Length, units_));
-        lines_.push_back("Total Match Pattern Size: " + size);
+        Add("Total Match Pattern Length: " + WholeLengthText(totals.Length, units_));
+        Add("Total Match Pattern Size: " + size);
     }
 
     void AddBase() {
         const auto base = static_cast<Double>(estimate_.Base);
-        lines_.push_back("Total BASE: " + (metric_ ? TrimStr(CLng(base)) + " CM"
-                                                   : Format(base / 12, BaseFormat) + " FEET"));
+        Add("Total BASE: " +
+            (metric_ ? TrimStr(CLng(base)) + " CM" : Format(base / 12, BaseFormat) + " FEET"));
     }
 
     void AddTile(const TileFloor& tile) {
@@ -123,20 +125,27 @@ class ListWriter {
                                          : Format(area.SquareFeet, " ##0.00 SQ. FT.  ");
         const std::string base = metric_ ? TrimStr(RoundedCentimetres(perimeter)) + " CM"
                                          : Format(perimeter / 12, BaseFormat) + " FEET";
-        lines_.push_back("Tile-" + TrimStr(CoveringNumber(tile.Covering)) + ": " + size +
-                         "Tile Base: " + base);
+        Add("Tile-" + TrimStr(CoveringNumber(tile.Covering)) + ": " + size + "Tile Base: " + base);
     }
 
     const Estimate& estimate_;
     Units units_;
     bool metric_;
-    Lines lines_;
+    Items lines_;
 };
 
 } // namespace
 
 std::vector<std::string> CutListLines(const Estimate& estimate) {
-    return HasNothingToCut(estimate) ? Lines() : ListWriter(estimate).Write();
+    std::vector<std::string> lines;
+    for (CutListLine& item : CutListItems(estimate)) {
+        lines.push_back(std::move(item.Text));
+    }
+    return lines;
+}
+
+std::vector<CutListLine> CutListItems(const Estimate& estimate) {
+    return HasNothingToCut(estimate) ? Items() : ListWriter(estimate).Write();
 }
 
 std::array<std::string, 2> CarpetHeadingLines(const EstimateRequest& request) {
@@ -154,12 +163,22 @@ std::string SizeText(Double across, Double along, Units units) {
     return LengthText(across, units) + " X " + LengthText(along, units);
 }
 
-std::string SizeOf(const Estimate& estimate, const Piece& piece) {
+SizeOnRoll SizeOnRollOf(const Estimate& estimate, const Piece& piece) {
     return SizeOfEdges(estimate, piece);
 }
 
-std::string SizeOf(const Estimate& estimate, const Cut& cut) {
+SizeOnRoll SizeOnRollOf(const Estimate& estimate, const Cut& cut) {
     return SizeOfEdges(estimate, cut);
+}
+
+std::string SizeOf(const Estimate& estimate, const Piece& piece) {
+    const SizeOnRoll size = SizeOnRollOf(estimate, piece);
+    return SizeText(size.Across, size.Along, estimate.Request.In);
+}
+
+std::string SizeOf(const Estimate& estimate, const Cut& cut) {
+    const SizeOnRoll size = SizeOnRollOf(estimate, cut);
+    return SizeText(size.Across, size.Along, estimate.Request.In);
 }
 
 } // namespace tarn

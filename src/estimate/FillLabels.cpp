@@ -1,5 +1,7 @@
 #include "estimate/FillLabels.h"
 
+#include "base/Text.h"
+
 namespace tarn {
 
 std::string FillLabel(Integer number, std::size_t fills) {
@@ -16,6 +18,10 @@ std::string FillLabel(Integer number, std::size_t fills) {
 
 std::string LabelOf(const Estimate& estimate, const Piece& piece) {
     return FillLabel(piece.Number, estimate.Job.Pieces.size());
+}
+
+std::string CutLabel(std::size_t cut) {
+    return "Cut" + TrimStr(static_cast<long long>(cut) + 1);
 }
 
 } // namespace tarn

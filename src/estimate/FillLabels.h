@@ -1,4 +1,4 @@
-// The letters by which the cut list, the drawing and other programs call a fill.
+// What the cut list, the drawing and other programs call a fill and a cut.
 
 #pragma once
 
@@ -13,5 +13,8 @@ namespace tarn {
 std::string FillLabel(Integer number, std::size_t fills);
 /// The letters of a placed piece of the estimate.
 std::string LabelOf(const Estimate& estimate, const Piece& piece);
+
+/// What the estimate's cut of that place is called: Cut1, Cut2, ..
+std::string CutLabel(std::size_t cut);
 
 } // namespace tarn

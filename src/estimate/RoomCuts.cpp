@@ -20,15 +20,16 @@ Cut AsCut(const Strip& strip, Lay lay) {
                             : Cut{strip.Begin, strip.End, strip.Left, strip.Right};
 }
 
-void AppendCut(RoomCuts& cuts, const Cut& cut) {
+void AppendCut(RoomCuts& cuts, const Cut& cut, std::size_t room) {
     if (cuts.Cuts.size() == MaxCuts) {
         RaiseSubscript("There are more than " + TrimStr(static_cast<Long>(MaxCuts)) +
                        " cuts: choose a wider roll or estimate the rooms in two projects.");
     }
     cuts.Cuts.push_back(cut);
+    cuts.CutRooms.push_back(room);
 }
 
-void AppendFill(RoomCuts& cuts, const Cut& edges) {
+void AppendFill(RoomCuts& cuts, const Cut& edges, std::size_t room) {
     Piece fill;
     fill.X1 = edges.X1;
     fill.X2 = edges.X2;
@@ -36,6 +37,7 @@ void AppendFill(RoomCuts& cuts, const Cut& edges) {
     fill.Y2 = edges.Y2;
     fill.Number = ToInteger(static_cast<long long>(cuts.Fills.size()));
     cuts.Fills.push_back(fill);
+    cuts.FillRooms.push_back(room);
 }
 
 /// Whether length `a` is at least `b` (inches), or the same length.
@@ -43,7 +45,10 @@ bool IsAtLeast(Double a, Double b) {
     return IsWithinTolerance(CSng(b - a));
 }
 
-void CutRoom(RoomCuts& cuts, const RoomExtent& room, Lay lay, Double rollWidth, Double scale) {
+void CutRoom(RoomCuts& cuts, std::size_t number, const RoomExtent& room,
+             const EstimateRequest& request, Double scale) {
+    const Lay lay = request.Direction;
+    const auto rollWidth = static_cast<Double>(request.RollWidth);
     const Single across = lay == Lay::Down ? room.X : room.Y;
     const Single along = lay == Lay::Down ? room.Y : room.X;
     const auto edge = [&](Integer k) { return CSng((k * rollWidth) / scale); };
@@ -51,12 +56,12 @@ void CutRoom(RoomCuts& cuts, const RoomExtent& room, Lay lay, Double rollWidth, 
     Integer k = 0;
     while (IsAtLeast(left, rollWidth)) {
         const auto next = ToInteger(k + 1);
-        AppendCut(cuts, AsCut({edge(k), edge(next), 0, along}, lay));
+        AppendCut(cuts, AsCut({edge(k), edge(next), 0, along}, lay), number);
         left -= rollWidth;
         k = next;
     }
     if (!IsWithinTolerance(CSng(left))) {
-        AppendFill(cuts, AsCut({edge(k), across, 0, along}, lay));
+        AppendFill(cuts, AsCut({edge(k), across, 0, along}, lay), number);
     }
 }
 
@@ -65,11 +70,11 @@ void CutRoom(RoomCuts& cuts, const RoomExtent& room, Lay lay, Double rollWidth, 
 RoomCuts CutAcrossRoll(const Project& project, const EstimateRequest& request) {
     RequireExtents(project, request.In);
     RoomCuts cuts;
-    for (const Room& room : project.Rooms) {
+    for (std::size_t i = 0; i < project.Rooms.size(); ++i) {
+        const Room& room = project.Rooms[i];
         const bool hasArea = room.Width > 0 && room.Length > 0;
         if (hasArea && room.Covering == request.Carpet) {
-            CutRoom(cuts, ExtentOf(room, request.In, project.Scale), request.Direction,
-                    static_cast<Double>(request.RollWidth), project.Scale);
+            CutRoom(cuts, i, ExtentOf(room, request.In, project.Scale), request, project.Scale);
         }
     }
     return cuts;

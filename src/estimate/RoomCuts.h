@@ -24,7 +24,9 @@ struct Cut {
 /// The rooms of a carpet cut across the roll, before any fill has its place.
 struct RoomCuts {
     std::vector<Cut> Cuts;
-    std::vector<Piece> Fills; ///< the leftover strips, numbered in their order
+    std::vector<Piece> Fills;           ///< the leftover strips, numbered in their order
+    std::vector<std::size_t> CutRooms;  ///< the room of each cut, its place in the project from 0
+    std::vector<std::size_t> FillRooms; ///< the same of each fill, by its number
 
     bool operator==(const RoomCuts&) const = default;
 };

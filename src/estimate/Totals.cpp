@@ -92,21 +92,30 @@ RollTotals TotalRoll(const Estimate& estimate) {
     return totals;
 }
 
+long long RaisedWhole(Double inches, const PatternRepeat& repeat, Units units) {
+    return RaisedToRepeat(units == Units::Metric ? WholeCentimetres(inches) : WholeInches(inches),
+                          repeat.Along);
+}
+
+Double RaisedInches(Double inches, const PatternRepeat& repeat, Units units) {
+    const long long whole = RaisedWhole(inches, repeat, units);
+    const auto length = static_cast<Double>(whole);
+    return units == Units::Metric ? length / CentimetresPerInch : length;
+}
+
 PatternTotals TotalPattern(const Estimate& estimate, const PatternRepeat& repeat) {
-    const bool metric = estimate.Request.In == Units::Metric;
-    const auto raised = [&](Double inches) {
-        return RaisedToRepeat(metric ? WholeCentimetres(inches) : WholeInches(inches),
-                              repeat.Along);
-    };
+    const Units units = estimate.Request.In;
+    const auto raised = [&](Double inches) { return RaisedWhole(inches, repeat, units); };
     long long length = raised(estimate.Fills.Length);
     for (const Cut& cut : estimate.Cuts) {
-        const Single units = ExtentAlong(cut, estimate.Request.Direction);
-        length += raised(static_cast<Double>(units) * estimate.Job.Scale);
+        const Single along = ExtentAlong(cut, estimate.Request.Direction);
+        length += raised(static_cast<Double>(along) * estimate.Job.Scale);
     }
 
     PatternTotals totals;
     totals.Length = ToLong(length);
-    const Double inches = metric ? totals.Length / CentimetresPerInch : totals.Length;
+    const Double inches =
+        units == Units::Metric ? totals.Length / CentimetresPerInch : totals.Length;
     totals.Size = AreaOf(static_cast<Double>(estimate.Request.RollWidth) * inches);
     return totals;
 }

@@ -53,6 +53,13 @@ struct RollTotals {
 /// Roll width times the length of the cuts and the reported length of the fills.
 RollTotals TotalRoll(const Estimate& estimate);
 
+/// A length (inches) made whole inches (whole centimetres with metric) as on the cut list and then
+/// raised to a multiple of the repeat along: whole inches or centimetres. Raises "Overflow" when
+/// the length itself is beyond a Long.
+long long RaisedWhole(Double inches, const PatternRepeat& repeat, Units units);
+/// The same in inches.
+Double RaisedInches(Double inches, const PatternRepeat& repeat, Units units);
+
 /// The roll needed when every cut and the fills begin on a pattern repeat.
 struct PatternTotals {
     Long Length = 0; ///< whole inches or centimetres, as the request has it

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <functional>
 #include <iterator>
+#include <map>
 #include <set>
 #include <utility>
 
@@ -62,11 +63,12 @@ class Folder {
     Long least_;
 };
 
-/// The edges along the roll at which the row of pieces changes, inside a stretch and at its ends.
-std::set<Long> EdgesIn(const std::vector<const OrderPiece*>& pieces, const RollStretch& stretch) {
+/// The edges along the roll at which the row of what is taken changes, inside a stretch and at its
+/// ends.
+std::set<Long> EdgesIn(const std::vector<RollArea>& taken, const RollStretch& stretch) {
     std::set<Long> edges{stretch.From, stretch.To};
-    for (const OrderPiece* piece : pieces) {
-        for (const Long edge : {piece->Y, piece->Y + piece->Length}) {
+    for (const RollArea& area : taken) {
+        for (const Long edge : {area.Y1, area.Y2}) {
             if (edge > stretch.From && edge < stretch.To) {
                 edges.insert(edge);
             }
@@ -77,14 +79,12 @@ std::set<Long> EdgesIn(const std::vector<const OrderPiece*>& pieces, const RollS
 
 using Gap = std::pair<Long, Long>;
 
-/// What is free across the roll between two neighbouring edges.
-std::vector<Gap> GapsIn(const std::vector<const OrderPiece*>& pieces, Long width, Long from,
-                        Long to) {
+/// What areas beside each other leave of the roll's width.
+std::vector<Gap> GapsBetween(const std::vector<RollArea>& areas, Long width) {
     std::vector<Gap> taken;
-    for (const OrderPiece* piece : pieces) {
-        if (piece->Y < to && piece->Y + piece->Length > from) {
-            taken.emplace_back(piece->X, piece->X + piece->Width);
-        }
+    taken.reserve(areas.size());
+    for (const RollArea& area : areas) {
+        taken.emplace_back(area.X1, area.X2);
     }
     std::sort(taken.begin(), taken.end());
     std::vector<Gap> gaps;
@@ -101,18 +101,30 @@ std::vector<Gap> GapsIn(const std::vector<const OrderPiece*>& pieces, Long width
     return gaps;
 }
 
-/// Add a gap to the rectangles, to the one that it goes on if there is one.
-void AddGap(std::vector<LeftOver>& rectangles, const Gap& gap, Long from, Long to) {
-    const auto above =
-        std::find_if(rectangles.begin(), rectangles.end(), [&](const LeftOver& each) {
-            return each.X1 == gap.first && each.X2 == gap.second && each.Y2 == from;
-        });
-    if (above != rectangles.end()) {
-        above->Y2 = to;
-    } else {
-        rectangles.push_back({gap.first, from, gap.second, to});
+/// The rectangles that are free along the roll, row by row.
+class FreeRectangles {
+  public:
+    /// What is free between two neighbouring edges: goes on with the same gaps of the row before.
+    void AddRow(const std::vector<Gap>& gaps, Long from, Long to) {
+        std::map<Gap, std::size_t> row;
+        for (const Gap& gap : gaps) {
+            const auto above = lastRow_.find(gap);
+            if (above != lastRow_.end()) {
+                rectangles_[above->second].Y2 = to;
+                row.insert(*above);
+            } else {
+                row.emplace(gap, rectangles_.size());
+                rectangles_.push_back({gap.first, from, gap.second, to});
+            }
+        }
+        lastRow_ = std::move(row);
     }
-}
+    std::vector<LeftOver> Take() { return std::move(rectangles_); }
+
+  private:
+    std::vector<LeftOver> rectangles_;
+    std::map<Gap, std::size_t> lastRow_; ///< the rectangles that it ends
+};
 
 } // namespace
 
@@ -129,23 +141,33 @@ RollStretch StretchFrom(const std::vector<OrderPiece>& pieces, Long from, Long l
     return {from, Folder(near, limits.Most, limits.Least).EndOf(from)};
 }
 
-std::vector<LeftOver> LeftOvers(const std::vector<OrderPiece>& pieces, Long width,
+std::vector<LeftOver> LeftOvers(const std::vector<RollArea>& taken, Long width,
                                 const RollStretch& stretch) {
-    std::vector<const OrderPiece*> inside;
-    for (const OrderPiece& piece : pieces) {
-        if (piece.Y < stretch.To && piece.Y + piece.Length > stretch.From) {
-            inside.push_back(&piece);
-        }
-    }
-    std::vector<LeftOver> rectangles;
-    const std::set<Long> edges = EdgesIn(inside, stretch);
+    std::vector<RollArea> waiting = taken;
+    std::sort(waiting.begin(), waiting.end(),
+              [](const RollArea& a, const RollArea& b) { return a.Y1 > b.Y1; });
+    std::vector<RollArea> beside;
+    FreeRectangles free;
+    const std::set<Long> edges = EdgesIn(taken, stretch);
     for (auto edge = edges.begin(); std::next(edge) != edges.end(); ++edge) {
         const Long to = *std::next(edge);
-        for (const Gap& gap : GapsIn(inside, width, *edge, to)) {
-            AddGap(rectangles, gap, *edge, to);
+        for (; !waiting.empty() && waiting.back().Y1 < to; waiting.pop_back()) {
+            beside.push_back(waiting.back());
         }
+        std::erase_if(beside, [&](const RollArea& area) { return area.Y2 <= *edge; });
+        free.AddRow(GapsBetween(beside, width), *edge, to);
     }
-    return rectangles;
+    return free.Take();
+}
+
+std::vector<LeftOver> LeftOvers(const std::vector<OrderPiece>& pieces, Long width,
+                                const RollStretch& stretch) {
+    std::vector<RollArea> taken;
+    taken.reserve(pieces.size());
+    for (const OrderPiece& piece : pieces) {
+        taken.push_back({piece.X, piece.Y, piece.X + piece.Width, piece.Y + piece.Length});
+    }
+    return LeftOvers(taken, width, stretch);
 }
 
 } // namespace tarn

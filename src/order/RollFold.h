@@ -28,17 +28,23 @@ struct StretchLimits {
 RollStretch StretchFrom(const std::vector<OrderPiece>& pieces, Long from, Long length,
                         const StretchLimits& limits);
 
-/// A part of the roll that no piece takes, whole units from the usable edge and the roll's start.
-struct LeftOver {
+/// A rectangle of the roll, whole units from an edge and from the roll's start.
+struct RollArea {
     Long X1 = 0;
     Long Y1 = 0;
     Long X2 = 0;
     Long Y2 = 0;
 
-    bool operator==(const LeftOver&) const = default;
+    bool operator==(const RollArea&) const = default;
 };
+/// A part of the roll that no piece takes.
+using LeftOver = RollArea;
 
-/// All that the pieces leave of a stretch `width` wide, as rectangles that do not overlap.
+/// All that is not taken of a stretch `width` wide, as rectangles that do not overlap: each as long
+/// as the same width of the roll is free.
+std::vector<LeftOver> LeftOvers(const std::vector<RollArea>& taken, Long width,
+                                const RollStretch& stretch);
+/// The same of what pieces take, from the usable edge.
 std::vector<LeftOver> LeftOvers(const std::vector<OrderPiece>& pieces, Long width,
                                 const RollStretch& stretch);
 

@@ -142,6 +142,11 @@ inline constexpr const char* improveGap = "Label6(2)";
 inline constexpr const char* improveTime = "ProgressBar1";
 inline constexpr const char* stopImproving = "Command1(2)";
 
+// Roll: the whole view of a roll and its list, on the screens that have one.
+inline constexpr const char* rollCaption = "RollCaption";
+inline constexpr const char* rollView = "RollView";
+inline constexpr const char* rollList = "RollList";
+
 // Options: how the fills are to be laid out.
 inline constexpr const char* optionsScreen = "ESTFORM";
 inline constexpr const char* optionsPanel = "Frame10";

@@ -2,6 +2,7 @@
 
 #include "paper/Printer.h"
 #include "screens/Dialogs.h"
+#include "screens/Preferences.h"
 #include "screens/ProgramScreens.h"
 #include "screens/Session.h"
 #include "store/DataFolder.h"
@@ -52,7 +53,8 @@ class Program {
     Printer& printer_;
     ProgramScreens screens_{window_};
     DraftKeeper drafts_{project_};
-    Session session_{project_, store_, page_, boxes_, printer_, screens_, drafts_};
+    Preferences preferences_{UserPreferencesFile()};
+    Session session_{project_, store_, page_, boxes_, printer_, screens_, drafts_, preferences_};
     ScreenWindow window_; // the last one: its screens are unloaded before the session goes
 };
 

@@ -5,6 +5,7 @@
 #include "screens/Dialogs.h"
 #include "screens/DraftKeeper.h"
 #include "screens/OpenProject.h"
+#include "screens/Preferences.h"
 #include "screens/Screens.h"
 #include "store/ProjectStore.h"
 
@@ -24,6 +25,7 @@ struct Session {
     Printer& Paper;
     Screens& Go;
     DraftKeeper& Drafts;
+    Preferences& Kept;
     std::function<QDate()> Today = &QDate::currentDate;
 };
 

@@ -143,8 +143,10 @@ struct ScreenTest : ::testing::Test {
     FakeScreens screens;
     QTemporaryDir state; ///< of the drafts
     DraftKeeper drafts{open};
-    Session session{open,    store,   page,   boxes,
-                    printer, screens, drafts, [] { return QDate(2026, 3, 14); }};
+    Preferences kept;
+    Session session{open,   store,   page,
+                    boxes,  printer, screens,
+                    drafts, kept,    [] { return QDate(2026, 3, 14); }};
 };
 
 } // namespace tarn::testing

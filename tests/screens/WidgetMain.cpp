@@ -13,6 +13,7 @@ int main(int argc, char** argv) {
     const QTemporaryDir runtime;
     qputenv("XDG_RUNTIME_DIR", runtime.path().toLocal8Bit());
     qputenv("XDG_STATE_HOME", runtime.path().toLocal8Bit());
+    qputenv("XDG_CONFIG_HOME", runtime.path().toLocal8Bit());
     QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
     const tarn::Theme theme(application);

@@ -128,6 +128,10 @@ TEST(Shape, KeepsTheScreensApart) {
     EXPECT_THAT(FaultsOf("screens/Screens.h", "#include \"screens/menu/MenuLoad.h\""),
                 ElementsAre("screens/Screens.h:1: what the screens share may not include one: "
                             "\"screens/menu/MenuLoad.h\""));
+    EXPECT_THAT(FaultsOf("screens/roll/A.cpp", "#include \"screens/menu/MenuScreen.h\""),
+                ElementsAre("screens/roll/A.cpp:1: what the screens share may not include one: "
+                            "\"screens/menu/MenuScreen.h\""));
+    EXPECT_THAT(FaultsOf("screens/menu/A.h", "#include \"screens/roll/RollPanel.h\""), IsEmpty());
     EXPECT_THAT(FaultsOf("screens/ProgramScreens.cpp", "#include \"screens/menu/MenuScreen.h\""),
                 IsEmpty());
     EXPECT_THAT(FaultsOf("screens/menu/A.cpp", "#include \"screens/menu/MenuLoad.h\"\n"

@@ -195,7 +195,7 @@ TEST_F(ReportOfRooms, StaysOpenWhateverFailsWhileItIsPrinted) {
     struct BrokenPrinter : FakePrinter {
         void PrintReport(const EnteredDataReport& /*report*/) override { RaiseSubscript(); }
     } broken;
-    Session other{open, store, page, boxes, broken, screens, drafts, session.Today};
+    Session other{open, store, page, boxes, broken, screens, drafts, kept, session.Today};
     AddRooms(1);
     form = std::make_unique<RoomScreen>(other);
     ShowOnDisplay(*form);

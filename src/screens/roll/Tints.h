@@ -1,0 +1,30 @@
+// The tints by which the whole view of a roll tells rooms apart, also for eyes that see fewer
+// colours. Letters and hatches carry the meaning without them.
+
+#pragma once
+
+#include "screens/roll/RollChart.h"
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+namespace tarn {
+
+/// How many rooms have tints of their own.
+inline constexpr std::size_t TintCount = 6;
+
+/// 0xRRGGBB for light and for dark surroundings.
+struct Tint {
+    std::uint32_t Light;
+    std::uint32_t Dark;
+};
+const std::array<Tint, TintCount>& Tints();
+
+/// Give each piece the tint of its room; `rooms` are the rooms of the pieces. Rooms have tints of
+/// their own while there are enough; more of them share tints, those that lie beside each other
+/// last.
+void GiveTints(std::vector<ChartPiece>& pieces, const std::vector<std::size_t>& rooms);
+
+} // namespace tarn
