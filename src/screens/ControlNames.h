@@ -106,6 +106,7 @@ inline constexpr const char* estimatedProject = "Label2";
 inline constexpr const char* zoomHint = "Label5";
 inline constexpr const char* openChoices = "Command3";
 inline constexpr const char* improveFills = "Command8";
+inline constexpr const char* openOrder = "OpenOrder";
 inline constexpr const char* pasteCuts = "Command4";
 inline constexpr const char* redrawLayout = "Command7";
 inline constexpr const char* printEstimate = "Command5";
@@ -163,5 +164,55 @@ inline constexpr std::array<const char*, 6> piecesPerFill{"Option1(0)", "Option1
 inline constexpr const char* searchProgress = "ProgressBar1";
 inline constexpr const char* searchPercentage = "Label6";
 inline constexpr const char* layOutFills = "Command1";
+
+// Order: what is asked for of an order, its comparison of rolls and lays, and what is done with it.
+inline constexpr const char* orderScreen = "OrderForm";
+inline constexpr const char* orderParts = "OrderParts";
+inline constexpr const char* orderChoices = "OrderChoices";
+inline constexpr const char* orderCarpet = "OrderCarpet";
+inline constexpr const char* orderCarpetCaption = "OrderCarpetCaption";
+inline constexpr const char* orderNote = "OrderNote";
+inline constexpr const char* orderRolls = "OrderRolls";
+inline constexpr const char* orderRollsCaption = "OrderRollsCaption";
+inline constexpr const char* removeRoll = "RemoveRoll";
+inline constexpr const char* orderDownLay = "OrderDownLay";
+inline constexpr const char* orderCrossLay = "OrderCrossLay";
+inline constexpr const char* orderSelvage = "Selvage";
+inline constexpr const char* orderSelvageCaption = "SelvageCaption";
+inline constexpr const char* orderTrimAlong = "TrimAlong";
+inline constexpr const char* orderTrimAlongCaption = "TrimAlongCaption";
+inline constexpr const char* orderTrimAcross = "TrimAcross";
+inline constexpr const char* orderTrimAcrossCaption = "TrimAcrossCaption";
+inline constexpr const char* orderParting = "MostParts";
+inline constexpr const char* orderPartingCaption = "MostPartsCaption";
+inline constexpr const char* orderShortestPart = "ShortestPart";
+inline constexpr const char* orderShortestPartCaption = "ShortestPartCaption";
+inline constexpr const char* orderJoinRooms = "JoinRooms";
+inline constexpr const char* orderPatternAcross = "PatternAcross";
+inline constexpr const char* orderPatternAcrossCaption = "PatternAcrossCaption";
+inline constexpr const char* orderPatternAlong = "PatternAlong";
+inline constexpr const char* orderPatternAlongCaption = "PatternAlongCaption";
+inline constexpr const char* orderHalfDrop = "HalfDrop";
+inline constexpr const char* orderPatternHint = "PatternHint";
+inline constexpr const char* orderPatternDrift = "PatternDrift";
+inline constexpr const char* orderPatternDriftCaption = "PatternDriftCaption";
+inline constexpr const char* orderStep = "Step";
+inline constexpr const char* orderStepCaption = "StepCaption";
+inline constexpr const char* orderSeconds = "Seconds";
+inline constexpr const char* orderSecondsCaption = "SecondsCaption";
+inline constexpr const char* orderRefusal = "OrderRefusal";
+inline constexpr const char* comparisonPanel = "ComparisonPanel";
+inline constexpr const char* comparisonState = "ComparisonState";
+inline constexpr const char* comparisonTaken = "ComparisonTaken";
+inline constexpr const char* comparison = "Comparison";
+inline constexpr const char* comparisonRemarks = "ComparisonRemarks";
+inline constexpr const char* compare = "Compare";
+inline constexpr const char* stopComparing = "StopComparing";
+inline constexpr const char* printOrder = "PrintOrder";
+inline constexpr const char* saveOrderAs = "SaveOrderAs";
+inline constexpr const char* orderFiles = "OrderFiles";
+inline constexpr std::array<const char*, 6> orderFileActions{"OrderPdf", "OrderSvg",  "OrderXlsx",
+                                                             "OrderCsv", "OrderText", "OrderJson"};
+inline constexpr const char* leaveOrder = "LeaveOrder";
 
 } // namespace tarn::Controls

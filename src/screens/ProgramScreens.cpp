@@ -3,6 +3,7 @@
 #include "screens/estimate/EstimateScreen.h"
 #include "screens/estimate/OptionsScreen.h"
 #include "screens/menu/MenuScreen.h"
+#include "screens/order/OrderScreen.h"
 #include "screens/projects/ProjectScreen.h"
 #include "screens/rooms/RoomScreen.h"
 
@@ -33,6 +34,10 @@ void ProgramScreens::ShowEstimate(bool fromMenu) {
 
 void ProgramScreens::ShowOptions(const EstimateRequest& request, EstimateClient& client) {
     window_.Cover(std::make_unique<OptionsScreen>(*session_, request, client));
+}
+
+void ProgramScreens::ShowOrder(std::optional<Byte> carpet) {
+    window_.Cover(std::make_unique<OrderScreen>(*session_, carpet));
 }
 
 void ProgramScreens::Return() {

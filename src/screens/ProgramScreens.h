@@ -6,7 +6,7 @@
 
 namespace tarn {
 
-/// The way between the program's own five screens, in one window.
+/// The way between the program's own six screens, in one window.
 class ProgramScreens : public Screens {
   public:
     explicit ProgramScreens(ScreenWindow& window)
@@ -20,6 +20,7 @@ class ProgramScreens : public Screens {
     void ShowRooms() override;
     void ShowEstimate(bool fromMenu) override;
     void ShowOptions(const EstimateRequest& request, EstimateClient& client) override;
+    void ShowOrder(std::optional<Byte> carpet) override;
     void Return() override;
     void End() override;
 

@@ -7,6 +7,7 @@
 #include "screens/estimate/EstimateScreen.h"
 #include "screens/estimate/OptionsScreen.h"
 #include "screens/menu/MenuScreen.h"
+#include "screens/order/OrderScreen.h"
 #include "screens/projects/ProjectScreen.h"
 #include "screens/rooms/RoomScreen.h"
 
@@ -100,6 +101,16 @@ TEST_F(ControlNames, OfTheOptionsAreThoseOfTheTable) {
     ExpectNamesOf("Options", OptionsScreen(session, Request(144), client));
 }
 
+TEST_F(ControlNames, OfTheOrderAreThoseOfTheTable) {
+    const OrderScreen screen(session, std::nullopt);
+    Names names = NamesOn(screen);
+    const Names roll = NamesByHeading()["Roll"];
+    std::erase_if(names, [&](const std::string& name) {
+        return IsShared(name) || std::find(roll.begin(), roll.end(), name) != roll.end();
+    });
+    EXPECT_THAT(names, ::testing::UnorderedElementsAreArray(NamesByHeading()["Order"]));
+}
+
 TEST_F(ControlNames, ThatScreensShareAreThoseOfTheTable) {
     Names names = NamesOn(MenuScreen(session, MenuEntry::Returning));
     names.push_back(FromQt(ScreenWindow().objectName()));
@@ -109,7 +120,7 @@ TEST_F(ControlNames, ThatScreensShareAreThoseOfTheTable) {
 
 TEST_F(ControlNames, AreReadUnderTheirHeadings) {
     const auto names = NamesByHeading();
-    EXPECT_EQ(names.size(), 7U);
+    EXPECT_EQ(names.size(), 8U);
     EXPECT_THAT(names.at("Options"), ::testing::Contains("Option1(5)"));
 }
 

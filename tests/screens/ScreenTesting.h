@@ -7,6 +7,7 @@
 #include "files/OrderDocument.h"
 #include "files/QtText.h"
 #include "paper/EstimatePage.h"
+#include "project/Coverings.h"
 #include "screens/Session.h"
 
 #include <QApplication>
@@ -70,7 +71,8 @@ struct FakePrinter : Printer {
 };
 
 /// Records the way between the screens: "projects", "menu existing", "menu new", "menu returning",
-/// "rooms", "estimate from menu", "estimate from rooms", "options", "return", "end".
+/// "rooms", "estimate from menu", "estimate from rooms", "options", "order", with a carpet
+/// "order CARPET-1", "return", "end".
 struct FakeScreens : Screens {
     std::vector<std::string> Calls;
     EstimateClient* Client = nullptr; ///< of the options shown last
@@ -87,6 +89,9 @@ struct FakeScreens : Screens {
         Client = &client;
         Request = request;
         Record("options");
+    }
+    void ShowOrder(std::optional<Byte> carpet) override {
+        Record(carpet ? "order " + CoveringCaption(*carpet) : "order");
     }
     void Return() override { Record("return"); }
     void End() override { Record("end"); }

@@ -38,6 +38,7 @@ constexpr const char* NoDataMessage = "There is not data in the database";
 constexpr const char* EstimateFailure = "The estimate could not be made.";
 constexpr const char* DrawingFailure = "The layout could not be drawn.";
 constexpr const char* ImproveFailure = "The layout could not be improved.";
+constexpr const char* OrderFailure = "The order could not be opened.";
 constexpr const char* PictureFailure = "The picture could not be saved.";
 constexpr const char* LeaveFailure = "The screen could not be closed.";
 constexpr const char* PasteHint =
@@ -98,8 +99,8 @@ void EstimateScreen::Build() {
     improvePanel_ = new ImprovePanel(&Body(), ShownUnits());
     Body().installEventFilter(this);
     panel_->installEventFilter(this);
-    SetTabOrders({&panel_->CancelButton(), openPanel_, improve_, paste_, redraw_, print_, save_,
-                  back_, picture_});
+    SetTabOrders({&panel_->CancelButton(), openPanel_, improve_, order_, paste_, redraw_, print_,
+                  save_, back_, picture_});
 }
 
 QHBoxLayout* EstimateScreen::BuildTitle() {
@@ -158,6 +159,7 @@ QVBoxLayout* EstimateScreen::BuildButtons() {
     save_ = NewButton(&Body(), Controls::saveFromEstimate, "SAVE", 'S');
     redraw_ = NewButton(&Body(), Controls::redrawLayout, "REDRAW", 'R');
     improve_ = NewButton(&Body(), Controls::improveFills, "IMPROVE", 'V');
+    order_ = NewButton(&Body(), Controls::openOrder, "ORDER");
     SetPrimary(*openPanel_);
     paste_->setToolTip(QString::fromLatin1(PasteHint));
     auto* column = new QVBoxLayout;
@@ -174,8 +176,8 @@ QVBoxLayout* EstimateScreen::BuildButtons() {
 }
 
 /// From the top down.
-std::array<QPushButton*, 7> EstimateScreen::Buttons() const {
-    return {openPanel_, improve_, paste_, redraw_, print_, save_, back_};
+std::array<QPushButton*, 8> EstimateScreen::Buttons() const {
+    return {openPanel_, improve_, order_, paste_, redraw_, print_, save_, back_};
 }
 
 /// A child of the picture that pops up without waiting, so that the screen may close under it.
@@ -207,6 +209,9 @@ void EstimateScreen::Connect() {
     OnClick(*paste_, DrawingFailure, [this] { SetPasting(true); });
     OnClick(*redraw_, DrawingFailure, [this] { RedrawLayout(); });
     OnClick(*improve_, DrawingFailure, [this] { ImproveLayout(); });
+    OnClick(*order_, OrderFailure, [this] {
+        Shared().Go.ShowOrder(estimate_ ? std::optional(estimate_->Request.Carpet) : std::nullopt);
+    });
     OnClick(*print_, {}, [this] { PrintEstimate(Shared(), estimate_, picture_->Shown()); });
     IgnoreSecondClick(*print_);
     OnClick(*save_, std::string(NotSavedMessage), [this] { SaveRooms(); });

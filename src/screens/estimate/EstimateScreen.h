@@ -53,7 +53,7 @@ class EstimateScreen : public Screen, public EstimateClient {
     void BuildPictureMenu();
     void AddToPictureMenu(const char* name, const char* caption, std::function<void()> save);
     void Connect();
-    std::array<QPushButton*, 7> Buttons() const;
+    std::array<QPushButton*, 8> Buttons() const;
     void TellNoData();
     void PlacePanels();
     void OpenPanel();
@@ -89,6 +89,7 @@ class EstimateScreen : public Screen, public EstimateClient {
     QLabel* zoomHint_ = nullptr;
     QPushButton* openPanel_ = nullptr;
     QPushButton* improve_ = nullptr;
+    QPushButton* order_ = nullptr;
     QPushButton* paste_ = nullptr;
     QPushButton* redraw_ = nullptr;
     QPushButton* print_ = nullptr;

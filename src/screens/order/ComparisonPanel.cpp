@@ -1,0 +1,196 @@
+#include "screens/order/ComparisonPanel.h"
+
+#include "base/Text.h"
+#include "files/QtText.h"
+#include "order/ComparisonText.h"
+#include "screens/Arrangement.h"
+#include "screens/ControlNames.h"
+#include "screens/Controls.h"
+#include "screens/Display.h"
+#include "screens/Theme.h"
+
+#include <QHeaderView>
+#include <QLabel>
+#include <QScrollBar>
+#include <QSignalBlocker>
+#include <QTableWidget>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <string>
+#include <vector>
+
+namespace tarn {
+
+namespace {
+
+constexpr double RowHeight = 400; ///< twips
+constexpr int LeastRows = 3;      ///< in sight
+constexpr int MostRows = 8;       ///< where there is room
+constexpr int TextColumns = 3;    ///< the mark, the roll and the lay; figures follow
+
+/// As high as its rows, where they are not many.
+class RowsHighTable : public QTableWidget {
+  public:
+    using QTableWidget::QTableWidget;
+
+    QSize sizeHint() const override {
+        const int rows = std::clamp(rowCount(), LeastRows, MostRows);
+        return {QTableWidget::sizeHint().width(), HeightFor(rows)};
+    }
+    QSize minimumSizeHint() const override {
+        return {QTableWidget::minimumSizeHint().width(), HeightFor(LeastRows)};
+    }
+
+  private:
+    int HeightFor(int rows) const {
+        return 2 * frameWidth() + horizontalHeader()->sizeHint().height() +
+               rows * verticalHeader()->defaultSectionSize() +
+               horizontalScrollBar()->sizeHint().height();
+    }
+};
+
+/// The heads of the table's columns: those of the comparison between its mark, what is above the
+/// least possible, and remarks.
+std::vector<std::string> Heads(Units units) {
+    std::vector<std::string> heads = ComparisonHeads(units);
+    heads.insert(heads.begin(), "Take");
+    heads.insert(heads.end(), {"Above least %", "Notes"});
+    return heads;
+}
+
+QLabel* NewLine(QWidget* parent, const char* name, TextRole role) {
+    QLabel* label = NewLabel(parent, name, {});
+    SetRole(*label, role);
+    label->setWordWrap(true);
+    return label;
+}
+
+/// A head on two lines, so that its column is no wider than need be.
+QString Broken(const std::string& head) {
+    QString text = ToQt(head);
+    const auto blank = text.indexOf(QLatin1Char(' '));
+    if (blank >= 0) {
+        text[blank] = QLatin1Char('\n');
+    }
+    return text;
+}
+
+} // namespace
+
+ComparisonPanel::ComparisonPanel(QWidget* parent)
+    : QWidget(parent) {
+    setObjectName(Controls::comparisonPanel);
+    taken_ = NewLine(this, Controls::comparisonTaken, TextRole::Heading);
+    state_ = NewLine(this, Controls::comparisonState, TextRole::Hint);
+    table_ = new RowsHighTable(this);
+    NameControl(*table_, Controls::comparison, QStringLiteral("Comparison of rolls and lays"));
+    table_->setTabKeyNavigation(false); // it leads on to the next control
+    table_->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    table_->setSelectionBehavior(QAbstractItemView::SelectRows);
+    table_->setSelectionMode(QAbstractItemView::SingleSelection);
+    table_->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
+    table_->setWordWrap(false);
+    table_->verticalHeader()->hide();
+    table_->verticalHeader()->setDefaultSectionSize(Pixels(RowHeight));
+    table_->verticalHeader()->setMinimumSectionSize(Pixels(RowHeight));
+    table_->horizontalHeader()->setHighlightSections(false);
+    connect(table_, &QTableWidget::currentCellChanged, this, [this](int row, int, int before, int) {
+        if (row >= 0 && row != before) {
+            OnRow(static_cast<std::size_t>(row));
+        }
+    });
+    remarks_ = NewLine(this, Controls::comparisonRemarks, TextRole::Label);
+    auto* rows = new QVBoxLayout(this);
+    SetSpacing(*rows, 0, Metrics::Spacing / 2);
+    rows->addWidget(taken_);
+    rows->addWidget(state_);
+    rows->addWidget(table_, 1);
+    rows->addWidget(remarks_);
+    Clear();
+}
+
+void ComparisonPanel::Show(const Order& order, std::optional<std::size_t> taken) {
+    const QSignalBlocker silent(table_);
+    const auto rows = static_cast<int>(order.Candidates.size());
+    const bool isNew = table_->rowCount() != rows;
+    if (isNew) {
+        SetHeads(order.Request.In);
+        table_->setRowCount(rows);
+        table_->updateGeometry();
+    }
+    for (std::size_t row = 0; row < order.Candidates.size(); ++row) {
+        SetCells(order, row, taken == row);
+    }
+    table_->resizeColumnsToContents();
+    if (taken && static_cast<int>(*taken) != table_->currentRow()) {
+        table_->setCurrentCell(static_cast<int>(*taken), std::max(table_->currentColumn(), 0));
+    }
+    ShowTaken(order, taken);
+}
+
+void ComparisonPanel::ShowTaken(const Order& order, std::optional<std::size_t> taken) {
+    const bool hasFigures = taken && order.Candidates[*taken].Figures;
+    SetText(*taken_, hasFigures ? TakenText(order, *taken) : std::string());
+    taken_->setVisible(hasFigures);
+    const std::string remarks = taken ? RemarksOf(order.Candidates[*taken]) : std::string();
+    SetText(*remarks_, remarks);
+    remarks_->setVisible(!remarks.empty());
+}
+
+void ComparisonPanel::Clear() {
+    const QSignalBlocker silent(table_);
+    table_->setRowCount(0);
+    taken_->hide();
+    remarks_->hide();
+}
+
+void ComparisonPanel::ShowState(std::string_view state, bool isWarning) {
+    SetText(*state_, state);
+    SetRole(*state_, isWarning ? TextRole::Warning : TextRole::Hint);
+    state_->setVisible(!state.empty());
+}
+
+void ComparisonPanel::SetHeads(Units units) {
+    QStringList heads;
+    for (const std::string& head : Heads(units)) {
+        heads += Broken(head);
+    }
+    table_->setColumnCount(static_cast<int>(heads.size()));
+    table_->setHorizontalHeaderLabels(heads);
+}
+
+void ComparisonPanel::SetCells(const Order& order, std::size_t row, bool isTaken) {
+    const OrderCandidate& candidate = order.Candidates[row];
+    std::vector<std::string> cells = ComparisonCells(order, candidate);
+    cells.insert(cells.begin(), order.Best == row              ? "best"
+                                : isTaken && candidate.Figures ? "chosen"
+                                                               : "");
+    cells.push_back(AboveLeastText(candidate));
+    cells.push_back(OneLine(RemarksOf(candidate)));
+    for (int column = 0; column < table_->columnCount(); ++column) {
+        QTableWidgetItem& cell = Cell(static_cast<int>(row), column);
+        const QString text = ToQt(cells[static_cast<std::size_t>(column)]);
+        if (cell.text() != text) {
+            cell.setText(text);
+        }
+        if (cell.font().bold() != isTaken) {
+            QFont font = cell.font();
+            font.setBold(isTaken);
+            cell.setFont(font);
+        }
+    }
+}
+
+QTableWidgetItem& ComparisonPanel::Cell(int row, int column) {
+    QTableWidgetItem* cell = table_->item(row, column);
+    if (cell == nullptr) {
+        cell = new QTableWidgetItem;
+        const bool isText = column < TextColumns || column == table_->columnCount() - 1;
+        cell->setTextAlignment((isText ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter);
+        table_->setItem(row, column, cell);
+    }
+    return *cell;
+}
+
+} // namespace tarn

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "order/Order.h"
+
+#include <QWidget>
+
+#include <functional>
+#include <optional>
+#include <string_view>
+
+class QLabel;
+class QTableWidget;
+class QTableWidgetItem;
+
+namespace tarn {
+
+/// The comparison of rolls and lays as a table, what there is to say of it above, and the remarks
+/// of the row that is shown below. The row to take is marked in words.
+class ComparisonPanel : public QWidget {
+  public:
+    explicit ComparisonPanel(QWidget* parent);
+
+    /// Show an order, and which of its rows is taken, if any is. Calls nothing back.
+    void Show(const Order& order, std::optional<std::size_t> taken);
+    /// Show no comparison.
+    void Clear();
+    /// Say how far the comparison is; `isWarning` when the user should notice it.
+    void ShowState(std::string_view state, bool isWarning);
+
+    QTableWidget& Table() { return *table_; }
+
+    /// The user went to another row. Must not raise.
+    std::function<void(std::size_t)> OnRow = [](std::size_t) {};
+
+  private:
+    void SetHeads(Units units);
+    void SetCells(const Order& order, std::size_t row, bool isTaken);
+    void ShowTaken(const Order& order, std::optional<std::size_t> taken);
+    QTableWidgetItem& Cell(int row, int column);
+
+    QLabel* state_ = nullptr;
+    QLabel* taken_ = nullptr;
+    QTableWidget* table_ = nullptr;
+    QLabel* remarks_ = nullptr;
+};
+
+} // namespace tarn

@@ -1,0 +1,316 @@
+#include "screens/order/OrderChoicePanel.h"
+
+#include "base/Text.h"
+#include "files/QtText.h"
+#include "project/Coverings.h"
+#include "screens/Arrangement.h"
+#include "screens/ControlNames.h"
+#include "screens/Controls.h"
+#include "screens/Display.h"
+#include "screens/Theme.h"
+#include "screens/order/RollTable.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <array>
+
+namespace tarn {
+
+namespace {
+
+constexpr double FieldWidth = 1150; ///< twips
+constexpr int LongestText = 20;     ///< characters of a field
+constexpr const char* PatternHint =
+    "Across is the distance to the next column of the pattern. With a half drop, which sets it "
+    "half a repeat further along, that is half the repeat of makers who name the whole design.";
+
+/// A field of the panel by the option of the request that it is for.
+struct FieldOf {
+    const char* Option;
+    const char* Name;
+    const char* CaptionName;
+    const char* Caption;
+    char Mnemonic;
+    std::string TypedOrder::*Text;
+    int Row; ///< in the grid of fields
+    int Column;
+};
+constexpr std::array<FieldOf, 9> Fields{
+    {{"selvage", Controls::orderSelvage, Controls::orderSelvageCaption, "SELVAGE", 'G',
+      &TypedOrder::Selvage, 0, 0},
+     {"step", Controls::orderStep, Controls::orderStepCaption, "STEP", 0, &TypedOrder::Step, 0, 1},
+     {"trim along", Controls::orderTrimAlong, Controls::orderTrimAlongCaption, "TRIM ALONG", 'A',
+      &TypedOrder::TrimAlong, 1, 0},
+     {"trim across", Controls::orderTrimAcross, Controls::orderTrimAcrossCaption, "TRIM ACROSS",
+      'O', &TypedOrder::TrimAcross, 1, 1},
+     {"shortest part", Controls::orderShortestPart, Controls::orderShortestPartCaption,
+      "SHORTEST PART", 'H', &TypedOrder::ShortestPart, 2, 1},
+     {"pattern across", Controls::orderPatternAcross, Controls::orderPatternAcrossCaption,
+      "PATTERN ACROSS", 'N', &TypedOrder::PatternAcross, 4, 0},
+     {"pattern along", Controls::orderPatternAlong, Controls::orderPatternAlongCaption,
+      "PATTERN ALONG", 'E', &TypedOrder::PatternAlong, 4, 1},
+     {"pattern drift", Controls::orderPatternDrift, Controls::orderPatternDriftCaption, "DRIFT %",
+      0, &TypedOrder::PatternDrift, 5, 1},
+     {"seconds", Controls::orderSeconds, Controls::orderSecondsCaption, "SECONDS", 0,
+      &TypedOrder::Seconds, 7, 1}}};
+constexpr int PartsRow = 2;
+constexpr int JoinRow = 3;
+constexpr int HalfDropRow = 5;
+constexpr int HintRow = 6;
+
+const FieldOf& FieldFor(std::string_view option) {
+    return *std::find_if(Fields.begin(), Fields.end(),
+                         [&](const FieldOf& field) { return field.Option == option; });
+}
+
+/// A control with its label before it.
+QBoxLayout* Labelled(QLabel* label, QWidget* control) {
+    auto* row = new QHBoxLayout;
+    SetSpacing(*row, 0, Metrics::Spacing / 2);
+    row->addWidget(label, 1);
+    row->addWidget(control);
+    return row;
+}
+
+} // namespace
+
+OrderChoicePanel::OrderChoicePanel(QWidget* parent, Units units)
+    : QFrame(parent)
+    , units_(units) {
+    NameControl(*this, Controls::orderChoices, QStringLiteral("Order choices"));
+    SetPanel(*this);
+    columns_ = new QBoxLayout(QBoxLayout::TopToBottom);
+    SetSpacing(*columns_, 0, Metrics::Spacing);
+    columns_->addLayout(BuildRolls(), 1);
+    columns_->addLayout(BuildFields(), 1);
+    refusal_ = NewLabel(this, Controls::orderRefusal, {});
+    SetRole(*refusal_, TextRole::Warning);
+    refusal_->setWordWrap(true);
+    refusal_->hide();
+    auto* rows = new QVBoxLayout(this);
+    SetSpacing(*rows, Metrics::Spacing);
+    rows->addLayout(columns_, 1);
+    rows->addWidget(refusal_);
+    const TypedOrder usual = UsualTexts(units_);
+    for (const FieldOf& field : Fields) {
+        fields_.at(field.Option)->setPlaceholderText(ToQt(usual.*field.Text));
+    }
+    Connect();
+}
+
+QBoxLayout* OrderChoicePanel::BuildRolls() {
+    auto* rows = new QVBoxLayout;
+    SetSpacing(*rows, 0, Metrics::Spacing / 2);
+    carpet_ = new QComboBox(this);
+    carpet_->setObjectName(Controls::orderCarpet);
+    rows->addLayout(Labelled(
+        NewLabelFor(*carpet_, this, Controls::orderCarpetCaption, "CARPET", 'C'), carpet_));
+    note_ = NewLabel(this, Controls::orderNote, {});
+    SetRole(*note_, TextRole::Warning);
+    note_->setWordWrap(true);
+    note_->hide();
+    rows->addWidget(note_);
+    rolls_ = new RollTable(this, units_);
+    rolls_->setObjectName(Controls::orderRolls);
+    auto* remove = NewButton(this, Controls::removeRoll, "REMOVE ROLL", 'V');
+    connect(remove, &QPushButton::clicked, this, [this] { rolls_->RemoveCurrent(); });
+    rows->addLayout(
+        Labelled(NewLabelFor(*rolls_, this, Controls::orderRollsCaption, "ROLLS", 'R'), remove));
+    rows->addWidget(rolls_, 1);
+    down_ = NewBox(Controls::orderDownLay, "DOWN LAY", 'D');
+    cross_ = NewBox(Controls::orderCrossLay, "CROSS LAY", 'L');
+    auto* lays = new QHBoxLayout;
+    lays->addWidget(down_);
+    lays->addWidget(cross_);
+    lays->addStretch();
+    rows->addLayout(lays);
+    tabOrder_ = {carpet_, rolls_, remove, down_, cross_};
+    return rows;
+}
+
+QBoxLayout* OrderChoicePanel::BuildFields() {
+    auto* grid = new QGridLayout;
+    grid->setHorizontalSpacing(Pixels(Metrics::Margin));
+    grid->setVerticalSpacing(Pixels(Metrics::Spacing / 2));
+    const auto add = [&](const char* option) {
+        const FieldOf& field = FieldFor(option);
+        QLineEdit* box = fields_[option] = new QLineEdit(this);
+        box->setObjectName(field.Name);
+        box->setMaxLength(LongestText);
+        box->setFixedWidth(Pixels(FieldWidth));
+        grid->addLayout(
+            Labelled(NewLabelFor(*box, this, field.CaptionName, field.Caption, field.Mnemonic),
+                     box),
+            field.Row, field.Column);
+        tabOrder_.push_back(box);
+    };
+    const auto addBox = [&](QCheckBox* box, int row, int columns) {
+        grid->addWidget(box, row, 0, 1, columns);
+        tabOrder_.push_back(box);
+    };
+    for (const char* option : {"selvage", "step", "trim along", "trim across"}) {
+        add(option);
+    }
+    OfferParts();
+    grid->addLayout(
+        Labelled(NewLabelFor(*parts_, this, Controls::orderPartingCaption, "PARTS AT MOST", 'P'),
+                 parts_),
+        PartsRow, 0);
+    tabOrder_.push_back(parts_);
+    add("shortest part");
+    join_ = NewBox(Controls::orderJoinRooms, "JOIN ROOMS NO WIDER THAN THE ROLL", 'J');
+    addBox(join_, JoinRow, 2);
+    add("pattern across");
+    add("pattern along");
+    halfDrop_ = NewBox(Controls::orderHalfDrop, "HALF DROP", 'F');
+    addBox(halfDrop_, HalfDropRow, 1);
+    add("pattern drift");
+    auto* hint = NewLabel(this, Controls::orderPatternHint, PatternHint);
+    SetRole(*hint, TextRole::Hint);
+    hint->setWordWrap(true);
+    hint->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // the fields are wide enough
+    grid->addWidget(hint, HintRow, 0, 1, 2);
+    add("seconds");
+    auto* rows = new QVBoxLayout;
+    rows->addLayout(grid);
+    rows->addStretch();
+    return rows;
+}
+
+QCheckBox* OrderChoicePanel::NewBox(const char* name, std::string_view caption, char mnemonic) {
+    auto* box = new QCheckBox(this);
+    box->setObjectName(name);
+    SetCaption(*box, caption, mnemonic);
+    return box;
+}
+
+void OrderChoicePanel::OfferParts() {
+    parts_ = new QComboBox(this);
+    parts_->setObjectName(Controls::orderParting);
+    parts_->setFixedWidth(Pixels(FieldWidth));
+    for (Long parts = 1; parts <= MostPartsOfStrip; ++parts) {
+        parts_->addItem(QString::number(parts));
+    }
+}
+
+void OrderChoicePanel::Connect() {
+    const auto change = [this] {
+        if (!showing_) {
+            OnChange();
+        }
+    };
+    const auto settle = [this, change] {
+        change();
+        if (!showing_) {
+            OnSettled();
+        }
+    };
+    for (const auto& [option, field] : fields_) {
+        connect(field, &QLineEdit::textChanged, this, change);
+        connect(field, &QLineEdit::editingFinished, this, [this] { OnSettled(); });
+        connect(field, &QLineEdit::returnPressed, this, [this] { OnEnter(); });
+    }
+    connect(fields_.at("pattern along"), &QLineEdit::textChanged, this,
+            [this] { ShowUsualDrift(); });
+    rolls_->OnChange = settle;
+    for (QCheckBox* box : {down_, cross_, join_, halfDrop_}) {
+        connect(box, &QCheckBox::toggled, this, settle);
+    }
+    connect(parts_, &QComboBox::currentIndexChanged, this, settle);
+    connect(carpet_, &QComboBox::currentIndexChanged, this, [this] {
+        if (!showing_) {
+            OnCarpet();
+        }
+    });
+}
+
+void OrderChoicePanel::OfferCarpets(const std::vector<Byte>& carpets, Byte shown) {
+    showing_ = true;
+    carpet_->clear();
+    for (const Byte carpet : carpets) {
+        carpet_->addItem(ToQt(CoveringCaption(carpet)), QVariant(carpet));
+    }
+    carpet_->setCurrentIndex(carpet_->findData(QVariant(shown)));
+    showing_ = false;
+}
+
+Byte OrderChoicePanel::Carpet() const {
+    return static_cast<Byte>(carpet_->currentData().toUInt());
+}
+
+void OrderChoicePanel::Show(const TypedOrder& typed) {
+    showing_ = true;
+    rolls_->Show(typed.Rolls);
+    down_->setChecked(typed.DownLay);
+    cross_->setChecked(typed.CrossLay);
+    for (const FieldOf& field : Fields) {
+        fields_.at(field.Option)->setText(ToQt(typed.*field.Text));
+    }
+    parts_->setCurrentIndex(static_cast<int>(typed.MostParts) - 1);
+    join_->setChecked(typed.JoinRooms);
+    halfDrop_->setChecked(typed.HalfDrop);
+    showing_ = false;
+    ShowUsualDrift();
+}
+
+TypedOrder OrderChoicePanel::Typed() {
+    TypedOrder typed;
+    typed.In = units_;
+    typed.Rolls = rolls_->Rolls();
+    typed.DownLay = down_->isChecked();
+    typed.CrossLay = cross_->isChecked();
+    for (const FieldOf& field : Fields) {
+        typed.*field.Text = FromQt(fields_.at(field.Option)->text());
+    }
+    typed.MostParts = parts_->currentIndex() + 1;
+    typed.JoinRooms = join_->isChecked();
+    typed.HalfDrop = halfDrop_->isChecked();
+    return typed;
+}
+
+/// What stands for the drift while nothing is typed goes with the pattern.
+void OrderChoicePanel::ShowUsualDrift() {
+    TypedOrder pattern;
+    pattern.In = units_;
+    pattern.PatternAlong = FromQt(fields_.at("pattern along")->text());
+    fields_.at("pattern drift")->setPlaceholderText(ToQt(UsualDriftText(pattern)));
+}
+
+void OrderChoicePanel::ShowNote(std::string_view note) {
+    SetText(*note_, note);
+    note_->setVisible(!note.empty());
+}
+
+void OrderChoicePanel::ShowRefusal(std::string_view reason) {
+    SetText(*refusal_, reason);
+    refusal_->setVisible(!reason.empty());
+}
+
+void OrderChoicePanel::FocusFault(const OrderRequestFault& fault) {
+    const auto field = fields_.find(fault.Option);
+    if (field != fields_.end()) {
+        field->second->setFocus();
+        field->second->selectAll();
+    } else if (fault.Option == "lay") {
+        down_->setFocus();
+    } else if (fault.Option == "half drop") {
+        halfDrop_->setFocus();
+    } else if (fault.Option == "parts") {
+        parts_->setFocus();
+    } else {
+        rolls_->FocusRoll(fault.Roll, fault.Option == "price");
+    }
+}
+
+void OrderChoicePanel::SetFieldsBeside(bool beside) {
+    columns_->setDirection(beside ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+}
+
+} // namespace tarn

@@ -1,0 +1,78 @@
+#include "screens/order/OrderOutput.h"
+
+#include "files/OrderJson.h"
+#include "files/OrderTables.h"
+#include "files/OrderText.h"
+#include "files/OrderXlsx.h"
+#include "files/OutputFile.h"
+#include "files/ShortDate.h"
+#include "files/Svg.h"
+#include "order/OrderSheet.h"
+#include "paper/PdfFile.h"
+#include "project/Coverings.h"
+#include "screens/Printing.h"
+#include "screens/SaveAs.h"
+#include "screens/WaitCursor.h"
+
+#include <utility>
+
+namespace tarn {
+
+namespace {
+
+std::string DateOf(const Session& session) {
+    const QDate today = session.Today();
+    return ShortDate(today.year(), today.month(), today.day());
+}
+
+std::string CarpetOf(const OrderDocument& document) {
+    return CoveringCaption(document.Orders.front().Carpet);
+}
+
+std::string PdfOf(const Session& session, const OrderDocument& document) {
+    return OrderPdf(document, DateOf(session), PaperOf(session.Page));
+}
+
+std::string SvgOf(const Session& session, const OrderDocument& document) {
+    return SvgDocument(OrderPicture(document.Of, document.Orders.front(), {}, DateOf(session)),
+                       document.Of.Name + ", " + CarpetOf(document));
+}
+
+} // namespace
+
+const std::array<OrderFile, 6>& OrderFiles() {
+    using Document = const OrderDocument&;
+    static const std::array<OrderFile, 6> files{
+        {{SaveAsPdfCaption, "pdf", PdfOf},
+         {SaveAsSvgCaption, "svg", SvgOf},
+         {"Save as spreadsheet (&XLSX)", "xlsx",
+          [](const Session&, Document document) { return OrderXlsx(document); }},
+         {"Save as &CSV", "csv",
+          [](const Session&, Document document) { return OrderCsv(document); }},
+         {"Save as &text", "txt",
+          [](const Session&, Document document) { return OrderText(document); }},
+         {"Save as &JSON", "json",
+          [](const Session&, Document document) { return OrderJson(document); }}}};
+    return files;
+}
+
+OrderDocument DocumentOf(const Session& session, Order order) {
+    OrderDocument document{session.Project.Now, order.Request.In, {}};
+    document.Orders.push_back(std::move(order));
+    return document;
+}
+
+void PrintOrder(const Session& session, const OrderDocument& document) {
+    Print(session.Boxes, [&] { session.Paper.PrintOrder(document, DateOf(session)); });
+}
+
+void SaveOrderAs(const Session& session, const OrderDocument& document, const OrderFile& file) {
+    // Not the name under which the estimate is saved.
+    SaveAs(session.Boxes, document.Of.Name + " ORDER " + CarpetOf(document), file.Suffix,
+           [&](const std::string& path) {
+               const WaitCursor waiting;
+               WriteOutputFile(path, file.ContentOf(session, document));
+           });
+}
+
+} // namespace tarn

@@ -1,0 +1,34 @@
+// The order on paper and in files: what the order screen's PRINT and SAVE AS do.
+
+#pragma once
+
+#include "files/OrderDocument.h"
+#include "screens/Session.h"
+
+#include <array>
+#include <string>
+
+namespace tarn {
+
+/// A kind of file that an order is saved as.
+struct OrderFile {
+    const char* Caption; ///< with its mnemonic
+    const char* Suffix;
+    /// The whole content. May raise.
+    std::string (*ContentOf)(const Session& session, const OrderDocument& document);
+};
+
+/// In the order in which they are offered.
+const std::array<OrderFile, 6>& OrderFiles();
+
+/// A document of one order of the open project.
+OrderDocument DocumentOf(const Session& session, Order order);
+
+/// Print the sheet to buy and cut by. What fails is told as Print does.
+void PrintOrder(const Session& session, const OrderDocument& document);
+
+/// Ask for a file and save the order there; nothing when that was cancelled. Raises
+/// OutputFileError, which names the file.
+void SaveOrderAs(const Session& session, const OrderDocument& document, const OrderFile& file);
+
+} // namespace tarn

@@ -1,0 +1,458 @@
+#include "screens/order/OrderScreen.h"
+
+#include "files/QtText.h"
+#include "screens/Arrangement.h"
+#include "screens/ControlNames.h"
+#include "screens/Controls.h"
+#include "screens/Display.h"
+#include "screens/ElidedLabel.h"
+#include "screens/SaveProject.h"
+#include "screens/Theme.h"
+#include "screens/order/ComparisonPanel.h"
+#include "screens/order/OrderChoicePanel.h"
+#include "screens/order/OrderOutput.h"
+#include "screens/roll/RollList.h"
+#include "screens/roll/RollPanel.h"
+#include "screens/roll/RollView.h"
+
+#include <QAction>
+#include <QEvent>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QPushButton>
+#include <QTabBar>
+#include <QTableWidget>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <utility>
+
+namespace tarn {
+
+namespace {
+
+constexpr const char* OrderFailure = "The order could not be made.";
+constexpr const char* ChoiceFailure = "The choices could not be taken.";
+constexpr const char* FileFailure = "The order could not be saved.";
+constexpr const char* LeaveFailure = "The screen could not be closed.";
+
+constexpr std::string_view Comparing = "Comparing. STOP keeps the best so far.";
+constexpr std::string_view Compared = "Compared.";
+constexpr std::string_view Stopped = "Stopped: the best so far.";
+constexpr std::string_view OutOfDate = "OUT OF DATE: the choices have changed. Press COMPARE.";
+constexpr std::string_view AllRefused = "Every roll and lay is refused: the notes say why.";
+
+constexpr double WideFrom = 16500; ///< twips: from here on all parts stand side by side
+
+std::string OtherUnitsNote(Units shown) {
+    return std::string("The request that is kept for this carpet is in ") +
+           (shown == Units::Metric ? "feet and inches" : "metric") +
+           " and is not used. What you change takes its place.";
+}
+
+} // namespace
+
+OrderScreen::OrderScreen(Session& session, std::optional<Byte> carpet)
+    : Screen(session, Controls::orderScreen) {
+    Build();
+    Connect();
+    Begin(carpet);
+}
+
+OrderScreen::~OrderScreen() = default;
+
+void OrderScreen::Build() {
+    auto* rows = new QVBoxLayout(&Body());
+    SetSpacing(*rows, Metrics::Margin);
+    rows->addLayout(BuildTitle());
+    rows->addLayout(BuildParts(), 1);
+    rows->addLayout(BuildButtons());
+    ShowTitle();
+    SetTabOrder();
+    Body().installEventFilter(this);
+    ShowPart(Comparison);
+}
+
+QBoxLayout* OrderScreen::BuildTitle() {
+    title_ = new ElidedLabel(&Body());
+    NameControl(*title_, Controls::formTitle, {});
+    SetRole(*title_, TextRole::FormTitle);
+    title_->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    unitsWarning_ = NewLabel(&Body(), Controls::titleWarning, "");
+    SetRole(*unitsWarning_, TextRole::Warning);
+    tabs_ = new QTabBar(&Body());
+    NameControl(*tabs_, Controls::orderParts, QStringLiteral("Parts of the screen"));
+    for (const char* caption : {"CHOICES", "COMPARISON", "ROLL"}) {
+        tabs_->addTab(QString::fromLatin1(caption));
+    }
+    tabs_->setDrawBase(false);
+    auto* line = new QHBoxLayout;
+    line->setSpacing(Pixels(Metrics::Margin));
+    line->addWidget(title_);
+    line->addWidget(unitsWarning_);
+    line->addStretch();
+    line->addWidget(tabs_);
+    return line;
+}
+
+QBoxLayout* OrderScreen::BuildParts() {
+    choices_ = new OrderChoicePanel(&Body(), ShownUnits());
+    comparison_ = new ComparisonPanel(&Body());
+    roll_ = new RollPanel(&Body(), Shared().Boxes);
+    auto* right = new QVBoxLayout;
+    right->setSpacing(Pixels(Metrics::Spacing));
+    right->addWidget(comparison_);
+    right->addWidget(roll_, 1);
+    columns_ = new QHBoxLayout;
+    columns_->setSpacing(Pixels(Metrics::Margin));
+    columns_->addWidget(choices_);
+    columns_->addLayout(right, 1);
+    return columns_;
+}
+
+QBoxLayout* OrderScreen::BuildButtons() {
+    compare_ = NewButton(&Body(), Controls::compare, "COMPARE", 'M');
+    stop_ = NewButton(&Body(), Controls::stopComparing, "STOP", 'T');
+    print_ = NewButton(&Body(), Controls::printOrder, "PRINT", 'I');
+    saveAs_ = NewButton(&Body(), Controls::saveOrderAs, "SAVE AS", 'S');
+    back_ = NewButton(&Body(), Controls::leaveOrder, "BACK", 'B');
+    SetPrimary(*compare_);
+    BuildFiles();
+    auto* line = new QHBoxLayout;
+    line->setSpacing(Pixels(Metrics::Spacing));
+    for (QPushButton* button : {compare_, stop_, print_, saveAs_, back_}) {
+        if (button == back_) {
+            line->addStretch();
+        }
+        line->addWidget(button);
+    }
+    return line;
+}
+
+void OrderScreen::BuildFiles() {
+    files_ = new QMenu(saveAs_);
+    files_->setObjectName(Controls::orderFiles);
+    for (std::size_t kind = 0; kind < OrderFiles().size(); ++kind) {
+        const OrderFile& file = OrderFiles()[kind];
+        QAction* action = files_->addAction(QString::fromLatin1(file.Caption));
+        action->setObjectName(Controls::orderFileActions[kind]);
+        connect(action, &QAction::triggered, this,
+                [this, &file] { Guard(FileFailure, [&] { SaveTaken(file); }); });
+    }
+    saveAs_->setMenu(files_);
+}
+
+void OrderScreen::Connect() {
+    const auto guarded = [this](void (OrderScreen::*body)()) {
+        return [this, body] { Guard(ChoiceFailure, [&] { (this->*body)(); }); };
+    };
+    choices_->OnChange = guarded(&OrderScreen::NoteChoices);
+    choices_->OnSettled = guarded(&OrderScreen::Settle);
+    choices_->OnEnter = guarded(&OrderScreen::Compare);
+    choices_->OnCarpet = [this] {
+        Guard(ChoiceFailure, [this] { OpenCarpet(choices_->Carpet()); });
+    };
+    comparison_->OnRow = [this](std::size_t row) { Guard(OrderFailure, [&] { ChooseRow(row); }); };
+    connect(tabs_, &QTabBar::currentChanged, this,
+            [this](int part) { ShowPart(static_cast<Part>(part)); });
+    OnClick(*compare_, OrderFailure, [this] { Compare(); });
+    OnClick(*stop_, OrderFailure, [this] { StopComparing(); });
+    OnClick(*print_, {}, [this] { PrintTaken(); });
+    IgnoreSecondClick(*print_);
+    OnClick(*back_, LeaveFailure, [this] { Leave(); });
+}
+
+void OrderScreen::SetTabOrder() {
+    std::vector<QWidget*> order{tabs_};
+    order.insert(order.end(), choices_->TabOrder().begin(), choices_->TabOrder().end());
+    order.push_back(&comparison_->Table());
+    order.insert(order.end(),
+                 {&roll_->View(), &roll_->List(), compare_, stop_, print_, saveAs_, back_});
+    SetTabOrders(order);
+}
+
+void OrderScreen::ShowTitle() {
+    setWindowTitle(ToQt("ORDER FOR PROJECT: " + Shared().Project.Now.Name));
+    SetText(*title_, FromQt(windowTitle()));
+    const std::string_view words = UnitsWarning(Shared().Project);
+    SetText(*unitsWarning_, words);
+    unitsWarning_->setVisible(!words.empty());
+}
+
+bool OrderScreen::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == &Body() && event->type() == QEvent::Resize) {
+        Guard("The screen could not be arranged.", [this] { Arrange(); });
+    }
+    return Screen::eventFilter(watched, event);
+}
+
+void OrderScreen::Arrange() {
+    const bool isWide = Scroller().viewport()->width() >= Pixels(WideFrom);
+    if (isWide != isWide_) {
+        isWide_ = isWide;
+        ShowPart(static_cast<Part>(tabs_->currentIndex()));
+    }
+}
+
+void OrderScreen::ShowPart(Part part) {
+    tabs_->setCurrentIndex(part); // which comes back here
+    tabs_->setVisible(!isWide_);
+    choices_->SetFieldsBeside(!isWide_);
+    columns_->setStretchFactor(choices_, isWide_ ? 0 : 1);
+    roll_->SetListBeside(isWide_);
+    choices_->setVisible(isWide_ || part == Choices);
+    comparison_->setVisible(isWide_ || part == Comparison);
+    roll_->setVisible(isWide_ || part == Roll);
+}
+
+QWidget* OrderScreen::FirstFocus() {
+    return compare_->isEnabled() ? static_cast<QWidget*>(&comparison_->Table()) : back_;
+}
+
+void OrderScreen::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Escape) {
+        back_->click();
+    } else if (event->matches(QKeySequence::Print)) {
+        print_->click();
+    } else if (event->matches(QKeySequence::Save)) {
+        Guard(std::string(NotSavedMessage), [this] { SaveProject(); });
+    } else {
+        Screen::keyPressEvent(event);
+    }
+}
+
+void OrderScreen::Begin(std::optional<Byte> carpet) {
+    const std::vector<Byte> carpets = CarpetsToOrder(Shared().Project.Now);
+    if (carpets.empty()) {
+        for (QWidget* control :
+             {static_cast<QWidget*>(choices_), static_cast<QWidget*>(compare_)}) {
+            control->setEnabled(false);
+        }
+        ShowState();
+        EnableButtons();
+        return;
+    }
+    const bool isThere = std::find(carpets.begin(), carpets.end(), carpet) != carpets.end();
+    choices_->OfferCarpets(carpets, isThere ? *carpet : carpets.front());
+    OpenCarpet(choices_->Carpet());
+}
+
+/// Shows the carpet's request, with which the comparison starts by itself.
+void OrderScreen::OpenCarpet(Byte carpet) {
+    DropComparison();
+    carpet_ = carpet;
+    const CarpetRequest request = RequestFor(Shared().Project.Now.Orders, carpet, ShownUnits());
+    choices_->Show(TypedOf(request.Value));
+    choices_->ShowNote(request.InOtherUnits ? OtherUnitsNote(ShownUnits()) : std::string());
+    choices_->ShowRefusal({});
+    asked_ = RequestOf(choices_->Typed());
+    if (const auto* asked = std::get_if<OrderRequest>(&asked_)) {
+        Start(*asked);
+    } else {
+        Settle();
+    }
+}
+
+/// A change ends the comparison that it does not count for, and is kept as soon as it makes sense.
+void OrderScreen::NoteChoices() {
+    asked_ = RequestOf(choices_->Typed());
+    if (const auto* asked = std::get_if<OrderRequest>(&asked_)) {
+        OpenProject& project = Shared().Project;
+        KeepRequest(project.Now.Orders, project.Saved.Orders, carpet_, *asked);
+        Shared().Drafts.NoteChange();
+        choices_->ShowNote({});
+        choices_->ShowRefusal({});
+    }
+    if (run_ && !IsComparedRequest()) {
+        StopComparing();
+    }
+    ShowState();
+    EnableButtons();
+}
+
+void OrderScreen::Settle() {
+    const auto* fault = std::get_if<OrderRequestFault>(&asked_);
+    choices_->ShowRefusal(fault != nullptr ? fault->Reason : std::string());
+}
+
+void OrderScreen::Compare() {
+    asked_ = RequestOf(choices_->Typed());
+    if (const auto* fault = std::get_if<OrderRequestFault>(&asked_)) {
+        ShowPart(Choices);
+        Settle();
+        choices_->FocusFault(*fault);
+        return;
+    }
+    Start(std::get<OrderRequest>(asked_));
+    ShowPart(Comparison);
+    comparison_->Table().setFocus();
+}
+
+void OrderScreen::Start(const OrderRequest& request) {
+    DropComparison();
+    compared_ = request;
+    OrderLimits limits;
+    limits.Seconds = request.Seconds;
+    run_ = std::make_unique<OrderRun>(
+        Shared().Project.Now, carpet_, request, limits,
+        OrderRun::Callbacks{
+            [this](const Order& order) { Guard(OrderFailure, [&] { TakeProgress(order); }); },
+            [this](const std::exception_ptr& fault) {
+                Guard(OrderFailure, [&] { TakeEnd(fault); });
+            }});
+    ShowState();
+    EnableButtons();
+}
+
+void OrderScreen::TakeProgress(const Order& order) {
+    order_ = order;
+    ShowOrder();
+}
+
+void OrderScreen::TakeEnd(const std::exception_ptr& fault) {
+    run_.reset();
+    const auto after = std::exchange(afterRun_, nullptr);
+    if (fault) {
+        DropComparison();
+        std::rethrow_exception(fault);
+    }
+    ShowState();
+    EnableButtons();
+    if (after) {
+        after();
+    }
+}
+
+void OrderScreen::StopComparing() {
+    if (run_) {
+        wasStopped_ = true;
+        run_->Stop();
+    }
+}
+
+void OrderScreen::DropComparison() {
+    run_.reset();
+    afterRun_ = nullptr;
+    wasStopped_ = false;
+    order_.reset();
+    drawn_.reset();
+    chosen_.reset();
+    compared_.reset();
+    comparison_->Clear();
+    roll_->Clear();
+    ShowState();
+    EnableButtons();
+}
+
+bool OrderScreen::IsComparedRequest() const {
+    const auto* asked = std::get_if<OrderRequest>(&asked_);
+    return asked != nullptr && compared_ && AskForTheSame(*asked, *compared_);
+}
+
+std::optional<std::size_t> OrderScreen::TakenRow() const {
+    return chosen_ || !order_ ? chosen_ : order_->Best;
+}
+
+bool OrderScreen::HasTaken() const {
+    const auto row = TakenRow();
+    return row && order_->Candidates[*row].Figures && IsComparedRequest();
+}
+
+void OrderScreen::ChooseRow(std::size_t row) {
+    chosen_ = order_->Best == row ? std::nullopt : std::optional(row);
+    ShowOrder();
+}
+
+void OrderScreen::ShowOrder() {
+    const auto taken = TakenRow();
+    comparison_->Show(*order_, taken);
+    const OrderCandidate* candidate = taken ? &order_->Candidates[*taken] : nullptr;
+    if (candidate == nullptr) {
+        roll_->Clear();
+        drawn_.reset();
+    } else if (drawn_ != *candidate) {
+        roll_->Show(ChartOf(*order_, *taken, Shared().Project.Now));
+        drawn_ = *candidate;
+    }
+    ShowState();
+    EnableButtons();
+}
+
+void OrderScreen::ShowState() {
+    if (!choices_->isEnabled()) {
+        comparison_->ShowState(NothingToOrder, true);
+    } else if (compared_ && !IsComparedRequest()) {
+        comparison_->ShowState(OutOfDate, true);
+    } else if (run_) {
+        comparison_->ShowState(Comparing, false);
+    } else if (order_ && !order_->Best) {
+        comparison_->ShowState(AllRefused, true);
+    } else if (order_) {
+        comparison_->ShowState(wasStopped_ ? Stopped : Compared, false);
+    } else {
+        comparison_->ShowState({}, false);
+    }
+}
+
+void OrderScreen::EnableButtons() {
+    const bool stopHadFocus = stop_->hasFocus();
+    stop_->setEnabled(run_ != nullptr);
+    if (stopHadFocus && !run_) {
+        comparison_->Table().setFocus();
+    }
+    for (QPushButton* button : {print_, saveAs_}) {
+        button->setEnabled(HasTaken());
+    }
+}
+
+/// Do something with the order of the row that is taken, once the comparison is at its end: it
+/// would be another one by then.
+void OrderScreen::WithTaken(std::function<void(const OrderDocument&)> act) {
+    choices_->Typed(); // what is being typed in a roll counts
+    if (!HasTaken()) {
+        return;
+    }
+    auto take = [this, act = std::move(act)] {
+        if (HasTaken()) {
+            Order order = *order_;
+            order.Best = TakenRow();
+            act(DocumentOf(Shared(), std::move(order)));
+        }
+    };
+    if (run_) {
+        afterRun_ = std::move(take);
+        StopComparing();
+    } else {
+        take();
+    }
+}
+
+void OrderScreen::PrintTaken() {
+    WithTaken([this](const OrderDocument& document) { PrintOrder(Shared(), document); });
+}
+
+void OrderScreen::SaveTaken(const OrderFile& file) {
+    WithTaken(
+        [this, &file](const OrderDocument& document) { SaveOrderAs(Shared(), document, file); });
+}
+
+void OrderScreen::SaveProject() {
+    choices_->Typed();
+    if (const auto emptyRooms = SaveOrAsk(Shared())) {
+        ShowTitle();
+        Shared().Boxes.Message(std::string(SavedMessage), *emptyRooms);
+    }
+}
+
+void OrderScreen::OnCloseByFrame() {
+    Leave();
+}
+
+void OrderScreen::Leave() {
+    choices_->Typed();
+    StopComparing();
+    Shared().Drafts.Flush();
+    Shared().Go.Return();
+}
+
+} // namespace tarn

@@ -1,0 +1,276 @@
+// How the order screen begins, compares, is stopped and left.
+
+#include "screens/ControlChecks.h"
+#include "screens/order/OrderScreenTesting.h"
+
+#include <gmock/gmock.h>
+
+namespace tarn {
+namespace {
+
+using namespace tarn::testing;
+using ::testing::Contains;
+using ::testing::Each;
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+using ::testing::Not;
+using ::testing::StartsWith;
+
+struct OrderScreens : OrderScreenTest {
+    std::vector<std::string> Carpets() {
+        const auto& box = Control<QComboBox>(Controls::orderCarpet);
+        std::vector<std::string> carpets;
+        for (int i = 0; i < box.count(); ++i) {
+            carpets.push_back(FromQt(box.itemText(i)));
+        }
+        return carpets;
+    }
+    std::string Carpet() { return FromQt(Control<QComboBox>(Controls::orderCarpet).currentText()); }
+    bool Shows(const char* name) { return Control(name).isVisible(); }
+};
+
+TEST_F(OrderScreens, CompareTheStandardRollsInBothLaysByThemselves) {
+    Add(168, 120);
+    Add(60, 96);
+    Open();
+    WaitUntil([this] { return State() == "Compared."; });
+    EXPECT_THAT(Column(1),
+                ElementsAre("6ft", "6ft", "12ft", "12ft", "13.5ft", "13.5ft", "15ft", "15ft"));
+    EXPECT_THAT(Column(2),
+                ElementsAre("down", "cross", "down", "cross", "down", "cross", "down", "cross"));
+    EXPECT_THAT(Column(3), Each(Not(IsEmpty())));
+    EXPECT_THAT(Column(0), Contains("best").Times(1));
+    EXPECT_THAT(LabelText(Controls::comparisonTaken), StartsWith("Best: "));
+    EXPECT_FALSE(ListedLines().empty());
+    EXPECT_TRUE(Button(Controls::printOrder).isEnabled());
+    EXPECT_TRUE(Table().hasFocus());
+    EXPECT_FALSE(open.HasUnsavedChanges()) << "nothing was chosen yet";
+}
+
+TEST_F(OrderScreens, BeginWithTheCarpetOfTheEstimateOrElseTheLowestThatCanBeOrdered) {
+    Add(100, 100, 2);
+    Add(0, 100, 3);
+    Add(100, 100, 5);
+    Add(100, 100, 8);
+    for (const Byte carpet : {Byte{2}, Byte{5}}) {
+        Keep(carpet, {Roll(144, "12ft")});
+    }
+    Open(Byte{5});
+    EXPECT_THAT(Carpets(), ElementsAre("CARPET-3", "CARPET-6"));
+    EXPECT_EQ(Carpet(), "CARPET-6");
+    Open(Byte{3});
+    EXPECT_EQ(Carpet(), "CARPET-3") << "4 has no room with an area";
+    Open();
+    EXPECT_EQ(Carpet(), "CARPET-3");
+}
+
+TEST_F(OrderScreens, SayWhenThereIsNothingToOrder) {
+    Add(0, 100);
+    Add(100, 100, 8);
+    Open(Byte{0});
+    EXPECT_EQ(State(), "No room with an area has a carpet.");
+    for (const char* name : {Controls::compare, Controls::stopComparing, Controls::printOrder,
+                             Controls::saveOrderAs, Controls::orderRolls}) {
+        EXPECT_FALSE(Control(name).isEnabled()) << name;
+    }
+    EXPECT_TRUE(Button(Controls::leaveOrder).hasFocus());
+    Press(*form, Qt::Key_Return);
+    EXPECT_THAT(screens.Calls, ElementsAre("return"));
+}
+
+TEST_F(OrderScreens, SayWhenEveryRowIsRefusedAndWhy) {
+    Add(168, 120);
+    Keep(0, {Roll(10, "10in")}).Selvage = 6;
+    Open();
+    WaitFor("Every roll and lay is refused: the notes say why.");
+    EXPECT_THAT(Column(0), ElementsAre(""));
+    EXPECT_THAT(Column(3), ElementsAre("refused"));
+    EXPECT_THAT(Column(Table().columnCount() - 1), Each(Not(IsEmpty())));
+    EXPECT_EQ(LabelText(Controls::comparisonTaken), "");
+    EXPECT_FALSE(Button(Controls::printOrder).isEnabled());
+    EXPECT_FALSE(Button(Controls::saveOrderAs).isEnabled());
+    EXPECT_THAT(ListedLines(), IsEmpty());
+    Press(*form, Qt::Key_P, Qt::ControlModifier);
+    EXPECT_THAT(printer.Orders, IsEmpty());
+}
+
+TEST_F(OrderScreens, FillTheTableWhileTheyCompareUntilTheyAreStopped) {
+    OpenEndless();
+    EXPECT_EQ(State(), "Comparing. STOP keeps the best so far.");
+    EXPECT_THAT(Column(3), ElementsAre("101'3\""));
+    EXPECT_THAT(ListedLines(), Not(IsEmpty()));
+    EXPECT_TRUE(Button(Controls::printOrder).isEnabled()) << "whoever is in a hurry prints that";
+    Click(Button(Controls::stopComparing));
+    WaitFor("Stopped: the best so far.");
+    EXPECT_FALSE(Button(Controls::stopComparing).isEnabled());
+    EXPECT_TRUE(Table().hasFocus()) << "the button cannot keep it";
+    EXPECT_THAT(Column(0), ElementsAre("best"));
+    EXPECT_TRUE(Button(Controls::printOrder).isEnabled());
+    Click(Button(Controls::compare));
+    WaitFor("Comparing. STOP keeps the best so far.");
+}
+
+TEST_F(OrderScreens, AreLeftAtOnceWhileTheyCompare) {
+    KeepEndless();
+    for (const Qt::Key key : {Qt::Key_Escape, Qt::Key_unknown, Qt::Key_B}) {
+        Open();
+        WaitUntil([this] { return Table().rowCount() == 1; });
+        screens.Calls.clear();
+        if (key == Qt::Key_B) {
+            Click(Button(Controls::leaveOrder));
+        } else if (key == Qt::Key_Escape) {
+            Press(*form, key);
+        } else {
+            form->CloseByFrame();
+        }
+        EXPECT_THAT(screens.Calls, ElementsAre("return"));
+        form.reset();
+    }
+}
+
+TEST_F(OrderScreens, TellWhenAnOrderCannotBeMade) {
+    for (std::size_t room = 0; room <= RoomCapacity; ++room) {
+        Add(100, 100);
+    }
+    Keep(0, {Roll(144, "12ft")});
+    Open();
+    WaitUntil([this] { return !boxes.Messages.empty(); });
+    EXPECT_THAT(boxes.Messages, ElementsAre(StartsWith("Run-time error '9':")));
+    EXPECT_NE(boxes.Messages[0].find("The order could not be made."), std::string::npos);
+    EXPECT_EQ(Table().rowCount(), 0);
+    EXPECT_EQ(State(), "");
+    EXPECT_FALSE(Button(Controls::stopComparing).isEnabled());
+    EXPECT_FALSE(Button(Controls::printOrder).isEnabled());
+    EXPECT_TRUE(Button(Controls::compare).isEnabled());
+}
+
+TEST_F(OrderScreens, StartAgainWithAnotherCarpet) {
+    KeepEndless();
+    Add(100, 100, 3);
+    Keep(3, {Roll(144, "12ft"), Roll(180, "15ft")});
+    Open();
+    WaitUntil([this] { return Table().rowCount() == 1; });
+    QTest::keyClick(&Control(Controls::orderCarpet), Qt::Key_Down);
+    EXPECT_EQ(Carpet(), "CARPET-4");
+    WaitFor("Compared.");
+    EXPECT_EQ(Table().rowCount(), 2);
+    EXPECT_EQ(Cell(Rolls(), 1, 0), "15ft");
+    EXPECT_FALSE(open.HasUnsavedChanges());
+}
+
+TEST_F(OrderScreens, TakeTheRowThatIsChosen) {
+    Add(168, 120);
+    Keep(0, {Roll(144, "12ft"), Roll(180, "15ft"), Roll(6, "6in")}).Selvage = 4;
+    OpenCompared();
+    const std::size_t best = Cell(Table(), 0, 0) == "best" ? 0 : 1;
+    const auto other = static_cast<int>(1 - best);
+    const std::vector<std::string> listed = ListedLines();
+    Focus(Table());
+    Press(*form, best == 0 ? Qt::Key_Down : Qt::Key_Up);
+    EXPECT_EQ(Cell(Table(), other, 0), "chosen");
+    EXPECT_EQ(Cell(Table(), static_cast<int>(best), 0), "best");
+    EXPECT_THAT(LabelText(Controls::comparisonTaken), StartsWith("Chosen: "));
+    EXPECT_NE(ListedLines(), listed);
+    Click(Button(Controls::printOrder));
+    ASSERT_EQ(printer.Orders.size(), 1U);
+    EXPECT_EQ(printer.Orders[0].Orders[0].Best, static_cast<std::size_t>(other));
+    Table().setCurrentCell(2, 1);
+    EXPECT_EQ(Cell(Table(), 2, 0), "") << "it is refused";
+    EXPECT_NE(LabelText(Controls::comparisonRemarks), "");
+    EXPECT_THAT(ListedLines(), IsEmpty());
+    EXPECT_FALSE(Button(Controls::printOrder).isEnabled());
+    Table().setCurrentCell(static_cast<int>(best), 1);
+    EXPECT_EQ(ListedLines(), listed);
+    EXPECT_THAT(LabelText(Controls::comparisonTaken), StartsWith("Best: "));
+}
+
+TEST_F(OrderScreens, SayInWhichUnitsTheProjectWasEnteredAndShowTheirOwn) {
+    Add(300, 400);
+    open.Saved.EnteredIn = open.Now.EnteredIn = Units::Metric;
+    Open();
+    EXPECT_EQ(LabelText(Controls::titleWarning), "ENTERED IN METRIC");
+    WaitFor("Compared.");
+    open.Shown = Units::Metric;
+    Open();
+    EXPECT_EQ(LabelText(Controls::titleWarning), "");
+    EXPECT_EQ(Cell(Rolls(), 1, 0), "366cm");
+    WaitFor("Compared.");
+    EXPECT_EQ(FromQt(Table().horizontalHeaderItem(3)->text()), "Order\ncm");
+    EXPECT_EQ(LabelText(Controls::formTitle), "ORDER FOR PROJECT: MAPLE STREET 9");
+}
+
+TEST_F(OrderScreens, ShowAllPartsWhereThereIsRoomAndElseOneAtATime) {
+    Add(168, 120);
+    Keep(0, {Roll(144, "12ft")});
+    OpenCompared();
+    EXPECT_TRUE(Shows(Controls::orderChoices));
+    EXPECT_TRUE(Shows(Controls::comparisonPanel));
+    EXPECT_TRUE(Shows(Controls::rollView));
+    EXPECT_FALSE(Shows(Controls::orderParts));
+    Open(std::nullopt, 800, 600);
+    EXPECT_TRUE(Shows(Controls::orderParts));
+    EXPECT_FALSE(Shows(Controls::orderChoices));
+    EXPECT_TRUE(Shows(Controls::comparisonPanel)) << "the result is what one came for";
+    EXPECT_FALSE(Shows(Controls::rollView));
+    Focus(Control(Controls::orderParts));
+    Press(*form, Qt::Key_Right);
+    EXPECT_TRUE(Shows(Controls::rollView));
+    EXPECT_FALSE(Shows(Controls::comparisonPanel));
+    Press(*form, Qt::Key_Left);
+    Press(*form, Qt::Key_Left);
+    EXPECT_TRUE(Shows(Controls::orderChoices));
+    Fill(Controls::orderTrimAlong, "1");
+    Press(*form, Qt::Key_Return);
+    EXPECT_TRUE(Shows(Controls::comparisonPanel)) << "it is compared";
+    EXPECT_TRUE(Table().hasFocus());
+}
+
+TEST_F(OrderScreens, FitTheLeastDisplay) {
+    Add(168, 120);
+    for (const Units units : {Units::Imperial, Units::Metric}) {
+        open.Shown = units;
+        Open(std::nullopt, 800, 600);
+        for (int part = 0; part < 3; ++part) {
+            Control<QTabBar>(Controls::orderParts).setCurrentIndex(part);
+            QCoreApplication::processEvents();
+            EXPECT_LE(Control(Controls::body).width(), form->width()) << part;
+            EXPECT_LE(Control(Controls::body).height(), form->height()) << part;
+        }
+    }
+}
+
+TEST_F(OrderScreens, HaveNamesAndMnemonicsOnce) {
+    Add(168, 120);
+    Open();
+    ExpectNamesAndMnemonicsOnce(*form, 19);
+    EXPECT_EQ(FromQt(Table().accessibleName()), "Comparison of rolls and lays");
+    EXPECT_EQ(FromQt(Rolls().accessibleName()), "ROLLS");
+    EXPECT_EQ(FromQt(Field(Controls::orderTrimAcross).accessibleName()), "TRIM ACROSS");
+}
+
+TEST_F(OrderScreens, LeadTheTabKeyThroughEveryControl) {
+    Add(168, 120);
+    Keep(0, {Roll(144, "12ft")});
+    OpenCompared();
+    Focus(Control(Controls::orderCarpet));
+    std::vector<std::string> visited;
+    for (int step = 0; step < 30; ++step) {
+        visited.push_back(FromQt(form->focusWidget()->objectName()));
+        Press(*form, Qt::Key_Tab);
+    }
+    const std::vector<std::string> expected{
+        Controls::orderCarpet,        Controls::orderRolls,        Controls::removeRoll,
+        Controls::orderDownLay,       Controls::orderCrossLay,     Controls::orderSelvage,
+        Controls::orderStep,          Controls::orderTrimAlong,    Controls::orderTrimAcross,
+        Controls::orderParting,       Controls::orderShortestPart, Controls::orderJoinRooms,
+        Controls::orderPatternAcross, Controls::orderPatternAlong, Controls::orderHalfDrop,
+        Controls::orderPatternDrift,  Controls::orderSeconds,      Controls::comparison,
+        Controls::rollView,           Controls::rollList,          Controls::compare,
+        Controls::printOrder,         Controls::saveOrderAs,       Controls::leaveOrder,
+        Controls::orderCarpet};
+    visited.resize(expected.size());
+    EXPECT_EQ(visited, expected);
+}
+
+} // namespace
+} // namespace tarn
