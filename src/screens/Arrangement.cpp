@@ -2,6 +2,7 @@
 
 #include "screens/Display.h"
 
+#include <QEvent>
 #include <QLayout>
 #include <QWidget>
 
@@ -11,6 +12,38 @@ void SetSpacing(QLayout& layout, double margin, double spacing) {
     const int edge = Pixels(margin);
     layout.setContentsMargins(edge, edge, edge, edge);
     layout.setSpacing(Pixels(spacing));
+}
+
+namespace {
+
+class TextWidth : public QObject {
+  public:
+    TextWidth(QWidget& control, double twips)
+        : QObject(&control)
+        , control_(control)
+        , twips_(twips) {
+        control.installEventFilter(this);
+        Set();
+    }
+
+    bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+        if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) {
+            Set();
+        }
+        return false;
+    }
+
+  private:
+    void Set() { control_.setFixedWidth(TextPixels(twips_)); }
+
+    QWidget& control_;
+    double twips_;
+};
+
+} // namespace
+
+void KeepTextWidth(QWidget& control, double twips) {
+    new TextWidth(control, twips); // its child
 }
 
 void KeepRoom(QWidget& control) {

@@ -14,6 +14,9 @@ namespace tarn {
 /// Give a layout one margin on all sides, and the spacing between what is in it; twips.
 void SetSpacing(QLayout& layout, double margin, double spacing = Metrics::Spacing);
 
+/// Keep a control as wide as `twips` at the usual size of text, and wider as the text grows.
+void KeepTextWidth(QWidget& control, double twips);
+
 /// Keep a control's room free while it is hidden, so that nothing jumps.
 void KeepRoom(QWidget& control);
 

@@ -1,6 +1,5 @@
 #include "screens/IndicatorStyle.h"
 
-#include "screens/Display.h"
 #include "screens/Theme.h"
 
 #include <QPainter>
@@ -75,7 +74,7 @@ int IndicatorStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
     case PM_IndicatorHeight:
     case PM_ExclusiveIndicatorWidth:
     case PM_ExclusiveIndicatorHeight:
-        return Pixels(IndicatorSize);
+        return TextPixels(IndicatorSize);
     default:
         return QProxyStyle::pixelMetric(metric, option, widget);
     }

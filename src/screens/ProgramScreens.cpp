@@ -1,5 +1,6 @@
 #include "screens/ProgramScreens.h"
 
+#include "screens/GuideWindow.h"
 #include "screens/estimate/EstimateScreen.h"
 #include "screens/estimate/OptionsScreen.h"
 #include "screens/menu/MenuScreen.h"
@@ -36,8 +37,11 @@ void ProgramScreens::ShowOptions(const EstimateRequest& request, EstimateClient&
     window_.Cover(std::make_unique<OptionsScreen>(*session_, request, client));
 }
 
-void ProgramScreens::ShowOrder(std::optional<Byte> carpet) {
-    window_.Cover(std::make_unique<OrderScreen>(*session_, carpet));
+void ProgramScreens::ShowGuide(std::string_view page) {
+    if (guide_ == nullptr) {
+        guide_ = new GuideWindow(window_, session_->Boxes);
+    }
+    guide_->ShowPage(page);
 }
 
 void ProgramScreens::Return() {
@@ -46,6 +50,9 @@ void ProgramScreens::Return() {
 
 void ProgramScreens::End() {
     session_->Drafts.Flush();
+    if (guide_ != nullptr) {
+        guide_->hide();
+    }
     window_.hide();
     QCoreApplication::exit(0);
 }

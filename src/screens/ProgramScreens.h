@@ -6,7 +6,9 @@
 
 namespace tarn {
 
-/// The way between the program's own six screens, in one window.
+class GuideWindow;
+
+/// The way between the program's own five screens, in one window.
 class ProgramScreens : public Screens {
   public:
     explicit ProgramScreens(ScreenWindow& window)
@@ -20,13 +22,14 @@ class ProgramScreens : public Screens {
     void ShowRooms() override;
     void ShowEstimate(bool fromMenu) override;
     void ShowOptions(const EstimateRequest& request, EstimateClient& client) override;
-    void ShowOrder(std::optional<Byte> carpet) override;
+    void ShowGuide(std::string_view page) override;
     void Return() override;
     void End() override;
 
   private:
     ScreenWindow& window_;
     Session* session_ = nullptr;
+    GuideWindow* guide_ = nullptr; ///< the window's own; made when it is first asked for
 };
 
 } // namespace tarn

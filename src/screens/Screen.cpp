@@ -1,18 +1,23 @@
 #include "screens/Screen.h"
 
 #include "screens/ControlNames.h"
+#include "screens/Controls.h"
 #include "screens/Guard.h"
+#include "screens/Theme.h"
 
 #include <QCoreApplication>
 #include <QKeyEvent>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QShortcut>
 #include <QTimer>
 #include <QVBoxLayout>
 
 namespace tarn {
 
 namespace {
+
+constexpr const char* GuideFailure = "The guide could not be shown.";
 
 /// Scrolls to what takes the focus, but not under a mouse that is pressing it: a click whose button
 /// moved away is none. The scroll area itself follows the Tab key alone.
@@ -56,6 +61,24 @@ Screen::Screen(Session& session, QAnyStringView name)
     scroller_->setWidget(body_);
     follower_ = std::make_unique<FocusFollower>(*scroller_, *body_);
     layout->addWidget(scroller_);
+    auto* key = new QShortcut(QKeySequence(Qt::Key_F1), this);
+    key->setAutoRepeat(false);
+    connect(key, &QShortcut::activated, this,
+            [this] { Guard(GuideFailure, [this] { ShowGuide(); }); });
+}
+
+QPushButton& Screen::GuideButton() {
+    if (guide_ == nullptr) {
+        guide_ = NewButton(body_, Controls::showGuide, "GUIDE (F1)");
+        guide_->setFocusPolicy(Qt::NoFocus); // the typing stays where it is
+        SetRole(*guide_, TextRole::Hint);
+        OnClick(*guide_, GuideFailure, [this] { ShowGuide(); });
+    }
+    return *guide_;
+}
+
+void Screen::ShowGuide() const {
+    session_.Go.ShowGuide(GuidePage());
 }
 
 void Screen::CloseByFrame() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "screens/GuidePages.h"
 #include "screens/Session.h"
 
 #include <QAnyStringView>
@@ -10,9 +11,11 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <string_view>
 
 class QAbstractButton;
 class QMenuBar;
+class QPushButton;
 
 namespace tarn {
 
@@ -33,6 +36,12 @@ class Screen : public QWidget {
     void Uncover();
 
   protected:
+    /// The page of the guide that tells about the screen as it is now (see GuidePages.h).
+    virtual std::string_view GuidePage() const { return GuidePages::beginning; }
+    /// The button that opens the guide, as F1 does, made when it is first asked for. It stands in
+    /// the body, where the screen puts it; the Tab key passes it by.
+    QPushButton& GuideButton();
+
     Session& Shared() const { return session_; }
 
     /// What closing by the frame does on this screen.
@@ -60,11 +69,14 @@ class Screen : public QWidget {
     void showEvent(QShowEvent* event) override;
 
   private:
+    void ShowGuide() const;
+
     Session& session_;
     QMenuBar* menus_ = nullptr;
     QScrollArea* scroller_ = nullptr;
     QWidget* body_ = nullptr;
     std::unique_ptr<QObject> follower_; ///< gone before what it follows
+    QPushButton* guide_ = nullptr;
     bool shown_ = false;
 };
 

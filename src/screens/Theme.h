@@ -12,19 +12,21 @@ class QWidget;
 namespace tarn {
 
 /// The program's colours, for light or dark surroundings. Text stands out from Window and Surface
-/// by a contrast of at least 7, every other text colour by at least 4.5.
+/// by a contrast of at least 7, every other text colour by at least 4.5; ControlBorder and Accent
+/// by at least 3 from all of them. DisabledText, which needs no contrast, still has 3.
 struct Colours {
-    QColor Window;       ///< behind everything
-    QColor Surface;      ///< panels
-    QColor Field;        ///< what is typed or chosen in
-    QColor Text;         ///< what is read
-    QColor MutedText;    ///< labels and hints
-    QColor DisabledText; ///< controls that cannot be used
-    QColor Border;
-    QColor Accent;     ///< the main button, the selection, the focus ring
-    QColor AccentText; ///< on Accent
-    QColor Green;      ///< marked options
-    QColor Warning;    ///< what the user should notice
+    QColor Window;        ///< behind everything
+    QColor Surface;       ///< panels
+    QColor Field;         ///< what is typed or chosen in
+    QColor Text;          ///< what is read
+    QColor MutedText;     ///< labels and hints
+    QColor DisabledText;  ///< controls that cannot be used
+    QColor Border;        ///< around panels and what cannot be used
+    QColor ControlBorder; ///< around what is typed in, chosen from or pressed
+    QColor Accent;        ///< the main button, the selection, the focus ring
+    QColor AccentText;    ///< on Accent
+    QColor Green;         ///< marked options
+    QColor Warning;       ///< what the user should notice
 };
 
 const Colours& LightColours();
@@ -42,6 +44,12 @@ struct Metrics {
     static constexpr double ProductTitleFont = 24;
 };
 
+/// How large text is, beside the sizes in Metrics: they hold while the system's own text has
+/// BaseFont or less, and grow with it beyond.
+double TextScale();
+/// Pixels of a length in twips that holds text and grows with it.
+int TextPixels(double twips);
+
 /// What a label is, for its type size and colour.
 enum class TextRole { Label, Heading, FormTitle, ProductTitle, Hint, Warning };
 
@@ -58,7 +66,8 @@ bool IsMarked(const QWidget& option);
 /// The colours in force: dark when the system's palette is dark.
 const Colours& CurrentColours();
 
-/// Dresses the application, and again whenever the system changes between light and dark.
+/// Dresses the application, and again whenever the system changes between light and dark, or
+/// the size of its text.
 class Theme : public QObject {
   public:
     explicit Theme(QApplication& application);
@@ -70,7 +79,7 @@ class Theme : public QObject {
 
     QApplication& application_;
     bool dark_ = false;
-    bool applied_ = false;
+    double scale_ = 0; ///< none yet
 };
 
 } // namespace tarn

@@ -8,6 +8,7 @@
 #include "screens/Theme.h"
 
 #include <QLabel>
+#include <QPushButton>
 
 #include <algorithm>
 
@@ -37,6 +38,7 @@ TitledScreen::TitledScreen(Session& session, QAnyStringView name, std::string_vi
     SetRole(*titleWarning_, TextRole::Warning);
     titleWarning_->hide();
     setWindowTitle(ToQt(formTitle).remove(QLatin1Char('*')));
+    GuideButton().raise(); // above the title, which is as wide as the screen
     Body().installEventFilter(this);
 }
 
@@ -105,7 +107,7 @@ void TitledScreen::Arrange() {
         return;
     }
     arranging_ = true;
-    const int titles = Pixels(ProductTitleAbovePanel);
+    const int titles = TextPixels(ProductTitleAbovePanel);
     const int gap = Pixels(Metrics::Spacing);
     const int margin = Pixels(Metrics::Margin);
     const bool hasBelow = below_ != nullptr && !below_->isHidden();
@@ -128,14 +130,23 @@ void TitledScreen::Arrange() {
 
     panel->Widget->setGeometry(QRect(QPoint(left, top), size));
     productTitle_->setGeometry(0, top - titles, area.width(), productTitle_->sizeHint().height());
-    formTitle_->setGeometry(0, top - Pixels(FormTitleAbovePanel), area.width(),
+    formTitle_->setGeometry(0, top - TextPixels(FormTitleAbovePanel), area.width(),
                             formTitle_->sizeHint().height());
     PlaceTitleWarning();
+    PlaceGuideButton();
     if (hasBelow) {
         below_->setGeometry((area.width() - belowSize.width()) / 2, top + size.height() + gap,
                             belowSize.width(), belowSize.height());
     }
     arranging_ = false;
+}
+
+/// In the upper corner, which the titles leave free.
+void TitledScreen::PlaceGuideButton() {
+    QPushButton& guide = GuideButton();
+    const int gap = Pixels(Metrics::Spacing);
+    guide.adjustSize();
+    guide.move(Body().width() - guide.width() - gap, gap);
 }
 
 /// On the line of the title, which stays in the middle of the screen.

@@ -44,6 +44,7 @@ class TitledScreen : public Screen {
     };
     bool ChangesArrangement(const QObject* watched, QEvent::Type event);
     void Arrange();
+    void PlaceGuideButton();
     void PlaceTitleWarning();
     const Panel* VisiblePanel() const;
 
@@ -55,7 +56,8 @@ class TitledScreen : public Screen {
     bool arranging_ = false;
 };
 
-/// How far the titles stand above the visible panel, twips.
+/// How far the titles stand above the visible panel, twips; farther where the text is
+/// larger than usual.
 inline constexpr double ProductTitleAbovePanel = 1700;
 inline constexpr double FormTitleAbovePanel = 800;
 

@@ -1,6 +1,7 @@
 // The table of control names, compared with the screens as they are built.
 
 #include "estimate/EstimateTesting.h"
+#include "screens/GuideWindow.h"
 #include "screens/ScreenTesting.h"
 #include "screens/ScreenWindow.h"
 #include "screens/estimate/EstimateClient.h"
@@ -101,14 +102,9 @@ TEST_F(ControlNames, OfTheOptionsAreThoseOfTheTable) {
     ExpectNamesOf("Options", OptionsScreen(session, Request(144), client));
 }
 
-TEST_F(ControlNames, OfTheOrderAreThoseOfTheTable) {
-    const OrderScreen screen(session, std::nullopt);
-    Names names = NamesOn(screen);
-    const Names roll = NamesByHeading()["Roll"];
-    std::erase_if(names, [&](const std::string& name) {
-        return IsShared(name) || std::find(roll.begin(), roll.end(), name) != roll.end();
-    });
-    EXPECT_THAT(names, ::testing::UnorderedElementsAreArray(NamesByHeading()["Order"]));
+TEST_F(ControlNames, OfTheGuideAreThoseOfTheTable) {
+    QWidget program;
+    ExpectNamesOf("Guide", GuideWindow(program, boxes));
 }
 
 TEST_F(ControlNames, ThatScreensShareAreThoseOfTheTable) {
@@ -120,7 +116,7 @@ TEST_F(ControlNames, ThatScreensShareAreThoseOfTheTable) {
 
 TEST_F(ControlNames, AreReadUnderTheirHeadings) {
     const auto names = NamesByHeading();
-    EXPECT_EQ(names.size(), 8U);
+    EXPECT_EQ(names.size(), 7U);
     EXPECT_THAT(names.at("Options"), ::testing::Contains("Option1(5)"));
 }
 

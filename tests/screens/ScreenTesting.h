@@ -71,8 +71,8 @@ struct FakePrinter : Printer {
 };
 
 /// Records the way between the screens: "projects", "menu existing", "menu new", "menu returning",
-/// "rooms", "estimate from menu", "estimate from rooms", "options", "order", with a carpet
-/// "order CARPET-1", "return", "end".
+/// "rooms", "estimate from menu", "estimate from rooms", "options", "guide" and its
+/// page, "return", "end".
 struct FakeScreens : Screens {
     std::vector<std::string> Calls;
     EstimateClient* Client = nullptr; ///< of the options shown last
@@ -90,9 +90,7 @@ struct FakeScreens : Screens {
         Request = request;
         Record("options");
     }
-    void ShowOrder(std::optional<Byte> carpet) override {
-        Record(carpet ? "order " + CoveringCaption(*carpet) : "order");
-    }
+    void ShowGuide(std::string_view page) override { Record("guide " + std::string(page)); }
     void Return() override { Record("return"); }
     void End() override { Record("end"); }
 

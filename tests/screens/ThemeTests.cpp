@@ -1,9 +1,12 @@
 // The looks that all screens share.
 
+#include "screens/Arrangement.h"
+#include "screens/Display.h"
 #include "screens/Theme.h"
 
 #include <QApplication>
 #include <QCheckBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPalette>
 #include <QPushButton>
@@ -12,6 +15,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <vector>
 
 namespace tarn {
 namespace {
@@ -32,16 +36,44 @@ double Contrast(const QColor& a, const QColor& b) {
     return (brighter + 0.05) / (darker + 0.05);
 }
 
-TEST(Theme, TextsStandOutFromWhatTheyStandOn) {
+/// Two colours that meet on a screen, where, and the least contrast that they need there.
+struct Meeting {
+    const char* Where;
+    QColor One;
+    QColor Other;
+    double Least;
+};
+
+constexpr double ForText = 4.5;  ///< WCAG 2, level AA
+constexpr double ForMarks = 3.0; ///< large text, and what shows that and where a control is
+
+/// Every pair of colours that the style sheet and what draws itself bring together.
+std::vector<Meeting> MeetingsOf(const Colours& c) {
+    std::vector<Meeting> all;
+    for (const QColor& ground : {c.Window, c.Surface, c.Field}) {
+        all.insert(all.end(), {{"text", c.Text, ground, 7},
+                               {"labels, hints and read-only fields", c.MutedText, ground, ForText},
+                               {"marked options", c.Green, ground, ForText},
+                               {"warnings", c.Warning, ground, ForText},
+                               {"the product's title and links", c.Accent, ground, ForText},
+                               {"what cannot be used", c.DisabledText, ground, ForMarks},
+                               {"borders of controls", c.ControlBorder, ground, ForMarks},
+                               {"the focus ring", c.Accent, ground, ForMarks}});
+    }
+    all.insert(all.end(), {{"the selection and the main button", c.AccentText, c.Accent, ForText},
+                           {"the outer ring of the main button", c.Text, c.Surface, ForMarks},
+                           {"a button that is pressed", c.Text, c.Border, ForText},
+                           {"the scroll bar", c.ControlBorder, c.Surface, ForMarks}});
+    return all;
+}
+
+TEST(Theme, ColoursThatMeetStandOutFromEachOther) {
     for (const Colours* colours : {&LightColours(), &DarkColours()}) {
-        for (const QColor& ground : {colours->Window, colours->Surface, colours->Field}) {
-            EXPECT_GE(Contrast(colours->Text, ground), 7) << qPrintable(ground.name());
-            EXPECT_GE(Contrast(colours->MutedText, ground), 4.5) << qPrintable(ground.name());
-            EXPECT_GE(Contrast(colours->Green, ground), 4.5) << qPrintable(ground.name());
-            EXPECT_GE(Contrast(colours->Warning, ground), 4.5) << qPrintable(ground.name());
-            EXPECT_GE(Contrast(colours->Accent, ground), 4.5) << qPrintable(ground.name());
+        for (const Meeting& meeting : MeetingsOf(*colours)) {
+            EXPECT_GE(Contrast(meeting.One, meeting.Other), meeting.Least)
+                << meeting.Where << ": " << qPrintable(meeting.One.name()) << " and "
+                << qPrintable(meeting.Other.name());
         }
-        EXPECT_GE(Contrast(colours->AccentText, colours->Accent), 4.5);
     }
 }
 
@@ -78,6 +110,53 @@ TEST(Theme, FollowsTheDesktopBetweenLightAndDark) {
         EXPECT_EQ(MiddleOf(button), DarkColours().Accent);
     }
     EXPECT_EQ(MiddleOf(button), LightColours().Accent);
+}
+
+/// The system's text of a size, and the old one back at the end.
+class SystemText {
+  public:
+    explicit SystemText(double points) {
+        QFont font = before_;
+        font.setPointSizeF(points);
+        QApplication::setFont(font);
+    }
+    ~SystemText() { QApplication::setFont(before_); }
+    SystemText(const SystemText&) = delete;
+    SystemText& operator=(const SystemText&) = delete;
+
+  private:
+    QFont before_ = QApplication::font();
+};
+
+TEST(Theme, FollowsTheSystemsTextBeyondItsOwn) {
+    QPushButton button;
+    QLabel heading;
+    SetRole(heading, TextRole::ProductTitle);
+    QLineEdit box;
+    KeepTextWidth(box, 900);
+    const auto expectScale = [&](double scale) {
+        EXPECT_DOUBLE_EQ(TextScale(), scale);
+        button.ensurePolished();
+        heading.ensurePolished();
+        EXPECT_DOUBLE_EQ(button.font().pointSizeF(), Metrics::BaseFont * scale);
+        EXPECT_DOUBLE_EQ(heading.font().pointSizeF(), Metrics::ProductTitleFont * scale);
+        EXPECT_EQ(box.width(), Pixels(900 * scale));
+    };
+    box.show();
+    expectScale(1);
+    for (const double points : {8.0, 9.0, 10.5}) {
+        const SystemText text(points);
+        expectScale(1);
+    }
+    {
+        const SystemText half(16.5);
+        expectScale(1.5);
+        const SystemText twice(22);
+        expectScale(2);
+        const SystemText huge(100);
+        expectScale(3);
+    }
+    expectScale(1);
 }
 
 int PixelsOf(const QImage& image, const QColor& colour) {

@@ -182,7 +182,7 @@ QBoxLayout* ChoicePanel::BuildButtons() {
 QLineEdit* ChoicePanel::NewBox(const char* name) {
     auto* box = new QLineEdit(this);
     box->setObjectName(name);
-    box->setFixedWidth(Pixels(BoxWidth));
+    KeepTextWidth(*box, BoxWidth);
     box->installEventFilter(this);
     return box;
 }

@@ -113,6 +113,7 @@ QHBoxLayout* EstimateScreen::BuildTitle() {
     title->addWidget(title_);
     title->addWidget(unitsWarning_);
     title->addStretch();
+    title->addWidget(&GuideButton());
     return title;
 }
 
@@ -221,6 +222,13 @@ void EstimateScreen::Connect() {
 
 QWidget* EstimateScreen::FirstFocus() {
     return panel_->isHidden() ? back_ : &panel_->FirstFocus();
+}
+
+std::string_view EstimateScreen::GuidePage() const {
+    if (improvePanel_->IsRunning()) {
+        return GuidePages::improving;
+    }
+    return panel_->isHidden() ? GuidePages::result : GuidePages::choices;
 }
 
 void EstimateScreen::OnUncover() {

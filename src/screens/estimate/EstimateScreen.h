@@ -38,6 +38,7 @@ class EstimateScreen : public Screen, public EstimateClient {
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   protected:
+    std::string_view GuidePage() const override;
     void OnCloseByFrame() override;
     void OnUncover() override;
     QWidget* FirstFocus() override;

@@ -27,6 +27,7 @@ class OptionsScreen : public TitledScreen {
     OptionsScreen(Session& session, const EstimateRequest& request, EstimateClient& client);
 
   protected:
+    std::string_view GuidePage() const override { return GuidePages::options; }
     void OnCloseByFrame() override;
     QWidget* FirstFocus() override;
 

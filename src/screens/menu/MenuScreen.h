@@ -21,6 +21,7 @@ class MenuScreen : public TitledScreen {
     MenuScreen(Session& session, MenuEntry entry);
 
   protected:
+    std::string_view GuidePage() const override { return GuidePages::menu; }
     void OnCloseByFrame() override;
     QWidget* FirstFocus() override;
 

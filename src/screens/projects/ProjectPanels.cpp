@@ -93,7 +93,7 @@ void SelectionPanel::MakeControls() {
     const auto newList = [this](const char* name, double width) {
         auto* list = new ChoiceList(this);
         list->setObjectName(name);
-        list->setMinimumWidth(Pixels(width));
+        list->setMinimumWidth(TextPixels(width));
         return list;
     };
     Months = newList(Controls::months, MonthsWidth);

@@ -21,6 +21,7 @@ class ProjectScreen : public TitledScreen {
     explicit ProjectScreen(Session& session);
 
   protected:
+    std::string_view GuidePage() const override { return GuidePages::projects; }
     void OnCloseByFrame() override;
     QWidget* FirstFocus() override;
 

@@ -130,7 +130,7 @@ void RoomEntryFrame::MakeFields() {
         text->setObjectName(Names.at(static_cast<std::size_t>(i)));
         texts_.at(static_cast<std::size_t>(i)) = text;
         if (i < SizeTexts) {
-            text->setFixedWidth(Pixels(SizeFieldWidth));
+            KeepTextWidth(*text, SizeFieldWidth);
         }
     }
     covering_ = new QComboBox(this);

@@ -132,6 +132,10 @@ void RoomScreen::ConnectButtons() {
     OnClick(report_->Close(), "The report could not be closed.", [this] { CloseReport(); });
 }
 
+std::string_view RoomScreen::GuidePage() const {
+    return report_->isHidden() ? GuidePages::rooms : GuidePages::report;
+}
+
 void RoomScreen::OnUncover() {
     FirstFocus()->setFocus();
 }

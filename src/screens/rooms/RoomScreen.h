@@ -27,6 +27,7 @@ class RoomScreen : public TitledScreen {
 
   protected:
     /// As BACK.
+    std::string_view GuidePage() const override;
     void OnCloseByFrame() override { Leave(); }
     void OnUncover() override;
     QWidget* FirstFocus() override;
