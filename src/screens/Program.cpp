@@ -5,6 +5,7 @@
 #include "screens/WaitCursor.h"
 #include "store/Backups.h"
 #include "store/Configuration.h"
+#include "store/FirstStart.h"
 #include "store/Months.h"
 
 #include <QApplication>
@@ -48,10 +49,22 @@ bool Program::CanRun(const std::vector<std::filesystem::path>& configurationDire
     auto folder = FindDataFolder(configurationDirectories);
     if (!folder) {
         boxes_.Message(std::string(ConfigurationMissingMessage));
+        if (!IsFirstStartMade(configurationDirectories)) {
+            return false;
+        }
+        folder = FindDataFolder(configurationDirectories);
+    }
+    if (!folder) {
         return false;
     }
     folder_ = std::move(*folder);
     return true;
+}
+
+bool Program::IsFirstStartMade(const std::vector<std::filesystem::path>& directories) {
+    const auto offer = OfferFirstStart(directories);
+    return offer && boxes_.AskYesNo(QuestionAbout(*offer)) &&
+           Guarded(boxes_, "Nothing was made.", [&] { MakeFirstStart(*offer); });
 }
 
 void Program::Show(const QLocale& locale) {

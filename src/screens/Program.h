@@ -29,7 +29,8 @@ class Program {
     /// selection in the directory of the month and, once it is painted, read the printer's page.
     /// `today` answers the day whenever a screen asks for it. A store that cannot be opened is told
     /// when a screen first needs it. False, after a message, when the program cannot run: the
-    /// display is too small, there is no usable configuration file, or the start fails otherwise.
+    /// display is too small, there is no usable configuration file and the offer to make a data
+    /// folder is not taken, or the start fails otherwise.
     bool Start(const std::vector<std::filesystem::path>& configurationDirectories,
                QSize displayPixels, const std::function<QDate()>& today, const QLocale& locale);
 
@@ -40,6 +41,8 @@ class Program {
   private:
     bool CanRun(const std::vector<std::filesystem::path>& configurationDirectories,
                 QSize displayPixels);
+    /// Where nothing is configured: offer to make a data folder. Answers whether it was made.
+    bool IsFirstStartMade(const std::vector<std::filesystem::path>& directories);
     void Show(const QLocale& locale);
     /// Make the backup that goes before the first change of a run. A message says when it cannot be
     /// made.

@@ -123,14 +123,38 @@ std::optional<fs::path> UserConfigurationDirectory() {
 #endif
 }
 
+std::optional<fs::path> UserDataFolder() {
+#ifdef _WIN32
+    if (const auto local = DirectoryFromEnvironment("LOCALAPPDATA")) {
+        return *local / "tarn";
+    }
+#else
+    if (const auto dataHome = DirectoryFromEnvironment("XDG_DATA_HOME")) {
+        return *dataHome / "tarn";
+    }
+    if (const auto home = DirectoryFromEnvironment("HOME")) {
+        return *home / ".local" / "share" / "tarn";
+    }
+#endif
+    return std::nullopt;
+}
+
+fs::path SystemConfigurationDirectory() {
+#ifdef _WIN32
+    return {};
+#else
+    return "/etc/tarn";
+#endif
+}
+
 std::vector<fs::path> ConfigurationDirectories() {
     std::vector<fs::path> directories;
     if (auto own = UserConfigurationDirectory()) {
         directories.push_back(std::move(*own));
     }
-#ifndef _WIN32
-    directories.emplace_back("/etc/tarn");
-#endif
+    if (fs::path system = SystemConfigurationDirectory(); !system.empty()) {
+        directories.push_back(std::move(system));
+    }
     return directories;
 }
 
@@ -157,6 +181,7 @@ void WriteConfiguration(const fs::path& directory, const std::string& dataFolder
     // Written beside and moved into place, so that no half-written file is ever in force.
     fs::path draft = file;
     draft += ".new";
+    fs::path written = draft;
     std::error_code ignored;
     try {
         MakePrivateFolder(directory);
@@ -169,9 +194,10 @@ void WriteConfiguration(const fs::path& directory, const std::string& dataFolder
         MakePrivateFile(draft);
         FillFile(draft, TextFor(dataFolder));
         fs::rename(draft, file);
+        written = file;
         SynchroniseEntries(directory.native());
     } catch (const std::system_error& failure) {
-        fs::remove(draft, ignored);
+        fs::remove(written, ignored);
         RefuseToWrite(file, CauseOf(failure.code()));
     }
 }

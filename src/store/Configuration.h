@@ -20,6 +20,14 @@ inline constexpr std::string_view ConfigurationHeader = "[TarnWin Directory]";
 /// environment names no home.
 std::optional<std::filesystem::path> UserConfigurationDirectory();
 
+/// The user's own data folder: $XDG_DATA_HOME/tarn, or ~/.local/share/tarn when that variable is
+/// unset, empty or relative; tarn in the folder of local application data on Windows. Nothing when
+/// the environment names no home.
+std::optional<std::filesystem::path> UserDataFolder();
+
+/// The system's configuration directory; empty on Windows.
+std::filesystem::path SystemConfigurationDirectory();
+
 /// Where the configuration file is looked for, first place first: the user's own directory, then
 /// the system's (/etc/tarn; none on Windows).
 std::vector<std::filesystem::path> ConfigurationDirectories();

@@ -5,6 +5,7 @@
 #include "screens/Program.h"
 #include "screens/ScreenTesting.h"
 #include "store/Backups.h"
+#include "store/EnvironmentSetting.h"
 #include "store/Schema.h"
 #include "store/TestDatabase.h"
 
@@ -116,7 +117,68 @@ TEST_F(ProgramTest, RefusesToRunWithoutAConfigurationFile) {
     WriteFile(folder_.Path("TarnWin.INI"), "");
     EXPECT_FALSE(Start());
     EXPECT_EQ(boxes_.Messages, std::vector<std::string>{"Couldn't find TarnWin.ini"});
+    EXPECT_TRUE(boxes_.Questions.empty()) << "an empty one is a configuration";
     EXPECT_FALSE(program_.Window().isVisible());
+}
+
+/// The program in an empty home.
+class FirstStartTest : public ::testing::Test {
+  protected:
+    bool Start() {
+        return program_.Start(
+            {home_.Path("config")}, {800, 600}, [] { return QDate(2026, 3, 14); }, QLocale::c());
+    }
+
+    TestFolder home_;
+    EnvironmentSetting data_{"XDG_DATA_HOME", home_.Path("share").c_str()};
+    FakeBoxes boxes_;
+    FakePrinter printer_;
+    Program program_{boxes_, printer_};
+};
+
+TEST_F(FirstStartTest, OffersADataFolderAfterTheMessageAndGoesOnWithIt) {
+    boxes_.YesNo = {true};
+    ASSERT_TRUE(Start());
+    EXPECT_EQ(boxes_.Messages, std::vector<std::string>{"Couldn't find TarnWin.ini"});
+    ASSERT_EQ(boxes_.Questions.size(), 1U);
+    EXPECT_NE(boxes_.Questions[0].find(home_.Path("share/tarn")), std::string::npos);
+    EXPECT_NE(boxes_.Questions[0].find(home_.Path("config/TarnWin.INI")), std::string::npos);
+    EXPECT_TRUE(program_.Window().isVisible());
+    QWidget& front = *program_.Window().Front();
+    EXPECT_EQ(FromQt(front.objectName()), Controls::projectScreen);
+    Click(Find(front, Controls::selectProject));
+    EXPECT_EQ(boxes_.Messages.size(), 1U) << "its database can be used";
+    Program next(boxes_, printer_);
+    EXPECT_TRUE(next.Start(
+        {home_.Path("config")}, {800, 600}, [] { return QDate(2026, 3, 14); }, QLocale::c()));
+    EXPECT_EQ(boxes_.Questions.size(), 1U) << "it is asked once";
+}
+
+TEST_F(FirstStartTest, MakesNothingWithoutAYes) {
+    boxes_.YesNo = {false};
+    EXPECT_FALSE(Start());
+    EXPECT_EQ(boxes_.Messages, std::vector<std::string>{"Couldn't find TarnWin.ini"});
+    EXPECT_TRUE(home_.Content().empty());
+    EXPECT_FALSE(program_.Window().isVisible());
+}
+
+TEST_F(FirstStartTest, SaysWhyNothingCouldBeMade) {
+    WriteFile(home_.Path("share"), "in the way");
+    boxes_.YesNo = {true};
+    EXPECT_FALSE(Start());
+    ASSERT_EQ(boxes_.Messages.size(), 2U);
+    EXPECT_EQ(boxes_.Messages[1].find("Nothing was made. The folder " +
+                                      home_.Path("share/tarn/DATA") + " cannot be made:"),
+              0U)
+        << boxes_.Messages[1];
+    EXPECT_EQ(home_.Content(), std::vector<std::string>{"share"});
+    EXPECT_FALSE(program_.Window().isVisible());
+}
+
+TEST_F(FirstStartTest, ChecksTheDisplayBeforeItOffersAnything) {
+    EXPECT_FALSE(program_.Start(
+        {home_.Path("config")}, {799, 600}, [] { return QDate(2026, 3, 14); }, QLocale::c()));
+    EXPECT_TRUE(boxes_.Questions.empty());
 }
 
 TEST_F(ProgramTest, ShowsTheProjectSelectionAndThenReadsThePrintersPage) {

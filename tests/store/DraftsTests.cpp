@@ -3,6 +3,7 @@
 #include "files/OutputFile.h"
 #include "files/SystemCallFaults.h"
 #include "store/Drafts.h"
+#include "store/EnvironmentSetting.h"
 #include "store/TestDatabase.h"
 
 #include <QDir>
@@ -19,6 +20,7 @@ namespace {
 
 using testing::BeforeCall;
 using testing::CallsOf;
+using testing::EnvironmentSetting;
 using testing::ReadFile;
 using testing::TestFolder;
 using testing::WriteFile;
@@ -306,35 +308,6 @@ TEST_F(KeptDrafts, EndWithTheirProject) {
     EXPECT_FALSE(QFile::exists(QString::fromStdString(damaged)));
     EXPECT_EQ(Widths(drafts, "Q"), Numbers{3});
 }
-
-/// An environment variable as a test sets it; put back when it goes.
-class EnvironmentSetting {
-  public:
-    EnvironmentSetting(const char* name, const char* value)
-        : name_(name)
-        , before_(qgetenv(name))
-        , wasSet_(qEnvironmentVariableIsSet(name)) {
-        if (value == nullptr) {
-            qunsetenv(name);
-        } else {
-            qputenv(name, value);
-        }
-    }
-    ~EnvironmentSetting() {
-        if (wasSet_) {
-            qputenv(name_, before_);
-        } else {
-            qunsetenv(name_);
-        }
-    }
-    EnvironmentSetting(const EnvironmentSetting&) = delete;
-    EnvironmentSetting& operator=(const EnvironmentSetting&) = delete;
-
-  private:
-    const char* name_;
-    QByteArray before_;
-    bool wasSet_;
-};
 
 TEST(UserStateDirectory, FollowsTheEnvironment) {
     const EnvironmentSetting home("HOME", "/home/user");
