@@ -101,6 +101,13 @@ QListWidget::item:selected { background: @Accent; color: @AccentText; }
 QComboBox QAbstractItemView { background: @Field; color: @Text;
     selection-background-color: @Accent; selection-color: @AccentText; }
 
+QTabBar::tab { background: @Surface; color: @Text; border: 2px solid @ControlBorder;
+    padding: 45tw 150tw; margin-left: -2px; }
+QTabBar::tab:first { margin-left: 0; }
+QTabBar::tab:selected { background: @Accent; color: @AccentText; border-color: @Accent;
+    font-weight: 600; }
+QTabBar::tab:selected:focus { border-color: @Text; }
+
 QRadioButton, QCheckBox { border: 2px solid transparent;
     border-radius: 60tw; padding: 15tw 45tw; spacing: 120tw; min-height: 330tw; }
 QRadioButton:focus, QCheckBox:focus { border-color: @Accent; }

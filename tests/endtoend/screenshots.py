@@ -84,6 +84,10 @@ class Photographer:
         wait_for(lambda: any(each.startswith("No layout") for each in ui.labels()), "a bound")
         self.take("improve-" + unit)
         ui.end_improving()
+        ui.press("ORDER")
+        ui.see("label", "Compared.")
+        self.shoot("order-" + unit)
+        ui.press("BACK")
         ui.press("BACK")
         ui.press("BACKWARD")
 

@@ -82,7 +82,6 @@ ComparisonPanel::ComparisonPanel(QWidget* parent)
     : QWidget(parent) {
     setObjectName(Controls::comparisonPanel);
     taken_ = NewLine(this, Controls::comparisonTaken, TextRole::Heading);
-    state_ = NewLine(this, Controls::comparisonState, TextRole::Hint);
     table_ = new RowsHighTable(this);
     NameControl(*table_, Controls::comparison, QStringLiteral("Comparison of rolls and lays"));
     table_->setTabKeyNavigation(false); // it leads on to the next control
@@ -104,7 +103,6 @@ ComparisonPanel::ComparisonPanel(QWidget* parent)
     auto* rows = new QVBoxLayout(this);
     SetSpacing(*rows, 0, Metrics::Spacing / 2);
     rows->addWidget(taken_);
-    rows->addWidget(state_);
     rows->addWidget(table_, 1);
     rows->addWidget(remarks_);
     Clear();
@@ -143,12 +141,6 @@ void ComparisonPanel::Clear() {
     table_->setRowCount(0);
     taken_->hide();
     remarks_->hide();
-}
-
-void ComparisonPanel::ShowState(std::string_view state, bool isWarning) {
-    SetText(*state_, state);
-    SetRole(*state_, isWarning ? TextRole::Warning : TextRole::Hint);
-    state_->setVisible(!state.empty());
 }
 
 void ComparisonPanel::SetHeads(Units units) {

@@ -6,7 +6,6 @@
 
 #include <functional>
 #include <optional>
-#include <string_view>
 
 class QLabel;
 class QTableWidget;
@@ -14,8 +13,8 @@ class QTableWidgetItem;
 
 namespace tarn {
 
-/// The comparison of rolls and lays as a table, what there is to say of it above, and the remarks
-/// of the row that is shown below. The row to take is marked in words.
+/// The comparison of rolls and lays as a table, above it the row that is taken in words, and below
+/// it what there is to remark on that.
 class ComparisonPanel : public QWidget {
   public:
     explicit ComparisonPanel(QWidget* parent);
@@ -24,8 +23,6 @@ class ComparisonPanel : public QWidget {
     void Show(const Order& order, std::optional<std::size_t> taken);
     /// Show no comparison.
     void Clear();
-    /// Say how far the comparison is; `isWarning` when the user should notice it.
-    void ShowState(std::string_view state, bool isWarning);
 
     QTableWidget& Table() { return *table_; }
 
@@ -38,7 +35,6 @@ class ComparisonPanel : public QWidget {
     void ShowTaken(const Order& order, std::optional<std::size_t> taken);
     QTableWidgetItem& Cell(int row, int column);
 
-    QLabel* state_ = nullptr;
     QLabel* taken_ = nullptr;
     QTableWidget* table_ = nullptr;
     QLabel* remarks_ = nullptr;

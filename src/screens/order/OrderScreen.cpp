@@ -66,6 +66,9 @@ void OrderScreen::Build() {
     SetSpacing(*rows, Metrics::Margin);
     rows->addLayout(BuildTitle());
     rows->addLayout(BuildParts(), 1);
+    state_ = NewLabel(&Body(), Controls::comparisonState, {});
+    state_->setWordWrap(true);
+    rows->addWidget(state_);
     rows->addLayout(BuildButtons());
     ShowTitle();
     SetTabOrder();
@@ -99,6 +102,7 @@ QBoxLayout* OrderScreen::BuildParts() {
     choices_ = new OrderChoicePanel(&Body(), ShownUnits());
     comparison_ = new ComparisonPanel(&Body());
     roll_ = new RollPanel(&Body(), Shared().Boxes);
+    roll_->SetListBeside(true);
     auto* right = new QVBoxLayout;
     right->setSpacing(Pixels(Metrics::Spacing));
     right->addWidget(comparison_);
@@ -199,7 +203,6 @@ void OrderScreen::ShowPart(Part part) {
     tabs_->setVisible(!isWide_);
     choices_->SetFieldsBeside(!isWide_);
     columns_->setStretchFactor(choices_, isWide_ ? 0 : 1);
-    roll_->SetListBeside(isWide_);
     choices_->setVisible(isWide_ || part == Choices);
     comparison_->setVisible(isWide_ || part == Comparison);
     roll_->setVisible(isWide_ || part == Roll);
@@ -379,19 +382,31 @@ void OrderScreen::ShowOrder() {
 }
 
 void OrderScreen::ShowState() {
-    if (!choices_->isEnabled()) {
-        comparison_->ShowState(NothingToOrder, true);
-    } else if (compared_ && !IsComparedRequest()) {
-        comparison_->ShowState(OutOfDate, true);
-    } else if (run_) {
-        comparison_->ShowState(Comparing, false);
-    } else if (order_ && !order_->Best) {
-        comparison_->ShowState(AllRefused, true);
-    } else if (order_) {
-        comparison_->ShowState(wasStopped_ ? Stopped : Compared, false);
-    } else {
-        comparison_->ShowState({}, false);
+    const auto [words, isWarning] = StateWords();
+    if (FromQt(state_->text()) != words) {
+        SetText(*state_, words);
+        SetRole(*state_, isWarning ? TextRole::Warning : TextRole::Hint);
     }
+}
+
+/// How far the comparison is, and whether the user should notice it.
+std::pair<std::string_view, bool> OrderScreen::StateWords() const {
+    if (!choices_->isEnabled()) {
+        return {NothingToOrder, true};
+    }
+    if (compared_ && !IsComparedRequest()) {
+        return {OutOfDate, true};
+    }
+    if (run_) {
+        return {Comparing, false};
+    }
+    if (!order_) {
+        return {};
+    }
+    if (!order_->Best) {
+        return {AllRefused, true};
+    }
+    return {wasStopped_ ? Stopped : Compared, false};
 }
 
 void OrderScreen::EnableButtons() {

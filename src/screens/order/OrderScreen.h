@@ -9,6 +9,8 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
+#include <utility>
 #include <variant>
 #include <vector>
 
@@ -78,6 +80,7 @@ class OrderScreen : public Screen {
     void ChooseRow(std::size_t row);
     void ShowOrder();
     void ShowState();
+    std::pair<std::string_view, bool> StateWords() const;
     void EnableButtons();
     void WithTaken(std::function<void(const OrderDocument&)> act);
     void PrintTaken();
@@ -99,6 +102,7 @@ class OrderScreen : public Screen {
     RollPanel* roll_ = nullptr;
     QBoxLayout* columns_ = nullptr;
     QTabBar* tabs_ = nullptr;
+    QLabel* state_ = nullptr;
     QLabel* title_ = nullptr;
     QLabel* unitsWarning_ = nullptr;
     QMenu* files_ = nullptr;
