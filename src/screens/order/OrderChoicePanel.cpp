@@ -89,7 +89,7 @@ OrderChoicePanel::OrderChoicePanel(QWidget* parent, Units units)
     columns_ = new QBoxLayout(QBoxLayout::TopToBottom);
     SetSpacing(*columns_, 0, Metrics::Spacing);
     columns_->addLayout(BuildRolls(), 1);
-    columns_->addLayout(BuildFields(), 1);
+    columns_->addLayout(BuildFields());
     refusal_ = NewLabel(this, Controls::orderRefusal, {});
     SetRole(*refusal_, TextRole::Warning);
     refusal_->setWordWrap(true);

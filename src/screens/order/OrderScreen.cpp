@@ -89,13 +89,17 @@ QBoxLayout* OrderScreen::BuildTitle() {
         tabs_->addTab(QString::fromLatin1(caption));
     }
     tabs_->setDrawBase(false);
+    tabs_->setUsesScrollButtons(false);
     auto* line = new QHBoxLayout;
     line->setSpacing(Pixels(Metrics::Margin));
     line->addWidget(title_);
     line->addWidget(unitsWarning_);
     line->addStretch();
-    line->addWidget(tabs_);
-    return line;
+    line->addWidget(&GuideButton());
+    auto* rows = new QVBoxLayout;
+    rows->addLayout(line);
+    rows->addWidget(tabs_);
+    return rows;
 }
 
 QBoxLayout* OrderScreen::BuildParts() {
@@ -103,14 +107,16 @@ QBoxLayout* OrderScreen::BuildParts() {
     comparison_ = new ComparisonPanel(&Body());
     roll_ = new RollPanel(&Body(), Shared().Boxes);
     roll_->SetListBeside(true);
-    auto* right = new QVBoxLayout;
-    right->setSpacing(Pixels(Metrics::Spacing));
-    right->addWidget(comparison_);
-    right->addWidget(roll_, 1);
+    roll_->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Ignored); // it takes what is left
+    results_ = new QWidget(&Body());
+    auto* results = new QVBoxLayout(results_);
+    SetSpacing(*results, 0);
+    results->addWidget(comparison_);
+    results->addWidget(roll_, 1);
     columns_ = new QHBoxLayout;
     columns_->setSpacing(Pixels(Metrics::Margin));
     columns_->addWidget(choices_);
-    columns_->addLayout(right, 1);
+    columns_->addWidget(results_, 1);
     return columns_;
 }
 
@@ -204,6 +210,7 @@ void OrderScreen::ShowPart(Part part) {
     choices_->SetFieldsBeside(!isWide_);
     columns_->setStretchFactor(choices_, isWide_ ? 0 : 1);
     choices_->setVisible(isWide_ || part == Choices);
+    results_->setVisible(isWide_ || part != Choices);
     comparison_->setVisible(isWide_ || part == Comparison);
     roll_->setVisible(isWide_ || part == Roll);
 }

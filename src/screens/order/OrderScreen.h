@@ -101,6 +101,7 @@ class OrderScreen : public Screen {
     OrderChoicePanel* choices_ = nullptr;
     RollPanel* roll_ = nullptr;
     QBoxLayout* columns_ = nullptr;
+    QWidget* results_ = nullptr; ///< comparison and roll
     QTabBar* tabs_ = nullptr;
     QLabel* state_ = nullptr;
     QLabel* title_ = nullptr;

@@ -16,9 +16,8 @@ namespace tarn {
 
 namespace {
 
-constexpr int LongestText = 60; ///< characters of a cell
-constexpr int RowsShown = 6;    ///< where there is room
-constexpr int LeastRows = 3;
+constexpr int LongestText = 60;   ///< characters of a cell
+constexpr int LeastRows = 3;      ///< in sight; more where there is room
 constexpr double RowHeight = 400; ///< twips
 constexpr double WidthColumn = 1250;
 constexpr double PriceColumn = 1350;
@@ -167,19 +166,15 @@ TypedRoll RollTable::RollIn(int row) const {
     return {text(Width), text(Name), text(Price)};
 }
 
-QSize RollTable::SizeForRows(int rows) const {
-    const int frame = 2 * frameWidth();
-    const int nameColumn = Pixels(WidthColumn);
-    return {Pixels(WidthColumn) + nameColumn + Pixels(PriceColumn) + frame,
-            horizontalHeader()->sizeHint().height() + rows * Pixels(RowHeight) + frame};
-}
-
 QSize RollTable::sizeHint() const {
-    return SizeForRows(RowsShown);
+    const int frame = 2 * frameWidth();
+    const int nameColumn = TextPixels(WidthColumn);
+    return {TextPixels(WidthColumn) + nameColumn + TextPixels(PriceColumn) + frame,
+            horizontalHeader()->sizeHint().height() + LeastRows * TextPixels(RowHeight) + frame};
 }
 
 QSize RollTable::minimumSizeHint() const {
-    return SizeForRows(LeastRows);
+    return sizeHint();
 }
 
 } // namespace tarn

@@ -41,7 +41,6 @@ class RollTable : public QTableWidget {
     void CellChanged(int row, int column);
     void CommitTyping();
     TypedRoll RollIn(int row) const;
-    QSize SizeForRows(int rows) const;
 
     /// What was typed is being taken over: who is told of it may ask for the rolls.
     bool isTaking_ = false;

@@ -225,16 +225,17 @@ TEST_F(OrderScreens, ShowAllPartsWhereThereIsRoomAndElseOneAtATime) {
     EXPECT_TRUE(Table().hasFocus());
 }
 
-TEST_F(OrderScreens, FitTheLeastDisplay) {
+TEST_F(OrderScreens, FitTheDisplaysThereAre) {
     Add(168, 120);
-    for (const Units units : {Units::Imperial, Units::Metric}) {
-        open.Shown = units;
-        Open(std::nullopt, 800, 600);
+    Keep(0, OfferedRequest(Units::Imperial).Rolls).Lays = {Lay::Down, Lay::Cross};
+    for (const QSize size : {QSize(800, 600), QSize(1366, 740), QSize(1920, 1080)}) {
+        Open(std::nullopt, size.width(), size.height());
+        WaitFor("Compared.");
         for (int part = 0; part < 3; ++part) {
             Control<QTabBar>(Controls::orderParts).setCurrentIndex(part);
             QCoreApplication::processEvents();
-            EXPECT_LE(Control(Controls::body).width(), form->width()) << part;
-            EXPECT_LE(Control(Controls::body).height(), form->height()) << part;
+            EXPECT_LE(Control(Controls::body).width(), form->width()) << size.width() << part;
+            EXPECT_LE(Control(Controls::body).height(), form->height()) << size.width() << part;
         }
     }
 }
