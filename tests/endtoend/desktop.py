@@ -157,12 +157,13 @@ class Program:
 
     def focused(self):
         """The name of what has the focus."""
-        # A list's current entry counts as focused wherever the focus is.
+        # The current entry of a list, a table or tabs counts as focused wherever the focus is.
         return next(
             (
                 each.name
                 for each in self.showing()
-                if "focused" in states(each) and each.getRoleName() != "list item"
+                if "focused" in states(each)
+                and each.getRoleName() not in ("list item", "table cell", "page tab")
             ),
             None,
         )

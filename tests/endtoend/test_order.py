@@ -59,14 +59,14 @@ class OrderingByKeysAlone(Road):
         ui.key("Return")
         wait_for(lambda: os.path.isfile(self.file) and not ui.boxes(), "the file")
         lines = Pdf.of_file(self.file).lines()
-        self.assertEqual(lines[1:3], ["Project TEN", lines[2]])
-        self.assertIn("Order and cutting sheet", lines[0] + lines[1])
+        self.assertEqual(lines[1:3], ["Order and cutting sheet", "Project TEN"])
         for room in ("101 hall", "103 two widths", "110 long"):
             self.assertTrue(any(room in line for line in lines), room)
         ui.take_focus()
         ui.key("Escape")
         ui.see("push button", "REDRAW")
-        self.assertEqual(self.house.rows("select name from sqlite_master where name = 'OrderData'"), [])
+        tables = self.house.rows("select name from sqlite_master where name = 'OrderData'")
+        self.assertEqual(tables, [], "nothing was chosen")
 
 
 class OrderingByClicks(PrintCase):

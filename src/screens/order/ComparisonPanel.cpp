@@ -17,7 +17,9 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <array>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace tarn {
@@ -50,13 +52,26 @@ class RowsHighTable : public QTableWidget {
     }
 };
 
-/// The heads of the table's columns: those of the comparison between its mark, what is above the
-/// least possible, and remarks.
+/// A row of the table from one of the comparison: what is decided by comes first, what one looks up
+/// is behind it.
+std::vector<std::string> TableRow(std::string mark, const std::vector<std::string>& comparison,
+                                  std::string aboveLeast, std::string remarks) {
+    constexpr std::array<std::size_t, 8> First{0, 1, 2, 5, 8, 9, 10, 11}; // roll .. price
+    constexpr std::array<std::size_t, 4> Second{3, 4, 6, 7};              // needed .. trimmed
+    std::vector<std::string> row{std::move(mark)};
+    for (const std::size_t column : First) {
+        row.push_back(comparison.at(column));
+    }
+    row.push_back(std::move(aboveLeast));
+    for (const std::size_t column : Second) {
+        row.push_back(comparison.at(column));
+    }
+    row.push_back(std::move(remarks));
+    return row;
+}
+
 std::vector<std::string> Heads(Units units) {
-    std::vector<std::string> heads = ComparisonHeads(units);
-    heads.insert(heads.begin(), "Take");
-    heads.insert(heads.end(), {"Above least %", "Notes"});
-    return heads;
+    return TableRow("Take", ComparisonHeads(units), "Above least %", "Notes");
 }
 
 QLabel* NewLine(QWidget* parent, const char* name, TextRole role) {
@@ -154,12 +169,11 @@ void ComparisonPanel::SetHeads(Units units) {
 
 void ComparisonPanel::SetCells(const Order& order, std::size_t row, bool isTaken) {
     const OrderCandidate& candidate = order.Candidates[row];
-    std::vector<std::string> cells = ComparisonCells(order, candidate);
-    cells.insert(cells.begin(), order.Best == row              ? "best"
-                                : isTaken && candidate.Figures ? "chosen"
-                                                               : "");
-    cells.push_back(AboveLeastText(candidate));
-    cells.push_back(OneLine(RemarksOf(candidate)));
+    const char* const mark = order.Best == row              ? "best"
+                             : isTaken && candidate.Figures ? "chosen"
+                                                            : "";
+    const auto cells = TableRow(mark, ComparisonCells(order, candidate), AboveLeastText(candidate),
+                                OneLine(RemarksOf(candidate)));
     for (int column = 0; column < table_->columnCount(); ++column) {
         QTableWidgetItem& cell = Cell(static_cast<int>(row), column);
         const QString text = ToQt(cells[static_cast<std::size_t>(column)]);
