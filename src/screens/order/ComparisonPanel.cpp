@@ -27,9 +27,16 @@ namespace tarn {
 namespace {
 
 constexpr double RowHeight = 400; ///< twips
-constexpr int LeastRows = 3;      ///< in sight
-constexpr int MostRows = 8;       ///< where there is room
-constexpr int TextColumns = 3;    ///< the mark, the roll and the lay; figures follow
+constexpr double WidestColumn = 9000;
+constexpr int LeastRows = 3;   ///< in sight
+constexpr int MostRows = 8;    ///< where there is room
+constexpr int TextColumns = 3; ///< the mark, the roll and the lay; figures follow
+
+/// As much of the remarks as leaves room for the rest: hundreds of rooms may be named.
+QString Shortened(const QString& remarks) {
+    constexpr qsizetype Most = 240;
+    return remarks.size() <= Most ? remarks : remarks.left(Most) + QChar(0x2026);
+}
 
 /// As high as its rows, where they are not many.
 class RowsHighTable : public QTableWidget {
@@ -109,6 +116,7 @@ ComparisonPanel::ComparisonPanel(QWidget* parent)
     table_->verticalHeader()->setDefaultSectionSize(Pixels(RowHeight));
     table_->verticalHeader()->setMinimumSectionSize(Pixels(RowHeight));
     table_->horizontalHeader()->setHighlightSections(false);
+    table_->horizontalHeader()->setMaximumSectionSize(TextPixels(WidestColumn));
     connect(table_, &QTableWidget::currentCellChanged, this, [this](int row, int, int before, int) {
         if (row >= 0 && row != before) {
             OnRow(static_cast<std::size_t>(row));
@@ -148,6 +156,8 @@ void ComparisonPanel::ShowTaken(const Order& order, std::optional<std::size_t> t
     taken_->setVisible(hasFigures);
     const std::string remarks = taken ? RemarksOf(order.Candidates[*taken]) : std::string();
     SetText(*remarks_, remarks);
+    remarks_->setText(Shortened(remarks_->text()));
+    SetToolTip(*remarks_, remarks_->accessibleName());
     remarks_->setVisible(!remarks.empty());
 }
 

@@ -184,6 +184,19 @@ TEST_F(OrderScreens, TakeTheRowThatIsChosen) {
     EXPECT_THAT(LabelText(Controls::comparisonTaken), StartsWith("Best: "));
 }
 
+TEST_F(OrderScreens, LeaveRoomBesideRemarksOnManyRooms) {
+    for (int room = 0; room < 100; ++room) {
+        Add(147, 120);
+    }
+    Keep(0, {Roll(144, "12ft")});
+    OpenCompared();
+    const auto& remarks = Control<QLabel>(Controls::comparisonRemarks);
+    EXPECT_EQ(remarks.text().size(), 241);
+    EXPECT_GT(remarks.accessibleName().size(), 900) << "all of it for those who hear it";
+    EXPECT_THAT(ShownToolTip(remarks), ::testing::EndsWith("room 100."));
+    EXPECT_LE(Control(Controls::body).height(), form->height());
+}
+
 TEST_F(OrderScreens, SayInWhichUnitsTheProjectWasEnteredAndShowTheirOwn) {
     Add(300, 400);
     open.Saved.EnteredIn = open.Now.EnteredIn = Units::Metric;
