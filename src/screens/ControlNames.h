@@ -121,6 +121,7 @@ inline constexpr const char* pasteCuts = "Command4";
 inline constexpr const char* redrawLayout = "Command7";
 inline constexpr const char* printEstimate = "Command5";
 inline constexpr const char* saveFromEstimate = "Command6";
+inline constexpr const char* switchView = "SwitchView";
 inline constexpr const char* leaveEstimate = "Command2";
 inline constexpr const char* choicePanel = "Frame7";
 inline constexpr std::array<const char*, 8> carpets{"Option1(0)", "Option1(1)", "Option1(2)",
@@ -154,7 +155,6 @@ inline constexpr const char* improveTime = "ProgressBar1";
 inline constexpr const char* stopImproving = "Command1(2)";
 
 // Roll: the whole view of a roll and its list, on the screens that have one.
-inline constexpr const char* rollCaption = "RollCaption";
 inline constexpr const char* rollView = "RollView";
 inline constexpr const char* rollList = "RollList";
 

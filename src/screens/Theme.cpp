@@ -83,21 +83,20 @@ QPushButton:focus { border-color: @Accent; outline: none; }
 QPushButton[primary="true"]:focus { border-color: @Text; outline: 1px solid @AccentText;
     outline-radius: 60tw; }
 
-QLineEdit, QComboBox, QPlainTextEdit, QTextBrowser, QListWidget { background: @Field; color: @Text;
-    border: 2px solid @ControlBorder; border-radius: 60tw; selection-background-color: @Accent;
+QLineEdit, QComboBox, QPlainTextEdit, QListWidget, #%RollList% { background: @Field; color: @Text;
+    border: 2px solid @Border; border-radius: 60tw; selection-background-color: @Accent;
     selection-color: @AccentText; }
 QLineEdit, QComboBox { padding: 30tw 90tw; min-height: 345tw; }
-QLineEdit:focus, QComboBox:focus, QPlainTextEdit:focus, QTextBrowser:focus, QListWidget:focus {
-    border-color: @Accent; }
-QLineEdit:disabled, QComboBox:disabled { color: @Disabled; background: @Surface;
-    border-color: @Border; }
+QLineEdit:focus, QComboBox:focus, QPlainTextEdit:focus, QListWidget:focus,
+    #%RollList%:focus { border-color: @Accent; }
+QLineEdit:disabled, QComboBox:disabled { color: @Disabled; background: @Surface; }
 QPlainTextEdit { font-size: @ListingFontpt; }
 QComboBox::drop-down { border: none; width: 360tx; }
 QComboBox::down-arrow { width: 0; height: 0; border-top: 90tx solid @Muted;
     border-left: 75tx solid @Field; border-right: 75tx solid @Field; }
 QLineEdit:read-only { background: @Window; color: @Muted; }
-QListWidget::item { padding: 15tw 75tw; border: none; color: @Text; }
-QListWidget::item:selected { background: @Accent; color: @AccentText; }
+QListWidget::item, #%RollList%::item { padding: 15tw 75tw; border: none; color: @Text; }
+QListWidget::item:selected, #%RollList%::item:selected { background: @Accent; color: @AccentText; }
 QComboBox QAbstractItemView { background: @Field; color: @Text;
     selection-background-color: @Accent; selection-color: @AccentText; }
 
@@ -127,8 +126,9 @@ QScrollBar::handle:vertical { min-height: 450tw; }
 QScrollBar::handle:horizontal { min-width: 450tw; }
 QScrollBar::add-line, QScrollBar::sub-line { width: 0; height: 0; }
 QScrollBar::add-page, QScrollBar::sub-page { background: none; }
-#%Picture% { background: white; border: 2px solid @ControlBorder; }
-#%Picture%:focus { border-color: @Accent; }
+#%Picture% { background: white; border: 2px solid @Border; }
+#%RollView% { background: @Field; border: 2px solid @Border; }
+#%Picture%:focus, #%RollView%:focus { border-color: @Accent; }
 QScrollArea { border: none; background: @Window; }
 )";
 
@@ -184,10 +184,12 @@ QString StyleSheet(const Colours& colours) {
     for (const auto& [name, size] : sizes) {
         sheet.replace(QLatin1String(name), QString::number(size * TextScale()));
     }
-    const std::array<std::pair<const char*, const char*>, 3> controls{
+    const std::array<std::pair<const char*, const char*>, 5> controls{
         {{"%Window%", Controls::window},
          {"%Body%", Controls::body},
-         {"%Picture%", Controls::layoutPicture}}};
+         {"%Picture%", Controls::layoutPicture},
+         {"%RollView%", Controls::rollView},
+         {"%RollList%", Controls::rollList}}};
     sheet = WithPixels(sheet);
     for (const auto& [name, control] : controls) {
         sheet.replace(QLatin1String(name), QLatin1String(control));

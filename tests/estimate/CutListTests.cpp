@@ -1,5 +1,6 @@
 #include "estimate/CutList.h"
 #include "estimate/EstimateTesting.h"
+#include "estimate/FillLabels.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -225,6 +226,27 @@ TEST(CutList, LabelsGoByTheFillsAndNotByTheirParts) {
     }
     estimate.Job.Pieces.resize(20);
     EXPECT_EQ(CutListLines(estimate)[40], "T: 0'10\" X 1'8\"");
+}
+
+TEST(CutList, KnowsWhatItsLinesAreAbout) {
+    const Estimate estimate = Estimated({{200, 100}, {300, 90}}, Request(144));
+    std::size_t cuts = 0;
+    std::size_t pieces = 0;
+    for (const CutListLine& line : CutListItems(estimate)) {
+        if (line.Cut) {
+            EXPECT_EQ(*line.Cut, cuts++);
+            EXPECT_EQ(line.Text,
+                      CutLabel(*line.Cut) + ": " + SizeOf(estimate, estimate.Cuts.at(*line.Cut)));
+        } else if (line.Piece) {
+            EXPECT_EQ(*line.Piece, pieces++);
+            EXPECT_TRUE(line.Text.ends_with(
+                ": " + SizeOf(estimate, estimate.Fills.Layout.at(*line.Piece).Part)));
+        } else {
+            EXPECT_TRUE(line.Text.starts_with("Carpet-") || line.Text.starts_with("Total"));
+        }
+    }
+    EXPECT_EQ(cuts, estimate.Cuts.size());
+    EXPECT_EQ(pieces, estimate.Fills.Layout.size());
 }
 
 } // namespace

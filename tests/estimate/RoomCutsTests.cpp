@@ -248,5 +248,21 @@ TEST(CutAcrossRoll, AnExtentThatIsNotFiniteOverflows) {
     EXPECT_EQ(ErrorOf([&] { CutAcrossRoll(project, Request(144)); }).Number(), OverflowNumber);
 }
 
+TEST(RoomCuts, KnowWhichRoomTheyAreOf) {
+    for (const Lay lay : BothLays) {
+        const Rooms rooms{AcrossAlong(lay, 300, 90),
+                          {50, 50, 1},
+                          {0, 70},
+                          AcrossAlong(lay, 100, 80),
+                          AcrossAlong(lay, 144, 60)};
+        const RoomCuts cut = CutRooms(rooms, Request(144, lay));
+        EXPECT_EQ(cut.CutRooms, (std::vector<std::size_t>{0, 0, 4}));
+        EXPECT_EQ(cut.FillRooms, (std::vector<std::size_t>{0, 3}));
+        const Estimate estimate = Estimated(rooms, Request(144, lay));
+        EXPECT_EQ(estimate.CutRooms, cut.CutRooms);
+        EXPECT_EQ(estimate.FillRooms, cut.FillRooms);
+    }
+}
+
 } // namespace
 } // namespace tarn

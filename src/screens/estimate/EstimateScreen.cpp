@@ -19,11 +19,16 @@
 #include "screens/estimate/ImprovePanel.h"
 #include "screens/estimate/OthersDisabled.h"
 #include "screens/estimate/PictureBox.h"
+#include "screens/estimate/ResultViews.h"
+#include "screens/roll/RollList.h"
+#include "screens/roll/RollPanel.h"
+#include "screens/roll/RollView.h"
 
 #include <QAction>
 #include <QEvent>
 #include <QMenu>
 #include <QPushButton>
+#include <QShortcut>
 #include <QStyle>
 #include <QVBoxLayout>
 
@@ -41,11 +46,10 @@ constexpr const char* ImproveFailure = "The layout could not be improved.";
 constexpr const char* OrderFailure = "The order could not be opened.";
 constexpr const char* PictureFailure = "The picture could not be saved.";
 constexpr const char* LeaveFailure = "The screen could not be closed.";
+constexpr const char* WholeRollCaption = "WHOLE ROLL";
+constexpr const char* DrawingCaption = "DRAWING";
 constexpr const char* PasteHint =
     "Then click where the cut list is to stand, or press Enter for the top left of the view.";
-
-constexpr double LeastPictureWidth = 4500; ///< twips
-constexpr double LeastPictureHeight = 3000;
 
 ElidedLabel* NewElidedLabel(QWidget* parent, const char* name, const QString& text, TextRole role) {
     auto* label = new ElidedLabel(parent);
@@ -78,6 +82,8 @@ EstimateScreen::EstimateScreen(Session& session, bool fromMenu)
     }
 }
 
+EstimateScreen::~EstimateScreen() = default;
+
 void EstimateScreen::TellNoData() {
     Shared().Boxes.Message(NoDataMessage);
     back_->setEnabled(true);
@@ -92,15 +98,15 @@ void EstimateScreen::Build() {
     rows->addLayout(BuildStatus());
     ShowProjectName();
     ShowUnitsWarning();
-    OfferDrawing();
 
     panel_ = new ChoicePanel(&Body(), Shared().Boxes, ShownUnits());
     panel_->raise();
     improvePanel_ = new ImprovePanel(&Body(), ShownUnits());
     Body().installEventFilter(this);
     panel_->installEventFilter(this);
-    SetTabOrders({&panel_->CancelButton(), openPanel_, improve_, order_, paste_, redraw_, print_,
-                  save_, back_, picture_});
+    SetTabOrders({&panel_->CancelButton(), openPanel_, improve_, paste_, redraw_, print_, save_,
+                  switchView_, back_, picture_, &views_->Roll().View(), &views_->Roll().List()});
+    OfferDrawing();
 }
 
 QHBoxLayout* EstimateScreen::BuildTitle() {
@@ -131,12 +137,12 @@ void EstimateScreen::ShowUnitsWarning() {
 }
 
 QHBoxLayout* EstimateScreen::BuildPictureAndButtons() {
-    picture_ = new PictureBox(&Body(), Shared().Boxes);
-    picture_->setMinimumSize(Pixels(LeastPictureWidth), Pixels(LeastPictureHeight));
+    views_ = std::make_unique<ResultViews>(Body(), Shared());
+    picture_ = &views_->Picture();
     BuildPictureMenu();
     auto* columns = new QHBoxLayout;
     columns->setSpacing(Pixels(Metrics::Margin));
-    columns->addWidget(picture_, 1);
+    columns->addLayout(&views_->Layout(), 1);
     columns->addLayout(BuildButtons());
     return columns;
 }
@@ -173,6 +179,10 @@ QVBoxLayout* EstimateScreen::BuildButtons() {
         button->setEnabled(false);
         column->addWidget(button);
     }
+    switchView_ = NewButton(&Body(), Controls::switchView, WholeRollCaption);
+    switchView_->setToolTip(QStringLiteral("The same: key D"));
+    switchView_->setMinimumWidth(Pixels(Metrics::ButtonWidth));
+    column->insertWidget(column->indexOf(save_) + 1, switchView_);
     return column;
 }
 
@@ -218,6 +228,17 @@ void EstimateScreen::Connect() {
     OnClick(*save_, std::string(NotSavedMessage), [this] { SaveRooms(); });
     OnClick(*back_, LeaveFailure, [this] { Leave(); });
     picture_->MouseDown = [this](Double x, Double y) { return PasteCutList(x, y); };
+    OnClick(*switchView_, DrawingFailure, [this] { SwitchView(); });
+    views_->OnArranged = [this] { OfferViews(); };
+    auto* switching = new QShortcut(Qt::Key_D, this);
+    switching->setAutoRepeat(false);
+    connect(switching, &QShortcut::activated, this, [this] {
+        Guard(DrawingFailure, [this] {
+            if (switchView_->isEnabled()) {
+                SwitchView();
+            }
+        });
+    });
 }
 
 QWidget* EstimateScreen::FirstFocus() {
@@ -241,7 +262,12 @@ bool EstimateScreen::eventFilter(QObject* watched, QEvent* event) {
     const bool resized = event->type() == QEvent::Resize && watched == &Body();
     if (resized || event->type() == QEvent::LayoutRequest ||
         event->type() == QEvent::ShowToParent || event->type() == QEvent::HideToParent) {
-        Guard(DrawingFailure, [this] { PlacePanels(); });
+        Guard(DrawingFailure, [&] {
+            if (resized) {
+                views_->Arrange();
+            }
+            PlacePanels();
+        });
     }
     return Screen::eventFilter(watched, event);
 }
@@ -266,11 +292,13 @@ void EstimateScreen::PlacePanels() {
 void EstimateScreen::OpenPanel() {
     panel_->show();
     panel_->raise();
+    OfferViews();
     panel_->FocusCarpet();
 }
 
 void EstimateScreen::ClosePanel() {
     panel_->hide();
+    OfferViews();
     FocusResult();
 }
 
@@ -288,11 +316,22 @@ void EstimateScreen::EnableImprove() {
 }
 
 void EstimateScreen::FocusResult() {
-    if (picture_->isHidden()) {
-        openPanel_->setFocus();
-    } else {
-        picture_->setFocus();
-    }
+    QWidget* view = views_->InFront();
+    (view == nullptr ? openPanel_ : view)->setFocus();
+}
+
+/// What can be seen instead stands on the button.
+void EstimateScreen::OfferViews() {
+    const bool rollAlone = views_->ShowsRollAlone();
+    SetCaption(*switchView_, rollAlone ? DrawingCaption : WholeRollCaption, 'W');
+    switchView_->setVisible(!views_->IsWide());
+    switchView_->setEnabled(views_->MaySwitch() && panel_->isHidden());
+    zoomHint_->setVisible(!rollAlone && !picture_->Shown().Steps().empty());
+}
+
+void EstimateScreen::SwitchView() {
+    views_->Switch();
+    FocusResult();
 }
 
 void EstimateScreen::ShowDrawing(Drawing drawing, bool fromStart) {
@@ -306,7 +345,7 @@ void EstimateScreen::ShowDrawing(Drawing drawing, bool fromStart) {
 
 void EstimateScreen::OfferDrawing() {
     const bool drawn = !picture_->Shown().Steps().empty();
-    zoomHint_->setVisible(drawn);
+    OfferViews();
     EnableImprove();
     for (QAction* action : pictureMenu_->actions()) {
         action->setEnabled(drawn);
@@ -344,8 +383,10 @@ void EstimateScreen::EstimateReady(const Estimate& estimate) {
     Drawing drawing = picture_->Shown();
     DrawLayout(drawing, estimate);
     DrawCutList(drawing, estimate, CutListX, CutListY);
+    RollChart roll = ChartOf(estimate, OpenedProject());
     estimate_ = estimate;
     ShowDrawing(std::move(drawing), true);
+    views_->ShowRoll(std::move(roll));
 }
 
 void EstimateScreen::NoEstimate() {
@@ -353,6 +394,7 @@ void EstimateScreen::NoEstimate() {
     Drawing drawing = picture_->Shown();
     drawing.Clear();
     ShowDrawing(std::move(drawing), true);
+    views_->ShowRoll({});
 }
 
 void EstimateScreen::RedrawLayout() {
@@ -364,6 +406,7 @@ void EstimateScreen::RedrawLayout() {
         DrawNoFills(drawing);
     }
     ShowDrawing(std::move(drawing), fromStart);
+    views_->ShowPicture();
 }
 
 void EstimateScreen::ImproveLayout() {
@@ -396,8 +439,11 @@ void EstimateScreen::ImproveLayout() {
 void EstimateScreen::SetPasting(bool pasting) {
     pasting_ = pasting;
     picture_->SetWaiting(pasting);
-    if (pasting && !picture_->isHidden()) {
-        picture_->setFocus();
+    if (pasting) {
+        views_->ShowPicture();
+        if (!picture_->isHidden()) {
+            picture_->setFocus();
+        }
     }
 }
 

@@ -7,6 +7,7 @@
 
 #include <array>
 #include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 
@@ -22,6 +23,7 @@ class ChoicePanel;
 class Drawing;
 class ImprovePanel;
 class PictureBox;
+class ResultViews;
 
 /// The carpet estimate: one carpet of the open project at a time is cut, drawn and listed, printed
 /// and pasted. Its buttons can be used from the first OK or CANCEL of the choice panel on, whatever
@@ -31,6 +33,7 @@ class EstimateScreen : public Screen, public EstimateClient {
     /// `fromMenu`: the menu opened it and is shown again when it closes; else the screen below it
     /// is. Raises as RequireExtents.
     EstimateScreen(Session& session, bool fromMenu);
+    ~EstimateScreen() override;
 
     void EstimateReady(const Estimate& estimate) override;
     void NoEstimate() override;
@@ -62,6 +65,8 @@ class EstimateScreen : public Screen, public EstimateClient {
     void EnableButtons();
     void EnableImprove();
     void FocusResult();
+    void OfferViews();
+    void SwitchView();
 
     const Project& OpenedProject() const { return Shared().Project.Now; }
     Units ShownUnits() const { return Shared().Project.Shown; }
@@ -81,7 +86,8 @@ class EstimateScreen : public Screen, public EstimateClient {
     bool pasting_ = false;             ///< the next press on the picture pastes the cut list
     std::optional<Estimate> estimate_; ///< the one that is shown
     ChoicePanel* panel_ = nullptr;
-    PictureBox* picture_ = nullptr;
+    std::unique_ptr<ResultViews> views_;
+    PictureBox* picture_ = nullptr; ///< one of the views
     ImprovePanel* improvePanel_ = nullptr;
     QMenu* pictureMenu_ = nullptr;
     QLabel* title_ = nullptr;
@@ -95,6 +101,7 @@ class EstimateScreen : public Screen, public EstimateClient {
     QPushButton* redraw_ = nullptr;
     QPushButton* print_ = nullptr;
     QPushButton* save_ = nullptr;
+    QPushButton* switchView_ = nullptr;
     QPushButton* back_ = nullptr;
 };
 

@@ -27,12 +27,13 @@ constexpr double ReadableZoom = 0.75; ///< 9 point type is then as large as 7 po
 constexpr double LargestFit = 2;      ///< a small drawing on a large display grows no further
 constexpr double LeastOwnZoom = 0.1;  ///< less only to fit a drawing
 constexpr double GreatestZoom = 8;
-constexpr double ZoomStep = 1.25;      ///< for a key or one notch of the wheel
-constexpr double WheelNotch = 120;     ///< in the units of a wheel event
-constexpr double MostPixels = 1e9;     ///< scroll bars count in int
-constexpr double RoundingError = 1e-3; ///< pixels
-constexpr double ScrollStep = 600;     ///< twips
-constexpr double KeyPressInset = 100;  ///< twips from the visible top left
+constexpr double ZoomStep = 1.25;       ///< for a key or one notch of the wheel
+constexpr double WheelNotch = 120;      ///< in the units of a wheel event
+constexpr double MostPixels = 1e9;      ///< scroll bars count in int
+constexpr double RoundingError = 1e-3;  ///< pixels
+constexpr double ScrollStep = 600;      ///< twips
+constexpr std::size_t ManySteps = 1000; ///< more of them are not painted anew for each movement
+constexpr double KeyPressInset = 100;   ///< twips from the visible top left
 
 /// What is written in a drawing, for those who cannot see it.
 QString WrittenIn(const Drawing& drawing) {
@@ -49,7 +50,13 @@ QString WrittenIn(const Drawing& drawing) {
 
 PictureBox::PictureBox(QWidget* parent, Dialogs& boxes)
     : QAbstractScrollArea(parent)
-    , boxes_(boxes) {
+    , boxes_(boxes)
+    , moving_(
+          *viewport(),
+          [this](QPainter& painter, const PictureAt& at, const QRect& part) {
+              PaintPart(painter, at, part);
+          },
+          [this] { return DrawnTwips(); }) {
     NameControl(*this, Controls::layoutPicture, QStringLiteral("Layout drawing"));
     setToolTip(ZoomHint());
     setFocusPolicy(Qt::StrongFocus);
@@ -82,6 +89,7 @@ void PictureBox::ShowFromStart(Drawing drawing) {
 }
 
 void PictureBox::ShowDrawing() {
+    moving_.Forget();
     setVisible(drawing_.Visible);
     setAccessibleDescription(WrittenIn(drawing_));
     Arrange();
@@ -240,17 +248,41 @@ void PictureBox::ShowTip(QPoint position, QPoint global) {
     QToolTip::showText(global, tip, viewport(), shownFor);
 }
 
+bool PictureBox::HasManySteps() const {
+    return drawing_.Steps().size() > ManySteps;
+}
+
+PictureAt PictureBox::Place() const {
+    return {PixelsPerTwip(),
+            -QPointF(horizontalScrollBar()->value(), verticalScrollBar()->value())};
+}
+
+/// The paper alone where the part is empty.
+void PictureBox::PaintPart(QPainter& painter, const PictureAt& at, const QRect& part) const {
+    painter.fillRect(part.isEmpty() ? viewport()->rect() : part, Qt::white);
+    if (!part.isEmpty()) {
+        painter.setClipRect(part);
+        painter.translate(at.Origin);
+        painter.scale(at.Zoom, at.Zoom);
+        PaintDrawing(painter, drawing_);
+    }
+}
+
 void PictureBox::paintEvent(QPaintEvent* event) {
     QPainter painter(viewport());
-    painter.fillRect(event->rect(), Qt::white);
-    painter.setClipRect(event->rect());
-    painter.translate(-horizontalScrollBar()->value(), -verticalScrollBar()->value());
-    painter.scale(PixelsPerTwip(), PixelsPerTwip());
-    PaintDrawing(painter, drawing_);
+    if (HasManySteps()) {
+        moving_.Paint(painter, Place());
+    } else {
+        PaintPart(painter, Place(), event->rect());
+    }
 }
 
 void PictureBox::scrollContentsBy(int dx, int dy) {
-    viewport()->scroll(dx, dy);
+    if (HasManySteps()) {
+        viewport()->update();
+    } else {
+        viewport()->scroll(dx, dy);
+    }
 }
 
 void PictureBox::wheelEvent(QWheelEvent* event) {

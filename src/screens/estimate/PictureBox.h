@@ -2,6 +2,7 @@
 
 #include "drawing/Drawing.h"
 #include "screens/Dialogs.h"
+#include "screens/MovingPicture.h"
 
 #include <QAbstractScrollArea>
 
@@ -37,6 +38,8 @@ class PictureBox : public QAbstractScrollArea {
     /// Called where a context menu is asked for, in global pixels; not by a press that was taken.
     std::function<void(QPoint global)> ContextMenu = [](QPoint) {};
 
+    /// Whether a drawing of many steps moves, and is not painted exactly until it rests.
+    bool IsMoving() const { return moving_.IsMoving(); }
     /// 1 is actual size.
     double Zoom() const { return zoom_; }
     /// Between positions on the viewport, pixels, and those in the drawing, twips.
@@ -61,6 +64,9 @@ class PictureBox : public QAbstractScrollArea {
 
   private:
     bool Guard(const std::function<void()>& body) const;
+    bool HasManySteps() const;
+    PictureAt Place() const;
+    void PaintPart(QPainter& painter, const PictureAt& at, const QRect& part) const;
     double PixelsPerTwip() const;
     QSizeF DrawnTwips() const;
     QSize DrawnPixels() const;
@@ -84,6 +90,7 @@ class PictureBox : public QAbstractScrollArea {
 
     Dialogs& boxes_;
     Drawing drawing_;
+    MovingPicture moving_;
     double zoom_ = 1;
     bool fitted_ = true;   ///< the zoom follows the box
     QSize fittedTo_;       ///< the room that it was fitted into last

@@ -21,8 +21,8 @@ class Fitter {
   public:
     Fitter(const ChartPiece& piece, double width, double height, const LabelMeasure& measure)
         : piece_(piece)
-        , width_(width - 2 * measure.Margin)
-        , height_(height - 2 * measure.Margin)
+        , width_(width)
+        , height_(height)
         , measure_(measure) {}
 
     FittedLabel Fit() const {
@@ -69,12 +69,14 @@ class Fitter {
         for (const LabelLine& line : lines) {
             height += measure_.Height(line.Size);
         }
-        if (height > (upward ? width_ : height_)) {
-            return false;
+        if (lines.size() == 1 && lines.front().Text == piece_.Label) {
+            height = measure_.LetterHeight(lines.front().Size);
         }
-        return std::all_of(lines.begin(), lines.end(), [&](const LabelLine& line) {
-            return measure_.Width(line.Text, line.Size) <= (upward ? height_ : width_);
-        });
+        const double most = (upward ? height_ : width_) - 2 * measure_.Margin;
+        return height <= (upward ? width_ : height_) &&
+               std::all_of(lines.begin(), lines.end(), [&](const LabelLine& line) {
+                   return measure_.Width(line.Text, line.Size) <= most;
+               });
     }
 
     bool FitsEitherWay(const Lines& lines) const { return Fits(lines, false) || Fits(lines, true); }

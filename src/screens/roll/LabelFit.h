@@ -21,8 +21,9 @@ inline constexpr std::array<double, 4> LabelSizes{1.7, 1.3, 1.0, 0.85};
 /// How texts are measured in a type size, given by its place in LabelSizes.
 struct LabelMeasure {
     std::function<double(std::string_view text, std::size_t size)> Width;
-    std::function<double(std::size_t size)> Height; ///< of a line
-    double Margin = 0;                              ///< kept free inside a box, on each side
+    std::function<double(std::size_t size)> Height;       ///< of a line
+    std::function<double(std::size_t size)> LetterHeight; ///< of capitals alone
+    double Margin = 0;                                    ///< kept free before and behind a line
 };
 
 /// One line of a label.

@@ -7,6 +7,7 @@
 #include "estimate/FillLabels.h"
 #include "estimate/RollPlaces.h"
 #include "order/CutLines.h"
+#include "order/OrderWords.h"
 #include "order/RollFold.h"
 #include "project/OrderRequest.h"
 #include "screens/roll/Tints.h"
@@ -194,6 +195,9 @@ RollChart ChartOf(const Order& order, std::size_t candidate, const Project& proj
     chart.RollWidth = row.RollWidth;
     chart.Length = length;
     const std::vector<CutLine> lines = CutLines(project, order.Request, row);
+    chart.Description = DescribedRoll(OrderLengthText(row.RollWidth, units),
+                                      OrderLengthText(length, units), row.Pieces.size());
+    chart.Lines = {{OneLine(CandidateName(order, row)), {}}, {chart.Description, {}}};
     std::vector<std::size_t> rooms;
     for (std::size_t i = 0; i < row.Pieces.size(); ++i) {
         const OrderPiece& from = row.Pieces[i];
@@ -215,8 +219,6 @@ RollChart ChartOf(const Order& order, std::size_t candidate, const Project& proj
     }
     GiveTints(chart.Pieces, rooms);
     chart.LeftOver = SpaceAround(chart.Pieces, chart.RollWidth, chart.Length);
-    chart.Description = DescribedRoll(OrderLengthText(row.RollWidth, units),
-                                      OrderLengthText(length, units), chart.Pieces.size());
     return chart;
 }
 

@@ -7,7 +7,9 @@
 #include "screens/Theme.h"
 
 #include <QEvent>
+#include <QPainter>
 #include <QScrollBar>
+#include <QStyledItemDelegate>
 
 #include <algorithm>
 #include <utility>
@@ -18,7 +20,40 @@ namespace {
 
 constexpr double LeastListWidth = 3000; ///< twips
 constexpr double MostListWidth = 6600;
+constexpr double LinePadding = 150; ///< before and behind a line
+constexpr double LineGap = 30;
 constexpr int LinesShown = 8; ///< at least
+
+/// Shows a line that is pointed at, and is as high as a line is when it is wrapped: the toolkit's
+/// own delegate forgets what stands around the text.
+class LineDelegate : public QStyledItemDelegate {
+  public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    /// A style sheet leaves out the colour behind an item.
+    void paint(QPainter* painter, const QStyleOptionViewItem& option,
+               const QModelIndex& index) const override {
+        const QVariant behind = index.data(Qt::BackgroundRole);
+        if (behind.isValid()) {
+            painter->fillRect(option.rect, behind.value<QColor>());
+        }
+        QStyledItemDelegate::paint(painter, option, index);
+    }
+
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+        QSize hint = QStyledItemDelegate::sizeHint(option, index);
+        const auto* list = static_cast<const QListView*>(option.widget);
+        const QFontMetrics metrics(list->font());
+        const QString text = index.data().toString();
+        const int room = list->viewport()->width() - 2 * Pixels(LinePadding);
+        if (room > 0 && metrics.horizontalAdvance(text) > room) {
+            const QRect most(0, 0, room, QWIDGETSIZE_MAX);
+            const int wrapped = metrics.boundingRect(most, Qt::TextWordWrap, text).height();
+            hint.setHeight(std::max(hint.height(), wrapped + 2 * Pixels(LineGap)));
+        }
+        return hint;
+    }
+};
 
 } // namespace
 
@@ -81,11 +116,14 @@ RollList::RollList(QWidget* parent)
     , lines_(new ChartLineModel(this)) {
     NameControl(*this, Controls::rollList, QStringLiteral("Cut list"));
     setModel(lines_);
-    setUniformItemSizes(true);
+    setItemDelegate(new LineDelegate(this));
+    setWordWrap(true);
+    setResizeMode(QListView::Adjust);
     setMouseTracking(true);
     setSelectionMode(QAbstractItemView::SingleSelection);
     setEditTriggers(QAbstractItemView::NoEditTriggers);
-    setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
+    setTextElideMode(Qt::ElideNone);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     connect(this, &QListView::entered, this,
             [this](const QModelIndex& index) { PointFrom(index); });
     connect(this, &QListView::viewportEntered, this, [this] { PointFrom({}); });
@@ -96,7 +134,7 @@ void RollList::Show(std::vector<ChartLine> lines) {
     lines_->Show(std::move(lines));
     setting_ = false;
     scrollToTop();
-    updateGeometry();
+    MeasureLines();
 }
 
 void RollList::SetCurrent(std::optional<std::size_t> piece) {
@@ -118,11 +156,23 @@ void RollList::SetPointed(std::optional<std::size_t> piece) {
     }
 }
 
+void RollList::MeasureLines() {
+    const QFontMetrics metrics(font());
+    widest_ = 0;
+    for (int row = 0; row < lines_->rowCount(); ++row) {
+        if (lines_->PieceOf(row)) {
+            const QString text = lines_->index(row).data().toString();
+            widest_ = std::max(widest_, metrics.horizontalAdvance(text));
+        }
+    }
+    updateGeometry();
+}
+
 QSize RollList::sizeHint() const {
     const int bar = verticalScrollBar()->sizeHint().width();
     const int frame = 2 * frameWidth();
-    const int width = std::clamp(sizeHintForColumn(0) + bar + frame, Pixels(LeastListWidth),
-                                 Pixels(MostListWidth));
+    const int width = std::clamp(widest_ + 2 * Pixels(LinePadding) + bar + frame,
+                                 Pixels(LeastListWidth), Pixels(MostListWidth));
     return {width, LinesShown * std::max(1, sizeHintForRow(0)) + frame};
 }
 
@@ -131,6 +181,14 @@ void RollList::currentChanged(const QModelIndex& current, const QModelIndex& pre
     if (!setting_) {
         OnCurrent(lines_->PieceOf(current.row()));
     }
+}
+
+bool RollList::event(QEvent* event) {
+    const bool taken = QListView::event(event);
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) {
+        MeasureLines();
+    }
+    return taken;
 }
 
 bool RollList::viewportEvent(QEvent* event) {

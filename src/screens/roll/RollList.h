@@ -48,17 +48,20 @@ class RollList : public QListView {
     std::function<void(std::optional<std::size_t>)> OnCurrent = [](auto) {};
     std::function<void(std::optional<std::size_t>)> OnPointed = [](auto) {};
 
-    /// As wide as its longest line where that is not too wide.
+    /// As wide as its longest line about a piece, within bounds; other lines are wrapped.
     QSize sizeHint() const override;
 
   protected:
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+    bool event(QEvent* event) override;
     bool viewportEvent(QEvent* event) override;
 
   private:
     void PointFrom(const QModelIndex& index);
+    void MeasureLines();
 
     ChartLineModel* lines_;
+    int widest_ = 0;       ///< of the lines about pieces, pixels
     bool setting_ = false; ///< the current line is not set by the user
 };
 

@@ -17,6 +17,7 @@ namespace tarn {
 
 namespace {
 
+constexpr double LetterMargin = 30;  ///< twips, above and below a letter alone
 constexpr double LabelMargin = 45;   ///< twips, inside a piece
 constexpr double RowGap = 180;       ///< twips
 constexpr double HatchApart = 105;   ///< twips
@@ -127,12 +128,15 @@ RollPainter::RollPainter(const RollChart& chart, const QFont& font)
         return widths_[size].Of(text);
     };
     measure_.Height = [this](std::size_t size) { return heights_[size]; };
+    measure_.LetterHeight = [this](std::size_t size) {
+        return QFontMetricsF(bold_[size]).capHeight() + 2 * PixelsExact(LetterMargin);
+    };
     measure_.Margin = PixelsExact(LabelMargin);
 }
 
 SpreadArea RollPainter::AreaOf(QSizeF size) const {
     const double tick = heights_[RulerSize] * SmallTick;
-    return {size.width(), size.height(), heights_[RulerSize],
+    return {size.width(), size.height(), heights_[RulerSize] + tick,
             widths_[RulerSize].Of(WidestTick) + tick, PixelsExact(RowGap)};
 }
 
@@ -194,12 +198,28 @@ void RollPainter::PaintRow(QPainter& painter, const RollSpread& spread, const Pi
         const QRect pixels = OnPixels(Near(box, part));
         painter.fillRect(pixels, ColourOfTint(piece.Tint));
         painter.setPen(outline);
-        painter.drawRect(pixels.adjusted(0, 0, 0, 0));
+        painter.drawRect(pixels);
         PaintLabel(painter, piece, box);
     }
-    painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen(CurrentColours().Text, 1));
-    painter.drawRect(OnPixels(Near(roll, part)).adjusted(-1, -1, 1, 1));
+    PaintOutline(painter, spread, row, OnPixels(Near(roll, part)).adjusted(-1, -1, 1, 1));
+}
+
+/// Where the roll goes on in another row its edge is dashed.
+void RollPainter::PaintOutline(QPainter& painter, const RollSpread& spread, std::size_t row,
+                               const QRect& roll) {
+    const QPen whole(CurrentColours().Text, 1);
+    QPen goesOn = whole;
+    goesOn.setDashPattern({4, 4});
+    const bool first = row == 0;
+    const bool last = row + 1 == spread.Rows.size();
+    const auto draw = [&](bool isBroken, QPoint from, QPoint to) {
+        painter.setPen(isBroken ? goesOn : whole);
+        painter.drawLine(from, to);
+    };
+    draw(spread.Stands && !first, roll.topLeft(), roll.topRight());
+    draw(spread.Stands && !last, roll.bottomLeft(), roll.bottomRight());
+    draw(!spread.Stands && !first, roll.topLeft(), roll.bottomLeft());
+    draw(!spread.Stands && !last, roll.topRight(), roll.bottomRight());
 }
 
 void RollPainter::PaintRuler(QPainter& painter, const RollSpread& spread, const PictureAt& at,
@@ -232,10 +252,10 @@ void RollPainter::PaintRuler(QPainter& painter, const RollSpread& spread, const 
             if (x < part.left() - 2 * apart || x > part.right() + apart) {
                 continue;
             }
-            const double high = text.isEmpty() ? small : line;
+            const double high = text.isEmpty() ? small : small + line;
             painter.drawLine(QPointF(x, roll.top() - 2 - high), QPointF(x, roll.top() - 2));
             if (!text.isEmpty() && x + width + 3 <= roll.right() + 1) {
-                painter.drawText(QRectF(x + 3, roll.top() - 2 - line, width + 1, line),
+                painter.drawText(QRectF(x + 3, roll.top() - 2 - small - line, width + 1, line),
                                  Qt::AlignLeft | Qt::AlignTop, text);
             }
         }
@@ -247,16 +267,16 @@ void RollPainter::PaintLabel(QPainter& painter, const ChartPiece& piece, const Q
     if (label.Lines.empty()) {
         return;
     }
-    double height = 0;
-    for (const LabelLine& line : label.Lines) {
-        height += heights_[line.Size];
-    }
     painter.setPen(CurrentColours().Text);
     if (label.Upward) {
         painter.save();
         painter.translate(box.center());
         painter.rotate(-90);
         painter.translate(-box.center());
+    }
+    double height = 0;
+    for (const LabelLine& line : label.Lines) {
+        height += heights_[line.Size];
     }
     double top = box.center().y() - height / 2;
     bool isFirst = true;
@@ -265,7 +285,10 @@ void RollPainter::PaintLabel(QPainter& painter, const ChartPiece& piece, const Q
         const QFontMetricsF metrics(painter.font());
         const QString text = ToQt(line.Text);
         const double width = metrics.horizontalAdvance(text);
-        painter.drawText(QPointF(box.center().x() - width / 2, top + metrics.ascent()), text);
+        // One line has its capitals in the middle; below each other lines share the box evenly.
+        const double base = label.Lines.size() == 1 ? box.center().y() + metrics.capHeight() / 2
+                                                    : top + metrics.ascent();
+        painter.drawText(QPointF(box.center().x() - width / 2, base), text);
         top += heights_[line.Size];
         isFirst = false;
     }

@@ -56,6 +56,8 @@ class RollPainter {
                   const QRect& part) const;
     void PaintRuler(QPainter& painter, const RollSpread& spread, const PictureAt& at,
                     std::size_t row, const QRect& part) const;
+    static void PaintOutline(QPainter& painter, const RollSpread& spread, std::size_t row,
+                             const QRect& roll);
     void PaintLabel(QPainter& painter, const ChartPiece& piece, const QRectF& box) const;
 
     const RollChart& chart_;

@@ -1,10 +1,6 @@
 #include "screens/roll/RollPanel.h"
 
 #include "screens/Arrangement.h"
-#include "screens/ControlNames.h"
-#include "screens/Controls.h"
-#include "screens/ElidedLabel.h"
-#include "screens/Theme.h"
 #include "screens/roll/RollList.h"
 #include "screens/roll/RollView.h"
 
@@ -16,7 +12,7 @@ namespace tarn {
 
 namespace {
 
-constexpr int ViewShare = 3; ///< of the panel, beside that of the list
+constexpr int ViewShare = 2; ///< of the panel, above the list
 constexpr int ListShare = 1;
 
 } // namespace
@@ -25,17 +21,11 @@ RollPanel::RollPanel(QWidget* parent, Dialogs& boxes)
     : QWidget(parent)
     , view_(new RollView(this, boxes))
     , list_(new RollList(this))
-    , caption_(new ElidedLabel(this))
-    , parts_(new QBoxLayout(QBoxLayout::TopToBottom)) {
-    NameControl(*caption_, Controls::rollCaption, {});
-    SetRole(*caption_, TextRole::Hint);
-    auto* rows = new QVBoxLayout(this);
-    SetSpacing(*rows, 0, Metrics::Spacing / 2);
-    rows->addWidget(caption_);
+    , parts_(new QBoxLayout(QBoxLayout::TopToBottom, this)) {
     SetSpacing(*parts_, 0);
-    parts_->addWidget(view_, ViewShare);
-    parts_->addWidget(list_, ListShare);
-    rows->addLayout(parts_, 1);
+    parts_->addWidget(view_);
+    parts_->addWidget(list_);
+    SetListBeside(false);
     view_->OnCurrent = [this](auto piece) { list_->SetCurrent(piece); };
     view_->OnPointed = [this](auto piece) { list_->SetPointed(piece); };
     list_->OnCurrent = [this](auto piece) { view_->SetCurrent(piece); };
@@ -44,13 +34,15 @@ RollPanel::RollPanel(QWidget* parent, Dialogs& boxes)
 }
 
 void RollPanel::Show(RollChart chart) {
-    SetText(*caption_, chart.Description);
     list_->Show(chart.Lines);
     view_->Show(std::move(chart));
 }
 
+/// Beside the view the list is as wide as its lines are.
 void RollPanel::SetListBeside(bool beside) {
     parts_->setDirection(beside ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+    parts_->setStretch(0, ViewShare);
+    parts_->setStretch(1, beside ? 0 : ListShare);
 }
 
 } // namespace tarn

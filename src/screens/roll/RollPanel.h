@@ -6,7 +6,6 @@
 #include <QWidget>
 
 class QBoxLayout;
-class QLabel;
 
 namespace tarn {
 
@@ -33,7 +32,6 @@ class RollPanel : public QWidget {
   private:
     RollView* view_;
     RollList* list_;
-    QLabel* caption_;
     QBoxLayout* parts_;
 };
 

@@ -1,6 +1,8 @@
 #include "screens/roll/RollSpread.h"
 
 #include <algorithm>
+#include <limits>
+#include <map>
 
 namespace tarn {
 
@@ -16,21 +18,16 @@ class Folder {
   public:
     explicit Folder(const RollChart& chart)
         : length_(chart.Length) {
-        std::vector<SpreadRow> taken;
-        taken.reserve(chart.Pieces.size());
+        std::map<double, int> changes; // in how many pieces go on, along the roll
         for (const ChartPiece& piece : chart.Pieces) {
-            taken.push_back({piece.Y, piece.Y + piece.Length});
+            ++changes[piece.Y + Nearly];
+            --changes[piece.Y + piece.Length];
         }
-        std::sort(taken.begin(), taken.end(),
-                  [](const SpreadRow& a, const SpreadRow& b) { return a.From < b.From; });
-        double end = 0;
-        for (const SpreadRow& each : taken) {
-            if (each.From >= end && end > 0) {
-                free_.push_back(end);
-            }
-            end = std::max(end, each.To);
+        int going = 0;
+        for (const auto& [at, change] : changes) {
+            going += change;
+            places_.push_back({at, going});
         }
-        free_.push_back(end);
     }
 
     /// Rows of at most that length.
@@ -66,14 +63,40 @@ class Folder {
     }
 
   private:
+    /// A place where a row may end, and how many pieces it would break.
+    struct Place {
+        double At;
+        int Broken;
+    };
+    static constexpr double Nearly = 1e-6; ///< pieces that touch do not overlap
+
+    /// As far as it can where no piece goes on; else where the fewest do.
     double EndOf(double from, double most) const {
-        const auto behind = std::upper_bound(free_.begin(), free_.end(), from + most);
-        const bool isFree = behind != free_.begin() && *(behind - 1) > from + most / 2;
-        return isFree ? *(behind - 1) : from + most;
+        constexpr double Shortest = 0.5; // of a row
+        constexpr double ShortestBroken = 0.8;
+        double end = from + most;
+        int broken = std::numeric_limits<int>::max();
+        const auto behind = [](double at, const Place& place) { return at < place.At; };
+        for (auto at = std::upper_bound(places_.begin(), places_.end(), from + most, behind);
+             at != places_.begin();) {
+            --at;
+            const double length = at->At - from;
+            if (length <= Shortest * most) {
+                break;
+            }
+            if (at->Broken == 0) {
+                return at->At;
+            }
+            if (length > ShortestBroken * most && at->Broken < broken) {
+                end = at->At;
+                broken = at->Broken;
+            }
+        }
+        return end;
     }
 
     double length_;
-    std::vector<double> free_; ///< where no piece goes on
+    std::vector<Place> places_; ///< the pieces' ends, and closely behind their beginnings
 };
 
 double LongestOf(const std::vector<SpreadRow>& rows) {

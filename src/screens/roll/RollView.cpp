@@ -5,6 +5,7 @@
 #include "screens/Controls.h"
 #include "screens/Display.h"
 #include "screens/Guard.h"
+#include "screens/roll/RollAccess.h"
 
 #include <QAccessible>
 #include <QHelpEvent>
@@ -42,6 +43,7 @@ RollView::RollView(QWidget* parent, Dialogs& boxes)
           },
           [this] { return QSizeF(spread_.Width(), spread_.Height()); }) {
     painter_.emplace(chart_, font());
+    InstallRollAccess();
     NameControl(*this, Controls::rollView, QStringLiteral("Whole roll"));
     setFocusPolicy(Qt::StrongFocus);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
@@ -57,6 +59,7 @@ void RollView::Show(RollChart chart) {
     current_.reset();
     pointed_.reset();
     zoom_ = 1;
+    ForgetPieces(*this);
     setAccessibleDescription(ToQt(chart_.Description));
     Spread();
     horizontalScrollBar()->setValue(0);
@@ -148,15 +151,18 @@ QRect RollView::BoxOf(std::size_t piece) const {
 }
 
 void RollView::SetCurrent(std::optional<std::size_t> piece) {
-    if (piece == current_) {
-        return;
-    }
-    current_ = piece;
+    Mark(piece);
     if (piece) {
         BringIntoView(*piece);
     }
-    TellFocus();
-    viewport()->update();
+}
+
+void RollView::Mark(std::optional<std::size_t> piece) {
+    if (piece != current_) {
+        current_ = piece;
+        TellFocus();
+        viewport()->update();
+    }
 }
 
 void RollView::SetPointed(std::optional<std::size_t> piece) {
@@ -189,7 +195,14 @@ void RollView::BringIntoView(std::size_t piece) {
     bring(*verticalScrollBar(), box.top(), box.bottom(), viewport()->height());
 }
 
-void RollView::TellFocus() const {}
+/// To those who cannot see the mark.
+void RollView::TellFocus() {
+    if (current_ && hasFocus()) {
+        QAccessibleEvent focused(this, QAccessible::Focus);
+        focused.setChild(static_cast<int>(*current_));
+        QAccessible::updateAccessibility(&focused);
+    }
+}
 
 bool RollView::event(QEvent* event) {
     const bool taken = QAbstractScrollArea::event(event);
@@ -320,7 +333,8 @@ void RollView::mousePressEvent(QMouseEvent* event) {
             return;
         }
         if (event->button() == Qt::LeftButton) {
-            Choose(PieceAt(event->position()));
+            Mark(PieceAt(event->position())); // and the paper stays under the pointer
+            OnCurrent(current_);
         }
         dragging_ = true;
         dragFrom_ = event->pos();

@@ -27,8 +27,10 @@ class RollView : public QAbstractScrollArea {
 
     /// The piece that was chosen by key or click, and stays marked; by its number in the chart.
     std::optional<std::size_t> Current() const { return current_; }
-    /// Choose a piece, and bring it into view.
+    /// Choose a piece, and bring it into view; calls nothing back.
     void SetCurrent(std::optional<std::size_t> piece);
+    /// The same as the user does it.
+    void Choose(std::optional<std::size_t> piece);
     /// The piece that the pointer is on, here or in the list; it is marked for as long.
     std::optional<std::size_t> Pointed() const { return pointed_; }
     void SetPointed(std::optional<std::size_t> piece);
@@ -67,13 +69,13 @@ class RollView : public QAbstractScrollArea {
     void Arrange();
     PictureAt Place() const;
     void ZoomAbout(QPointF position, double zoom);
-    void Choose(std::optional<std::size_t> piece);
+    void Mark(std::optional<std::size_t> piece);
     void Point(std::optional<std::size_t> piece);
     bool PressZoomKey(int key);
     bool PressWalkKey(int key);
     void BringIntoView(std::size_t piece);
     void ShowTip(QPoint position, QPoint global);
-    void TellFocus() const;
+    void TellFocus();
 
     Dialogs& boxes_;
     RollChart chart_;

@@ -86,12 +86,14 @@ class TintGiver {
 } // namespace
 
 const std::array<Tint, TintCount>& Tints() {
-    static const std::array<Tint, TintCount> tints{{{0xF6E7A8, 0x5A4B12},
-                                                    {0xA9CDF5, 0x1C4670},
-                                                    {0xF2B7A5, 0x6B3526},
-                                                    {0xD9F0D5, 0x2E5A36},
-                                                    {0xC9B8EA, 0x45307A},
-                                                    {0x8FD0C4, 0x10564C}}};
+    static const std::array<Tint, TintCount> tints{{{0xF1E997, 0x135A56},
+                                                    {0x8CACF4, 0x33215A},
+                                                    {0xD8FFC8, 0x425510},
+                                                    {0xF69493, 0x644734},
+                                                    {0xAFEDFF, 0x5E4676},
+                                                    {0xC2AB60, 0x1A3547},
+                                                    {0x6AE4C7, 0x461E01},
+                                                    {0xA7AACF, 0x3B2925}}};
     return tints;
 }
 

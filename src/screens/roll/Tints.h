@@ -13,7 +13,7 @@
 namespace tarn {
 
 /// How many rooms have tints of their own.
-inline constexpr std::size_t TintCount = 6;
+inline constexpr std::size_t TintCount = 8;
 
 /// 0xRRGGBB for light and for dark surroundings.
 struct Tint {
