@@ -107,6 +107,10 @@ TEST_F(ControlNames, OfTheOptionsAreThoseOfTheTable) {
     ExpectNamesOf("Options", OptionsScreen(session, Request(144), client));
 }
 
+TEST_F(ControlNames, OfTheOrderAreThoseOfTheTable) {
+    ExpectNamesOf("Order", OrderScreen(session, std::nullopt), "Roll");
+}
+
 TEST_F(ControlNames, OfTheGuideAreThoseOfTheTable) {
     QWidget program;
     ExpectNamesOf("Guide", GuideWindow(program, boxes));
