@@ -4,6 +4,8 @@
 #include "base/RunTimeError.h"
 #include "project/Coverings.h"
 #include "project/RoomExtents.h"
+#include "project/SizeNotes.h"
+#include "project/WholeLength.h"
 
 namespace tarn {
 namespace {
@@ -31,6 +33,38 @@ void RequireSound(const Project& project, Units units) {
     }
 }
 
+bool IsPlain(const std::string& number) {
+    return number.find_first_not_of("0123456789.") == std::string::npos;
+}
+
+/// A size is spread over its two fields, or something is wrong with it; never both.
+void CheckSpreading(const SizeParts& typed, Units units) {
+    const SpreadSize size = Spread(typed, units);
+    const bool isRefused = size.Why != SpreadSize::Fault::None;
+    Require(!isRefused || size.Parts == typed, "what is refused stays as it was typed");
+    Require(isRefused == !RefusedNote(typed, units).empty(), "a refusal says what is wrong");
+    for (const std::string& text : {typed.Major, typed.Minor}) {
+        const auto length = ReadWholeLength(text);
+        Require(!length || (IsPlain(length->Parts.Major) && IsPlain(length->Parts.Minor)),
+                "a length is spread in plain numbers");
+        const auto rest = WithoutZeroPart(text);
+        Require(!rest || ReadWholeLength(*rest), "what stays of a length is one");
+    }
+    if (isRefused) {
+        return;
+    }
+    Require(Spread(size.Parts, units) == size, "spreading again changes nothing");
+    const auto stored = [units](const SizeParts& parts) -> std::optional<Integer> {
+        try {
+            return ReadSize(parts, units);
+        } catch (const RunTimeError&) {
+            return std::nullopt;
+        }
+    };
+    Require(stored(typed) == stored(size.Parts), "spreading changes no size");
+    Require(KeptNote(typed, units) == KeptNote(size.Parts, units), "nor what is said of it");
+}
+
 /// Rooms are typed one after the other, into the new room or over an older one.
 void CheckRoomEntry(FuzzInput input) {
     Project project;
@@ -38,6 +72,8 @@ void CheckRoomEntry(FuzzInput input) {
     while (!input.IsAtEnd()) {
         const std::size_t room = input.Choice(project.Rooms.size() + 1);
         const RoomDraft draft = DraftFrom(input);
+        CheckSpreading(draft.Width, units);
+        CheckSpreading(draft.Length, units);
         const Project before = project;
         StoreResult result;
         try {

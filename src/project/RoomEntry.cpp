@@ -6,7 +6,9 @@
 #include "project/Coverings.h"
 #include "project/RoomExtents.h"
 #include "project/RoomSize.h"
+#include "project/SizeNotes.h"
 #include "project/WallBase.h"
+#include "project/WholeLength.h"
 
 #include <algorithm>
 #include <limits>
@@ -21,7 +23,7 @@ using Outcome = StoreResult::Outcome;
 /// The size that is typed; nothing when it may not be stored. `side` names it for the user.
 std::optional<Integer> SizeOf(const SizeParts& typed, Units units, const std::string& side) {
     try {
-        return ReadSize(typed.Major, typed.Minor, units);
+        return ReadSize(typed, units);
     } catch (const RunTimeError& error) {
         throw error.WithAdvice("The " + side + " of a room can be " +
                                TrimStr(std::numeric_limits<Integer>::max()) + " " +
@@ -29,22 +31,39 @@ std::optional<Integer> SizeOf(const SizeParts& typed, Units units, const std::st
     }
 }
 
-/// Which part of a size that may not be stored is to be corrected.
-SizeField WrongPart(const SizeParts& typed, SizeField major, SizeField minor) {
-    const auto refused = RefusedPart(typed.Major, typed.Minor);
-    const bool isMajor = refused ? *refused == SizePart::Major : Val(typed.Major) < 0;
-    return isMajor ? major : minor;
+/// One size of a room: what it is called, and the fields of its parts.
+struct Side {
+    const char* Name;
+    SizeField Major;
+    SizeField Minor;
+};
+constexpr Side WidthSide{"width", SizeField::WidthMajor, SizeField::WidthMinor};
+constexpr Side LengthSide{"length", SizeField::LengthMajor, SizeField::LengthMinor};
+
+/// A size that may not be stored is to be corrected.
+StoreResult WrongSize(const SizeParts& typed, Units units, const Side& side) {
+    const bool isMajor = Spread(typed, units).Wrong == SizePart::Major;
+    return {Outcome::WrongSize, isMajor ? side.Major : side.Minor,
+            "Room " + std::string(side.Name) + ":" + std::string(CrLf) + RefusedNote(typed, units)};
+}
+
+StoreResult MissingSize(const Side& side) {
+    return {Outcome::OneSizeMissing, side.Major,
+            "The " + std::string(side.Name) + " is empty: a new room needs both its sizes."};
 }
 
 /// Whether a new room of that size is stored behind `count` others, and why not.
-Outcome OutcomeOfNewRoom(std::size_t count, Integer width, Integer length) {
+StoreResult ResultOfNewRoom(std::size_t count, Integer width, Integer length) {
     if (width == 0 && length == 0) {
-        return Outcome::Empty;
+        return {Outcome::Empty, {}, {}};
     }
     if (count >= RoomCapacity) {
-        return Outcome::ProjectFull;
+        return {Outcome::ProjectFull, {}, {}};
     }
-    return width == 0 || length == 0 ? Outcome::OneSizeMissing : Outcome::Stored;
+    if (width == 0 || length == 0) {
+        return MissingSize(width == 0 ? WidthSide : LengthSide);
+    }
+    return {};
 }
 
 /// The code of a typed base; `kept` where the text is the one that it is shown by, so that a code
@@ -83,15 +102,13 @@ std::string_view StoreResult::Message() const {
 }
 
 StoreResult StoreRoom(Project& project, Units shown, std::size_t room, const RoomDraft& draft) {
-    const auto width = SizeOf(draft.Width, shown, "width");
+    const auto width = SizeOf(draft.Width, shown, WidthSide.Name);
     if (!width) {
-        return {Outcome::WrongSize,
-                WrongPart(draft.Width, SizeField::WidthMajor, SizeField::WidthMinor)};
+        return WrongSize(draft.Width, shown, WidthSide);
     }
-    const auto length = SizeOf(draft.Length, shown, "length");
+    const auto length = SizeOf(draft.Length, shown, LengthSide.Name);
     if (!length) {
-        return {Outcome::WrongSize,
-                WrongPart(draft.Length, SizeField::LengthMajor, SizeField::LengthMinor)};
+        return WrongSize(draft.Length, shown, LengthSide);
     }
     const std::size_t count = project.Rooms.size();
     if (room > count) {
@@ -99,9 +116,9 @@ StoreResult StoreRoom(Project& project, Units shown, std::size_t room, const Roo
     }
     const bool isNew = room == count;
     if (isNew) {
-        const Outcome outcome = OutcomeOfNewRoom(count, *width, *length);
-        if (outcome != Outcome::Stored) {
-            return {outcome};
+        StoreResult result = ResultOfNewRoom(count, *width, *length);
+        if (!result.IsStored()) {
+            return result;
         }
     }
     const Room before = isNew ? Room() : project.Rooms[room];

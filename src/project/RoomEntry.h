@@ -36,7 +36,10 @@ struct StoreResult {
         ProjectFull,    ///< a new room beyond the capacity
     };
     Outcome What = Outcome::Stored;
-    SizeField Wrong = SizeField::WidthMajor; ///< the text to correct, for WrongSize
+    /// The text to correct, for WrongSize and OneSizeMissing.
+    SizeField Wrong = SizeField::WidthMajor;
+    /// What is wrong with it and how to write it, for the user; for those two alone.
+    std::string Advice;
 
     bool IsStored() const { return What == Outcome::Stored; }
     /// Whether what the user wanted beside storing the room waits until the fields are corrected.

@@ -23,6 +23,12 @@ struct SizeParts {
 /// The name of the unit in which sizes are stored: "inches" or "centimetres".
 std::string_view SmallUnitName(Units units);
 
+/// How many of the unit in which sizes are stored make one of the other: 12 inches, 100
+/// centimetres.
+constexpr Integer SmallUnitsOf(Units units) {
+    return units == Units::Metric ? 100 : 12;
+}
+
 /// Split a stored size (whole inches, or whole centimetres). 150 inches gives 12 and 6. A negative
 /// size gives a floored major part and a minor part with the sign of the size, so joining the two
 /// does not give it back unless the minor part is 0.
@@ -36,19 +42,16 @@ bool IsRefusedSizeText(std::string_view text);
 
 enum class SizePart { Major, Minor };
 
-/// Which of the two texts is refused, the major one before the minor one. A number too large for a
-/// Double is none that is refused.
-std::optional<SizePart> RefusedPart(std::string_view major, std::string_view minor);
-
-/// The size that two typed texts make before it is rounded, inches or centimetres: Val(major) × 12
+/// The size that two numbers make before it is rounded, inches or centimetres: Val(major) × 12
 /// + Val(minor), or × 100. Raises "Overflow" as Val does.
-Double JoinedSize(std::string_view major, std::string_view minor, Units units);
+Double JoinedSize(const SizeParts& parts, Units units);
 
-/// The stored size that two typed texts make: CInt(Val(major) × 12 + Val(minor)), or × 100 for
-/// metres and centimetres. Fractions count (12.5 feet are 150 inches), and so do 13 inches or 120
-/// centimetres. Nothing when either text is refused or the size is negative, be it as large as it
-/// may. Raises "Overflow" for a size above 32767, and for a number too large for a Double beside a
-/// text that is not refused.
-std::optional<Integer> ReadSize(std::string_view major, std::string_view minor, Units units);
+/// The stored size that two typed texts make, once they are spread over the two fields (see
+/// project/WholeLength.h): CInt(Val(major) × 12 + Val(minor)), or × 100 for metres and
+/// centimetres. Fractions count (12.5 feet are 150 inches), and so do 13 inches or 120
+/// centimetres. Nothing when something is wrong with either text, as Spread finds. Raises
+/// "Overflow" for a size above 32767, and for a number too large for a Double beside a text with
+/// which nothing is wrong.
+std::optional<Integer> ReadSize(const SizeParts& typed, Units units);
 
 } // namespace tarn

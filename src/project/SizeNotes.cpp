@@ -4,6 +4,7 @@
 #include "base/Numbers.h"
 #include "base/RunTimeError.h"
 #include "base/Text.h"
+#include "project/WholeLength.h"
 
 #include <algorithm>
 #include <cmath>
@@ -14,6 +15,7 @@ namespace tarn {
 namespace {
 
 constexpr std::string_view Digits = "0123456789";
+constexpr std::string_view SignNotTaken = "A sign is not taken";
 
 bool IsSign(char c) {
     return c == '-' || c == '+';
@@ -48,10 +50,54 @@ std::string NumberAlone(const std::string& what, std::string_view standing) {
            (HasSize(standing) ? Meant(standing) : std::string("12"));
 }
 
+/// How a text with a comma is written with a point.
+std::string WithPoint(const std::string& typed) {
+    std::string pointed = typed;
+    pointed[pointed.find_last_of(',')] = '.';
+    pointed.erase(std::remove(pointed.begin(), pointed.end(), ','), pointed.end());
+    if (ReadWholeLength(pointed)) {
+        return TrimStr(pointed);
+    }
+    const bool isNumber = typed.find_first_not_of("0123456789,. \t") == std::string::npos;
+    return isNumber && HasSize(typed) ? Meant(typed) : "3.45";
+}
+
+/// The same length, whether `dropped` stands before it or not: 6" after 0'.
+bool IsSameLength(std::string_view dropped, std::string_view standing) {
+    const auto length = ReadWholeLength(standing);
+    const auto typed = ReadWholeLength(std::string(dropped).append(standing));
+    return length && typed && length->Parts == typed->Parts && length->In == typed->In;
+}
+
+/// What a dropped 0' means for the number behind it, which stands for feet; empty for nothing.
+std::string ZeroPartNote(std::string_view dropped, std::string_view standing) {
+    const auto zero = ReadWholeLength(dropped);
+    if (!zero || zero->Alone != SizePart::Major || !HasSize(standing)) {
+        return {};
+    }
+    const bool isMetric = zero->In == Units::Metric;
+    return TrimStr(dropped) + " is dropped: for " + std::string(SmallUnitName(zero->In)) +
+           " type " + Meant(standing) + (isMetric ? "cm" : "\"");
+}
+
+/// A text as a note quotes it.
+std::string Quoted(const std::string& typed) {
+    constexpr std::size_t Most = 24;
+    const std::string text = TrimStr(typed);
+    if (Len(text) <= static_cast<long long>(Most)) {
+        return text;
+    }
+    std::size_t end = Most;
+    while (end > 0 && ContinuesCharacter(text[end])) {
+        --end;
+    }
+    return text.substr(0, end) + "..";
+}
+
 /// What is stored of a size; nothing when it cannot be stored.
 std::optional<Integer> StoredSize(const SizeParts& typed, Units units) {
     try {
-        return ReadSize(typed.Major, typed.Minor, units);
+        return ReadSize(typed, units);
     } catch (const RunTimeError&) {
         return std::nullopt;
     }
@@ -97,15 +143,21 @@ std::string Listed(const std::vector<std::size_t>& numbers) {
 
 std::string DroppedNote(std::string_view dropped, std::string_view standing) {
     const std::string typed = std::string(dropped).append(standing);
+    if (!dropped.empty() && IsSameLength(dropped, standing)) {
+        return {};
+    }
     const std::size_t comma = typed.find_last_of(',');
     if (comma != std::string::npos &&
         (comma < dropped.size() || HasSize(std::string_view(typed).substr(comma)))) {
         return "A comma is not taken: type " +
-               (HasSize(standing) ? Meant(typed) : std::string("3.45"));
+               (HasSize(standing) ? WithPoint(typed) : std::string("3.45"));
+    }
+    if (std::string note = ZeroPartNote(dropped, standing); !note.empty()) {
+        return note;
     }
     const bool isNegative = !standing.empty() && standing.front() == '-';
     if (isNegative || std::any_of(dropped.begin(), dropped.end(), IsSign)) {
-        return NumberAlone("A sign is not taken", standing);
+        return NumberAlone(std::string(SignNotTaken), standing);
     }
     if (std::any_of(dropped.begin(), dropped.end(), IsLetter)) {
         return NumberAlone("Letters are not taken", standing);
@@ -114,13 +166,40 @@ std::string DroppedNote(std::string_view dropped, std::string_view standing) {
     return hasMark ? NumberAlone("Only a number is taken", standing) : std::string();
 }
 
+std::string RefusedNote(const SizeParts& typed, Units units) {
+    using Fault = SpreadSize::Fault;
+    const SpreadSize size = Spread(typed, units);
+    const std::string& text = size.Wrong == SizePart::Major ? typed.Major : typed.Minor;
+    const bool isMetric = units == Units::Metric;
+    switch (size.Why) {
+    case Fault::Unreadable: {
+        std::string note = DroppedNote({}, text);
+        return !note.empty() ? note
+                             : Quoted(text) + " is not taken: type such as " +
+                                   (isMetric ? "3.66, 3.66m or 366cm" : "6.5, 6 1/2\" or 12'6\"");
+    }
+    case Fault::Negative:
+        return NumberAlone(std::string(SignNotTaken), text);
+    case Fault::OtherUnits:
+    case Fault::UnitNotTaken:
+        return std::string("Only ") + (isMetric ? "metres and centimetres" : "feet and inches") +
+               " are taken here: type such as " + (isMetric ? "3.66m" : "12'6\"");
+    case Fault::BesideNumber:
+        return Quoted(text) + " is a whole length: empty the field beside it";
+    case Fault::None:
+        break;
+    }
+    return {};
+}
+
 std::string KeptNote(const SizeParts& typed, Units units) {
     constexpr Double RoundingError = 1e-6;
     const auto kept = StoredSize(typed, units);
     if (!kept) {
         return {};
     }
-    const Double exact = JoinedSize(typed.Major, typed.Minor, units);
+    const SizeParts numbers = Spread(typed, units).Parts;
+    const Double exact = JoinedSize(numbers, units);
     if (std::abs(exact - *kept) < RoundingError) {
         return {};
     }
@@ -128,7 +207,7 @@ std::string KeptNote(const SizeParts& typed, Units units) {
     if (units == Units::Metric && keptParts.Major == "0") {
         keptParts.Major.clear();
     }
-    const SizeParts typedParts{NumberIn(typed.Major), NumberIn(typed.Minor)};
+    const SizeParts typedParts{NumberIn(numbers.Major), NumberIn(numbers.Minor)};
     return "Kept as " + SizeTextOf(keptParts, units) + " (typed " + SizeTextOf(typedParts, units) +
            ")";
 }

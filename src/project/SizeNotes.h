@@ -16,8 +16,12 @@ namespace tarn {
 /// `dropped` is what was taken off the typing as it held no size (see IsEmptiedSizeText),
 /// `standing` what stands in the field. Told are a comma, also one that stands before digits, and a
 /// sign, letters and marks that were dropped, or a minus sign that stands. Empty for nothing to
-/// tell.
+/// tell, such as for 0'6" of which 6" stands.
 std::string DroppedNote(std::string_view dropped, std::string_view standing);
+
+/// What is wrong with a size that cannot be stored as it is typed (see Spread), and how to write
+/// it: "12'6 is not taken: type such as .."; empty for nothing.
+std::string RefusedNote(const SizeParts& typed, Units units);
 
 /// What is kept of a size that is no whole number: "Kept as 12'6" (typed 12'6.5")". Empty for a
 /// whole one, and for one that cannot be stored.

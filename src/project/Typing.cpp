@@ -13,7 +13,7 @@ void Convert(SizeParts& size, Units from, Units to) {
         return;
     }
     try {
-        if (const auto read = ReadSize(size.Major, size.Minor, from)) {
+        if (const auto read = ReadSize(size, from)) {
             size = SplitSize(*read, to);
         }
     } catch (const RunTimeError&) {

@@ -149,6 +149,9 @@ TEST_F(EnteringRooms, PointsAtTheSizeTextToCorrect) {
                  {Draft("12'6", "1e400", "10", ""), SizeField::WidthMajor},
                  {Draft("1e400", "6 1/2", "10", ""), SizeField::WidthMinor},
                  {Draft("12", "", "3,45", "1e400"), SizeField::LengthMajor},
+                 {Draft("3.66m", "", "10", ""), SizeField::WidthMajor},
+                 {Draft("10", "", "12", "12'6\""), SizeField::LengthMinor},
+                 {Draft("-1", "13", "10", ""), SizeField::WidthMajor},
                  {Draft("-2731", "", "10", ""), SizeField::WidthMajor},
                  {Draft("10", "", "0", "-99999"), SizeField::LengthMinor},
                  {Draft("-1e308", "", "10", ""), SizeField::WidthMajor}};
@@ -161,9 +164,29 @@ TEST_F(EnteringRooms, PointsAtTheSizeTextToCorrect) {
             EXPECT_EQ(result.Wrong, each.Wrong);
             EXPECT_TRUE(result.Stops());
             EXPECT_EQ(result.Message(), "The Size of room is not correct. Data is not changed");
+            EXPECT_NE(result.Advice, "");
             EXPECT_EQ(project_.Rooms, std::vector<Room>{RoomNumber(0)});
         }
     }
+}
+
+TEST_F(EnteringRooms, SaysWhichSizeIsWrongAndHowToWriteIt) {
+    EXPECT_EQ(Store(0, Draft("12", "", "3,45", "")).Advice,
+              "Room length:\r\nA comma is not taken: type 3.45");
+    EXPECT_EQ(Store(0, Draft("3.66m", "", "10", "")).Advice,
+              "Room width:\r\nOnly feet and inches are taken here: type such as 12'6\"");
+    const StoreResult missing = Store(0, Draft("12", "", "", ""));
+    EXPECT_EQ(missing.Advice, "The length is empty: a new room needs both its sizes.");
+    EXPECT_EQ(missing.Wrong, SizeField::LengthMajor);
+    EXPECT_EQ(Store(0, Draft("", "", "12", "")).Advice,
+              "The width is empty: a new room needs both its sizes.");
+    EXPECT_EQ(Store(0, Draft("12", "", "10", "")).Advice, "");
+}
+
+TEST_F(EnteringRooms, StoresALengthThatNamesItsUnitsFromOneField) {
+    EXPECT_EQ(StoreNew(Draft("12'6\"", "", "", "10ft 3in")), Outcome::Stored);
+    EXPECT_EQ(project_.Rooms[0].Width, 150);
+    EXPECT_EQ(project_.Rooms[0].Length, 123);
 }
 
 TEST_F(EnteringRooms, AcceptsTextBehindANumber) {

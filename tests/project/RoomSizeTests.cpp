@@ -36,13 +36,13 @@ TEST_P(EverySize, SplitsIntoAFlooredMajorAndAMinorWithItsSign) {
 TEST_P(EverySize, FromZeroOnIsJoinedBackAndAccepted) {
     for (int size = 0; size <= Most; ++size) {
         const SizeParts parts = SplitSize(static_cast<Integer>(size), In());
-        ASSERT_EQ(ReadSize(parts.Major, parts.Minor, In()), size);
+        ASSERT_EQ(ReadSize(parts, In()), size);
     }
 }
 
 TEST_P(EverySize, BelowZeroIsRefusedInWhateverWayItIsTyped) {
     for (int size = Least; size < 0; ++size) {
-        ASSERT_EQ(ReadSize("", std::to_string(size), In()), std::nullopt) << size;
+        ASSERT_EQ(ReadSize({"", std::to_string(size)}, In()), std::nullopt) << size;
     }
 }
 
@@ -59,39 +59,39 @@ TEST(SplitSize, ShowsAHundredAndFiftyAsTwelveFeetSixOrOneMetreFifty) {
 }
 
 TEST(ReadSize, StoresElevenFeetThirteenAs145AndItIsShownAsTwelveFeetOne) {
-    EXPECT_EQ(ReadSize("11", "13", Units::Imperial), 145);
+    EXPECT_EQ(ReadSize({"11", "13"}, Units::Imperial), 145);
     EXPECT_EQ(SplitSize(145, Units::Imperial), (SizeParts{"12", "1"}));
 }
 
 TEST(ReadSize, AddsCentimetresAboveNinetyNine) {
-    EXPECT_EQ(ReadSize("2", "150", Units::Metric), 350);
+    EXPECT_EQ(ReadSize({"2", "150"}, Units::Metric), 350);
 }
 
 TEST(ReadSize, ReadsEmptyAndNonNumericTextsAsZero) {
-    EXPECT_EQ(ReadSize("", "", Units::Imperial), 0);
-    EXPECT_EQ(ReadSize("ft", "7", Units::Imperial), 7);
-    EXPECT_EQ(ReadSize("3", "", Units::Metric), 300);
-    EXPECT_EQ(ReadSize("12 ft", "6 in", Units::Imperial), 150);
+    EXPECT_EQ(ReadSize({"", ""}, Units::Imperial), 0);
+    EXPECT_EQ(ReadSize({"ft", "7"}, Units::Imperial), 7);
+    EXPECT_EQ(ReadSize({"3", ""}, Units::Metric), 300);
+    EXPECT_EQ(ReadSize({"12 ft", "6 in"}, Units::Imperial), 150);
 }
 
 TEST(ReadSize, KeepsFractionsUntilTheSumIsRounded) {
-    EXPECT_EQ(ReadSize("12.5", "", Units::Imperial), 150);
-    EXPECT_EQ(ReadSize(".85", "", Units::Metric), 85);
-    EXPECT_EQ(ReadSize("0.125", "0.5", Units::Imperial), 2); // 1.5 + 0.5
+    EXPECT_EQ(ReadSize({"12.5", ""}, Units::Imperial), 150);
+    EXPECT_EQ(ReadSize({".85", ""}, Units::Metric), 85);
+    EXPECT_EQ(ReadSize({"0.125", "0.5"}, Units::Imperial), 2); // 1.5 + 0.5
 }
 
 TEST(ReadSize, RoundsHalvesToEven) {
-    EXPECT_EQ(ReadSize("", "0.5", Units::Imperial), 0);
-    EXPECT_EQ(ReadSize("", "1.5", Units::Imperial), 2);
-    EXPECT_EQ(ReadSize("", "2.5", Units::Metric), 2);
+    EXPECT_EQ(ReadSize({"", "0.5"}, Units::Imperial), 0);
+    EXPECT_EQ(ReadSize({"", "1.5"}, Units::Imperial), 2);
+    EXPECT_EQ(ReadSize({"", "2.5"}, Units::Metric), 2);
 }
 
 TEST(ReadSize, OverflowsOutsideAnInteger) {
-    EXPECT_EQ(ReadSize("2730", "7", Units::Imperial), 32767);
-    EXPECT_EQ(ErrorNumber([] { ReadSize("2730", "8", Units::Imperial); }), OverflowNumber);
-    EXPECT_EQ(ReadSize("327", "67", Units::Metric), 32767);
-    EXPECT_EQ(ErrorNumber([] { ReadSize("327", "68", Units::Metric); }), OverflowNumber);
-    EXPECT_EQ(ErrorNumber([] { ReadSize("1e999", "", Units::Metric); }), OverflowNumber);
+    EXPECT_EQ(ReadSize({"2730", "7"}, Units::Imperial), 32767);
+    EXPECT_EQ(ErrorNumber([] { ReadSize({"2730", "8"}, Units::Imperial); }), OverflowNumber);
+    EXPECT_EQ(ReadSize({"327", "67"}, Units::Metric), 32767);
+    EXPECT_EQ(ErrorNumber([] { ReadSize({"327", "68"}, Units::Metric); }), OverflowNumber);
+    EXPECT_EQ(ErrorNumber([] { ReadSize({"1e999", ""}, Units::Metric); }), OverflowNumber);
 }
 
 TEST(IsRefusedSizeText, RefusesAFurtherDigitBehindTheNumber) {
@@ -127,41 +127,50 @@ TEST(IsRefusedSizeText, RefusesDigitsOfOtherScriptsAndFractionSigns) {
 }
 
 TEST(ReadSize, RefusesWhenEitherTextIsRefused) {
-    EXPECT_EQ(ReadSize("12'6", "", Units::Imperial), std::nullopt);
-    EXPECT_EQ(ReadSize("12", "6 1/2", Units::Imperial), std::nullopt);
-    EXPECT_EQ(ReadSize("12", "6", Units::Imperial), 150);
-    EXPECT_EQ(ReadSize("12 ft", "6 in", Units::Imperial), 150);
+    EXPECT_EQ(ReadSize({"12'6", ""}, Units::Imperial), std::nullopt);
+    EXPECT_EQ(ReadSize({"12", "6 1/2"}, Units::Imperial), std::nullopt);
+    EXPECT_EQ(ReadSize({"12", "6"}, Units::Imperial), 150);
+    EXPECT_EQ(ReadSize({"12 ft", "6 in"}, Units::Imperial), 150);
 }
 
-TEST(ReadSize, JudgesTheSignOfTheWholeSize) {
-    EXPECT_EQ(ReadSize("-1", "13", Units::Imperial), 1);
-    EXPECT_EQ(ReadSize("1", "-13", Units::Imperial), std::nullopt);
-    EXPECT_EQ(ReadSize("", "-0.4", Units::Imperial), 0);
-    EXPECT_EQ(ReadSize("", "", Units::Imperial), 0);
+TEST(ReadSize, RefusesANegativeNumberInEitherText) {
+    EXPECT_EQ(ReadSize({"-1", "13"}, Units::Imperial), std::nullopt);
+    EXPECT_EQ(ReadSize({"1", "-13"}, Units::Imperial), std::nullopt);
+    EXPECT_EQ(ReadSize({"12", "-0.4"}, Units::Imperial), std::nullopt);
+    EXPECT_EQ(ReadSize({"", "-0"}, Units::Imperial), 0);
+    EXPECT_EQ(ReadSize({"", ""}, Units::Imperial), 0);
+}
+
+TEST(ReadSize, TakesLengthsThatNameTheirUnits) {
+    EXPECT_EQ(ReadSize({"12'6\"", ""}, Units::Imperial), 150);
+    EXPECT_EQ(ReadSize({"", "12-6"}, Units::Imperial), 150);
+    EXPECT_EQ(ReadSize({"", "12'"}, Units::Imperial), 144);
+    EXPECT_EQ(ReadSize({"12' 6 1/2\"", ""}, Units::Imperial), 150) << "halves to even";
+    EXPECT_EQ(ReadSize({"366cm", ""}, Units::Metric), 366);
+    EXPECT_EQ(ReadSize({"", "3.66m"}, Units::Metric), 366);
+    EXPECT_EQ(ReadSize({"12'6\"", "3"}, Units::Imperial), std::nullopt);
+    EXPECT_EQ(ReadSize({"12'6\"", ""}, Units::Metric), std::nullopt);
+    EXPECT_EQ(ErrorNumber([] { ReadSize({"2731'", ""}, Units::Imperial); }), OverflowNumber);
 }
 
 TEST(ReadSize, RefusesANegativeSizeHoweverLarge) {
     for (const Units units : {Units::Imperial, Units::Metric}) {
         for (const char* major : {"-2731", "-40000", "-1e300"}) {
-            EXPECT_EQ(ReadSize(major, "", units), std::nullopt) << major;
+            EXPECT_EQ(ReadSize({major, ""}, units), std::nullopt) << major;
         }
-        EXPECT_EQ(ReadSize("", "-32768.5", units), std::nullopt);
+        EXPECT_EQ(ReadSize({"", "-32768.5"}, units), std::nullopt);
     }
 }
 
 TEST(ReadSize, RefusesATextBesideANumberTooLarge) {
-    EXPECT_EQ(RefusedPart("12'6", "1e400"), SizePart::Major);
-    EXPECT_EQ(RefusedPart("1e400", "12'6"), SizePart::Minor);
-    EXPECT_EQ(RefusedPart("12'6", "12'6"), SizePart::Major);
-    EXPECT_EQ(RefusedPart("1e400", "1e400"), std::nullopt);
-    EXPECT_EQ(ReadSize("12'6", "1e400", Units::Imperial), std::nullopt);
-    EXPECT_EQ(ReadSize("1e400", "12'6", Units::Imperial), std::nullopt);
+    EXPECT_EQ(ReadSize({"12'6", "1e400"}, Units::Imperial), std::nullopt);
+    EXPECT_EQ(ReadSize({"1e400", "12'6"}, Units::Imperial), std::nullopt);
 }
 
 TEST(ReadSize, Overflows) {
-    EXPECT_EQ(ErrorNumber([] { ReadSize("40000", "", Units::Imperial); }), OverflowNumber);
-    EXPECT_EQ(ErrorNumber([] { ReadSize("1", "1e400", Units::Imperial); }), OverflowNumber);
-    EXPECT_EQ(ErrorNumber([] { ReadSize("", "32767.5", Units::Imperial); }), OverflowNumber);
+    EXPECT_EQ(ErrorNumber([] { ReadSize({"40000", ""}, Units::Imperial); }), OverflowNumber);
+    EXPECT_EQ(ErrorNumber([] { ReadSize({"1", "1e400"}, Units::Imperial); }), OverflowNumber);
+    EXPECT_EQ(ErrorNumber([] { ReadSize({"", "32767.5"}, Units::Imperial); }), OverflowNumber);
 }
 
 } // namespace

@@ -37,7 +37,66 @@ TEST(DroppedNote, NamesSignsLettersAndMarks) {
     EXPECT_EQ(DroppedNote("abc", ""), "Letters are not taken" + how + "12");
     EXPECT_EQ(DroppedNote("a", "9"), "Letters are not taken" + how + "9");
     EXPECT_EQ(DroppedNote("ü", "9"), "Letters are not taken" + how + "9");
-    EXPECT_EQ(DroppedNote("0'", "6\""), "Only a number is taken" + how + "6");
+    EXPECT_EQ(DroppedNote("'", "6"), "Only a number is taken" + how + "6");
+}
+
+TEST(DroppedNote, TellsHowInchesAreTypedBehindADroppedZero) {
+    EXPECT_EQ(DroppedNote("0'", "6"), "0' is dropped: for inches type 6\"");
+    EXPECT_EQ(DroppedNote("0ft ", "6.5"), "0ft is dropped: for inches type 6.5\"");
+    EXPECT_EQ(DroppedNote("0m", "66"), "0m is dropped: for centimetres type 66cm");
+    EXPECT_EQ(DroppedNote("0'", "6\""), "") << "it comes out right";
+    EXPECT_EQ(DroppedNote("0' ", "6 1/2\""), "");
+    EXPECT_EQ(DroppedNote("0m ", "66cm"), "");
+    EXPECT_NE(DroppedNote("-0'", "6\""), "");
+}
+
+TEST(DroppedNote, WritesACommaAsAPointInAWholeLengthToo) {
+    EXPECT_EQ(DroppedNote("", "12'6,5\""), "A comma is not taken: type 12'6.5\"");
+    EXPECT_EQ(DroppedNote("", "3,66m"), "A comma is not taken: type 3.66m");
+    EXPECT_EQ(DroppedNote("", "12'6,5"), "A comma is not taken: type 3.45");
+}
+
+TEST(RefusedNote, SaysWhatIsWrongAndHowToWriteIt) {
+    const struct {
+        SizeParts Typed;
+        Units In;
+        const char* Note;
+    } cases[] = {
+        {{"12'6", ""}, Units::Imperial, "12'6 is not taken: type such as 6.5, 6 1/2\" or 12'6\""},
+        {{"12", " 6 1/2 "},
+         Units::Imperial,
+         "6 1/2 is not taken: type such as 6.5, 6 1/2\" or 12'6\""},
+        {{"3 66", ""}, Units::Metric, "3 66 is not taken: type such as 3.66, 3.66m or 366cm"},
+        {{"3,66", ""}, Units::Metric, "A comma is not taken: type 3.66"},
+        {{"-3", ""}, Units::Metric, "A sign is not taken: type the number alone, such as 3"},
+        {{"3", " - 5"}, Units::Metric, "A sign is not taken: type the number alone, such as 5"},
+        {{"12'6\"", ""},
+         Units::Metric,
+         "Only metres and centimetres are taken here: type such as 3.66m"},
+        {{"3.66m", ""},
+         Units::Imperial,
+         "Only feet and inches are taken here: type such as 12'6\""},
+        {{"3660mm", ""},
+         Units::Metric,
+         "Only metres and centimetres are taken here: type such as 3.66m"},
+        {{"3", "12'6\""}, Units::Imperial, "12'6\" is a whole length: empty the field beside it"},
+        {{"1.2.3 and so on and so forth", ""},
+         Units::Imperial,
+         "1.2.3 and so on and so f.. is not taken: type such as 6.5, 6 1/2\" or 12'6\""},
+        {{"12 ft", "6 in"}, Units::Imperial, ""},
+        {{"", ""}, Units::Metric, ""}};
+    for (const auto& each : cases) {
+        EXPECT_EQ(RefusedNote(each.Typed, each.In), each.Note) << each.Typed.Major;
+    }
+}
+
+TEST(RefusedNote, CutsALongTextBetweenCharacters) {
+    std::string typed;
+    for (int i = 0; i < 30; ++i) {
+        typed += "½";
+    }
+    const std::string note = RefusedNote({typed, ""}, Units::Imperial);
+    EXPECT_EQ(note.find("½.. is not taken"), 11 * std::string("½").size()) << note;
 }
 
 TEST(DroppedNote, IsEmptyForWhatChangesNothing) {
@@ -53,7 +112,10 @@ TEST(KeptNote, TellsTheWholeNumberBesideWhatWasTyped) {
     EXPECT_EQ(Kept("12", "7.5", Units::Imperial), "Kept as 12'8\" (typed 12'7.5\")");
     EXPECT_EQ(Kept("12.52", "", Units::Imperial), "Kept as 12'6\" (typed 12.52')");
     EXPECT_EQ(Kept("", ".4", Units::Imperial), "Kept as 0'0\" (typed .4\")");
-    EXPECT_EQ(Kept("12.1 ft", "1", Units::Imperial), "Kept as 12'2\" (typed 12.1'1\")");
+    EXPECT_EQ(Kept("12.1", "1 in", Units::Imperial), "Kept as 12'2\" (typed 12.1'1\")");
+    EXPECT_EQ(Kept("12'6.5\"", "", Units::Imperial), "Kept as 12'6\" (typed 12'6.5\")");
+    EXPECT_EQ(Kept("", "12' 6 1/2\"", Units::Imperial), "Kept as 12'6\" (typed 12'6.5\")");
+    EXPECT_EQ(Kept("366.4cm", "", Units::Metric), "Kept as 3 m 66 cm (typed 3 m 66.4 cm)");
     EXPECT_EQ(Kept("3.455", "", Units::Metric), "Kept as 3 m 46 cm (typed 3.455 m)");
     EXPECT_EQ(Kept("3", "45.5", Units::Metric), "Kept as 3 m 46 cm (typed 3 m 45.5 cm)");
     EXPECT_EQ(Kept("", "45.5", Units::Metric), "Kept as 46 cm (typed 45.5 cm)");
@@ -76,7 +138,7 @@ TEST(KeptNote, IsEmptyForWholeNumbersHoweverTheyAreTyped) {
 }
 
 TEST(KeptNote, IsEmptyForWhatCannotBeStored) {
-    for (const char* text : {"6 1/2", "12'6.5", "-3.5", "40000.5", "1e999"}) {
+    for (const char* text : {"6 1/2", "12'6.5", "3.455m", "-3.5", "40000.5", "1e999"}) {
         EXPECT_EQ(Kept("", text, Units::Imperial), "") << text;
     }
 }

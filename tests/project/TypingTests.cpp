@@ -58,6 +58,12 @@ TEST(TypingInUnits, KeepsTheNumberOfSmallUnits) {
     EXPECT_EQ(InUnits(feet, Units::Metric).New, Sizes({"3", "66"}, {"0", "50"}));
 }
 
+TEST(TypingInUnits, TakesLengthsThatNameTheirUnits) {
+    Typing typing;
+    typing.New = Sizes({"12'6\"", ""}, {"", "4'"});
+    EXPECT_EQ(InUnits(typing, Units::Metric).New, Sizes({"1", "50"}, {"0", "48"}));
+}
+
 TEST(TypingInUnits, LeavesWhatCannotBeReadAsTyped) {
     Typing typing;
     typing.New = Sizes({"12'6", ""}, {"1e400", ""});

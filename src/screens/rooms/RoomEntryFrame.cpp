@@ -5,6 +5,7 @@
 #include "project/Coverings.h"
 #include "project/SizeNotes.h"
 #include "project/WallBase.h"
+#include "project/WholeLength.h"
 #include "screens/Arrangement.h"
 #include "screens/ControlNames.h"
 #include "screens/Controls.h"
@@ -74,12 +75,24 @@ QString WithoutLast(QString text) {
     return text;
 }
 
+/// To which size a field belongs: 0 the width, 1 the length.
+std::size_t SideOf(int index) {
+    return index < RoomEntryFrame::LengthMajor ? 0 : 1;
+}
+
 bool IsEnter(const QEvent& event) {
     if (event.type() != QEvent::KeyPress) {
         return false;
     }
     const int key = static_cast<const QKeyEvent&>(event).key();
     return key == Qt::Key_Return || key == Qt::Key_Enter;
+}
+
+/// Whether the focus goes to another field, and not only to a menu or another window, from which it
+/// comes back to a text that is half typed.
+bool Moves(Qt::FocusReason reason) {
+    return reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason &&
+           reason != Qt::MenuBarFocusReason;
 }
 
 /// One size of the room: two fields, the size's caption before them, each one's unit behind it.
@@ -378,7 +391,8 @@ bool RoomEntryFrame::eventFilter(QObject* watched, QEvent* event) {
         return true;
     }
     if (event->type() == QEvent::FocusOut && text && *text < SizeTexts) {
-        Guarded(boxes_, NotTested, [&] { TestLeftSize(*text); });
+        const bool moved = Moves(static_cast<QFocusEvent*>(event)->reason());
+        Guarded(boxes_, NotTested, [&] { TestLeftSize(*text, moved); });
     }
     if (event->type() == QEvent::Wheel && watched == covering_ && !covering_->hasFocus()) {
         event->ignore(); // a turn of the wheel in passing must not change the covering
@@ -409,15 +423,20 @@ bool RoomEntryFrame::EmptyWithoutSize(int index) {
     if (!IsEmptiedSizeText(text, field.hasFocus())) {
         return false;
     }
-    dropped_.at(static_cast<std::size_t>(index)) += text;
-    emptying_ = true;
-    field.clear();
-    emptying_ = false;
-    return true;
+    const auto rest = WithoutZeroPart(text);
+    changing_ = true;
+    if (rest) {
+        field.Replace(ToQt(*rest));
+    } else {
+        dropped_.at(static_cast<std::size_t>(index)) += text;
+        field.clear();
+    }
+    changing_ = false;
+    return !rest;
 }
 
 void RoomEntryFrame::TestTypedSize(int index) {
-    if (emptying_) {
+    if (changing_) {
         return;
     }
     const auto typedIn = static_cast<std::size_t>(index);
@@ -429,7 +448,7 @@ void RoomEntryFrame::TestTypedSize(int index) {
     }
     const auto before = emptySizes_;
     emptySizes_ = EmptySizes();
-    const std::size_t side = index < LengthMajor ? 0 : 1;
+    const std::size_t side = SideOf(index);
     SetHint(ToQt(SizeNote(index, emptySizes_.at(side) && !before.at(side))));
 }
 
@@ -437,8 +456,7 @@ std::string RoomEntryFrame::SizeNote(int index, bool erased) const {
     const auto at = static_cast<std::size_t>(index);
     std::string note = DroppedNote(dropped_.at(at), FromQt(texts_.at(at)->text()));
     if (note.empty()) {
-        const RoomDraft draft = Draft();
-        note = KeptNote(index < LengthMajor ? draft.Width : draft.Length, units_);
+        note = KeptNote(SizeOf(SideOf(index)), units_);
     }
     if (note.empty() && erased) {
         note = EmptySizeNote(emptySizes_[0], emptySizes_[1]);
@@ -452,11 +470,19 @@ std::string RoomEntryFrame::NoteOfSizes() const {
             return note;
         }
     }
+    for (const std::size_t side : {0U, 1U}) {
+        if (std::string note = RefusedNote(SizeOf(side), units_); !note.empty()) {
+            return note;
+        }
+    }
     return EmptySizeNote(emptySizes_[0], emptySizes_[1]);
 }
 
-void RoomEntryFrame::TestLeftSize(int index) {
+void RoomEntryFrame::TestLeftSize(int index, bool moved) {
     EmptyWithoutSize(index);
+    if (moved) {
+        SpreadSide(SideOf(index));
+    }
     const auto to = IndexOf(QApplication::focusWidget());
     const bool leaves = QApplication::focusWidget() != nullptr && (!to || *to >= SizeTexts);
     const auto [width, length] = EmptySizes();
@@ -465,9 +491,33 @@ void RoomEntryFrame::TestLeftSize(int index) {
     }
 }
 
+void RoomEntryFrame::SpreadSizes() {
+    SpreadSide(1);
+    SpreadSide(0); // last, so that what is said of the width stands
+}
+
+void RoomEntryFrame::SpreadSide(std::size_t side) {
+    const SizeParts typed = SizeOf(side);
+    const SpreadSize size = Spread(typed, units_);
+    if (size.Why != SpreadSize::Fault::None) {
+        SetHint(ToQt(RefusedNote(typed, units_)));
+    } else if (size.Parts != typed) {
+        changing_ = true;
+        texts_.at(2 * side)->Replace(ToQt(size.Parts.Major));
+        texts_.at(2 * side + 1)->Replace(ToQt(size.Parts.Minor));
+        changing_ = false;
+        dropped_ = {};
+        emptySizes_ = EmptySizes();
+        SetHint(ToQt(KeptNote(size.Parts, units_)));
+    }
+}
+
+SizeParts RoomEntryFrame::SizeOf(std::size_t side) const {
+    return {FromQt(texts_.at(2 * side)->text()), FromQt(texts_.at(2 * side + 1)->text())};
+}
+
 std::array<bool, 2> RoomEntryFrame::EmptySizes() const {
-    const RoomDraft draft = Draft();
-    return {IsEmptySize(draft.Width, units_), IsEmptySize(draft.Length, units_)};
+    return {IsEmptySize(SizeOf(0), units_), IsEmptySize(SizeOf(1), units_)};
 }
 
 void RoomEntryFrame::TestTypedBase() {
@@ -475,6 +525,7 @@ void RoomEntryFrame::TestTypedBase() {
     if (IsBaseText(FromQt(field.text()))) {
         return;
     }
+    field.setFocus(); // before the box comes, which keeps clear of it
     boxes_.Message(BaseMessage(TypedBaseExample));
     field.setFocus();
     field.ReplaceLastChange(WithoutLast(field.text())); // a change, and so tested again
@@ -486,6 +537,7 @@ void RoomEntryFrame::TestEnteredBase() {
     if (IsBaseText(text)) {
         field.Replace(ToQt(UpperCaseLetters(text)));
     } else {
+        field.setFocus();
         boxes_.Message(BaseMessage(EnteredBaseExample));
         field.setFocus();
     }

@@ -22,8 +22,9 @@ class QPushButton;
 namespace tarn {
 
 /// The fields of one room and the buttons of the room entry. It shows and gives what stands in the
-/// fields, takes Enter from field to field, empties a size field that holds no size, and has a
-/// wrong wall base corrected; what the buttons do is the screen's.
+/// fields, takes Enter from field to field, empties a size field that holds no size, spreads a
+/// length that was typed whole over its two fields, and has a wrong wall base corrected; what the
+/// buttons do is the screen's.
 class RoomEntryFrame : public QGroupBox {
   public:
     /// The fields that take a text; the covering is chosen between LengthMinor and Base.
@@ -44,6 +45,9 @@ class RoomEntryFrame : public QGroupBox {
     QPushButton& Report() { return *report_; }
 
     RoomDraft Draft() const;
+    /// Spread the lengths that stand whole in one field over the two of their size, as leaving the
+    /// field does.
+    void SpreadSizes();
     /// Show a room. A text that a field would not take is shown as it is and may be kept.
     void Show(const RoomDraft& draft);
     /// Empty the texts for a new room. The covering stays; where none is chosen, the first one is.
@@ -89,14 +93,20 @@ class RoomEntryFrame : public QGroupBox {
     void EnterFrom(const QObject& field);
     /// A size field changed: empty it when it holds no size, and say what became of the typing.
     void TestTypedSize(int index);
-    /// The focus left a size field: nothing stays behind in it that is no size.
-    void TestLeftSize(int index);
-    /// Empty the field when it holds no size; answers whether it did.
+    /// The focus left a size field, for another one or for good as `moved` says: nothing stays
+    /// behind in it that is no size, and a whole length is spread.
+    void TestLeftSize(int index, bool moved);
+    /// Spread one size, the width's or the length's, and say what became of it or what is wrong.
+    void SpreadSide(std::size_t side);
+    /// Empty the field when it holds no size, but for the small unit of a length; answers whether
+    /// it did.
     bool EmptyWithoutSize(int index);
     /// What there is to say of the typing in a size field, which made `erased` an empty size.
     std::string SizeNote(int index, bool erased) const;
     /// What there is to say of the sizes as they came.
     std::string NoteOfSizes() const;
+    /// The size of one side as it stands in the fields: 0 the width, 1 the length.
+    SizeParts SizeOf(std::size_t side) const;
     /// Which sizes are empty: width, length.
     std::array<bool, 2> EmptySizes() const;
     void TestTypedBase();
@@ -119,7 +129,7 @@ class RoomEntryFrame : public QGroupBox {
     /// What was taken off each size field since another field was typed in.
     std::array<std::string, SizeTexts> dropped_;
     std::array<bool, 2> emptySizes_{true, true}; ///< EmptySizes before the change in hand
-    bool emptying_ = false;                      ///< a field is being emptied by the frame
+    bool changing_ = false;                      ///< the frame itself changes a size field
 };
 
 } // namespace tarn

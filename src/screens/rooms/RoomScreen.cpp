@@ -24,6 +24,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QPlainTextEdit>
+#include <QPointer>
 #include <QPushButton>
 
 #include <optional>
@@ -212,6 +213,7 @@ void RoomScreen::ShowTrouble() {
 
 StoreResult RoomScreen::StoreFields() {
     OpenProject& project = Shared().Project;
+    entry_->SpreadSizes();
     const RoomDraft fields = entry_->Draft();
     const bool isNew = current_ == project.Now.Rooms.size();
     const StoreResult result = StoreRoom(project.Now, project.Shown, current_, fields);
@@ -228,12 +230,24 @@ StoreResult RoomScreen::StoreFields() {
 StoreResult RoomScreen::StoreShownRoom() {
     const StoreResult result = StoreFields();
     if (!result.Message().empty()) {
-        Shared().Boxes.Message(std::string(result.Message()));
+        TellRefusal(result);
     }
     if (result.What == StoreResult::Outcome::WrongSize) {
         entry_->Text(static_cast<int>(result.Wrong)).setFocus();
     }
     return result;
+}
+
+/// The box keeps clear of the field that it is about, for that has the focus then.
+void RoomScreen::TellRefusal(const StoreResult& result) {
+    const QPointer<QWidget> before = focusWidget();
+    if (!result.Advice.empty()) {
+        entry_->Text(static_cast<int>(result.Wrong)).setFocus();
+    }
+    Shared().Boxes.Message(std::string(result.Message()), result.Advice);
+    if (before) {
+        before->setFocus();
+    }
 }
 
 StoreResult RoomScreen::WithRoomStored(const std::function<void()>& action) {

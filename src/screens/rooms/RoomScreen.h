@@ -56,6 +56,8 @@ class RoomScreen : public TitledScreen {
     StoreResult StoreFields();
     /// Store the fields as the room on the screen, or say why not and go to the field to correct.
     StoreResult StoreShownRoom();
+    /// Say why the room on the screen was not stored.
+    void TellRefusal(const StoreResult& result);
     /// StoreShownRoom, then `action`, unless a field is to be corrected.
     StoreResult WithRoomStored(const std::function<void()>& action);
     void FocusAfter(const StoreResult& result);
