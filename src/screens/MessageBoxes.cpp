@@ -3,6 +3,7 @@
 #include "base/Text.h"
 #include "files/QtText.h"
 #include "project/TypedText.h"
+#include "screens/BoxPlace.h"
 #include "screens/Controls.h"
 
 #include <QDir>
@@ -19,6 +20,22 @@ namespace tarn {
 
 namespace {
 
+/// A box that does not cover the field that it is about.
+template <class Box>
+class Placed : public Box {
+  public:
+    explicit Placed(QWidget* parent)
+        : Box(parent) {}
+
+  protected:
+    void showEvent(QShowEvent* event) override {
+        Box::showEvent(event); // has its size now, and stands in the middle of the window
+        if (const QWidget* parent = this->parentWidget()) {
+            PlaceBox(*this, *parent->window());
+        }
+    }
+};
+
 /// Shown as typed: a project may be named like a piece of rich text.
 void Prepare(QMessageBox& box, const std::string& text) {
     box.setWindowTitle(ToQt(ApplicationTitle));
@@ -29,7 +46,7 @@ void Prepare(QMessageBox& box, const std::string& text) {
 } // namespace
 
 void MessageBoxes::Message(const std::string& text, const std::string& informative) {
-    QMessageBox box(parent_);
+    Placed<QMessageBox> box(parent_);
     Prepare(box, text);
     box.setInformativeText(ToQtLines(informative));
     if (auto* below = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_informativelabel"))) {
@@ -40,7 +57,7 @@ void MessageBoxes::Message(const std::string& text, const std::string& informati
 }
 
 bool MessageBoxes::AskYesNo(const std::string& text) {
-    QMessageBox box(parent_);
+    Placed<QMessageBox> box(parent_);
     Prepare(box, text);
     box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
     box.setDefaultButton(QMessageBox::No);
@@ -50,7 +67,7 @@ bool MessageBoxes::AskYesNo(const std::string& text) {
 
 std::optional<std::size_t> MessageBoxes::Choose(const std::string& text,
                                                 const std::vector<std::string>& actions) {
-    QMessageBox box(parent_);
+    Placed<QMessageBox> box(parent_);
     Prepare(box, text);
     std::vector<QAbstractButton*> buttons;
     for (const std::string& action : actions) {
@@ -72,7 +89,7 @@ std::optional<std::size_t> MessageBoxes::Choose(const std::string& text,
 
 std::optional<std::string> MessageBoxes::Input(const std::string& prompt,
                                                const std::string& initial) {
-    QInputDialog box(parent_);
+    Placed<QInputDialog> box(parent_);
     box.setWindowTitle(ToQt(ApplicationTitle));
     box.setLabelText(ToQt(prompt));
     box.setInputMode(QInputDialog::TextInput);

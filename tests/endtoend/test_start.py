@@ -122,8 +122,8 @@ class WindowManager(Case):
         )
         return server
 
-    def test_quick_keys_reach_the_screen_in_their_order(self):
-        self.manage(os.environ["DISPLAY"])
+    def open_sample(self):
+        """Start the program and open a project."""
         self.house.bring_in_samples()
         ui = self.start("--config-dir", self.house.config)
         ui.press("SELECT PROJECT")
@@ -131,6 +131,11 @@ class WindowManager(Case):
         wait_for(lambda: ui.items("PROJECTS"), "the projects")
         ui.click_on(ui.item("PROJECTS", "MAPLE STREET 9"))
         ui.press("DONE")
+        return ui
+
+    def test_quick_keys_reach_the_screen_in_their_order(self):
+        self.manage(os.environ["DISPLAY"])
+        ui = self.open_sample()
         ui.press("ESTIMATE")
         ui.press("OK")
         ui.see("label", "ESTIMATING FILLS MENU")
@@ -140,6 +145,33 @@ class WindowManager(Case):
             "MAPLE STREET 9", "--carpet", "1", "--roll-width", "12ft", "--max-pieces", "3"
         )
         self.assertEqual(ui.drawn_text()[-len(expected) :], expected)
+
+    def test_a_box_leaves_the_field_that_it_is_about_to_be_seen(self):
+        self.manage(os.environ["DISPLAY"])
+        ui = self.open_sample()
+        ui.press("ENTER/EDIT DATA")
+        fields = [("ROOM   WIDTH", 0), ("INCHES", 0), ("ROOM LENGTH", 0), ("INCHES", 1)]
+        for field in fields:
+            ui.fill(field[0], "12'6", field[1])
+            ui.press("NEXT ROOM")
+            self.expect_clear(ui, ui.see("text", *field))
+            self.assertIn(
+                "12'6 is not taken: type such as 6.5, 6 1/2\" or 12'6\"", ui.texts_of_box()[1]
+            )
+            ui.answer("OK")
+            ui.fill(field[0], "5", field[1])
+        ui.fill("BASE", "")
+        ui.type("x")
+        self.expect_clear(ui, ui.see("text", "BASE"))
+        ui.answer("OK")
+
+    def expect_clear(self, ui, field):
+        """The box that stands does not cover the field."""
+        box = ui.area_of(ui.box())
+        seen = ui.area_of(field)
+        beside = box.x >= seen.x + seen.width or seen.x >= box.x + box.width
+        above = box.y >= seen.y + seen.height or seen.y >= box.y + box.height
+        self.assertTrue(beside or above, "the box covers the field")
 
     def test_the_frame_fits_the_display_too(self):
         name = self.new_display("1024x768")

@@ -356,8 +356,8 @@ void EstimateScreen::AcceptChoices() {
     EnableButtons();
     const auto request = RequestOf(panel_->Choices(), ShownUnits());
     if (const auto* refusal = std::get_if<ChoicesRefusal>(&request)) {
+        panel_->FocusRefused(*refusal); // first, so that the box keeps clear of it
         Shared().Boxes.Message(std::string(RefusalMessage(*refusal)));
-        panel_->FocusRefused(*refusal);
         return;
     }
     NoEstimate();

@@ -1,0 +1,87 @@
+#include "screens/BoxPlace.h"
+
+#include <QAbstractItemView>
+#include <QAbstractSpinBox>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QScreen>
+#include <QWidget>
+
+#include <algorithm>
+#include <array>
+
+namespace tarn {
+
+namespace {
+
+/// What is left free around the field, for its frame and its caption.
+constexpr int Gap = 8;
+
+QRect Within(QRect box, const QRect& screen) {
+    box.moveRight(std::min(box.right(), screen.right()));
+    box.moveBottom(std::min(box.bottom(), screen.bottom()));
+    box.moveLeft(std::max(box.left(), screen.left()));
+    box.moveTop(std::max(box.top(), screen.top()));
+    return box;
+}
+
+long long Covered(const QRect& box, const QRect& field) {
+    const QRect common = box.intersected(field);
+    return common.isEmpty() ? 0 : static_cast<long long>(common.width()) * common.height();
+}
+
+QRect OnScreen(const QWidget& widget, const QRect& part) {
+    const QRect seen = widget.visibleRegion().boundingRect().intersected(part);
+    return seen.isEmpty() ? QRect() : QRect(widget.mapToGlobal(seen.topLeft()), seen.size());
+}
+
+} // namespace
+
+QPoint BoxPlace(const QRect& box, const QRect& screen, const QRect& field) {
+    if (Covered(box, field) == 0) {
+        return box.topLeft();
+    }
+    std::array<QRect, 4> beside{box, box, box, box};
+    beside[0].moveTop(field.bottom() + 1 + Gap);
+    beside[1].moveBottom(field.top() - 1 - Gap);
+    beside[2].moveLeft(field.right() + 1 + Gap);
+    beside[3].moveRight(field.left() - 1 - Gap);
+    const auto isBetter = [&](const QRect& a, const QRect& b) {
+        const long long coveredByA = Covered(a, field);
+        const long long coveredByB = Covered(b, field);
+        const int wayOfA = (a.topLeft() - box.topLeft()).manhattanLength();
+        const int wayOfB = (b.topLeft() - box.topLeft()).manhattanLength();
+        return coveredByA != coveredByB ? coveredByA < coveredByB : wayOfA < wayOfB;
+    };
+    for (QRect& each : beside) {
+        each = Within(each, screen);
+    }
+    return std::min_element(beside.begin(), beside.end(), isBetter)->topLeft();
+}
+
+QRect FieldOnScreen(const QWidget& window) {
+    const QWidget* focus = window.focusWidget();
+    if (focus == nullptr || !focus->isVisible()) {
+        return {};
+    }
+    if (const auto* list = qobject_cast<const QAbstractItemView*>(focus)) {
+        const QRect entry = list->visualRect(list->currentIndex());
+        return entry.isEmpty() ? QRect() : OnScreen(*list->viewport(), entry);
+    }
+    const bool isField = qobject_cast<const QLineEdit*>(focus) != nullptr ||
+                         qobject_cast<const QComboBox*>(focus) != nullptr ||
+                         qobject_cast<const QAbstractSpinBox*>(focus) != nullptr;
+    return isField ? OnScreen(*focus, focus->rect()) : QRect();
+}
+
+void PlaceBox(QWidget& box, const QWidget& window) {
+    // The box has no frame yet: it gets one like the window's.
+    const QSize frame = window.frameGeometry().size() - window.size();
+    const QPoint place = BoxPlace({box.pos(), box.size() + frame},
+                                  window.screen()->availableGeometry(), FieldOnScreen(window));
+    if (place != box.pos()) {
+        box.move(place);
+    }
+}
+
+} // namespace tarn

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QPoint>
+#include <QRect>
+
+class QWidget;
+
+namespace tarn {
+
+/// Where a box, its frame included, stands so that it does not cover `field`: where it is, or
+/// beside the field, the shortest way that keeps it whole on `screen`. Where no side of the field
+/// has room for it, where it covers the least. All of them are in the same coordinates; `field` may
+/// be empty.
+QPoint BoxPlace(const QRect& box, const QRect& screen, const QRect& field);
+
+/// What a box above the window is about, on the screen: the field that has the focus there, as far
+/// as it is seen, or the entry chosen in a list; nothing for any other control.
+QRect FieldOnScreen(const QWidget& window);
+
+/// Move a box, which is about to be seen above `window`, to its BoxPlace.
+void PlaceBox(QWidget& box, const QWidget& window);
+
+} // namespace tarn
