@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <exception>
+#include <iterator>
 #include <utility>
 
 namespace tarn {
@@ -36,10 +37,20 @@ void DraftKeeper::Flush() noexcept {
         } else if (kept_ != draft) {
             Keep(draft);
         }
+        failed_.reset();
         SetTrouble({});
     } catch (const std::exception& error) {
+        failed_ = DraftOf(project_);
         timer_.start(RetryDelay);
         SetTrouble(error.what());
+    }
+    WriteHeld();
+}
+
+void DraftKeeper::WriteHeld() noexcept {
+    held_.Write(drafts_);
+    if (!held_.IsEmpty() && !timer_.isActive()) {
+        timer_.start(RetryDelay);
     }
 }
 
@@ -71,6 +82,11 @@ void DraftKeeper::Part() noexcept {
 
 void DraftKeeper::LetGo() noexcept {
     timer_.stop();
+    if (failed_) {
+        held_.Hold(project_.Now.Name, *failed_, now_());
+        failed_.reset();
+        timer_.start(RetryDelay);
+    }
     Part();
     taken_.clear();
     trouble_.clear();
@@ -91,20 +107,41 @@ void DraftKeeper::NoteSaved() noexcept {
 void DraftKeeper::NoteSavedAs(const std::string& former) noexcept {
     if (former != project_.Now.Name) {
         Forget(); // it is told by its name whose it is
-        drafts_.End(project_.Now.Name);
-        drafts_.Move(former, project_.Now.Name);
+        End(project_.Now.Name);
+        Move(former, project_.Now.Name);
     }
     NoteSaved();
 }
 
+void DraftKeeper::Move(std::string_view project, std::string_view newName) {
+    held_.Move(project, newName);
+    drafts_.Move(project, newName);
+}
+
+void DraftKeeper::End(std::string_view project) noexcept {
+    held_.End(project);
+    drafts_.End(project);
+}
+
+std::vector<KeptDraft> DraftKeeper::AllDrafts() const {
+    std::vector<KeptDraft> drafts = held_.Of(project_.Now.Name);
+    std::vector<KeptDraft> written = drafts_.Of(project_.Now.Name);
+    std::move(written.begin(), written.end(), std::back_inserter(drafts));
+    std::stable_sort(drafts.begin(), drafts.end(), [](const KeptDraft& a, const KeptDraft& b) {
+        return a.Record.Written > b.Record.Written;
+    });
+    return drafts;
+}
+
 std::vector<KeptDraft> DraftKeeper::WorthTakingBack() const {
     std::vector<KeptDraft> worth;
-    for (KeptDraft& draft : drafts_.Of(project_.Now.Name)) {
+    for (KeptDraft& draft : AllDrafts()) {
         const Draft& content = draft.Record.Content;
         const bool isKnown = std::any_of(worth.begin(), worth.end(), [&](const KeptDraft& each) {
             return each.Record.Content == content;
         });
-        if (draft.File != file_ && !isKnown && worth.size() < MostDrafts &&
+        const bool isInUse = !file_.empty() && draft.File == file_;
+        if (!isInUse && !isKnown && worth.size() < MostDrafts &&
             IsWorthTakingBack(content, project_)) {
             worth.push_back(std::move(draft));
         }
@@ -119,6 +156,7 @@ void DraftKeeper::TakeBack(const KeptDraft& draft) {
     }
     tarn::TakeBack(project_, draft.Record.Content);
     Part();
+    held_.Release(project_.Now.Name, draft.Record.Content);
     for (KeptDraft& each : drafts_.Of(project_.Now.Name)) {
         // Those that are alike are offered as one.
         if (each.Record.Content == draft.Record.Content) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "screens/HeldDrafts.h"
 #include "screens/OpenProject.h"
 #include "store/Drafts.h"
 
@@ -10,6 +11,7 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace tarn {
@@ -28,14 +30,18 @@ class DraftKeeper {
 
     /// Where drafts are kept from now on.
     void SetDrafts(Drafts drafts);
-    /// The drafts of all projects of the database, for what becomes of a project.
-    Drafts& Files() { return drafts_; }
+
+    /// A project has another name now, one that no project had: its drafts go with it.
+    void Move(std::string_view project, std::string_view newName);
+    /// End all drafts of a project: it was deleted, or is a new one.
+    void End(std::string_view project) noexcept;
 
     /// The rooms or what stands in their fields may have changed.
     void NoteChange();
     /// Write the draft now, if anything changed.
     void Flush() noexcept;
-    /// The open project makes way for another: its draft stays as it is. `Flush` comes before.
+    /// The open project makes way for another: its draft stays as it is, and one that could not be
+    /// written stays in memory as long as the program runs. `Flush` comes before.
     void LetGo() noexcept;
     /// The project was saved: ends its draft, and those that were taken back into it, but what
     /// stands in the fields stays in a draft.
@@ -59,6 +65,10 @@ class DraftKeeper {
   private:
     static QDateTime NowInUtc() { return QDateTime::currentDateTimeUtc(); }
     void Keep(const Draft& draft);
+    /// Try again to write what could not be written of projects that were left.
+    void WriteHeld() noexcept;
+    /// The project's drafts, written or held, the last one first.
+    std::vector<KeptDraft> AllDrafts() const;
     void SetTrouble(std::string trouble);
     void Forget() noexcept;
     void Part() noexcept;
@@ -70,6 +80,8 @@ class DraftKeeper {
     std::string file_;          ///< of the draft in use; empty before there is one
     std::optional<Draft> kept_; ///< what is in it; nothing while it is not written
     std::vector<KeptDraft> taken_;
+    std::optional<Draft> failed_; ///< what could not be written
+    HeldDrafts held_;
     std::string trouble_;
     QPointer<QObject> context_;
     std::function<void()> told_;

@@ -207,6 +207,89 @@ TEST_F(OpenDrafts, AreTakenBackInPlaceOfOthersWhichStay) {
     EXPECT_EQ(worth[0].Record.Content.Rooms->at(0).Width, 2);
 }
 
+TEST_F(OpenDrafts, ThatCannotBeWrittenCanBeTakenBackAsLongAsTheProgramRuns) {
+    Break(true);
+    open.Typed.New = Remark("hall");
+    TypeRoom(1);
+    ASSERT_NE(keeper.Trouble(), "");
+    OpenAgain();
+    EXPECT_EQ(keeper.Trouble(), "");
+    const auto worth = keeper.WorthTakingBack();
+    ASSERT_EQ(worth.size(), 1U);
+    EXPECT_EQ(worth[0].Record.Written, clock);
+    keeper.TakeBack(worth[0]);
+    EXPECT_EQ(open.Now.Rooms, std::vector<Room>{Sized(1)});
+    EXPECT_EQ(open.Typed.New, Remark("hall"));
+    EXPECT_TRUE(keeper.WorthTakingBack().empty());
+    EXPECT_NE(keeper.Trouble(), "") << "it still cannot be written";
+    OpenAgain();
+    EXPECT_EQ(keeper.WorthTakingBack().size(), 1U) << "once more";
+    Break(false);
+}
+
+TEST_F(OpenDrafts, ThatCouldNotBeWrittenAreWrittenOnceThatWorksAgain) {
+    Break(true);
+    TypeRoom(1);
+    const QDateTime left = clock;
+    OpenAgain();
+    open.Now.Name = open.Saved.Name = "OTHER";
+    keeper.Flush();
+    EXPECT_TRUE(keeper.WorthTakingBack().empty()) << "it is another project's";
+    Break(false);
+    EXPECT_TRUE(Kept().empty());
+    clock = clock.addSecs(60);
+    keeper.Flush();
+    ASSERT_EQ(Kept().size(), 1U);
+    EXPECT_EQ(Kept()[0].Record.Content.Rooms, std::vector<Room>{Sized(1)});
+    EXPECT_EQ(Kept()[0].Record.Written, left);
+    keeper.Flush();
+    EXPECT_EQ(Kept().size(), 1U) << "once";
+}
+
+TEST_F(OpenDrafts, ThatCouldNotBeWrittenFollowTheirProject) {
+    Break(true);
+    for (const char* name : {"P", "GONE"}) {
+        open.Now.Name = open.Saved.Name = name;
+        TypeRoom(1);
+        OpenAgain();
+    }
+    keeper.Move("p", "NEW");
+    keeper.End("GONE");
+    const auto worthOf = [this](const char* name) {
+        open.Now.Name = open.Saved.Name = name;
+        return keeper.WorthTakingBack().size();
+    };
+    EXPECT_EQ(worthOf("NEW"), 1U);
+    EXPECT_EQ(worthOf("P"), 0U);
+    EXPECT_EQ(worthOf("GONE"), 0U);
+    Break(false);
+}
+
+TEST_F(OpenDrafts, ThatCouldNotBeWrittenAreFiveOfAProjectAtMost) {
+    Break(true);
+    for (Integer i = 1; i <= 7; ++i) {
+        TypeRoom(i);
+        OpenAgain();
+    }
+    const auto worth = keeper.WorthTakingBack();
+    ASSERT_EQ(worth.size(), MostDrafts);
+    EXPECT_EQ(worth.front().Record.Content.Rooms->at(0).Width, 7);
+    EXPECT_EQ(worth.back().Record.Content.Rooms->at(0).Width, 3);
+    Break(false);
+}
+
+TEST_F(OpenDrafts, ThatWereSavedAfterAllAreNotHeld) {
+    Break(true);
+    TypeRoom(1);
+    open.Saved = open.Now;
+    keeper.NoteSaved();
+    OpenAgain();
+    open.Saved.Rooms.clear();
+    open.Now.Rooms.clear();
+    EXPECT_TRUE(keeper.WorthTakingBack().empty());
+    Break(false);
+}
+
 TEST_F(OpenDrafts, ThatWereTakenBackEndWithTheSave) {
     TypeRoom(1);
     OpenAgain();

@@ -136,7 +136,7 @@ void ProjectScreen::Done() {
         return;
     }
     if (result.Result == ChoiceResult::Outcome::New) {
-        Shared().Drafts.Files().End(Shared().Project.Now.Name); // of one that had its name
+        Shared().Drafts.End(Shared().Project.Now.Name); // of one that had its name
     }
     ShowSettings();
     CloseSelection();
@@ -283,7 +283,7 @@ void ProjectScreen::AskProjectName() {
                     return refusal;
                 }
                 RenameProject(Shared().Store, Shared().Project.Now, oldName, name);
-                Shared().Drafts.Files().Move(oldName, name);
+                Shared().Drafts.Move(oldName, name);
                 list.SetEntry(list.Chosen(), name);
                 ProjectBox& box = *selection_->Name;
                 if (box.IsLocked() && StoredName(box.Name()) == StoredName(oldName)) {
@@ -306,7 +306,7 @@ void ProjectScreen::AskDeleteDirectory() {
     const auto projects = Shared().Store.Projects(name);
     DeleteDirectory(Shared().Store, Shared().Project.Now, name, CurrentMonth());
     for (const std::string& project : projects) {
-        Shared().Drafts.Files().End(project);
+        Shared().Drafts.End(project);
     }
     ShowSettings();
     list.Remove(row);
@@ -331,7 +331,7 @@ void ProjectScreen::AskDeleteProject() {
     const int row = list.Chosen();
     const std::string name = list.ChosenName().value();
     DeleteProject(Shared().Store, Shared().Project.Now, name);
-    Shared().Drafts.Files().End(name);
+    Shared().Drafts.End(name);
     ShowSettings();
     list.Remove(row);
     const int neighbour = NeighbourOf(row, list);
