@@ -102,16 +102,17 @@ void ChoiceList::mousePressEvent(QMouseEvent* event) {
 void ChoiceList::mouseDoubleClickEvent(QMouseEvent* event) {
     const bool onChosen = IsChosenAt(*event);
     QListWidget::mouseDoubleClickEvent(event);
-    if (onChosen && OnDoubleClick) {
-        OnDoubleClick();
+    if (onChosen && OnRename) {
+        OnRename();
     }
 }
 
 void ChoiceList::keyPressEvent(QKeyEvent* event) {
     const bool chosen = Chosen() >= 0;
-    if (event->key() == Qt::Key_Delete) {
-        if (chosen && !event->isAutoRepeat() && OnDelete) {
-            OnDelete();
+    if (event->key() == Qt::Key_Delete || event->key() == Qt::Key_F2) {
+        const auto& action = event->key() == Qt::Key_Delete ? OnDelete : OnRename;
+        if (chosen && !event->isAutoRepeat() && action) {
+            action();
         }
         return;
     }

@@ -18,8 +18,8 @@ class ChoiceList : public QListWidget {
     /// None of these may raise.
     /// An entry was chosen, by mouse or keys; also when the chosen one is clicked again.
     std::function<void()> OnChosen;
-    /// The chosen entry was double-clicked.
-    std::function<void()> OnDoubleClick;
+    /// The chosen entry is to have another name: it was double-clicked, or F2 was pressed.
+    std::function<void()> OnRename;
     /// The Delete key was pressed while an entry is chosen.
     std::function<void()> OnDelete;
 

@@ -10,6 +10,7 @@
 #include "store/Names.h"
 #include "store/ProjectNames.h"
 
+#include <QKeyEvent>
 #include <QPushButton>
 
 #include <algorithm>
@@ -62,7 +63,7 @@ void ProjectScreen::ConnectLists() {
         Guard(ListFailure,
               [this] { DirectoryChosen(*selection_->Directories, *selection_->Months); });
     };
-    directories.OnDoubleClick = [this] {
+    directories.OnRename = [this] {
         Guard(RenameDirectoryFailure, [this] { AskDirectoryName(); });
     };
     directories.OnDelete = [this] {
@@ -72,7 +73,7 @@ void ProjectScreen::ConnectLists() {
     projects.OnChosen = [this] {
         Guard("The project could not be selected.", [this] { ProjectChosen(); });
     };
-    projects.OnDoubleClick = [this] { Guard(RenameProjectFailure, [this] { AskProjectName(); }); };
+    projects.OnRename = [this] { Guard(RenameProjectFailure, [this] { AskProjectName(); }); };
     projects.OnDelete = [this] {
         Guard("The project could not be deleted.", [this] { AskDeleteProject(); });
     };
@@ -85,6 +86,15 @@ void ProjectScreen::ConnectSelection() {
     OnClick(*selection_->NewDirectory, MakeDirectoryFailure, [this] { NewDirectory(); });
     OnClick(*selection_->Done, "The project could not be selected.", [this] { Done(); });
     OnClick(*selection_->Exit, {}, [this] { CloseSelection(); });
+}
+
+void ProjectScreen::keyPressEvent(QKeyEvent* event) {
+    const bool closes = event->key() == Qt::Key_Escape && event->modifiers() == Qt::NoModifier;
+    if (closes && selection_->isVisible() && !event->isAutoRepeat()) {
+        Guard({}, [this] { CloseSelection(); });
+        return;
+    }
+    TitledScreen::keyPressEvent(event);
 }
 
 QWidget* ProjectScreen::FirstFocus() {

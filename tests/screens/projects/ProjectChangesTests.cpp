@@ -27,6 +27,7 @@ struct Renaming : ProjectScreenTest {
 };
 
 struct Deleting : ProjectScreenTest {};
+struct SelectionKeys : ProjectScreenTest {};
 
 TEST_F(NewDirectories, AreAddedInUpperCaseWithoutBlanks) {
     Open();
@@ -367,6 +368,57 @@ TEST_F(Deleting, NothingHappensForMonthsAndWithoutASelection) {
     }
     EXPECT_TRUE(boxes.Questions.empty());
     EXPECT_EQ(Stored(), before);
+}
+
+TEST_F(SelectionKeys, F2RenamesAsADoubleClickDoes) {
+    Open();
+    ClickEntry(Projects(), "BARN");
+    boxes.Inputs = {"shed"};
+    QTest::keyClick(&Projects(), Qt::Key_F2);
+    EXPECT_EQ(boxes.Prompts, Lines{"Enter the new project name you want to change to:"});
+    EXPECT_EQ(Entries(Projects()), (Lines{"ANNEX", "SHED"}));
+    EXPECT_EQ(BoxText(), "SHED");
+    ClickEntry(Directories(), "HOUSES");
+    boxes.Inputs = {"villas"};
+    QTest::keyClick(&Directories(), Qt::Key_F2);
+    EXPECT_EQ(boxes.Prompts.back(), "Enter the new name you want to change to:");
+    EXPECT_EQ(Entries(Directories()), (Lines{"VILLAS", "SHOPS"}));
+}
+
+TEST_F(SelectionKeys, F2DoesNothingForMonthsWithoutASelectionAndWhileHeld) {
+    Open();
+    const Lines before = Stored();
+    for (QListWidget* list : {&Months(), &Directories(), &Projects()}) {
+        Focus(*list);
+        QTest::keyClick(list, Qt::Key_F2);
+    }
+    ClickEntry(Projects(), "BARN");
+    QKeyEvent held(QEvent::KeyPress, Qt::Key_F2, Qt::NoModifier, {}, true);
+    QApplication::sendEvent(&Projects(), &held);
+    EXPECT_TRUE(boxes.Prompts.empty());
+    EXPECT_EQ(Stored(), before);
+}
+
+TEST_F(SelectionKeys, EscapeClosesTheSelectionWhereverTheFocusIs) {
+    Open();
+    const Lines before = Stored();
+    for (const char* name : {Controls::months, Controls::directories, Controls::projects,
+                             Controls::projectBox, Controls::acceptProject}) {
+        Find(*form, name).setFocus(Qt::TabFocusReason);
+        ASSERT_TRUE(Find(*form, name).hasFocus()) << name;
+        Press(*form, Qt::Key_Escape);
+        EXPECT_FALSE(Find(*form, Controls::selectionPanel).isVisible()) << name;
+        EXPECT_TRUE(Button(Controls::selectProject).hasFocus());
+        Press(*form, Qt::Key_Escape);
+        EXPECT_TRUE(Find(*form, Controls::settingsPanel).isVisible()) << "nothing is left to close";
+        Click(Button(Controls::selectProject));
+    }
+    QKeyEvent held(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier, {}, true);
+    QApplication::sendEvent(&Months(), &held);
+    EXPECT_TRUE(Find(*form, Controls::selectionPanel).isVisible())
+        << "it may be held down from a box that it closed";
+    EXPECT_EQ(Stored(), before);
+    EXPECT_TRUE(screens.Calls.empty());
 }
 
 } // namespace
