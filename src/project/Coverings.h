@@ -20,6 +20,10 @@ constexpr bool IsCarpet(Byte code) {
     return code < FirstTileCode;
 }
 
+constexpr bool IsTile(Byte code) {
+    return code >= FirstTileCode && code <= LastTileCode;
+}
+
 /// The number in the covering's texts: carpets and tiles are each counted from 1.
 Integer CoveringNumber(Byte code);
 

@@ -53,6 +53,7 @@ inline constexpr const char* menuPanel = "Frame1";
 inline constexpr const char* menuHeading = "Label1";
 inline constexpr const char* notSaved = "NotSaved";
 inline constexpr const char* notKept = "NotKept";
+inline constexpr const char* tilesOnly = "TilesOnly";
 inline constexpr const char* metric = "Check1";
 inline constexpr const char* enteredInMetric = "EnteredMetric";
 inline constexpr const char* takeBack = "TakeBack";

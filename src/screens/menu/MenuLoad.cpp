@@ -3,9 +3,11 @@
 #include "base/RunTimeError.h"
 #include "base/Text.h"
 #include "estimate/EstimateChoices.h"
+#include "project/Coverings.h"
 #include "project/RoomExtents.h"
 #include "store/ProjectStore.h"
 
+#include <algorithm>
 #include <utility>
 #include <vector>
 
@@ -93,6 +95,12 @@ void TakeSheetNumber(OpenProject& project, ProjectStore& store) {
 
 bool HasCarpetRoom(const Project& project) {
     return FindCarpets(project).Lowest.has_value();
+}
+
+bool HasTilesOnly(const Project& project) {
+    const auto& rooms = project.Rooms;
+    return !rooms.empty() && std::all_of(rooms.begin(), rooms.end(),
+                                         [](const Room& room) { return IsTile(room.Covering); });
 }
 
 } // namespace tarn

@@ -32,4 +32,7 @@ void TakeSheetNumber(OpenProject& project, ProjectStore& store);
 /// Whether one of the project's rooms is a carpet.
 bool HasCarpetRoom(const Project& project);
 
+/// Whether the project has rooms and every one is a tile: there is nothing to cut from a roll.
+bool HasTilesOnly(const Project& project);
+
 } // namespace tarn

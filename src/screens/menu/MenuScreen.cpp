@@ -85,6 +85,9 @@ void MenuScreen::BuildPanel() {
     SetRole(*notKept_, TextRole::Warning);
     notKept_->setAlignment(Qt::AlignCenter);
     notKept_->setWordWrap(true);
+    tilesOnly_ = NewLabel(panel, Controls::tilesOnly, "TILES ONLY");
+    SetRole(*tilesOnly_, TextRole::Hint);
+    tilesOnly_->setAlignment(Qt::AlignCenter);
     Shared().Drafts.OnTrouble(*this, [this] { ShowTrouble(); });
 
     QHBoxLayout* units = BuildUnits(panel);
@@ -102,6 +105,7 @@ void MenuScreen::BuildPanel() {
     layout->addWidget(heading);
     layout->addWidget(notSaved_);
     layout->addWidget(notKept_);
+    layout->addWidget(tilesOnly_);
     layout->addLayout(units);
     layout->addLayout(drafts);
     layout->addWidget(enterRooms_);
@@ -158,7 +162,8 @@ QHBoxLayout* MenuScreen::BuildTakeBack(QWidget* panel) {
 
 void MenuScreen::ShowProject() {
     const OpenProject& project = Shared().Project;
-    notSaved_->setVisible(project.HasUnsavedChanges());
+    notSaved_->setVisible(project.HasUnsavedRooms());
+    tilesOnly_->setVisible(HasTilesOnly(project.Now));
     metric_->setChecked(project.Shown == Units::Metric);
     ShowUnits();
     ShowTrouble();

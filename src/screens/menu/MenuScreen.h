@@ -43,6 +43,7 @@ class MenuScreen : public TitledScreen {
 
     QLabel* notSaved_ = nullptr;
     QLabel* notKept_ = nullptr; ///< why the unsaved rooms are in no draft either
+    QLabel* tilesOnly_ = nullptr;
     QCheckBox* metric_ = nullptr;
     QPushButton* enteredIn_ = nullptr; ///< says so, and changes Metric
     QPushButton* takeBack_ = nullptr;

@@ -219,5 +219,18 @@ TEST_F(MenuLoads, FindACarpetAmongTheRooms) {
     EXPECT_TRUE(HasCarpetRoom(project));
 }
 
+TEST_F(MenuLoads, FindTilesAlone) {
+    Project project;
+    EXPECT_FALSE(HasTilesOnly(project)) << "no room";
+    project.Rooms.resize(2);
+    project.Rooms[0].Covering = 8;
+    project.Rooms[1].Covering = 11;
+    EXPECT_TRUE(HasTilesOnly(project));
+    for (const Byte other : {Byte{0}, Byte{7}, Byte{12}}) {
+        project.Rooms[1].Covering = other;
+        EXPECT_FALSE(HasTilesOnly(project)) << int{other};
+    }
+}
+
 } // namespace
 } // namespace tarn

@@ -92,6 +92,21 @@ TEST_F(MenuScreens, OfferTheEstimateButForANewName) {
     EXPECT_TRUE(Button(Controls::estimateFromMenu).isVisible());
 }
 
+TEST_F(MenuScreens, SayFromTheirLoadOnThatAllRoomsAreTiles) {
+    Load();
+    EXPECT_FALSE(Shows(Controls::tilesOnly));
+    file.Run("UPDATE InputData SET CTType = 8");
+    Load();
+    EXPECT_TRUE(Shows(Controls::tilesOnly));
+    EXPECT_EQ(Find<QLabel>(*menu, Controls::tilesOnly).text(), QStringLiteral("TILES ONLY"));
+    EXPECT_TRUE(Button(Controls::estimateFromMenu).isEnabled());
+    Click(Button(Controls::estimateFromMenu));
+    EXPECT_TRUE(screens.Calls.empty()) << "as before";
+    open.Now.Rooms.at(0).Covering = 0; // changed and not saved
+    Load(MenuEntry::Returning);
+    EXPECT_FALSE(Shows(Controls::tilesOnly));
+}
+
 TEST_F(MenuScreens, SetTheUnitsByTheCheckBox) {
     Load();
     Click(Metric());
