@@ -35,6 +35,10 @@ std::string NameTooLongText(std::string_view kind, std::string_view name) {
            TrimStr(MaxNameLength) + " characters.";
 }
 
+std::string NoNameText(std::string_view kind) {
+    return "The " + std::string(kind) + " needs a name.";
+}
+
 std::string ControlCharacterText(std::string_view kind) {
     return "The " + std::string(kind) + " name holds a line break or another control character.";
 }

@@ -32,6 +32,9 @@ std::string NameTooLongText(std::string_view kind, std::string_view name);
 /// What a name that HoldsControlCharacter is refused with. `kind` as above.
 std::string ControlCharacterText(std::string_view kind);
 
+/// What a name of which nothing is left when it is stored is refused with. `kind` as above.
+std::string NoNameText(std::string_view kind);
+
 /// A directory or project name as it is stored and looked up: in full upper case (of every
 /// language, not A to Z alone), without the blanks at both ends. UTF-8. Every name goes through
 /// here, since the database itself ignores the case of A to Z only.

@@ -81,7 +81,7 @@ void RequireNoControlCharacter(std::string_view kind, std::string_view name) {
 std::string NewName(std::string_view kind, std::string_view name) {
     std::string stored = StoredName(name);
     if (stored.empty()) {
-        throw DatabaseError("The " + std::string(kind) + " needs a name.");
+        throw DatabaseError(NoNameText(kind));
     }
     if (Len(stored) > MaxNameLength) {
         throw DatabaseError(NameTooLongText(kind, stored));

@@ -35,7 +35,7 @@ std::string NameArgument(std::string_view kind, const std::string& name) {
     }
     std::string stored = StoredName(name);
     if (stored.empty()) {
-        throw Refusal("The " + std::string(kind) + " needs a name.");
+        throw Refusal(NoNameText(kind));
     }
     return stored;
 }
