@@ -175,7 +175,7 @@ std::string RefusedNote(const SizeParts& typed, Units units) {
     case Fault::Unreadable: {
         std::string note = DroppedNote({}, text);
         return !note.empty() ? note
-                             : Quoted(text) + " is not taken: type such as " +
+                             : Quoted(text) + " is not taken: type it like " +
                                    (isMetric ? "3.66, 3.66m or 366cm" : "6.5, 6 1/2\" or 12'6\"");
     }
     case Fault::Negative:
@@ -183,7 +183,7 @@ std::string RefusedNote(const SizeParts& typed, Units units) {
     case Fault::OtherUnits:
     case Fault::UnitNotTaken:
         return std::string("Only ") + (isMetric ? "metres and centimetres" : "feet and inches") +
-               " are taken here: type such as " + (isMetric ? "3.66m" : "12'6\"");
+               " are taken here: type it like " + (isMetric ? "3.66m" : "12'6\"");
     case Fault::BesideNumber:
         return Quoted(text) + " is a whole length: empty the field beside it";
     case Fault::None:

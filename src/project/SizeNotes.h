@@ -20,7 +20,7 @@ namespace tarn {
 std::string DroppedNote(std::string_view dropped, std::string_view standing);
 
 /// What is wrong with a size that cannot be stored as it is typed (see Spread), and how to write
-/// it: "12'6 is not taken: type such as .."; empty for nothing.
+/// it: "12'6 is not taken: type it like .."; empty for nothing.
 std::string RefusedNote(const SizeParts& typed, Units units);
 
 /// What is kept of a size that is no whole number: "Kept as 12'6" (typed 12'6.5")". Empty for a

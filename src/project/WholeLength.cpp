@@ -207,7 +207,7 @@ std::optional<Decimal> TakeFraction(Reader& reader) {
 /// Inches, whole or with a fraction: "6", "6.5", "6 1/2", and "1/2" alone where `alone` allows it.
 std::optional<Decimal> TakeInches(Reader& reader, bool alone) {
     if (Reader fraction = reader; alone) {
-        if (const auto inches = TakeFraction(fraction)) {
+        if (auto inches = TakeFraction(fraction)) {
             reader = fraction;
             return inches;
         }
@@ -385,10 +385,10 @@ bool IsNegative(std::string_view text) {
 
 std::optional<WholeLength> ReadWholeLength(std::string_view text) {
     const std::string plain = WithPlainQuotes(text);
-    if (const auto length = ReadOneUnit(plain)) {
+    if (auto length = ReadOneUnit(plain)) {
         return length;
     }
-    const auto length = ReadTwoUnits(plain);
+    auto length = ReadTwoUnits(plain);
     return length ? length : ReadDashed(plain);
 }
 

@@ -9,6 +9,8 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdlib>
+#include <tuple>
 
 namespace tarn {
 
@@ -41,22 +43,22 @@ QPoint BoxPlace(const QRect& box, const QRect& screen, const QRect& field) {
     if (Covered(box, field) == 0) {
         return box.topLeft();
     }
-    std::array<QRect, 4> beside{box, box, box, box};
-    beside[0].moveTop(field.bottom() + 1 + Gap);
-    beside[1].moveBottom(field.top() - 1 - Gap);
-    beside[2].moveLeft(field.right() + 1 + Gap);
-    beside[3].moveRight(field.left() - 1 - Gap);
-    const auto isBetter = [&](const QRect& a, const QRect& b) {
-        const long long coveredByA = Covered(a, field);
-        const long long coveredByB = Covered(b, field);
-        const int wayOfA = (a.topLeft() - box.topLeft()).manhattanLength();
-        const int wayOfB = (b.topLeft() - box.topLeft()).manhattanLength();
-        return coveredByA != coveredByB ? coveredByA < coveredByB : wayOfA < wayOfB;
+    const int below = field.bottom() + 1 + Gap;
+    const int above = field.top() - Gap - box.height();
+    const int right = field.right() + 1 + Gap;
+    const int left = field.left() - Gap - box.width();
+    const auto movedBy = [&](int across, int down) {
+        return Within(box.translated(across, down), screen);
     };
-    for (QRect& each : beside) {
-        each = Within(each, screen);
-    }
-    return std::min_element(beside.begin(), beside.end(), isBetter)->topLeft();
+    const std::array<QRect, 4> places{movedBy(0, below - box.top()), movedBy(0, above - box.top()),
+                                      movedBy(right - box.left(), 0),
+                                      movedBy(left - box.left(), 0)};
+    const auto rankOf = [&](const QRect& place) {
+        const QPoint way = place.topLeft() - box.topLeft();
+        return std::tuple(Covered(place, field), std::abs(way.x()), std::abs(way.y()));
+    };
+    const auto isBetter = [&](const QRect& a, const QRect& b) { return rankOf(a) < rankOf(b); };
+    return std::min_element(places.begin(), places.end(), isBetter)->topLeft();
 }
 
 QRect FieldOnScreen(const QWidget& window) {

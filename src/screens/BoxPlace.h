@@ -7,10 +7,10 @@ class QWidget;
 
 namespace tarn {
 
-/// Where a box, its frame included, stands so that it does not cover `field`: where it is, or
-/// beside the field, the shortest way that keeps it whole on `screen`. Where no side of the field
-/// has room for it, where it covers the least. All of them are in the same coordinates; `field` may
-/// be empty.
+/// Where a box, its frame included, stands so that it does not cover `field`: where it is, or below
+/// or above the field, so that what belongs to it in its row is seen too, else beside it; each time
+/// the shortest way that keeps it whole on `screen`. Where no side of the field has room for it,
+/// where it covers the least. All of them are in the same coordinates; `field` may be empty.
 QPoint BoxPlace(const QRect& box, const QRect& screen, const QRect& field);
 
 /// What a box above the window is about, on the screen: the field that has the focus there, as far

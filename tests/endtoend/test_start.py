@@ -156,7 +156,7 @@ class WindowManager(Case):
             ui.press("NEXT ROOM")
             self.expect_clear(ui, ui.see("text", *field))
             self.assertIn(
-                "12'6 is not taken: type such as 6.5, 6 1/2\" or 12'6\"", ui.texts_of_box()[1]
+                "12'6 is not taken: type it like 6.5, 6 1/2\" or 12'6\"", ui.texts_of_box()[1]
             )
             ui.answer("OK")
             ui.fill(field[0], "5", field[1])

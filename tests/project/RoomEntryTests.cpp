@@ -174,7 +174,7 @@ TEST_F(EnteringRooms, SaysWhichSizeIsWrongAndHowToWriteIt) {
     EXPECT_EQ(Store(0, Draft("12", "", "3,45", "")).Advice,
               "Room length:\r\nA comma is not taken: type 3.45");
     EXPECT_EQ(Store(0, Draft("3.66m", "", "10", "")).Advice,
-              "Room width:\r\nOnly feet and inches are taken here: type such as 12'6\"");
+              "Room width:\r\nOnly feet and inches are taken here: type it like 12'6\"");
     const StoreResult missing = Store(0, Draft("12", "", "", ""));
     EXPECT_EQ(missing.Advice, "The length is empty: a new room needs both its sizes.");
     EXPECT_EQ(missing.Wrong, SizeField::LengthMajor);

@@ -43,8 +43,9 @@ TEST(BoxPlace, GoesTheShortestWayBesideTheField) {
     const QRect box(250, 200, 300, 200);
     EXPECT_EQ(PlacedAt(box, QRect(380, 210, 40, 20)).topLeft(), QPoint(250, 238)) << "below";
     EXPECT_EQ(PlacedAt(box, QRect(380, 370, 40, 20)).topLeft(), QPoint(250, 162)) << "above";
-    EXPECT_EQ(PlacedAt(box, QRect(260, 290, 20, 20)).topLeft(), QPoint(288, 200)) << "right";
-    EXPECT_EQ(PlacedAt(box, QRect(520, 290, 20, 20)).topLeft(), QPoint(212, 200)) << "left";
+    const QRect high(250, 20, 300, 560); // neither below nor above a field is room for it
+    EXPECT_EQ(PlacedAt(high, QRect(260, 290, 20, 20)).topLeft(), QPoint(288, 20)) << "right";
+    EXPECT_EQ(PlacedAt(high, QRect(520, 290, 20, 20)).topLeft(), QPoint(212, 20)) << "left";
 }
 
 TEST(BoxPlace, CoversNoFieldWhereverItIsAndStaysOnTheScreen) {
@@ -123,7 +124,7 @@ TEST_F(PlacedBoxes, LeaveEveryFieldOfTheRoomsToBeSeen) {
             const auto look = [&](QDialog& shown) { ExpectClear(shown, field, field.rect()); };
             WithBox(look, [&] {
                 box.Message("The Size of room is not correct. Data is not changed",
-                            "Room width:\r\n12'6 is not taken: type such as 6.5, 6 1/2\" or "
+                            "Room width:\r\n12'6 is not taken: type it like 6.5, 6 1/2\" or "
                             "12'6\"");
             });
             WithBox(look, [&] { box.AskYesNo("Really want to delete current data?"); });

@@ -201,9 +201,9 @@ TEST_F(WholeLengths, TellHowInchesAreTypedBehindADroppedZero) {
 TEST_F(WholeLengths, AreToldWhenTheyCannotBeReadOnceTheFieldIsLeft) {
     Open();
     for (const auto& [text, note] :
-         {std::pair{"12'6", "12'6 is not taken: type such as 6.5, 6 1/2\" or 12'6\""},
-          {"6 1/2", "6 1/2 is not taken: type such as 6.5, 6 1/2\" or 12'6\""},
-          {"3.66m", "Only feet and inches are taken here: type such as 12'6\""}}) {
+         {std::pair{"12'6", "12'6 is not taken: type it like 6.5, 6 1/2\" or 12'6\""},
+          {"6 1/2", "6 1/2 is not taken: type it like 6.5, 6 1/2\" or 12'6\""},
+          {"3.66m", "Only feet and inches are taken here: type it like 12'6\""}}) {
         EmptyField(0);
         TypeInto(0, text);
         Press(*form, Qt::Key_Tab);
