@@ -5,6 +5,7 @@
 #include "screens/Guard.h"
 #include "screens/Theme.h"
 
+#include <QContextMenuEvent>
 #include <QCoreApplication>
 #include <QKeyEvent>
 #include <QMenuBar>
@@ -61,10 +62,26 @@ Screen::Screen(Session& session, QAnyStringView name)
     scroller_->setWidget(body_);
     follower_ = std::make_unique<FocusFollower>(*scroller_, *body_);
     layout->addWidget(scroller_);
-    auto* key = new QShortcut(QKeySequence(Qt::Key_F1), this);
-    key->setAutoRepeat(false);
-    connect(key, &QShortcut::activated, this,
+    MakeKeys();
+}
+
+void Screen::MakeKeys() {
+    auto* guide = new QShortcut(QKeySequence(Qt::Key_F1), this);
+    guide->setAutoRepeat(false);
+    connect(guide, &QShortcut::activated, this,
             [this] { Guard(GuideFailure, [this] { ShowGuide(); }); });
+    // The toolkit knows the menu key alone, which many a keyboard lacks.
+    auto* menu = new QShortcut(QKeySequence(Qt::SHIFT | Qt::Key_F10), this);
+    connect(menu, &QShortcut::activated, this,
+            [this] { Guard("The menu could not be opened.", [this] { OpenContextMenu(); }); });
+}
+
+void Screen::OpenContextMenu() const {
+    if (QWidget* focused = focusWidget()) {
+        const QPoint at = focused->inputMethodQuery(Qt::ImCursorRectangle).toRect().center();
+        QContextMenuEvent event(QContextMenuEvent::Keyboard, at, focused->mapToGlobal(at));
+        QCoreApplication::sendEvent(focused, &event);
+    }
 }
 
 QPushButton& Screen::GuideButton() {

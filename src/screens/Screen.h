@@ -69,7 +69,10 @@ class Screen : public QWidget {
     void showEvent(QShowEvent* event) override;
 
   private:
+    void MakeKeys();
     void ShowGuide() const;
+    /// The context menu of what has the focus.
+    void OpenContextMenu() const;
 
     Session& session_;
     QMenuBar* menus_ = nullptr;

@@ -26,6 +26,7 @@ KEYS = {
     "End": 0xFF57,
     "Delete": 0xFFFF,
     "Menu": 0xFF67,
+    "F1": 0xFFBE,
     "Alt": 0xFFE9,
 }
 
@@ -297,6 +298,12 @@ class Program:
         """Click a button of the box that stands, and wait until it is gone."""
         self.click_on(self.button_of_box(button))
         wait_for(lambda: self.process.poll() is not None or not self.boxes(), "the box to go")
+
+    def go_on_from(self, message):
+        """Close a message that a question comes after."""
+        wait_for(lambda: self.message() == message, repr(message))
+        self.click_on(self.button_of_box("OK"))
+        wait_for(lambda: self.message() != message, "what comes after " + repr(message))
 
     def do(self, button):
         """Press a button of the box that stands through the bus, wherever it is displayed."""

@@ -205,14 +205,84 @@ class WindowManager(Case):
         )
 
 
+class FirstStart(Case):
+    """An empty home."""
+
+    def setUp(self):
+        super().setUp()
+        if os.path.exists("/etc/tarn/TarnWin.INI"):
+            self.skipTest("this system has a configuration")
+        self.home = os.path.join(self.folder, "home")
+        os.mkdir(self.home)
+        self.config = os.path.join(self.home, ".config", "tarn", "TarnWin.INI")
+        self.data = os.path.join(self.home, ".local", "share", "tarn")
+
+    def start_at_home(self):
+        names = ("XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_STATE_HOME")
+        program = self.start(environment={"HOME": self.home, **{name: "" for name in names}})
+        program.go_on_from("Couldn't find TarnWin.ini")
+        question = program.message()
+        self.assertIn(self.data, question)
+        self.assertIn(self.config, question)
+        return program
+
+    def made(self):
+        """The files below the home, and those folders that hold nothing."""
+        found = []
+        for folder, folders, files in os.walk(self.home):
+            found += [os.path.join(folder, file) for file in files]
+            if not folders and not files and folder != self.home:
+                found.append(folder)
+        return sorted(each for each in found if "/.cache" not in each and "fontconfig" not in each)
+
+    def test_yes_makes_the_data_folder_and_goes_on(self):
+        program = self.start_at_home()
+        program.answer("Yes")
+        program.press("SELECT PROJECT")
+        program.see("push button", "DONE")
+        self.assertEqual(program.boxes(), [])
+        database = os.path.join(self.data, "DATA", "Tarn.mdb")
+        self.assertEqual(self.made(), [self.config, database])
+        for path in (self.config, database):
+            self.assertEqual(os.stat(path).st_mode & 0o777, 0o600, path)
+            self.assertEqual(os.stat(os.path.dirname(path)).st_mode & 0o777, 0o700, path)
+        program.close_by_frame()
+        self.assertEqual(program.wait_for_end(), 0)
+
+    def test_no_escape_and_enter_make_nothing(self):
+        for refuse in (
+            lambda program: program.answer("No"),
+            lambda program: program.key("Escape"),
+            lambda program: program.key("Return"),
+        ):
+            with self.start_at_home() as program:
+                program.take_focus()
+                refuse(program)
+                self.assertEqual(program.wait_for_end(), 1)
+                self.assertEqual(self.made(), [])
+
+    def test_a_folder_that_cannot_be_made_is_told(self):
+        in_the_way = os.path.join(self.home, ".local")
+        open(in_the_way, "w", encoding="utf-8").close()
+        program = self.start_at_home()
+        program.click_on(program.button_of_box("Yes"))
+        wait_for(lambda: program.message().startswith("Nothing was made. The folder"), "a message")
+        self.assertIn(self.data, program.message())
+        program.answer("OK")
+        self.assertEqual(program.wait_for_end(), 1)
+        self.assertEqual(self.made(), [in_the_way])
+
+
 class Starts(Case):
     def test_without_a_configuration_file(self):
         empty = os.path.join(self.folder, "nothing")
         os.mkdir(empty)
         program = self.start("--config-dir", empty)
-        self.assertEqual(program.message(), "Couldn't find TarnWin.ini")
-        program.answer("OK")
+        program.go_on_from("Couldn't find TarnWin.ini")
+        self.assertIn(os.path.join(empty, "TarnWin.INI"), program.message())
+        program.answer("No")
         self.assertEqual(program.wait_for_end(), 1)
+        self.assertEqual(os.listdir(empty), [])
 
     def settle_default_place(self):
         """Put the configuration where it is looked for without the option."""
@@ -230,13 +300,14 @@ class Starts(Case):
         default = self.settle_default_place()
         empty = os.path.join(self.folder, "nothing")
         os.mkdir(empty)
-        for given in (empty, ""):
-            with self.subTest(given), self.start(
-                "--config-dir", given, environment=default
-            ) as program:
-                self.assertEqual(program.message(), "Couldn't find TarnWin.ini")
-                program.answer("OK")
-                self.assertEqual(program.wait_for_end(), 1)
+        with self.start("--config-dir", empty, environment=default) as program:
+            program.go_on_from("Couldn't find TarnWin.ini")
+            program.answer("No")
+            self.assertEqual(program.wait_for_end(), 1)
+        with self.start("--config-dir", "", environment=default) as program:
+            self.assertEqual(program.message(), "Couldn't find TarnWin.ini")
+            program.answer("OK")  # there is no place to offer
+            self.assertEqual(program.wait_for_end(), 1)
 
     def test_without_a_database_it_says_so_when_it_is_needed(self):
         os.remove(self.house.database)

@@ -2,6 +2,7 @@
 
 #include "screens/Arrangement.h"
 #include "screens/Display.h"
+#include "screens/SystemText.h"
 #include "screens/Theme.h"
 
 #include <QApplication>
@@ -19,6 +20,8 @@
 
 namespace tarn {
 namespace {
+
+using testing::SystemText;
 
 double Linear(double channel) {
     return channel <= 0.03928 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
@@ -111,22 +114,6 @@ TEST(Theme, FollowsTheDesktopBetweenLightAndDark) {
     }
     EXPECT_EQ(MiddleOf(button), LightColours().Accent);
 }
-
-/// The system's text of a size, and the old one back at the end.
-class SystemText {
-  public:
-    explicit SystemText(double points) {
-        QFont font = before_;
-        font.setPointSizeF(points);
-        QApplication::setFont(font);
-    }
-    ~SystemText() { QApplication::setFont(before_); }
-    SystemText(const SystemText&) = delete;
-    SystemText& operator=(const SystemText&) = delete;
-
-  private:
-    QFont before_ = QApplication::font();
-};
 
 TEST(Theme, FollowsTheSystemsTextBeyondItsOwn) {
     QPushButton button;

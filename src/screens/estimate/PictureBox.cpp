@@ -7,6 +7,7 @@
 #include "screens/Controls.h"
 #include "screens/Display.h"
 #include "screens/Guard.h"
+#include "screens/PictureAccess.h"
 
 #include <QContextMenuEvent>
 #include <QHelpEvent>
@@ -58,6 +59,7 @@ PictureBox::PictureBox(QWidget* parent, Dialogs& boxes)
           },
           [this] { return DrawnTwips(); }) {
     NameControl(*this, Controls::layoutPicture, QStringLiteral("Layout drawing"));
+    TellAsPicture(*this);
     setToolTip(ZoomHint());
     setFocusPolicy(Qt::StrongFocus);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);

@@ -1,0 +1,253 @@
+// What has to hold on every screen: names for assistive programs, a way to each control by keys
+// alone, and whole texts whatever the size of the system's text.
+
+#include "screens/ControlNames.h"
+#include "screens/Display.h"
+#include "screens/ElidedLabel.h"
+#include "screens/EveryScreen.h"
+#include "screens/ScreenTesting.h"
+#include "screens/SystemText.h"
+#include "screens/Theme.h"
+
+#include <QAbstractButton>
+#include <QAccessible>
+#include <QAction>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QScrollArea>
+
+#include <array>
+#include <set>
+#include <vector>
+
+namespace tarn {
+namespace {
+
+using namespace tarn::testing;
+
+std::string NameOf(const QWidget& widget) {
+    return FromQt(widget.objectName()) + " (" + widget.metaObject()->className() + ")";
+}
+
+/// The widgets of a window that show.
+std::vector<QWidget*> ShownIn(const QWidget& window) {
+    std::vector<QWidget*> shown;
+    for (QWidget* widget : window.findChildren<QWidget*>()) {
+        if (widget->isVisible() && widget->window() == &window) {
+            shown.push_back(widget);
+        }
+    }
+    return shown;
+}
+
+void ResizeTo(ScreenWindow& window, QSize display) {
+    window.resize(display.width(), display.height() - Pixels(FreeStrip));
+    for (int i = 0; i < 3; ++i) { // what is laid out may lay out more
+        QCoreApplication::sendPostedEvents();
+        QCoreApplication::processEvents();
+    }
+}
+
+// --- names ---
+
+TEST(EveryScreen, TellsAssistiveProgramsWhatEachControlIs) {
+    for (const Units units : {Units::Imperial, Units::Metric}) {
+        VisitEveryScreen(units, [](const std::string& state, ScreenWindow& window) {
+            int controls = 0;
+            for (QWidget* widget : ShownIn(window)) {
+                if (widget->focusPolicy() == Qt::NoFocus &&
+                    qobject_cast<QAbstractButton*>(widget) == nullptr) {
+                    continue;
+                }
+                ++controls;
+                QAccessibleInterface* told = QAccessible::queryAccessibleInterface(widget);
+                ASSERT_NE(told, nullptr) << state << ": " << NameOf(*widget);
+                const bool isFreePlace =
+                    FromQt(widget->objectName()) == Controls::besideSelectProject;
+                EXPECT_TRUE(isFreePlace || !told->text(QAccessible::Name).trimmed().isEmpty())
+                    << state << ": " << NameOf(*widget) << " has no name";
+                EXPECT_NE(told->role(), QAccessible::NoRole) << state << ": " << NameOf(*widget);
+                EXPECT_NE(told->role(), QAccessible::Client) << state << ": " << NameOf(*widget);
+            }
+            EXPECT_GT(controls, 2) << state;
+        });
+    }
+}
+
+// --- keys ---
+
+/// What the Tab key goes to, until it begins again.
+std::vector<QWidget*> TabStops(QWidget& window) {
+    constexpr int Most = 300;
+    std::vector<QWidget*> stops;
+    for (int i = 0; i < Most; ++i) {
+        Press(window, Qt::Key_Tab);
+        QWidget* focused = QApplication::focusWidget();
+        if (focused == nullptr || (!stops.empty() && focused == stops.front())) {
+            return stops;
+        }
+        stops.push_back(focused);
+    }
+    ADD_FAILURE() << "the Tab key goes on for ever";
+    return stops;
+}
+
+/// Whether all of a control shows, or as much as its scroll area has room for.
+bool IsInView(const QWidget& widget) {
+    const QRect seen = widget.visibleRegion().boundingRect();
+    QSize room = widget.window()->size();
+    for (QWidget* above = widget.parentWidget(); above != nullptr; above = above->parentWidget()) {
+        if (qobject_cast<QScrollArea*>(above) != nullptr) {
+            room = static_cast<QScrollArea*>(above)->viewport()->size();
+            break;
+        }
+    }
+    return seen.width() >= std::min(widget.width(), room.width() / 2) &&
+           seen.height() >= std::min(widget.height(), room.height() / 2);
+}
+
+void ExpectTabComesEverywhere(const std::string& state, ScreenWindow& window) {
+    ResizeTo(window, {800, 600});
+    const std::vector<QWidget*> stops = TabStops(window);
+    const std::set<QWidget*> reached(stops.begin(), stops.end());
+    EXPECT_EQ(reached.size(), stops.size()) << state;
+    for (QWidget* widget : ShownIn(window)) {
+        if (widget->isEnabled() && (widget->focusPolicy() & Qt::TabFocus) == Qt::TabFocus &&
+            widget->focusProxy() == nullptr) {
+            EXPECT_TRUE(reached.count(widget) == 1) << state << ": " << NameOf(*widget);
+        }
+    }
+    for (QWidget* stop : stops) {
+        stop->setFocus(Qt::TabFocusReason);
+        QCoreApplication::processEvents(); // what leaving the last one changed is laid out
+        EXPECT_TRUE(IsInView(*stop)) << state << ": " << NameOf(*stop) << " is out of sight";
+    }
+    EXPECT_FALSE(stops.empty()) << state;
+}
+
+class TextSizes : public ::testing::TestWithParam<double> {};
+
+INSTANTIATE_TEST_SUITE_P(Usual, TextSizes, ::testing::Values(1.0, 1.5, 2.0), [](const auto& each) {
+    return "Percent" + std::to_string(static_cast<int>(each.param * 100));
+});
+
+TEST_P(TextSizes, LeaveEveryControlInReachOfTheTabKey) {
+    const SystemText text(Metrics::BaseFont * GetParam());
+    VisitEveryScreen(Units::Imperial, ExpectTabComesEverywhere);
+}
+
+// --- whole texts ---
+
+/// Where the words of a widget stand in the one above it.
+QRect WordsOf(const QWidget& widget) {
+    if (const auto* label = qobject_cast<const QLabel*>(&widget)) {
+        const int flags = static_cast<int>(label->alignment()) |
+                          (label->wordWrap() ? Qt::TextWordWrap : 0) |
+                          (label->buddy() != nullptr ? Qt::TextShowMnemonic : 0);
+        const QRect words = label->style()->itemTextRect(
+            label->fontMetrics(), label->contentsRect(), flags, true, label->text());
+        return words.translated(label->pos());
+    }
+    return widget.geometry();
+}
+
+void ExpectRoomForItsText(const std::string& where, const QWidget& widget) {
+    const QSize size = widget.size();
+    QSize least = widget.sizeHint();
+    if (const auto* label = qobject_cast<const QLabel*>(&widget)) {
+        if (label->text().isEmpty() || dynamic_cast<const ElidedLabel*>(label) != nullptr) {
+            least = {0, label->text().isEmpty() ? 0 : label->minimumSizeHint().height()};
+        } else if (label->wordWrap()) {
+            least = {0, label->heightForWidth(label->width())};
+        }
+    } else if (qobject_cast<const QLineEdit*>(&widget) != nullptr) {
+        least.setWidth(0); // it scrolls
+    } else if (qobject_cast<const QComboBox*>(&widget) != nullptr ||
+               qobject_cast<const QGroupBox*>(&widget) != nullptr) {
+        least = widget.minimumSizeHint();
+    } else if (qobject_cast<const QAbstractButton*>(&widget) == nullptr) {
+        return;
+    }
+    EXPECT_GE(size.width(), least.width()) << where << ": " << NameOf(widget) << " is too narrow";
+    EXPECT_GE(size.height(), least.height()) << where << ": " << NameOf(widget) << " is too low";
+}
+
+bool HasText(const QWidget& widget) {
+    const auto* label = qobject_cast<const QLabel*>(&widget);
+    return (label != nullptr && !label->text().isEmpty()) ||
+           qobject_cast<const QAbstractButton*>(&widget) != nullptr ||
+           qobject_cast<const QLineEdit*>(&widget) != nullptr ||
+           qobject_cast<const QComboBox*>(&widget) != nullptr;
+}
+
+void ExpectApart(const std::string& where, const std::vector<QWidget*>& shown) {
+    for (std::size_t i = 0; i < shown.size(); ++i) {
+        for (std::size_t j = i + 1; j < shown.size(); ++j) {
+            if (shown[i]->parentWidget() == shown[j]->parentWidget() && HasText(*shown[i]) &&
+                HasText(*shown[j])) {
+                EXPECT_FALSE(WordsOf(*shown[i]).intersects(WordsOf(*shown[j])))
+                    << where << ": " << NameOf(*shown[i]) << " runs into " << NameOf(*shown[j]);
+            }
+        }
+    }
+}
+
+bool ScrollsItsContent(const QWidget& widget) {
+    return qobject_cast<const QAbstractScrollArea*>(widget.parentWidget()) != nullptr;
+}
+
+void ExpectWholeTexts(const std::string& state, ScreenWindow& window) {
+    constexpr std::array Displays{QSize(800, 600), QSize(1366, 768), QSize(1920, 1080)};
+    for (const QSize& display : Displays) {
+        ResizeTo(window, display);
+        const std::string where = state + " at " + std::to_string(display.width());
+        const std::vector<QWidget*> shown = ShownIn(window);
+        for (const QWidget* widget : shown) {
+            ExpectRoomForItsText(where, *widget);
+            const QWidget& above = *widget->parentWidget();
+            if (HasText(*widget) && !ScrollsItsContent(above)) {
+                EXPECT_TRUE(above.rect().contains(WordsOf(*widget)))
+                    << where << ": " << NameOf(*widget) << " runs out of " << NameOf(above);
+            }
+        }
+        ExpectApart(where, shown);
+    }
+}
+
+TEST_P(TextSizes, KeepEveryTextWhole) {
+    const SystemText text(Metrics::BaseFont * GetParam());
+    for (const Units units : {Units::Imperial, Units::Metric}) {
+        VisitEveryScreen(units, ExpectWholeTexts);
+    }
+}
+
+// --- context menus ---
+
+TEST(EveryScreen, OpensContextMenusByKeysToo) {
+    std::set<std::string> seen;
+    VisitEveryScreen(Units::Imperial, [&](const std::string& state, ScreenWindow& window) {
+        const char* owner = state == "report"   ? Controls::reportText
+                            : state == "result" ? Controls::layoutPicture
+                                                : nullptr;
+        if (owner == nullptr) {
+            return;
+        }
+        Find(*window.Front(), owner).setFocus();
+        Press(window, Qt::Key_F10, Qt::ShiftModifier);
+        auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        ASSERT_NE(menu, nullptr) << state;
+        for (const QAction* action : menu->actions()) {
+            EXPECT_TRUE(action->isSeparator() || !action->text().isEmpty()) << state;
+        }
+        EXPECT_TRUE(window.geometry().contains(menu->pos())) << state;
+        menu->close();
+        seen.insert(state);
+    });
+    EXPECT_EQ(seen, (std::set<std::string>{"report", "result"}));
+}
+
+} // namespace
+} // namespace tarn
