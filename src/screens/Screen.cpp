@@ -35,13 +35,24 @@ class FocusFollower : public QObject {
             auto* widget = static_cast<QWidget*>(watched);
             const auto reason = static_cast<QFocusEvent*>(event)->reason();
             if (reason != Qt::MouseFocusReason && body_.isAncestorOf(widget)) {
-                scroller_.ensureWidgetVisible(widget);
+                ShowWhole(*widget);
             }
         }
         return false;
     }
 
   private:
+    /// The scroll area itself is content with the text cursor of a field.
+    void ShowWhole(QWidget& widget) {
+        scroller_.ensureWidgetVisible(&widget);
+        const QSize room = scroller_.viewport()->size();
+        if (widget.width() <= room.width() && widget.height() <= room.height()) {
+            const QPoint middle = widget.mapTo(&body_, widget.rect().center());
+            scroller_.ensureVisible(middle.x(), middle.y(), (widget.width() + 1) / 2,
+                                    (widget.height() + 1) / 2);
+        }
+    }
+
     QScrollArea& scroller_;
     const QWidget& body_;
 };

@@ -141,12 +141,18 @@ void TitledScreen::Arrange() {
     arranging_ = false;
 }
 
-/// In the upper corner, which the titles leave free.
+/// In the upper corner. Where large text leaves it no room beside the product's title, that makes
+/// way.
 void TitledScreen::PlaceGuideButton() {
     QPushButton& guide = GuideButton();
     const int gap = Pixels(Metrics::Spacing);
+    const int width = Body().width();
     guide.adjustSize();
-    guide.move(Body().width() - guide.width() - gap, gap);
+    guide.move(width - guide.width() - gap, gap);
+    const int taken = guide.width() + 2 * gap;
+    if (width - productTitle_->sizeHint().width() < 2 * taken) {
+        productTitle_->resize(width - taken, productTitle_->height());
+    }
 }
 
 /// On the line of the title, which stays in the middle of the screen.

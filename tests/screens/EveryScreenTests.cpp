@@ -143,7 +143,8 @@ TEST_P(TextSizes, LeaveEveryControlInReachOfTheTabKey) {
 
 /// Where the words of a widget stand in the one above it.
 QRect WordsOf(const QWidget& widget) {
-    if (const auto* label = qobject_cast<const QLabel*>(&widget)) {
+    const auto* label = qobject_cast<const QLabel*>(&widget);
+    if (label != nullptr && dynamic_cast<const ElidedLabel*>(label) == nullptr) {
         const int flags = static_cast<int>(label->alignment()) |
                           (label->wordWrap() ? Qt::TextWordWrap : 0) |
                           (label->buddy() != nullptr ? Qt::TextShowMnemonic : 0);

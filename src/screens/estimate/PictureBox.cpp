@@ -51,15 +51,9 @@ QString WrittenIn(const Drawing& drawing) {
 
 PictureBox::PictureBox(QWidget* parent, Dialogs& boxes)
     : QAbstractScrollArea(parent)
-    , boxes_(boxes)
-    , moving_(
-          *viewport(),
-          [this](QPainter& painter, const PictureAt& at, const QRect& part) {
-              PaintPart(painter, at, part);
-          },
-          [this] { return DrawnTwips(); }) {
+    , boxes_(boxes) {
+    TellAsPicture(*this); // before it is named, which is told already
     NameControl(*this, Controls::layoutPicture, QStringLiteral("Layout drawing"));
-    TellAsPicture(*this);
     setToolTip(ZoomHint());
     setFocusPolicy(Qt::StrongFocus);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
