@@ -56,16 +56,18 @@ void RoomHistory::Do(std::size_t about, const std::function<void()>& action, std
     Follow();
     const auto note = qScopeGuard([&] {
         RoomChange change = ChangeBetween(rooms_, project_.Now.Rooms, about);
-        if (!change.IsNone()) {
-            if (name.empty()) {
-                name = NameOf(change);
-            }
-            steps_.push(new RoomStep(project_.Now.Rooms, std::move(change), name));
-            entered_.resize(static_cast<std::size_t>(Position()));
-            entered_.push_back(project_.Now.EnteredIn);
-            TakeState();
-            Tell();
+        if (change.IsNone()) {
+            NoteUnits();
+            return;
         }
+        if (name.empty()) {
+            name = NameOf(change);
+        }
+        steps_.push(new RoomStep(project_.Now.Rooms, std::move(change), name));
+        entered_.resize(static_cast<std::size_t>(Position()) + 1);
+        NoteUnits();
+        TakeState();
+        Tell();
     });
     action();
 }
@@ -128,14 +130,14 @@ void RoomHistory::ForgetBehind(int position) {
 
 void RoomHistory::NoteSaved() {
     TakeState();
-    entered_.at(static_cast<std::size_t>(Position())) = project_.Now.EnteredIn;
+    NoteUnits();
 }
 
 void RoomHistory::Follow() {
     if (name_ != project_.Now.Name || rooms_ != project_.Now.Rooms) {
         Clear();
     } else {
-        entered_.at(static_cast<std::size_t>(Position())) = project_.Now.EnteredIn;
+        NoteUnits();
     }
 }
 
@@ -144,6 +146,10 @@ void RoomHistory::Clear() {
     entered_ = {project_.Now.EnteredIn};
     TakeState();
     Tell();
+}
+
+void RoomHistory::NoteUnits() {
+    entered_.at(static_cast<std::size_t>(Position())) = project_.Now.EnteredIn;
 }
 
 void RoomHistory::TakeState() {

@@ -60,6 +60,8 @@ class RoomHistory {
   private:
     const RoomChange& ChangeAt(int step) const;
     std::size_t Step(bool back);
+    /// The rooms' units at the present position are those of now.
+    void NoteUnits();
     void TakeState();
     void Tell();
 

@@ -51,6 +51,7 @@ bool SavedAsNew(Session& session) {
         return false;
     }
     session.Drafts.NoteSavedAs(former);
+    session.History.NoteSaved();
     return true;
 }
 
@@ -58,6 +59,7 @@ bool SavedAsNew(Session& session) {
 
 std::optional<std::string> SaveOrAsk(Session& session) {
     OpenProject& project = session.Project;
+    session.History.Follow();
     std::string emptyRooms = EmptyRoomsText(project.Saved.Rooms, project.Now.Rooms);
     Outcome outcome = SaveOpenProject(project, session.Store);
     if (outcome == Outcome::Changed) {
@@ -68,6 +70,7 @@ std::optional<std::string> SaveOrAsk(Session& session) {
     }
     if (outcome == Outcome::Saved) {
         session.Drafts.NoteSaved();
+        session.History.NoteSaved();
     } else if (!SavedAsNew(session)) {
         return std::nullopt;
     }

@@ -54,7 +54,7 @@ class Screen : public QWidget {
     /// The menu bar, made when it is first asked for.
     QMenuBar& Menus();
     /// What holds the controls.
-    QWidget& Body() { return *body_; }
+    QWidget& Body() const { return *body_; }
     QScrollArea& Scroller() { return *scroller_; }
 
     /// See Guarded.

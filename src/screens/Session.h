@@ -6,6 +6,7 @@
 #include "screens/DraftKeeper.h"
 #include "screens/OpenProject.h"
 #include "screens/Preferences.h"
+#include "screens/RoomHistory.h"
 #include "screens/Screens.h"
 #include "store/ProjectStore.h"
 
@@ -26,6 +27,7 @@ struct Session {
     Screens& Go;
     DraftKeeper& Drafts;
     Preferences& Kept;
+    RoomHistory& History; ///< of the open project's rooms
     std::function<QDate()> Today = &QDate::currentDate;
 };
 

@@ -100,12 +100,14 @@ QListWidget::item:selected, #%RollList%::item:selected { background: @Accent; co
 QComboBox QAbstractItemView { background: @Field; color: @Text;
     selection-background-color: @Accent; selection-color: @AccentText; }
 
-QTabBar::tab { background: @Surface; color: @Text; border: 2px solid @ControlBorder;
-    padding: 45tw 150tw; margin-left: -2px; }
-QTabBar::tab:first { margin-left: 0; }
-QTabBar::tab:selected { background: @Accent; color: @AccentText; border-color: @Accent;
-    font-weight: 600; }
-QTabBar::tab:selected:focus { border-color: @Text; }
+QTableView { background: @Field; color: @Text; border: 2px solid @Border; border-radius: 60tw;
+    outline: none; selection-background-color: @Accent; selection-color: @AccentText; }
+QTableView:focus { border-color: @Accent; }
+QTableView::item { padding: 0 30tw; border: none; }
+QTableView::item:selected { background: @Accent; color: @AccentText; }
+QTableView QHeaderView { background: @Surface; border: none; }
+QTableView QHeaderView::section { background: @Surface; color: @Muted; border: none;
+    border-bottom: 1px solid @Border; padding: 45tw 75tw; font-size: @ListingFontpt; }
 
 QRadioButton, QCheckBox { border: 2px solid transparent;
     border-radius: 60tw; padding: 15tw 45tw; spacing: 120tw; min-height: 330tw; }

@@ -51,12 +51,14 @@ void TitledScreen::AddPanel(QWidget& panel, PanelSize size) {
 }
 
 void TitledScreen::ShowPanel(QWidget& panel) {
+    arranging_ = true; // once, when it is done
     for (const Panel& each : panels_) {
         if (each.Widget != &panel) {
             each.Widget->hide();
         }
     }
     panel.show();
+    arranging_ = false;
     Arrange();
 }
 
@@ -101,44 +103,74 @@ const TitledScreen::Panel* TitledScreen::VisiblePanel() const {
     return panel == panels_.end() ? nullptr : &*panel;
 }
 
+bool TitledScreen::HasBelow() const {
+    return below_ != nullptr && !below_->isHidden();
+}
+
+int TitledScreen::BelowHeight() const {
+    const int gap = Pixels(Metrics::Spacing);
+    return HasBelow() ? NaturalSize(*below_).height() + 2 * gap : gap;
+}
+
+TitledScreen::Places TitledScreen::PlacesOf(const Panel& panel) const {
+    const int titles = Pixels(ProductTitleAbovePanel);
+    const int margin = Pixels(Metrics::Margin);
+    const QSize least = NaturalSize(*panel.Widget);
+    const QSize area = Body().size();
+    QSize size = least;
+    if (panel.Size == PanelSize::Filling) {
+        size = QSize(std::max(least.width(), area.width() - 2 * margin),
+                     std::max(least.height(),
+                              area.height() - titles - (HasBelow() ? BelowHeight() : margin)));
+    }
+    const int left = (area.width() - size.width()) / 2;
+    int top = (area.height() - size.height()) / 2;
+    top = std::max(std::min(top, area.height() - size.height() - BelowHeight()), titles);
+
+    Places places{QRect(QPoint(left, top), size), {}};
+    if (HasBelow()) {
+        const QSize below = NaturalSize(*below_);
+        places.Below =
+            QRect((area.width() - below.width()) / 2,
+                  top + size.height() + Pixels(Metrics::Spacing), below.width(), below.height());
+    }
+    return places;
+}
+
+TitledScreen::Places TitledScreen::PlacesOf(const QWidget& panel) const {
+    const auto found = std::find_if(panels_.begin(), panels_.end(),
+                                    [&panel](const Panel& each) { return each.Widget == &panel; });
+    return found == panels_.end() ? Places() : PlacesOf(*found);
+}
+
 void TitledScreen::Arrange() {
     const Panel* panel = VisiblePanel();
     if (panel == nullptr || arranging_) {
         return;
     }
     arranging_ = true;
-    const int titles = TextPixels(ProductTitleAbovePanel);
-    const int gap = Pixels(Metrics::Spacing);
-    const int margin = Pixels(Metrics::Margin);
-    const bool hasBelow = below_ != nullptr && !below_->isHidden();
-    const QSize belowSize = hasBelow ? NaturalSize(*below_) : QSize(0, 0);
-    const int belowHeight = hasBelow ? belowSize.height() + 2 * gap : gap;
+    PlaceAround(*panel);
+    arranging_ = false;
+    OnArranged();
+}
 
-    const QSize least = NaturalSize(*panel->Widget);
-    Body().setMinimumSize(std::max(least.width(), belowSize.width()) + 2 * margin,
-                          titles + least.height() + belowHeight);
-    const QSize area = Body().size();
-    QSize size = least;
-    if (panel->Size == PanelSize::Filling) {
-        size = QSize(
-            std::max(least.width(), area.width() - 2 * margin),
-            std::max(least.height(), area.height() - titles - (hasBelow ? belowHeight : margin)));
-    }
-    const int left = (area.width() - size.width()) / 2;
-    int top = (area.height() - size.height()) / 2;
-    top = std::max(std::min(top, area.height() - size.height() - belowHeight), titles);
-
-    panel->Widget->setGeometry(QRect(QPoint(left, top), size));
-    productTitle_->setGeometry(0, top - titles, area.width(), productTitle_->sizeHint().height());
-    formTitle_->setGeometry(0, top - TextPixels(FormTitleAbovePanel), area.width(),
+void TitledScreen::PlaceAround(const Panel& panel) {
+    const int titles = Pixels(ProductTitleAbovePanel);
+    const QSize least = NaturalSize(*panel.Widget);
+    const int belowWidth = HasBelow() ? NaturalSize(*below_).width() : 0;
+    Body().setMinimumSize(std::max(least.width(), belowWidth) + 2 * Pixels(Metrics::Margin),
+                          titles + least.height() + BelowHeight());
+    const Places places = PlacesOf(panel);
+    const int width = Body().width();
+    const int top = places.Panel.top();
+    panel.Widget->setGeometry(places.Panel);
+    productTitle_->setGeometry(0, top - titles, width, productTitle_->sizeHint().height());
+    formTitle_->setGeometry(0, top - Pixels(FormTitleAbovePanel), width,
                             formTitle_->sizeHint().height());
     PlaceTitleWarning();
-    PlaceGuideButton();
-    if (hasBelow) {
-        below_->setGeometry((area.width() - belowSize.width()) / 2, top + size.height() + gap,
-                            belowSize.width(), belowSize.height());
+    if (HasBelow()) {
+        below_->setGeometry(places.Below);
     }
-    arranging_ = false;
 }
 
 /// In the upper corner. Where large text leaves it no room beside the product's title, that makes

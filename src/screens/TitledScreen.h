@@ -3,6 +3,7 @@
 #include "screens/Screen.h"
 
 #include <QEvent>
+#include <QRect>
 
 #include <string_view>
 #include <vector>
@@ -37,6 +38,16 @@ class TitledScreen : public Screen {
     /// What stands below the panel, on every panel while it is not hidden.
     void SetBelow(QWidget& widget);
 
+    /// Where a panel stands on the body, and what is below it, also while another one shows.
+    struct Places {
+        QRect Panel;
+        QRect Below; ///< empty for nothing
+    };
+    Places PlacesOf(const QWidget& panel) const;
+    /// Called when panel, titles and what is below have got their places: what stands beside them
+    /// can be given its own.
+    virtual void OnArranged() {}
+
   private:
     struct Panel {
         QWidget* Widget;
@@ -44,8 +55,12 @@ class TitledScreen : public Screen {
     };
     bool ChangesArrangement(const QObject* watched, QEvent::Type event);
     void Arrange();
-    void PlaceGuideButton();
+    void PlaceAround(const Panel& panel);
     void PlaceTitleWarning();
+    bool HasBelow() const;
+    /// The height that the panel leaves to what is below it.
+    int BelowHeight() const;
+    Places PlacesOf(const Panel& panel) const;
     const Panel* VisiblePanel() const;
 
     QLabel* productTitle_ = nullptr;

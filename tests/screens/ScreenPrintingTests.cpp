@@ -120,7 +120,7 @@ struct PrintedFromRooms : ScreenTest {
     bool IsReportShown() { return Find(*form, Controls::reportPanel).isVisible(); }
 
     WatchedPrinter system;
-    Session real{open, store, page, boxes, system, screens, drafts, kept, session.Today};
+    Session real{open, store, page, boxes, system, screens, drafts, kept, history, session.Today};
     std::unique_ptr<RoomScreen> form;
 };
 
@@ -156,7 +156,7 @@ struct PrintedFromEstimate : EstimateScreenTest {
     void Print() { Click(Button(Controls::printEstimate)); }
 
     WatchedPrinter system;
-    Session real{open, store, page, boxes, system, screens, drafts, kept, session.Today};
+    Session real{open, store, page, boxes, system, screens, drafts, kept, history, session.Today};
 };
 
 TEST_F(PrintedFromEstimate, TheEstimateArrives) {

@@ -147,9 +147,9 @@ struct ScreenTest : ::testing::Test {
     QTemporaryDir state; ///< of the drafts
     DraftKeeper drafts{open};
     Preferences kept;
-    Session session{open,   store,   page,
-                    boxes,  printer, screens,
-                    drafts, kept,    [] { return QDate(2026, 3, 14); }};
+    RoomHistory history{open};
+    Session session{open,    store,  page, boxes,   printer,
+                    screens, drafts, kept, history, [] { return QDate(2026, 3, 14); }};
 };
 
 } // namespace tarn::testing

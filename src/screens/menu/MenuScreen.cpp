@@ -208,7 +208,9 @@ void MenuScreen::OfferDrafts() {
 
 void MenuScreen::TakeBack(std::size_t place) {
     const KeptDraft draft = offered_.at(place);
-    Shared().Drafts.TakeBack(draft);
+    const std::string time = DraftTime(draft.Record.Written, Shared().Today());
+    Shared().History.Do(
+        AnyRoom, [&] { Shared().Drafts.TakeBack(draft); }, "Take back rooms of " + time);
     enterRooms_->setFocus(); // before the button goes
     ShowProject();
 }

@@ -45,6 +45,7 @@ ProjectScreen::ProjectScreen(Session& session)
     // Last: when this screen cannot be made, the one in front keeps its rooms.
     Shared().Drafts.LetGo();
     DropRooms(Shared().Project);
+    Shared().History.Clear();
 }
 
 void ProjectScreen::ConnectSettings() {

@@ -8,6 +8,8 @@
 #include "files/ShortDate.h"
 #include "paper/PdfFile.h"
 #include "project/Report.h"
+#include "project/RoomChange.h"
+#include "project/RoomList.h"
 #include "screens/Arrangement.h"
 #include "screens/ControlNames.h"
 #include "screens/Controls.h"
@@ -18,6 +20,10 @@
 #include "screens/Theme.h"
 #include "screens/rooms/ReportFrame.h"
 #include "screens/rooms/RoomEntryFrame.h"
+#include "screens/rooms/RoomListFrame.h"
+#include "screens/rooms/RoomTable.h"
+#include "screens/rooms/RoomTotals.h"
+#include "screens/rooms/UndoMenu.h"
 
 #include <QComboBox>
 #include <QHBoxLayout>
@@ -26,8 +32,9 @@
 #include <QPlainTextEdit>
 #include <QPointer>
 #include <QPushButton>
+#include <QShortcut>
 
-#include <optional>
+#include <algorithm>
 #include <utility>
 #include <vector>
 
@@ -38,6 +45,18 @@ namespace {
 constexpr const char* NotStored = "The room could not be stored.";
 constexpr const char* ReportNotSaved = "The report could not be saved.";
 constexpr const char* NotClosed = "The screen could not be closed.";
+constexpr const char* NotDeleted = "The room could not be deleted.";
+constexpr const char* NotReported = "The report could not be made.";
+constexpr const char* NotPrinted = "The report could not be printed.";
+constexpr const char* NotUndone = "The rooms could not be put back.";
+constexpr const char* NotShown = "The rooms could not be shown.";
+
+/// From which width of the window on the list may stand beside the form, twips.
+constexpr double WideWindow = 16500;
+
+constexpr char ShowMnemonic = 'H';
+constexpr const char* ShowListCaption = "SHOW LIST";
+constexpr const char* ShowFormCaption = "SHOW FORM";
 
 constexpr const char* DeleteQuestion = "Really want to delete current data?";
 constexpr const char* NothingToEstimateMessage =
@@ -60,15 +79,21 @@ RoomScreen::RoomScreen(Session& session)
     , entry_(new RoomEntryFrame(session.Project.Now.Name, session.Project.Shown, session.Boxes))
     , report_(new ReportFrame)
     , current_(FirstRoom(session.Project)) {
+    session.History.Follow();
     MakeMenu();
     AddPanel(*entry_);
     AddPanel(*report_, PanelSize::Filling);
     MakeButtonsBelow();
+    list_ = new RoomListFrame(session.Project);
+    AddPanel(*list_, PanelSize::Filling);
+    MakeKeys();
     SetTabOrder();
     ConnectButtons();
+    ConnectList();
     session.Project.Typed = InUnits(std::move(session.Project.Typed), session.Project.Shown);
     ShowRoom(current_);
     ConnectTyping();
+    ShowTyped();
     ShowUnitsWarning();
     ShowTrouble();
     session.Drafts.OnTrouble(*this, [this] { ShowTrouble(); });
@@ -77,11 +102,19 @@ RoomScreen::RoomScreen(Session& session)
 void RoomScreen::MakeMenu() {
     QMenu* menu = Menus().addMenu(QStringLiteral("&File"));
     menu->setObjectName(Controls::fileMenu);
-    const QAction* save = AddItem(*menu, Controls::fileSave, "&Save");
+    QAction* save = AddItem(*menu, Controls::fileSave, "&Save");
+    save->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_S));
+    save->setAutoRepeat(false);
     menu->addSeparator()->setObjectName(Controls::fileSeparator);
     const QAction* close = AddItem(*menu, Controls::fileClose, "&Close");
     connect(save, &QAction::triggered, this, [this] { Save(); });
     connect(close, &QAction::triggered, this, [this] { Guard(NotClosed, [this] { Leave(); }); });
+    undo_ = new UndoMenu(
+        Menus(), this, [this] { RunCommand(NotUndone, [this] { Undo(); }); },
+        [this] { RunCommand(NotUndone, [this] { Redo(); }); });
+    for (int i = 0; i < RoomEntryFrame::Texts; ++i) {
+        undo_->Attend(entry_->Text(i));
+    }
 }
 
 void RoomScreen::MakeButtonsBelow() {
@@ -90,11 +123,34 @@ void RoomScreen::MakeButtonsBelow() {
     save_ = NewButton(below_, Controls::saveRooms, "SAVE", 'S');
     auto* row = new QHBoxLayout(below_);
     SetSpacing(*row, 0, Metrics::Margin);
-    for (QPushButton* button : {back_, save_}) {
-        button->setMinimumWidth(Pixels(Metrics::ButtonWidth));
+    showList_ = NewButton(below_, Controls::showRoomList, ShowListCaption, ShowMnemonic);
+    KeepRoom(*showList_);
+    IgnoreSecondClick(*showList_);
+    showList_->ensurePolished();
+    int widest = Pixels(Metrics::ButtonWidth);
+    for (const char* caption : {ShowFormCaption, ShowListCaption}) {
+        SetCaption(*showList_, caption, ShowMnemonic);
+        widest = std::max(widest, showList_->sizeHint().width());
+    }
+    // At the left: nowhere near the buttons of the report.
+    for (QPushButton* button : {showList_, back_, save_}) {
+        button->setMinimumWidth(button == showList_ ? widest : Pixels(Metrics::ButtonWidth));
         row->addWidget(button);
     }
+    row->addSpacing(widest + row->spacing()); // so that BACK and SAVE stand in the middle
     SetBelow(*below_);
+}
+
+void RoomScreen::MakeKeys() {
+    const auto add = [this](QKeySequence key, const char* failure, void (RoomScreen::*act)()) {
+        auto* shortcut = new QShortcut(key, this);
+        shortcut->setAutoRepeat(false);
+        connect(shortcut, &QShortcut::activated, this,
+                [this, failure, act] { Guard(failure, [this, act] { (this->*act)(); }); });
+    };
+    add(QKeySequence(Qt::CTRL | Qt::Key_P), NotPrinted, &RoomScreen::PrintShown);
+    add(QKeySequence(Qt::Key_F6), NotShown, &RoomScreen::SwitchToOther);
+    add(QKeySequence(Qt::Key_Escape), NotShown, &RoomScreen::Escape);
 }
 
 void RoomScreen::SetTabOrder() {
@@ -105,9 +161,10 @@ void RoomScreen::SetTabOrder() {
         }
         order.push_back(&entry_->Text(i));
     }
-    order.insert(order.end(), {&entry_->Next(), &entry_->Previous(), &entry_->Delete(),
-                               &entry_->Estimate(), &entry_->Report(), back_, save_,
-                               &report_->View(), &report_->Print(), &report_->Close()});
+    order.insert(order.end(),
+                 {&entry_->Next(), &entry_->Previous(), &entry_->Delete(), &entry_->Estimate(),
+                  &entry_->Report(), back_, save_, showList_, &list_->Table(), &list_->Totals(),
+                  &report_->View(), &report_->Print(), &report_->Close()});
     SetTabOrders(order);
 }
 
@@ -120,12 +177,12 @@ void RoomScreen::OnCommand(QPushButton& button, const std::string& failure,
 void RoomScreen::ConnectButtons() {
     OnCommand(entry_->Next(), NotStored, [this] { ShowNext(); });
     OnCommand(entry_->Previous(), NotStored, [this] { ShowPrevious(); });
-    OnCommand(entry_->Delete(), "The room could not be deleted.", [this] { AskAndDelete(); });
+    OnCommand(entry_->Delete(), NotDeleted, [this] { AskAndDelete(); });
     connect(save_, &QPushButton::clicked, this, [this] { Save(); });
     OnClick(entry_->Estimate(), "The estimate could not be opened.", [this] { Estimate(); });
-    OnClick(entry_->Report(), "The report could not be made.", [this] { ShowReport(); });
+    OnClick(entry_->Report(), NotReported, [this] { ShowReport(); });
     OnClick(*back_, NotClosed, [this] { Leave(); });
-    OnClick(report_->Print(), "The report could not be printed.", [this] { PrintReport(); });
+    OnClick(report_->Print(), NotPrinted, [this] { PrintReport(); });
     connect(&report_->SaveAsPdf(), &QAction::triggered, this,
             [this] { Guard(ReportNotSaved, [this] { SaveReportAsPdf(); }); });
     connect(&report_->SaveAsSvg(), &QAction::triggered, this,
@@ -133,8 +190,15 @@ void RoomScreen::ConnectButtons() {
     OnClick(report_->Close(), "The report could not be closed.", [this] { CloseReport(); });
 }
 
-std::string_view RoomScreen::GuidePage() const {
-    return report_->isHidden() ? GuidePages::rooms : GuidePages::report;
+void RoomScreen::ConnectList() {
+    OnClick(*showList_, NotShown, [this] { SwitchToOther(); });
+    list_->Table().OnChosen = [this](std::size_t room) {
+        RunCommand(NotStored, [this, room] { GoToListed(room); });
+    };
+    list_->Table().OnDelete = [this](std::size_t room) {
+        RunCommand(NotDeleted, [this, room] { DeleteListed(room); });
+    };
+    Shared().History.OnChange(*this, [this] { list_->NoteRooms(); });
 }
 
 void RoomScreen::OnUncover() {
@@ -142,7 +206,37 @@ void RoomScreen::OnUncover() {
 }
 
 QWidget* RoomScreen::FirstFocus() {
+    if (IsListAlone()) {
+        return &list_->Table();
+    }
     return &entry_->Text(RoomEntryFrame::WidthMajor);
+}
+
+void RoomScreen::OnArranged() {
+    if (list_ == nullptr || IsReportShown()) {
+        return; // it is not made yet, or hidden with the form
+    }
+    const Places form = PlacesOf(*entry_);
+    const auto place = width() < Pixels(WideWindow)
+                           ? std::nullopt
+                           : list_->PlaceBeside(Body().size(), form.Panel, form.Below.bottom() + 1);
+    const bool hadFocus = list_->isAncestorOf(focusWidget());
+    if (place && IsListAlone()) {
+        ShowForm(); // the list comes beside it
+        return;
+    }
+    if (place) {
+        list_->StandAt(*place);
+    } else {
+        list_->StandAlone();
+    }
+    showList_->setVisible(!place);
+    if (!IsListAlone()) {
+        list_->setVisible(place.has_value());
+        if (!place && hadFocus) {
+            FirstFocus()->setFocus();
+        }
+    }
 }
 
 void RoomScreen::RunCommand(const std::string& failure, const std::function<void()>& body) {
@@ -176,6 +270,12 @@ void RoomScreen::ShowRoom(std::size_t room) {
     entry_->SetItemNumber(room + 1);
 }
 
+void RoomScreen::GoTo(std::size_t room) {
+    ShowRoom(room);
+    current_ = room;
+    ShowTyped();
+}
+
 void RoomScreen::ConnectTyping() {
     const auto typed = [this] {
         if (!showing_) {
@@ -200,6 +300,31 @@ void RoomScreen::KeepTyping() {
     }
     Shared().Drafts.NoteChange();
     ShowUnitsWarning();
+    ShowTyped();
+}
+
+std::optional<Room> RoomScreen::Typed() const {
+    const OpenProject& project = Shared().Project;
+    return RoomAsTyped(project.Now, project.Shown, current_, entry_->Draft());
+}
+
+void RoomScreen::ShowTyped() {
+    const std::vector<Room>& rooms = Shared().Project.Now.Rooms;
+    const RoomHistory& history = Shared().History;
+    const std::optional<Room> typed = Typed();
+    list_->Show(current_, typed);
+    RoomChange change{current_, {}, {}};
+    if (current_ < rooms.size()) {
+        change.Before.push_back(rooms[current_]);
+    }
+    if (typed) {
+        change.After.push_back(*typed);
+    }
+    if (!typed || change.Before == change.After) {
+        undo_->Show(history.UndoName(), history.RedoName());
+    } else {
+        undo_->Show(NameOf(change), {}); // what is typed would be stored first
+    }
 }
 
 void RoomScreen::ShowUnitsWarning() {
@@ -216,7 +341,9 @@ StoreResult RoomScreen::StoreFields() {
     entry_->SpreadSizes();
     const RoomDraft fields = entry_->Draft();
     const bool isNew = current_ == project.Now.Rooms.size();
-    const StoreResult result = StoreRoom(project.Now, project.Shown, current_, fields);
+    StoreResult result;
+    Shared().History.Do(current_,
+                        [&] { result = StoreRoom(project.Now, project.Shown, current_, fields); });
     if (result.IsStored()) {
         untouched_ = fields;
         if (isNew) {
@@ -229,13 +356,22 @@ StoreResult RoomScreen::StoreFields() {
 
 StoreResult RoomScreen::StoreShownRoom() {
     const StoreResult result = StoreFields();
-    if (!result.Message().empty()) {
-        TellRefusal(result);
+    if (result.What == StoreResult::Outcome::OneSizeMissing) {
+        Shared().Boxes.Message(std::string(result.Message()));
     }
+    TellRefused(result);
+    return result;
+}
+
+void RoomScreen::TellRefused(const StoreResult& result) {
+    if (!result.Stops()) {
+        return;
+    }
+    ShowForm();
+    Shared().Boxes.Message(std::string(result.Message()));
     if (result.What == StoreResult::Outcome::WrongSize) {
         entry_->Text(static_cast<int>(result.Wrong)).setFocus();
     }
-    return result;
 }
 
 /// The box keeps clear of the field that it is about, for that has the focus then.
@@ -253,6 +389,7 @@ void RoomScreen::TellRefusal(const StoreResult& result) {
 StoreResult RoomScreen::WithRoomStored(const std::function<void()>& action) {
     Project before = Shared().Project.Now;
     RoomDraft untouched = untouched_;
+    const int steps = Shared().History.Position();
     const StoreResult result = StoreShownRoom();
     if (result.Stops()) {
         return result;
@@ -261,6 +398,7 @@ StoreResult RoomScreen::WithRoomStored(const std::function<void()>& action) {
         action();
     } catch (...) {
         Shared().Project.Now = std::move(before);
+        Shared().History.ForgetBehind(steps);
         untouched_ = std::move(untouched);
         KeepTyping();
         throw;
@@ -277,8 +415,7 @@ void RoomScreen::FocusAfter(const StoreResult& result) {
 void RoomScreen::ShowNext() {
     const StoreResult result = StoreShownRoom();
     if (result.IsStored()) {
-        ShowRoom(current_ + 1);
-        ++current_;
+        GoTo(current_ + 1);
     }
     FocusAfter(result);
 }
@@ -290,23 +427,97 @@ void RoomScreen::ShowPrevious() {
     }
     const StoreResult result = StoreShownRoom();
     if (!result.Stops()) {
-        ShowRoom(current_ - 1);
-        --current_;
+        GoTo(current_ - 1);
     }
     FocusAfter(result);
 }
 
+void RoomScreen::ForgetTyping() {
+    OpenProject& project = Shared().Project;
+    if (current_ == project.Now.Rooms.size()) {
+        project.Typed.New.reset();
+    }
+    project.Typed.Changed.reset();
+}
+
 void RoomScreen::AskAndDelete() {
     if (Shared().Boxes.AskYesNo(DeleteQuestion)) {
-        OpenProject& project = Shared().Project;
-        if (current_ == project.Now.Rooms.size()) {
-            project.Typed.New.reset();
-        }
-        project.Typed.Changed.reset();
-        DeleteRoom(project.Now, current_);
-        ShowRoom(current_);
+        ForgetTyping();
+        Project& project = Shared().Project.Now;
+        Shared().History.Do(current_, [&] { DeleteRoom(project, current_); });
+        GoTo(current_);
         KeepTyping();
         FirstFocus()->setFocus();
+    }
+}
+
+bool RoomScreen::WentToListed(std::size_t room) {
+    if (room == current_) {
+        return true;
+    }
+    list_->Table().ReturnToSelected(); // unless it gets there
+    const StoreResult result = StoreShownRoom();
+    if (result.IsStored() || result.What == StoreResult::Outcome::Empty) {
+        GoTo(room);
+        return true;
+    }
+    ShowForm();
+    FocusAfter(result);
+    return false;
+}
+
+void RoomScreen::GoToListed(std::size_t room) {
+    if (WentToListed(room)) {
+        ShowForm();
+        FirstFocus()->setFocus();
+    }
+}
+
+void RoomScreen::DeleteListed(std::size_t room) {
+    const OpenProject& project = Shared().Project;
+    const bool isNothing = room == project.Now.Rooms.size() && !project.Typed.New;
+    if (!isNothing && WentToListed(room)) {
+        AskAndDelete();
+        list_->Table().setFocus();
+    }
+}
+
+bool RoomScreen::TakesLastChangeBack() const {
+    const RoomHistory& history = Shared().History;
+    std::vector<Room> rooms = Shared().Project.Now.Rooms;
+    const std::optional<Room> typed = Typed();
+    if (!typed || !history.CanUndo()) {
+        return false;
+    }
+    rooms.resize(std::max(rooms.size(), current_ + 1));
+    rooms[current_] = *typed;
+    return rooms == history.RoomsAfterUndo();
+}
+
+bool RoomScreen::IsReadyForStep() {
+    const StoreResult result = StoreFields();
+    TellRefused(result);
+    return !result.Stops();
+}
+
+void RoomScreen::Undo() {
+    RoomHistory& history = Shared().History;
+    if (TakesLastChangeBack()) {
+        ForgetTyping();
+    } else if (!IsReadyForStep()) {
+        return;
+    }
+    if (history.CanUndo()) {
+        GoTo(history.Undo());
+        KeepTyping();
+    }
+}
+
+void RoomScreen::Redo() {
+    RoomHistory& history = Shared().History;
+    if (IsReadyForStep() && history.CanRedo()) {
+        GoTo(history.Redo());
+        KeepTyping();
     }
 }
 
@@ -369,6 +580,58 @@ void RoomScreen::SetEntryEnabled(bool enabled) {
     below_->setVisible(enabled);
     entry_->setEnabled(enabled);
     Menus().setEnabled(enabled);
+}
+
+bool RoomScreen::IsReportShown() const {
+    return !report_->isHidden();
+}
+
+bool RoomScreen::IsListAlone() const {
+    return entry_->isHidden() && !list_->isHidden();
+}
+
+void RoomScreen::ShowForm() {
+    if (IsListAlone()) {
+        SetCaption(*showList_, ShowListCaption, ShowMnemonic);
+        ShowPanel(*entry_);
+    }
+}
+
+void RoomScreen::ShowList() {
+    SetCaption(*showList_, ShowFormCaption, ShowMnemonic);
+    ShowPanel(*list_);
+    list_->Table().setFocus();
+}
+
+void RoomScreen::SwitchToOther() {
+    if (IsReportShown()) {
+        return;
+    }
+    if (list_->isHidden()) {
+        ShowList();
+    } else if (IsListAlone() || list_->isAncestorOf(focusWidget())) {
+        ShowForm();
+        FirstFocus()->setFocus();
+    } else {
+        list_->Table().setFocus();
+    }
+}
+
+void RoomScreen::Escape() {
+    if (IsReportShown()) {
+        CloseReport();
+    } else if (IsListAlone() || list_->isAncestorOf(focusWidget())) {
+        ShowForm();
+        FirstFocus()->setFocus();
+    }
+}
+
+void RoomScreen::PrintShown() {
+    if (IsReportShown()) {
+        PrintReport();
+    } else {
+        Guard(NotReported, [this] { ShowReport(); });
+    }
 }
 
 void RoomScreen::PrintReport() {

@@ -114,27 +114,27 @@ TEST_F(MenuDrafts, AreTakenBackByAPress) {
     EXPECT_EQ(file.Rows("SELECT count(*) FROM InputData"), Lines{"3"}) << "nothing is stored";
 }
 
-TEST_F(MenuDrafts, OfAnOrderAloneSaySo) {
-    Draft draft;
-    draft.Orders.emplace()[1] = DefaultOrderRequest(Units::Imperial);
-    draft.Orders->at(1).Rolls = {{144, "", "12ft", std::nullopt}};
-    draft.Orders->at(1).PatternDrift = 0;
-    Leave(draft, 0);
+TEST_F(MenuDrafts, AreAStepOfTheRoomsHistory) {
+    LeaveDraft(7, 0, Units::Metric);
     Load();
-    EXPECT_EQ(CaptionOf(Button(Controls::takeBack)),
-              QStringLiteral("TAKE BACK ORDER OF 13 Mar 14:05"));
-    EXPECT_FALSE(Shows(Controls::notSaved));
+    const Project before = open.Now;
     Click(Button(Controls::takeBack));
-    EXPECT_EQ(open.Now.Orders, draft.Orders);
+    EXPECT_EQ(history.UndoName(), "Take back rooms of 13 Mar 14:05");
+    history.Undo();
+    EXPECT_EQ(open.Now, before);
+    history.Redo();
+    EXPECT_EQ(open.Now.Rooms.size(), 1U);
+    EXPECT_EQ(open.Now.EnteredIn, Units::Metric);
+}
+
+TEST_F(MenuDrafts, ThatCannotBeTakenBackAreNoStep) {
+    LeaveDraft(7, 0);
+    Load();
+    open.Now.Scale = 0; // no room has an extent
+    Click(Button(Controls::takeBack));
+    EXPECT_EQ(boxes.Messages.size(), 1U);
     EXPECT_EQ(open.Now.Rooms.size(), 3U);
-    EXPECT_TRUE(Shows(Controls::notSaved));
-    EXPECT_FALSE(Shows(Controls::takeBack));
-    Leave(draft, 0);
-    LeaveDraft(7, -5);
-    open.Now.Orders.clear();
-    Load(MenuEntry::ExistingProject);
-    EXPECT_EQ(FromQt(Find<QMenu>(*menu, Controls::earlierRoomsMenu).actions().at(1)->text()),
-              "13 Mar 14:05, the choices of an order");
+    EXPECT_FALSE(history.CanUndo());
 }
 
 TEST_F(MenuDrafts, AreTakenBackByTheirKey) {

@@ -28,6 +28,15 @@ TEST_F(ProjectDrafts, StayWhenTheProjectIsLeft) {
     EXPECT_EQ(CountOf("BARN"), 1U);
 }
 
+TEST_F(ProjectDrafts, AreAllThatIsLeftOfTheStepsOfItsRooms) {
+    open.Now.Name = "BARN";
+    history.Do(0, [this] { open.Now.Rooms.emplace_back(); });
+    history.Do(0, [this] { open.Now.Rooms.clear(); });
+    EXPECT_TRUE(history.CanUndo());
+    Load();
+    EXPECT_FALSE(history.CanUndo()) << "a project of that name may be another one now";
+}
+
 TEST_F(ProjectDrafts, MoveWithARenamedProject) {
     LeaveDraft("BARN");
     LeaveDraft("SHED"); // of a project that was called so once

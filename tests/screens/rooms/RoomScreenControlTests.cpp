@@ -125,7 +125,7 @@ TEST_F(EntryControls, HaveAFileMenu) {
 
 TEST_F(EntryControls, ShareNoNameAndNoMnemonic) {
     Open();
-    ExpectNamesAndMnemonicsOnce(*form, 16);
+    ExpectNamesAndMnemonicsOnce(*form, 17);
     Press(*form, Qt::Key_K, Qt::AltModifier);
     EXPECT_TRUE(HasFocus(Controls::remark));
 }
@@ -138,7 +138,7 @@ TEST_F(EntryControls, FollowTheOrderOfTyping) {
         Controls::roomNumber,      Controls::remark,         Controls::nextRoom,
         Controls::previousRoom,    Controls::deleteRoom,     Controls::estimateFromRooms,
         Controls::showReport,      Controls::leaveRooms,     Controls::saveRooms,
-        Controls::roomWidthMajor};
+        Controls::showRoomList,    Controls::roomWidthMajor};
     for (const char* name : order) {
         EXPECT_TRUE(HasFocus(name)) << name;
         Press(*form, Qt::Key_Tab);
