@@ -44,6 +44,8 @@ struct DrawingStep {
     bool IsLoose = false;
     std::string Text;
     std::string Tip; ///< box: what it stands for, for viewers that show it on request
+
+    bool operator==(const DrawingStep&) const = default;
 };
 
 /// A drawing kept as a list of steps instead of pixels, so that it can be repainted at any size,
@@ -85,6 +87,8 @@ class Drawing {
     /// The farthest point drawn to the right and down, twips; 0 when nothing is drawn.
     Double FarthestX() const { return farthestX_; }
     Double FarthestY() const { return farthestY_; }
+
+    bool operator==(const Drawing&) const = default;
 
   private:
     void Reach(Double x, Double y);

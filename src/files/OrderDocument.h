@@ -15,6 +15,8 @@ struct OrderDocument {
     Project Of;
     Units In = Units::Imperial;
     std::vector<Order> Orders;
+
+    bool operator==(const OrderDocument&) const = default;
 };
 
 /// The room that a piece is for.

@@ -4,6 +4,7 @@
 #include "estimate/CutList.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace tarn {
 
@@ -22,16 +23,16 @@ Double ListTypeSizeIn(const Drawing& drawing, const EstimateRequest& request) {
 } // namespace
 
 EstimatePage MakeEstimatePage(const std::string& project, const std::optional<Estimate>& estimate,
-                              const Drawing& drawing, PageTwips sheet, std::string_view date) {
+                              Drawing drawing, PageTwips sheet, std::string_view date) {
     EstimatePage page;
     page.Title = Space(5) + "TARN RESULT" + Space(2) + "(PROJECT: " + project + ")" + Space(2) +
                  std::string(date);
-    page.Picture = &drawing;
+    page.Picture = std::move(drawing);
     page.Sheet = sheet;
     if (estimate && !HasNothingToCut(*estimate)) {
         const auto lines = CarpetHeadingLines(estimate->Request);
         page.CarpetLines.assign(lines.begin(), lines.end());
-        page.ListTypeSize = ListTypeSizeIn(drawing, estimate->Request);
+        page.ListTypeSize = ListTypeSizeIn(page.Picture, estimate->Request);
     }
     return page;
 }

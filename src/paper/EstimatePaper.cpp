@@ -56,10 +56,10 @@ EstimatePlaces PlacesOf(const EstimatePage& page, const QSizeF& sheet) {
 }
 
 bool LosesCutList(const EstimatePage& page, const EstimatePlaces& places, const QTransform& fit) {
-    if (page.Picture == nullptr || page.ListTypeSize == 0) {
+    if (page.ListTypeSize == 0) {
         return false;
     }
-    const QRectF source = PrintedSource(*page.Picture, places.Picture);
+    const QRectF source = PrintedSource(page.Picture, places.Picture);
     const double scale = source.isEmpty() ? 0 : fit.m11() * places.Picture.width() / source.width();
     return !AreLettersPainted(page.ListTypeSize, scale * PageResolution / TwipsPerInch);
 }
@@ -138,9 +138,7 @@ void PaintEstimate(QPagedPaintDevice& device, const EstimatePage& page) {
     painter.setFont(Arial(static_cast<int>(LetterHeight(TypeSize))));
     painter.setPen(Qt::black);
     PaintLine(painter, places.Title, places.All.right() - places.Title.x(), page.Title);
-    if (page.Picture != nullptr) {
-        PaintScaled(painter, *page.Picture, places.Picture);
-    }
+    PaintScaled(painter, page.Picture, places.Picture);
     PaintLines(painter, places.CarpetLines, places.All.right(), page.CarpetLines);
     if (LosesCutList(page, places, fit)) {
         PaintLines(painter, places.ListNote, places.All.right(),

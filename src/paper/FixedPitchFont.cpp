@@ -47,7 +47,7 @@ QFont CourierNew(int size) {
 
 QFont FixedPitchFont(const QStringList& faces, int size) {
     constexpr double SameAdvance = 0.001;
-    QString fixed = QFontDatabase::systemFont(QFontDatabase::FixedFont).family();
+    QString fixed;
     double fixedAdvance = 0;
     for (const QString& face : faces) {
         if (!QFontDatabase::hasFamily(face)) {
@@ -63,6 +63,7 @@ QFont FixedPitchFont(const QStringList& faces, int size) {
         }
     }
     if (fixedAdvance == 0) {
+        fixed = QFontDatabase::systemFont(QFontDatabase::FixedFont).family();
         fixedAdvance = AdvanceOf(fixed);
     }
     const double fitted = fixedAdvance > 0 ? size * CourierAdvance / fixedAdvance : size;

@@ -28,6 +28,8 @@ struct EnteredDataReport {
 
     /// The lines, each ended by CrLf.
     std::string Text() const;
+
+    bool operator==(const EnteredDataReport&) const = default;
 };
 
 /// The report of a project whose sizes are shown in `shown`: heading, then one row for each room.

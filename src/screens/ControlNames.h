@@ -14,16 +14,7 @@ inline constexpr const char* body = "Body";
 inline constexpr const char* productTitle = "PTitle";
 inline constexpr const char* formTitle = "FTitle";
 inline constexpr const char* titleWarning = "FWarning";
-inline constexpr const char* showGuide = "ShowGuide";
-
-// Guide: the guide, which any screen opens.
-inline constexpr const char* guideWindow = "Guide";
-inline constexpr const char* guideText = "GuideText";
-inline constexpr const char* guideSearchCaption = "GuideSearchCaption";
-inline constexpr const char* guideSearch = "GuideSearch";
-inline constexpr const char* findInGuide = "FindInGuide";
-inline constexpr const char* guideNote = "GuideNote";
-inline constexpr const char* closeGuide = "CloseGuide";
+inline constexpr const char* printingNote = "PrintingNote";
 
 // Projects: the projects and their directories.
 inline constexpr const char* projectScreen = "ProjectForm";

@@ -2,7 +2,6 @@
 
 #include "screens/Display.h"
 #include "screens/Guard.h"
-#include "screens/WaitCursor.h"
 #include "store/Backups.h"
 #include "store/Configuration.h"
 #include "store/FirstStart.h"
@@ -14,8 +13,10 @@ namespace tarn {
 
 Program::Program(Dialogs& boxes, Printer& printer)
     : boxes_(boxes)
-    , printer_(printer) {
+    , printing_(printer, page_, boxes) {
     screens_.SetSession(session_);
+    printing_.OnPrinting(
+        [this] { window_.SetNote(printing_.IsPrinting() ? PrintingNote : std::string_view()); });
     const auto* application = qApp;
     const auto keep = [this] { drafts_.Flush(); };
     QObject::connect(application, &QCoreApplication::aboutToQuit, &window_, keep);
@@ -74,10 +75,7 @@ void Program::Show(const QLocale& locale) {
     project_.Now.Directory = MonthDirectoryName(session_.Today(), locale);
     screens_.ShowProjects();
     // A print server that is slow to answer must not keep the first screen from being drawn.
-    window_.AfterFirstPaint([this] {
-        const WaitCursor waiting;
-        page_ = ReadPrinterPage(printer_);
-    });
+    window_.AfterFirstPaint([this] { printing_.ReadPage(); });
     window_.show();
 }
 

@@ -20,7 +20,7 @@ namespace tarn {
 class Program {
   public:
     Program(Dialogs& boxes, Printer& printer);
-    /// What is unsaved is kept in its draft.
+    /// What is unsaved is kept in its draft, what is being printed is printed.
     ~Program();
     Program(const Program&) = delete;
     Program& operator=(const Program&) = delete;
@@ -53,13 +53,11 @@ class Program {
     DataFolder folder_;
     PageTwips page_;
     Dialogs& boxes_;
-    Printer& printer_;
+    PrintQueue printing_;
     ProgramScreens screens_{window_};
     DraftKeeper drafts_{project_};
     Preferences preferences_{UserPreferencesFile()};
-    RoomHistory history_{project_};
-    Session session_{project_, store_,  page_,        boxes_,  printer_,
-                     screens_, drafts_, preferences_, history_};
+    Session session_{project_, store_, page_, boxes_, printing_, screens_, drafts_, preferences_};
     ScreenWindow window_; // the last one: its screens are unloaded before the session goes
 };
 

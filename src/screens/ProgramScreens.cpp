@@ -54,6 +54,7 @@ void ProgramScreens::End() {
         guide_->hide();
     }
     window_.hide();
+    session_->Printing.Finish();
     QCoreApplication::exit(0);
 }
 

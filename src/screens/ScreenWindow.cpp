@@ -1,9 +1,12 @@
 #include "screens/ScreenWindow.h"
 
 #include "screens/ControlNames.h"
+#include "screens/Controls.h"
 #include "screens/Display.h"
+#include "screens/Theme.h"
 
 #include <QCloseEvent>
+#include <QLabel>
 #include <QStackedLayout>
 #include <QTimer>
 
@@ -21,6 +24,11 @@ ScreenWindow::ScreenWindow()
     : screens_(new QStackedLayout(this)) {
     setObjectName(Controls::window);
     screens_->setContentsMargins(0, 0, 0, 0);
+    note_ = NewLabel(this, Controls::printingNote, {});
+    note_->setAttribute(Qt::WA_TransparentForMouseEvents);
+    note_->setAutoFillBackground(true); // a long title may reach behind it
+    SetRole(*note_, TextRole::Hint);
+    note_->hide();
     Fit();
 }
 
@@ -78,6 +86,7 @@ void ScreenWindow::Unload(Screen& screen) {
 void ScreenWindow::ShowFront() {
     if (Screen* front = Front()) {
         screens_->setCurrentWidget(front);
+        note_->raise();
         setWindowTitle(front->Caption());
     }
 }
@@ -120,7 +129,21 @@ void ScreenWindow::moveEvent(QMoveEvent* event) {
 
 void ScreenWindow::resizeEvent(QResizeEvent* event) {
     QWidget::resizeEvent(event);
+    PlaceNote();
     QTimer::singleShot(0, this, [this] { FitAgainToANewFrame(); });
+}
+
+void ScreenWindow::SetNote(std::string_view note) {
+    SetText(*note_, note);
+    note_->setVisible(!note.empty());
+    PlaceNote();
+}
+
+void ScreenWindow::PlaceNote() {
+    const int margin = Pixels(Metrics::Margin);
+    note_->adjustSize();
+    note_->move(width() - note_->width() - margin, margin);
+    note_->raise();
 }
 
 void ScreenWindow::AfterFirstPaint(std::function<void()> action) {

@@ -7,7 +7,9 @@
 
 #include <functional>
 #include <memory>
+#include <string_view>
 
+class QLabel;
 class QStackedLayout;
 
 namespace tarn {
@@ -33,6 +35,10 @@ class ScreenWindow : public QWidget {
     /// Number of screens loaded.
     int Loaded() const;
 
+    /// Have a note stand in the corner at the top right, above all screens and out of the way of the
+    /// mouse; an empty one takes it away.
+    void SetNote(std::string_view note);
+
     /// Call `action` once, after the window has been painted for the first time.
     void AfterFirstPaint(std::function<void()> action);
 
@@ -49,8 +55,10 @@ class ScreenWindow : public QWidget {
     void Add(std::unique_ptr<Screen> screen);
     void Unload(Screen& screen);
     void ShowFront();
+    void PlaceNote();
 
     QStackedLayout* screens_ = nullptr;
+    QLabel* note_ = nullptr;
     QMargins frame_;     ///< for which the window was fitted last
     int refitsLeft_ = 0; ///< so that no window manager is argued with for ever
     std::function<void()> afterFirstPaint_;

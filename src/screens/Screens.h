@@ -38,7 +38,7 @@ class Screens {
     virtual void ShowGuide(std::string_view page) = 0;
     /// Unload the screen in front and show and enable the one below it.
     virtual void Return() = 0;
-    /// End the program. Nothing is asked and nothing saved.
+    /// End the program, once all that was to be printed is. Nothing is asked and nothing saved.
     virtual void End() = 0;
 };
 

@@ -1,12 +1,11 @@
 #pragma once
 
-#include "paper/Printer.h"
 #include "paper/PrinterPage.h"
 #include "screens/Dialogs.h"
 #include "screens/DraftKeeper.h"
 #include "screens/OpenProject.h"
 #include "screens/Preferences.h"
-#include "screens/RoomHistory.h"
+#include "screens/PrintQueue.h"
 #include "screens/Screens.h"
 #include "store/ProjectStore.h"
 
@@ -23,7 +22,7 @@ struct Session {
     ProjectStore& Store;
     PageTwips& Page; ///< of the printer, as it was read last
     Dialogs& Boxes;
-    Printer& Paper;
+    PrintQueue& Printing;
     Screens& Go;
     DraftKeeper& Drafts;
     Preferences& Kept;

@@ -31,9 +31,10 @@ TEST(MakeEstimatePage, HasTheTitleWithProjectAndDate) {
 }
 
 TEST(MakeEstimatePage, TakesOverTheDrawingAndThePrintersPage) {
-    const Drawing drawing;
+    Drawing drawing;
+    drawing.WriteLine("A");
     const EstimatePage page = MakeEstimatePage("", std::nullopt, drawing, {16838, 11906}, "");
-    EXPECT_EQ(page.Picture, &drawing);
+    EXPECT_EQ(page.Picture, drawing);
     EXPECT_EQ(page.Sheet, (PageTwips{16838, 11906}));
 }
 

@@ -290,10 +290,6 @@ TEST(PaintEstimate, OnASmallerSheetThanItWasMadeForNothingIsCutOff) {
 TEST(PaintEstimate, WithoutADrawingAndCarpetThereIsTheTitleAlone) {
     EstimatePage page;
     page.Title = "     TARN RESULT  (PROJECT: A)  1/2/2031";
-    const Drawing nothing;
-    page.Picture = &nothing;
-    EXPECT_EQ(Pdf(EstimatePdf(page)).Text().toStdString(), "TARN RESULT (PROJECT: A) 1/2/2031");
-    page.Picture = nullptr;
     EXPECT_EQ(Pdf(EstimatePdf(page)).Text().toStdString(), "TARN RESULT (PROJECT: A) 1/2/2031");
 }
 

@@ -176,6 +176,7 @@ void UserChoice::Store(std::initializer_list<Option> options) {
 
 void UseServer(const QString& address) {
     cupsSetServer(address.toUtf8().constData());
+    qputenv("CUPS_SERVER", address.toUtf8()); // what threads to come ask
 }
 
 QString DeadAddress() {
@@ -201,6 +202,7 @@ PrintServer::PrintServer(const std::vector<QueueSetup>& queues, int mostBytes) {
 PrintServer::~PrintServer() {
     EXPECT_EQ(Stop(), 0);
     cupsSetServer(nullptr);
+    qunsetenv("CUPS_SERVER");
 }
 
 void PrintServer::WriteFiles(const std::vector<QueueSetup>& queues, int mostBytes, int port) const {

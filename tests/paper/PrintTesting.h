@@ -57,7 +57,7 @@ inline Drawing CornersDrawing() {
 inline EstimatePage PageOf(const Drawing& drawing) {
     EstimatePage page;
     page.Title = "     TARN RESULT  (PROJECT: MAPLE HOUSE)  11/21/2031";
-    page.Picture = &drawing;
+    page.Picture = drawing;
     page.CarpetLines = {"Carpet-1  Width=12'0\"", "DOWNLAY"};
     page.Sheet = {16838, 11906};
     return page;

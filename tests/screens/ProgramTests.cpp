@@ -18,9 +18,11 @@
 #include <QProgressBar>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QThread>
 #include <QTimer>
 
 #include <array>
+#include <atomic>
 #include <utility>
 
 namespace tarn {
@@ -28,24 +30,26 @@ namespace {
 
 using namespace tarn::testing;
 
-/// Calls back when it is asked for its page.
-struct WatchingPrinter : FakePrinter {
+/// Calls back when it is asked for its page, on the thread that asks.
+struct WatchingPrinter : HeldPrinter {
     std::function<void()> OnPage;
 
     PageSize Page() override {
         if (OnPage) {
             OnPage();
         }
-        return FakePrinter::Page();
+        return HeldPrinter::Page();
     }
 };
 
 /// Whether an object was sent a paint event.
 struct PaintWatch : QObject {
-    bool Painted = false;
+    std::atomic<bool> Painted = false;
 
     bool eventFilter(QObject* watched, QEvent* event) override {
-        Painted = Painted || event->type() == QEvent::Paint;
+        if (event->type() == QEvent::Paint) {
+            Painted = true;
+        }
         return QObject::eventFilter(watched, event);
     }
 };
@@ -86,6 +90,12 @@ class ProgramTest : public ::testing::Test {
     void TypeRoom(const char* feetWide, const char* feetLong) {
         Type(Control<QLineEdit>(Controls::roomWidthMajor), feetWide);
         Type(Control<QLineEdit>(Controls::roomLengthMajor), feetLong);
+    }
+    QLabel& Note() { return Find<QLabel>(program_.Window(), Controls::printingNote); }
+    /// Press PRINT on the estimate's screen and wait for the page.
+    void PressPrint() {
+        Click(Control(Controls::printEstimate));
+        EXPECT_TRUE(QTest::qWaitFor([this] { return !Note().isVisible(); }));
     }
     /// From the estimate's open choices to the options screen and through it.
     void ChooseAndSearch() {
@@ -193,11 +203,11 @@ TEST_F(ProgramTest, ShowsTheProjectSelectionAndThenReadsThePrintersPage) {
 
 TEST_F(ProgramTest, PaintsTheFirstScreenBeforeItAsksThePrinter) {
     PaintWatch watch;
-    int asked = 0;
+    std::atomic<int> asked = 0;
+    std::atomic<bool> early = false;
     printer_.OnPage = [&] {
         ++asked;
-        EXPECT_TRUE(watch.Painted);
-        EXPECT_TRUE(ShowsWaiting());
+        early = !watch.Painted;
     };
     ASSERT_TRUE(Start());
     Control(Controls::selectProject).installEventFilter(&watch);
@@ -205,7 +215,61 @@ TEST_F(ProgramTest, PaintsTheFirstScreenBeforeItAsksThePrinter) {
     program_.Window().update();
     QCoreApplication::processEvents();
     EXPECT_EQ(asked, 1);
-    EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+    EXPECT_FALSE(early);
+}
+
+TEST_F(ProgramTest, GoesOnWhileAPrintServerKeepsSilent) {
+    printer_.Hold();
+    ASSERT_TRUE(Start());
+    MakeProject("HOUSE");
+    Click(Control(Controls::enterRooms));
+    TypeRoom("10", "14");
+    Click(Control(Controls::estimateFromRooms));
+    Click(Control(Controls::cancelChoices));
+    EXPECT_FALSE(Note().isVisible()) << "nothing is printed yet";
+    Click(Control(Controls::printEstimate));
+    EXPECT_TRUE(Note().isVisible());
+    EXPECT_EQ(Note().text(), QStringLiteral("Printing ..."));
+    EXPECT_TRUE(program_.Window().rect().contains(Note().geometry()));
+    Click(Control(Controls::leaveEstimate));
+    ExpectFront(Controls::roomScreen, 1);
+    EXPECT_TRUE(Note().isVisible()) << "on every screen";
+    Click(Control(Controls::nextRoom));
+    TypeRoom("12", "9");
+    Click(Control(Controls::nextRoom));
+    EXPECT_EQ(program_.Project().Now.Rooms.size(), 2U);
+    EXPECT_EQ(program_.Page(), PageTwips()) << "the printer has not answered";
+    printer_.Failure = "It is off.";
+    printer_.Release();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !Note().isVisible(); }));
+    EXPECT_EQ(boxes_.Messages, std::vector<std::string>{PrinterNotReadyMessage});
+    ExpectFront(Controls::roomScreen, 1);
+}
+
+TEST_F(ProgramTest, EndsOnceItHasPrintedWhatItWasToldTo) {
+    ASSERT_TRUE(Start());
+    MakeProject("HOUSE");
+    Click(Control(Controls::enterRooms));
+    TypeRoom("10", "14");
+    Click(Control(Controls::showReport));
+    printer_.Hold();
+    Click(Control(Controls::printReport));
+    Click(Control(Controls::closeReport));
+    Click(Control(Controls::leaveRooms));
+    Click(Control(Controls::backToProjects));
+    bool printed = false;
+    const auto release = [this] { printer_.Release(); };
+    QTimer::singleShot(0, &program_.Window(), [&] {
+        Click(Control(Controls::exitProgram));
+        EXPECT_FALSE(program_.Window().isVisible());
+        printed = printer_.Reports.size() == 1;
+    });
+    const std::unique_ptr<QThread> server(QThread::create(release));
+    server->start();
+    QCoreApplication::exec();
+    server->wait();
+    EXPECT_TRUE(printed);
+    EXPECT_TRUE(boxes_.Messages.empty());
 }
 
 TEST_F(ProgramTest, ChecksTheDisplayBeforeTheConfiguration) {
@@ -251,10 +315,10 @@ TEST_F(ProgramTest, UnloadsItsScreensBeforeWhatTheyWorkOn) {
 
 TEST_F(ProgramTest, StartsWithoutAPrinterAndSaysNothing) {
     printer_.Failure = "no queue";
-    bool asked = false;
+    std::atomic<bool> asked = false;
     printer_.OnPage = [&] { asked = true; };
     ASSERT_TRUE(Start());
-    EXPECT_TRUE(QTest::qWaitFor([&] { return asked; }));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return asked.load(); }));
     EXPECT_EQ(program_.Page().Width, 0);
     EXPECT_TRUE(boxes_.Messages.empty());
 }
@@ -420,13 +484,15 @@ class SearchTest : public ProgramTest {
         ExpectFront(Controls::estimateScreen, 2);
         ASSERT_EQ(program_.Window().Front(), estimate_);
         EXPECT_TRUE(estimate_->isEnabled());
-        Click(Control(Controls::printEstimate));
+        PressPrint();
         ASSERT_EQ(printer_.Estimates.size(), 1U);
         EXPECT_TRUE(printer_.Estimates[0].CarpetLines.empty());
-        EXPECT_TRUE(printer_.Estimates[0].Picture->Steps().empty());
+        EXPECT_TRUE(printer_.Estimates[0].Picture.Steps().empty());
         Click(Control(Controls::redrawLayout));
-        ASSERT_EQ(printer_.Estimates[0].Picture->Steps().size(), 1U);
-        EXPECT_EQ(printer_.Estimates[0].Picture->Steps()[0].Text, "NO FILLS TO DISPLAY");
+        PressPrint();
+        const Drawing& redrawn = printer_.Estimates.back().Picture;
+        ASSERT_EQ(redrawn.Steps().size(), 1U);
+        EXPECT_EQ(redrawn.Steps()[0].Text, "NO FILLS TO DISPLAY");
     }
 
     Screen* estimate_ = nullptr;

@@ -69,42 +69,10 @@ void ExpectToldOnceAndPrintedLater(FakeBoxes& boxes, const std::function<void()>
     EXPECT_TRUE(boxes.Messages.empty());
 }
 
-/// The system's printer; notes whether waiting was shown whenever it was used.
-struct WatchedPrinter : Printer {
-    PageSize Page() override {
-        Waiting.push_back(ShowsWaiting());
-        return System.Page();
-    }
-    void PrintReport(const EnteredDataReport& report) override {
-        Waiting.push_back(ShowsWaiting());
-        System.PrintReport(report);
-    }
-    void PrintEstimate(const EstimatePage& page) override {
-        Waiting.push_back(ShowsWaiting());
-        System.PrintEstimate(page);
-    }
-    void PrintOrder(const OrderDocument& document, const std::string& date) override {
-        Waiting.push_back(ShowsWaiting());
-        System.PrintOrder(document, date);
-    }
-
-    SystemPrinter System;
-    std::vector<bool> Waiting;
-};
-
-/// Waiting is shown at every use of the printer, without a server and then with one, and neither
-/// behind the message nor afterwards.
-void ExpectWaitingShown(const WatchedPrinter& printer, FakeBoxes& boxes, std::size_t uses,
-                        const std::function<void()>& press) {
-    boxes.OnMessage = [] { EXPECT_FALSE(ShowsWaiting()); };
-    UseServer(DeadAddress());
-    press();
-    EXPECT_EQ(boxes.Messages.size(), 1U);
-    const PrintServer server({QueueSetup()});
-    press();
-    EXPECT_EQ(boxes.Messages.size(), 1U);
-    EXPECT_EQ(printer.Waiting, std::vector<bool>(uses, true));
-    EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+/// Wait until everything is printed, as long as the printing system may take.
+void AwaitEnd(const PrintQueue& queue) {
+    constexpr int AtMost = 60000; // milliseconds
+    EXPECT_TRUE(QTest::qWaitFor([&queue] { return !queue.IsPrinting(); }, AtMost));
 }
 
 struct PrintedFromRooms : ScreenTest {
@@ -116,11 +84,15 @@ struct PrintedFromRooms : ScreenTest {
         ShowOnDisplay(*form);
         Click(Find(*form, Controls::showReport));
     }
-    void Print() { Click(Find(*form, Controls::printReport)); }
+    void Print() {
+        Click(Find(*form, Controls::printReport));
+        AwaitEnd(queue);
+    }
     bool IsReportShown() { return Find(*form, Controls::reportPanel).isVisible(); }
 
-    WatchedPrinter system;
-    Session real{open, store, page, boxes, system, screens, drafts, kept, history, session.Today};
+    SystemPrinter system;
+    PrintQueue queue{system, page, boxes};
+    Session real{open, store, page, boxes, queue, screens, drafts, kept, session.Today};
     std::unique_ptr<RoomScreen> form;
 };
 
@@ -141,10 +113,6 @@ TEST_F(PrintedFromRooms, TheReportStaysOpenUntilThePrinterIsThere) {
     EXPECT_FALSE(IsReportShown());
 }
 
-TEST_F(PrintedFromRooms, WaitingIsShownWhileThePrinterIsAsked) {
-    ExpectWaitingShown(system, boxes, 2, [this] { Print(); });
-}
-
 struct PrintedFromEstimate : EstimateScreenTest {
     PrintedFromEstimate() {
         Add({200, 120});
@@ -153,10 +121,14 @@ struct PrintedFromEstimate : EstimateScreenTest {
         PressOk();
         Search();
     }
-    void Print() { Click(Button(Controls::printEstimate)); }
+    void Print() {
+        Click(Button(Controls::printEstimate));
+        AwaitEnd(queue);
+    }
 
-    WatchedPrinter system;
-    Session real{open, store, page, boxes, system, screens, drafts, kept, history, session.Today};
+    SystemPrinter system;
+    PrintQueue queue{system, page, boxes};
+    Session real{open, store, page, boxes, queue, screens, drafts, kept, session.Today};
 };
 
 TEST_F(PrintedFromEstimate, TheEstimateArrives) {
@@ -190,10 +162,6 @@ TEST_F(PrintedFromEstimate, TheEstimateStaysUsableUntilThePrinterIsThere) {
             });
         screens.Calls.clear();
     }
-}
-
-TEST_F(PrintedFromEstimate, WaitingIsShownWhileThePrinterIsAsked) {
-    ExpectWaitingShown(system, boxes, 3, [this] { Print(); }); // Page twice, and the job
 }
 
 } // namespace

@@ -12,6 +12,7 @@
 #include <QTextDocumentFragment>
 
 #include <algorithm>
+#include <chrono>
 
 namespace tarn::testing {
 
@@ -77,10 +78,28 @@ std::optional<std::string> FakeBoxes::SaveFileName(const std::string& suggestedN
 }
 
 Printer::PageSize FakePrinter::Page() {
-    if (!Failure.empty()) {
-        throw PrinterError(Failure);
+    if (const std::string failure = Failure.Get(); !failure.empty()) {
+        throw PrinterError(failure);
     }
     return Size;
+}
+
+void HeldPrinter::Hold() {
+    const std::lock_guard lock(mutex_);
+    held_ = true;
+}
+
+void HeldPrinter::Release() {
+    const std::lock_guard lock(mutex_);
+    held_ = false;
+    changed_.notify_all();
+}
+
+Printer::PageSize HeldPrinter::Page() {
+    constexpr std::chrono::seconds AtMost(20);
+    std::unique_lock lock(mutex_);
+    changed_.wait_for(lock, AtMost, [this] { return !held_; });
+    return FakePrinter::Page();
 }
 
 void FakePrinter::PrintReport(const EnteredDataReport& report) {

@@ -17,9 +17,11 @@
 
 #include <gtest/gtest.h>
 
+#include <condition_variable>
 #include <deque>
 #include <functional>
 #include <memory>
+#include <mutex>
 #include <optional>
 #include <stdexcept>
 #include <string>
@@ -56,9 +58,28 @@ struct FakeBoxes : Dialogs {
                                             const std::string& suffix) override;
 };
 
-/// Records the printed jobs; with Failure set it refuses them.
+/// A text that a test sets while another thread may read it.
+class SharedText {
+  public:
+    SharedText& operator=(const std::string& text) {
+        const std::lock_guard lock(mutex_);
+        text_ = text;
+        return *this;
+    }
+    std::string Get() const {
+        const std::lock_guard lock(mutex_);
+        return text_;
+    }
+
+  private:
+    mutable std::mutex mutex_;
+    std::string text_;
+};
+
+/// Records the printed jobs; with Failure set it refuses them. It is used on the thread that
+/// prints: what it recorded is read, and its size set, while nothing is being printed.
 struct FakePrinter : Printer {
-    std::string Failure;
+    SharedText Failure;
     PageSize Size{16838, 11906};
     std::vector<std::string> Reports; ///< their texts
     std::vector<EstimatePage> Estimates;
@@ -68,6 +89,18 @@ struct FakePrinter : Printer {
     void PrintReport(const EnteredDataReport& report) override;
     void PrintEstimate(const EstimatePage& page) override;
     void PrintOrder(const OrderDocument& document, const std::string& date) override;
+};
+
+/// Keeps silent while it is held, as a print server may; but not for ever.
+struct HeldPrinter : FakePrinter {
+    void Hold();
+    void Release();
+    PageSize Page() override;
+
+  private:
+    std::mutex mutex_;
+    std::condition_variable changed_;
+    bool held_ = false;
 };
 
 /// Records the way between the screens: "projects", "menu existing", "menu new", "menu returning",
@@ -138,18 +171,24 @@ struct ScreenTest : ::testing::Test {
     /// The drafts of the test's projects, as another run of the program has them.
     Drafts NewRun() const { return {FromQt(state.filePath(QStringLiteral("tarn"))), "Tarn.mdb"}; }
 
+    /// Wait until all that was to be printed is, and told.
+    void AwaitPrinter() const {
+        EXPECT_TRUE(QTest::qWaitFor([this] { return !printing.IsPrinting(); }));
+    }
+
     OpenProject open;
     ProjectStore store;
     PageTwips page;
     FakeBoxes boxes;
     FakePrinter printer;
+    PrintQueue printing{printer, page, boxes};
     FakeScreens screens;
     QTemporaryDir state; ///< of the drafts
     DraftKeeper drafts{open};
     Preferences kept;
-    RoomHistory history{open};
-    Session session{open,    store,  page, boxes,   printer,
-                    screens, drafts, kept, history, [] { return QDate(2026, 3, 14); }};
+    Session session{open,   store,    page,
+                    boxes,  printing, screens,
+                    drafts, kept,     [] { return QDate(2026, 3, 14); }};
 };
 
 } // namespace tarn::testing

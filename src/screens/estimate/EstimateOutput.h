@@ -11,10 +11,9 @@
 
 namespace tarn {
 
-/// Print the drawing as it stands, with the line of its carpet, on one page. The printer's sheet is
-/// asked for while it is not known. What fails is told as Print does;
-/// so is it, afterwards, when the page cannot show the cut list.
-void PrintEstimate(Session& session, const std::optional<Estimate>& estimate,
+/// Print the drawing as it stands, which `screen` shows, with the line of its carpet, on one page
+/// (see PrintQueue). The printer's sheet is asked for while it is not known.
+void PrintEstimate(Session& session, QObject& screen, const std::optional<Estimate>& estimate,
                    const Drawing& drawing);
 
 /// Ask for a file and save the printed page there as PDF; nothing when that was cancelled. Raises

@@ -220,10 +220,7 @@ void EstimateScreen::Connect() {
     OnClick(*paste_, DrawingFailure, [this] { SetPasting(true); });
     OnClick(*redraw_, DrawingFailure, [this] { RedrawLayout(); });
     OnClick(*improve_, DrawingFailure, [this] { ImproveLayout(); });
-    OnClick(*order_, OrderFailure, [this] {
-        Shared().Go.ShowOrder(estimate_ ? std::optional(estimate_->Request.Carpet) : std::nullopt);
-    });
-    OnClick(*print_, {}, [this] { PrintEstimate(Shared(), estimate_, picture_->Shown()); });
+    OnClick(*print_, {}, [this] { PrintEstimate(Shared(), *this, estimate_, picture_->Shown()); });
     IgnoreSecondClick(*print_);
     OnClick(*save_, std::string(NotSavedMessage), [this] { SaveRooms(); });
     OnClick(*back_, LeaveFailure, [this] { Leave(); });

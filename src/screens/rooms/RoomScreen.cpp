@@ -14,7 +14,6 @@
 #include "screens/ControlNames.h"
 #include "screens/Controls.h"
 #include "screens/Display.h"
-#include "screens/Printing.h"
 #include "screens/SaveAs.h"
 #include "screens/SaveProject.h"
 #include "screens/Theme.h"
@@ -570,6 +569,7 @@ void RoomScreen::ShowReport() {
     WithRoomStored([this] {
         const OpenProject& project = Shared().Project;
         report_->Show(MakeReport(project.Now, project.Shown, Date(Shared().Today())));
+        reading_ = std::make_unique<QObject>();
         SetEntryEnabled(false);
         ShowPanel(*report_);
         report_->View().setFocus();
@@ -635,9 +635,7 @@ void RoomScreen::PrintShown() {
 }
 
 void RoomScreen::PrintReport() {
-    if (Print(Shared().Boxes, [this] { Shared().Paper.PrintReport(report_->Shown()); })) {
-        CloseReport();
-    }
+    Shared().Printing.Print(report_->Shown(), *reading_, [this] { CloseReport(); });
 }
 
 void RoomScreen::SaveReportAsPdf() {
@@ -652,6 +650,7 @@ void RoomScreen::SaveReportAsSvg() {
 }
 
 void RoomScreen::CloseReport() {
+    reading_.reset();
     SetEntryEnabled(true);
     ShowPanel(*entry_);
     FirstFocus()->setFocus();

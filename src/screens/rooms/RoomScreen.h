@@ -5,7 +5,7 @@
 
 #include <cstddef>
 #include <functional>
-#include <optional>
+#include <memory>
 #include <string>
 
 class QPushButton;
@@ -127,9 +127,8 @@ class RoomScreen : public TitledScreen {
 
     RoomEntryFrame* entry_;
     ReportFrame* report_;
-    RoomListFrame* list_ = nullptr;
-    UndoMenu* undo_ = nullptr;
-    QWidget* below_ = nullptr; ///< holds the buttons that follow
+    std::unique_ptr<QObject> reading_; ///< while the report is shown
+    QWidget* below_ = nullptr; ///< holds BACK and SAVE
     QPushButton* back_ = nullptr;
     QPushButton* save_ = nullptr;
     QPushButton* showList_ = nullptr; ///< shows the list, or the form again

@@ -112,12 +112,12 @@ TEST_F(EstimateScreenActions, PrintThePictureAsItStands) {
     OpenEstimated();
     page = {15000, 11000};
     printer.Size = {1, 1};
-    Click(Button(Controls::printEstimate));
+    PressPrint();
     ASSERT_EQ(printer.Estimates.size(), 1U);
     const EstimatePage& printed = printer.Estimates[0];
     EXPECT_EQ(printed.Title,
               "     TARN RESULT  (PROJECT: MAPLE STREET 9)  " + ShortDate(2026, 3, 14));
-    EXPECT_EQ(printed.Picture, &Picture().Shown());
+    EXPECT_EQ(printed.Picture, Picture().Shown());
     EXPECT_THAT(printed.CarpetLines, ElementsAre("Carpet-1  Width=12'0\"", "DOWNLAY"));
     EXPECT_EQ(printed.Sheet, (PageTwips{15000, 11000}));
     EXPECT_TRUE(boxes.Messages.empty());
@@ -127,18 +127,19 @@ TEST_F(EstimateScreenActions, PrintThePictureAsItStands) {
 TEST_F(EstimateScreenActions, PrintOnceForADoubleClick) {
     OpenEstimated();
     QWidget& print = Button(Controls::printEstimate);
-    Click(print);
+    PressPrint();
     DoubleClick(print); // its second press
     QTest::mouseRelease(&print, Qt::LeftButton);
+    AwaitPrinter();
     EXPECT_EQ(printer.Estimates.size(), 1U);
-    Click(print);
+    PressPrint();
     EXPECT_EQ(printer.Estimates.size(), 2U);
 }
 
 TEST_F(EstimateScreenActions, PrintNoCarpetLineBeforeAnEstimate) {
     Open({{200, 120}});
     Click(Button(Controls::cancelChoices));
-    Click(Button(Controls::printEstimate));
+    PressPrint();
     ASSERT_EQ(printer.Estimates.size(), 1U);
     EXPECT_TRUE(printer.Estimates[0].CarpetLines.empty());
 }
@@ -150,7 +151,7 @@ TEST_F(EstimateScreenActions, AskForThePageWhenEitherSizeIsMissing) {
         OpenEstimated();
         page = {width, height};
         printer.Estimates.clear();
-        Click(Button(Controls::printEstimate));
+        PressPrint();
         ASSERT_EQ(printer.Estimates.size(), 1U);
         EXPECT_EQ(printer.Estimates[0].Sheet, (PageTwips{16838, 11906}));
         EXPECT_EQ(page, (PageTwips{16838, 11906}));
@@ -165,15 +166,15 @@ TEST_F(EstimateScreenActions, TellOnceThatThePrinterIsNotReadyAndStayUsable) {
         const auto written = Written();
         page = known;
         printer.Failure = "There is no printer.";
-        Click(Button(Controls::printEstimate));
+        PressPrint();
         EXPECT_EQ(boxes.Messages, std::vector<std::string>{
                                       "Warning: Your printer is not ready!\r\n\r\nYou couldn't "
                                       "print in the program"});
         EXPECT_TRUE(printer.Estimates.empty());
         EXPECT_EQ(page, known);
         EXPECT_EQ(Written(), written);
-        printer.Failure.clear();
-        Click(Button(Controls::printEstimate));
+        printer.Failure = "";
+        PressPrint();
         EXPECT_EQ(printer.Estimates.size(), 1U);
         printer.Estimates.clear();
     }
@@ -182,13 +183,13 @@ TEST_F(EstimateScreenActions, TellOnceThatThePrinterIsNotReadyAndStayUsable) {
 TEST_F(EstimateScreenActions, PrintOnASheetThatIsTooLargeToBeKept) {
     OpenEstimated();
     printer.Size = {20000, 40000};
-    Click(Button(Controls::printEstimate));
+    PressPrint();
     EXPECT_TRUE(boxes.Messages.empty());
     EXPECT_FALSE(page.IsKnown());
     ASSERT_EQ(printer.Estimates.size(), 1U);
     EXPECT_EQ(printer.Estimates[0].Sheet.Height, 0) << "which stands for the printer's own sheet";
     printer.Size = {16838, 11906};
-    Click(Button(Controls::printEstimate));
+    PressPrint();
     EXPECT_EQ(printer.Estimates.size(), 2U);
     EXPECT_EQ(page.Width, 16838) << "the page is asked for again";
 }
@@ -343,7 +344,8 @@ TEST_F(EstimateScreenActions, PressTheirButtonsByLetterAndWithEnter) {
     Press(*form, Qt::Key_R, Qt::AltModifier);
     EXPECT_TRUE(QTest::qWaitFor([&] { return Written().size() == 1; }));
     Press(*form, Qt::Key_I, Qt::AltModifier);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return printer.Estimates.size() == 1; }));
+    AwaitPrinter();
+    EXPECT_EQ(printer.Estimates.size(), 1U);
     Focus(Button(Controls::openChoices));
     Press(*form, Qt::Key_Return);
     EXPECT_TRUE(Panel().isVisible());

@@ -106,7 +106,7 @@ TEST_F(Improving, ShowsTheShorterLayoutEverywhereAndSaysSo) {
     EXPECT_EQ(TimesWritten("A"), 1);
     EXPECT_TRUE(boxes.Messages.empty());
     EXPECT_TRUE(ImproveView().isHidden());
-    Click(Button(Controls::printEstimate));
+    PressPrint();
     ASSERT_EQ(printer.Estimates.size(), 1U);
 }
 

@@ -165,9 +165,9 @@ TEST_F(EstimatePictures, IgnoreOtherButtonsUnlessAskedToPaste) {
 TEST_F(EstimatePictures, ArePrintedAsRedrawn) {
     OpenEstimated();
     Click(Button(Controls::redrawLayout));
-    Click(Button(Controls::printEstimate));
+    PressPrint();
     ASSERT_EQ(printer.Estimates.size(), 1U);
-    EXPECT_EQ(printer.Estimates[0].Picture, &Picture().Shown());
+    EXPECT_EQ(printer.Estimates[0].Picture, Picture().Shown());
     EXPECT_THAT(Written(), ElementsAre("A"));
     EXPECT_THAT(printer.Estimates[0].CarpetLines, ElementsAre("Carpet-1  Width=12'0\"", "DOWNLAY"));
 }
@@ -176,10 +176,10 @@ TEST_F(EstimatePictures, ArePrintedWithoutACarpetLineAfterAStoppedSearch) {
     Open({{200, 120}});
     PressOk();
     screens.Client->NoEstimate();
-    Click(Button(Controls::printEstimate));
+    PressPrint();
     ASSERT_EQ(printer.Estimates.size(), 1U);
     EXPECT_THAT(printer.Estimates[0].CarpetLines, IsEmpty());
-    EXPECT_THAT(printer.Estimates[0].Picture->Steps(), IsEmpty());
+    EXPECT_THAT(printer.Estimates[0].Picture.Steps(), IsEmpty());
 }
 
 TEST_F(EstimatePictures, AreSavedAsPdfAndSvgFromTheirMenu) {
@@ -206,7 +206,7 @@ TEST_F(EstimatePictures, TellThatAPageCannotShowTheirList) {
     Search();
     const std::vector<std::string> told{std::string(ListNotShownText)};
     const std::vector<std::string> where{std::string(ListElsewhereText)};
-    Click(Button(Controls::printEstimate));
+    PressPrint();
     EXPECT_EQ(printer.Estimates.size(), 1U) << "it is printed all the same";
     EXPECT_EQ(boxes.Messages, told);
     EXPECT_EQ(boxes.Informative, where);
@@ -217,12 +217,12 @@ TEST_F(EstimatePictures, TellThatAPageCannotShowTheirList) {
     EXPECT_THAT(files.Content(), ElementsAre("a.pdf"));
     boxes.Messages.clear();
     Click(Button(Controls::redrawLayout));
-    Click(Button(Controls::printEstimate));
+    PressPrint();
     EXPECT_THAT(boxes.Messages, IsEmpty()) << "the list was not to be printed";
     printer.Failure = "It is off.";
     Click(Button(Controls::pasteCuts));
     Press(*form, Qt::Key_Return);
-    Click(Button(Controls::printEstimate));
+    PressPrint();
     EXPECT_EQ(boxes.Messages, std::vector<std::string>{PrinterNotReadyMessage});
 }
 

@@ -53,6 +53,11 @@ struct EstimateScreenTest : ScreenTest {
 
     void PressOk() { Click(Button(Controls::acceptChoices)); }
 
+    void PressPrint() {
+        Click(Button(Controls::printEstimate));
+        AwaitPrinter();
+    }
+
     /// What the options screen makes of the request that it was handed.
     Estimate Searched() {
         SearchObserver nobody;
@@ -68,6 +73,7 @@ struct EstimateScreenTest : ScreenTest {
     std::vector<std::string> PrintedCarpetLines() {
         const std::size_t before = printer.Estimates.size();
         Button(Controls::printEstimate).click();
+        AwaitPrinter();
         if (printer.Estimates.size() != before + 1) {
             throw std::runtime_error("nothing was printed");
         }

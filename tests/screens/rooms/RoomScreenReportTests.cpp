@@ -171,6 +171,7 @@ TEST_F(ReportOfRooms, IsPrintedAndClosed) {
     Open();
     ClickOn(Controls::showReport);
     ClickOn(Controls::printReport);
+    AwaitPrinter();
     EXPECT_EQ(printer.Reports, Lines{Expected()}) << "the lines end in CrLf";
     ExpectEntryShown();
     EXPECT_TRUE(HasFocus(Controls::roomWidthMajor));
@@ -183,12 +184,14 @@ TEST_F(ReportOfRooms, StaysOpenWhenItCannotBePrinted) {
     Open();
     ClickOn(Controls::showReport);
     ClickOn(Controls::printReport);
+    AwaitPrinter();
     EXPECT_EQ(boxes.Messages, Lines{"Warning: Your printer is not ready!\r\n\r\n"
                                     "You couldn't print in the program"});
     EXPECT_TRUE(IsReportShown());
-    printer.Failure.clear();
+    printer.Failure = "";
     Find(*form, Controls::printReport).setFocus();
     Press(*form, Qt::Key_Return);
+    AwaitPrinter();
     EXPECT_EQ(printer.Reports.size(), 1U);
     ExpectEntryShown();
 }
@@ -197,12 +200,14 @@ TEST_F(ReportOfRooms, StaysOpenWhateverFailsWhileItIsPrinted) {
     struct BrokenPrinter : FakePrinter {
         void PrintReport(const EnteredDataReport& /*report*/) override { RaiseSubscript(); }
     } broken;
-    Session other{open, store, page, boxes, broken, screens, drafts, kept, history, session.Today};
+    PrintQueue queue(broken, page, boxes);
+    Session other{open, store, page, boxes, queue, screens, drafts, kept, session.Today};
     AddRooms(1);
     form = std::make_unique<RoomScreen>(other);
     ShowOnDisplay(*form);
     ClickOn(Controls::showReport);
     ClickOn(Controls::printReport);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !queue.IsPrinting(); }));
     EXPECT_EQ(boxes.Messages, Lines{"Warning: Your printer is not ready!\r\n\r\n"
                                     "You couldn't print in the program"});
     EXPECT_TRUE(IsReportShown());
