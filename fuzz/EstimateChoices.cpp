@@ -29,7 +29,7 @@ void CheckChoices(FuzzInput input) {
     choices.Direction = (uses & 4) != 0 ? Lay::Cross : Lay::Down;
     choices.Carpet = uses >> 5;
     if ((uses & 8) != 0) {
-        choices.WidthCaption = WidthCaptions(units)[(uses >> 3) % 4];
+        choices.StandardWidth = (uses >> 3) % 4;
     }
     choices.OtherFeet = input.Line();
     choices.OtherInches = input.Line();

@@ -22,8 +22,7 @@ constexpr std::string_view BaseFormat = "###0.00";
 
 /// A length of roll in inches as totals show it.
 std::string TotalText(Double inches, Units units) {
-    return WholeLengthText(
-        units == Units::Metric ? RoundedCentimetres(inches) : WholeInches(inches), units);
+    return WholeLengthText(ListedTotal(inches, units), units);
 }
 
 /// The size of a cut or piece from its edges in coordinate units.

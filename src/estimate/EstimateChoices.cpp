@@ -34,8 +34,8 @@ std::optional<std::size_t> FirstRefused(std::string_view first, std::string_view
 
 /// The roll width, inches, or why it cannot be estimated with.
 std::variant<Single, ChoicesRefusal> WidthOf(const EstimateChoices& choices, Units units) {
-    if (!choices.WidthCaption.empty()) {
-        return CaptionRollWidth(choices.WidthCaption, units);
+    if (choices.StandardWidth) {
+        return StandardRollWidth(*choices.StandardWidth, units);
     }
     const auto refused = FirstRefused(choices.OtherFeet, choices.OtherInches);
     if (!refused) {

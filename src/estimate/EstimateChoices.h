@@ -8,6 +8,7 @@
 #include "project/Project.h"
 
 #include <array>
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -27,13 +28,32 @@ CarpetsFound FindCarpets(const Project& project);
 /// What is chosen for one estimate, as it stands on the choice panel: texts as typed.
 struct EstimateChoices {
     Lay Direction = Lay::Down;
-    Byte Carpet = 0;          ///< covering code 0 .. 7
-    std::string WidthCaption; ///< of the standard width; empty for a free width
-    std::string OtherFeet;    ///< the free width: feet and inches, also in metric units
+    Byte Carpet = 0;                          ///< covering code 0 .. 7
+    std::optional<std::size_t> StandardWidth; ///< its number in WidthCaptions; none: a free width
+    std::string OtherFeet; ///< the free width: feet and inches, also in metric units
     std::string OtherInches;
     bool Match = false; ///< the carpet has a pattern repeat
     std::string MatchWidth;
     std::string MatchLength;
+
+    bool operator==(const EstimateChoices&) const = default;
+};
+
+/// What is chosen for fills, as the options have it.
+struct FillChoices {
+    MinCut ShortestPart = MinCut::ThreeFeet;
+    Integer PiecesPerFill = 1;
+
+    bool operator==(const FillChoices&) const = default;
+};
+
+/// All that was chosen for an estimate, so that it can be chosen again.
+struct LastChoices {
+    Units In = Units::Imperial; ///< the texts mean something else in other units
+    EstimateChoices Choices;
+    std::optional<FillChoices> Fills; ///< none when there were no fills
+
+    bool operator==(const LastChoices&) const = default;
 };
 
 inline constexpr std::string_view WrongWidthMessage = "The carpet width is not correct.";

@@ -1,6 +1,8 @@
 #include "estimate/ImproveEstimate.h"
 
+#include "base/Lengths.h"
 #include "estimate/MinCuts.h"
+#include "estimate/Totals.h"
 
 #include <algorithm>
 
@@ -37,6 +39,13 @@ ImprovedEstimate ImproveEstimate(const Estimate& estimate, const ImproveLimits& 
         KeepRecord(*record, result);
     }
     return improved;
+}
+
+std::string ShorterText(const Estimate& estimate, const Estimate& better) {
+    const Units units = estimate.Request.In;
+    const Long shorter = ListedTotal(TotalRoll(estimate).Length, units) -
+                         ListedTotal(TotalRoll(better).Length, units);
+    return shorter > 0 ? WholeLengthText(shorter, units) + " shorter" : "";
 }
 
 } // namespace tarn

@@ -3,6 +3,8 @@
 #include "estimate/Estimate.h"
 #include "improve/ImproveFills.h"
 
+#include <string>
+
 namespace tarn {
 
 /// An estimate after an improving search, and how that went.
@@ -18,5 +20,9 @@ struct ImprovedEstimate {
 /// nothing better was ever found. Raises as ImproveFills.
 ImprovedEstimate ImproveEstimate(const Estimate& estimate, const ImproveLimits& limits,
                                  ImproveObserver& observer);
+
+/// By how much less roll the better of two estimates of one request takes, as their totals are
+/// listed: 8'3" shorter. Empty when the list shows no difference.
+std::string ShorterText(const Estimate& estimate, const Estimate& better);
 
 } // namespace tarn

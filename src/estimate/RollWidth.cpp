@@ -68,6 +68,10 @@ Single CaptionRollWidth(std::string_view caption, Units units) {
     return units == Units::Metric ? FromCentimetres(number) : CSng(number * InchesPerFoot);
 }
 
+Single StandardRollWidth(std::size_t number, Units units) {
+    return CaptionRollWidth(WidthCaptions(units).at(number), units);
+}
+
 Single OtherRollWidth(std::string_view feet, std::string_view inches) {
     return CSng(Val(feet) * InchesPerFoot + Val(inches));
 }

@@ -7,6 +7,7 @@
 #include "base/Units.h"
 
 #include <array>
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -29,6 +30,9 @@ std::string_view CaptionNumber(std::string_view caption);
 /// The roll width, in inches, that a caption names: the number behind "CARPET WIDTH", in feet, or
 /// in centimetres in metric units.
 Single CaptionRollWidth(std::string_view caption, Units units);
+
+/// The standard roll width, in inches, of that number in WidthCaptions.
+Single StandardRollWidth(std::size_t number, Units units);
 
 /// The roll width, in inches, of a free width typed as feet and inches; also in metric units.
 Single OtherRollWidth(std::string_view feet, std::string_view inches);

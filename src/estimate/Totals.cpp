@@ -84,6 +84,10 @@ Area AreaOf(Double squareInches) {
             squareInches * CentimetresPerInch * CentimetresPerInch / 10000};
 }
 
+Long ListedTotal(Double inches, Units units) {
+    return units == Units::Metric ? RoundedCentimetres(inches) : WholeInches(inches);
+}
+
 RollTotals TotalRoll(const Estimate& estimate) {
     RollTotals totals;
     totals.CutLength = static_cast<Double>(TotalCutLength(estimate));

@@ -50,6 +50,10 @@ struct RollTotals {
     Area Size;            ///< of that length at the roll's width
 };
 
+/// A length of roll in inches as totals list it: whole inches, or centimetres. Raises "Overflow"
+/// beyond a Long.
+Long ListedTotal(Double inches, Units units);
+
 /// Roll width times the length of the cuts and the reported length of the fills.
 RollTotals TotalRoll(const Estimate& estimate);
 

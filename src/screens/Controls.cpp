@@ -6,6 +6,7 @@
 #include <QEvent>
 #include <QLabel>
 #include <QPushButton>
+#include <QShortcut>
 #include <QShortcutEvent>
 #include <QTextDocument>
 
@@ -92,6 +93,12 @@ QPushButton* NewButton(QWidget* parent, QAnyStringView name, std::string_view ca
     button->setObjectName(name);
     SetCaption(*button, caption, mnemonic);
     return button;
+}
+
+void PressOnKeys(QAbstractButton& button, const QKeySequence& keys, QWidget& screen) {
+    auto* shortcut = new QShortcut(keys, &screen);
+    shortcut->setAutoRepeat(false);
+    QObject::connect(shortcut, &QShortcut::activated, &button, &QAbstractButton::click);
 }
 
 void IgnoreSecondClick(QAbstractButton& button) {

@@ -9,6 +9,7 @@
 #include <string_view>
 
 class QAbstractButton;
+class QKeySequence;
 class QLabel;
 class QPushButton;
 class QWidget;
@@ -30,6 +31,9 @@ QString CaptionOf(const QAbstractButton& button);
 
 QPushButton* NewButton(QWidget* parent, QAnyStringView name, std::string_view caption,
                        char mnemonic = 0);
+/// Have keys press the button, too, wherever the focus is on its screen; once however long they are
+/// held, and not while the button is out of use.
+void PressOnKeys(QAbstractButton& button, const QKeySequence& keys, QWidget& screen);
 /// Have a double click on the button press it once.
 void IgnoreSecondClick(QAbstractButton& button);
 

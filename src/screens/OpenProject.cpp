@@ -14,6 +14,12 @@ bool OpenProject::IsInMetric() const {
            (Now.Rooms.empty() && !Typed.IsEmpty() && Typed.In == Units::Metric);
 }
 
+std::optional<LastChoices> OpenProject::LastChosen() const {
+    const auto found = Chosen.find(Now.Name);
+    return found != Chosen.end() && found->second.In == Shown ? std::optional(found->second)
+                                                              : std::nullopt;
+}
+
 std::string_view UnitsWarning(const OpenProject& project) {
     const bool hasSizes = !project.Now.Rooms.empty() || !project.Typed.IsEmpty();
     if (project.Shown == Units::Imperial) {
@@ -112,6 +118,7 @@ void DropRooms(OpenProject& project) {
     dropped.Now.Name = std::move(project.Now.Name);
     dropped.Now.Directory = std::move(project.Now.Directory);
     dropped.Saved = dropped.Now;
+    dropped.Chosen = std::move(project.Chosen);
     project = std::move(dropped);
 }
 

@@ -3,11 +3,13 @@
 #pragma once
 
 #include "base/Units.h"
+#include "estimate/EstimateChoices.h"
 #include "project/Project.h"
 #include "project/Typing.h"
 #include "store/DraftRecord.h"
 #include "store/ProjectStore.h"
 
+#include <map>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -21,6 +23,11 @@ struct OpenProject {
     std::optional<StoredMark> Read; ///< what the store had of it then; nothing before
     Typing Typed;                   ///< what stands in the fields of the rooms and is in none
     Units Shown = Units::Imperial;  ///< the units in force: the menu's Metric
+
+    /// What was chosen for the last estimate of each project in this run, by its name.
+    std::map<std::string, LastChoices> Chosen;
+    /// Of this project, in the units in force; none when there is nothing of it.
+    std::optional<LastChoices> LastChosen() const;
 
     bool OffersEstimate = true; ///< the menu offers ESTIMATE
     bool IsUsable = true;       ///< it was loaded whole, or is new

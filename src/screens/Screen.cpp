@@ -10,7 +10,7 @@
 #include <QKeyEvent>
 #include <QMenuBar>
 #include <QPushButton>
-#include <QShortcut>
+#include <QRadioButton>
 #include <QTimer>
 #include <QVBoxLayout>
 
@@ -142,10 +142,21 @@ void Screen::Later(std::function<void()> body) {
     QTimer::singleShot(0, this, [this, body = std::move(body)] { Guard({}, body); });
 }
 
+namespace {
+
+bool IsEnterPressed(const QKeyEvent& key) {
+    return (key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter) && !key.isAutoRepeat();
+}
+
+} // namespace
+
+bool Screen::PressesFromOption(const QKeyEvent& key) const {
+    return IsEnterPressed(key) && qobject_cast<const QRadioButton*>(focusWidget()) != nullptr;
+}
+
 void Screen::keyPressEvent(QKeyEvent* event) {
     auto* button = qobject_cast<QPushButton*>(focusWidget());
-    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (enter && button != nullptr && !event->isAutoRepeat()) {
+    if (button != nullptr && IsEnterPressed(*event)) {
         button->click(); // whose handler is under the guard
         return;
     }

@@ -323,6 +323,27 @@ class Program:
             window.set_input_focus(X.RevertToParent, X.CurrentTime)
         server.close()
 
+    def improve_button(self):
+        """IMPROVE, whatever it offers."""
+
+        def look():
+            for each in self.showing("push button"):
+                if each.name.startswith("IMPROVE") and "enabled" in states(each):
+                    return each
+            return None
+
+        return wait_for(look, "IMPROVE in use")
+
+    def start_improving(self):
+        """Press IMPROVE until it searches: it takes a layout that was found meanwhile first."""
+
+        def started():
+            if not self.is_there("push button", "STOP"):
+                self.click_on(self.improve_button())
+            return self.is_there("push button", "STOP")
+
+        wait_for(started, "an improving search")
+
     def end_improving(self):
         """Stop an improving search, unless it has come to its own end, and close what it says."""
 

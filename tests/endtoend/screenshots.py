@@ -118,7 +118,7 @@ class Photographer:
         ui.press("Continue")
         ui.see("push button", "REDRAW")
         self.shoot("estimate-" + unit)
-        ui.press("IMPROVE")
+        ui.start_improving()
         wait_for(lambda: any(each.startswith("No layout") for each in ui.labels()), "a bound")
         self.take("improve-" + unit)
         ui.end_improving()

@@ -307,12 +307,15 @@ class Improving(Road):
         ui.press("Continue")
         wait_for(ui.drawn_text, "the drawing")
         self.expect_drawn("STRIPS", "--carpet", "1", "--roll-width", "12ft")
-        ui.press("IMPROVE")
+        before = ui.drawn_text()
+        ui.press("IMPROVE: 8'3\" shorter")
         wait_for(lambda: any("Improved" in line for line in ui.drawn_text()), "a shorter layout")
         self.expect_drawn("STRIPS", "--carpet", "1", "--roll-width", "12ft", "--improve", "10")
         self.assertIn(
             "Improved: fills 50.0% shorter, the least possible", ui.drawn_text()
         )
+        ui.press("UNDO")
+        wait_for(lambda: ui.drawn_text() == before, "the layout before")
 
 
 class DatabaseTrouble(Road):

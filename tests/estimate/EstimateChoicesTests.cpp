@@ -20,13 +20,13 @@ constexpr ChoicesRefusal MatchRefused(std::size_t box) {
 
 EstimateChoices Standard() {
     EstimateChoices choices;
-    choices.WidthCaption = "CARPET WIDTH 12 FT.";
+    choices.StandardWidth = 1;
     return choices;
 }
 
 EstimateChoices Other(const std::string& feet, const std::string& inches) {
     EstimateChoices choices = Standard();
-    choices.WidthCaption.clear();
+    choices.StandardWidth.reset();
     choices.OtherFeet = feet;
     choices.OtherInches = inches;
     return choices;
@@ -87,17 +87,15 @@ TEST(EstimateChoices, MakeARequestWithLayCarpetWidthAndUnits) {
     EstimateChoices choices = Standard();
     choices.Direction = Lay::Cross;
     choices.Carpet = 6;
-    choices.WidthCaption = "CARPET WIDTH 366 CMS";
     EXPECT_EQ(Made(choices, Units::Metric),
               testing::WithCarpet(testing::MetricRequest("366", Lay::Cross), 6));
 }
 
-TEST(EstimateChoices, ReadACaptionInTheUnitInForce) {
+TEST(EstimateChoices, TakeAStandardWidthInTheUnitInForce) {
     EstimateChoices choices = Standard();
-    choices.WidthCaption = "CARPET WIDTH 13.5 FT.";
+    choices.StandardWidth = 2;
     EXPECT_EQ(Made(choices).RollWidth, 162);
-    choices.WidthCaption = "CARPET WIDTH 366 CMS";
-    EXPECT_NEAR(Made(choices, Units::Metric).RollWidth, 366 / 2.54, 1e-4);
+    EXPECT_NEAR(Made(choices, Units::Metric).RollWidth, 411 / 2.54, 1e-4);
 }
 
 TEST(EstimateChoices, ReadAFreeWidthAsFeetAndInchesInBothUnits) {
@@ -149,7 +147,7 @@ TEST(EstimateChoices, RefuseNegativeRepeats) {
 
 TEST(EstimateChoices, RefuseTheWidthFirst) {
     EstimateChoices choices = Matching("-5", "10");
-    choices.WidthCaption.clear();
+    choices.StandardWidth.reset();
     EXPECT_EQ(RefusalOf(choices), WidthRefused(0));
 }
 

@@ -4,6 +4,7 @@
 #include "estimate/EstimateTesting.h"
 #include "estimate/ImproveEstimate.h"
 #include "estimate/LayoutDrawing.h"
+#include "estimate/Totals.h"
 
 #include <gtest/gtest.h>
 
@@ -47,6 +48,27 @@ TEST(ImprovementText, RoundsWhatWasGainedDownAndWhatMayBeLeftUp) {
               "Improved: fills 3.1% shorter, at most 1.8% above the least possible");
     EXPECT_EQ(ImprovementText({1000, 999.5, 999.49, 5, 5}),
               "Improved: fills less than 0.1% shorter, at most 0.1% above the least possible");
+}
+
+TEST(ShorterText, SaysWhatTheListedTotalsDifferBy) {
+    const Estimate estimate = Estimated({{144, 120}, {100, 150}}, Request(144));
+    Estimate better = estimate;
+    EXPECT_EQ(ShorterText(estimate, better), "");
+    better.Fills.Length -= 99;
+    EXPECT_EQ(ShorterText(estimate, better), "8'3\" shorter");
+    better.Fills.Length += 200;
+    EXPECT_EQ(ShorterText(estimate, better), "") << "longer";
+}
+
+TEST(ShorterText, IsInWholeCentimetresInMetricUnits) {
+    const Estimate estimate = Estimated({{366, 300}, {250, 380}}, MetricRequest("366"));
+    Estimate better = estimate;
+    better.Fills.Length -= 9;
+    const auto listed = [](const Estimate& of) {
+        return RoundedCentimetres(TotalRoll(of).Length);
+    };
+    EXPECT_EQ(ShorterText(estimate, better),
+              std::to_string(listed(estimate) - listed(better)) + " shorter");
 }
 
 TEST(ImprovementText, SaysWhenNothingIsShorter) {

@@ -43,10 +43,16 @@ TEST(RollWidth, TheCaptionsOfBothUnitsAreTheFourStandardWidths) {
     EXPECT_EQ(WidthCaptions(Units::Metric)[3], "CARPET WIDTH 457 CMS");
 }
 
+TEST(RollWidth, AStandardOneIsThatOfItsCaption) {
+    EXPECT_EQ(StandardRollWidth(0, Units::Imperial), 72);
+    EXPECT_EQ(StandardRollWidth(3, Units::Imperial), 180);
+    EXPECT_EQ(StandardRollWidth(2, Units::Metric), ReadRollWidth("411cm"));
+    EXPECT_THROW(StandardRollWidth(4, Units::Metric), std::out_of_range);
+}
+
 TEST(RollWidth, TwelveFeetOr366CentimetresIsTheDefault) {
-    EXPECT_EQ(CaptionRollWidth(WidthCaptions(Units::Imperial)[DefaultWidth], Units::Imperial), 144);
-    EXPECT_NEAR(CaptionRollWidth(WidthCaptions(Units::Metric)[DefaultWidth], Units::Metric), 144.09,
-                5e-3);
+    EXPECT_EQ(StandardRollWidth(DefaultWidth, Units::Imperial), 144);
+    EXPECT_NEAR(StandardRollWidth(DefaultWidth, Units::Metric), 144.09, 5e-3);
 }
 
 TEST(RollWidth, OtherTakesFeetAndInchesWhateverTheUnit) {

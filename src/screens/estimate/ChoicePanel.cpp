@@ -168,6 +168,9 @@ QLineEdit* ChoicePanel::AddRepeat(QBoxLayout& row, const RepeatNames& names, con
 QBoxLayout* ChoicePanel::BuildButtons() {
     auto* row = new QHBoxLayout;
     row->setSpacing(Pixels(Metrics::Spacing));
+    last_ = NewButton(this, Controls::lastChoices, "LAST CHOICES", 'A');
+    last_->setEnabled(false);
+    row->addWidget(last_);
     row->addStretch();
     ok_ = NewButton(this, Controls::acceptChoices, "OK", 'O');
     cancel_ = NewButton(this, Controls::cancelChoices, "CANCEL", 'C');
@@ -198,7 +201,7 @@ void ChoicePanel::SetTabOrder() {
     add(widths_);
     order.insert(order.end(), otherBoxes_.begin(), otherBoxes_.end());
     add(lays_);
-    order.insert(order.end(), {match_, repeatBoxes_[0], repeatBoxes_[1], ok_, cancel_});
+    order.insert(order.end(), {match_, repeatBoxes_[0], repeatBoxes_[1], last_, ok_, cancel_});
     SetTabOrders(order);
 }
 
@@ -244,9 +247,9 @@ EstimateChoices ChoicePanel::Choices() const {
     EstimateChoices choices;
     choices.Direction = static_cast<Lay>(lays_.checkedId());
     choices.Carpet = static_cast<Byte>(carpets_.checkedId());
-    const QAbstractButton* width = widths_.checkedButton();
-    if (width != nullptr && widths_.checkedId() != OtherWidth) {
-        choices.WidthCaption = FromQt(CaptionOf(*width));
+    const int width = widths_.checkedId();
+    if (width >= 0 && width != OtherWidth) {
+        choices.StandardWidth = static_cast<std::size_t>(width);
     }
     choices.OtherFeet = FromQt(otherBoxes_[0]->text());
     choices.OtherInches = FromQt(otherBoxes_[1]->text());
@@ -254,6 +257,23 @@ EstimateChoices ChoicePanel::Choices() const {
     choices.MatchWidth = FromQt(repeatBoxes_[0]->text());
     choices.MatchLength = FromQt(repeatBoxes_[1]->text());
     return choices;
+}
+
+void ChoicePanel::Choose(const EstimateChoices& choices) {
+    QAbstractButton& carpet = *carpets_.button(choices.Carpet);
+    if (carpet.isEnabled()) {
+        carpet.setChecked(true);
+    }
+    const int width = choices.StandardWidth ? static_cast<int>(*choices.StandardWidth) : OtherWidth;
+    widths_.button(width)->setChecked(true);
+    OptionClicked(widths_); // also where it was chosen before: as a click
+    lays_.button(static_cast<int>(choices.Direction))->setChecked(true);
+    match_->setChecked(choices.Match);
+    otherBoxes_[0]->setText(ToQt(choices.OtherFeet));
+    otherBoxes_[1]->setText(ToQt(choices.OtherInches));
+    repeatBoxes_[0]->setText(ToQt(choices.MatchWidth));
+    repeatBoxes_[1]->setText(ToQt(choices.MatchLength));
+    ok_->setFocus();
 }
 
 QWidget& ChoicePanel::FirstFocus() const {

@@ -31,6 +31,9 @@ class ChoicePanel : public QFrame {
     /// What is chosen and typed. One of the carpets must have been offered.
     EstimateChoices Choices() const;
 
+    /// Choose and type all that again, but for a carpet that is not offered.
+    void Choose(const EstimateChoices& choices);
+
     /// Put the focus on the chosen carpet, or into the box that was refused.
     void FocusCarpet();
     void FocusRefused(const ChoicesRefusal& refusal);
@@ -38,6 +41,8 @@ class ChoicePanel : public QFrame {
 
     QPushButton& OkButton() { return *ok_; }
     QPushButton& CancelButton() { return *cancel_; }
+    /// Out of use until there is something to choose again.
+    QPushButton& LastButton() { return *last_; }
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -75,6 +80,7 @@ class ChoicePanel : public QFrame {
     QLabel* otherHint_ = nullptr;
     QCheckBox* match_ = nullptr;
     std::array<QLineEdit*, 2> repeatBoxes_{}; ///< width, length
+    QPushButton* last_ = nullptr;
     QPushButton* ok_ = nullptr;
     QPushButton* cancel_ = nullptr;
 };

@@ -6,6 +6,7 @@
 #include "estimate/MakeEstimate.h"
 #include "files/QtText.h"
 #include "project/RoomExtents.h"
+#include "screens/AfterBoxes.h"
 #include "screens/Arrangement.h"
 #include "screens/ControlNames.h"
 #include "screens/Controls.h"
@@ -16,6 +17,7 @@
 #include "screens/Theme.h"
 #include "screens/estimate/ChoicePanel.h"
 #include "screens/estimate/EstimateOutput.h"
+#include "screens/estimate/ImproveButtons.h"
 #include "screens/estimate/ImprovePanel.h"
 #include "screens/estimate/OthersDisabled.h"
 #include "screens/estimate/PictureBox.h"
@@ -26,6 +28,7 @@
 
 #include <QAction>
 #include <QEvent>
+#include <QKeyEvent>
 #include <QMenu>
 #include <QPushButton>
 #include <QShortcut>
@@ -66,15 +69,21 @@ std::string NothingBetterText(const ImproveResult& result) {
 
 } // namespace
 
-EstimateScreen::EstimateScreen(Session& session, bool fromMenu)
+EstimateScreen::EstimateScreen(Session& session, bool fromMenu, QuietSearch::Search quietly)
     : Screen(session, Controls::estimateScreen)
-    , fromMenu_(fromMenu) {
+    , fromMenu_(fromMenu)
+    , quiet_(std::move(quietly), [this](const Estimate& estimate, const Estimate& better) {
+        AfterBoxes(*this, [this, estimate, better] {
+            Guard(ImproveFailure, [&] { OfferShorter(estimate, better); });
+        });
+    }) {
     RequireExtents(OpenedProject(), ShownUnits());
     Build();
     Connect();
     const CarpetsFound carpets = FindCarpets(OpenedProject());
     panel_->OfferCarpets(carpets);
     panel_->ChooseDefaultWidth();
+    panel_->LastButton().setEnabled(Shared().Project.LastChosen().has_value());
     panel_->setVisible(carpets.Lowest.has_value());
     if (!carpets.Lowest) {
         // When this screen is in front: the box is about it.
@@ -104,9 +113,8 @@ void EstimateScreen::Build() {
     improvePanel_ = new ImprovePanel(&Body(), ShownUnits());
     Body().installEventFilter(this);
     panel_->installEventFilter(this);
-    SetTabOrders({&panel_->CancelButton(), openPanel_, improve_, paste_, redraw_, print_, save_,
-                  switchView_, back_, picture_, &views_->Roll().View(), &views_->Roll().List()});
-    OfferDrawing();
+    SetTabOrders({&panel_->CancelButton(), openPanel_, improve_, &improveButtons_->Undo(), paste_,
+                  redraw_, print_, save_, back_, picture_});
 }
 
 QHBoxLayout* EstimateScreen::BuildTitle() {
@@ -165,8 +173,8 @@ QVBoxLayout* EstimateScreen::BuildButtons() {
     print_ = NewButton(&Body(), Controls::printEstimate, "PRINT", 'I');
     save_ = NewButton(&Body(), Controls::saveFromEstimate, "SAVE", 'S');
     redraw_ = NewButton(&Body(), Controls::redrawLayout, "REDRAW", 'R');
-    improve_ = NewButton(&Body(), Controls::improveFills, "IMPROVE", 'V');
-    order_ = NewButton(&Body(), Controls::openOrder, "ORDER");
+    improveButtons_ = new ImproveButtons(&Body());
+    improve_ = &improveButtons_->Improve();
     SetPrimary(*openPanel_);
     paste_->setToolTip(QString::fromLatin1(PasteHint));
     auto* column = new QVBoxLayout;
@@ -177,7 +185,7 @@ QVBoxLayout* EstimateScreen::BuildButtons() {
         }
         button->setMinimumWidth(Pixels(Metrics::ButtonWidth));
         button->setEnabled(false);
-        column->addWidget(button);
+        column->addWidget(button == improve_ ? static_cast<QWidget*>(improveButtons_) : button);
     }
     switchView_ = NewButton(&Body(), Controls::switchView, WholeRollCaption);
     switchView_->setToolTip(QStringLiteral("The same: key D"));
@@ -216,26 +224,53 @@ void EstimateScreen::Connect() {
         EnableButtons();
         ClosePanel();
     });
+    OnClick(panel_->LastButton(), EstimateFailure, [this] { ChooseLast(); });
     OnClick(*openPanel_, EstimateFailure, [this] { OpenPanel(); });
     OnClick(*paste_, DrawingFailure, [this] { SetPasting(true); });
     OnClick(*redraw_, DrawingFailure, [this] { RedrawLayout(); });
+    // What a press means is what the button says as it begins.
+    connect(improve_, &QPushButton::pressed, this, [this] { takesShorter_ = OffersShorter(); });
     OnClick(*improve_, DrawingFailure, [this] { ImproveLayout(); });
+    OnClick(improveButtons_->Undo(), DrawingFailure, [this] { UndoImprovement(); });
     OnClick(*print_, {}, [this] { PrintEstimate(Shared(), *this, estimate_, picture_->Shown()); });
     IgnoreSecondClick(*print_);
     OnClick(*save_, std::string(NotSavedMessage), [this] { SaveRooms(); });
     OnClick(*back_, LeaveFailure, [this] { Leave(); });
     picture_->MouseDown = [this](Double x, Double y) { return PasteCutList(x, y); };
-    OnClick(*switchView_, DrawingFailure, [this] { SwitchView(); });
-    views_->OnArranged = [this] { OfferViews(); };
-    auto* switching = new QShortcut(Qt::Key_D, this);
-    switching->setAutoRepeat(false);
-    connect(switching, &QShortcut::activated, this, [this] {
-        Guard(DrawingFailure, [this] {
-            if (switchView_->isEnabled()) {
-                SwitchView();
-            }
-        });
-    });
+    ConnectKeys();
+}
+
+void EstimateScreen::ConnectKeys() {
+    PressOnKeys(*save_, QKeySequence(Qt::CTRL | Qt::Key_S), *this);
+    PressOnKeys(*print_, QKeySequence(Qt::CTRL | Qt::Key_P), *this);
+    PressOnKeys(improveButtons_->Undo(), QKeySequence(Qt::CTRL | Qt::Key_Z), *this);
+    const auto onKeys = [this](const QKeySequence& keys, void (EstimateScreen::*act)()) {
+        auto* shortcut = new QShortcut(keys, this);
+        shortcut->setAutoRepeat(false);
+        connect(shortcut, &QShortcut::activated, this,
+                [this, act] { Guard(DrawingFailure, [&] { (this->*act)(); }); });
+    };
+    onKeys(QKeySequence(Qt::CTRL | Qt::Key_Y), &EstimateScreen::RedoImprovement);
+    onKeys(QKeySequence(Qt::Key_Escape), &EstimateScreen::Escape);
+}
+
+/// Closes what is in front, or takes a waiting paste back.
+void EstimateScreen::Escape() {
+    if (improvePanel_->IsRunning()) {
+        improvePanel_->Stop();
+    } else if (!panel_->isHidden()) {
+        panel_->CancelButton().click();
+    } else {
+        SetPasting(false);
+    }
+}
+
+void EstimateScreen::keyPressEvent(QKeyEvent* event) {
+    if (panel_->isVisible() && PressesFromOption(*event)) {
+        panel_->OkButton().click(); // whose handler is under the guard
+        return;
+    }
+    Screen::keyPressEvent(event);
 }
 
 QWidget* EstimateScreen::FirstFocus() {
@@ -310,6 +345,8 @@ void EstimateScreen::EnableImprove() {
     // An estimate becomes ready while the whole screen is still disabled below the options.
     const bool usable = openPanel_->isEnabledTo(&Body());
     improve_->setEnabled(usable && estimate_ && !estimate_->Fills.Layout.empty());
+    improveButtons_->Undo().setEnabled(usable && history_.CanUndo());
+    ShowOffer();
 }
 
 void EstimateScreen::FocusResult() {
@@ -351,15 +388,34 @@ void EstimateScreen::OfferDrawing() {
 
 void EstimateScreen::AcceptChoices() {
     EnableButtons();
-    const auto request = RequestOf(panel_->Choices(), ShownUnits());
+    const EstimateChoices choices = panel_->Choices();
+    const auto request = RequestOf(choices, ShownUnits());
     if (const auto* refusal = std::get_if<ChoicesRefusal>(&request)) {
         panel_->FocusRefused(*refusal); // first, so that the box keeps clear of it
         Shared().Boxes.Message(std::string(RefusalMessage(*refusal)));
         return;
     }
     NoEstimate();
+    accepted_ = choices;
     Begin(std::get<EstimateRequest>(request));
+    firstChoices_.reset();
     ClosePanel();
+}
+
+void EstimateScreen::ChooseLast() {
+    if (const auto last = Shared().Project.LastChosen()) {
+        panel_->Choose(last->Choices);
+        firstChoices_ = last->Fills;
+    }
+}
+
+void EstimateScreen::KeepChoices(const Estimate& estimate) {
+    LastChoices last{ShownUnits(), accepted_, std::nullopt};
+    if (!estimate.Job.Pieces.empty()) {
+        last.Fills = {estimate.Request.ShortestPart, estimate.Request.PiecesPerFill};
+    }
+    Shared().Project.Chosen[OpenedProject().Name] = std::move(last);
+    panel_->LastButton().setEnabled(true);
 }
 
 /// The options complete a request that leaves fills; cuts alone are estimated at once. For rooms
@@ -374,9 +430,18 @@ void EstimateScreen::Begin(const EstimateRequest& request) {
     }
 }
 
+void EstimateScreen::EstimateReady(const Estimate& estimate) {
+    ShowEstimate(estimate);
+    ForgetImprovements();
+    KeepChoices(estimate);
+    if (!estimate.Fills.Layout.empty()) {
+        quiet_.Begin(estimate);
+    }
+}
+
 /// Every change is drawn into a copy first: a failure leaves the picture, and what it shows, as
 /// they were.
-void EstimateScreen::EstimateReady(const Estimate& estimate) {
+void EstimateScreen::ShowEstimate(const Estimate& estimate) {
     Drawing drawing = picture_->Shown();
     DrawLayout(drawing, estimate);
     DrawCutList(drawing, estimate, CutListX, CutListY);
@@ -388,6 +453,7 @@ void EstimateScreen::EstimateReady(const Estimate& estimate) {
 
 void EstimateScreen::NoEstimate() {
     estimate_.reset();
+    ForgetImprovements();
     Drawing drawing = picture_->Shown();
     drawing.Clear();
     ShowDrawing(std::move(drawing), true);
@@ -406,11 +472,50 @@ void EstimateScreen::RedrawLayout() {
     views_->ShowPicture();
 }
 
+/// Another estimate is shown, or none.
+void EstimateScreen::ForgetImprovements() {
+    quiet_.Drop();
+    shorter_.reset();
+    history_.Clear();
+    EnableImprove();
+}
+
+void EstimateScreen::OfferShorter(const Estimate& estimate, const Estimate& better) {
+    const std::string by = ShorterText(estimate, better);
+    if (!by.empty()) {
+        shorter_ = {estimate, better, by};
+        ShowOffer();
+    }
+}
+
+bool EstimateScreen::OffersShorter() const {
+    return shorter_ && estimate_ == shorter_->Of;
+}
+
+void EstimateScreen::ShowOffer() {
+    improveButtons_->Offer(OffersShorter() ? shorter_->By : std::string());
+}
+
+ShownEstimate EstimateScreen::ShownNow() const {
+    return {*estimate_, picture_->Shown()};
+}
+
 void EstimateScreen::ImproveLayout() {
+    const bool takes = std::exchange(takesShorter_, false);
     SetPasting(false);
     if (!estimate_) {
         return;
     }
+    if (takes && OffersShorter()) {
+        TakeImprovement(Estimate(shorter_->Better));
+        FocusResult();
+    } else {
+        quiet_.Drop();
+        SearchLong();
+    }
+}
+
+void EstimateScreen::SearchLong() {
     const Estimate before = *estimate_; // events are handled while the search runs
     std::optional<ImprovedEstimate> improved;
     Guard(ImproveFailure, [&] {
@@ -426,11 +531,40 @@ void EstimateScreen::ImproveLayout() {
     }
     // Without a better layout the list may still know a better bound.
     if (improved->Value != before) {
-        EstimateReady(improved->Value);
+        TakeImprovement(improved->Value);
     }
     if (!improved->Result.Improved) {
         Shared().Boxes.Message(NothingBetterText(improved->Result));
     }
+}
+
+void EstimateScreen::TakeImprovement(const Estimate& better) {
+    ShownEstimate before = ShownNow();
+    ShowEstimate(better);
+    history_.Add(std::move(before));
+    EnableImprove();
+}
+
+void EstimateScreen::UndoImprovement() {
+    if (auto before = history_.Undo(ShownNow())) {
+        Restore(std::move(*before));
+    }
+}
+
+/// Its keys have no button that would be out of use while an improving search runs.
+void EstimateScreen::RedoImprovement() {
+    if (estimate_ && !improvePanel_->IsRunning()) {
+        if (auto after = history_.Redo(ShownNow())) {
+            Restore(std::move(*after));
+        }
+    }
+}
+
+void EstimateScreen::Restore(ShownEstimate shown) {
+    SetPasting(false);
+    estimate_ = std::move(shown.Value);
+    ShowDrawing(std::move(shown.Picture), true);
+    FocusResult();
 }
 
 void EstimateScreen::SetPasting(bool pasting) {

@@ -4,6 +4,8 @@
 #include "estimate/Estimate.h"
 #include "screens/Screen.h"
 #include "screens/estimate/EstimateClient.h"
+#include "screens/estimate/EstimateHistory.h"
+#include "screens/estimate/QuietSearch.h"
 
 #include <array>
 #include <functional>
@@ -21,6 +23,7 @@ namespace tarn {
 
 class ChoicePanel;
 class Drawing;
+class ImproveButtons;
 class ImprovePanel;
 class PictureBox;
 class ResultViews;
@@ -28,14 +31,16 @@ class ResultViews;
 /// The carpet estimate: one carpet of the open project at a time is cut, drawn and listed, printed
 /// and pasted. Its buttons can be used from the first OK or CANCEL of the choice panel on, whatever
 /// comes of it; without a carpet room there is only the way back, once a message has said so.
+/// Improvements of an estimate can be taken back, and a shorter layout that was found quietly is
+/// there for the taking; nothing else changes what is shown by itself.
 class EstimateScreen : public Screen, public EstimateClient {
   public:
     /// `fromMenu`: the menu opened it and is shown again when it closes; else the screen below it
-    /// is. Raises as RequireExtents.
-    EstimateScreen(Session& session, bool fromMenu);
-    ~EstimateScreen() override;
+    /// is. `quietly` looks for a shorter layout after each estimate. Raises as RequireExtents.
+    EstimateScreen(Session& session, bool fromMenu, QuietSearch::Search quietly = &ImproveEstimate);
 
     void EstimateReady(const Estimate& estimate) override;
+    std::optional<FillChoices> FirstChoices() const override { return firstChoices_; }
     void NoEstimate() override;
 
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -45,6 +50,7 @@ class EstimateScreen : public Screen, public EstimateClient {
     void OnCloseByFrame() override;
     void OnUncover() override;
     QWidget* FirstFocus() override;
+    void keyPressEvent(QKeyEvent* event) override;
 
   private:
     void Build();
@@ -57,7 +63,8 @@ class EstimateScreen : public Screen, public EstimateClient {
     void BuildPictureMenu();
     void AddToPictureMenu(const char* name, const char* caption, std::function<void()> save);
     void Connect();
-    std::array<QPushButton*, 8> Buttons() const;
+    void ConnectKeys();
+    std::array<QPushButton*, 7> Buttons() const;
     void TellNoData();
     void PlacePanels();
     void OpenPanel();
@@ -74,17 +81,44 @@ class EstimateScreen : public Screen, public EstimateClient {
     void ShowDrawing(Drawing drawing, bool fromStart);
     void OfferDrawing();
     void AcceptChoices();
+    void ChooseLast();
+    void KeepChoices(const Estimate& estimate);
     void Begin(const EstimateRequest& request);
     void RedrawLayout();
+    void ShowEstimate(const Estimate& estimate);
+    void Restore(ShownEstimate shown);
+    ShownEstimate ShownNow() const;
+    void ForgetImprovements();
+    void OfferShorter(const Estimate& estimate, const Estimate& better);
+    bool OffersShorter() const;
+    void ShowOffer();
     void ImproveLayout();
+    void SearchLong();
+    void TakeImprovement(const Estimate& better);
+    void UndoImprovement();
+    void RedoImprovement();
+    void Escape();
     bool PasteCutList(Double x, Double y);
     void SetPasting(bool pasting);
     void SaveRooms();
     void Leave();
 
     bool fromMenu_;
-    bool pasting_ = false;             ///< the next press on the picture pastes the cut list
-    std::optional<Estimate> estimate_; ///< the one that is shown
+    bool pasting_ = false;                    ///< the next press on the picture pastes the cut list
+    std::optional<Estimate> estimate_;        ///< the one that is shown
+    EstimateChoices accepted_;                ///< at the last OK
+    std::optional<FillChoices> firstChoices_; ///< of the options that it opens
+    EstimateHistory history_;
+    /// A shorter layout, as long as the estimate that it is of is shown.
+    struct ShorterLayout {
+        Estimate Of;
+        Estimate Better;
+        std::string By; ///< see ShorterText
+    };
+    std::optional<ShorterLayout> shorter_;
+    bool takesShorter_ = false; ///< IMPROVE offered it when it was pressed
+    QuietSearch quiet_;
+    ImproveButtons* improveButtons_ = nullptr;
     ChoicePanel* panel_ = nullptr;
     std::unique_ptr<ResultViews> views_;
     PictureBox* picture_ = nullptr; ///< one of the views

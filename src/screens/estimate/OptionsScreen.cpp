@@ -11,10 +11,12 @@
 
 #include <QButtonGroup>
 #include <QGridLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QShortcut>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -61,6 +63,19 @@ OptionsScreen::OptionsScreen(Session& session, const EstimateRequest& request,
     , request_(request)
     , client_(client) {
     BuildPanel();
+    if (const auto first = client.FirstChoices()) {
+        Choose(*first);
+    }
+    auto* escape = new QShortcut(Qt::Key_Escape, this);
+    escape->setAutoRepeat(false);
+    connect(escape, &QShortcut::activated, this, [this] { CloseByFrame(); });
+}
+
+void OptionsScreen::Choose(const FillChoices& choices) {
+    const auto minCut = std::find(AllMinCuts.begin(), AllMinCuts.end(), choices.ShortestPart);
+    minCuts_.at(static_cast<std::size_t>(minCut - AllMinCuts.begin()))->setChecked(true);
+    pieces_.at(static_cast<std::size_t>(choices.PiecesPerFill - 1))->setChecked(true);
+    continue_->setEnabled(true);
 }
 
 void OptionsScreen::BuildMinCuts(QWidget& frame) {
@@ -211,7 +226,15 @@ void OptionsScreen::OnCloseByFrame() {
 }
 
 QWidget* OptionsScreen::FirstFocus() {
-    return minCuts_.front();
+    return minCuts_.at(FirstChosen(minCuts_));
+}
+
+void OptionsScreen::keyPressEvent(QKeyEvent* event) {
+    if (PressesFromOption(*event)) {
+        continue_->click(); // whose handler is under the guard
+        return;
+    }
+    TitledScreen::keyPressEvent(event);
 }
 
 } // namespace tarn

@@ -20,7 +20,7 @@ class SearchProgress;
 /// The estimation options: the minimum cut length and the most pieces per fill, which complete the
 /// request that the choice panel began, and the estimate that is made of it. Opened above the
 /// estimate screen, which gets the estimate, or word that there is none; either way the screen then
-/// returns to it.
+/// returns to it. Escape closes it as the frame does.
 class OptionsScreen : public TitledScreen {
   public:
     /// `request` as the choice panel has it. `client` must outlive the screen.
@@ -30,8 +30,10 @@ class OptionsScreen : public TitledScreen {
     std::string_view GuidePage() const override { return GuidePages::options; }
     void OnCloseByFrame() override;
     QWidget* FirstFocus() override;
+    void keyPressEvent(QKeyEvent* event) override;
 
   private:
+    void Choose(const FillChoices& choices);
     void BuildMinCuts(QWidget& frame);
     void BuildPieces(QWidget& frame);
     QLayout* BuildProgress(QWidget& frame);

@@ -34,7 +34,7 @@ struct EstimateScreenTest : ScreenTest {
         for (const Sized& room : rooms) {
             Add(room);
         }
-        form = std::make_unique<EstimateScreen>(session, fromMenu);
+        form = std::make_unique<EstimateScreen>(session, fromMenu, quietly);
         ShowOnDisplay(*form);
     }
 
@@ -117,6 +117,9 @@ struct EstimateScreenTest : ScreenTest {
         EXPECT_TRUE(PrintedCarpetLines().empty());
     }
 
+    /// What looks for a shorter layout after an estimate: nothing, unless a test says so.
+    QuietSearch::Search quietly = [](const Estimate& estimate, const ImproveLimits&,
+                                     ImproveObserver&) { return ImprovedEstimate{estimate, {}}; };
     std::unique_ptr<EstimateScreen> form;
 };
 

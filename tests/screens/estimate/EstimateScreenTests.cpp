@@ -34,7 +34,8 @@ TEST_F(EstimateScreens, BearTheirCaptions) {
     const std::pair<const char*, const char*> captions[] = {
         {Controls::leaveEstimate, "BACK"},    {Controls::openChoices, "ESTIMATE"},
         {Controls::pasteCuts, "PASTE CUTS"},  {Controls::printEstimate, "PRINT"},
-        {Controls::saveFromEstimate, "SAVE"}, {Controls::redrawLayout, "REDRAW"}};
+        {Controls::saveFromEstimate, "SAVE"}, {Controls::redrawLayout, "REDRAW"},
+        {Controls::undoImprovement, "UNDO"},  {Controls::lastChoices, "LAST CHOICES"}};
     for (const auto& [name, caption] : captions) {
         EXPECT_EQ(Button(name).accessibleName(), QString::fromLatin1(caption));
     }

@@ -24,6 +24,7 @@ using namespace tarn::testing;
 struct FakeClient : EstimateClient {
     std::vector<std::string> Calls;
     std::optional<Estimate> Seen;
+    std::optional<FillChoices> First;
     std::function<void()> OnEstimate = [] {};
     std::function<void()> OnNoEstimate = [] {};
 
@@ -32,6 +33,7 @@ struct FakeClient : EstimateClient {
         Seen = estimate;
         OnEstimate();
     }
+    std::optional<FillChoices> FirstChoices() const override { return First; }
     void NoEstimate() override {
         Calls.emplace_back("none");
         OnNoEstimate();
@@ -185,6 +187,38 @@ TEST_F(OptionsScreens, ContinuesWithTheKeyboardAlone) {
     EXPECT_EQ(client.Seen->Request, WithParts(Asked(), MinCut::FootAndAHalf, 1));
 }
 
+TEST_F(OptionsScreens, BeginsWithTheChoicesThatItIsToBeginWith) {
+    AddFills(3);
+    client.First = {MinCut::HalfFoot, 4};
+    Open();
+    EXPECT_TRUE(Option(Controls::minCuts[2]).isChecked());
+    EXPECT_TRUE(Option(Controls::minCuts[2]).hasFocus());
+    EXPECT_TRUE(Option(Controls::piecesPerFill[3]).isChecked());
+    EXPECT_TRUE(Continue().isEnabled());
+    Click(Continue());
+    ASSERT_TRUE(client.Seen);
+    EXPECT_EQ(client.Seen->Request, WithParts(Asked(), MinCut::HalfFoot, 4));
+}
+
+TEST_F(OptionsScreens, TakesEnterOnAnOptionForContinue) {
+    AddFills(3);
+    Open();
+    Press(*form, Qt::Key_Return);
+    EXPECT_TRUE(client.Calls.empty()) << "no number of pieces is chosen";
+    Click(Option(Controls::piecesPerFill[1]));
+    Press(*form, Qt::Key_Enter);
+    ASSERT_TRUE(client.Seen);
+    EXPECT_EQ(client.Seen->Request.PiecesPerFill, 2);
+}
+
+TEST_F(OptionsScreens, ClosesWithEscape) {
+    AddFills(2);
+    Open();
+    Press(*form, Qt::Key_Escape);
+    EXPECT_EQ(client.Calls, std::vector<std::string>{"none"});
+    EXPECT_EQ(screens.Calls, std::vector<std::string>{"return"});
+}
+
 /// Runs `look` at the first chance that the search gives the window system.
 void DuringSearch(QObject& context, std::function<void()> look) {
     QTimer::singleShot(0, &context, std::move(look));
@@ -317,6 +351,16 @@ TEST_F(OptionsScreens, StopsTheSearchWhenItIsClosed) {
     EXPECT_LT(bar.value(), bar.maximum());
     EXPECT_FALSE(bar.isVisible());
     EXPECT_FALSE(Percentage().isVisible());
+}
+
+TEST_F(OptionsScreens, StopsTheSearchWithEscape) {
+    AddFills(200);
+    Open();
+    Click(Option(Controls::piecesPerFill[3]));
+    DuringSearch(*form, [&] { Press(*form, Qt::Key_Escape); });
+    Click(Continue());
+    EXPECT_EQ(client.Calls, std::vector<std::string>{"none"});
+    EXPECT_EQ(screens.Calls, std::vector<std::string>{"return"});
 }
 
 TEST_F(OptionsScreens, LeavesNoEstimateWhenItIsClosedWithoutASearch) {

@@ -129,8 +129,8 @@ const std::map<std::string, std::vector<const char*>>& Road() {
         {roomScreen,
          {nextRoom, saveRooms, saveRooms, previousRoom, estimateFromRooms, showReport, leaveRooms}},
         {estimateScreen,
-         {acceptChoices, openChoices, improveFills, pasteCuts, redrawLayout, printEstimate,
-          saveFromEstimate, leaveEstimate}},
+         {acceptChoices, openChoices, lastChoices, improveFills, undoImprovement, pasteCuts,
+          redrawLayout, printEstimate, saveFromEstimate, leaveEstimate}},
         {optionsScreen, {piecesPerFill[0], layOutFills}}};
     return road;
 }

@@ -1,0 +1,53 @@
+#include "screens/estimate/ImproveButtons.h"
+
+#include "files/QtText.h"
+#include "screens/Arrangement.h"
+#include "screens/ControlNames.h"
+#include "screens/Controls.h"
+#include "screens/Display.h"
+#include "screens/Theme.h"
+
+#include <QGridLayout>
+#include <QPushButton>
+
+namespace tarn {
+
+namespace {
+
+constexpr const char* ImproveCaption = "IMPROVE";
+constexpr char ImproveMnemonic = 'V';
+
+} // namespace
+
+ImproveButtons::ImproveButtons(QWidget* parent)
+    : QWidget(parent)
+    , improve_(NewButton(this, Controls::improveFills, ImproveCaption, ImproveMnemonic))
+    , undo_(NewButton(this, Controls::undoImprovement, "UNDO", 'U')) {
+    undo_->setEnabled(false);
+    IgnoreSecondClick(*undo_); // which was for IMPROVE, in whose place it stands
+    auto* rows = new QGridLayout(this);
+    SetSpacing(*rows, 0);
+    for (QPushButton* button : {improve_, undo_}) {
+        button->setMinimumWidth(Pixels(Metrics::ButtonWidth));
+        button->setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Preferred);
+    }
+    rows->addWidget(improve_, 0, 0);
+    rows->addWidget(undo_, 1, 0);
+    KeepRoom(*undo_);
+}
+
+void ImproveButtons::Offer(const std::string& shorter) {
+    const std::string caption = ImproveCaption + (shorter.empty() ? "" : ": " + shorter);
+    if (FromQt(improve_->accessibleName()) == caption && undo_->isHidden() != shorter.empty()) {
+        return;
+    }
+    auto& rows = static_cast<QGridLayout&>(*layout());
+    rows.setRowMinimumHeight(0, undo_->sizeHint().height()); // of a button of one line
+    rows.removeWidget(improve_);
+    rows.addWidget(improve_, 0, 0, shorter.empty() ? 1 : 2, 1);
+    undo_->setVisible(shorter.empty());
+    SetCaption(*improve_, caption, ImproveMnemonic);
+    improve_->setText(improve_->text().replace(QLatin1String(": "), QLatin1String(":\n")));
+}
+
+} // namespace tarn
