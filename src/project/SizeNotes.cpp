@@ -69,21 +69,25 @@ bool IsSameLength(std::string_view dropped, std::string_view standing) {
     return length && typed && length->Parts == typed->Parts && length->In == typed->In;
 }
 
-/// What a dropped 0' means for the number behind it, which stands for feet; empty for nothing.
-std::string ZeroPartNote(std::string_view dropped, std::string_view standing) {
+/// What it means that the 0 of 0'6 or 0-6 was dropped: the number behind it stands for feet. Empty
+/// for nothing.
+std::string ZeroPartNote(std::string_view dropped, std::string_view standing, Units units) {
     const auto zero = ReadWholeLength(dropped);
-    if (!zero || zero->Alone != SizePart::Major || !HasSize(standing)) {
+    const bool isZeroUnit = zero && zero->In == units && zero->Alone == SizePart::Major;
+    const auto typed = ReadWholeLength(std::string(dropped).append(standing));
+    const bool isDashed =
+        typed && typed->In == units && !typed->Alone && typed->Parts.Major.empty();
+    if (dropped.empty() || !(isZeroUnit || isDashed) || !HasSize(standing)) {
         return {};
     }
-    const bool isMetric = zero->In == Units::Metric;
-    return TrimStr(dropped) + " is dropped: for " + std::string(SmallUnitName(zero->In)) +
-           " type " + Meant(standing) + (isMetric ? "cm" : "\"");
+    return TrimStr(dropped) + " is dropped: for " + std::string(SmallUnitName(units)) + " type " +
+           Meant(standing) + (units == Units::Metric ? "cm" : "\"");
 }
 
 /// A text as a note quotes it.
 std::string Quoted(const std::string& typed) {
     constexpr std::size_t Most = 24;
-    const std::string text = TrimStr(typed);
+    std::string text = TrimStr(typed);
     if (Len(text) <= static_cast<long long>(Most)) {
         return text;
     }
@@ -141,7 +145,7 @@ std::string Listed(const std::vector<std::size_t>& numbers) {
 
 } // namespace
 
-std::string DroppedNote(std::string_view dropped, std::string_view standing) {
+std::string DroppedNote(std::string_view dropped, std::string_view standing, Units units) {
     const std::string typed = std::string(dropped).append(standing);
     if (!dropped.empty() && IsSameLength(dropped, standing)) {
         return {};
@@ -152,7 +156,7 @@ std::string DroppedNote(std::string_view dropped, std::string_view standing) {
         return "A comma is not taken: type " +
                (HasSize(standing) ? WithPoint(typed) : std::string("3.45"));
     }
-    if (std::string note = ZeroPartNote(dropped, standing); !note.empty()) {
+    if (std::string note = ZeroPartNote(dropped, standing, units); !note.empty()) {
         return note;
     }
     const bool isNegative = !standing.empty() && standing.front() == '-';
@@ -173,7 +177,7 @@ std::string RefusedNote(const SizeParts& typed, Units units) {
     const bool isMetric = units == Units::Metric;
     switch (size.Why) {
     case Fault::Unreadable: {
-        std::string note = DroppedNote({}, text);
+        std::string note = DroppedNote({}, text, units);
         return !note.empty() ? note
                              : Quoted(text) + " is not taken: type it like " +
                                    (isMetric ? "3.66, 3.66m or 366cm" : "6.5, 6 1/2\" or 12'6\"");

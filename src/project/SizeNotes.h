@@ -17,7 +17,7 @@ namespace tarn {
 /// `standing` what stands in the field. Told are a comma, also one that stands before digits, and a
 /// sign, letters and marks that were dropped, or a minus sign that stands. Empty for nothing to
 /// tell, such as for 0'6" of which 6" stands.
-std::string DroppedNote(std::string_view dropped, std::string_view standing);
+std::string DroppedNote(std::string_view dropped, std::string_view standing, Units units);
 
 /// What is wrong with a size that cannot be stored as it is typed (see Spread), and how to write
 /// it: "12'6 is not taken: type it like .."; empty for nothing.

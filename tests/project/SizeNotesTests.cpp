@@ -5,55 +5,62 @@
 namespace tarn {
 namespace {
 
+std::string Dropped(const char* dropped, const char* standing, Units units = Units::Imperial) {
+    return DroppedNote(dropped, standing, units);
+}
+
 std::string Kept(const std::string& major, const std::string& minor, Units units) {
     return KeptNote({major, minor}, units);
 }
 
 TEST(DroppedNote, WritesACommaAsAPoint) {
-    EXPECT_EQ(DroppedNote("", "3,45"), "A comma is not taken: type 3.45");
-    EXPECT_EQ(DroppedNote("", "3,4"), "A comma is not taken: type 3.4");
-    EXPECT_EQ(DroppedNote("0,", "5"), "A comma is not taken: type 0.5");
-    EXPECT_EQ(DroppedNote(",", "5"), "A comma is not taken: type 0.5");
-    EXPECT_EQ(DroppedNote("", "1,234.5"), "A comma is not taken: type 1234.5");
+    EXPECT_EQ(Dropped("", "3,45"), "A comma is not taken: type 3.45");
+    EXPECT_EQ(Dropped("", "3,4"), "A comma is not taken: type 3.4");
+    EXPECT_EQ(Dropped("0,", "5"), "A comma is not taken: type 0.5");
+    EXPECT_EQ(Dropped(",", "5"), "A comma is not taken: type 0.5");
+    EXPECT_EQ(Dropped("", "1,234.5"), "A comma is not taken: type 1234.5");
 }
 
 TEST(DroppedNote, ShowsHowAPointIsWrittenWhereNoNumberStands) {
-    EXPECT_EQ(DroppedNote(",", ""), "A comma is not taken: type 3.45");
-    EXPECT_EQ(DroppedNote("0,", ""), "A comma is not taken: type 3.45");
-    EXPECT_EQ(DroppedNote("0,0", ""), "A comma is not taken: type 3.45");
+    EXPECT_EQ(Dropped(",", ""), "A comma is not taken: type 3.45");
+    EXPECT_EQ(Dropped("0,", ""), "A comma is not taken: type 3.45");
+    EXPECT_EQ(Dropped("0,0", ""), "A comma is not taken: type 3.45");
 }
 
 TEST(DroppedNote, LeavesACommaBehindTheNumberAlone) {
-    EXPECT_EQ(DroppedNote("", "3,"), "");
-    EXPECT_EQ(DroppedNote("", "12, about"), "");
+    EXPECT_EQ(Dropped("", "3,"), "");
+    EXPECT_EQ(Dropped("", "12, about"), "");
 }
 
 TEST(DroppedNote, NamesSignsLettersAndMarks) {
     const std::string how = ": type the number alone, such as ";
-    EXPECT_EQ(DroppedNote("-", ""), "A sign is not taken" + how + "12");
-    EXPECT_EQ(DroppedNote("-", "5"), "A sign is not taken" + how + "5");
-    EXPECT_EQ(DroppedNote("+", "7.5"), "A sign is not taken" + how + "7.5");
-    EXPECT_EQ(DroppedNote("", "-5"), "A sign is not taken" + how + "5");
-    EXPECT_EQ(DroppedNote("abc", ""), "Letters are not taken" + how + "12");
-    EXPECT_EQ(DroppedNote("a", "9"), "Letters are not taken" + how + "9");
-    EXPECT_EQ(DroppedNote("ü", "9"), "Letters are not taken" + how + "9");
-    EXPECT_EQ(DroppedNote("'", "6"), "Only a number is taken" + how + "6");
+    EXPECT_EQ(Dropped("-", ""), "A sign is not taken" + how + "12");
+    EXPECT_EQ(Dropped("-", "5"), "A sign is not taken" + how + "5");
+    EXPECT_EQ(Dropped("+", "7.5"), "A sign is not taken" + how + "7.5");
+    EXPECT_EQ(Dropped("", "-5"), "A sign is not taken" + how + "5");
+    EXPECT_EQ(Dropped("abc", ""), "Letters are not taken" + how + "12");
+    EXPECT_EQ(Dropped("a", "9"), "Letters are not taken" + how + "9");
+    EXPECT_EQ(Dropped("ü", "9"), "Letters are not taken" + how + "9");
+    EXPECT_EQ(Dropped("'", "6"), "Only a number is taken" + how + "6");
 }
 
 TEST(DroppedNote, TellsHowInchesAreTypedBehindADroppedZero) {
-    EXPECT_EQ(DroppedNote("0'", "6"), "0' is dropped: for inches type 6\"");
-    EXPECT_EQ(DroppedNote("0ft ", "6.5"), "0ft is dropped: for inches type 6.5\"");
-    EXPECT_EQ(DroppedNote("0m", "66"), "0m is dropped: for centimetres type 66cm");
-    EXPECT_EQ(DroppedNote("0'", "6\""), "") << "it comes out right";
-    EXPECT_EQ(DroppedNote("0' ", "6 1/2\""), "");
-    EXPECT_EQ(DroppedNote("0m ", "66cm"), "");
-    EXPECT_NE(DroppedNote("-0'", "6\""), "");
+    EXPECT_EQ(Dropped("0'", "6"), "0' is dropped: for inches type 6\"");
+    EXPECT_EQ(Dropped("0ft ", "6.5"), "0ft is dropped: for inches type 6.5\"");
+    EXPECT_EQ(Dropped("0m", "66", Units::Metric), "0m is dropped: for centimetres type 66cm");
+    EXPECT_EQ(Dropped("0'", "6\""), "") << "it comes out right";
+    EXPECT_EQ(Dropped("0' ", "6 1/2\""), "");
+    EXPECT_EQ(Dropped("0m ", "66cm", Units::Metric), "");
+    EXPECT_NE(Dropped("-0'", "6\""), "");
+    EXPECT_EQ(Dropped("0-", "6"), "0- is dropped: for inches type 6\"");
+    EXPECT_EQ(Dropped("0-", "6", Units::Metric),
+              "A sign is not taken: type the number alone, such as 6");
 }
 
 TEST(DroppedNote, WritesACommaAsAPointInAWholeLengthToo) {
-    EXPECT_EQ(DroppedNote("", "12'6,5\""), "A comma is not taken: type 12'6.5\"");
-    EXPECT_EQ(DroppedNote("", "3,66m"), "A comma is not taken: type 3.66m");
-    EXPECT_EQ(DroppedNote("", "12'6,5"), "A comma is not taken: type 3.45");
+    EXPECT_EQ(Dropped("", "12'6,5\""), "A comma is not taken: type 12'6.5\"");
+    EXPECT_EQ(Dropped("", "3,66m"), "A comma is not taken: type 3.66m");
+    EXPECT_EQ(Dropped("", "12'6,5"), "A comma is not taken: type 3.45");
 }
 
 TEST(RefusedNote, SaysWhatIsWrongAndHowToWriteIt) {
@@ -101,10 +108,10 @@ TEST(RefusedNote, CutsALongTextBetweenCharacters) {
 
 TEST(DroppedNote, IsEmptyForWhatChangesNothing) {
     for (const char* dropped : {"", "0", "00", "0.0", " ", ".", "\t"}) {
-        EXPECT_EQ(DroppedNote(dropped, "5"), "") << dropped;
-        EXPECT_EQ(DroppedNote(dropped, ""), "") << dropped;
+        EXPECT_EQ(Dropped(dropped, "5"), "") << dropped;
+        EXPECT_EQ(Dropped(dropped, ""), "") << dropped;
     }
-    EXPECT_EQ(DroppedNote("", "12 ft"), "");
+    EXPECT_EQ(Dropped("", "12 ft"), "");
 }
 
 TEST(KeptNote, TellsTheWholeNumberBesideWhatWasTyped) {

@@ -454,7 +454,7 @@ void RoomEntryFrame::TestTypedSize(int index) {
 
 std::string RoomEntryFrame::SizeNote(int index, bool erased) const {
     const auto at = static_cast<std::size_t>(index);
-    std::string note = DroppedNote(dropped_.at(at), FromQt(texts_.at(at)->text()));
+    std::string note = DroppedNote(dropped_.at(at), FromQt(texts_.at(at)->text()), units_);
     if (note.empty()) {
         note = KeptNote(SizeOf(SideOf(index)), units_);
     }
