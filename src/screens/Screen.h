@@ -65,8 +65,8 @@ class Screen : public QWidget {
     /// the screen is gone by then.
     void Later(std::function<void()> body);
 
-    /// Whether a key is Enter, pressed and not held, on an option: that is for the button that takes
-    /// the choices.
+    /// Whether a key is Enter, pressed and not held, on an option: that is for the button that
+    /// takes the choices.
     bool PressesFromOption(const QKeyEvent& key) const;
 
     void keyPressEvent(QKeyEvent* event) override;
