@@ -22,9 +22,9 @@ namespace {
 using namespace tarn;
 
 constexpr int Parts = 3000;
-constexpr int PartsAcross = 6;
-constexpr double PartWidth = 24; ///< inches
-constexpr double PartLength = 30;
+constexpr int PartsAcross = 28;
+constexpr double PartWidth = 5; ///< inches
+constexpr double PartLength = 10;
 
 /// A benchmark has nobody to tell.
 class NoBoxes : public Dialogs {

@@ -125,7 +125,7 @@ TEST_F(ControlNames, ThatScreensShareAreThoseOfTheTable) {
 
 TEST_F(ControlNames, AreReadUnderTheirHeadings) {
     const auto names = NamesByHeading();
-    EXPECT_EQ(names.size(), 8U);
+    EXPECT_EQ(names.size(), 9U);
     EXPECT_THAT(names.at("Options"), ::testing::Contains("Option1(5)"));
 }
 
