@@ -86,6 +86,7 @@ void RollTable::Show(const std::vector<TypedRoll>& rolls) {
 std::vector<TypedRoll> RollTable::Rolls() {
     CommitTyping();
     std::vector<TypedRoll> rolls;
+    rolls.reserve(static_cast<std::size_t>(rowCount()));
     for (int row = 0; row < rowCount(); ++row) {
         rolls.push_back(RollIn(row));
     }
