@@ -20,6 +20,7 @@
 #include <QKeyEvent>
 #include <QMenu>
 #include <QPushButton>
+#include <QShortcut>
 #include <QTabBar>
 #include <QTableWidget>
 #include <QVBoxLayout>
@@ -170,6 +171,14 @@ void OrderScreen::Connect() {
     OnClick(*print_, {}, [this] { PrintTaken(); });
     IgnoreSecondClick(*print_);
     OnClick(*back_, LeaveFailure, [this] { Leave(); });
+    const auto onKeys = [this](const QKeySequence& keys, const std::function<void()>& act) {
+        auto* shortcut = new QShortcut(keys, this); // wherever the focus is
+        shortcut->setAutoRepeat(false);
+        connect(shortcut, &QShortcut::activated, this, act);
+    };
+    onKeys(QKeySequence::Print, [this] { print_->click(); });
+    onKeys(QKeySequence::Save,
+           [this] { Guard(std::string(NotSavedMessage), [this] { SaveProject(); }); });
 }
 
 void OrderScreen::SetTabOrder() {
@@ -222,10 +231,6 @@ QWidget* OrderScreen::FirstFocus() {
 void OrderScreen::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Escape) {
         back_->click();
-    } else if (event->matches(QKeySequence::Print)) {
-        print_->click();
-    } else if (event->matches(QKeySequence::Save)) {
-        Guard(std::string(NotSavedMessage), [this] { SaveProject(); });
     } else {
         Screen::keyPressEvent(event);
     }

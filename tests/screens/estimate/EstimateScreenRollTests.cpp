@@ -1,6 +1,7 @@
 // The whole view of the roll on the carpet estimate: beside the drawing, or in its place.
 
 #include "screens/Display.h"
+#include "screens/Theme.h"
 #include "screens/estimate/EstimateScreenTesting.h"
 #include "screens/roll/RollList.h"
 #include "screens/roll/RollPanel.h"

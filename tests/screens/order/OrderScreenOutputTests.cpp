@@ -5,6 +5,7 @@
 
 #include <QAction>
 #include <QMenu>
+#include <QSignalSpy>
 
 #include <gmock/gmock.h>
 
@@ -44,6 +45,18 @@ TEST_F(OrderScreenOutput, PrintsTheSheetOfTheBestRow) {
     ASSERT_TRUE(document.Orders[0].Best);
     EXPECT_EQ(Cell(Table(), static_cast<int>(*document.Orders[0].Best), 0), "best");
     EXPECT_TRUE(boxes.Messages.empty());
+}
+
+TEST_F(OrderScreenOutput, IsPrintedByKeyWhereverTheFocusIs) {
+    OpenQuick();
+    const QSignalSpy presses(&Button(Controls::printOrder), &QPushButton::clicked);
+    qsizetype count = 0;
+    for (const char* name : {Controls::comparison, Controls::orderRolls, Controls::orderTrimAlong,
+                             Controls::orderCarpet, Controls::rollView, Controls::rollList}) {
+        Focus(Control(name));
+        Press(*form, Qt::Key_P, Qt::ControlModifier);
+        EXPECT_EQ(presses.count(), ++count) << name;
+    }
 }
 
 TEST_F(OrderScreenOutput, TellsWhyItCouldNotBePrinted) {
