@@ -17,7 +17,7 @@ struct EstimateScreenOrders : EstimateScreenTest {
 };
 
 TEST_F(EstimateScreenOrders, OpenWithTheCarpetThatWasEstimated) {
-    Open({{120, 120, 1}, {144, 120, 3}});
+    Open({{120, 120, 1}, {200, 120, 3}});
     EXPECT_FALSE(Order().isEnabled()) << "the choices come first";
     Click(Option(Controls::carpets[3]));
     Click(Option(Controls::standardWidths[1]));
