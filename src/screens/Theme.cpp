@@ -66,7 +66,7 @@ QGroupBox[panel="true"] { margin-top: 0; padding-top: 405tx; }
 QGroupBox[panel="true"]::title { subcontrol-origin: border; top: 135tx; }
 
 QPushButton { background: @Field; border: 2px solid @ControlBorder; border-radius: 75tw;
-    padding: 45tw 210tw; min-height: 345tw; }
+    padding: 45tw 210tw; min-height: 345tx; }
 QPushButton[textRole="Warning"] { color: @Warning; font-weight: 600; }
 QPushButton[textRole="Hint"] { background: transparent; color: @Muted; padding: 0 90tw;
     border-color: transparent; min-height: 0; }
@@ -83,11 +83,11 @@ QPushButton:focus { border-color: @Accent; outline: none; }
 QPushButton[primary="true"]:focus { border-color: @Text; outline: 1px solid @AccentText;
     outline-radius: 60tw; }
 
-QLineEdit, QComboBox, QPlainTextEdit, QListWidget, #%RollList% { background: @Field; color: @Text;
-    border: 2px solid @Border; border-radius: 60tw; selection-background-color: @Accent;
-    selection-color: @AccentText; }
-QLineEdit, QComboBox { padding: 30tw 90tw; min-height: 345tw; }
-QLineEdit:focus, QComboBox:focus, QPlainTextEdit:focus, QListWidget:focus,
+QLineEdit, QComboBox, QPlainTextEdit, QTextBrowser, QListWidget, #%RollList% {
+    background: @Field; color: @Text; border: 2px solid @ControlBorder; border-radius: 60tw;
+    selection-background-color: @Accent; selection-color: @AccentText; }
+QLineEdit, QComboBox { padding: 30tw 90tw; min-height: 345tx; }
+QLineEdit:focus, QComboBox:focus, QPlainTextEdit:focus, QTextBrowser:focus, QListWidget:focus,
     #%RollList%:focus { border-color: @Accent; }
 QLineEdit:disabled, QComboBox:disabled { color: @Disabled; background: @Surface; }
 QPlainTextEdit { font-size: @ListingFontpt; }
@@ -110,13 +110,13 @@ QTableView QHeaderView::section { background: @Surface; color: @Muted; border: n
     border-bottom: 1px solid @Border; padding: 45tw 75tw; font-size: @ListingFontpt; }
 
 QRadioButton, QCheckBox { border: 2px solid transparent;
-    border-radius: 60tw; padding: 15tw 45tw; spacing: 120tw; min-height: 330tw; }
+    border-radius: 60tw; padding: 15tw 45tw; spacing: 120tw; min-height: 330tx; }
 QRadioButton:focus, QCheckBox:focus { border-color: @Accent; }
 QRadioButton[marked="true"], QCheckBox[marked="true"] { color: @Green; }
 QRadioButton:disabled, QCheckBox:disabled { color: @Disabled; }
 
 QProgressBar { background: @Field; border: 1px solid @ControlBorder; border-radius: 60tw;
-    min-height: 240tw; text-align: center; }
+    min-height: 240tx; text-align: center; }
 QProgressBar::chunk { background: @Accent; border-radius: 45tw; }
 QToolTip { background: @Surface; color: @Text; border: 1px solid @Border; padding: 45tw; }
 QScrollBar { background: @Surface; border: none; margin: 0; }

@@ -12,6 +12,7 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QTabBar>
 #include <QTimer>
 
 #include <array>
@@ -129,6 +130,19 @@ class Walk {
         Press(Controls::improveFills);
         Press(Controls::pasteCuts);
         Visit("result while cuts are pasted");
+        Press(Controls::openOrder);
+        Order();
+    }
+    void Order() {
+        const auto& stop = Control<QPushButton>(Controls::stopComparing);
+        if (!QTest::qWaitFor([&stop] { return !stop.isEnabled(); }, 20000)) {
+            throw std::runtime_error("the comparison does not end");
+        }
+        auto& parts = Control<QTabBar>(Controls::orderParts);
+        for (int part = 0; part < parts.count(); ++part) {
+            parts.setCurrentIndex(part);
+            Visit("order, part " + std::to_string(part + 1));
+        }
     }
 
     Units units_;

@@ -107,6 +107,7 @@ TEST(GuideText, HasAPageForEveryStateOfEveryScreen) {
     EXPECT_EQ(lines["options"], "The options");
     EXPECT_EQ(lines["improving"], "A shorter layout");
     EXPECT_EQ(lines["result"], "The result");
+    EXPECT_EQ(lines["order, part 1"], "The order");
 }
 
 TEST(GuideText, ShowsEveryPictureNoWiderThanTheText) {
