@@ -45,13 +45,13 @@ struct Handing {
 
 /// The way out that needs no printer.
 std::string SaveInstead(const PrintJob& job, bool isShown) {
-    if (std::holds_alternative<OrderPages>(job)) {
-        return "Or save the order as a file.";
-    }
     std::string caption(SaveAsPdfCaption);
     std::erase(caption, '&');
-    return (isShown ? "Or right-click what is shown" : "Or show it again, right-click it") +
-           std::string(" and choose \"") + caption + "\".";
+    const char* way = isShown ? "Or right-click what is shown" : "Or show it again, right-click it";
+    if (std::holds_alternative<OrderPages>(job)) {
+        way = isShown ? "Or press SAVE AS" : "Or show the order again, press SAVE AS";
+    }
+    return std::string(way) + " and choose \"" + caption + "\".";
 }
 
 } // namespace

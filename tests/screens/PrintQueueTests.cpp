@@ -118,7 +118,8 @@ TEST_F(PrintQueues, TellWhatHelpsBelowTheCause) {
     EXPECT_THAT(boxes.Informative,
                 ElementsAre("The printer Hall is stopped.\r\nStart it again.\r\n"
                             "Or right-click what is shown and choose \"Save as PDF\".",
-                            "The printer Hall is stopped.\r\nOr save the order as a file."));
+                            "The printer Hall is stopped.\r\n"
+                            "Or press SAVE AS and choose \"Save as PDF\"."));
 }
 
 TEST_F(PrintQueues, TellOfAFailureAlsoWhenWhatWasShownIsGone) {

@@ -171,14 +171,11 @@ void OrderScreen::Connect() {
     OnClick(*print_, {}, [this] { PrintTaken(); });
     IgnoreSecondClick(*print_);
     OnClick(*back_, LeaveFailure, [this] { Leave(); });
-    const auto onKeys = [this](const QKeySequence& keys, const std::function<void()>& act) {
-        auto* shortcut = new QShortcut(keys, this); // wherever the focus is
-        shortcut->setAutoRepeat(false);
-        connect(shortcut, &QShortcut::activated, this, act);
-    };
-    onKeys(QKeySequence::Print, [this] { print_->click(); });
-    onKeys(QKeySequence::Save,
-           [this] { Guard(std::string(NotSavedMessage), [this] { SaveProject(); }); });
+    PressOnKeys(*print_, QKeySequence::Print, *this);
+    auto* save = new QShortcut(QKeySequence::Save, this);
+    save->setAutoRepeat(false);
+    connect(save, &QShortcut::activated, this,
+            [this] { Guard(std::string(NotSavedMessage), [this] { SaveProject(); }); });
 }
 
 void OrderScreen::SetTabOrder() {
