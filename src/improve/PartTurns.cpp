@@ -25,6 +25,7 @@ PartTurns::PartTurns(const ImproveJob& job)
     , orders_(StartOrders(job)) {
     for (std::size_t i = 0; i < job.Fills.size(); ++i) {
         firstTurn_.push_back(turns_.size());
+        unlaid_.push_back({turns_.size(), job.Fills[i].Length});
         const Long parts = PartsAllowed(job, job.Fills[i]);
         if (parts > 1) {
             divisible_.push_back(i);
@@ -34,7 +35,7 @@ PartTurns::PartTurns(const ImproveJob& job)
         }
     }
     firstTurn_.push_back(turns_.size());
-    states_.resize(job.Fills.size());
+    states_ = unlaid_;
 }
 
 std::size_t PartTurns::Orders() const {
@@ -50,7 +51,6 @@ void PartTurns::Begin(std::size_t order) {
         const Long parts = std::min(turns, equalParts);
         const Long share = (job_->Fills[fill].Length + parts - 1) / parts;
         const Long step = job_->CutStep;
-        states_[fill] = {firstTurn_[fill], job_->Fills[fill].Length};
         for (std::size_t turn = firstTurn_[fill]; turn < firstTurn_[fill + 1]; ++turn) {
             turns_[turn] = {fill, static_cast<Long>(place),
                             parts > 1 ? PartCut::OfLength : PartCut::Rest,
@@ -58,21 +58,18 @@ void PartTurns::Begin(std::size_t order) {
         }
     }
     changes_ = 0;
+    states_ = unlaid_;
 }
 
 void PartTurns::LayNone() {
     open_.resize(job_->Fills.size());
     std::iota(open_.begin(), open_.end(), std::size_t{0});
-    for (const std::size_t fill : open_) {
-        states_[fill] = {firstTurn_[fill], job_->Fills[fill].Length};
-    }
+    states_ = unlaid_;
 }
 
 void PartTurns::TakeOff(std::size_t fill, Long length) {
-    State& state = states_[fill];
-    state.Rest -= length;
-    ++state.Turn;
-    if (state.Rest == 0) {
+    Advance(fill, length);
+    if (states_[fill].Rest == 0) {
         open_.erase(std::find(open_.begin(), open_.end(), fill));
     }
 }

@@ -66,6 +66,12 @@ class PartTurns {
     Long WholeSteps(Long length) const { return length - length % job_->CutStep; }
     /// What was laid is taken off its fill.
     void TakeOff(std::size_t fill, Long length);
+    /// The same of all fills and of one, without the list of those that are not used up.
+    void ResetStates() { states_ = unlaid_; }
+    void Advance(std::size_t fill, Long length) {
+        states_[fill].Rest -= length;
+        ++states_[fill].Turn;
+    }
 
   private:
     void ChangeRule(RandomSteps& random);
@@ -86,6 +92,7 @@ class PartTurns {
     std::array<PartTurn, 2> before_{};
     std::size_t changes_ = 0;
 
+    std::vector<State> unlaid_; ///< states on an empty roll
     std::vector<State> states_;
     std::vector<std::size_t> open_;
 };

@@ -328,12 +328,12 @@ void PatternPlan::ToggleClosing() {
     closing_ += closes_[number_] != 0 ? 1 : -1;
 }
 
-void PatternPlan::Change(RandomSteps& random, bool skips) {
+void PatternPlan::Change(RandomSteps& random, bool departures) {
     constexpr std::size_t DelayOneIn = 4;
     constexpr std::size_t ClosingOneIn = 12;
-    KeepSkips();
+    KeepDepartures();
     changed_ = Changed::Nothing;
-    if (skips && ChangeSkips(random, 2 * Job().Fills.size())) {
+    if (departures && ChangeDepartures(random, 2 * Job().Fills.size() + 1, 1)) {
         return;
     }
     if (Job().Repeat.Along > 0 && random.Below(DelayOneIn) == 0) {
@@ -349,7 +349,7 @@ void PatternPlan::Change(RandomSteps& random, bool skips) {
 }
 
 void PatternPlan::Undo() {
-    UndoSkips();
+    UndoDepartures();
     switch (changed_) {
     case Changed::Turns:
         turns_.Undo();

@@ -22,7 +22,7 @@ class PatternPlan : public SkylinePlan {
 
     std::size_t Orders() const override;
     void Begin(std::size_t order, PlacingRule rule) override;
-    void Change(RandomSteps& random, bool skips) override;
+    void Change(RandomSteps& random, bool departures) override;
     void Undo() override;
     std::unique_ptr<Plan> Copy() const override;
     void TakeFrom(const Plan& other) override;

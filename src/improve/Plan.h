@@ -42,8 +42,9 @@ class Plan {
     /// at most LongestRoll.
     virtual Area64 Length(Area64 limit) = 0;
 
-    /// Change the plan a little; with `skips` also the places that are left free.
-    virtual void Change(RandomSteps& random, bool skips) = 0;
+    /// Change the plan a little; with `departures` also where it departs from the
+    /// rule.
+    virtual void Change(RandomSteps& random, bool departures) = 0;
     /// Take the last change back.
     virtual void Undo() = 0;
 

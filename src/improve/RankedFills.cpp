@@ -132,6 +132,20 @@ RankedFills::Choice RankedFills::Choose(Long gapWidth, const Walls& walls, Long 
     return rank != NoRank ? Choice{rank, FitClass::Fits} : Choice{};
 }
 
+RankedFills::Choice RankedFills::First(Long gapWidth, const Walls& walls, Long room) const {
+    const std::ptrdiff_t across = widths_.LastUpTo(gapWidth);
+    const std::ptrdiff_t along = lengths_.LastUpTo(room);
+    if (across < 0 || along < 0) {
+        return {};
+    }
+    const std::size_t rank = FirstIn(Row(widths_.AtMost, across), Row(lengths_.AtMost, along));
+    if (rank == NoRank) {
+        return {};
+    }
+    const ImproveFill& fill = job_->Fills[order_[rank]];
+    return {rank, ClassOf(fill.Width == gapWidth, fill.Length, walls)};
+}
+
 RankedFills::Choice RankedFills::Filling(const Word* row, const Walls& walls, Long room) const {
     Choice best;
     for (std::size_t word = 0; word < words_; ++word) {

@@ -48,6 +48,8 @@ class RankedFills {
     /// it the earliest one. Fills of no special length are at most `widest` wide and `longest`
     /// long. No fill when none is left that fits.
     Choice Choose(Long gapWidth, const Walls& walls, Long room, Long widest, Long longest) const;
+    /// The earliest fill that fits the gap at all, with the class it is of.
+    Choice First(Long gapWidth, const Walls& walls, Long room) const;
 
   private:
     using Word = std::uint64_t;

@@ -19,12 +19,13 @@ Area64 SkylinePlan::Length(Area64 limit) {
     return LayOut({NoWall, slack, limit}) ? end_ : limit + 1;
 }
 
-bool SkylinePlan::ChangeSkips(RandomSteps& random, std::size_t last) {
+bool SkylinePlan::ChangeDepartures(RandomSteps& random, std::size_t steps, std::size_t kinds) {
     constexpr std::size_t OneIn = 10;
     if (random.Below(OneIn) != 0) {
         return false;
     }
-    skips_.Change(random, last);
+    const std::size_t kind = kinds > 1 ? random.Below(kinds) : 0;
+    departures_.Change(static_cast<Departure>(kind), random, steps);
     return random.Below(2) == 0;
 }
 

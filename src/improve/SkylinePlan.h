@@ -1,7 +1,7 @@
 #pragma once
 
+#include "improve/Departures.h"
 #include "improve/FitClass.h"
-#include "improve/LeftFree.h"
 #include "improve/Plan.h"
 #include "improve/Skyline.h"
 
@@ -39,8 +39,10 @@ class SkylinePlan : public Plan {
     /// its time in.
     template <class HasMore, class Choose, class Put>
     bool FillGaps(const Limits& limits, HasMore hasMore, Choose choose, Put put);
-    /// Whether the next step that could take a part is one that leaves its gap free.
-    bool LeavesNextFree() { return skips_.Holds(step_++); }
+    /// Begin the next step that could take a part. Whether it leaves its gap free.
+    bool LeavesNextFree() { return departures_.Hold(Departure::LeaveFree, ++step_); }
+    /// Whether the step departs from the rule.
+    bool Departs(Departure kind) const { return departures_.Hold(kind, step_); }
     /// Lay a part of a fill.
     void Lay(std::size_t fill, Long length, const Gap& gap, const Walls& walls, FitClass fit);
     /// Lay a part anywhere in a gap, at or above the gap's y. What is below it is lost.
@@ -48,14 +50,15 @@ class SkylinePlan : public Plan {
 
     void BeginWith(PlacingRule rule) {
         rule_ = rule;
-        skips_ = LeftFree();
-        skipsBefore_ = skips_;
+        departures_ = Departures();
+        departuresBefore_ = departures_;
     }
-    /// Now and then change which of the steps 0 .. `last` leave their gap free. True when that is
-    /// all that changes.
-    bool ChangeSkips(RandomSteps& random, std::size_t last);
-    void KeepSkips() { skipsBefore_ = skips_; }
-    void UndoSkips() { skips_ = skipsBefore_; }
+    /// Now and then change at which of the first `steps` steps a plan departs from the rule, in one
+    /// of the first `kinds` ways. True when that is all that changes.
+    bool ChangeDepartures(RandomSteps& random, std::size_t steps,
+                          std::size_t kinds = static_cast<std::size_t>(Departure::Count));
+    void KeepDepartures() { departuresBefore_ = departures_; }
+    void UndoDepartures() { departures_ = departuresBefore_; }
 
     const ImproveJob& Job() const { return *job_; }
     const PlacingRule& Rule() const { return rule_; }
@@ -70,11 +73,11 @@ class SkylinePlan : public Plan {
     const ImproveJob* job_;
     Area64 area_;
     PlacingRule rule_;
-    LeftFree skips_;
-    LeftFree skipsBefore_;
+    Departures departures_;
+    Departures departuresBefore_;
 
     Skyline skyline_;
-    std::size_t step_ = 0;
+    std::size_t step_ = 0; ///< from 1
     std::vector<ImprovePart> placed_;
     Area64 placedArea_ = 0;
     Area64 waste_ = 0; ///< left free below what is laid
@@ -121,7 +124,8 @@ bool SkylinePlan::FillGaps(const Limits& limits, HasMore hasMore, Choose choose,
 inline void SkylinePlan::Lay(std::size_t fill, Long length, const Gap& gap, const Walls& walls,
                              FitClass fit) {
     const Long width = job_->Fills[fill].Width;
-    const Long x = skyline_.Place(gap, StandsLeft(fit, walls), width, length);
+    const bool atLeft = StandsLeft(fit, walls) != Departs(Departure::OtherWall);
+    const Long x = skyline_.Place(gap, atLeft, width, length);
     placed_.push_back({fill, x, gap.Y, length});
     placedArea_ += static_cast<Area64>(width) * length;
     end_ = std::max(end_, static_cast<Area64>(gap.Y) + length);

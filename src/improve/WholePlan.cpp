@@ -47,6 +47,9 @@ RankedFills::Choice WholePlan::Choose(const Gap& gap, const Walls& walls, Long r
     if (narrowest > gap.Width || LeavesNextFree()) {
         return {};
     }
+    if (Departs(Departure::ByOrder)) {
+        return fills_.First(gap.Width, walls, room);
+    }
     return fills_.Choose(gap.Width, walls, room, WidestFor(gap, narrowest),
                          Rule().NotAboveWall ? walls.Tall : room);
 }
@@ -57,10 +60,10 @@ bool WholePlan::AreUnequal(std::size_t rankA, std::size_t rankB) const {
     return a.Width != b.Width || a.Length != b.Length;
 }
 
-void WholePlan::Change(RandomSteps& random, bool skips) {
-    KeepSkips();
+void WholePlan::Change(RandomSteps& random, bool departures) {
+    KeepDepartures();
     swappedA_ = swappedB_ = 0;
-    if ((skips && ChangeSkips(random, fills_.Count() - 1)) || allEqual_) {
+    if ((departures && ChangeDepartures(random, fills_.Count())) || allEqual_) {
         return;
     }
     do {
@@ -71,7 +74,7 @@ void WholePlan::Change(RandomSteps& random, bool skips) {
 }
 
 void WholePlan::Undo() {
-    UndoSkips();
+    UndoDepartures();
     if (swappedA_ != swappedB_) {
         fills_.Exchange(swappedA_, swappedB_);
     }

@@ -128,6 +128,68 @@ TEST(PartPlan, BeginsWithEqualPartsToo) {
     EXPECT_EQ(plan.Layout().size(), 2U);
 }
 
+//   +------+--+
+//   |  a   |b |
+//   +--+---+  |     A piece cut into five, and the largest of them again: such layouts cannot be
+//   |d | e |  |     cut apart from edge to edge.
+//   |  +---+--+
+//   |  |  c   |
+//   +--+------+
+void CutIntoFive(std::mt19937& random, std::vector<ImproveFill>& pieces) {
+    const auto larger = [](const ImproveFill& a, const ImproveFill& b) {
+        return a.Width * a.Length < b.Width * b.Length;
+    };
+    const auto whole = std::max_element(pieces.begin(), pieces.end(), larger);
+    const Long width = whole->Width;
+    const Long length = whole->Length;
+    pieces.erase(whole);
+    const Long left = testing::Between(random, 1, width / 2);
+    const Long right = testing::Between(random, left + 1, width - 1);
+    const Long begin = testing::Between(random, 1, length / 2);
+    const Long end = testing::Between(random, begin + 1, length - 1);
+    pieces.insert(pieces.end(), {{right, begin, 1},
+                                 {width - right, end, 1},
+                                 {width - left, length - end, 1},
+                                 {left, length - begin, 1},
+                                 {right - left, end - begin, 1}});
+}
+
+/// A square cut into 21 pieces: it can be laid without any gap.
+ImproveJob CutSquare(unsigned seed) {
+    constexpr Long Side = 200;
+    std::mt19937 random(seed);
+    ImproveJob job{Side, 1, 1, 100, {{Side, Side, 1}}};
+    for (int times = 0; times < 5; ++times) {
+        CutIntoFive(random, job.Fills);
+    }
+    return job;
+}
+
+TEST(WholePlan, DeparturesReachLayoutsThatNoOrderGives) {
+    const auto squares = [](bool departures) {
+        int count = 0;
+        for (unsigned seed = 1; seed <= 40; ++seed) {
+            const ImproveJob job = CutSquare(seed);
+            WholePlan plan(job);
+            RandomSteps random(seed);
+            plan.Begin(0, {});
+            Area64 unpacked = plan.Unpacked(job.Width, NoLimit);
+            for (int step = 0; unpacked > 0 && step < 10000; ++step) {
+                plan.Change(random, departures);
+                const Area64 changed = plan.Unpacked(job.Width, unpacked);
+                if (changed <= unpacked) {
+                    unpacked = changed;
+                } else {
+                    plan.Undo();
+                }
+            }
+            count += unpacked == 0 ? 1 : 0;
+        }
+        return count;
+    };
+    EXPECT_GT(squares(true), squares(false));
+}
+
 // The first part ends at the roof, the second lies beside it.
 TEST(PartPlan, CutsAtTheRoofWhereTheFillMayBeDivided) {
     const ImproveJob job{12, 3, 1, 100, {{6, 20, 2}}};

@@ -44,6 +44,15 @@ class Plain {
         }
         return {};
     }
+    RankedFills::Choice Earliest(Long gapWidth, const Walls& walls, Long room) const {
+        const std::size_t rank =
+            First([&](const ImproveFill& f) { return f.Width <= gapWidth && f.Length <= room; });
+        if (rank == RankedFills::NoRank) {
+            return {};
+        }
+        const ImproveFill& fill = job_.Fills[Order[rank]];
+        return {rank, ClassOf(fill.Width == gapWidth, fill.Length, walls)};
+    }
     RankedFills::Choice Filling(Long width, Long longest, const Walls& walls) const {
         RankedFills::Choice best;
         for (std::size_t rank = 0; rank < Order.size(); ++rank) {
@@ -112,6 +121,10 @@ TEST_P(RankedFillsAgainstPlain, AnswersTheSame) {
             const RankedFills::Choice expected = plain.Choose(width, walls, room, widest, longest);
             EXPECT_EQ(choice.Rank, expected.Rank);
             EXPECT_EQ(choice.Fit, expected.Fit);
+            const RankedFills::Choice first = fills.First(width, walls, room);
+            const RankedFills::Choice earliest = plain.Earliest(width, walls, room);
+            EXPECT_EQ(first.Rank, earliest.Rank);
+            EXPECT_EQ(first.Fit, earliest.Fit);
         }
     }
 }
