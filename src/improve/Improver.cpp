@@ -2,12 +2,14 @@
 
 #include "improve/Bounds.h"
 #include "improve/ColumnGeneration.h"
+#include "improve/ExactSearch.h"
 #include "improve/MakePlan.h"
 #include "improve/PatternBounds.h"
 #include "improve/Searches.h"
 
 #include <algorithm>
 #include <memory>
+#include <optional>
 
 namespace tarn {
 
@@ -19,6 +21,8 @@ constexpr Double EffortGrowth = 1.5;       ///< a round
 constexpr Double ShortenShare = 0.05;      ///< of the steps from one start
 constexpr Double PolishShare = 0.05;
 constexpr Double RelaxationShare = 0.2; ///< of the seconds of a run at most
+constexpr std::size_t MostDecided = 40; ///< fills up to which an exact search is tried
+constexpr Double DecideShare = 4;       ///< of the steps from one start, for an exact search
 constexpr std::size_t StartsPerRoof = 4;
 constexpr std::size_t BestStarts = 12;     ///< that take turns
 constexpr std::int64_t LastPolish = 20000; ///< steps without a gain, when no layout is shorter
@@ -28,7 +32,11 @@ class Improver {
     Improver(ImproveRun& run, std::uint64_t seed)
         : run_(run)
         , random_(seed)
-        , plan_(MakePlan(run.Job())) {}
+        , plan_(MakePlan(run.Job())) {
+        if (ExactSearch::CanDecide(run.Job()) && run.Job().Fills.size() <= MostDecided) {
+            exact_.emplace(run.Job());
+        }
+    }
 
     void Search() {
         run_.RaiseBound(QuickBound(run_.Job()));
@@ -39,6 +47,7 @@ class Improver {
 
         for (int round = 0; !run_.IsLeast() && !run_.Stopped(); ++round) {
             LowerRoof();
+            DecideRoof(round);
             if (!run_.Stopped()) {
                 ShortenStarts(round);
             }
@@ -71,6 +80,28 @@ class Improver {
             if (!PackFromAny(roof)) {
                 low = roof + 1;
             }
+        }
+    }
+
+    /// Look for a shorter layout, or the proof that there is none, by trying everything. The last
+    /// roof below the best is asked about, and every other time, for what it is worth, the bound or
+    /// one in the middle, which take less to be decided.
+    void DecideRoof(int round) {
+        bool goOn = exact_.has_value();
+        while (goOn && !run_.IsLeast() && !run_.Stopped()) {
+            const Long low = run_.Bound();
+            const Long high = run_.Best().Length - 1;
+            constexpr int Turns = 4;
+            const Long lower = round % Turns == 1 ? low : low + (high - low) / 2;
+            const Long roof = round % 2 == 0 ? high : lower;
+            const std::int64_t cases = Steps(DecideShare) * ExactSearch::CasesPerStep;
+            const ExactAnswer answer = exact_->Decide(roof, cases, [this] { return run_.Spend(); });
+            if (answer == ExactAnswer::Found) {
+                run_.Offer(exact_->Layout());
+            } else if (answer == ExactAnswer::None) {
+                run_.RaiseBound(roof + 1);
+            }
+            goOn = answer != ExactAnswer::Unknown;
         }
     }
 
@@ -112,6 +143,7 @@ class Improver {
     ImproveRun& run_;
     RandomSteps random_;
     std::unique_ptr<Plan> plan_;
+    std::optional<ExactSearch> exact_; ///< for small jobs
     std::vector<PlanStart> starts_;
     std::size_t next_ = 0;       ///< start
     std::unique_ptr<Plan> best_; ///< the last that packed all below a roof

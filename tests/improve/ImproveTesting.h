@@ -7,11 +7,19 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstdlib>
 #include <random>
 #include <string>
 #include <vector>
 
 namespace tarn::testing {
+
+/// How many times as many jobs a test looks at as usual: TARN_JOBS, which ./dev prove sets.
+inline unsigned JobsFactor() {
+    const char* times = std::getenv("TARN_JOBS");
+    const unsigned long factor = times == nullptr ? 1 : std::strtoul(times, nullptr, 10);
+    return static_cast<unsigned>(std::clamp<unsigned long>(factor, 1, 1000));
+}
 
 /// A whole number `least` .. `most`.
 inline Long Between(std::mt19937& random, Long least, Long most) {
