@@ -3,7 +3,7 @@
 #include "base/Lengths.h"
 #include "base/RunTimeError.h"
 #include "engine/ResultLength.h"
-#include "improve/Improver.h"
+#include "improve/ImproveThreads.h"
 #include "improve/RollJob.h"
 
 #include <algorithm>
@@ -14,16 +14,17 @@ namespace tarn {
 
 namespace {
 
-/// The run's best layout, when it is to be taken. Nothing when there is none; when more would have
-/// to be ordered: an equal length can lie just above whole inches where the start lies just below
-/// them; or when it is no better than the start, of merit `merit`, once it is finished, pushed to
-/// the left.
-std::optional<SearchResult> BestOf(const ImproveRun& run, const RollJob& roll, const SearchJob& job,
-                                   const SearchResult& start, const LayoutMerit& merit) {
-    if (run.BestParts().empty()) {
+/// The best layout of a search, when it is to be taken. Nothing when there is none; when more would
+/// have to be ordered: an equal length can lie just above whole inches where the start lies just
+/// below them; or when it is no better than the start, of merit `merit`, once it is finished,
+/// pushed to the left.
+std::optional<SearchResult> BestOf(const ImproveOutcome& outcome, const RollJob& roll,
+                                   const SearchJob& job, const SearchResult& start,
+                                   const LayoutMerit& merit) {
+    if (outcome.Parts.empty()) {
         return std::nullopt;
     }
-    SearchResult improved = ResultOf(roll, run.BestParts(), job, start);
+    SearchResult improved = ResultOf(roll, outcome.Parts, job, start);
     if (!IsWithinTolerance(LengthInUse(improved.Layout) - LengthInUse(start.Layout))) {
         RaiseInternal("The improved layout is longer than before and was discarded.");
     }
@@ -57,20 +58,20 @@ ImproveResult ImproveFills(const SearchJob& job, const SearchResult& start,
     const auto isBelow = [&](Long bound) {
         return startLength <= bound * roll.AlongUnit - LengthTolerance;
     };
-    ImproveRun run(roll.Job, merit, limits, [&](Long best, Long bound) {
+    const auto report = [&](Long best, Long bound) {
         const Double length = best < merit.Length ? inches(best) : startLength;
         return observer.Progress({length, std::min(length, inches(bound)), isBelow(bound)});
-    });
-    Improve(run, limits.Seed);
-    if (auto improved = BestOf(run, roll, job, start, merit)) {
+    };
+    const ImproveOutcome outcome = ImproveOnThreads(roll.Job, merit, limits, report);
+    if (auto improved = BestOf(outcome, roll, job, start, merit)) {
         result.Improved = true;
         result.Fills = *std::move(improved);
         result.Length = LengthInUse(result.Fills.Layout);
         result.Pieces = static_cast<Integer>(result.Fills.Layout.size());
     }
-    result.Bound = std::min(static_cast<Double>(result.Length), run.Bound() * roll.AlongUnit);
-    result.StartBelowRules = isBelow(run.RulesBound());
-    result.Steps = run.Steps();
+    result.Bound = std::min(static_cast<Double>(result.Length), outcome.Bound() * roll.AlongUnit);
+    result.StartBelowRules = isBelow(outcome.RulesBound);
+    result.Steps = outcome.Steps;
     return result;
 }
 

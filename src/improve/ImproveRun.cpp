@@ -62,6 +62,14 @@ LayoutMerit ImproveRun::Offer(std::vector<ImprovePart> parts) {
     return merit;
 }
 
+void ImproveRun::Learn(const LayoutMerit& best, const std::vector<ImprovePart>& parts, Long bound) {
+    if (best.BetterThan(best_)) {
+        best_ = best;
+        bestParts_ = parts;
+    }
+    bound_ = std::max(bound_, bound);
+}
+
 void ImproveRun::RaiseBound(Long bound) {
     if (bound > bound_) {
         bound_ = bound;

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <cstddef>
 #include <cstdint>
 #include <functional>
 #include <vector>
@@ -12,9 +13,10 @@ namespace tarn {
 
 /// How long an improving search goes on. It always ends when the best is the least possible.
 struct ImproveLimits {
-    Double Seconds = 0;     ///< 0 = no limit
-    std::int64_t Steps = 0; ///< layouts that are tried; 0 = no limit
-    std::uint64_t Seed = 1; ///< same seed and steps: same result, to the last bit
+    Double Seconds = 0;      ///< 0 = no limit
+    std::int64_t Steps = 0;  ///< layouts that are tried; 0 = no limit
+    std::uint64_t Seed = 1;  ///< same seed, steps and threads: same result, to the last bit
+    std::size_t Threads = 0; ///< see ThreadsFor; one search alone takes one
 };
 
 /// What a running search is asked now and then: the best length and the bound so far, in the job's
@@ -41,11 +43,16 @@ class ImproveRun {
     /// Seconds since the run began.
     Double Passed() const { return std::chrono::duration<Double>(Clock::now() - begin_).count(); }
     bool Stopped() const { return stopped_; }
+    /// Whether it was the report that stopped it.
+    bool Refused() const { return refused_; }
     std::int64_t Steps() const { return steps_; }
 
     /// Take a whole layout if it is better than the best. Returns its merit.
     LayoutMerit Offer(std::vector<ImprovePart> parts);
     void RaiseBound(Long bound);
+    /// Take over what another search for the same job and start knows, where it is better; the
+    /// report is not called for it.
+    void Learn(const LayoutMerit& best, const std::vector<ImprovePart>& parts, Long bound);
 
     const LayoutMerit& Best() const { return best_; }
     /// The best layout; empty while that is the start.

@@ -29,8 +29,10 @@ constexpr std::int64_t LastPolish = 20000; ///< steps without a gain, when no la
 
 class Improver {
   public:
-    Improver(ImproveRun& run, std::uint64_t seed)
+    Improver(ImproveRun& run, std::uint64_t seed, std::size_t number)
         : run_(run)
+        , number_(number)
+        , next_(number * StartsPerRoof)
         , random_(seed)
         , plan_(MakePlan(run.Job())) {
         if (ExactSearch::CanDecide(run.Job()) && run.Job().Fills.size() <= MostDecided) {
@@ -41,11 +43,11 @@ class Improver {
     void Search() {
         run_.RaiseBound(QuickBound(run_.Job()));
         starts_ = RankedStarts(run_, *plan_);
-        if (!run_.IsLeast() && !run_.Stopped()) {
+        if (number_ == 0 && !run_.IsLeast() && !run_.Stopped()) {
             RaiseBounds();
         }
 
-        for (int round = 0; !run_.IsLeast() && !run_.Stopped(); ++round) {
+        for (int round = static_cast<int>(number_); !run_.IsLeast() && !run_.Stopped(); ++round) {
             LowerRoof();
             DecideRoof(round);
             if (!run_.Stopped()) {
@@ -74,8 +76,8 @@ class Improver {
 
     /// Look for the lowest roof between the bound and the best below which all can be packed.
     void LowerRoof() {
-        Long low = run_.Bound();
-        while (low < run_.Best().Length && !run_.Stopped()) {
+        Long low = 0;
+        while ((low = std::max(low, run_.Bound())) < run_.Best().Length && !run_.Stopped()) {
             const Long roof = low + (run_.Best().Length - 1 - low) / 2;
             if (!PackFromAny(roof)) {
                 low = roof + 1;
@@ -95,18 +97,21 @@ class Improver {
             const Long lower = round % Turns == 1 ? low : low + (high - low) / 2;
             const Long roof = round % 2 == 0 ? high : lower;
             const std::int64_t cases = Steps(DecideShare) * ExactSearch::CasesPerStep;
-            const ExactAnswer answer = exact_->Decide(roof, cases, [this] { return run_.Spend(); });
+            const ExactAnswer answer =
+                exact_->Decide(roof, cases, [&] { return run_.Spend() && IsOpen(run_, roof); });
             if (answer == ExactAnswer::Found) {
                 run_.Offer(exact_->Layout());
             } else if (answer == ExactAnswer::None) {
                 run_.RaiseBound(roof + 1);
             }
-            goOn = answer != ExactAnswer::Unknown;
+            goOn = answer != ExactAnswer::Unknown || !IsOpen(run_, roof);
         }
     }
 
     bool PackFromAny(Long roof) {
-        for (std::size_t i = 0; i < StartsPerRoof && !run_.Stopped(); ++i) {
+        const bool wasOpen = IsOpen(run_, roof);
+        const auto goOn = [&] { return !run_.Stopped() && IsOpen(run_, roof) == wasOpen; };
+        for (std::size_t i = 0; i < StartsPerRoof && goOn(); ++i) {
             const PlanStart& start = starts_[next_++ % std::min(BestStarts, starts_.size())];
             if (PackBelow(run_, *plan_, start, roof, Steps(1), random_)) {
                 best_ = plan_->Copy();
@@ -141,20 +146,21 @@ class Improver {
     }
 
     ImproveRun& run_;
+    std::size_t number_; ///< of several searches
+    std::size_t next_;   ///< start
     RandomSteps random_;
     std::unique_ptr<Plan> plan_;
     std::optional<ExactSearch> exact_; ///< for small jobs
     std::vector<PlanStart> starts_;
-    std::size_t next_ = 0;       ///< start
     std::unique_ptr<Plan> best_; ///< the last that packed all below a roof
     Double effort_ = HasPattern(run_.Job()) ? FirstPatternEffort : FirstEffort;
 };
 
 } // namespace
 
-void Improve(ImproveRun& run, std::uint64_t seed) {
+void Improve(ImproveRun& run, std::uint64_t seed, std::size_t number) {
     if (!run.Job().Fills.empty()) {
-        Improver(run, seed).Search();
+        Improver(run, seed, number).Search();
     }
 }
 

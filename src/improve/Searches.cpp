@@ -42,6 +42,7 @@ bool PackBelow(ImproveRun& run, Plan& plan, const PlanStart& start, Long roof, s
     const std::int64_t patience =
         PatiencePerFill * static_cast<std::int64_t>(run.Job().Fills.size());
     std::int64_t sinceGain = 0;
+    const bool wasOpen = IsOpen(run, roof);
     bool goOn = run.Spend();
     for (std::int64_t step = 0; unpacked > 0 && goOn && step < steps; ++step) {
         const bool kick = ++sinceGain > patience;
@@ -65,7 +66,7 @@ bool PackBelow(ImproveRun& run, Plan& plan, const PlanStart& start, Long roof, s
         } else {
             plan.Undo();
         }
-        goOn = run.Spend();
+        goOn = run.Spend() && IsOpen(run, roof) == wasOpen;
     }
     if (unpacked > 0) {
         return false;

@@ -22,11 +22,16 @@ struct PlanStart {
 /// each layout to the run.
 std::vector<PlanStart> RankedStarts(ImproveRun& run, Plan& plan);
 
+/// Whether nothing is known about layouts below `roof` yet. Another search may have found out.
+inline bool IsOpen(const ImproveRun& run, Long roof) {
+    return run.Bound() <= roof && roof < run.Best().Length;
+}
+
 /// Decision search: change the plan, and keep what leaves no more unpacked below `roof`, until all
-/// is packed or after `steps`. When that gains nothing for a while, a few changes are made whatever
-/// they do, to go on from there; what comes of it is dropped if it stays worse. What was packed is
-/// offered. True when the best layout ends below `roof` then: all may be packed in more parts than
-/// a layout may have.
+/// is packed, or after `steps`, or when another search has decided about the roof. When that gains
+/// nothing for a while, a few changes are made whatever they do, to go on from there; what comes of
+/// it is dropped if it stays worse. What was packed is offered. True when the best layout ends
+/// below `roof` then: all may be packed in more parts than a layout may have.
 bool PackBelow(ImproveRun& run, Plan& plan, const PlanStart& start, Long roof, std::int64_t steps,
                RandomSteps& random);
 
