@@ -43,7 +43,7 @@ std::string Key(double x, const std::string& color, const std::string& name) {
 AverageGaps GapsOf(const std::vector<FlooringResult>& results) {
     AverageGaps gaps;
     for (const FlooringResult& result : results) {
-        if (result.Bound > 0 && !result.StartBelowRules) {
+        if (result.Counts()) {
             gaps.Searched += 100 * (result.Searched / result.Bound - 1);
             gaps.Improved += 100 * (result.Improved / result.Bound - 1);
             ++gaps.Jobs;

@@ -132,8 +132,10 @@ Long BarRelaxationBound(const ImproveJob& job, Long known, const std::function<b
     std::vector<std::int64_t> worth(rows.size());
     std::vector<Double> column(rows.size());
     Long bound = 0;
-    for (std::size_t tries = 0; tries < ColumnsPerRow * rows.size() && goOn(); ++tries) {
-        simplex.RemoveNegativePrices(rows.size());
+    for (std::size_t tries = 0; tries < ColumnsPerRow * rows.size(); ++tries) {
+        if (!simplex.RemoveNegativePrices(rows.size(), goOn)) {
+            break;
+        }
         if (simplex.Total() <= known + Negligible) {
             break; // the least length of cross sections only gets less from here
         }

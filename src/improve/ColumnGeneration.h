@@ -21,9 +21,9 @@ namespace tarn {
 /// fills over that of the best cross section). Widths in very small units are rounded down first,
 /// which can make the bound smaller but never wrong.
 ///
-/// `goOn` is asked before every cross section; when it says no, the best bound so far is returned,
-/// and so it is when it has become clear that no bound above `known` will come. 0 when the job has
-/// too many different fills for this.
+/// `goOn` is asked before every cross section and within the steps of the simplex; when it says no,
+/// the best bound so far is returned, and so it is when it has become clear that no bound above
+/// `known` will come. 0 when the job has too many different fills for this.
 Long BarRelaxationBound(const ImproveJob& job, Long known, const std::function<bool()>& goOn);
 
 } // namespace tarn

@@ -41,23 +41,27 @@ Double CoveringSimplex::Total() const {
     return total;
 }
 
-void CoveringSimplex::RemoveNegativePrices(std::size_t most) {
+bool CoveringSimplex::RemoveNegativePrices(std::size_t most, const std::function<bool()>& goOn) {
     for (std::size_t tries = 0; tries < most; ++tries) {
+        if (!goOn()) {
+            return false;
+        }
         const std::vector<Double> prices = Prices();
         std::size_t lowest = 0;
         for (std::size_t row = 1; row < rows_; ++row) {
             lowest = prices[row] < prices[lowest] ? row : lowest;
         }
         if (prices[lowest] >= -Negligible) {
-            return;
+            return true;
         }
         // The surplus of that row enters: what is laid beyond the demand costs nothing.
         std::vector<Double> surplus(rows_);
         surplus[lowest] = -1;
         if (!EnterColumn(surplus, 0)) {
-            return;
+            return true;
         }
     }
+    return true;
 }
 
 bool CoveringSimplex::Enter(const std::vector<Double>& column) {

@@ -3,6 +3,7 @@
 #include "base/Types.h"
 
 #include <cstddef>
+#include <functional>
 #include <vector>
 
 namespace tarn {
@@ -20,8 +21,9 @@ class CoveringSimplex {
     /// The sum of x in the basis: the least there is over the columns so far, once no price is
     /// negative and none of them is worth more than its cost.
     Double Total() const;
-    /// Bring rows with a negative price to 0, as long as that goes on, up to `most` times.
-    void RemoveNegativePrices(std::size_t most);
+    /// Bring rows with a negative price to 0, as long as that goes on, up to `most` times. `goOn`
+    /// is asked before each of them; false when it said no.
+    bool RemoveNegativePrices(std::size_t most, const std::function<bool()>& goOn);
     /// Take a column of cost 1 into the basis. False when it cannot be.
     bool Enter(const std::vector<Double>& column);
 

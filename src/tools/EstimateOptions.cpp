@@ -160,6 +160,10 @@ void AddImprovement(CLI::App& app, EstimateOptions& options) {
     app.add_option("--seed", options.Seed, "Another seed makes the search take another way")
         ->capture_default_str()
         ->type_name("N");
+    app.add_option("--threads", options.Threads,
+                   "How many threads look for it (all cores, at most 8; with --improve-steps one)")
+        ->check(CLI::Range(std::size_t{1}, MostThreads))
+        ->type_name("N");
     app.callback([&options, seconds, steps] {
         options.Improve = seconds->count() > 0 || steps->count() > 0;
     });

@@ -32,6 +32,7 @@ struct EstimateOptions {
     double ImproveSeconds = 0;  ///< 0 = no limit
     long long ImproveSteps = 0; ///< 0 = no limit
     unsigned long long Seed = 1;
+    std::size_t Threads = 0; ///< 0 = see ThreadsFor
 };
 
 /// Read the arguments of tarn-estimate. When they ask for help or the version, or cannot be

@@ -57,6 +57,7 @@ Estimate ImprovedFor(const EstimateOptions& options, const Estimate& estimate) {
     limits.Seconds = options.ImproveSeconds;
     limits.Steps = options.ImproveSteps;
     limits.Seed = options.Seed;
+    limits.Threads = options.Threads;
     ImprovedEstimate improved;
     {
         const InterruptStops stops;

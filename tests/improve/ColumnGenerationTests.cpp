@@ -125,7 +125,7 @@ TEST(CoveringSimplex, PricesFollowTheColumnsOfTheBasis) {
 TEST(CoveringSimplex, ANegativePriceIsRemovedByASurplus) {
     CoveringSimplex simplex({2, 9}, {2, 1});
     EXPECT_TRUE(simplex.Enter({1, 3}));
-    simplex.RemoveNegativePrices(5);
+    EXPECT_TRUE(simplex.RemoveNegativePrices(5, [] { return true; }));
     const std::vector<Double> prices = simplex.Prices();
     EXPECT_GE(prices[0], 0);
     EXPECT_GE(prices[1], 0);
