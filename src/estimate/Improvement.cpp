@@ -4,6 +4,8 @@
 #include "base/Lengths.h"
 #include "base/Numbers.h"
 #include "base/Text.h"
+#include "engine/ResultLength.h"
+#include "estimate/MinCuts.h"
 
 namespace tarn {
 
@@ -50,6 +52,16 @@ std::string GapText(const ImproveProgress& progress) {
         return NoneAsShort;
     }
     return progress.Bound > 0 ? LeastPossibleText(progress.Best, progress.Bound) : "";
+}
+
+std::string KeptText(const ImproveResult& result, const EstimateRequest& request) {
+    if (!result.Kept) {
+        return "";
+    }
+    const std::string unit = request.In == Units::Metric ? " cm" : "";
+    return LengthText(static_cast<Double>(LengthInUse(result.Kept->Layout)), request.In) + unit +
+           " with parts of at least " +
+           std::string(MinCutCaption(request.ShortestPart, request.In));
 }
 
 std::string NothingBetterReason(const ImproveResult& result) {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "base/Types.h"
+#include "estimate/EstimateRequest.h"
 #include "improve/ImproveFills.h"
 
 #include <string>
@@ -33,6 +34,10 @@ std::string LeastPossibleText(Double length, Double bound);
 /// What may be left, while a search goes on: LeastPossibleText, or, when only layouts whose parts
 /// are too short are as short as the start, that. Empty while nothing is known.
 std::string GapText(const ImproveProgress& progress);
+
+/// What an estimate that keeps the minimum cut takes, where the estimate's own does not: `12'4"
+/// with parts of at least 3 FT`. Empty when the search found none beside it.
+std::string KeptText(const ImproveResult& result, const EstimateRequest& request);
 
 /// The same of a search that found nothing better: "this one is the least possible", "none whose
 /// parts keep the minimum cut is as short". Empty when nothing is known.

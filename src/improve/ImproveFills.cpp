@@ -7,31 +7,39 @@
 #include "improve/RollJob.h"
 
 #include <algorithm>
-#include <optional>
 #include <utility>
 
 namespace tarn {
 
 namespace {
 
-/// The best layout of a search, when it is to be taken. Nothing when there is none; when more would
-/// have to be ordered: an equal length can lie just above whole inches where the start lies just
-/// below them; or when it is no better than the start, of merit `merit`, once it is finished,
-/// pushed to the left.
-std::optional<SearchResult> BestOf(const ImproveOutcome& outcome, const RollJob& roll,
-                                   const SearchJob& job, const SearchResult& start,
-                                   const LayoutMerit& merit) {
+/// The merit of no layout: every layout of the job is better.
+LayoutMerit NoMerit(const ImproveJob& job) {
+    return {static_cast<Long>(StackedLength(job)) + 1, job.MostPieces, 0};
+}
+
+/// Take a search's best layout as improved, when it is to be taken: not when more would have to be
+/// ordered (an equal length can lie just above whole inches where the start lies just below them)
+/// or when it is no better than the start, of merit `merit`, once it is finished, pushed to the
+/// left. What then does not improve a start that breaks the rules is kept beside it.
+void TakeBest(const ImproveOutcome& outcome, const RollJob& roll, const SearchJob& job,
+              const LayoutMerit& merit, bool startKeepsRules, ImproveResult& result) {
     if (outcome.Parts.empty()) {
-        return std::nullopt;
+        return;
     }
-    SearchResult improved = ResultOf(roll, outcome.Parts, job, start);
-    if (!IsWithinTolerance(LengthInUse(improved.Layout) - LengthInUse(start.Layout))) {
-        RaiseInternal("The improved layout is longer than before and was discarded.");
+    const SearchResult& start = result.Fills;
+    SearchResult best = ResultOf(roll, outcome.Parts, job, start);
+    if (best.Length <= start.Length && LayoutMeritOf(roll, best.Layout).BetterThan(merit)) {
+        if (!IsWithinTolerance(LengthInUse(best.Layout) - LengthInUse(start.Layout))) {
+            RaiseInternal("The improved layout is longer than before and was discarded.");
+        }
+        result.Improved = true;
+        result.Fills = std::move(best);
+        result.Length = LengthInUse(result.Fills.Layout);
+        result.Pieces = static_cast<Integer>(result.Fills.Layout.size());
+    } else if (!startKeepsRules) {
+        result.Kept = std::move(best);
     }
-    if (improved.Length > start.Length || !LayoutMeritOf(roll, improved.Layout).BetterThan(merit)) {
-        return std::nullopt;
-    }
-    return improved;
 }
 
 } // namespace
@@ -62,13 +70,11 @@ ImproveResult ImproveFills(const SearchJob& job, const SearchResult& start,
         const Double length = best < merit.Length ? inches(best) : startLength;
         return observer.Progress({length, std::min(length, inches(bound)), isBelow(bound)});
     };
-    const ImproveOutcome outcome = ImproveOnThreads(roll.Job, merit, limits, report);
-    if (auto improved = BestOf(outcome, roll, job, start, merit)) {
-        result.Improved = true;
-        result.Fills = *std::move(improved);
-        result.Length = LengthInUse(result.Fills.Layout);
-        result.Pieces = static_cast<Integer>(result.Fills.Layout.size());
-    }
+    // A start that breaks the rules says nothing of the layouts that keep them.
+    const bool keeps = KeepsRules(roll, start.Layout, job, rules);
+    const ImproveOutcome outcome =
+        ImproveOnThreads(roll.Job, keeps ? merit : NoMerit(roll.Job), limits, report);
+    TakeBest(outcome, roll, job, merit, keeps, result);
     result.Bound = std::min(static_cast<Double>(result.Length), outcome.Bound() * roll.AlongUnit);
     result.StartBelowRules = isBelow(outcome.RulesBound);
     result.Steps = outcome.Steps;

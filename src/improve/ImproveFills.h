@@ -7,6 +7,7 @@
 #include "improve/ImproveRun.h"
 
 #include <cstdint>
+#include <optional>
 
 namespace tarn {
 
@@ -42,6 +43,8 @@ class ImproveObserver {
 struct ImproveResult {
     bool Improved = false; ///< Fills is a better layout than the start
     SearchResult Fills;    ///< the start when not
+    /// When the start is better, but does not keep the rules: the best layout found that does.
+    std::optional<SearchResult> Kept;
     Single StartLength = 0;
     Single Length = 0;            ///< of Fills, inches
     Double Bound = 0;             ///< no layout is shorter, inches; 0 = not known

@@ -102,6 +102,23 @@ LayoutMerit LayoutMeritOf(const RollJob& roll, const std::vector<Placed>& layout
     return merit;
 }
 
+bool KeepsRules(const RollJob& roll, const std::vector<Placed>& layout, const SearchJob& job,
+                const ImproveRules& rules) {
+    const auto isWhole = [&](const Placed& placed) {
+        return std::any_of(roll.Wholes.begin(), roll.Wholes.end(), [&](const Piece& whole) {
+            const PieceSize size = SizeOf(whole, job.Scale);
+            return whole.Number == placed.Part.Number &&
+                   std::abs(static_cast<Double>(size.Width - placed.Width)) < LengthTolerance &&
+                   std::abs(static_cast<Double>(size.Length - placed.Length)) < LengthTolerance;
+        });
+    };
+    return LayoutMeritOf(roll, layout).Parts > 0 &&
+           std::all_of(layout.begin(), layout.end(), [&](const Placed& placed) {
+               return static_cast<Double>(placed.Length) > rules.ShortestPart - LengthTolerance ||
+                      isWhole(placed);
+           });
+}
+
 SearchResult ResultOf(const RollJob& roll, const std::vector<ImprovePart>& parts,
                       const SearchJob& job, const SearchResult& start) {
     SearchResult result;

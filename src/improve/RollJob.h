@@ -28,6 +28,11 @@ RollJob RollJobOf(const SearchJob& job, const ImproveRules& rules);
 /// no layout of that length surpasses, since all of them are longer.
 LayoutMerit LayoutMeritOf(const RollJob& roll, const std::vector<Placed>& layout);
 
+/// Whether a layout of the job keeps the rules: it is a whole number of units long, and no part of
+/// a divided piece is shorter than they say.
+bool KeepsRules(const RollJob& roll, const std::vector<Placed>& layout, const SearchJob& job,
+                const ImproveRules& rules);
+
 /// A whole layout of the job as Search would return it; cases and power are those of `start`.
 /// Raises as FinishLayout.
 SearchResult ResultOf(const RollJob& roll, const std::vector<ImprovePart>& parts,

@@ -6,6 +6,7 @@
 #include "estimate/MinCuts.h"
 #include "estimate/RollWidth.h"
 #include "files/RoomCsv.h"
+#include "improve/ImproveThreads.h"
 #include "project/Project.h"
 #include "tools/Files.h"
 #include "tools/Refusal.h"

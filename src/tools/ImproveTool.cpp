@@ -68,6 +68,10 @@ Estimate ImprovedFor(const EstimateOptions& options, const Estimate& estimate) {
     if (!improved.Result.Improved && !reason.empty()) {
         std::cerr << "Note: no better layout was found; " << reason << ".\n";
     }
+    const std::string kept = KeptText(improved.Result, estimate.Request);
+    if (!kept.empty()) {
+        std::cerr << "Note: beside it there is one of " << kept << ".\n";
+    }
     return std::move(improved.Value);
 }
 

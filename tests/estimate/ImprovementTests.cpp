@@ -104,6 +104,16 @@ TEST(ImproveEstimate, ClaimsNothingOfAStartThatIsShorterThanTheRulesAllow) {
     EXPECT_EQ(NothingBetterReason(improved.Result),
               "none whose parts keep the minimum cut is as short");
     EXPECT_EQ(improved.Value, start);
+    EXPECT_EQ(KeptText(improved.Result, start.Request), "8'5\" with parts of at least 3 FT");
+    const Estimate keeping = KeepingMinCut(start, improved.Result);
+    EXPECT_EQ(LengthInUse(keeping.Fills.Layout), 101.0F);
+    EXPECT_FALSE(keeping.Improved.has_value());
+    EXPECT_EQ(keeping.Request, start.Request);
+}
+
+TEST(KeptText, IsEmptyWhereTheEstimateKeepsTheMinimumCut) {
+    const Estimate start = House();
+    EXPECT_EQ(KeptText(Improve(start).Result, start.Request), "");
 }
 
 TEST(ImproveEstimate, ListsTheImprovedPiecesAndSaysSoBelowTheFills) {

@@ -47,6 +47,25 @@ TEST(RollJob, AStartThatIsNoWholeUnitLosesAgainstShorterWholeUnitsOnly) {
     EXPECT_FALSE(result.Improved) << "at whole inches it takes 101";
     EXPECT_TRUE(result.StartBelowRules);
     EXPECT_EQ(LengthInUse(result.Fills.Layout), 100.5F);
+    ASSERT_TRUE(result.Kept.has_value());
+    EXPECT_EQ(LengthInUse(result.Kept->Layout), 101.0F);
+}
+
+TEST(RollJob, ALayoutKeepsTheRulesWhoseDividedPartsAreLongEnough) {
+    const SearchJob job = Divisible(MakeJob(144, {{72, 200}, {72, 20}}), 2);
+    const RollJob roll = RollJobOf(job, ThreeFeet);
+    std::vector<Placed> layout;
+    const auto add = [&](std::size_t whole, Single x, Single y, Single begin, Single end) {
+        Piece piece = roll.Wholes.at(whole);
+        piece.Y1 = begin * job.Scale;
+        piece.Y2 = end * job.Scale;
+        layout.push_back({piece, x, y, 72, end - begin});
+    };
+    add(0, 0, 0, 0, 100);
+    add(0, 72, 0, 100, 200);
+    add(1, 0, 100, 0, 20);
+    EXPECT_TRUE(KeepsRules(roll, layout, job, ThreeFeet)) << "a short fill that is not divided";
+    EXPECT_FALSE(KeepsRules(roll, layout, job, {Units::Imperial, 101}));
 }
 
 TEST(RollJob, AStartThatIsAWholeUnitButForTheToleranceCountsAsThat) {

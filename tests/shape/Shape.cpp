@@ -56,7 +56,7 @@ std::vector<Layer> MakeLayers() {
     };
     add("project", {}, {});
     add("engine", {}, {});
-    add("improve", {"engine"}, {});
+    add("improve", {"engine"}, {"Threads::Threads"});
     add("drawing", {}, {});
     add("estimate", {"project", "engine", "improve", "drawing"}, {});
     add("order", Below(layers, {"estimate"}), {"Threads::Threads"});

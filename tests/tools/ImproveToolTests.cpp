@@ -37,6 +37,9 @@ TEST_F(ImproveTool, GivesTheSameForTheSameSeedAndSteps) {
     const ToolRun first = Improve("--improve-steps 700 --seed 5 --json -");
     EXPECT_EQ(first.Out, Improve("--improve-steps 700 --seed 5 --json -").Out);
     EXPECT_EQ(first.Status, 0);
+    const ToolRun threads = Improve("--improve-steps 700 --threads 3 --json -");
+    EXPECT_EQ(threads.Out, Improve("--improve-steps 700 --threads 3 --json -").Out);
+    EXPECT_EQ(threads.Status, 0);
 }
 
 TEST_F(ImproveTool, WritesTheImprovementIntoTheJson) {
@@ -68,8 +71,9 @@ TEST_F(ImproveTool, LeavesAnEstimateWithoutFillsAlone) {
 }
 
 TEST_F(ImproveTool, RefusesTimesAndStepsThatAreNone) {
-    for (const char* arguments : {"--improve 0", "--improve -1", "--improve soon", "--improve",
-                                  "--improve-steps 0", "--improve-steps 1.5", "--seed x"}) {
+    for (const char* arguments :
+         {"--improve 0", "--improve -1", "--improve soon", "--improve", "--improve-steps 0",
+          "--improve-steps 1.5", "--seed x", "--threads 0", "--threads 9"}) {
         EXPECT_EQ(Improve(arguments).Status, 2) << arguments;
     }
 }
