@@ -17,6 +17,12 @@ if(TARN_SANITIZE)
   target_compile_definitions(tarn_options INTERFACE TARN_SANITIZED)
 endif()
 
+if(TARN_SANITIZE_THREADS)
+  target_compile_options(tarn_options INTERFACE -fsanitize=thread -fno-omit-frame-pointer)
+  target_link_options(tarn_options INTERFACE -fsanitize=thread)
+  target_compile_definitions(tarn_options INTERFACE TARN_SANITIZED)
+endif()
+
 if(TARN_COVERAGE)
   target_compile_options(tarn_options INTERFACE --coverage -O0)
   target_link_options(tarn_options INTERFACE --coverage)

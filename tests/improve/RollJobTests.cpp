@@ -57,8 +57,8 @@ TEST(RollJob, ALayoutKeepsTheRulesWhoseDividedPartsAreLongEnough) {
     std::vector<Placed> layout;
     const auto add = [&](std::size_t whole, Single x, Single y, Single begin, Single end) {
         Piece piece = roll.Wholes.at(whole);
-        piece.Y1 = begin * job.Scale;
-        piece.Y2 = end * job.Scale;
+        piece.Y1 = begin / static_cast<Single>(job.Scale);
+        piece.Y2 = end / static_cast<Single>(job.Scale);
         layout.push_back({piece, x, y, 72, end - begin});
     };
     add(0, 0, 0, 0, 100);
