@@ -9,6 +9,7 @@
 #include <QCoreApplication>
 #include <QKeyEvent>
 #include <QMenuBar>
+#include <QPointer>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTimer>
@@ -36,6 +37,12 @@ class FocusFollower : public QObject {
             const auto reason = static_cast<QFocusEvent*>(event)->reason();
             if (reason != Qt::MouseFocusReason && body_.isAncestorOf(widget)) {
                 ShowWhole(*widget);
+                // What took the focus may be about to move, as a panel that opens does.
+                QTimer::singleShot(0, this, [this, moved = QPointer(widget)] {
+                    if (moved && moved->hasFocus()) {
+                        ShowWhole(*moved);
+                    }
+                });
             }
         }
         return false;
@@ -48,8 +55,8 @@ class FocusFollower : public QObject {
         const QSize room = scroller_.viewport()->size();
         if (widget.width() <= room.width() && widget.height() <= room.height()) {
             const QPoint middle = widget.mapTo(&body_, widget.rect().center());
-            scroller_.ensureVisible(middle.x(), middle.y(), (widget.width() + 1) / 2,
-                                    (widget.height() + 1) / 2);
+            scroller_.ensureVisible(middle.x(), middle.y(), widget.width() / 2 + 1,
+                                    widget.height() / 2 + 1);
         }
     }
 

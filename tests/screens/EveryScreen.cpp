@@ -123,15 +123,30 @@ class Walk {
         Visit("options chosen");
         Press(Controls::layOutFills);
         Visit("result");
-        QTimer::singleShot(0, &program_.Window(), [this] {
-            Visit("improving");
-            Press(Controls::stopImproving);
-        });
-        Press(Controls::improveFills);
+        Improve();
         Press(Controls::pasteCuts);
         Visit("result while cuts are pasted");
         Press(Controls::openOrder);
         Order();
+    }
+    /// The first press may only take what was found meanwhile.
+    void Improve() {
+        constexpr int Presses = 3;
+        bool visited = false;
+        for (int press = 0; press < Presses && !visited; ++press) {
+            QTimer::singleShot(0, &program_.Window(), [this, &visited] {
+                if (Control(Controls::improvePanel).isVisible()) {
+                    visited = true;
+                    Visit("improving");
+                    Press(Controls::stopImproving);
+                }
+            });
+            Press(Controls::improveFills);
+            QCoreApplication::processEvents();
+        }
+        if (!visited) {
+            throw std::runtime_error("there is nothing to improve");
+        }
     }
     void Order() {
         const auto& stop = Control<QPushButton>(Controls::stopComparing);

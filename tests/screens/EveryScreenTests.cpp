@@ -85,6 +85,7 @@ std::vector<QWidget*> TabStops(QWidget& window) {
     std::vector<QWidget*> stops;
     for (int i = 0; i < Most; ++i) {
         Press(window, Qt::Key_Tab);
+        QCoreApplication::processEvents(); // what leaving a field changes is laid out
         QWidget* focused = QApplication::focusWidget();
         if (focused == nullptr || (!stops.empty() && focused == stops.front())) {
             return stops;
@@ -122,7 +123,7 @@ void ExpectTabComesEverywhere(const std::string& state, ScreenWindow& window) {
     }
     for (QWidget* stop : stops) {
         stop->setFocus(Qt::TabFocusReason);
-        QCoreApplication::processEvents(); // what leaving the last one changed is laid out
+        QCoreApplication::processEvents();
         EXPECT_TRUE(IsInView(*stop)) << state << ": " << NameOf(*stop) << " is out of sight";
     }
     EXPECT_FALSE(stops.empty()) << state;

@@ -204,7 +204,7 @@ TEST_F(EstimateScreenRoll, IsNotWhatIsPrinted) {
     ASSERT_TRUE(View().isVisible());
     Button(Controls::printEstimate).click();
     ASSERT_EQ(printer.Estimates.size(), 1U);
-    EXPECT_EQ(printer.Estimates[0].Picture, &Picture().Shown());
+    EXPECT_EQ(printer.Estimates[0].Picture, Picture().Shown());
     EXPECT_EQ(Written(), written);
     EXPECT_EQ(Picture().Shown().Steps().size(), steps);
 }
