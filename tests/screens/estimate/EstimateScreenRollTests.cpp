@@ -203,6 +203,7 @@ TEST_F(EstimateScreenRoll, IsNotWhatIsPrinted) {
     Press(*form, Qt::Key_D);
     ASSERT_TRUE(View().isVisible());
     Button(Controls::printEstimate).click();
+    AwaitPrinter();
     ASSERT_EQ(printer.Estimates.size(), 1U);
     EXPECT_EQ(printer.Estimates[0].Picture, Picture().Shown());
     EXPECT_EQ(Written(), written);
