@@ -56,8 +56,15 @@ class OrderingByKeysAlone(Road):
         wait_for(lambda: ui.focused() == "File name:", "the focus on the name")
         self.assertEqual(ui.field("File name:"), "TEN ORDER CARPET-1.pdf")
         ui.type(self.file)
-        ui.key("Return")
-        wait_for(lambda: os.path.isfile(self.file) and not ui.boxes(), "the file")
+        wait_for(lambda: ui.field("File name:") == self.file, "the name")
+
+        def is_saved():
+            # Return takes a proposed end of the path first, while one is shown.
+            if ui.boxes():
+                ui.key("Return")
+            return os.path.isfile(self.file) and not ui.boxes()
+
+        wait_for(is_saved, "the file")
         lines = Pdf.of_file(self.file).lines()
         self.assertEqual(lines[1:3], ["Order and cutting sheet", "Project TEN"])
         for room in ("101 hall", "103 two widths", "110 long"):

@@ -113,8 +113,10 @@ void EstimateScreen::Build() {
     improvePanel_ = new ImprovePanel(&Body(), ShownUnits());
     Body().installEventFilter(this);
     panel_->installEventFilter(this);
-    SetTabOrders({&panel_->CancelButton(), openPanel_, improve_, &improveButtons_->Undo(), paste_,
-                  redraw_, print_, save_, back_, picture_});
+    SetTabOrders({&panel_->CancelButton(), openPanel_, improve_, &improveButtons_->Undo(), order_,
+                  paste_, redraw_, print_, save_, back_, picture_, switchView_,
+                  &views_->Roll().View(), &views_->Roll().List()});
+    OfferDrawing();
 }
 
 QHBoxLayout* EstimateScreen::BuildTitle() {

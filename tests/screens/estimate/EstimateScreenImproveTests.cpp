@@ -134,7 +134,9 @@ TEST_F(Improving, LeavesNothingElseUsableWhileItRuns) {
     });
     Click(ImproveButton());
     EXPECT_THAT(during, ElementsAre("STOP"));
-    EXPECT_EQ(EnabledButtons(), before);
+    std::vector<std::string> after = EnabledButtons();
+    std::erase(after, "UNDO"); // there if the search found anything until then
+    EXPECT_EQ(after, before);
     EXPECT_TRUE(Panel().isEnabled());
     EXPECT_TRUE(Picture().isEnabled());
 }

@@ -415,6 +415,7 @@ TEST_F(RoomKeys, ShowTheReportAndThenPrintItByCtrlP) {
     EXPECT_TRUE(Find(*form, Controls::reportPanel).isVisible());
     EXPECT_TRUE(printer.Reports.empty()) << "nothing is printed unseen";
     Press(*form, Qt::Key_P, Qt::ControlModifier);
+    AwaitPrinter();
     EXPECT_EQ(printer.Reports.size(), 1U);
     EXPECT_FALSE(Find(*form, Controls::reportPanel).isVisible()) << "as after PRINT";
 }
@@ -432,6 +433,7 @@ TEST_F(RoomKeys, KeepTheReportOpenWhenItCannotBePrinted) {
     ClickOn(Controls::showReport);
     printer.Failure = "There is no printer.";
     Press(*form, Qt::Key_P, Qt::ControlModifier);
+    AwaitPrinter();
     EXPECT_EQ(boxes.Messages.size(), 1U);
     EXPECT_TRUE(Find(*form, Controls::reportPanel).isVisible());
 }
