@@ -132,7 +132,12 @@ void PartTurns::ChangePlaces(RandomSteps& random) {
 }
 
 void PartTurns::Change(RandomSteps& random) {
-    if (!divisible_.empty() && random.Below(3) == 0) {
+    // How fills are divided matters more than their order, but for what a pattern leaves of that.
+    constexpr std::size_t Quarters = 4;
+    const auto changesRule = [&] {
+        return pattern_ ? random.Below(3) == 0 : random.Below(Quarters) > 0;
+    };
+    if (!divisible_.empty() && changesRule()) {
         ChangeRule(random);
     } else {
         ChangePlaces(random);
