@@ -55,10 +55,11 @@ Fault FaultOfRolls(const OrderRequest& request) {
         const RollChoice& roll = request.Rolls[place];
         const bool isNumber = std::isfinite(roll.Width) && roll.Width < LongestStrip + 1;
         if (!isNumber || WholeRollWidth(roll.Width) < 1) {
-            return OrderRequestFault{
-                "roll", "A roll must be between " + OrderLengthText(1, request.In) + " and " +
-                            OrderLengthText(LongestStrip, request.In) + " wide.",
-                place};
+            return OrderRequestFault{"roll",
+                                     "A roll must be between " + OrderLengthText(1, request.In) +
+                                         " and " + OrderLengthText(LongestStrip, request.In) +
+                                         " wide.",
+                                     place};
         }
         if (roll.Price && !IsPrice(*roll.Price)) {
             return OrderRequestFault{"price", "A price " + std::string(WhatAPriceMustBe), place};

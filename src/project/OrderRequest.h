@@ -70,8 +70,8 @@ Double DriftOf(const OrderRequest& request);
 
 /// What the request cannot be searched with.
 struct OrderRequestFault {
-    std::string Option; ///< as the installer knows it: "half drop"
-    std::string Reason; ///< a sentence: "A half drop needs a repeat along."
+    std::string Option;   ///< as the installer knows it: "half drop"
+    std::string Reason;   ///< a sentence: "A half drop needs a repeat along."
     std::size_t Roll = 0; ///< number of the roll, where the fault is that of one
 
     bool operator==(const OrderRequestFault&) const = default;

@@ -35,8 +35,8 @@ class ScreenWindow : public QWidget {
     /// Number of screens loaded.
     int Loaded() const;
 
-    /// Have a note stand in the corner at the top right, above all screens and out of the way of the
-    /// mouse; an empty one takes it away.
+    /// Have a note stand at the top right, beside the button of the guide, above all screens and
+    /// out of the way of the mouse; an empty one takes it away.
     void SetNote(std::string_view note);
 
     /// Call `action` once, after the window has been painted for the first time.

@@ -55,9 +55,8 @@ OrderDocument ReadProject(const OrderOptions& options) {
 /// The carpets to be ordered: those that have a room with an area.
 std::vector<Byte> CarpetsOf(const OrderOptions& options, const Project& project) {
     std::vector<Byte> carpets = CarpetsToOrder(project);
-    std::erase_if(carpets, [&](Byte carpet) {
-        return options.Carpet.value_or(carpet + 1) != carpet + 1;
-    });
+    std::erase_if(carpets,
+                  [&](Byte carpet) { return options.Carpet.value_or(carpet + 1) != carpet + 1; });
     if (carpets.empty()) {
         throw Refusal(options.Carpet
                           ? "No room with an area has " +

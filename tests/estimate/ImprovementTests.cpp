@@ -64,9 +64,7 @@ TEST(ShorterText, IsInWholeCentimetresInMetricUnits) {
     const Estimate estimate = Estimated({{366, 300}, {250, 380}}, MetricRequest("366"));
     Estimate better = estimate;
     better.Fills.Length -= 9;
-    const auto listed = [](const Estimate& of) {
-        return RoundedCentimetres(TotalRoll(of).Length);
-    };
+    const auto listed = [](const Estimate& of) { return RoundedCentimetres(TotalRoll(of).Length); };
     EXPECT_EQ(ShorterText(estimate, better),
               std::to_string(listed(estimate) - listed(better)) + " shorter");
 }

@@ -119,7 +119,9 @@ struct EstimateScreenTest : ScreenTest {
 
     /// What looks for a shorter layout after an estimate: nothing, unless a test says so.
     QuietSearch::Search quietly = [](const Estimate& estimate, const ImproveLimits&,
-                                     ImproveObserver&) { return ImprovedEstimate{estimate, {}}; };
+                                     ImproveObserver&) {
+        return ImprovedEstimate{estimate, {}};
+    };
     std::unique_ptr<EstimateScreen> form;
 };
 
