@@ -113,6 +113,21 @@ std::optional<std::string> SaveAsNewProject(OpenProject& project, ProjectStore& 
     return refusal;
 }
 
+void ForgetChosen(OpenProject& project, const std::string& name) {
+    project.Chosen.erase(name);
+}
+
+void MoveChosen(OpenProject& project, const std::string& from, const std::string& to) {
+    if (from == to) {
+        return;
+    }
+    ForgetChosen(project, to);
+    if (auto chosen = project.Chosen.extract(from)) {
+        chosen.key() = to;
+        project.Chosen.insert(std::move(chosen));
+    }
+}
+
 void DropRooms(OpenProject& project) {
     OpenProject dropped;
     dropped.Now.Name = std::move(project.Now.Name);

@@ -76,6 +76,11 @@ bool IsWorthTakingBack(const Draft& draft, const OpenProject& project);
 /// unsaved. Raises as RequireExtents, with nothing changed.
 void TakeBack(OpenProject& project, const Draft& draft);
 
+/// What was chosen for the estimates of a project of that name goes with it.
+void ForgetChosen(OpenProject& project, const std::string& name);
+/// The project of the one name has the other from now on.
+void MoveChosen(OpenProject& project, const std::string& from, const std::string& to);
+
 /// Drop the project's rooms from memory, saved or not, and all else that belongs to them; its name
 /// and its directory remain. What is stored stays.
 void DropRooms(OpenProject& project);

@@ -74,11 +74,14 @@ PrintQueue::~PrintQueue() {
 }
 
 void PrintQueue::Print(PrintJob job, QObject& shown, std::function<void()> printed) {
-    const bool isTwice =
-        std::any_of(uses_.begin(), uses_.end(), [&job](const Use& use) { return use.Job == job; });
-    if (!isTwice) {
+    const auto twice =
+        std::find_if(uses_.begin(), uses_.end(), [&job](const Use& use) { return use.Job == job; });
+    if (twice == uses_.end()) {
         Add({std::move(job), &shown, std::move(printed)});
+        return;
     }
+    twice->Shown = &shown;
+    twice->Printed = std::move(printed);
 }
 
 void PrintQueue::ReadPage() {

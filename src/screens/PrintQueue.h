@@ -55,8 +55,9 @@ class PrintQueue {
     PrintQueue& operator=(const PrintQueue&) = delete;
 
     /// Print the job after those that wait. One that is being printed, or waits, is not printed
-    /// twice: who presses PRINT again meanwhile wants to see it come. `printed` is called
-    /// afterwards, unless it failed or `shown`, where it is on the screen, is gone by then.
+    /// twice: who presses PRINT again meanwhile wants to see it come. `printed`, of the last press,
+    /// is called afterwards, unless it failed or `shown`, where it is on the screen, is gone by
+    /// then.
     void Print(PrintJob job, QObject& shown, std::function<void()> printed = {});
     /// Read the printer's sheet, where no failure matters: PRINT asks again, and tells.
     void ReadPage();

@@ -51,6 +51,7 @@ bool SavedAsNew(Session& session) {
         return false;
     }
     session.Drafts.NoteSavedAs(former);
+    MoveChosen(session.Project, former, session.Project.Now.Name);
     session.History.NoteSaved();
     return true;
 }

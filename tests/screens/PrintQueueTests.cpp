@@ -82,6 +82,19 @@ TEST_F(PrintQueues, PrintOneAfterTheOtherButNothingTwice) {
     EXPECT_EQ(printer.Reports.size(), 3U) << "it was printed: this is another copy";
 }
 
+TEST_F(PrintQueues, AnswerWhoAskedLastForWhatIsBeingPrinted) {
+    printer.Hold();
+    auto closed = std::make_unique<QObject>();
+    int answers = 0;
+    queue->Print(ReportOf("A"), *closed, [] { ADD_FAILURE() << "it is closed"; });
+    closed.reset();
+    queue->Print(ReportOf("A"), screen, [&] { ++answers; });
+    printer.Release();
+    Await();
+    EXPECT_EQ(printer.Reports.size(), 1U);
+    EXPECT_EQ(answers, 1);
+}
+
 TEST_F(PrintQueues, TellEveryFailureInOneMessageAndItsCauseOnStandardError) {
     struct BrokenPrinter : FakePrinter {
         void PrintReport(const EnteredDataReport& /*report*/) override {

@@ -223,6 +223,7 @@ void EstimateScreen::AddToPictureMenu(const char* name, const char* caption,
 void EstimateScreen::Connect() {
     OnClick(panel_->OkButton(), EstimateFailure, [this] { AcceptChoices(); });
     OnClick(panel_->CancelButton(), EstimateFailure, [this] {
+        firstChoices_.reset();
         EnableButtons();
         ClosePanel();
     });
@@ -287,6 +288,8 @@ std::string_view EstimateScreen::GuidePage() const {
 }
 
 void EstimateScreen::OnUncover() {
+    ShowProjectName(); // another one, if it was saved as a new project meanwhile
+    ShowUnitsWarning();
     if (panel_->isHidden()) {
         FocusResult();
     }
@@ -359,9 +362,10 @@ void EstimateScreen::FocusResult() {
 /// What can be seen instead stands on the button.
 void EstimateScreen::OfferViews() {
     const bool rollAlone = views_->ShowsRollAlone();
-    SetCaption(*switchView_, rollAlone ? DrawingCaption : WholeRollCaption, 'W');
-    switchView_->setVisible(!views_->IsWide());
-    switchView_->setEnabled(views_->MaySwitch() && panel_->isHidden());
+    SetCaption(*switchView_, rollAlone ? DrawingCaption : RollCaption);
+    switchView_->setVisible(views_->MaySwitch());
+    switchView_->setEnabled(views_->MaySwitch() && panel_->isHidden() &&
+                            !improvePanel_->IsRunning());
     zoomHint_->setVisible(!rollAlone && !picture_->Shown().Steps().empty());
 }
 

@@ -47,7 +47,6 @@ ResultViews::ResultViews(QWidget& body, Session& session)
 
 void ResultViews::ShowRoll(RollChart chart) {
     hasRoll_ = !chart.Pieces.empty();
-    prefersRoll_ = session_.Kept.IsOn(Preference::WholeRoll);
     roll_->Show(std::move(chart));
     Arrange();
 }

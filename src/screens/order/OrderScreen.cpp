@@ -474,6 +474,14 @@ void OrderScreen::OnCloseByFrame() {
 
 void OrderScreen::Leave() {
     choices_->Typed();
+    if (run_ && afterRun_) { // what was asked for before is done first
+        afterRun_ = [this, first = std::move(afterRun_)] {
+            first();
+            Leave();
+        };
+        StopComparing();
+        return;
+    }
     StopComparing();
     Shared().Drafts.Flush();
     Shared().Go.Return();

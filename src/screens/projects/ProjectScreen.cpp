@@ -147,11 +147,16 @@ void ProjectScreen::Done() {
         return;
     }
     if (result.Result == ChoiceResult::Outcome::New) {
-        Shared().Drafts.End(Shared().Project.Now.Name); // of one that had its name
+        EndAllOf(Shared().Project.Now.Name); // of one that had its name
     }
     ShowSettings();
     CloseSelection();
     HandOver(result);
+}
+
+void ProjectScreen::EndAllOf(const std::string& project) {
+    Shared().Drafts.End(project);
+    ForgetChosen(Shared().Project, project);
 }
 
 void ProjectScreen::HandOver(const ChoiceResult& result) {
@@ -295,6 +300,7 @@ void ProjectScreen::AskProjectName() {
                 }
                 RenameProject(Shared().Store, Shared().Project.Now, oldName, name);
                 Shared().Drafts.Move(oldName, name);
+                MoveChosen(Shared().Project, oldName, name);
                 list.SetEntry(list.Chosen(), name);
                 ProjectBox& box = *selection_->Name;
                 if (box.IsLocked() && StoredName(box.Name()) == StoredName(oldName)) {
@@ -317,7 +323,7 @@ void ProjectScreen::AskDeleteDirectory() {
     const auto projects = Shared().Store.Projects(name);
     DeleteDirectory(Shared().Store, Shared().Project.Now, name, CurrentMonth());
     for (const std::string& project : projects) {
-        Shared().Drafts.End(project);
+        EndAllOf(project);
     }
     ShowSettings();
     list.Remove(row);
@@ -342,7 +348,7 @@ void ProjectScreen::AskDeleteProject() {
     const int row = list.Chosen();
     const std::string name = list.ChosenName().value();
     DeleteProject(Shared().Store, Shared().Project.Now, name);
-    Shared().Drafts.End(name);
+    EndAllOf(name);
     ShowSettings();
     list.Remove(row);
     const int neighbour = NeighbourOf(row, list);

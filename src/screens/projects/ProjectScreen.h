@@ -36,6 +36,8 @@ class ProjectScreen : public TitledScreen {
     void CloseSelection();
     void Done();
     void HandOver(const ChoiceResult& result);
+    /// Nothing is left of a project that was called so: no draft, and no choices.
+    void EndAllOf(const std::string& project);
 
     std::optional<std::string> ChosenDirectory() const;
     std::string CurrentMonth() const;

@@ -27,6 +27,15 @@ void EntryField::Replace(const QString& text) {
     }
 }
 
+void EntryField::Empty() {
+    if (isUndoAvailable()) {
+        ReplaceLastChange({});
+    }
+    if (!text().isEmpty() || isRedoAvailable()) {
+        setText({});
+    }
+}
+
 void EntryField::ReplaceLastChange(const QString& text) {
     const bool outer = replacing_;
     replacing_ = true;

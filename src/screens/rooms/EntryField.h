@@ -19,6 +19,8 @@ class EntryField : public QLineEdit {
     /// Put another text in place of the last change, which undo does not bring back; the cursor is
     /// at its end.
     void ReplaceLastChange(const QString& text);
+    /// Take out what is there, which neither undo nor redo brings back.
+    void Empty();
 
   private:
     void FitLastChange();

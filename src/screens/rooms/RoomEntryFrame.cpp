@@ -429,7 +429,7 @@ bool RoomEntryFrame::EmptyWithoutSize(int index) {
         field.Replace(ToQt(*rest));
     } else {
         dropped_.at(static_cast<std::size_t>(index)) += text;
-        field.clear();
+        field.Empty();
     }
     changing_ = false;
     return !rest;

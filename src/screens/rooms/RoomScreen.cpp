@@ -201,6 +201,8 @@ void RoomScreen::ConnectList() {
 }
 
 void RoomScreen::OnUncover() {
+    entry_->SetProject(Shared().Project.Now.Name); // another one, if it was saved as a new project
+    ShowUnitsWarning();
     FirstFocus()->setFocus();
 }
 
@@ -653,6 +655,7 @@ void RoomScreen::CloseReport() {
     reading_.reset();
     SetEntryEnabled(true);
     ShowPanel(*entry_);
+    SetCaption(*showList_, ShowListCaption, ShowMnemonic);
     FirstFocus()->setFocus();
 }
 

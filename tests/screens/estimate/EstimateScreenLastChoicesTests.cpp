@@ -58,6 +58,27 @@ TEST_F(EstimateLastChoices, CanBeChosenOnceThereAreSome) {
     EXPECT_TRUE(Last().isEnabled());
 }
 
+TEST_F(EstimateLastChoices, LeaveNothingForTheOptionsOnceTheyAreCancelled) {
+    EstimateAndOpenAgain();
+    Click(Last());
+    EXPECT_NE(form->FirstChoices(), std::nullopt);
+    Click(Button(Controls::cancelChoices));
+    EXPECT_EQ(form->FirstChoices(), std::nullopt);
+}
+
+TEST_F(EstimateLastChoices, GoWithTheProjectNotWithItsName) {
+    OpenProject project;
+    project.Chosen["OLD"] = {Units::Metric, {}, std::nullopt};
+    project.Chosen["NEW"] = {Units::Imperial, {}, std::nullopt};
+    MoveChosen(project, "OLD", "NEW");
+    EXPECT_EQ(project.Chosen.size(), 1U);
+    EXPECT_EQ(project.Chosen.at("NEW").In, Units::Metric);
+    MoveChosen(project, "NEW", "NEW");
+    EXPECT_EQ(project.Chosen.size(), 1U);
+    ForgetChosen(project, "NEW");
+    EXPECT_TRUE(project.Chosen.empty());
+}
+
 TEST_F(EstimateLastChoices, AreChosenAndTypedAgain) {
     EstimateAndOpenAgain();
     ExpectDefaults();

@@ -156,6 +156,34 @@ TEST_F(UndoingRooms, LetAFieldTakeItsTypingBackFirst) {
     EXPECT_EQ(open.Now.Rooms, open.Saved.Rooms);
 }
 
+TEST_F(UndoingRooms, AreReachedFromAFieldThatDroppedItsZero) {
+    Open();
+    TypeSizes({"10", "0", "12", "0"});
+    ClickOn(Controls::nextRoom);
+    ClickOn(Controls::previousRoom);
+    ASSERT_EQ(open.Now.Rooms.size(), 4U);
+    ASSERT_EQ(Texts()[1], "");
+    Find<QLineEdit>(*form, Controls::roomWidthMinor).setFocus();
+    Undo();
+    EXPECT_EQ(open.Now.Rooms, open.Saved.Rooms);
+    Redo();
+    EXPECT_EQ(open.Now.Rooms.size(), 4U);
+    EXPECT_EQ(Texts()[1], "");
+}
+
+TEST_F(UndoingRooms, LetAFieldTakeBackWhatAZeroReplaced) {
+    Open();
+    TypeInto(1, "5");
+    auto& field = Find<QLineEdit>(*form, Controls::roomWidthMinor);
+    field.setFocus();
+    field.selectAll();
+    Press(*form, Qt::Key_0);
+    EXPECT_EQ(Texts()[1], "");
+    Undo();
+    EXPECT_EQ(Texts()[1], "5");
+    EXPECT_TRUE(field.hasFocus());
+}
+
 TEST_F(UndoingRooms, TakeBackWhatIsTypedInOtherFields) {
     Open();
     ClickOn(Controls::previousRoom);
@@ -436,6 +464,16 @@ TEST_F(RoomKeys, KeepTheReportOpenWhenItCannotBePrinted) {
     AwaitPrinter();
     EXPECT_EQ(boxes.Messages.size(), 1U);
     EXPECT_TRUE(Find(*form, Controls::reportPanel).isVisible());
+}
+
+TEST_F(RoomKeys, LeadBackToTheFormFromAReportOfTheList) {
+    Open(800, 600);
+    ClickOn(Controls::showRoomList);
+    Press(*form, Qt::Key_P, Qt::ControlModifier);
+    Press(*form, Qt::Key_Escape);
+    EXPECT_TRUE(Find(*form, Controls::roomPanel).isVisible());
+    EXPECT_EQ(Find<QPushButton>(*form, Controls::showRoomList).accessibleName(),
+              QStringLiteral("SHOW LIST"));
 }
 
 TEST_F(RoomKeys, CloseTheReportByEscape) {
