@@ -410,7 +410,12 @@ void RoomEntryFrame::EnterFrom(const QObject& field) {
     } else if (*text == Remark) {
         next_->setFocus();
     } else {
-        Text(*text + 1).setFocus();
+        EntryField& next = Text(*text + 1);
+        const bool wasEmpty = next.text().isEmpty();
+        next.setFocus();
+        if (*text < SizeTexts && wasEmpty && !next.text().isEmpty()) {
+            EnterFrom(next); // a whole length filled it, too
+        }
     }
     if (text && *text == Base) {
         TestEnteredBase();

@@ -39,12 +39,27 @@ TEST_F(WholeLengths, AreSpreadWhenTheFieldIsLeft) {
     EXPECT_TRUE(boxes.Messages.empty());
 }
 
+TEST_F(WholeLengths, TakeOneEnterForEachSize) {
+    Open();
+    TypeInto(0, "12'6\"");
+    Press(*form, Qt::Key_Return);
+    EXPECT_TRUE(HasFocus(Controls::roomLengthMajor));
+    TypeInto(2, "14-3");
+    Press(*form, Qt::Key_Return);
+    EXPECT_TRUE(HasFocus(Controls::covering));
+    Press(*form, Qt::Key_N, Qt::AltModifier);
+    EXPECT_EQ(open.Now.Rooms, (std::vector<Room>{{150, 171, 0, 0, "", ""}}));
+    TypeInto(0, "12'");
+    Press(*form, Qt::Key_Return);
+    EXPECT_TRUE(HasFocus(Controls::roomWidthMinor)) << "inches may follow";
+}
+
 TEST_F(WholeLengths, AreSpreadInMetric) {
     open.Shown = Units::Metric;
     Open();
     TypeInto(0, "3.66m");
     Press(*form, Qt::Key_Return);
-    EXPECT_TRUE(HasFocus(Controls::roomWidthMinor));
+    EXPECT_TRUE(HasFocus(Controls::roomLengthMajor)) << "both fields of the width are filled";
     TypeInto(3, "420cm");
     Press(*form, Qt::Key_Backtab, Qt::ShiftModifier);
     EXPECT_EQ(Sizes(), (Lines{"3", "66", "4", "20"}));
