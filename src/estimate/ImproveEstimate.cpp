@@ -41,6 +41,13 @@ ImprovedEstimate ImproveEstimate(const Estimate& estimate, const ImproveLimits& 
     return improved;
 }
 
+std::string ShorterText(const Estimate& estimate, const Estimate& better) {
+    const Units units = estimate.Request.In;
+    const Long shorter = ListedTotal(TotalRoll(estimate).Length, units) -
+                         ListedTotal(TotalRoll(better).Length, units);
+    return shorter > 0 ? WholeLengthText(shorter, units) + " shorter" : "";
+}
+
 Estimate KeepingMinCut(const Estimate& estimate, const ImproveResult& result) {
     Estimate keeping = estimate;
     keeping.Fills = result.Kept.value();

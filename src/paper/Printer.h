@@ -34,8 +34,9 @@ inline constexpr const char* PrinterNotReadyMessage =
     "Warning: Your printer is not ready!\r\n\r\nYou couldn't print in the program";
 
 /// The system's default printer. Every member raises PrinterError when there is none, when it takes
-/// no jobs, and when it refuses the job. A job that failed leaves no page, unless the printing
-/// system fell silent after it had the whole of it; the error says so.
+/// no jobs, and when it refuses the job. It is used by one thread at a time, whichever that is. A
+/// job that failed leaves no page, unless the printing system fell silent after it had the whole of
+/// it; the error says so.
 class Printer {
   public:
     virtual ~Printer() = default;

@@ -14,7 +14,17 @@ inline constexpr const char* body = "Body";
 inline constexpr const char* productTitle = "PTitle";
 inline constexpr const char* formTitle = "FTitle";
 inline constexpr const char* titleWarning = "FWarning";
+inline constexpr const char* showGuide = "ShowGuide";
 inline constexpr const char* printingNote = "PrintingNote";
+
+// Guide: the guide, which any screen opens.
+inline constexpr const char* guideWindow = "Guide";
+inline constexpr const char* guideText = "GuideText";
+inline constexpr const char* guideSearchCaption = "GuideSearchCaption";
+inline constexpr const char* guideSearch = "GuideSearch";
+inline constexpr const char* findInGuide = "FindInGuide";
+inline constexpr const char* guideNote = "GuideNote";
+inline constexpr const char* closeGuide = "CloseGuide";
 
 // Projects: the projects and their directories.
 inline constexpr const char* projectScreen = "ProjectForm";
@@ -116,6 +126,7 @@ inline constexpr const char* zoomHint = "Label5";
 inline constexpr const char* openChoices = "Command3";
 inline constexpr const char* improveFills = "Command8";
 inline constexpr const char* undoImprovement = "UndoImprovement";
+inline constexpr const char* openOrder = "OpenOrder";
 inline constexpr const char* pasteCuts = "Command4";
 inline constexpr const char* redrawLayout = "Command7";
 inline constexpr const char* printEstimate = "Command5";

@@ -1,8 +1,11 @@
 #include "screens/Preferences.h"
 
+#include "files/FileModes.h"
 #include "store/Configuration.h"
 
 #include <QSettings>
+
+#include <filesystem>
 
 namespace tarn {
 
@@ -16,6 +19,18 @@ QString KeyOf(Preference which) {
         return QStringLiteral("WholeRoll");
     }
     return {};
+}
+
+/// The owner's alone, and its folder too.
+void MakeIfMissing(const std::filesystem::path& file) {
+    try {
+        MakePrivateFolder(file.parent_path());
+        if (!std::filesystem::exists(file)) {
+            MakePrivateFile(file);
+        }
+    } catch (const std::filesystem::filesystem_error&) {
+        // The choice holds for this run.
+    }
 }
 
 } // namespace
@@ -36,6 +51,7 @@ bool Preferences::IsOn(Preference which) const {
 void Preferences::Set(Preference which, bool on) {
     chosen_[which] = on;
     if (file_) {
+        MakeIfMissing(file_->fileName().toStdString());
         file_->setValue(KeyOf(which), on);
         file_->sync();
     }

@@ -57,7 +57,9 @@ class Program {
     ProgramScreens screens_{window_};
     DraftKeeper drafts_{project_};
     Preferences preferences_{UserPreferencesFile()};
-    Session session_{project_, store_, page_, boxes_, printing_, screens_, drafts_, preferences_};
+    RoomHistory history_{project_};
+    Session session_{project_, store_,  page_,        boxes_,  printing_,
+                     screens_, drafts_, preferences_, history_};
     ScreenWindow window_; // the last one: its screens are unloaded before the session goes
 };
 

@@ -37,6 +37,10 @@ void ProgramScreens::ShowOptions(const EstimateRequest& request, EstimateClient&
     window_.Cover(std::make_unique<OptionsScreen>(*session_, request, client));
 }
 
+void ProgramScreens::ShowOrder(std::optional<Byte> carpet) {
+    window_.Cover(std::make_unique<OrderScreen>(*session_, carpet));
+}
+
 void ProgramScreens::ShowGuide(std::string_view page) {
     if (guide_ == nullptr) {
         guide_ = new GuideWindow(window_, session_->Boxes);

@@ -8,7 +8,7 @@ namespace tarn {
 
 class GuideWindow;
 
-/// The way between the program's own five screens, in one window.
+/// The way between the program's own six screens, in one window.
 class ProgramScreens : public Screens {
   public:
     explicit ProgramScreens(ScreenWindow& window)
@@ -22,6 +22,7 @@ class ProgramScreens : public Screens {
     void ShowRooms() override;
     void ShowEstimate(bool fromMenu) override;
     void ShowOptions(const EstimateRequest& request, EstimateClient& client) override;
+    void ShowOrder(std::optional<Byte> carpet) override;
     void ShowGuide(std::string_view page) override;
     void Return() override;
     void End() override;

@@ -86,7 +86,7 @@ void ScreenWindow::Unload(Screen& screen) {
 void ScreenWindow::ShowFront() {
     if (Screen* front = Front()) {
         screens_->setCurrentWidget(front);
-        note_->raise();
+        QTimer::singleShot(0, this, [this] { PlaceNote(); }); // beside what is laid out by then
         setWindowTitle(front->Caption());
     }
 }
@@ -141,8 +141,17 @@ void ScreenWindow::SetNote(std::string_view note) {
 
 void ScreenWindow::PlaceNote() {
     const int margin = Pixels(Metrics::Margin);
+    QRect place(width() - margin, margin, 0, note_->sizeHint().height());
+    const QWidget* front = Front();
+    const auto* guide = front == nullptr
+                            ? nullptr
+                            : front->findChild<QWidget*>(QString::fromLatin1(Controls::showGuide));
+    if (guide != nullptr) {
+        const QRect button(guide->mapTo(this, QPoint()), guide->size());
+        place = {button.left() - Pixels(Metrics::Spacing), button.top(), 0, button.height()};
+    }
     note_->adjustSize();
-    note_->move(width() - note_->width() - margin, margin);
+    note_->move(place.left() - note_->width(), place.center().y() - note_->height() / 2);
     note_->raise();
 }
 

@@ -1,5 +1,8 @@
 #pragma once
 
+#include "base/Types.h"
+
+#include <optional>
 #include <string_view>
 
 namespace tarn {
@@ -34,6 +37,9 @@ class Screens {
     /// Show the estimation options above the estimate, which stays loaded and disabled. They fill
     /// in the rest of `request`, and hand the estimate to `client`, which must outlive them.
     virtual void ShowOptions(const EstimateRequest& request, EstimateClient& client) = 0;
+    /// Show the order above the estimate, which stays loaded and disabled. It begins with `carpet`,
+    /// a covering code, where that can be ordered; else with the lowest carpet that can.
+    virtual void ShowOrder(std::optional<Byte> carpet) = 0;
     /// Open the guide at one of its pages (see GuidePages.h), beside the screen in front.
     virtual void ShowGuide(std::string_view page) = 0;
     /// Unload the screen in front and show and enable the one below it.

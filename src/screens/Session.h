@@ -6,6 +6,7 @@
 #include "screens/OpenProject.h"
 #include "screens/Preferences.h"
 #include "screens/PrintQueue.h"
+#include "screens/RoomHistory.h"
 #include "screens/Screens.h"
 #include "store/ProjectStore.h"
 

@@ -89,7 +89,8 @@ QLineEdit, QComboBox, QPlainTextEdit, QTextBrowser, QListWidget, #%RollList% {
 QLineEdit, QComboBox { padding: 30tw 90tw; min-height: 345tx; }
 QLineEdit:focus, QComboBox:focus, QPlainTextEdit:focus, QTextBrowser:focus, QListWidget:focus,
     #%RollList%:focus { border-color: @Accent; }
-QLineEdit:disabled, QComboBox:disabled { color: @Disabled; background: @Surface; }
+QLineEdit:disabled, QComboBox:disabled { color: @Disabled; background: @Surface;
+    border-color: @Border; }
 QPlainTextEdit { font-size: @ListingFontpt; }
 QComboBox::drop-down { border: none; width: 360tx; }
 QComboBox::down-arrow { width: 0; height: 0; border-top: 90tx solid @Muted;
@@ -100,7 +101,14 @@ QListWidget::item:selected, #%RollList%::item:selected { background: @Accent; co
 QComboBox QAbstractItemView { background: @Field; color: @Text;
     selection-background-color: @Accent; selection-color: @AccentText; }
 
-QTableView { background: @Field; color: @Text; border: 2px solid @Border; border-radius: 60tw;
+QTabBar::tab { background: @Surface; color: @Text; border: 2px solid @ControlBorder;
+    padding: 45tw 150tw; margin-left: -2px; }
+QTabBar::tab:first { margin-left: 0; }
+QTabBar::tab:selected { background: @Accent; color: @AccentText; border-color: @Accent;
+    font-weight: 600; }
+QTabBar::tab:selected:focus { border-color: @Text; }
+
+QTableView { background: @Field; color: @Text; border: 2px solid @ControlBorder; border-radius: 60tw;
     outline: none; selection-background-color: @Accent; selection-color: @AccentText; }
 QTableView:focus { border-color: @Accent; }
 QTableView::item { padding: 0 30tw; border: none; }
@@ -128,8 +136,8 @@ QScrollBar::handle:vertical { min-height: 450tw; }
 QScrollBar::handle:horizontal { min-width: 450tw; }
 QScrollBar::add-line, QScrollBar::sub-line { width: 0; height: 0; }
 QScrollBar::add-page, QScrollBar::sub-page { background: none; }
-#%Picture% { background: white; border: 2px solid @Border; }
-#%RollView% { background: @Field; border: 2px solid @Border; }
+#%Picture% { background: white; border: 2px solid @ControlBorder; }
+#%RollView% { background: @Field; border: 2px solid @ControlBorder; }
 #%Picture%:focus, #%RollView%:focus { border-color: @Accent; }
 QScrollArea { border: none; background: @Window; }
 )";

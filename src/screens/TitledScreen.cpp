@@ -113,7 +113,7 @@ int TitledScreen::BelowHeight() const {
 }
 
 TitledScreen::Places TitledScreen::PlacesOf(const Panel& panel) const {
-    const int titles = Pixels(ProductTitleAbovePanel);
+    const int titles = TextPixels(ProductTitleAbovePanel);
     const int margin = Pixels(Metrics::Margin);
     const QSize least = NaturalSize(*panel.Widget);
     const QSize area = Body().size();
@@ -155,7 +155,7 @@ void TitledScreen::Arrange() {
 }
 
 void TitledScreen::PlaceAround(const Panel& panel) {
-    const int titles = Pixels(ProductTitleAbovePanel);
+    const int titles = TextPixels(ProductTitleAbovePanel);
     const QSize least = NaturalSize(*panel.Widget);
     const int belowWidth = HasBelow() ? NaturalSize(*below_).width() : 0;
     Body().setMinimumSize(std::max(least.width(), belowWidth) + 2 * Pixels(Metrics::Margin),
@@ -165,9 +165,10 @@ void TitledScreen::PlaceAround(const Panel& panel) {
     const int top = places.Panel.top();
     panel.Widget->setGeometry(places.Panel);
     productTitle_->setGeometry(0, top - titles, width, productTitle_->sizeHint().height());
-    formTitle_->setGeometry(0, top - Pixels(FormTitleAbovePanel), width,
+    formTitle_->setGeometry(0, top - TextPixels(FormTitleAbovePanel), width,
                             formTitle_->sizeHint().height());
     PlaceTitleWarning();
+    PlaceGuideButton();
     if (HasBelow()) {
         below_->setGeometry(places.Below);
     }

@@ -56,6 +56,7 @@ class TitledScreen : public Screen {
     bool ChangesArrangement(const QObject* watched, QEvent::Type event);
     void Arrange();
     void PlaceAround(const Panel& panel);
+    void PlaceGuideButton();
     void PlaceTitleWarning();
     bool HasBelow() const;
     /// The height that the panel leaves to what is below it.

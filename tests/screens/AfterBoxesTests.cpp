@@ -4,7 +4,6 @@
 
 #include <QDialog>
 #include <QTest>
-#include <QTimer>
 
 #include <gtest/gtest.h>
 
@@ -25,25 +24,22 @@ TEST(AfterBoxes, WaitsForTheLastBoxAndForWhatShowedIt) {
     int ran = 0;
     bool wentOn = false;
     QDialog first;
-    QTimer::singleShot(0, &first, [&] {
-        AfterBoxes(context, [&] {
-            ++ran;
-            EXPECT_TRUE(wentOn);
-        });
-        QDialog second;
-        QTimer::singleShot(0, &second, &QDialog::reject);
-        second.exec();
-        QTest::qWait(1);
-        EXPECT_EQ(ran, 0) << "one is still up";
-        first.reject();
+    first.open();
+    AfterBoxes(context, [&] {
+        ++ran;
+        EXPECT_TRUE(wentOn);
     });
-    first.exec();
+    QDialog second;
+    second.open();
+    second.reject();
+    QTest::qWait(1);
+    EXPECT_EQ(ran, 0) << "one is still up";
+    first.reject();
     EXPECT_EQ(ran, 0);
     wentOn = true;
     EXPECT_TRUE(QTest::qWaitFor([&] { return ran > 0; }));
-    QDialog third;
-    QTimer::singleShot(0, &third, &QDialog::reject);
-    third.exec();
+    second.open();
+    second.reject();
     QTest::qWait(1);
     EXPECT_EQ(ran, 1);
 }
@@ -52,12 +48,10 @@ TEST(AfterBoxes, ForgetsWhatIsGone) {
     auto context = std::make_unique<QObject>();
     bool ran = false;
     QDialog box;
-    QTimer::singleShot(0, &box, [&] {
-        AfterBoxes(*context, [&] { ran = true; });
-        context.reset();
-        box.reject();
-    });
-    box.exec();
+    box.open();
+    AfterBoxes(*context, [&] { ran = true; });
+    context.reset();
+    box.reject();
     QTest::qWait(1);
     EXPECT_FALSE(ran);
 }

@@ -4,6 +4,9 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <filesystem>
+#include <sys/stat.h>
+
 namespace tarn {
 namespace {
 
@@ -25,6 +28,18 @@ TEST_F(PreferencesFile, OutlastsARun) {
     EXPECT_TRUE(second.IsOn(Preference::WholeRoll));
     second.Set(Preference::WholeRoll, false);
     EXPECT_FALSE(Preferences(file).IsOn(Preference::WholeRoll));
+}
+
+TEST_F(PreferencesFile, IsItsOwnersAlone) {
+    const mode_t before = umask(0);
+    Preferences(file).Set(Preference::WholeRoll, true);
+    umask(before);
+    using Perms = std::filesystem::perms;
+    const auto modeOf = [](const QString& path) {
+        return std::filesystem::status(path.toStdString()).permissions();
+    };
+    EXPECT_EQ(modeOf(file), Perms::owner_read | Perms::owner_write);
+    EXPECT_EQ(modeOf(QFileInfo(file).path()), Perms::owner_all);
 }
 
 TEST_F(PreferencesFile, ThatCannotBeReadOrWrittenIsNoFailure) {

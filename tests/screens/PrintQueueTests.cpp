@@ -152,13 +152,11 @@ TEST_F(PrintQueues, TellOfAFailureAlsoWhenWhatWasShownIsGone) {
 TEST_F(PrintQueues, TellNothingBehindAnotherBox) {
     printer.Failure = "It is off.";
     QDialog box;
-    QTimer::singleShot(0, &box, [&] {
-        queue->Print(ReportOf("A"), screen);
-        SaidUntilPrinted();
-        EXPECT_THAT(boxes.Messages, IsEmpty());
-        box.reject();
-    });
-    box.exec();
+    box.open();
+    queue->Print(ReportOf("A"), screen);
+    SaidUntilPrinted();
+    EXPECT_THAT(boxes.Messages, IsEmpty());
+    box.reject();
     EXPECT_TRUE(QTest::qWaitFor([&] { return boxes.Messages.size() == 1; }));
 }
 

@@ -284,7 +284,9 @@ class AnyHistory : public RoomHistories, public ::testing::WithParamInterface<un
             history.Redo();
             ++at_;
         } else if (kind < 93) {
-            const Draft draft{Rooms(AnyPlace(), Room{1, 2, 3, 255, "", "odd"}), Units::Metric, {}};
+            Draft draft;
+            draft.Rooms = Rooms(AnyPlace(), Room{1, 2, 3, 255, "", "odd"});
+            draft.EnteredIn = Units::Metric;
             history.Do(
                 AnyRoom, [&] { TakeBack(open, draft); }, "Take back");
             Note();

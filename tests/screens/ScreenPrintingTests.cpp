@@ -92,7 +92,7 @@ struct PrintedFromRooms : ScreenTest {
 
     SystemPrinter system;
     PrintQueue queue{system, page, boxes};
-    Session real{open, store, page, boxes, queue, screens, drafts, kept, session.Today};
+    Session real{open, store, page, boxes, queue, screens, drafts, kept, history, session.Today};
     std::unique_ptr<RoomScreen> form;
 };
 
@@ -128,7 +128,7 @@ struct PrintedFromEstimate : EstimateScreenTest {
 
     SystemPrinter system;
     PrintQueue queue{system, page, boxes};
-    Session real{open, store, page, boxes, queue, screens, drafts, kept, session.Today};
+    Session real{open, store, page, boxes, queue, screens, drafts, kept, history, session.Today};
 };
 
 TEST_F(PrintedFromEstimate, TheEstimateArrives) {

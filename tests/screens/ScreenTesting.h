@@ -104,8 +104,8 @@ struct HeldPrinter : FakePrinter {
 };
 
 /// Records the way between the screens: "projects", "menu existing", "menu new", "menu returning",
-/// "rooms", "estimate from menu", "estimate from rooms", "options", "guide" and its
-/// page, "return", "end".
+/// "rooms", "estimate from menu", "estimate from rooms", "options", "order", with a carpet
+/// "order CARPET-1", "guide" and its page, "return", "end".
 struct FakeScreens : Screens {
     std::vector<std::string> Calls;
     EstimateClient* Client = nullptr; ///< of the options shown last
@@ -122,6 +122,9 @@ struct FakeScreens : Screens {
         Client = &client;
         Request = request;
         Record("options");
+    }
+    void ShowOrder(std::optional<Byte> carpet) override {
+        Record(carpet ? "order " + CoveringCaption(*carpet) : "order");
     }
     void ShowGuide(std::string_view page) override { Record("guide " + std::string(page)); }
     void Return() override { Record("return"); }
@@ -186,9 +189,9 @@ struct ScreenTest : ::testing::Test {
     QTemporaryDir state; ///< of the drafts
     DraftKeeper drafts{open};
     Preferences kept;
-    Session session{open,   store,    page,
-                    boxes,  printing, screens,
-                    drafts, kept,     [] { return QDate(2026, 3, 14); }};
+    RoomHistory history{open};
+    Session session{open,    store,  page, boxes,   printing,
+                    screens, drafts, kept, history, [] { return QDate(2026, 3, 14); }};
 };
 
 } // namespace tarn::testing

@@ -49,7 +49,7 @@ constexpr const char* ImproveFailure = "The layout could not be improved.";
 constexpr const char* OrderFailure = "The order could not be opened.";
 constexpr const char* PictureFailure = "The picture could not be saved.";
 constexpr const char* LeaveFailure = "The screen could not be closed.";
-constexpr const char* WholeRollCaption = "WHOLE ROLL";
+constexpr const char* RollCaption = "ROLL";
 constexpr const char* DrawingCaption = "DRAWING";
 constexpr const char* PasteHint =
     "Then click where the cut list is to stand, or press Enter for the top left of the view.";
@@ -177,22 +177,26 @@ QVBoxLayout* EstimateScreen::BuildButtons() {
     redraw_ = NewButton(&Body(), Controls::redrawLayout, "REDRAW", 'R');
     improveButtons_ = new ImproveButtons(&Body());
     improve_ = &improveButtons_->Improve();
+    order_ = NewButton(&Body(), Controls::openOrder, "ORDER");
     SetPrimary(*openPanel_);
     paste_->setToolTip(QString::fromLatin1(PasteHint));
+    switchView_ = NewButton(&Body(), Controls::switchView, RollCaption);
+    switchView_->setToolTip(QStringLiteral("The whole roll with its list, or the drawing: key D"));
+    switchView_->setMinimumWidth(Pixels(Metrics::ButtonWidth));
     auto* column = new QVBoxLayout;
-    column->setSpacing(Pixels(Metrics::Spacing));
+    column->setSpacing(0);
     for (QPushButton* button : Buttons()) {
         if (button == back_) {
+            column->addWidget(switchView_);
             column->addStretch();
         }
         button->setMinimumWidth(Pixels(Metrics::ButtonWidth));
         button->setEnabled(false);
         column->addWidget(button == improve_ ? static_cast<QWidget*>(improveButtons_) : button);
+        // On a low screen the gaps go first.
+        column->addSpacerItem(new QSpacerItem(0, button == back_ ? 0 : Pixels(Metrics::Spacing),
+                                              QSizePolicy::Minimum, QSizePolicy::Maximum));
     }
-    switchView_ = NewButton(&Body(), Controls::switchView, WholeRollCaption);
-    switchView_->setToolTip(QStringLiteral("The same: key D"));
-    switchView_->setMinimumWidth(Pixels(Metrics::ButtonWidth));
-    column->insertWidget(column->indexOf(save_) + 1, switchView_);
     return column;
 }
 
@@ -235,11 +239,16 @@ void EstimateScreen::Connect() {
     connect(improve_, &QPushButton::pressed, this, [this] { takesShorter_ = OffersShorter(); });
     OnClick(*improve_, DrawingFailure, [this] { ImproveLayout(); });
     OnClick(improveButtons_->Undo(), DrawingFailure, [this] { UndoImprovement(); });
+    OnClick(*order_, OrderFailure, [this] {
+        Shared().Go.ShowOrder(estimate_ ? std::optional(estimate_->Request.Carpet) : std::nullopt);
+    });
     OnClick(*print_, {}, [this] { PrintEstimate(Shared(), *this, estimate_, picture_->Shown()); });
     IgnoreSecondClick(*print_);
     OnClick(*save_, std::string(NotSavedMessage), [this] { SaveRooms(); });
     OnClick(*back_, LeaveFailure, [this] { Leave(); });
     picture_->MouseDown = [this](Double x, Double y) { return PasteCutList(x, y); };
+    OnClick(*switchView_, DrawingFailure, [this] { SwitchView(); });
+    views_->OnArranged = [this] { OfferViews(); };
     ConnectKeys();
 }
 
@@ -255,6 +264,7 @@ void EstimateScreen::ConnectKeys() {
     };
     onKeys(QKeySequence(Qt::CTRL | Qt::Key_Y), &EstimateScreen::RedoImprovement);
     onKeys(QKeySequence(Qt::Key_Escape), &EstimateScreen::Escape);
+    onKeys(QKeySequence(Qt::Key_D), &EstimateScreen::SwitchView);
 }
 
 /// Closes what is in front, or takes a waiting paste back.
@@ -370,8 +380,10 @@ void EstimateScreen::OfferViews() {
 }
 
 void EstimateScreen::SwitchView() {
-    views_->Switch();
-    FocusResult();
+    if (switchView_->isEnabled()) {
+        views_->Switch();
+        FocusResult();
+    }
 }
 
 void EstimateScreen::ShowDrawing(Drawing drawing, bool fromStart) {
@@ -568,8 +580,10 @@ void EstimateScreen::RedoImprovement() {
 
 void EstimateScreen::Restore(ShownEstimate shown) {
     SetPasting(false);
+    RollChart roll = ChartOf(shown.Value, OpenedProject());
     estimate_ = std::move(shown.Value);
     ShowDrawing(std::move(shown.Picture), true);
+    views_->ShowRoll(std::move(roll));
     FocusResult();
 }
 

@@ -38,6 +38,7 @@ class EstimateScreen : public Screen, public EstimateClient {
     /// `fromMenu`: the menu opened it and is shown again when it closes; else the screen below it
     /// is. `quietly` looks for a shorter layout after each estimate. Raises as RequireExtents.
     EstimateScreen(Session& session, bool fromMenu, QuietSearch::Search quietly = &ImproveEstimate);
+    ~EstimateScreen() override;
 
     void EstimateReady(const Estimate& estimate) override;
     std::optional<FillChoices> FirstChoices() const override { return firstChoices_; }
@@ -64,7 +65,7 @@ class EstimateScreen : public Screen, public EstimateClient {
     void AddToPictureMenu(const char* name, const char* caption, std::function<void()> save);
     void Connect();
     void ConnectKeys();
-    std::array<QPushButton*, 7> Buttons() const;
+    std::array<QPushButton*, 8> Buttons() const;
     void TellNoData();
     void PlacePanels();
     void OpenPanel();

@@ -51,7 +51,13 @@ QString WrittenIn(const Drawing& drawing) {
 
 PictureBox::PictureBox(QWidget* parent, Dialogs& boxes)
     : QAbstractScrollArea(parent)
-    , boxes_(boxes) {
+    , boxes_(boxes)
+    , moving_(
+          *viewport(),
+          [this](QPainter& painter, const PictureAt& at, const QRect& part) {
+              PaintPart(painter, at, part);
+          },
+          [this] { return DrawnTwips(); }) {
     TellAsPicture(*this); // before it is named, which is told already
     NameControl(*this, Controls::layoutPicture, QStringLiteral("Layout drawing"));
     setToolTip(ZoomHint());

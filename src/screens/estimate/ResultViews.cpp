@@ -2,6 +2,7 @@
 
 #include "screens/Arrangement.h"
 #include "screens/Display.h"
+#include "screens/Theme.h"
 #include "screens/estimate/PictureBox.h"
 #include "screens/roll/RollPanel.h"
 #include "screens/roll/RollView.h"
@@ -14,7 +15,7 @@ namespace tarn {
 
 namespace {
 
-constexpr double WideWindow = 16500;     ///< twips: room for both views
+constexpr double WideWindow = 16500;     ///< twips; with larger text more
 constexpr double VeryWideWindow = 24000; ///< and for the list beside the roll
 constexpr double LeastPictureWidth = 4500;
 constexpr double LeastPictureHeight = 3000;
@@ -52,7 +53,7 @@ void ResultViews::ShowRoll(RollChart chart) {
 }
 
 bool ResultViews::IsWide() const {
-    return body_.window()->width() >= Pixels(WideWindow);
+    return body_.window()->width() >= TextPixels(WideWindow);
 }
 
 bool ResultViews::MaySwitch() const {
@@ -87,7 +88,7 @@ QWidget* ResultViews::InFront() {
 
 void ResultViews::Arrange() {
     const bool wide = IsWide();
-    const bool veryWide = body_.window()->width() >= Pixels(VeryWideWindow);
+    const bool veryWide = body_.window()->width() >= TextPixels(VeryWideWindow);
     picture_->setMinimumWidth(Pixels(wide ? LeastPictureBeside : LeastPictureWidth));
     SetKeepsRoom(*roll_, wide);
     roll_->SetListBeside(veryWide || !wide);

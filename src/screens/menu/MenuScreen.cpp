@@ -162,7 +162,7 @@ QHBoxLayout* MenuScreen::BuildTakeBack(QWidget* panel) {
 
 void MenuScreen::ShowProject() {
     const OpenProject& project = Shared().Project;
-    notSaved_->setVisible(project.HasUnsavedRooms());
+    notSaved_->setVisible(project.HasUnsavedChanges());
     tilesOnly_->setVisible(HasTilesOnly(project.Now));
     metric_->setChecked(project.Shown == Units::Metric);
     ShowUnits();

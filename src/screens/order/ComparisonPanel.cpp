@@ -6,7 +6,6 @@
 #include "screens/Arrangement.h"
 #include "screens/ControlNames.h"
 #include "screens/Controls.h"
-#include "screens/Display.h"
 #include "screens/Theme.h"
 
 #include <QHeaderView>
@@ -113,8 +112,8 @@ ComparisonPanel::ComparisonPanel(QWidget* parent)
     table_->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
     table_->setWordWrap(false);
     table_->verticalHeader()->hide();
-    table_->verticalHeader()->setDefaultSectionSize(Pixels(RowHeight));
-    table_->verticalHeader()->setMinimumSectionSize(Pixels(RowHeight));
+    table_->verticalHeader()->setDefaultSectionSize(TextPixels(RowHeight));
+    table_->verticalHeader()->setMinimumSectionSize(TextPixels(RowHeight));
     table_->horizontalHeader()->setHighlightSections(false);
     table_->horizontalHeader()->setMaximumSectionSize(TextPixels(WidestColumn));
     connect(table_, &QTableWidget::currentCellChanged, this, [this](int row, int, int before, int) {

@@ -144,7 +144,7 @@ QBoxLayout* OrderChoicePanel::BuildFields() {
         QLineEdit* box = fields_[option] = new QLineEdit(this);
         box->setObjectName(field.Name);
         box->setMaxLength(LongestText);
-        box->setFixedWidth(Pixels(FieldWidth));
+        KeepTextWidth(*box, FieldWidth);
         grid->addLayout(
             Labelled(NewLabelFor(*box, this, field.CaptionName, field.Caption, field.Mnemonic),
                      box),
@@ -194,7 +194,7 @@ QCheckBox* OrderChoicePanel::NewBox(const char* name, std::string_view caption, 
 void OrderChoicePanel::OfferParts() {
     parts_ = new QComboBox(this);
     parts_->setObjectName(Controls::orderParting);
-    parts_->setFixedWidth(Pixels(FieldWidth));
+    KeepTextWidth(*parts_, FieldWidth);
     for (Long parts = 1; parts <= MostPartsOfStrip; ++parts) {
         parts_->addItem(QString::number(parts));
     }

@@ -10,7 +10,7 @@
 #include "order/OrderSheet.h"
 #include "paper/PdfFile.h"
 #include "project/Coverings.h"
-#include "screens/Printing.h"
+#include "screens/PrintQueue.h"
 #include "screens/SaveAs.h"
 #include "screens/WaitCursor.h"
 
@@ -62,8 +62,8 @@ OrderDocument DocumentOf(const Session& session, Order order) {
     return document;
 }
 
-void PrintOrder(const Session& session, const OrderDocument& document) {
-    Print(session.Boxes, [&] { session.Paper.PrintOrder(document, DateOf(session)); });
+void PrintOrder(Session& session, QObject& screen, const OrderDocument& document) {
+    session.Printing.Print(OrderPages{document, DateOf(session)}, screen);
 }
 
 void SaveOrderAs(const Session& session, const OrderDocument& document, const OrderFile& file) {

@@ -24,8 +24,8 @@ const std::array<OrderFile, 6>& OrderFiles();
 /// A document of one order of the open project.
 OrderDocument DocumentOf(const Session& session, Order order);
 
-/// Print the sheet to buy and cut by. What fails is told as Print does.
-void PrintOrder(const Session& session, const OrderDocument& document);
+/// Print the sheet to buy and cut by of what `screen` shows (see PrintQueue).
+void PrintOrder(Session& session, QObject& screen, const OrderDocument& document);
 
 /// Ask for a file and save the order there; nothing when that was cancelled. Raises
 /// OutputFileError, which names the file.

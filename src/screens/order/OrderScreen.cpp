@@ -452,7 +452,7 @@ void OrderScreen::WithTaken(std::function<void(const OrderDocument&)> act) {
 }
 
 void OrderScreen::PrintTaken() {
-    WithTaken([this](const OrderDocument& document) { PrintOrder(Shared(), document); });
+    WithTaken([this](const OrderDocument& document) { PrintOrder(Shared(), *this, document); });
 }
 
 void OrderScreen::SaveTaken(const OrderFile& file) {

@@ -42,6 +42,7 @@ class OrderScreen : public Screen {
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   protected:
+    std::string_view GuidePage() const override { return GuidePages::order; }
     void OnCloseByFrame() override;
     QWidget* FirstFocus() override;
     void keyPressEvent(QKeyEvent* event) override;

@@ -2,7 +2,7 @@
 
 #include "files/QtText.h"
 #include "project/TypedText.h"
-#include "screens/Display.h"
+#include "screens/Theme.h"
 
 #include <QHeaderView>
 #include <QKeyEvent>
@@ -60,13 +60,13 @@ RollTable::RollTable(QWidget* parent, Units units)
     setSelectionMode(SingleSelection);
     setEditTriggers(DoubleClicked | SelectedClicked | EditKeyPressed | AnyKeyPressed);
     verticalHeader()->hide();
-    verticalHeader()->setDefaultSectionSize(Pixels(RowHeight));
-    verticalHeader()->setMinimumSectionSize(Pixels(RowHeight));
+    verticalHeader()->setDefaultSectionSize(TextPixels(RowHeight));
+    verticalHeader()->setMinimumSectionSize(TextPixels(RowHeight));
     horizontalHeader()->setHighlightSections(false);
     horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     horizontalHeader()->setSectionResizeMode(Name, QHeaderView::Stretch);
-    setColumnWidth(Width, Pixels(WidthColumn));
-    setColumnWidth(Price, Pixels(PriceColumn));
+    setColumnWidth(Width, TextPixels(WidthColumn));
+    setColumnWidth(Price, TextPixels(PriceColumn));
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     connect(this, &QTableWidget::cellChanged, this,
             [this](int row, int column) { CellChanged(row, column); });

@@ -45,7 +45,7 @@ class LineDelegate : public QStyledItemDelegate {
         const auto* list = static_cast<const QListView*>(option.widget);
         const QFontMetrics metrics(list->font());
         const QString text = index.data().toString();
-        const int room = list->viewport()->width() - 2 * Pixels(LinePadding);
+        const int room = list->viewport()->width() - 2 * TextPixels(LinePadding);
         if (room > 0 && metrics.horizontalAdvance(text) > room) {
             const QRect most(0, 0, room, QWIDGETSIZE_MAX);
             const int wrapped = metrics.boundingRect(most, Qt::TextWordWrap, text).height();
@@ -171,8 +171,8 @@ void RollList::MeasureLines() {
 QSize RollList::sizeHint() const {
     const int bar = verticalScrollBar()->sizeHint().width();
     const int frame = 2 * frameWidth();
-    const int width = std::clamp(widest_ + 2 * Pixels(LinePadding) + bar + frame,
-                                 Pixels(LeastListWidth), Pixels(MostListWidth));
+    const int width = std::clamp(widest_ + 2 * TextPixels(LinePadding) + bar + frame,
+                                 TextPixels(LeastListWidth), TextPixels(MostListWidth));
     return {width, LinesShown * std::max(1, sizeHintForRow(0)) + frame};
 }
 

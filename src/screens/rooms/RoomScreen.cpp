@@ -200,6 +200,10 @@ void RoomScreen::ConnectList() {
     Shared().History.OnChange(*this, [this] { list_->NoteRooms(); });
 }
 
+std::string_view RoomScreen::GuidePage() const {
+    return report_->isHidden() ? GuidePages::rooms : GuidePages::report;
+}
+
 void RoomScreen::OnUncover() {
     entry_->SetProject(Shared().Project.Now.Name); // another one, if it was saved as a new project
     ShowUnitsWarning();
@@ -358,7 +362,7 @@ StoreResult RoomScreen::StoreFields() {
 StoreResult RoomScreen::StoreShownRoom() {
     const StoreResult result = StoreFields();
     if (result.What == StoreResult::Outcome::OneSizeMissing) {
-        Shared().Boxes.Message(std::string(result.Message()));
+        SayWhyNotStored(result);
     }
     TellRefused(result);
     return result;
@@ -369,14 +373,14 @@ void RoomScreen::TellRefused(const StoreResult& result) {
         return;
     }
     ShowForm();
-    Shared().Boxes.Message(std::string(result.Message()));
+    SayWhyNotStored(result);
     if (result.What == StoreResult::Outcome::WrongSize) {
         entry_->Text(static_cast<int>(result.Wrong)).setFocus();
     }
 }
 
 /// The box keeps clear of the field that it is about, for that has the focus then.
-void RoomScreen::TellRefusal(const StoreResult& result) {
+void RoomScreen::SayWhyNotStored(const StoreResult& result) {
     const QPointer<QWidget> before = focusWidget();
     if (!result.Advice.empty()) {
         entry_->Text(static_cast<int>(result.Wrong)).setFocus();

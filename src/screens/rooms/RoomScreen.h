@@ -6,6 +6,7 @@
 #include <cstddef>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 
 class QPushButton;
@@ -70,6 +71,8 @@ class RoomScreen : public TitledScreen {
     StoreResult StoreFields();
     /// Store the fields as the room on the screen, or say why not and go to the field to correct.
     StoreResult StoreShownRoom();
+    /// Show the message of a result.
+    void SayWhyNotStored(const StoreResult& result);
     /// Say why the fields were not stored, and go to the field to correct, if that stops the user.
     void TellRefused(const StoreResult& result);
     /// StoreShownRoom, then `action`, unless a field is to be corrected.
@@ -128,7 +131,9 @@ class RoomScreen : public TitledScreen {
     RoomEntryFrame* entry_;
     ReportFrame* report_;
     std::unique_ptr<QObject> reading_; ///< while the report is shown
-    QWidget* below_ = nullptr; ///< holds BACK and SAVE
+    RoomListFrame* list_ = nullptr;
+    UndoMenu* undo_ = nullptr;
+    QWidget* below_ = nullptr; ///< holds the buttons that follow
     QPushButton* back_ = nullptr;
     QPushButton* save_ = nullptr;
     QPushButton* showList_ = nullptr; ///< shows the list, or the form again

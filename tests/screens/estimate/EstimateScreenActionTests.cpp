@@ -355,12 +355,12 @@ TEST_F(EstimateScreenActions, LetTabWalkFromTheButtonsToThePicture) {
     OpenEstimated();
     Focus(Button(Controls::openChoices));
     std::vector<std::string> order;
-    for (int i = 0; i < 8; ++i) {
+    for (int i = 0; i < 9; ++i) {
         order.push_back(FromQt(QApplication::focusWidget()->objectName()));
         Press(*form, Qt::Key_Tab);
     }
     EXPECT_THAT(order, ElementsAre(Controls::openChoices, Controls::improveFills,
-                                   Controls::pasteCuts, Controls::redrawLayout,
+                                   Controls::openOrder, Controls::pasteCuts, Controls::redrawLayout,
                                    Controls::printEstimate, Controls::saveFromEstimate,
                                    Controls::leaveEstimate, Controls::layoutPicture));
 }

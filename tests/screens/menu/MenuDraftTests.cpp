@@ -137,6 +137,29 @@ TEST_F(MenuDrafts, ThatCannotBeTakenBackAreNoStep) {
     EXPECT_FALSE(history.CanUndo());
 }
 
+TEST_F(MenuDrafts, OfAnOrderAloneSaySo) {
+    Draft draft;
+    draft.Orders.emplace()[1] = DefaultOrderRequest(Units::Imperial);
+    draft.Orders->at(1).Rolls = {{144, "", "12ft", std::nullopt}};
+    draft.Orders->at(1).PatternDrift = 0;
+    Leave(draft, 0);
+    Load();
+    EXPECT_EQ(CaptionOf(Button(Controls::takeBack)),
+              QStringLiteral("TAKE BACK ORDER OF 13 Mar 14:05"));
+    EXPECT_FALSE(Shows(Controls::notSaved));
+    Click(Button(Controls::takeBack));
+    EXPECT_EQ(open.Now.Orders, draft.Orders);
+    EXPECT_EQ(open.Now.Rooms.size(), 3U);
+    EXPECT_TRUE(Shows(Controls::notSaved));
+    EXPECT_FALSE(Shows(Controls::takeBack));
+    Leave(draft, 0);
+    LeaveDraft(7, -5);
+    open.Now.Orders.clear();
+    Load(MenuEntry::ExistingProject);
+    EXPECT_EQ(FromQt(Find<QMenu>(*menu, Controls::earlierRoomsMenu).actions().at(1)->text()),
+              "13 Mar 14:05, the choices of an order");
+}
+
 TEST_F(MenuDrafts, AreTakenBackByTheirKey) {
     LeaveDraft(7, 0);
     Load();

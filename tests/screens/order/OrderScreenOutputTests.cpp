@@ -34,7 +34,9 @@ struct OrderScreenOutput : OrderScreenTest {
 TEST_F(OrderScreenOutput, PrintsTheSheetOfTheBestRow) {
     OpenQuick();
     Click(Button(Controls::printOrder));
+    AwaitPrinter();
     Press(*form, Qt::Key_P, Qt::ControlModifier);
+    AwaitPrinter();
     ASSERT_EQ(printer.Orders.size(), 2U);
     const OrderDocument& document = printer.Orders[1];
     EXPECT_EQ(document.Of.Name, "MAPLE STREET 9");
@@ -63,6 +65,7 @@ TEST_F(OrderScreenOutput, TellsWhyItCouldNotBePrinted) {
     OpenQuick();
     printer.Failure = "out of paper";
     Click(Button(Controls::printOrder));
+    AwaitPrinter();
     ASSERT_EQ(boxes.Messages.size(), 1U);
     EXPECT_EQ(boxes.Messages[0], PrinterNotReadyMessage);
     EXPECT_THAT(boxes.Informative[0], StartsWith("out of paper"));
@@ -73,8 +76,9 @@ TEST_F(OrderScreenOutput, TellsWhyItCouldNotBePrinted) {
 TEST_F(OrderScreenOutput, EndsTheComparisonThatIsBeingMadeFirst) {
     OpenEndless();
     Click(Button(Controls::printOrder));
-    WaitUntil([this] { return !printer.Orders.empty(); });
+    WaitUntil([this] { return printing.IsPrinting(); });
     EXPECT_EQ(State(), "Stopped: the best so far.");
+    AwaitPrinter();
     EXPECT_EQ(printer.Orders.size(), 1U);
     const OrderFigures& printed = *printer.Orders[0].Orders[0].Candidates[0].Figures;
     EXPECT_EQ(printed.Length, 1215) << "what stands on the screen";

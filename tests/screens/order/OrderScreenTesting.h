@@ -139,6 +139,7 @@ struct OrderScreenTest : ScreenTest {
     /// Type into a cell of the rolls and end it with Enter.
     void FillRoll(int row, int column, const std::string& text) {
         QTest::keyClick(&TypeRoll(row, column, text), Qt::Key_Return);
+        QCoreApplication::processEvents(); // the field is left by the event loop
     }
 
     std::unique_ptr<OrderScreen> form;

@@ -172,6 +172,7 @@ TEST_F(OrderScreens, TakeTheRowThatIsChosen) {
     EXPECT_THAT(LabelText(Controls::comparisonTaken), StartsWith("Chosen: "));
     EXPECT_NE(ListedLines(), listed);
     Click(Button(Controls::printOrder));
+    AwaitPrinter();
     ASSERT_EQ(printer.Orders.size(), 1U);
     EXPECT_EQ(printer.Orders[0].Orders[0].Best, static_cast<std::size_t>(other));
     Table().setCurrentCell(2, 1);

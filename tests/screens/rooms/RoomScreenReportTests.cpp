@@ -201,7 +201,7 @@ TEST_F(ReportOfRooms, StaysOpenWhateverFailsWhileItIsPrinted) {
         void PrintReport(const EnteredDataReport& /*report*/) override { RaiseSubscript(); }
     } broken;
     PrintQueue queue(broken, page, boxes);
-    Session other{open, store, page, boxes, queue, screens, drafts, kept, session.Today};
+    Session other{open, store, page, boxes, queue, screens, drafts, kept, history, session.Today};
     AddRooms(1);
     form = std::make_unique<RoomScreen>(other);
     ShowOnDisplay(*form);
