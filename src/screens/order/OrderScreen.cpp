@@ -60,7 +60,14 @@ OrderScreen::OrderScreen(Session& session, std::optional<Byte> carpet)
     Begin(carpet);
 }
 
-OrderScreen::~OrderScreen() = default;
+/// The fields tell of themselves once more when they lose the focus as they go, and nobody listens
+/// then.
+OrderScreen::~OrderScreen() {
+    choices_->OnChange = [] {};
+    choices_->OnSettled = [] {};
+    choices_->OnEnter = [] {};
+    choices_->OnCarpet = [] {};
+}
 
 void OrderScreen::Build() {
     auto* rows = new QVBoxLayout(&Body());
