@@ -2,6 +2,7 @@
 
 #include "screens/Display.h"
 #include "screens/Guard.h"
+#include "screens/projects/RoomsAsProject.h"
 #include "store/Backups.h"
 #include "store/Configuration.h"
 #include "store/FirstStart.h"
@@ -75,7 +76,12 @@ void Program::Show(const QLocale& locale) {
     project_.Now.Directory = MonthDirectoryName(session_.Today(), locale);
     screens_.ShowProjects();
     // A print server that is slow to answer must not keep the first screen from being drawn.
-    window_.AfterFirstPaint([this] { printing_.ReadPage(); });
+    window_.AfterFirstPaint([this] {
+        printing_.ReadPage();
+        if (rooms_) {
+            MakeProjectOf(*rooms_, session_);
+        }
+    });
     window_.show();
 }
 

@@ -4,6 +4,7 @@
 #include "screens/Dialogs.h"
 #include "screens/Preferences.h"
 #include "screens/ProgramScreens.h"
+#include "screens/RoomSource.h"
 #include "screens/Session.h"
 #include "store/DataFolder.h"
 
@@ -11,6 +12,8 @@
 
 #include <filesystem>
 #include <functional>
+#include <optional>
+#include <utility>
 #include <vector>
 
 namespace tarn {
@@ -24,6 +27,10 @@ class Program {
     ~Program();
     Program(const Program&) = delete;
     Program& operator=(const Program&) = delete;
+
+    /// Offer, once the first screen is there, to make a project of these rooms. To be called before
+    /// Start.
+    void OfferRooms(RoomSource rooms) { rooms_ = std::move(rooms); }
 
     /// Refuse a display that is too small, find the data folder, open the store, show the project
     /// selection in the directory of the month and, once it is painted, read the printer's page.
@@ -48,6 +55,7 @@ class Program {
     /// made.
     void BackUp();
 
+    std::optional<RoomSource> rooms_; ///< to make a project of
     OpenProject project_;
     ProjectStore store_;
     DataFolder folder_;

@@ -111,6 +111,20 @@ class ProgramTest : public ::testing::Test {
     Program program_{boxes_, printer_};
 };
 
+TEST_F(ProgramTest, MakesAProjectOfRoomsThatItIsStartedWith) {
+    Room room;
+    room.Width = 120;
+    room.Length = 96;
+    program_.OfferRooms({"house.csv", "house", [&](Units) { return std::vector{room}; }});
+    boxes_.Choices = {"Feet and inches"};
+    boxes_.Inputs = {"HOUSE"};
+    ASSERT_TRUE(Start());
+    EXPECT_TRUE(QTest::qWaitFor([this] { return Front() == Controls::menuScreen; }));
+    EXPECT_EQ(program_.Project().Now.Name, "HOUSE");
+    EXPECT_EQ(program_.Project().Now.Directory, "MARCH");
+    EXPECT_EQ(program_.Project().Now.Rooms, std::vector{room});
+}
+
 TEST_F(ProgramTest, RefusesADisplayThatIsTooSmall) {
     EXPECT_FALSE(Start({799, 600}));
     EXPECT_FALSE(Start({800, 599}));
