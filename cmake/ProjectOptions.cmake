@@ -8,6 +8,11 @@ target_compile_options(tarn_options INTERFACE -ffp-contract=off)
 target_compile_definitions(tarn_options INTERFACE QT_NO_KEYWORDS QT_NO_CAST_FROM_ASCII
                                                   QT_NO_CAST_TO_ASCII)
 
+if(TARN_PACKAGE)
+  # Wherever it is built, the same comes out.
+  target_compile_options(tarn_options INTERFACE -ffile-prefix-map=${PROJECT_SOURCE_DIR}=.)
+endif()
+
 if(TARN_SANITIZE)
   target_compile_options(
     tarn_options INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all

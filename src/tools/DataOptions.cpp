@@ -1,12 +1,12 @@
 #include "tools/DataOptions.h"
 
-#include "base/Version.h"
 #include "store/Configuration.h"
 #include "store/DataFolder.h"
 #include "store/Names.h"
 #include "tools/CareCommands.h"
 #include "tools/DataCommands.h"
 #include "tools/Files.h"
+#include "tools/ProgramVersion.h"
 #include "tools/ToolMain.h"
 
 #include <CLI/CLI.hpp>
@@ -33,47 +33,35 @@ std::string Footer() {
            "  tarn-data import --database ~/estimates/DATA/Tarn.mdb --project \"SMITH\" house.csv";
 }
 
-/// What the arguments of any command give; each command uses its own part.
-struct Arguments {
-    std::string Folder;
-    std::string ConfigDirectory;
-    std::string Output = StandardOutput;
-    std::string Target;
-    Overwrite Over = Overwrite::Files;
-    ImportRequest Project;
-};
-
-using Command = std::function<void()>;
-
-void AddDatabase(CLI::App& command, Arguments& arguments) {
+void AddDatabase(CLI::App& command, DataOptions& arguments) {
     command.add_option("--database", arguments.Project.Database, "Database file")
         ->required()
         ->type_name("FILE");
 }
 
-void AddProject(CLI::App& command, Arguments& arguments) {
+void AddProject(CLI::App& command, DataOptions& arguments) {
     AddDatabase(command, arguments);
     command.add_option("--project", arguments.Project.Project, "Name of the project")
         ->required()
         ->type_name("NAME");
 }
 
-void AddMetric(CLI::App& command, Arguments& arguments) {
+void AddMetric(CLI::App& command, DataOptions& arguments) {
     command.add_flag_callback(
         "--metric", [units = &arguments.Project.In] { *units = Units::Metric; },
         "The sizes are centimetres");
 }
 
-CLI::App& AddCommand(CLI::App& app, const char* name, const char* text, Command& chosen,
-                     Command run) {
+CLI::App& AddCommand(CLI::App& app, const char* name, const char* text, DataOptions& arguments,
+                     std::function<void()> run) {
     CLI::App* command = app.add_subcommand(name, text);
-    command->callback([&chosen, run = std::move(run)] { chosen = run; });
+    command->callback([chosen = &arguments.Chosen, run = std::move(run)] { *chosen = run; });
     return *command;
 }
 
-void AddFileCommands(CLI::App& app, Arguments& arguments, Command& chosen) {
+void AddFileCommands(CLI::App& app, DataOptions& arguments) {
     auto& create = AddCommand(
-        app, "create", "Make a data folder with an empty database", chosen,
+        app, "create", "Make a data folder with an empty database", arguments,
         [arguments = &arguments] { CreateData(arguments->Folder, arguments->ConfigDirectory); });
     create
         .add_option("FOLDER", arguments.Folder,
@@ -85,16 +73,17 @@ void AddFileCommands(CLI::App& app, Arguments& arguments, Command& chosen) {
                     "Directory of the configuration file " + std::string(ConfigurationFileName))
         ->type_name("DIR");
 
-    auto& list = AddCommand(app, "list", "List directories, projects and rooms", chosen,
+    auto& list = AddCommand(app, "list", "List directories, projects and rooms", arguments,
                             [arguments = &arguments] { ListData(arguments->Project.Database); });
     AddDatabase(list, arguments);
 }
 
-void AddCareCommands(CLI::App& app, Arguments& arguments, Command& chosen) {
+void AddCareCommands(CLI::App& app, DataOptions& arguments) {
     const auto* database = &arguments.Project.Database;
     const auto* target = &arguments.Target;
-    const auto add = [&](const char* name, const char* text, const Command& run) -> CLI::App& {
-        auto& command = AddCommand(app, name, text, chosen, run);
+    const auto add = [&](const char* name, const char* text,
+                         const std::function<void()>& run) -> CLI::App& {
+        auto& command = AddCommand(app, name, text, arguments, run);
         AddDatabase(command, arguments);
         return command;
     };
@@ -117,29 +106,30 @@ void AddCareCommands(CLI::App& app, Arguments& arguments, Command& chosen) {
         ->required();
 }
 
-void AddProjectCommands(CLI::App& app, Arguments& arguments, Command& chosen) {
-    auto& report = AddCommand(app, "report", "Print the entered-data report of a project", chosen,
-                              [project = &arguments.Project] {
+void AddProjectCommands(CLI::App& app, DataOptions& arguments) {
+    auto& report = AddCommand(app, "report", "Print the entered-data report of a project",
+                              arguments, [project = &arguments.Project] {
                                   ReportProject(project->Database, project->Project, project->In);
                               });
     AddProject(report, arguments);
     AddMetric(report, arguments);
 
-    auto& import = AddCommand(app, "import", "Make the rooms of a CSV file those of a project",
-                              chosen, [project = &arguments.Project] { ImportProject(*project); });
+    auto& import =
+        AddCommand(app, "import", "Make the rooms of a CSV file those of a project", arguments,
+                   [project = &arguments.Project] { ImportProject(*project); });
     AddProject(import, arguments);
     import.add_option("FILE.csv", arguments.Project.Rooms, "The rooms; see tarn-estimate --help")
         ->required();
     import
         .add_option("--directory", arguments.Project.Directory,
                     "Directory of a new project (default: the current month)")
-        ->type_name("DIR");
+        ->type_name("NAME");
     AddMetric(import, arguments);
     import.add_flag("--replace", arguments.Project.Replace,
                     "Replace the rooms that the project has");
 
     auto& exporting = AddCommand(
-        app, "export", "Write a project's rooms as CSV", chosen, [arguments = &arguments] {
+        app, "export", "Write a project's rooms as CSV", arguments, [arguments = &arguments] {
             ExportProject(arguments->Project.Database, arguments->Project.Project,
                           arguments->Output, arguments->Over);
         });
@@ -151,23 +141,28 @@ void AddProjectCommands(CLI::App& app, Arguments& arguments, Command& chosen) {
 
 } // namespace
 
-std::function<void()> ReadDataCommand(int argc, const char* const* argv, int& status) {
-    CLI::App app(Description, "tarn-data");
+void DescribeData(CLI::App& app, DataOptions& arguments) {
+    app.name("tarn-data");
+    app.description(Description);
     app.footer(Footer());
     app.set_version_flag("--version", VersionText(app.get_name()));
     app.require_subcommand(1);
-    const auto arguments = std::make_shared<Arguments>();
-    Command chosen;
-    AddFileCommands(app, *arguments, chosen);
-    AddCareCommands(app, *arguments, chosen);
-    AddProjectCommands(app, *arguments, chosen);
+    AddFileCommands(app, arguments);
+    AddCareCommands(app, arguments);
+    AddProjectCommands(app, arguments);
+}
+
+std::function<void()> ReadDataCommand(int argc, const char* const* argv, int& status) {
+    CLI::App app;
+    const auto arguments = std::make_shared<DataOptions>();
+    DescribeData(app, *arguments);
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& error) {
         status = ExplainArguments(app, error);
         return {};
     }
-    return [arguments, chosen] { chosen(); };
+    return [arguments] { arguments->Chosen(); };
 }
 
 } // namespace tarn

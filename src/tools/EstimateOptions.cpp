@@ -2,13 +2,13 @@
 
 #include "base/Format.h"
 #include "base/TakeNumber.h"
-#include "base/Version.h"
 #include "estimate/MinCuts.h"
 #include "estimate/RollWidth.h"
 #include "files/RoomCsv.h"
 #include "improve/ImproveThreads.h"
 #include "project/Project.h"
 #include "tools/Files.h"
+#include "tools/ProgramVersion.h"
 #include "tools/Refusal.h"
 #include "tools/SharedOptions.h"
 #include "tools/ToolMain.h"
@@ -95,7 +95,7 @@ void AddInput(CLI::App& app, EstimateOptions& options) {
                  "The sizes are centimetres; lists and totals are metric");
 }
 
-void AddChoices(CLI::App& app, EstimateOptions& options, std::string& lay) {
+void AddChoices(CLI::App& app, EstimateOptions& options) {
     app.add_option("--carpet", options.Carpet, "Number of the carpet, 1 to 8")
         ->required()
         ->check(CLI::Range(1, 8))
@@ -104,9 +104,11 @@ void AddChoices(CLI::App& app, EstimateOptions& options, std::string& lay) {
                    "Width of the roll: 12ft, 13.5ft, 12ft6in, 150in or 366cm")
         ->required()
         ->type_name("WIDTH");
-    app.add_option("--lay", lay, "down: room widths across the roll; cross: room lengths")
+    app.add_option_function<std::string>(
+           "--lay", [&options](const std::string& lay) { options.CrossLay = lay == "cross"; },
+           "down: room widths across the roll; cross: room lengths")
         ->check(CLI::IsMember({"down", "cross"}))
-        ->capture_default_str()
+        ->default_str("down")
         ->type_name("down|cross");
     app.add_option("--match", options.Match,
                    "Pattern repeat across x along, in inches (centimetres with --metric)")
@@ -185,17 +187,22 @@ void CheckTogether(EstimateOptions& options) {
 
 } // namespace
 
-std::optional<EstimateOptions> ReadEstimateOptions(int argc, const char* const* argv, int& status) {
-    CLI::App app(Description, "tarn-estimate");
+void DescribeEstimate(CLI::App& app, EstimateOptions& options) {
+    app.name("tarn-estimate");
+    app.description(Description);
     app.footer(Footer());
     app.set_version_flag("--version", VersionText(app.get_name()));
     app.get_formatter()->column_width(28);
-    EstimateOptions options;
-    std::string lay = "down";
     AddInput(app, options);
-    AddChoices(app, options, lay);
+    AddChoices(app, options);
     AddOutput(app, options);
     AddImprovement(app, options);
+}
+
+std::optional<EstimateOptions> ReadEstimateOptions(int argc, const char* const* argv, int& status) {
+    CLI::App app;
+    EstimateOptions options;
+    DescribeEstimate(app, options);
     try {
         app.parse(argc, argv);
         CheckTogether(options);
@@ -203,7 +210,6 @@ std::optional<EstimateOptions> ReadEstimateOptions(int argc, const char* const* 
         status = ExplainArguments(app, error);
         return std::nullopt;
     }
-    options.CrossLay = lay == "cross";
     return options;
 }
 

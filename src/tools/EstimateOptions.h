@@ -8,6 +8,10 @@
 #include <optional>
 #include <string>
 
+namespace CLI {
+class App;
+} // namespace CLI
+
 namespace tarn {
 
 /// What tarn-estimate is asked to do.
@@ -34,6 +38,9 @@ struct EstimateOptions {
     unsigned long long Seed = 1;
     std::size_t Threads = 0; ///< 0 = see ThreadsFor
 };
+
+/// Tell `app` all that tarn-estimate takes; parsing fills in `options`, which must outlive it.
+void DescribeEstimate(CLI::App& app, EstimateOptions& options);
 
 /// Read the arguments of tarn-estimate. When they ask for help or the version, or cannot be
 /// understood, prints that and gives nothing; `status` is then the exit status.

@@ -1,8 +1,8 @@
 #include "tools/OrderOptions.h"
 
-#include "base/Version.h"
 #include "project/OrderEntry.h"
 #include "tools/Files.h"
+#include "tools/ProgramVersion.h"
 #include "tools/Refusal.h"
 #include "tools/SharedOptions.h"
 #include "tools/ToolMain.h"
@@ -210,17 +210,23 @@ std::vector<Lay> LaysOf(const std::string& word) {
 
 } // namespace
 
-std::optional<OrderOptions> ReadOrderOptions(int argc, const char* const* argv, int& status) {
-    CLI::App app(Description, "tarn-order");
+void DescribeOrder(CLI::App& app, OrderOptions& options) {
+    app.name("tarn-order");
+    app.description(Description);
     app.footer(Footer);
     app.set_version_flag("--version", VersionText(app.get_name()));
     app.get_formatter()->column_width(28);
-    OrderOptions options;
     AddInput(app, options);
     AddRolls(app, options);
     AddCutting(app, options);
     AddSearch(app, options);
     AddOutput(app, options);
+}
+
+std::optional<OrderOptions> ReadOrderOptions(int argc, const char* const* argv, int& status) {
+    CLI::App app;
+    OrderOptions options;
+    DescribeOrder(app, options);
     try {
         app.parse(argc, argv);
         CheckTogether(options);

@@ -10,6 +10,10 @@
 #include <string>
 #include <vector>
 
+namespace CLI {
+class App;
+} // namespace CLI
+
 namespace tarn {
 
 /// What tarn-order is asked to do. Options that were not given are empty, so that those of the
@@ -47,6 +51,9 @@ struct OrderOptions {
     std::string Svg;
     Overwrite Over = Overwrite::Files;
 };
+
+/// Tell `app` all that tarn-order takes; parsing fills in `options`, which must outlive it.
+void DescribeOrder(CLI::App& app, OrderOptions& options);
 
 /// Read the arguments of tarn-order. When they ask for help or the version, or cannot be
 /// understood, prints that and gives nothing; `status` is then the exit status.

@@ -1,4 +1,3 @@
-#include "base/Version.h"
 #include "paper/SystemPrinter.h"
 #include "screens/Display.h"
 #include "screens/EndSignals.h"
@@ -7,36 +6,37 @@
 #include "screens/Theme.h"
 #include "store/Configuration.h"
 #include "tools/ExitStatus.h"
+#include "tools/ProgramOptions.h"
+#include "tools/ProgramVersion.h"
+#include "tools/ProjectFile.h"
 #include "tools/StandardStreams.h"
-#include "tools/ToolMain.h"
 
 #include <QApplication>
 #include <QScreen>
 
-#include <CLI/CLI.hpp>
-
 #include <exception>
+#include <filesystem>
 #include <iostream>
 
 namespace {
 
+tarn::RoomSource RoomsOfFile(const std::string& path) {
+    const std::filesystem::path file(path);
+    return {file.filename().string(), file.stem().string(),
+            [path](tarn::Units units) { return tarn::ReadRoomFile(path, units); }};
+}
+
 int Run(int argc, char* argv[]) {
-    CLI::App options{"Estimate how carpets are cut from the roll.", "tarn"};
-    std::string configDirectory;
-    options.set_version_flag("--version", tarn::VersionText("tarn"));
-    const CLI::Option* givenDirectory =
-        options
-            .add_option("--config-dir", configDirectory,
-                        "Directory of the configuration file TarnWin.INI")
-            ->type_name("DIR");
-    try {
-        options.parse(argc, argv);
-    } catch (const CLI::ParseError& error) {
-        return tarn::ExplainArguments(options, error);
+    int status = 0;
+    const auto options = tarn::ReadProgramOptions(argc, argv, status);
+    if (!options) {
+        return status;
     }
 
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("tarn"));
+    QApplication::setApplicationVersion(QString::fromStdString(tarn::FullVersion()));
+    QApplication::setDesktopFileName(QStringLiteral("tarn"));
     QApplication::setQuitOnLastWindowClosed(false);
     const tarn::EndSignals ending;
     const QScreen* display = QGuiApplication::primaryScreen();
@@ -50,9 +50,12 @@ int Run(int argc, char* argv[]) {
     tarn::Program program(boxes, printer);
     boxes.SetParent(&program.Window());
 
+    if (!options->Rooms.empty()) {
+        program.OfferRooms(RoomsOfFile(options->Rooms));
+    }
     auto directories = tarn::ConfigurationDirectories();
-    if (givenDirectory->count() > 0) { // also an empty one: no other place is looked at then
-        directories = {configDirectory};
+    if (options->ConfigDirectory) {
+        directories = {*options->ConfigDirectory};
     }
     if (!program.Start(directories, tarn::PhysicalSize(*display), &QDate::currentDate,
                        QLocale::system())) {

@@ -113,6 +113,18 @@ void CollectMembers(const QJsonValue& value, QSet<QString>& names) {
     }
 }
 
+/// Each of the names stands as code in the reference between two of its headings.
+void ExpectDescribed(const QSet<QString>& names, const char* from, const char* to) {
+    const QByteArray document = Document("docs/reference.md");
+    const auto begin = document.indexOf(from);
+    const auto end = document.indexOf(to);
+    ASSERT_TRUE(begin >= 0 && end > begin) << from << to;
+    const QByteArray part = document.mid(begin, end - begin);
+    for (const QString& name : names) {
+        EXPECT_TRUE(part.contains('`' + name.toUtf8() + '`')) << name.toStdString();
+    }
+}
+
 TEST_F(Documents, TheFilesOfOrdersAreDescribed) {
     const QByteArray line =
         "tarn-order --rooms samples/orders/two-rooms.csv --roll 12ft --steps 10";
@@ -128,11 +140,31 @@ TEST_F(Documents, TheFilesOfOrdersAreDescribed) {
         }
     }
     EXPECT_GT(names.size(), 50);
-    const QByteArray document = Document("docs/order.md");
-    const QByteArray files = document.mid(document.indexOf("\n## Files\n"));
-    for (const QString& name : names) {
-        EXPECT_TRUE(files.contains('`' + name.toUtf8() + '`')) << name.toStdString();
+    ExpectDescribed(names, "### Orders: JSON\n", "### Configuration");
+}
+
+TEST_F(Documents, TheFilesOfEstimatesAreDescribed) {
+    QSet<QString> names;
+    const ToolRun run = RunInCheckout("tarn-estimate --rooms samples/maple-street-9.csv --carpet 1 "
+                                      "--roll-width 12ft --improve-steps 10 --json -");
+    EXPECT_EQ(run.Status, 0);
+    CollectMembers(QJsonDocument::fromJson(run.Out).object(), names);
+    EXPECT_GT(names.size(), 30);
+    ExpectDescribed(names, "### Estimates: JSON\n", "### Orders: JSON\n");
+}
+
+TEST_F(Documents, TheColumnsOfRoomsAreDescribed) {
+    const ToolRun run = RunInCheckout(
+        "folder=$(mktemp -d) && XDG_CONFIG_HOME=$folder tarn-data create $folder/data >$folder/log "
+        "&& tarn-data import --database $folder/data/DATA/Tarn.mdb --project P "
+        "samples/maple-street-9.csv >$folder/log && tarn-data export --database "
+        "$folder/data/DATA/Tarn.mdb --project P; rm -r $folder");
+    QSet<QString> names;
+    for (const QByteArray& head : run.Out.split('\n').first().trimmed().split(',')) {
+        names.insert(QString::fromUtf8(head));
     }
+    EXPECT_EQ(names.size(), 6) << run.Out.toStdString();
+    ExpectDescribed(names, "### Rooms: CSV\n", "### Estimates: text\n");
 }
 
 TEST_F(Documents, TheExampleWorkedByHandIsWhatTheProgramPrints) {
