@@ -24,7 +24,7 @@ from Xlib.ext import xtest
 SUITE = "bookworm"
 MIRROR = "http://deb.debian.org/debian"
 USER = "kim"
-PATIENCE = 60  # seconds
+PATIENCE = 300  # seconds
 HERE = os.path.dirname(os.path.abspath(__file__))
 
 
