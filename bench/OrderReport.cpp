@@ -1,51 +1,22 @@
-// How far orders are above their bounds, and how soon the first comparison stands.
+// How far orders are above their bounds.
 //
 //   tarn_order_report [JOBS [SECONDS]]
 //
 // prints, for JOBS (200) random jobs of SECONDS (2) each, the average gap by the kind of pattern
-// and the number of rooms; and the time to the first complete comparison of four widths and both
-// lays.
+// and the number of rooms.
 
-#include "order/MakeOrder.h"
+#include "bench/OrderJobs.h"
 
-#include <chrono>
 #include <cstdlib>
 #include <iomanip>
 #include <iostream>
 #include <map>
 #include <random>
 #include <string>
-#include <sys/resource.h>
 
 namespace {
 
 using namespace tarn;
-using Clock = std::chrono::steady_clock;
-
-Long Between(std::mt19937& random, Long least, Long most) {
-    return least + static_cast<Long>(random() % static_cast<unsigned>(most - least + 1));
-}
-
-/// Rooms of 3 to 20 feet a side.
-Project RandomRooms(std::mt19937& random, int count) {
-    Project project;
-    for (int i = 0; i < count; ++i) {
-        Room room;
-        room.Width = static_cast<Integer>(Between(random, 36, 240));
-        room.Length = static_cast<Integer>(Between(random, 36, 240));
-        project.Rooms.push_back(room);
-    }
-    return project;
-}
-
-OrderRequest FourWidths() {
-    OrderRequest request = DefaultOrderRequest(Units::Imperial);
-    for (const Double width : {72, 144, 162, 180}) {
-        request.Rolls.push_back({width, "", "", std::nullopt});
-    }
-    request.Lays = {Lay::Down, Lay::Cross};
-    return request;
-}
 
 struct Kind {
     const char* Name;
@@ -73,47 +44,6 @@ void PrintGaps(const std::string& name, const Gaps& gaps) {
     std::cout << std::left << std::setw(40) << name << std::right << std::setw(6) << gaps.Rows
               << " rows  " << std::fixed << std::setprecision(2) << std::setw(6)
               << gaps.Percent / gaps.Rows << "%  least " << gaps.Least << std::endl;
-}
-
-/// Notes when the first complete comparison was there, and stops a little later.
-class FirstTable : public OrderObserver {
-  public:
-    bool Progress(const Order& soFar, bool /*changed*/) override {
-        bool all = true;
-        for (const OrderCandidate& row : soFar.Candidates) {
-            all = all && (row.Figures || !row.Refused.empty());
-        }
-        if (all) {
-            Seconds = std::chrono::duration<Double>(Clock::now() - begin_).count();
-        }
-        return !all;
-    }
-
-    Double Seconds = 0;
-
-  private:
-    Clock::time_point begin_ = Clock::now();
-};
-
-void MeasureFirstTables() {
-    for (const Kind& kind : {Kinds[0], Kinds[2]}) {
-        for (const int rooms : {10, 30, 100, 270, 500}) {
-            std::mt19937 random(static_cast<unsigned>(rooms));
-            const Project project = RandomRooms(random, rooms);
-            OrderRequest request = FourWidths();
-            request.Pattern = kind.Pattern;
-            request.MostParts = 4;
-            OrderLimits limits;
-            limits.Seconds = 60;
-            FirstTable first;
-            MakeOrder(project, 0, request, limits, first);
-            rusage usage{};
-            getrusage(RUSAGE_SELF, &usage);
-            std::cout << "first table of " << rooms << " rooms, pattern " << kind.Name << ": "
-                      << std::fixed << std::setprecision(3) << first.Seconds << " s, "
-                      << usage.ru_maxrss / 1024 << " MB so far" << std::endl;
-        }
-    }
 }
 
 void MeasureGaps(long jobs, Double seconds) {
@@ -159,7 +89,6 @@ int main(int argc, char** argv) {
     constexpr int Decimal = 10;
     const long jobs = argc > 1 ? std::strtol(argv[1], nullptr, Decimal) : 200;
     const Double seconds = argc > 2 ? std::strtod(argv[2], nullptr) : 2;
-    MeasureFirstTables();
     MeasureGaps(jobs, seconds);
     return 0;
 }

@@ -1,8 +1,10 @@
 // Measures the search beside the plain reference search of the tests, and the cost of a placement
-// by the number of parts; writes docs/performance.md and its plot.
+// by the number of parts, and how soon an order's first comparison stands; writes
+// docs/performance.md and its plot.
 
 #include "base/Format.h"
 #include "bench/CostPlot.h"
+#include "bench/FirstComparison.h"
 #include "bench/ReportPage.h"
 #include "engine/PiecePlacer.h"
 #include "engine/Search.h"
@@ -137,6 +139,7 @@ double Exponent(const std::vector<CostPoint>& costs) {
 }
 
 void Report(const std::string& docs) {
+    const std::string orders = FirstComparisonTable();
     const std::string ratios = RatioTable();
     std::vector<CostPoint> costs;
     for (const int parts : {50, 100, 200, 400, 800, 1600, 3000}) {
@@ -144,7 +147,8 @@ void Report(const std::string& docs) {
     }
     const double exponent = Exponent(costs);
     WritePage(docs, "performance",
-              {{"@RATIOS@\n", ratios},
+              {{"@ORDERS@\n", orders},
+               {"@RATIOS@\n", ratios},
                {"@COSTS@\n", CostTable(costs)},
                {"@EXPONENT@", Format(exponent, "0.00")}});
     WriteFile(docs + "/images/placement-cost.svg", CostPlot(costs, exponent));
