@@ -124,8 +124,11 @@ class WindowManager(Case):
 
     def open_sample(self):
         """Start the program and open a project."""
+        server = self.manage(os.environ["DISPLAY"])
         self.house.bring_in_samples()
         ui = self.start("--config-dir", self.house.config)
+        # Until the window has its frame its controls are not where they will be clicked on.
+        wait_for(lambda: self.outer_area(server, server.screen().root), "the window's frame")
         ui.press("SELECT PROJECT")
         ui.click_on(ui.item("DIRECTORIES", "SAMPLES"))
         wait_for(lambda: ui.items("PROJECTS"), "the projects")
@@ -134,7 +137,6 @@ class WindowManager(Case):
         return ui
 
     def test_quick_keys_reach_the_screen_in_their_order(self):
-        self.manage(os.environ["DISPLAY"])
         ui = self.open_sample()
         ui.press("ESTIMATE")
         ui.press("OK")
@@ -147,7 +149,6 @@ class WindowManager(Case):
         self.assertEqual(ui.drawn_text()[-len(expected) :], expected)
 
     def test_a_box_leaves_the_field_that_it_is_about_to_be_seen(self):
-        self.manage(os.environ["DISPLAY"])
         ui = self.open_sample()
         ui.press("ENTER/EDIT DATA")
         fields = [("ROOM   WIDTH", 0), ("INCHES", 0), ("ROOM LENGTH", 0), ("INCHES", 1)]
