@@ -3,6 +3,7 @@
 #include "files/QtText.h"
 
 #include <QAbstractButton>
+#include <QButtonGroup>
 #include <QEvent>
 #include <QLabel>
 #include <QPushButton>
@@ -103,6 +104,15 @@ void PressOnKeys(QAbstractButton& button, const QKeySequence& keys, QWidget& scr
 
 void IgnoreSecondClick(QAbstractButton& button) {
     button.installEventFilter(new SecondClickFilter(&button));
+}
+
+void KeepTabAtChosen(QButtonGroup& group) {
+    QObject::connect(&group, &QButtonGroup::idToggled, &group, [&group] {
+        for (QAbstractButton* option : group.buttons()) {
+            const bool takesTab = option->isChecked() || group.checkedButton() == nullptr;
+            option->setFocusPolicy(takesTab ? Qt::StrongFocus : Qt::ClickFocus);
+        }
+    });
 }
 
 QLabel* NewLabel(QWidget* parent, QAnyStringView name, std::string_view caption) {

@@ -9,6 +9,7 @@
 #include <string_view>
 
 class QAbstractButton;
+class QButtonGroup;
 class QKeySequence;
 class QLabel;
 class QPushButton;
@@ -36,6 +37,10 @@ QPushButton* NewButton(QWidget* parent, QAnyStringView name, std::string_view ca
 void PressOnKeys(QAbstractButton& button, const QKeySequence& keys, QWidget& screen);
 /// Have a double click on the button press it once.
 void IgnoreSecondClick(QAbstractButton& button);
+
+/// Have Tab come to the chosen option of a group from the first time on: the toolkit sees to it
+/// only once one of them has had the focus.
+void KeepTabAtChosen(QButtonGroup& group);
 
 QLabel* NewLabel(QWidget* parent, QAnyStringView name, std::string_view caption);
 

@@ -206,6 +206,9 @@ void ChoicePanel::SetTabOrder() {
 }
 
 void ChoicePanel::Connect() {
+    for (QButtonGroup* group : {&carpets_, &widths_, &lays_}) {
+        KeepTabAtChosen(*group);
+    }
     for (QButtonGroup* group : {&carpets_, &widths_}) {
         const auto clicked = [this, group] {
             Guarded(boxes_, ChoiceFailure, [&] { OptionClicked(*group); });

@@ -83,6 +83,7 @@ void OptionsScreen::BuildMinCuts(QWidget& frame) {
     AddHeading(*layout, frame, Controls::minCutHeading, "MINIMUM CUT LENGTH",
                Controls::minCutSelect);
     auto* group = new QButtonGroup(&frame);
+    KeepTabAtChosen(*group);
     for (std::size_t i = 0; i < minCuts_.size(); ++i) {
         const MinCut minCut = AllMinCuts[i];
         auto* option = new QRadioButton(&frame);
@@ -103,6 +104,7 @@ void OptionsScreen::BuildPieces(QWidget& frame) {
     AddHeading(*layout, frame, Controls::piecesHeading, "MAXIMUM NUMBER OF PIECES PER FILL",
                Controls::piecesSelect);
     auto* group = new QButtonGroup(&frame);
+    KeepTabAtChosen(*group);
     auto* grid = new QGridLayout;
     constexpr int Rows = 3;
     for (std::size_t i = 0; i < pieces_.size(); ++i) {

@@ -280,6 +280,16 @@ TEST_F(ChoicePanels, LetTabWalkThroughThemInOrder) {
                             Controls::cancelChoices));
 }
 
+TEST_F(ChoicePanels, LetTabComeToThePresetWidthAndLayFromTheFirstTimeOn) {
+    Open({{10, 10, 0}});
+    EXPECT_TRUE(Option(Controls::carpets[0]).hasFocus());
+    Press(*form, Qt::Key_Tab);
+    EXPECT_TRUE(Option(Controls::standardWidths[DefaultWidth]).hasFocus());
+    EXPECT_TRUE(Option(Controls::standardWidths[DefaultWidth]).isChecked());
+    Press(*form, Qt::Key_Tab);
+    EXPECT_TRUE(Option(Controls::downLay).hasFocus());
+}
+
 TEST_F(ChoicePanels, ShareNoNameAndNoMnemonicWithTheRestOfTheScreen) {
     for (const Units units : BothUnits) {
         open.Shown = units;
