@@ -13,6 +13,7 @@ struct Piece {
     Single Y2 = 0;
     Integer Number = 0;      ///< at its creation; parts keep that of their piece
     bool IsDivisible = true; ///< the search may divide it along the roll
+    Integer Room = 0;        ///< of which it is, as Number; the search does not look at it
 
     bool operator==(const Piece&) const = default;
 };

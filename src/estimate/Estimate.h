@@ -28,8 +28,6 @@ struct Estimate {
     std::string ProjectName;
     EstimateRequest Request;
     std::vector<Cut> Cuts;
-    std::vector<std::size_t> CutRooms; ///< see RoomCuts
-    std::vector<std::size_t> FillRooms;
     SearchJob Job;                       ///< the fills as they were cut, and how they were searched
     SearchResult Fills;                  ///< where they lie; empty without a fill
     Single Base = 0;                     ///< wall base of all rooms, in the rooms' small unit

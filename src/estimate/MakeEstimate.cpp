@@ -14,8 +14,6 @@ Estimate MakeEstimate(const Project& project, const EstimateRequest& request,
     estimate.ProjectName = project.Name;
     estimate.Request = request;
     estimate.Cuts = std::move(cut.Cuts);
-    estimate.CutRooms = std::move(cut.CutRooms);
-    estimate.FillRooms = std::move(cut.FillRooms);
     estimate.Base = TotalBase(project);
     estimate.Tiles = TileFloors(project, request.In);
     SearchJob& job = estimate.Job;

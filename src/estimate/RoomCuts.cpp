@@ -20,24 +20,24 @@ Cut AsCut(const Strip& strip, Lay lay) {
                             : Cut{strip.Begin, strip.End, strip.Left, strip.Right};
 }
 
-void AppendCut(RoomCuts& cuts, const Cut& cut, std::size_t room) {
+void AppendCut(RoomCuts& cuts, Cut cut, Integer room) {
     if (cuts.Cuts.size() == MaxCuts) {
         RaiseSubscript("There are more than " + TrimStr(static_cast<Long>(MaxCuts)) +
                        " cuts: choose a wider roll or estimate the rooms in two projects.");
     }
+    cut.Room = room;
     cuts.Cuts.push_back(cut);
-    cuts.CutRooms.push_back(room);
 }
 
-void AppendFill(RoomCuts& cuts, const Cut& edges, std::size_t room) {
+void AppendFill(RoomCuts& cuts, const Cut& edges, Integer room) {
     Piece fill;
     fill.X1 = edges.X1;
     fill.X2 = edges.X2;
     fill.Y1 = edges.Y1;
     fill.Y2 = edges.Y2;
     fill.Number = ToInteger(static_cast<long long>(cuts.Fills.size()));
+    fill.Room = room;
     cuts.Fills.push_back(fill);
-    cuts.FillRooms.push_back(room);
 }
 
 /// Whether length `a` is at least `b` (inches), or the same length.
@@ -45,8 +45,8 @@ bool IsAtLeast(Double a, Double b) {
     return IsWithinTolerance(CSng(b - a));
 }
 
-void CutRoom(RoomCuts& cuts, std::size_t number, const RoomExtent& room,
-             const EstimateRequest& request, Double scale) {
+void CutRoom(RoomCuts& cuts, Integer number, const RoomExtent& room, const EstimateRequest& request,
+             Double scale) {
     const Lay lay = request.Direction;
     const auto rollWidth = static_cast<Double>(request.RollWidth);
     const Single across = lay == Lay::Down ? room.X : room.Y;
@@ -74,7 +74,8 @@ RoomCuts CutAcrossRoll(const Project& project, const EstimateRequest& request) {
         const Room& room = project.Rooms[i];
         const bool hasArea = room.Width > 0 && room.Length > 0;
         if (hasArea && room.Covering == request.Carpet) {
-            CutRoom(cuts, i, ExtentOf(room, request.In, project.Scale), request, project.Scale);
+            CutRoom(cuts, ToInteger(static_cast<long long>(i)),
+                    ExtentOf(room, request.In, project.Scale), request, project.Scale);
         }
     }
     return cuts;

@@ -17,6 +17,7 @@ struct Cut {
     Single X2 = 0;
     Single Y1 = 0;
     Single Y2 = 0;
+    Integer Room = 0; ///< of which it is: its place in the project, from 0
 
     bool operator==(const Cut&) const = default;
 };
@@ -24,9 +25,7 @@ struct Cut {
 /// The rooms of a carpet cut across the roll, before any fill has its place.
 struct RoomCuts {
     std::vector<Cut> Cuts;
-    std::vector<Piece> Fills;           ///< the leftover strips, numbered in their order
-    std::vector<std::size_t> CutRooms;  ///< the room of each cut, its place in the project from 0
-    std::vector<std::size_t> FillRooms; ///< the same of each fill, by its number
+    std::vector<Piece> Fills; ///< the leftover strips, numbered in their order
 
     bool operator==(const RoomCuts&) const = default;
 };

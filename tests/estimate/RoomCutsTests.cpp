@@ -18,6 +18,7 @@ using testing::BothUnits;
 using testing::EdgesOf;
 using ::testing::ElementsAre;
 using testing::ErrorOf;
+using ::testing::Field;
 using ::testing::IsEmpty;
 using testing::MetricRequest;
 using testing::ProjectOf;
@@ -119,7 +120,7 @@ TEST(CutAcrossRoll, NoRoomGivesNothing) {
 TEST(CutAcrossRoll, RoomsOfOtherCarpetsAndTilesAreIgnored) {
     const Rooms rooms{{150, 100, 0}, {200, 110, 2}, {150, 100, 7}, {150, 100, 8}, {150, 9, 11}};
     const RoomCuts cut = CutRooms(rooms, WithCarpet(Request(144), 2));
-    EXPECT_THAT(cut.Cuts, ElementsAre(Cut{0, 14400, 0, 11000}));
+    EXPECT_THAT(cut.Cuts, ElementsAre(Cut{0, 14400, 0, 11000, 1}));
     EXPECT_THAT(EdgesOf(cut.Fills), ElementsAre(Cut{14400, 20000, 0, 11000}));
     EXPECT_EQ(CutRooms(rooms, WithCarpet(Request(144), 1)), RoomCuts());
 }
@@ -256,11 +257,15 @@ TEST(RoomCuts, KnowWhichRoomTheyAreOf) {
                           AcrossAlong(lay, 100, 80),
                           AcrossAlong(lay, 144, 60)};
         const RoomCuts cut = CutRooms(rooms, Request(144, lay));
-        EXPECT_EQ(cut.CutRooms, (std::vector<std::size_t>{0, 0, 4}));
-        EXPECT_EQ(cut.FillRooms, (std::vector<std::size_t>{0, 3}));
+        EXPECT_THAT(cut.Cuts,
+                    ElementsAre(Field(&Cut::Room, 0), Field(&Cut::Room, 0), Field(&Cut::Room, 4)));
+        EXPECT_THAT(cut.Fills, ElementsAre(Field(&Piece::Room, 0), Field(&Piece::Room, 3)));
         const Estimate estimate = Estimated(rooms, Request(144, lay));
-        EXPECT_EQ(estimate.CutRooms, cut.CutRooms);
-        EXPECT_EQ(estimate.FillRooms, cut.FillRooms);
+        EXPECT_EQ(estimate.Cuts, cut.Cuts);
+        for (const Placed& placed : estimate.Fills.Layout) {
+            EXPECT_EQ(placed.Part.Room, placed.Part.Number == 0 ? 0 : 3);
+        }
+        EXPECT_EQ(estimate.Fills.Layout.size(), 2U);
     }
 }
 

@@ -118,7 +118,7 @@ class EstimateCharter {
         piece.Label = CutLabel(number);
         piece.Size = SizeOf(estimate_, estimate_.Cuts[number]);
         Add(std::move(piece), SizeOnRollOf(estimate_, estimate_.Cuts[number]), 0,
-            places_.Cuts[number], RoomAt(estimate_.CutRooms, number));
+            places_.Cuts[number], estimate_.Cuts[number].Room);
     }
 
     void AddFill(const Placed& placed) {
@@ -126,15 +126,11 @@ class EstimateCharter {
         piece.Label = LabelOf(estimate_, placed.Part);
         piece.Size = SizeOf(estimate_, placed.Part);
         Add(std::move(piece), SizeOnRollOf(estimate_, placed.Part), static_cast<Double>(placed.X),
-            places_.Fills + static_cast<Double>(placed.Y),
-            RoomAt(estimate_.FillRooms, static_cast<std::size_t>(placed.Part.Number)));
+            places_.Fills + static_cast<Double>(placed.Y), placed.Part.Room);
     }
 
-    static std::size_t RoomAt(const std::vector<std::size_t>& rooms, std::size_t number) {
-        return number < rooms.size() ? rooms[number] : 0;
-    }
-
-    void Add(ChartPiece piece, const SizeOnRoll& size, Double x, Double y, std::size_t room) {
+    void Add(ChartPiece piece, const SizeOnRoll& size, Double x, Double y, Integer ofRoom) {
+        const auto room = static_cast<std::size_t>(ofRoom);
         piece.Room = RoomOnPiece(project_, room);
         piece.X = InUnit(x);
         piece.Y = InUnit(y);
@@ -165,10 +161,13 @@ class EstimateCharter {
     std::vector<std::size_t> rooms_; ///< of the pieces
 };
 
-/// A piece of an order in one line.
-std::string LineText(const CutLine& line) {
-    std::string text = line.Label + ": " + line.Size + "  " + line.Room + "  from " + line.From +
-                       " to " + line.To + ", across " + line.Across;
+/// A piece of an order in one line. Most pieces begin at the edge: that is not said.
+std::string LineText(const CutLine& line, bool isAtEdge) {
+    std::string text =
+        line.Label + ": " + line.Size + "  " + line.Room + "  " + line.From + " to " + line.To;
+    if (!isAtEdge) {
+        text += ", across " + line.Across;
+    }
     for (const std::string& more : {line.Which, line.Match}) {
         if (!more.empty()) {
             text += ", " + more;
@@ -213,7 +212,7 @@ RollChart ChartOf(const Order& order, std::size_t candidate, const Project& proj
         piece.Length = from.Length;
         piece.Description = Described(piece, spoken(from.Width), spoken(from.Length),
                                       spoken(from.Y), spoken(from.Y + from.Length));
-        chart.Lines.push_back({LineText(lines[i]), i});
+        chart.Lines.push_back({LineText(lines[i], from.X == 0), i});
         chart.Pieces.push_back(std::move(piece));
         rooms.push_back(room);
     }
