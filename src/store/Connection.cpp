@@ -2,6 +2,7 @@
 
 #include "files/QtText.h"
 #include "store/DatabaseError.h"
+#include "store/Remedies.h"
 
 #include <QFileInfo>
 #include <QSqlDatabase>
@@ -73,7 +74,7 @@ std::string Cause(const QSqlError& error) {
         return "the disk reports an error (" + text + ").";
     case Corrupt:
     case NotADatabase:
-        return "the database file is damaged (" + text + "). Put a backup in its place.";
+        return "the database file is damaged (" + text + "). " + DamageAdvice;
     default:
         return text + ".";
     }

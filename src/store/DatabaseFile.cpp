@@ -4,6 +4,7 @@
 #include "store/Configuration.h"
 #include "store/DatabaseError.h"
 #include "store/Journal.h"
+#include "store/Remedies.h"
 
 #include <QDir>
 #include <QFile>
@@ -66,7 +67,7 @@ void RequireDatabaseFile(const std::string& path) {
     }
     const QByteArray head = file.read(DatabaseHeadSize);
     if (head.isEmpty()) {
-        Refuse(path, "is empty. Put a backup in its place.");
+        Refuse(path, std::string("is empty. ") + RestoreAdvice);
     }
     const DatabaseFormat format = DatabaseFormatOf(head);
     if (format == DatabaseFormat::Jet) {
@@ -75,7 +76,7 @@ void RequireDatabaseFile(const std::string& path) {
     }
     if (format == DatabaseFormat::None) {
         Refuse(path, "is not a database of this program. " + CorrectThePath() +
-                         ", or put a backup in its place.");
+                         ", or put a backup in its place with \"tarn-data restore\".");
     }
 }
 
@@ -119,8 +120,8 @@ std::optional<std::string> DamageOf(Connection& connection, const std::string& p
 
 void RequireSound(Connection& connection, const std::string& path) {
     if (const auto damage = DamageOf(connection, path)) {
-        throw DatabaseError("The database file " + path + " is damaged (" + *damage +
-                            "). Put a backup in its place.");
+        throw DatabaseError("The database file " + path + " is damaged (" + *damage + "). " +
+                            DamageAdvice);
     }
 }
 

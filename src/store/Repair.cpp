@@ -9,6 +9,7 @@
 #include "store/Findings.h"
 #include "store/OrderRows.h"
 #include "store/RawRows.h"
+#include "store/Remedies.h"
 #include "store/RepairedData.h"
 #include "store/Schema.h"
 #include "store/UntouchedFile.h"
@@ -137,8 +138,8 @@ class Source {
     /// Raise DatabaseError when not one table could be read.
     void RequireSomething() const {
         if (tablesRead_ == 0) {
-            throw DatabaseError("Nothing can be read of the database file " + path_ +
-                                ". Put a backup in its place.");
+            throw DatabaseError("Nothing can be read of the database file " + path_ + ". " +
+                                RestoreAdvice);
         }
     }
     /// Tell what another program put into the file: it is not taken over.

@@ -92,12 +92,13 @@ INSTANTIATE_TEST_SUITE_P(
                     fs::create_symlink("/dev/zero", path);
                 },
                 "is a pipe, a device or a socket."},
-        BadFile{"Empty", [](const std::string& path) { WriteFile(path, ""); }, "is empty"},
+        BadFile{"Empty", [](const std::string& path) { WriteFile(path, ""); },
+                "is empty. Put a backup in its place with \"tarn-data restore\"."},
         BadFile{"OneByte", [](const std::string& path) { WriteFile(path, "S"); },
                 "is not a database"},
         BadFile{"Foreign", [](const std::string& path) { WriteFile(path, std::string(5000, 'x')); },
                 "is not a database of this program. Correct its path or the data folder in "
-                "TarnWin.INI, or put a backup in its place."},
+                "TarnWin.INI, or put a backup in its place with \"tarn-data restore\"."},
         BadFile{"OlderJet",
                 [](const std::string& path) {
                     WriteFile(path, std::string("\0\1\0\0Standard Jet DB\0", 20) +
@@ -110,13 +111,15 @@ INSTANTIATE_TEST_SUITE_P(
                                         std::string(4076, '\0'));
                 },
                 "older Jet format"},
-        BadFile{"DamagedInTheMiddle",
-                [](const std::string& path) {
-                    std::string bytes = ReadFile(path);
-                    std::fill(bytes.begin() + 5000, bytes.begin() + 12000, 'x');
-                    WriteFile(path, bytes);
-                },
-                "damaged"}),
+        BadFile{
+            "DamagedInTheMiddle",
+            [](const std::string& path) {
+                std::string bytes = ReadFile(path);
+                std::fill(bytes.begin() + 5000, bytes.begin() + 12000, 'x');
+                WriteFile(path, bytes);
+            },
+            "). Put a backup in its place with \"tarn-data restore\", or save what can still be "
+            "read of it with \"tarn-data repair\"."}),
     [](const auto& bad) { return bad.param.Name; });
 
 TEST(OpeningADatabase, RefusesAFileThatIsCutShortAnywhere) {

@@ -363,9 +363,9 @@ TEST_F(ARepair, RefusesAFileOfWhichNothingCanBeRead) {
     std::string bytes = ReadFile(file_.Path());
     std::fill(bytes.begin() + 100, bytes.end(), 'x');
     WriteFile(file_.Path(), bytes);
-    EXPECT_EQ(DatabaseErrorOf([this] { Repair(); }), "Nothing can be read of the database file " +
-                                                         file_.Path() +
-                                                         ". Put a backup in its place.");
+    EXPECT_EQ(DatabaseErrorOf([this] { Repair(); }),
+              "Nothing can be read of the database file " + file_.Path() +
+                  ". Put a backup in its place with \"tarn-data restore\".");
     EXPECT_EQ(target_.Content(), Lines{});
     WriteFile(file_.Path(), "no database");
     EXPECT_THROW(Repair(), DatabaseError);
