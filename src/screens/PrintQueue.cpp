@@ -43,6 +43,19 @@ struct Handing {
     }
 };
 
+/// What became of the jobs behind one that failed.
+std::string GivenUpText(std::size_t jobs) {
+    switch (jobs) {
+    case 0:
+        return {};
+    case 1:
+        return "One more job that waited behind it was not printed either.";
+    default:
+        return TrimStr(static_cast<long long>(jobs)) +
+               " more jobs that waited behind it were not printed either.";
+    }
+}
+
 /// The way out that needs no printer.
 std::string SaveInstead(const PrintJob& job, bool isShown) {
     std::string caption(SaveAsPdfCaption);
@@ -124,14 +137,14 @@ void PrintQueue::Run(Printer& printer, Outcome& outcome) {
     }
 }
 
-void PrintQueue::TakeOutcome(const Outcome& outcome) {
+void PrintQueue::TakeOutcome(Outcome outcome) {
     const Use use = std::move(uses_.front());
     uses_.pop_front();
     page_ = outcome.Page;
     if (outcome.Trouble) {
         std::cerr << "tarn: " << outcome.Trouble->what() << '\n';
         if (ending_) {
-            uses_.clear();
+            outcome.GivenUp = GiveUpRest();
         }
     }
     if (!uses_.empty()) {
@@ -146,9 +159,17 @@ void PrintQueue::TakeOutcome(const Outcome& outcome) {
     }
 }
 
+/// Answers how many jobs that were.
+std::size_t PrintQueue::GiveUpRest() {
+    const auto jobs = std::count_if(uses_.begin(), uses_.end(),
+                                    [](const Use& use) { return use.Job.has_value(); });
+    uses_.clear();
+    return static_cast<std::size_t>(jobs);
+}
+
 void PrintQueue::Tell(const Use& use, const Outcome& outcome) {
     if (outcome.Trouble) {
-        TellTrouble(use, *outcome.Trouble);
+        TellTrouble(use, outcome);
         return;
     }
     if (use.Printed && use.Shown) {
@@ -159,9 +180,11 @@ void PrintQueue::Tell(const Use& use, const Outcome& outcome) {
     }
 }
 
-void PrintQueue::TellTrouble(const Use& use, const PrinterError& trouble) {
-    std::string text = trouble.what();
-    for (const std::string& line : {trouble.Advice(), SaveInstead(*use.Job, !use.Shown.isNull())}) {
+void PrintQueue::TellTrouble(const Use& use, const Outcome& outcome) {
+    std::string text = outcome.Trouble->what();
+    for (const std::string& line :
+         {outcome.Trouble->Advice(), SaveInstead(*use.Job, !use.Shown.isNull()),
+          GivenUpText(outcome.GivenUp)}) {
         text += line.empty() ? line : std::string(CrLf) + line;
     }
     boxes_.Message(PrinterNotReadyMessage, text);

@@ -10,6 +10,7 @@
 #include <QObject>
 #include <QPointer>
 
+#include <cstddef>
 #include <deque>
 #include <functional>
 #include <optional>
@@ -66,7 +67,7 @@ class PrintQueue {
     /// Have `told` called whenever that changes; it must raise nothing.
     void OnPrinting(std::function<void()> told) { told_ = std::move(told); }
     /// Wait until everything is printed, as long as the printing system may take for it, or until
-    /// one fails, which is told. What is behind that is given up.
+    /// one fails, which is told, with how many behind it are given up.
     void Finish();
 
   private:
@@ -81,14 +82,16 @@ class PrintQueue {
         std::optional<PrintJob> Job;         ///< as it was printed
         PageTwips Page;                      ///< as far as it is known now
         std::optional<PrinterError> Trouble; ///< why it failed, if it did
+        std::size_t GivenUp = 0;             ///< jobs behind it that are not printed either
     };
 
     static void Run(Printer& printer, Outcome& outcome);
     void Add(Use use);
     void StartNext();
-    void TakeOutcome(const Outcome& outcome);
+    void TakeOutcome(Outcome outcome);
+    std::size_t GiveUpRest();
     void Tell(const Use& use, const Outcome& outcome);
-    void TellTrouble(const Use& use, const PrinterError& trouble);
+    void TellTrouble(const Use& use, const Outcome& outcome);
 
     Printer& printer_;
     PageTwips& page_;

@@ -17,6 +17,7 @@ namespace {
 
 using namespace tarn::testing;
 using ::testing::ElementsAre;
+using ::testing::EndsWith;
 using ::testing::IsEmpty;
 
 EnteredDataReport ReportOf(const char* line) {
@@ -193,12 +194,30 @@ TEST_F(PrintQueues, AreWaitedForAtTheEnd) {
 
 TEST_F(PrintQueues, GiveUpAtTheEndWhatIsBehindAFailure) {
     printer.Failure = "It is off.";
+    for (const char* line : {"A", "B", "C"}) {
+        queue->Print(ReportOf(line), screen);
+    }
+    queue->ReadPage();
+    ::testing::internal::CaptureStderr();
+    queue->Finish();
+    EXPECT_EQ(::testing::internal::GetCapturedStderr(), "tarn: It is off.\n");
+    EXPECT_THAT(boxes.Informative,
+                ElementsAre("It is off.\r\n"
+                            "Or right-click what is shown and choose \"Save as PDF\".\r\n"
+                            "2 more jobs that waited behind it were not printed either."))
+        << "told all the same";
+}
+
+TEST_F(PrintQueues, TellOfOneJobBehindAFailureAtTheEnd) {
+    printer.Failure = "It is off.";
     queue->Print(ReportOf("A"), screen);
     queue->Print(ReportOf("B"), screen);
     ::testing::internal::CaptureStderr();
     queue->Finish();
-    EXPECT_EQ(::testing::internal::GetCapturedStderr(), "tarn: It is off.\n");
-    EXPECT_EQ(boxes.Messages.size(), 1U) << "told all the same";
+    ::testing::internal::GetCapturedStderr();
+    ASSERT_EQ(boxes.Informative.size(), 1U);
+    EXPECT_THAT(boxes.Informative[0],
+                EndsWith("One more job that waited behind it was not printed either."));
 }
 
 TEST_F(PrintQueues, LoseNothingWhenTheyGoButTellNobody) {
