@@ -10,11 +10,6 @@ const char* LayName(Lay lay) {
     return lay == Lay::Cross ? "cross" : "down";
 }
 
-std::string RollName(const RollChoice& roll) {
-    return roll.Name.empty() ? ShownText(roll.AsTyped)
-                             : ShownText(roll.Name) + ' ' + ShownText(roll.AsTyped);
-}
-
 std::string CandidateName(const Order& order, const OrderCandidate& candidate) {
     return RollName(order.Request.Rolls.at(candidate.Roll)) + ", " + LayName(candidate.Direction);
 }

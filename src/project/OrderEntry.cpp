@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <cmath>
 #include <limits>
 
 namespace tarn {
@@ -75,6 +76,18 @@ void TakeRepeat(const std::string& option, std::string_view text, Units units, L
     repeat = *whole;
 }
 
+/// The price of a roll, of any size. A comma is told apart from other faults: it is how many write
+/// a decimal point.
+Double PriceOf(const RollChoice& roll, std::string_view text) {
+    const Double price = NumberOf(text);
+    if (std::isnan(price) && text.find(',') != std::string_view::npos) {
+        throw Unread{{"price", "The price \"" + ShownText(TrimStr(std::string(text))) +
+                                   "\" of the roll " + RollName(roll) +
+                                   ": a comma is not taken. Write it with a point, as 18.50."}};
+    }
+    return price;
+}
+
 RollChoice RollOf(const TypedRoll& typed, Units units) {
     RollChoice roll;
     roll.AsTyped = TrimStr(typed.Width);
@@ -84,7 +97,7 @@ RollChoice RollOf(const TypedRoll& typed, Units units) {
     roll.Width = Require("roll", typed.Width, ReadLength(typed.Width, units));
     roll.Name = TrimStr(typed.Name);
     if (!IsEmpty(typed.Price)) {
-        roll.Price = NumberOf(typed.Price);
+        roll.Price = PriceOf(roll, typed.Price);
     }
     return roll;
 }
@@ -211,6 +224,13 @@ std::string UsualDriftText(const TypedOrder& typed) {
     return TypedNumber(DriftOf(pattern));
 }
 
+bool HasPattern(const TypedOrder& typed) {
+    const auto isRepeat = [&](std::string_view text) {
+        return !IsEmpty(text) && ReadLength(text, typed.In).Read != 0;
+    };
+    return typed.HalfDrop || isRepeat(typed.PatternAcross) || isRepeat(typed.PatternAlong);
+}
+
 std::variant<OrderRequest, OrderRequestFault> RequestOf(const TypedOrder& typed) {
     std::vector<std::size_t> places;
     try {
@@ -224,7 +244,7 @@ std::variant<OrderRequest, OrderRequestFault> RequestOf(const TypedOrder& typed)
         }
         return *fault;
     } catch (Unread& unread) {
-        if (unread.Fault.Option == "roll") {
+        if (unread.Fault.Option == "roll" || unread.Fault.Option == "price") {
             unread.Fault.Roll = places.back();
         }
         return unread.Fault;

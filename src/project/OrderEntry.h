@@ -70,6 +70,10 @@ TypedOrder UsualTexts(Units units);
 /// it. As without a pattern where that cannot be read.
 std::string UsualDriftText(const TypedOrder& typed);
 
+/// Whether a pattern is typed: a repeat that is not 0, also one that cannot be read, or a half
+/// drop.
+bool HasPattern(const TypedOrder& typed);
+
 /// The request that the texts make, its drift told in any case; or the first fault, whose Roll is a
 /// number in `typed`.
 std::variant<OrderRequest, OrderRequestFault> RequestOf(const TypedOrder& typed);

@@ -62,7 +62,10 @@ Fault FaultOfRolls(const OrderRequest& request) {
                                      place};
         }
         if (roll.Price && !IsPrice(*roll.Price)) {
-            return OrderRequestFault{"price", "A price " + std::string(WhatAPriceMustBe), place};
+            return OrderRequestFault{"price",
+                                     "The price of the roll " + RollName(roll) + ' ' +
+                                         std::string(WhatAPriceMustBe),
+                                     place};
         }
     }
     return std::nullopt;
@@ -130,6 +133,11 @@ Fault FaultOfNumbers(const OrderRequest& request) {
 }
 
 } // namespace
+
+std::string RollName(const RollChoice& roll) {
+    return roll.Name.empty() ? ShownText(roll.AsTyped)
+                             : ShownText(roll.Name) + ' ' + ShownText(roll.AsTyped);
+}
 
 OrderRequest DefaultOrderRequest(Units units) {
     OrderRequest request;

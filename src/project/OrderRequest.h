@@ -24,6 +24,9 @@ struct RollChoice {
     bool operator==(const RollChoice&) const = default;
 };
 
+/// A roll by its name, if it has one, and its width as typed: "Shop 12ft".
+std::string RollName(const RollChoice& roll);
+
 /// The pattern of a carpet, in whole units; 0 for no repeat in that direction.
 struct PatternChoice {
     Long Across = 0;       ///< to the next column of the pattern

@@ -3,6 +3,7 @@
 #include "base/Numbers.h"
 #include "base/RunTimeError.h"
 #include "base/Text.h"
+#include "project/InchFraction.h"
 
 #include <algorithm>
 #include <array>
@@ -197,11 +198,9 @@ std::optional<Decimal> TakeFraction(Reader& reader) {
         return std::nullopt;
     }
     const auto below = reader.TakeWhole();
-    constexpr std::array<long long, 6> Denominators{2, 4, 8, 16, 32, 64};
-    const bool isTaken =
-        below && std::find(Denominators.begin(), Denominators.end(), *below) != Denominators.end();
-    return isTaken && *above < *below ? std::optional(DecimalOf(*above * One / *below, Places))
-                                      : std::nullopt;
+    return below && IsInchFraction(*above, *below)
+               ? std::optional(DecimalOf(*above * One / *below, Places))
+               : std::nullopt;
 }
 
 /// Inches, whole or with a fraction: "6", "6.5", "6 1/2", and "1/2" alone where `alone` allows it.

@@ -150,8 +150,15 @@ TEST(TypedOrder, TellsWhichRollIsRefused) {
           {{"", "Shop", ""},
            {"roll", "A roll has no width: write the length as 12ft6in, 18in, 366cm or 3.66m.", 2}},
           {{"0.5in", "", ""}, {"roll", "A roll must be between 0'1\" and 2730'7\" wide.", 2}},
-          {{"12ft", "", "18,50"}, {"price", "A price must be a number of 0 or more.", 2}},
-          {{"12ft", "", "-1"}, {"price", "A price must be a number of 0 or more.", 2}}}) {
+          {{"12ft", "Shop", " 18,50 "},
+           {"price",
+            "The price \"18,50\" of the roll Shop 12ft: a comma is not taken. Write it with a "
+            "point, as 18.50.",
+            2}},
+          {{"12ft", "", "cheap"},
+           {"price", "The price of the roll 12ft must be a number of 0 or more.", 2}},
+          {{"12ft", "", "-1"},
+           {"price", "The price of the roll 12ft must be a number of 0 or more.", 2}}}) {
         TypedOrder typed = Typed();
         typed.Rolls = {{"12ft", "", "1"}, {}, each.Roll};
         EXPECT_EQ(std::get<OrderRequestFault>(RequestOf(typed)), each.Fault);
@@ -160,6 +167,31 @@ TEST(TypedOrder, TellsWhichRollIsRefused) {
     many.Rolls.assign(MostRolls + 1, {"12ft", "", ""});
     EXPECT_EQ(std::get<OrderRequestFault>(RequestOf(many)).Reason,
               "At most 12 rolls can be compared.");
+}
+
+TEST(TypedOrder, HasAPatternWhereARepeatOrAHalfDropIsTyped) {
+    TypedOrder typed = Typed();
+    EXPECT_FALSE(HasPattern(typed));
+    for (const char* none : {"", " ", "0", "0in"}) {
+        typed.PatternAcross = typed.PatternAlong = none;
+        EXPECT_FALSE(HasPattern(typed)) << none;
+    }
+    typed.PatternAlong = "24";
+    EXPECT_TRUE(HasPattern(typed));
+    typed.PatternAlong = "0";
+    typed.PatternAcross = "1,5";
+    EXPECT_TRUE(HasPattern(typed));
+    typed.PatternAcross.clear();
+    typed.HalfDrop = true;
+    EXPECT_TRUE(HasPattern(typed));
+}
+
+TEST(TypedOrder, RaisesAFractionOfAnInchToAWholeOne) {
+    TypedOrder typed = Typed();
+    typed.TrimAlong = "1 1/2\"";
+    typed.TrimAcross = "3/8in";
+    EXPECT_EQ(Read(typed).TrimAlong, 2);
+    EXPECT_EQ(Read(typed).TrimAcross, 1);
 }
 
 TEST(TypedOrder, OfARequestMakesItAgain) {
