@@ -20,8 +20,8 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-constexpr std::chrono::milliseconds LookAfter{50};
-constexpr std::chrono::milliseconds CallAfter{100};
+constexpr std::chrono::milliseconds AskAfter{20};  ///< the observer whether to go on
+constexpr std::chrono::milliseconds TellAfter{50}; ///< it what is new
 
 /// A row while it is searched. What its thread finds is handed over under the lock of all rows.
 struct Row {
@@ -65,6 +65,7 @@ class OrderMaker {
             Watch(observer);
         } catch (...) {
             fault = std::current_exception();
+            abandoned_ = true;
         }
         stop_ = true;
         for (std::thread& thread : threads) {
@@ -104,7 +105,7 @@ class OrderMaker {
         } catch (...) {
             const std::scoped_lock lock(mutex_);
             fault_ = std::current_exception();
-            stop_ = true;
+            abandoned_ = stop_ = true;
         }
         const std::scoped_lock lock(mutex_);
         row.Done = true;
@@ -113,6 +114,9 @@ class OrderMaker {
 
     void Search(Row& row) {
         CoreTurn turn(turns_);
+        if (abandoned_) {
+            return;
+        }
         ImproveLimits limits{0, limits_.Steps, limits_.Seed};
         if (limits_.Steps == 0) {
             // What is left, for the shares of it that the search gives to its stages.
@@ -139,16 +143,17 @@ class OrderMaker {
 
     /// Tell the observer what is found until all rows are done, the time is over or it says stop.
     void Watch(OrderObserver& observer) {
-        Clock::time_point called = begin_;
+        Clock::time_point told = begin_;
         for (bool done = false; !done;) {
+            const bool hadTable = hadTable_;
             done = WaitForNews();
-            const bool changed = TakeNews();
-            const bool due = Clock::now() - called >= CallAfter;
-            if (changed || due) {
-                called = Clock::now();
-                if (!observer.Progress(order_, changed)) {
-                    break;
-                }
+            const bool due = done || hadTable_ != hadTable || Clock::now() - told >= TellAfter;
+            const bool changed = due && TakeNews();
+            if (changed) {
+                told = Clock::now();
+            }
+            if (!observer.Progress(order_, changed)) {
+                break;
             }
         }
     }
@@ -164,7 +169,7 @@ class OrderMaker {
             return !hadTable_ && std::all_of(rows_.begin(), rows_.end(),
                                              [](const auto& row) { return row->HasLayout; });
         };
-        changed_.wait_for(lock, LookAfter, [&] { return allDone() || isFirstTable(); });
+        changed_.wait_for(lock, AskAfter, [&] { return allDone() || isFirstTable(); });
         hadTable_ = hadTable_ || isFirstTable();
         if (limits_.Steps == 0 && Passed() >= limits_.Seconds) {
             stop_ = true;
@@ -219,6 +224,7 @@ class OrderMaker {
     std::exception_ptr fault_;
     bool hadTable_ = false; ///< each row had a layout
     std::atomic<bool> stop_ = false;
+    std::atomic<bool> abandoned_ = false; ///< nobody waits for an order any more
 };
 
 } // namespace

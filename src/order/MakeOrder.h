@@ -24,10 +24,11 @@ class OrderObserver {
   public:
     virtual ~OrderObserver() = default;
 
-    /// Called whenever a row has become better, at most some twenty times a second, and at least
-    /// ten times a second: `changed` says whether anything did since the last call. Each row of the
-    /// order is refused, has its best layout so far, or has none yet. False stops the search; the
-    /// best so far is taken all the same.
+    /// Called about fifty times a second; `changed` says whether a row has become better since the
+    /// last call, which it says some twenty times a second at most. Each row of the order is
+    /// refused, has its best layout so far, or has none yet. False stops the search; the best so
+    /// far is taken all the same, and a row without a layout gets its first one. To raise is to
+    /// want no order: the search ends at once.
     virtual bool Progress([[maybe_unused]] const Order& soFar, [[maybe_unused]] bool changed) {
         return true;
     }

@@ -9,6 +9,13 @@
 
 namespace tarn {
 
+namespace {
+
+/// Raised where nobody waits for the order any more.
+struct Abandoned {};
+
+} // namespace
+
 /// What the two threads share: the order so far, of which the window's thread takes the last one,
 /// however many it missed.
 class OrderRun::Search : public OrderObserver {
@@ -36,12 +43,16 @@ class OrderRun::Search : public OrderObserver {
         Tell(std::move(last));
     }
     bool Progress(const Order& soFar, bool changed) override {
+        if (abandoned_) {
+            throw Abandoned();
+        }
         if (changed) {
             Tell({soFar, false, nullptr});
         }
         return !stopped_;
     }
     void Stop() { stopped_ = true; }
+    void Abandon() { abandoned_ = true; }
     News Take() {
         const std::scoped_lock lock(mutex_);
         return std::exchange(news_, {});
@@ -65,6 +76,7 @@ class OrderRun::Search : public OrderObserver {
 
     std::function<void()> wake_;
     std::atomic<bool> stopped_ = false;
+    std::atomic<bool> abandoned_ = false;
     std::mutex mutex_;
     News news_;
 };
@@ -82,7 +94,7 @@ OrderRun::OrderRun(Project project, Byte carpet, OrderRequest request, const Ord
 }
 
 OrderRun::~OrderRun() {
-    Stop();
+    search_->Abandon();
     thread_.join();
 }
 

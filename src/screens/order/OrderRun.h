@@ -28,7 +28,7 @@ class OrderRun : public QObject {
 
     OrderRun(Project project, Byte carpet, OrderRequest request, const OrderLimits& limits,
              Callbacks callbacks);
-    /// Ends the search, which takes some tenths of a second at most; nothing is told any more.
+    /// Ends the search, which takes less than a tenth of a second; nothing is told any more.
     ~OrderRun() override;
 
     /// End the search; the best so far is told before the end is.
