@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <optional>
+#include <utility>
 
 namespace tarn {
 
@@ -16,19 +17,31 @@ struct SizePair {
 };
 constexpr std::array<SizePair, 4> Pairs{{{0, 2}, {1, 2}, {2, 2}, {3, 3}}};
 
+/// What a piece is called in a box that goes on from another one, and where that has no room.
+std::string ContinuedName(const std::string& label) {
+    return label + " continues";
+}
+std::string ShortContinuedName(const std::string& label) {
+    return "\u2026" + label;
+}
+
 /// Finds the label for one box.
 class Fitter {
   public:
-    Fitter(const ChartPiece& piece, double width, double height, const LabelMeasure& measure)
+    /// `name` is what the piece is called.
+    Fitter(const ChartPiece& piece, std::string name, double width, double height,
+           const LabelMeasure& measure, std::size_t largest)
         : piece_(piece)
+        , name_(std::move(name))
         , width_(width)
         , height_(height)
-        , measure_(measure) {}
+        , measure_(measure)
+        , largest_(largest) {}
 
     FittedLabel Fit() const {
         // What has no room for its letter has none for more.
         const std::size_t least = LabelSizes.size() - 1;
-        if (!FitsEitherWay({{piece_.Label, least}})) {
+        if (!FitsEitherWay({{name_, least}})) {
             return {};
         }
         for (const auto& texts :
@@ -47,8 +60,11 @@ class Fitter {
 
     std::optional<Lines> LinesOf(const Texts& texts, bool upward) const {
         for (const SizePair& sizes : Pairs) {
-            Lines stacked{{piece_.Label, sizes.Letter}};
-            std::string joined = piece_.Label;
+            if (sizes.Letter < largest_) {
+                continue;
+            }
+            Lines stacked{{name_, sizes.Letter}};
+            std::string joined = name_;
             for (const std::string& text : texts) {
                 stacked.push_back({text, sizes.Text});
                 joined += "  " + text;
@@ -69,7 +85,7 @@ class Fitter {
         for (const LabelLine& line : lines) {
             height += measure_.Height(line.Size);
         }
-        if (lines.size() == 1 && lines.front().Text == piece_.Label) {
+        if (lines.size() == 1 && lines.front().Text == name_) {
             height = measure_.LetterHeight(lines.front().Size);
         }
         const double most = (upward ? height_ : width_) - 2 * measure_.Margin;
@@ -82,16 +98,27 @@ class Fitter {
     bool FitsEitherWay(const Lines& lines) const { return Fits(lines, false) || Fits(lines, true); }
 
     const ChartPiece& piece_;
+    std::string name_;
     double width_;
     double height_;
     const LabelMeasure& measure_;
+    std::size_t largest_;
 };
 
 } // namespace
 
 FittedLabel FitLabel(const ChartPiece& piece, double width, double height,
-                     const LabelMeasure& measure) {
-    return Fitter(piece, width, height, measure).Fit();
+                     const LabelMeasure& measure, const LabelWish& wish) {
+    const auto fit = [&](std::string name, std::size_t largest) {
+        return Fitter(piece, std::move(name), width, height, measure, largest).Fit();
+    };
+    if (!wish.Continues) {
+        return fit(piece.Label, wish.Largest);
+    }
+    // A word is no larger than the texts.
+    constexpr std::size_t TextSize = 2;
+    FittedLabel label = fit(ContinuedName(piece.Label), std::max(wish.Largest, TextSize));
+    return label.Lines.empty() ? fit(ShortContinuedName(piece.Label), wish.Largest) : label;
 }
 
 } // namespace tarn

@@ -41,9 +41,15 @@ struct FittedLabel {
     bool Upward = false;
 };
 
+/// What a label has to go by beside its box.
+struct LabelWish {
+    bool Continues = false;  ///< the piece began in another box, which the label says
+    std::size_t Largest = 0; ///< place in LabelSizes of the largest letter
+};
+
 /// The label for a piece's box. What says more goes before what is larger, and upright lines before
 /// upward ones that say the same.
 FittedLabel FitLabel(const ChartPiece& piece, double width, double height,
-                     const LabelMeasure& measure);
+                     const LabelMeasure& measure, const LabelWish& wish = {});
 
 } // namespace tarn

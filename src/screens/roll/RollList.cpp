@@ -171,9 +171,17 @@ void RollList::MeasureLines() {
 QSize RollList::sizeHint() const {
     const int bar = verticalScrollBar()->sizeHint().width();
     const int frame = 2 * frameWidth();
-    const int width = std::clamp(widest_ + 2 * TextPixels(LinePadding) + bar + frame,
-                                 TextPixels(LeastListWidth), TextPixels(MostListWidth));
+    const int least = TextPixels(LeastListWidth);
+    const int most = std::max(least, most_ > 0 ? most_ : TextPixels(MostListWidth));
+    const int width = std::clamp(widest_ + 2 * TextPixels(LinePadding) + bar + frame, least, most);
     return {width, LinesShown * std::max(1, sizeHintForRow(0)) + frame};
+}
+
+void RollList::SetMostWidth(int width) {
+    if (width != most_) {
+        most_ = width;
+        updateGeometry();
+    }
 }
 
 void RollList::currentChanged(const QModelIndex& current, const QModelIndex& previous) {

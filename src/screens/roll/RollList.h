@@ -50,6 +50,8 @@ class RollList : public QListView {
 
     /// As wide as its longest line about a piece, within bounds; other lines are wrapped.
     QSize sizeHint() const override;
+    /// How wide it may be, pixels.
+    void SetMostWidth(int width);
 
   protected:
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
@@ -62,6 +64,7 @@ class RollList : public QListView {
 
     ChartLineModel* lines_;
     int widest_ = 0;       ///< of the lines about pieces, pixels
+    int most_ = 0;         ///< how wide it may be; 0 = not told yet
     bool setting_ = false; ///< the current line is not set by the user
 };
 

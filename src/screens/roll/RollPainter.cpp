@@ -3,15 +3,18 @@
 #include "files/QtText.h"
 #include "screens/Display.h"
 #include "screens/Theme.h"
+#include "screens/roll/LetterLane.h"
 #include "screens/roll/RollRuler.h"
 #include "screens/roll/Tints.h"
 
 #include <QFontMetricsF>
 #include <QPainter>
 #include <QPixmap>
+#include <QPolygonF>
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace tarn {
 
@@ -23,7 +26,13 @@ constexpr double RowGap = 180;       ///< twips
 constexpr double HatchApart = 105;   ///< twips
 constexpr double MarkWidth = 45;     ///< twips
 constexpr std::size_t RulerSize = 3; ///< place in LabelSizes
+constexpr std::size_t LaneSize = 3;  ///< the same of letters in a lane
+constexpr double LaneGap = 240;      ///< twips, between the roll and them
+constexpr double LaneKnee = 45;      ///< twips, before their lines turn
+constexpr double LaneDot = 24;       ///< twips, half of what is on the piece
+constexpr double MostOfLane = 0.8;   ///< that letters take
 constexpr const char* WidestTick = "0000'";
+constexpr double Nearly = 1e-6;    ///< a piece that begins with a row is not continued there
 constexpr double SmallTick = 0.35; ///< of a ruler's line
 
 QRectF OnView(const SpreadBox& box, const PictureAt& at) {
@@ -140,6 +149,109 @@ SpreadArea RollPainter::AreaOf(QSizeF size) const {
             widths_[RulerSize].Of(WidestTick) + tick, PixelsExact(RowGap)};
 }
 
+RollSpread RollPainter::SpreadOn(QSizeF size) const {
+    SpreadArea area = AreaOf(size);
+    RollSpread spread = SpreadOver(chart_, area);
+    const Labelling labelling = LabellingOf(spread, 1);
+    double widest = 0;
+    for (const std::size_t piece : labelling.Outside) {
+        widest = std::max(widest, widths_[LaneSize].Of(chart_.Pieces[piece].Label));
+    }
+    const double along = spread.Stands ? heights_[LaneSize] : widest + PixelsExact(LabelMargin);
+    double rows = 0;
+    for (const SpreadRow& row : spread.Rows) {
+        rows += (row.To - row.From) * spread.Scale;
+    }
+    const auto letters = static_cast<double>(labelling.Outside.size());
+    if (letters == 0 || letters * along > rows * MostOfLane) {
+        return spread; // a lane of some letters only tells less than it takes
+    }
+    area.StandingLane = PixelsExact(LaneGap) + widest;
+    area.LyingLane = PixelsExact(LaneGap) + heights_[LaneSize];
+    return SpreadOver(chart_, area);
+}
+
+RollPainter::Labelling RollPainter::LabellingOf(const RollSpread& spread, double zoom) const {
+    Labelling labelling{spread, zoom, 0, {}};
+    std::vector<std::size_t> sizes; // of the letters above other lines
+    for (std::size_t i = 0; i < chart_.Pieces.size(); ++i) {
+        const ChartPiece& piece = chart_.Pieces[i];
+        const auto [first, last] = RowsOf(spread, piece.Y, piece.Y + piece.Length);
+        bool hasLetter = false;
+        for (std::size_t row = first; row < last; ++row) {
+            const SpreadBox box = spread.BoxIn(row, piece.X, piece.Y, piece.Width, piece.Length);
+            const FittedLabel label =
+                FitLabel(piece, box.Width * zoom, box.Height * zoom, measure_, {row > first, 0});
+            hasLetter = hasLetter || !label.Lines.empty();
+            if (row == first && label.Lines.size() > 1) {
+                sizes.push_back(label.Lines[0].Size);
+            }
+        }
+        if (!hasLetter && first < last) {
+            labelling.Outside.push_back(i);
+        }
+    }
+    if (!sizes.empty()) { // one that three of four of them have room for
+        const auto most = sizes.begin() + static_cast<std::ptrdiff_t>(sizes.size() * 3 / 4);
+        std::nth_element(sizes.begin(), most, sizes.end());
+        labelling.Largest = *most;
+    }
+    return labelling;
+}
+
+/// Found once for all parts of a picture.
+const RollPainter::Labelling& RollPainter::LabellingAt(const RollSpread& spread,
+                                                       double zoom) const {
+    if (labelling_.Zoom != zoom || labelling_.Of != spread) {
+        labelling_ = LabellingOf(spread, zoom);
+    }
+    return labelling_;
+}
+
+/// The letters of pieces that are too small for them, beside the row, with their lines.
+void RollPainter::PaintLane(QPainter& painter, const RollSpread& spread, const PictureAt& at,
+                            std::size_t row, const QRectF& roll) const {
+    std::vector<LaneLetter> letters;
+    for (const std::size_t i : LabellingAt(spread, at.Zoom).Outside) {
+        const ChartPiece& piece = chart_.Pieces[i];
+        const SpreadRow& stretch = spread.Rows[row];
+        const double middle = piece.Y + piece.Length / 2;
+        if (middle < stretch.From || middle >= stretch.To) {
+            continue;
+        }
+        const QPointF centre =
+            OnView(spread.BoxIn(row, piece.X, piece.Y, piece.Width, piece.Length), at).center();
+        const double width = widths_[LaneSize].Of(piece.Label) + PixelsExact(LabelMargin);
+        letters.push_back({i, spread.Stands ? centre.y() : centre.x(),
+                           spread.Stands ? heights_[LaneSize] : width});
+    }
+    const double from = spread.Stands ? roll.top() : roll.left();
+    const double to = spread.Stands ? roll.bottom() : roll.right();
+    const double knee = PixelsExact(LaneKnee);
+    const double lane = PixelsExact(LaneGap);
+    painter.setFont(bold_[LaneSize]);
+    const double ascent = QFontMetricsF(painter.font()).ascent();
+    for (const LaneLetter& letter : PlaceInLane(std::move(letters), from, to)) {
+        const ChartPiece& piece = chart_.Pieces[letter.Piece];
+        const QPointF centre =
+            OnView(spread.BoxIn(row, piece.X, piece.Y, piece.Width, piece.Length), at).center();
+        const double middle = letter.Begin + letter.Extent / 2;
+        const auto point = [&](double across, double along) {
+            return spread.Stands ? QPointF(roll.right() + across, along)
+                                 : QPointF(along, roll.bottom() + across);
+        };
+        painter.setPen(QPen(CurrentColours().Text, 1));
+        painter.setRenderHint(QPainter::Antialiasing);
+        const QPointF edge = point(knee, letter.At);
+        painter.drawPolyline(QPolygonF{centre, edge, point(lane - knee, middle)});
+        painter.setBrush(CurrentColours().Text);
+        painter.drawEllipse(centre, PixelsExact(LaneDot), PixelsExact(LaneDot));
+        painter.setBrush(Qt::NoBrush);
+        painter.setRenderHint(QPainter::Antialiasing, false);
+        painter.drawText(point(lane, letter.Begin) + QPointF(0, ascent), ToQt(piece.Label));
+    }
+}
+
 std::vector<QRectF> RollPainter::BoxesOf(const ChartPiece& piece, const RollSpread& spread,
                                          const PictureAt& at) {
     std::vector<QRectF> boxes;
@@ -172,9 +284,11 @@ void RollPainter::PaintRow(QPainter& painter, const RollSpread& spread, const Pi
     const QRectF roll =
         OnView(spread.BoxIn(row, 0, stretch.From, spread.RollWidth, stretch.To - stretch.From), at);
     PaintRuler(painter, spread, at, row, part);
-    if (!Reaches(roll, part)) {
+    const double lane = spread.Lane * at.Zoom;
+    if (!Reaches(roll.adjusted(0, 0, spread.Stands ? lane : 0, spread.Stands ? 0 : lane), part)) {
         return;
     }
+    const std::size_t largest = LabellingAt(spread, at.Zoom).Largest;
     const QBrush hatch = Hatch(painter);
     painter.setBrushOrigin(at.Origin);
     for (const ChartSpace& space : chart_.LeftOver) {
@@ -186,7 +300,7 @@ void RollPainter::PaintRow(QPainter& painter, const RollSpread& spread, const Pi
         }
     }
     const QColor outline = CurrentColours().MutedText;
-    painter.setPen(outline);
+    std::vector<std::pair<const ChartPiece*, QRectF>> seen;
     for (const ChartPiece& piece : chart_.Pieces) {
         if (piece.Y >= stretch.To || piece.Y + piece.Length <= stretch.From) {
             continue;
@@ -199,7 +313,13 @@ void RollPainter::PaintRow(QPainter& painter, const RollSpread& spread, const Pi
         painter.fillRect(pixels, ColourOfTint(piece.Tint));
         painter.setPen(outline);
         painter.drawRect(pixels);
-        PaintLabel(painter, piece, box);
+        seen.push_back({&piece, box});
+    }
+    if (spread.Lane > 0) {
+        PaintLane(painter, spread, at, row, roll);
+    }
+    for (const auto& [piece, box] : seen) { // above the lines that may cross them
+        PaintLabel(painter, *piece, box, {piece->Y < stretch.From - Nearly, largest});
     }
     PaintOutline(painter, spread, row, OnPixels(Near(roll, part)).adjusted(-1, -1, 1, 1));
 }
@@ -262,8 +382,9 @@ void RollPainter::PaintRuler(QPainter& painter, const RollSpread& spread, const 
     }
 }
 
-void RollPainter::PaintLabel(QPainter& painter, const ChartPiece& piece, const QRectF& box) const {
-    const FittedLabel label = FitLabel(piece, box.width(), box.height(), measure_);
+void RollPainter::PaintLabel(QPainter& painter, const ChartPiece& piece, const QRectF& box,
+                             const LabelWish& wish) const {
+    const FittedLabel label = FitLabel(piece, box.width(), box.height(), measure_, wish);
     if (label.Lines.empty()) {
         return;
     }

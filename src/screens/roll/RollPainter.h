@@ -37,8 +37,8 @@ class RollPainter {
     RollPainter(const RollPainter&) = delete;
     RollPainter& operator=(const RollPainter&) = delete;
 
-    /// The area with what the rulers take, for SpreadOver.
-    SpreadArea AreaOf(QSizeF size) const;
+    /// Spread the chart over an area of that size, with lanes for letters where it takes them.
+    RollSpread SpreadOn(QSizeF size) const;
 
     /// Paint what is in `part`; the background alone where that is empty.
     void Paint(QPainter& painter, const RollSpread& spread, const PictureAt& at,
@@ -52,13 +52,27 @@ class RollPainter {
                                        const PictureAt& at);
 
   private:
+    /// How all of a picture is labelled: letters that differ in size without a reason look like a
+    /// mistake.
+    struct Labelling {
+        RollSpread Of;
+        double Zoom = 0;
+        std::size_t Largest = 0;          ///< of the letters, place in LabelSizes
+        std::vector<std::size_t> Outside; ///< pieces of which no box has room for the letter
+    };
+    SpreadArea AreaOf(QSizeF size) const;
+    Labelling LabellingOf(const RollSpread& spread, double zoom) const;
+    const Labelling& LabellingAt(const RollSpread& spread, double zoom) const;
+    void PaintLane(QPainter& painter, const RollSpread& spread, const PictureAt& at,
+                   std::size_t row, const QRectF& roll) const;
     void PaintRow(QPainter& painter, const RollSpread& spread, const PictureAt& at, std::size_t row,
                   const QRect& part) const;
     void PaintRuler(QPainter& painter, const RollSpread& spread, const PictureAt& at,
                     std::size_t row, const QRect& part) const;
     static void PaintOutline(QPainter& painter, const RollSpread& spread, std::size_t row,
                              const QRect& roll);
-    void PaintLabel(QPainter& painter, const ChartPiece& piece, const QRectF& box) const;
+    void PaintLabel(QPainter& painter, const ChartPiece& piece, const QRectF& box,
+                    const LabelWish& wish) const;
 
     const RollChart& chart_;
     std::array<QFont, LabelSizes.size()> fonts_;
@@ -66,6 +80,7 @@ class RollPainter {
     std::array<LetterWidths, LabelSizes.size()> widths_;
     std::array<double, LabelSizes.size()> heights_{};
     LabelMeasure measure_;
+    mutable Labelling labelling_; ///< of what was painted last
 };
 
 } // namespace tarn

@@ -14,6 +14,7 @@ namespace {
 
 constexpr int ViewShare = 2; ///< of the panel, above the list
 constexpr int ListShare = 1;
+constexpr double MostOfList = 0.45; ///< of the width, beside the view
 
 } // namespace
 
@@ -36,6 +37,11 @@ RollPanel::RollPanel(QWidget* parent, Dialogs& boxes)
 void RollPanel::Show(RollChart chart) {
     list_->Show(chart.Lines);
     view_->Show(std::move(chart));
+}
+
+void RollPanel::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    list_->SetMostWidth(static_cast<int>(width() * MostOfList));
 }
 
 /// Beside the view the list is as wide as its lines are.

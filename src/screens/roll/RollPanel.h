@@ -29,6 +29,9 @@ class RollPanel : public QWidget {
     /// Whether the list stands beside the view; else, as at first, it stands below.
     void SetListBeside(bool beside);
 
+  protected:
+    void resizeEvent(QResizeEvent* event) override;
+
   private:
     RollView* view_;
     RollList* list_;

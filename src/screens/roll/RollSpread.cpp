@@ -113,12 +113,13 @@ RollSpread SpreadInRows(const std::vector<SpreadRow>& rows, const SpreadArea& ar
     spread.Stands = stands;
     spread.Ruler = stands ? area.StandingRuler : area.LyingRuler;
     spread.Gap = area.Gap;
+    spread.Lane = stands ? area.StandingLane : area.LyingLane;
     spread.RollWidth = rollWidth;
     spread.Rows = rows;
     const auto count = static_cast<double>(rows.size());
     const double along = stands ? area.Height : area.Width;
-    const double across =
-        (stands ? area.Width : area.Height) - count * spread.Ruler - (count - 1) * spread.Gap;
+    const double across = (stands ? area.Width : area.Height) -
+                          count * (spread.Ruler + spread.Lane) - (count - 1) * spread.Gap;
     spread.Scale =
         std::max(LeastScale, std::min(along / LongestOf(rows), across / (count * rollWidth)));
     return spread;
@@ -128,15 +129,15 @@ RollSpread SpreadInRows(const std::vector<SpreadRow>& rows, const SpreadArea& ar
 
 double RollSpread::RowStart(std::size_t row) const {
     const auto before = static_cast<double>(row);
-    return before * (Ruler + RollWidth * Scale + Gap) + Ruler;
+    return before * (Ruler + RollWidth * Scale + Lane + Gap) + Ruler;
 }
 
 double RollSpread::Width() const {
-    return Stands ? RowStart(Rows.size() - 1) + RollWidth * Scale : LongestOf(Rows) * Scale;
+    return Stands ? RowStart(Rows.size() - 1) + RollWidth * Scale + Lane : LongestOf(Rows) * Scale;
 }
 
 double RollSpread::Height() const {
-    return Stands ? LongestOf(Rows) * Scale : RowStart(Rows.size() - 1) + RollWidth * Scale;
+    return Stands ? LongestOf(Rows) * Scale : RowStart(Rows.size() - 1) + RollWidth * Scale + Lane;
 }
 
 SpreadBox RollSpread::BoxIn(std::size_t row, double x, double y, double width,

@@ -17,6 +17,8 @@ struct SpreadArea {
     double LyingRuler = 0;    ///< kept free above a row that lies
     double StandingRuler = 0; ///< kept free left of a row that stands
     double Gap = 0;           ///< between two rows
+    double LyingLane = 0;     ///< kept free below a row that lies, for letters
+    double StandingLane = 0;  ///< kept free right of a row that stands
 };
 
 /// A stretch of the roll in one row, in the chart's unit.
@@ -43,10 +45,13 @@ struct RollSpread {
     double Scale = 0; ///< of the area's unit per unit of the chart
     double Ruler = 0; ///< kept free before each row
     double Gap = 0;
+    double Lane = 0;      ///< kept free behind each row
     double RollWidth = 0; ///< in the chart's unit
     std::vector<SpreadRow> Rows;
 
-    /// The extent of all rows with their rulers.
+    bool operator==(const RollSpread&) const = default;
+
+    /// The extent of all rows with their rulers and lanes.
     double Width() const;
     double Height() const;
     /// Where a row's roll begins, across the rows.

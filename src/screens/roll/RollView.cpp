@@ -78,7 +78,7 @@ bool RollView::Guard(const std::function<void()>& body) const {
 void RollView::Spread() {
     const double margins = 2 * PixelsExact(ViewMargin);
     const QSizeF room = QSizeF(maximumViewportSize()) - QSizeF(margins, margins);
-    spread_ = SpreadOver(chart_, painter_->AreaOf(room.expandedTo(QSizeF(1, 1))));
+    spread_ = painter_->SpreadOn(room.expandedTo(QSizeF(1, 1)));
     Arrange();
     picture_.Forget();
     viewport()->update();

@@ -22,9 +22,10 @@ struct Tint {
 };
 const std::array<Tint, TintCount>& Tints();
 
-/// Give each piece the tint of its room; `rooms` are the rooms of the pieces. Rooms have tints of
-/// their own while there are enough; more of them share tints, those that lie beside each other
-/// last.
+/// Give each piece the tint of its room; `rooms` are the rooms of the pieces, by their places in
+/// the project. The tints take turns in the order of the rooms, however these lie: so a room keeps
+/// its tint on every roll that it can be cut from, and rooms have tints of their own while there
+/// are enough.
 void GiveTints(std::vector<ChartPiece>& pieces, const std::vector<std::size_t>& rooms);
 
 } // namespace tarn

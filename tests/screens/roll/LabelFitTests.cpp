@@ -48,6 +48,24 @@ TEST_F(LabelFit, WritesLetterSizeAndRoomWithALargeLetter) {
     EXPECT_EQ(LabelSizes[label.Lines[1].Size], 1.0);
 }
 
+TEST_F(LabelFit, SaysInAnotherBoxThatThePieceContinues) {
+    const auto continued = [this](double width, double height) {
+        return Written(FitLabel(piece, width, height, measure, {true, 0}));
+    };
+    EXPECT_EQ(continued(100, 60), "B continues|12'0\" X 10'0\"|102");
+    EXPECT_EQ(continued(60, 11), "B continues");
+    EXPECT_EQ(continued(30, 11), "\u2026B") << "where there is no room for the word";
+    EXPECT_EQ(continued(9, 9), "");
+}
+
+TEST_F(LabelFit, KeepsToTheLargestLetterThatIsWished) {
+    for (const std::size_t largest : {0U, 1U, 2U, 3U}) {
+        const FittedLabel label = FitLabel(piece, 100, 60, measure, {false, largest});
+        EXPECT_EQ(Written(label), "B|12'0\" X 10'0\"|102");
+        EXPECT_EQ(label.Lines[0].Size, largest);
+    }
+}
+
 TEST_F(LabelFit, JoinsTheLinesInAFlatPiece) {
     EXPECT_EQ(Written(In(200, 11)), "B  12'0\" X 10'0\"  102");
 }

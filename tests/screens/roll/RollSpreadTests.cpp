@@ -78,7 +78,9 @@ TEST(RollSpread, RowsFollowEachOtherAndFitTheArea) {
         for (const ChartPiece& piece : chart.Pieces) {
             chart.Length = std::max(chart.Length, piece.Y + piece.Length);
         }
-        const SpreadArea area = AreaOf(between(200, 1900), between(200, 1000));
+        SpreadArea area = AreaOf(between(200, 1900), between(200, 1000));
+        area.LyingLane = i % 2 * 12;
+        area.StandingLane = i % 2 * 30;
         const RollSpread spread = SpreadOver(chart, area);
         double at = 0;
         for (const SpreadRow& row : spread.Rows) {
@@ -90,6 +92,22 @@ TEST(RollSpread, RowsFollowEachOtherAndFitTheArea) {
         EXPECT_LE(spread.Width(), area.Width + 1e-6);
         EXPECT_LE(spread.Height(), area.Height + 1e-6);
     }
+}
+
+TEST(RollSpread, KeepsALaneFreeBehindEachRow) {
+    const RollChart chart = ChartOfCuts(24, 100);
+    SpreadArea area = AreaOf(800, 500);
+    area.LyingLane = 12;
+    area.StandingLane = 30;
+    const RollSpread spread = SpreadOver(chart, area);
+    ASSERT_GT(spread.Rows.size(), 1U);
+    EXPECT_EQ(spread.Lane, spread.Stands ? 30 : 12);
+    const double width = spread.RollWidth * spread.Scale;
+    EXPECT_NEAR(spread.RowStart(1) - spread.RowStart(0) - width,
+                spread.Ruler + spread.Gap + spread.Lane, 1e-9);
+    EXPECT_NEAR((spread.Stands ? spread.Width() : spread.Height()) -
+                    spread.RowStart(spread.Rows.size() - 1) - width,
+                spread.Lane, 1e-9);
 }
 
 TEST(RollSpread, IsNoMirrorImage) {
