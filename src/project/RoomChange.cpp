@@ -49,12 +49,12 @@ void TakeBackChange(Rooms& rooms, const RoomChange& change) {
 std::string NameOf(const RoomChange& change) {
     const std::string room = " room " + TrimStr(static_cast<long long>(change.Place) + 1);
     if (change.Before.empty() && change.After.size() == 1) {
-        return "New" + room;
+        return "new" + room;
     }
     if (change.Before.size() == 1 && change.After.empty()) {
-        return "Delete" + room;
+        return "delete" + room;
     }
-    return change.Before.size() == 1 && change.After.size() == 1 ? "Change" + room : "Change rooms";
+    return change.Before.size() == 1 && change.After.size() == 1 ? "change" + room : "change rooms";
 }
 
 } // namespace tarn

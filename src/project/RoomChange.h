@@ -36,7 +36,7 @@ void MakeChange(std::vector<Room>& rooms, const RoomChange& change);
 /// Take the change back in rooms that are as it left them.
 void TakeBackChange(std::vector<Room>& rooms, const RoomChange& change);
 
-/// What was done, for the user: "New room 4", "Change room 3", "Delete room 3"; "Change rooms" for
+/// What was done, for the user: "new room 4", "change room 3", "delete room 3"; "change rooms" for
 /// anything else.
 std::string NameOf(const RoomChange& change);
 

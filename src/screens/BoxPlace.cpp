@@ -3,8 +3,10 @@
 #include <QAbstractItemView>
 #include <QAbstractSpinBox>
 #include <QComboBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QScreen>
+#include <QVariant>
 #include <QWidget>
 
 #include <algorithm>
@@ -32,9 +34,28 @@ long long Covered(const QRect& box, const QRect& field) {
     return common.isEmpty() ? 0 : static_cast<long long>(common.width()) * common.height();
 }
 
+constexpr const char* NoteProperty = "noteOnField";
+
 QRect OnScreen(const QWidget& widget, const QRect& part) {
     const QRect seen = widget.visibleRegion().boundingRect().intersected(part);
     return seen.isEmpty() ? QRect() : QRect(widget.mapToGlobal(seen.topLeft()), seen.size());
+}
+
+/// The note on a field, where it says something.
+QRect NoteOnScreen(const QWidget& field) {
+    const auto* note = field.property(NoteProperty).value<QLabel*>();
+    const bool says = note != nullptr && note->isVisible() && !note->text().isEmpty();
+    return says ? OnScreen(*note, note->rect()) : QRect();
+}
+
+/// The entry of a list that the keys act on, pixels of its viewport.
+QRect EntryOf(const QAbstractItemView& list) {
+    QRect entry = list.visualRect(list.currentIndex());
+    if (!entry.isEmpty() && list.selectionBehavior() == QAbstractItemView::SelectRows) {
+        entry.setLeft(0);
+        entry.setRight(list.viewport()->width() - 1);
+    }
+    return entry;
 }
 
 } // namespace
@@ -67,13 +88,17 @@ QRect FieldOnScreen(const QWidget& window) {
         return {};
     }
     if (const auto* list = qobject_cast<const QAbstractItemView*>(focus)) {
-        const QRect entry = list->visualRect(list->currentIndex());
+        const QRect entry = EntryOf(*list);
         return entry.isEmpty() ? QRect() : OnScreen(*list->viewport(), entry);
     }
     const bool isField = qobject_cast<const QLineEdit*>(focus) != nullptr ||
                          qobject_cast<const QComboBox*>(focus) != nullptr ||
                          qobject_cast<const QAbstractSpinBox*>(focus) != nullptr;
-    return isField ? OnScreen(*focus, focus->rect()) : QRect();
+    return isField ? OnScreen(*focus, focus->rect()).united(NoteOnScreen(*focus)) : QRect();
+}
+
+void SetNoteOn(QWidget& field, QLabel& note) {
+    field.setProperty(NoteProperty, QVariant::fromValue(&note));
 }
 
 void PlaceBox(QWidget& box, const QWidget& window) {

@@ -3,6 +3,7 @@
 #include <QPoint>
 #include <QRect>
 
+class QLabel;
 class QWidget;
 
 namespace tarn {
@@ -14,8 +15,13 @@ namespace tarn {
 QPoint BoxPlace(const QRect& box, const QRect& screen, const QRect& field);
 
 /// What a box above the window is about, on the screen: the field that has the focus there, as far
-/// as it is seen, or the entry chosen in a list; nothing for any other control.
+/// as it is seen, with the note on it, or the entry chosen in a list, which is the whole row of a
+/// table; nothing for any other control.
 QRect FieldOnScreen(const QWidget& window);
+
+/// Let a label be the note on a field: while it says something, boxes about the field leave it free
+/// too. It must live as long as the field.
+void SetNoteOn(QWidget& field, QLabel& note);
 
 /// Move a box, which is about to be seen above `window`, to its BoxPlace.
 void PlaceBox(QWidget& box, const QWidget& window);

@@ -38,18 +38,20 @@ Draft DraftOf(const OpenProject& project) {
     }
     draft.EnteredIn = project.Now.EnteredIn;
     draft.Typed = project.Typed;
+    draft.TypedOrders = project.TypedOrders;
     return draft;
 }
 
 bool IsWorthTakingBack(const Draft& draft, const OpenProject& project) {
-    const bool hasTyping = !draft.Typed.IsEmpty();
+    const bool hasTyping = !draft.Typed.IsEmpty() || !draft.TypedOrders.empty();
     const auto isAsIn = [&draft](const Project& other) {
         return draft.Rooms.value_or(other.Rooms) == other.Rooms &&
                draft.Orders.value_or(other.Orders) == other.Orders;
     };
     const bool isStored = isAsIn(project.Saved);
     const bool isInMemory = isAsIn(project.Now);
-    const bool isStanding = !hasTyping || draft.Typed == project.Typed;
+    const bool isStanding =
+        !hasTyping || (draft.Typed == project.Typed && draft.TypedOrders == project.TypedOrders);
     return (!isStored || hasTyping) && (!isInMemory || !isStanding);
 }
 
@@ -63,6 +65,7 @@ void TakeBack(OpenProject& project, const Draft& draft) {
         taken.Now.Orders = *draft.Orders;
     }
     taken.Typed = FittedTo(draft.Typed, taken.Now.Rooms);
+    taken.TypedOrders = draft.TypedOrders;
     taken.Shown = taken.Typed.IsEmpty() ? taken.Now.EnteredIn : taken.Typed.In;
     RequireExtents(taken.Now, taken.Shown);
     project = std::move(taken);

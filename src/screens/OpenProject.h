@@ -4,6 +4,7 @@
 
 #include "base/Units.h"
 #include "estimate/EstimateChoices.h"
+#include "project/OrderEntry.h"
 #include "project/Project.h"
 #include "project/Typing.h"
 #include "store/DraftRecord.h"
@@ -22,7 +23,10 @@ struct OpenProject {
     Project Saved;                  ///< as last loaded or saved
     std::optional<StoredMark> Read; ///< what the store had of it then; nothing before
     Typing Typed;                   ///< what stands in the fields of the rooms and is in none
-    Units Shown = Units::Imperial;  ///< the units in force: the menu's Metric
+    /// The choices of orders that cannot be taken as they were typed, by carpet: they stand in the
+    /// fields again when the order is opened.
+    std::map<Byte, TypedOrder> TypedOrders;
+    Units Shown = Units::Imperial; ///< the units in force: the menu's Metric
 
     /// What was chosen for the last estimate of each project in this run, by its name.
     std::map<std::string, LastChoices> Chosen;
@@ -72,8 +76,8 @@ Draft DraftOf(const OpenProject& project);
 /// Whether a draft has something that neither the store nor the memory has.
 bool IsWorthTakingBack(const Draft& draft, const OpenProject& project);
 
-/// Put a draft's rooms, its orders' requests, its typing and its units in place of those in memory;
-/// unsaved. Raises as RequireExtents, with nothing changed.
+/// Put a draft's rooms, its orders' requests, what was typed for both and its units in place of
+/// those in memory; unsaved. Raises as RequireExtents, with nothing changed.
 void TakeBack(OpenProject& project, const Draft& draft);
 
 /// What was chosen for the estimates of a project of that name goes with it.

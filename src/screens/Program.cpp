@@ -16,8 +16,9 @@ Program::Program(Dialogs& boxes, Printer& printer)
     : boxes_(boxes)
     , printing_(printer, page_, boxes) {
     screens_.SetSession(session_);
+    session_.Note = [this](const std::string& note) { window_.ShowNote(note); };
     printing_.OnPrinting(
-        [this] { window_.SetNote(printing_.IsPrinting() ? PrintingNote : std::string_view()); });
+        [this] { window_.SetWork(printing_.IsPrinting() ? PrintingNote : std::string_view()); });
     const auto* application = qApp;
     const auto keep = [this] { drafts_.Flush(); };
     QObject::connect(application, &QCoreApplication::aboutToQuit, &window_, keep);

@@ -28,7 +28,7 @@ class RoomHistory {
 
     bool CanUndo() const { return steps_.canUndo(); }
     bool CanRedo() const { return steps_.canRedo(); }
-    /// What would be taken back, or made again: "Delete room 3"; empty for nothing.
+    /// What would be taken back, or made again: "delete room 3"; empty for nothing.
     std::string UndoName() const;
     std::string RedoName() const;
     /// The rooms as Undo would leave them; as they are when there is nothing to take back.

@@ -4,9 +4,10 @@
 
 namespace tarn {
 
-void SaveAs(Dialogs& boxes, const std::string& name, const std::string& suffix,
+void SaveAs(const Session& session, const std::string& name, const std::string& suffix,
             const std::function<void(const std::string& path)>& write) {
-    const auto path = boxes.SaveFileName(name, suffix);
+    session.Note({});
+    const auto path = session.Boxes.SaveFileName(name, suffix);
     if (!path) {
         return;
     }
@@ -17,6 +18,7 @@ void SaveAs(Dialogs& boxes, const std::string& name, const std::string& suffix,
     } catch (const std::exception& error) {
         throw OutputFileError("The file " + *path + " cannot be written: " + error.what());
     }
+    session.Note("Saved: " + path->substr(path->rfind('/') + 1));
 }
 
 } // namespace tarn

@@ -2,7 +2,7 @@
 
 // Saving what a screen shows as a file of the user's choice.
 
-#include "screens/Dialogs.h"
+#include "screens/Session.h"
 
 #include <functional>
 #include <string>
@@ -13,9 +13,10 @@ namespace tarn {
 inline constexpr const char* SaveAsPdfCaption = "Save as &PDF";
 inline constexpr const char* SaveAsSvgCaption = "Save as &SVG";
 
-/// Ask for a file, beginning with `name`, and have `write` write it; nothing when that was
-/// cancelled. Raises OutputFileError, which names the file, whatever `write` raises.
-void SaveAs(Dialogs& boxes, const std::string& name, const std::string& suffix,
+/// Ask for a file, beginning with `name`, have `write` write it, and note in the window that it is
+/// saved; nothing when that was cancelled. Raises OutputFileError, which names the file, whatever
+/// `write` raises.
+void SaveAs(const Session& session, const std::string& name, const std::string& suffix,
             const std::function<void(const std::string& path)>& write);
 
 } // namespace tarn

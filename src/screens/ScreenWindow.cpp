@@ -17,6 +17,7 @@ namespace tarn {
 namespace {
 
 constexpr int MostRefits = 4;
+constexpr double MostOfLine = 0.4; ///< of the window's width: the title stands there too
 
 } // namespace
 
@@ -24,11 +25,11 @@ ScreenWindow::ScreenWindow()
     : screens_(new QStackedLayout(this)) {
     setObjectName(Controls::window);
     screens_->setContentsMargins(0, 0, 0, 0);
-    note_ = NewLabel(this, Controls::printingNote, {});
-    note_->setAttribute(Qt::WA_TransparentForMouseEvents);
-    note_->setAutoFillBackground(true); // a long title may reach behind it
-    SetRole(*note_, TextRole::Hint);
-    note_->hide();
+    line_ = NewLabel(this, Controls::printingNote, {});
+    line_->setAttribute(Qt::WA_TransparentForMouseEvents);
+    line_->setAutoFillBackground(true); // a long title may reach behind it
+    SetRole(*line_, TextRole::Hint);
+    line_->hide();
     Fit();
 }
 
@@ -86,7 +87,8 @@ void ScreenWindow::Unload(Screen& screen) {
 void ScreenWindow::ShowFront() {
     if (Screen* front = Front()) {
         screens_->setCurrentWidget(front);
-        QTimer::singleShot(0, this, [this] { PlaceNote(); }); // beside what is laid out by then
+        ShowNote({});
+        QTimer::singleShot(0, this, [this] { PlaceLine(); }); // beside what is laid out by then
         setWindowTitle(front->Caption());
     }
 }
@@ -129,19 +131,29 @@ void ScreenWindow::moveEvent(QMoveEvent* event) {
 
 void ScreenWindow::resizeEvent(QResizeEvent* event) {
     QWidget::resizeEvent(event);
-    PlaceNote();
+    PlaceLine();
     QTimer::singleShot(0, this, [this] { FitAgainToANewFrame(); });
 }
 
-void ScreenWindow::SetNote(std::string_view note) {
-    SetText(*note_, note);
-    note_->setVisible(!note.empty());
-    PlaceNote();
+void ScreenWindow::SetWork(std::string_view work) {
+    work_ = work;
+    ShowLine();
 }
 
-void ScreenWindow::PlaceNote() {
+void ScreenWindow::ShowNote(const std::string& note) {
+    note_ = note;
+    ShowLine();
+}
+
+void ScreenWindow::ShowLine() {
+    SetText(*line_, work_.empty() ? note_ : work_);
+    line_->setVisible(!line_->text().isEmpty());
+    PlaceLine();
+}
+
+void ScreenWindow::PlaceLine() {
     const int margin = Pixels(Metrics::Margin);
-    QRect place(width() - margin, margin, 0, note_->sizeHint().height());
+    QRect place(width() - margin, margin, 0, line_->sizeHint().height());
     const QWidget* front = Front();
     const auto* guide = front == nullptr
                             ? nullptr
@@ -150,9 +162,11 @@ void ScreenWindow::PlaceNote() {
         const QRect button(guide->mapTo(this, QPoint()), guide->size());
         place = {button.left() - Pixels(Metrics::Spacing), button.top(), 0, button.height()};
     }
-    note_->adjustSize();
-    note_->move(place.left() - note_->width(), place.center().y() - note_->height() / 2);
-    note_->raise();
+    line_->setText(line_->fontMetrics().elidedText(line_->accessibleName(), Qt::ElideMiddle,
+                                                   static_cast<int>(width() * MostOfLine)));
+    line_->adjustSize();
+    line_->move(place.left() - line_->width(), place.center().y() - line_->height() / 2);
+    line_->raise();
 }
 
 void ScreenWindow::AfterFirstPaint(std::function<void()> action) {

@@ -7,6 +7,7 @@
 
 #include <functional>
 #include <memory>
+#include <string>
 #include <string_view>
 
 class QLabel;
@@ -35,9 +36,11 @@ class ScreenWindow : public QWidget {
     /// Number of screens loaded.
     int Loaded() const;
 
-    /// Have a note stand at the top right, beside the button of the guide, above all screens and
-    /// out of the way of the mouse; an empty one takes it away.
-    void SetNote(std::string_view note);
+    /// Have it stand at the top right, beside the button of the guide, above all screens and out of
+    /// the way of the mouse, what goes on meanwhile; nothing when it is over.
+    void SetWork(std::string_view work);
+    /// The same of a note, until another screen is in front; it waits behind what goes on.
+    void ShowNote(const std::string& note);
 
     /// Call `action` once, after the window has been painted for the first time.
     void AfterFirstPaint(std::function<void()> action);
@@ -55,10 +58,13 @@ class ScreenWindow : public QWidget {
     void Add(std::unique_ptr<Screen> screen);
     void Unload(Screen& screen);
     void ShowFront();
-    void PlaceNote();
+    void ShowLine();
+    void PlaceLine();
 
     QStackedLayout* screens_ = nullptr;
-    QLabel* note_ = nullptr;
+    QLabel* line_ = nullptr;
+    std::string work_;
+    std::string note_;
     QMargins frame_;     ///< for which the window was fitted last
     int refitsLeft_ = 0; ///< so that no window manager is argued with for ever
     std::function<void()> afterFirstPaint_;

@@ -13,6 +13,7 @@
 #include <QDate>
 
 #include <functional>
+#include <string>
 
 namespace tarn {
 
@@ -29,6 +30,9 @@ struct Session {
     Preferences& Kept;
     RoomHistory& History; ///< of the open project's rooms
     std::function<QDate()> Today = &QDate::currentDate;
+    /// Tell something that needs no answer in a line of the window, until another screen is in
+    /// front.
+    std::function<void(const std::string&)> Note = [](const std::string&) {};
 };
 
 } // namespace tarn

@@ -8,6 +8,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
+#include <array>
 #include <limits>
 #include <stdexcept>
 #include <utility>
@@ -158,6 +159,94 @@ std::map<Byte, OrderRequest> OrdersOf(const QJsonValue& value) {
     return orders;
 }
 
+/// The texts of an order's choices and their names in a draft.
+struct OrderText {
+    const char* Name;
+    std::string TypedOrder::*Text;
+};
+constexpr std::array<OrderText, 9> OrderTexts{{{"selvage", &TypedOrder::Selvage},
+                                               {"trimAlong", &TypedOrder::TrimAlong},
+                                               {"trimAcross", &TypedOrder::TrimAcross},
+                                               {"shortestPart", &TypedOrder::ShortestPart},
+                                               {"patternAcross", &TypedOrder::PatternAcross},
+                                               {"patternAlong", &TypedOrder::PatternAlong},
+                                               {"patternDrift", &TypedOrder::PatternDrift},
+                                               {"step", &TypedOrder::Step},
+                                               {"seconds", &TypedOrder::Seconds}}};
+struct OrderTick {
+    const char* Name;
+    bool TypedOrder::*Tick;
+};
+constexpr std::array<OrderTick, 4> OrderTicks{{{"downLay", &TypedOrder::DownLay},
+                                               {"crossLay", &TypedOrder::CrossLay},
+                                               {"joinRooms", &TypedOrder::JoinRooms},
+                                               {"halfDrop", &TypedOrder::HalfDrop}}};
+
+QJsonObject TypedOrderObject(Byte carpet, const TypedOrder& typed) {
+    QJsonArray rolls;
+    for (const TypedRoll& roll : typed.Rolls) {
+        rolls.append(QJsonArray{ToQt(roll.Width), ToQt(roll.Name), ToQt(roll.Price)});
+    }
+    QJsonObject object{{QStringLiteral("carpet"), carpet},
+                       {QStringLiteral("units"), UnitsText(typed.In)},
+                       {QStringLiteral("rolls"), rolls},
+                       {QStringLiteral("mostParts"), typed.MostParts}};
+    for (const OrderText& each : OrderTexts) {
+        object[QLatin1String(each.Name)] = ToQt(typed.*each.Text);
+    }
+    for (const OrderTick& each : OrderTicks) {
+        object[QLatin1String(each.Name)] = typed.*each.Tick;
+    }
+    return object;
+}
+
+QJsonArray TypedOrderArray(const std::map<Byte, TypedOrder>& orders) {
+    QJsonArray array;
+    for (const auto& [carpet, typed] : orders) {
+        array.append(TypedOrderObject(carpet, typed));
+    }
+    return array;
+}
+
+TypedRoll TypedRollOf(const QJsonValue& value) {
+    const QJsonArray texts = value.toArray();
+    Require(texts.size() == 3);
+    return {TextOf(texts[0]), TextOf(texts[1]), TextOf(texts[2])};
+}
+
+TypedOrder TypedOrderOf(const QJsonObject& object) {
+    TypedOrder typed;
+    typed.In = UnitsIn(object, "units");
+    const QJsonArray rolls = ValueIn(object, "rolls").toArray();
+    Require(rolls.size() <= static_cast<qsizetype>(MostRolls) + 1); // and an empty row
+    for (const auto& roll : rolls) {
+        typed.Rolls.push_back(TypedRollOf(roll));
+    }
+    typed.MostParts = NumberIn<Long>(object, "mostParts");
+    Require(typed.MostParts >= 1 && typed.MostParts <= MostPartsOfStrip);
+    for (const OrderText& each : OrderTexts) {
+        typed.*each.Text = TextOf(ValueIn(object, each.Name));
+    }
+    for (const OrderTick& each : OrderTicks) {
+        const QJsonValue tick = ValueIn(object, each.Name);
+        Require(tick.isBool());
+        typed.*each.Tick = tick.toBool();
+    }
+    return typed;
+}
+
+std::map<Byte, TypedOrder> TypedOrdersOf(const QJsonValue& value) {
+    Require(value.isArray());
+    std::map<Byte, TypedOrder> orders;
+    for (const auto& each : value.toArray()) {
+        const QJsonObject object = each.toObject();
+        const Byte carpet = NumberIn<Byte>(object, "carpet");
+        Require(IsCarpet(carpet));
+        orders.insert_or_assign(carpet, TypedOrderOf(object));
+    }
+    return orders;
+}
+
 SizeParts SizeIn(const QJsonObject& object, const char* name) {
     const QJsonArray parts = ValueIn(object, name).toArray();
     Require(parts.size() == 2);
@@ -209,6 +298,9 @@ DraftRecord RecordOf(const QJsonObject& object) {
         record.Content.Orders = OrdersOf(ValueIn(object, "orders"));
     }
     record.Content.Typed = TypingOf(ObjectIn(object, "typed"));
+    if (object.contains(QLatin1String("typedOrders"))) {
+        record.Content.TypedOrders = TypedOrdersOf(ValueIn(object, "typedOrders"));
+    }
     return record;
 }
 
@@ -233,6 +325,9 @@ std::string DraftText(const DraftRecord& record) {
     }
     if (record.Content.Orders) {
         object[QStringLiteral("orders")] = OrderArray(*record.Content.Orders);
+    }
+    if (!record.Content.TypedOrders.empty()) {
+        object[QStringLiteral("typedOrders")] = TypedOrderArray(record.Content.TypedOrders);
     }
     return QJsonDocument(object).toJson(QJsonDocument::Indented).toStdString();
 }

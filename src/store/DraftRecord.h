@@ -3,7 +3,7 @@
 #pragma once
 
 #include "base/Units.h"
-#include "project/OrderRequest.h"
+#include "project/OrderEntry.h"
 #include "project/Room.h"
 #include "project/Typing.h"
 
@@ -26,8 +26,10 @@ struct Draft {
     std::optional<std::map<Byte, OrderRequest>> Orders;
     Units EnteredIn = Units::Imperial; ///< the rooms' units, see Project::EnteredIn
     Typing Typed;
+    /// The choices of orders that cannot be taken as they were typed, by carpet.
+    std::map<Byte, TypedOrder> TypedOrders;
 
-    bool IsEmpty() const { return !Rooms && !Orders && Typed.IsEmpty(); }
+    bool IsEmpty() const { return !Rooms && !Orders && Typed.IsEmpty() && TypedOrders.empty(); }
     bool operator==(const Draft&) const = default;
 };
 

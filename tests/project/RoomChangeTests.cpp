@@ -60,11 +60,11 @@ TEST(RoomChange, IsOfTheRoomThatItIsAboutWhereRoomsAreAlike) {
 
 TEST(RoomChange, HasAName) {
     const Rooms rooms = Numbered({1, 2, 3});
-    EXPECT_EQ(NameOf(Between(rooms, Numbered({1, 2, 3, 4}))), "New room 4");
-    EXPECT_EQ(NameOf(Between(rooms, Numbered({1, 2, 4}))), "Change room 3");
-    EXPECT_EQ(NameOf(Between(rooms, Numbered({2, 3}))), "Delete room 1");
-    EXPECT_EQ(NameOf(Between(rooms, {})), "Change rooms");
-    EXPECT_EQ(NameOf(Between(rooms, Numbered({1, 7, 8, 3}))), "Change rooms");
+    EXPECT_EQ(NameOf(Between(rooms, Numbered({1, 2, 3, 4}))), "new room 4");
+    EXPECT_EQ(NameOf(Between(rooms, Numbered({1, 2, 4}))), "change room 3");
+    EXPECT_EQ(NameOf(Between(rooms, Numbered({2, 3}))), "delete room 1");
+    EXPECT_EQ(NameOf(Between(rooms, {})), "change rooms");
+    EXPECT_EQ(NameOf(Between(rooms, Numbered({1, 7, 8, 3}))), "change rooms");
 }
 
 TEST(RoomChange, LeadsBetweenAnyRooms) {

@@ -11,6 +11,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QScreen>
+#include <QTableView>
 #include <QTimer>
 
 namespace tarn {
@@ -131,6 +132,52 @@ TEST_F(PlacedBoxes, LeaveEveryFieldOfTheRoomsToBeSeen) {
             WithBox(look, [&] { box.Choose("It is gone.", {"Save it as a new project"}); });
             WithBox(look, [&] { box.Input("Enter the new name you want to change to:", "it"); });
         }
+    }
+}
+
+TEST_F(PlacedBoxes, LeaveTheNoteOnASizeToBeSeen) {
+    for (const QSize& size : {QSize(800, 600), QSize(1366, 768), QSize(1920, 1080)}) {
+        SCOPED_TRACE(size.width());
+        RoomScreen screen(session);
+        ShowOnDisplay(screen, size.width(), size.height());
+        MessageBoxes real(&screen);
+        Dialogs& box = real;
+        auto& note = Find<QLabel>(screen, Controls::roomNote);
+        for (const char* name : {Controls::roomWidthMajor, Controls::roomLengthMinor}) {
+            auto& field = Find<QLineEdit>(screen, name);
+            GoTo(field);
+            Type(field, "3,45");
+            ASSERT_FALSE(note.text().isEmpty());
+            WithBox(
+                [&](QDialog& shown) {
+                    ExpectClear(shown, field, field.rect());
+                    ExpectClear(shown, note, note.rect());
+                },
+                [&] {
+                    box.Message("The Size of room is not correct. Data is not changed",
+                                "Room width:\r\n3,45 is not taken: type 3.45");
+                });
+            field.clear();
+        }
+    }
+}
+
+TEST_F(PlacedBoxes, LeaveTheWholeRowOfATableToBeSeen) {
+    for (int room = 0; room < 30; ++room) {
+        open.Now.Rooms.push_back({120, 144, 0, 0, "101", "the longest remark that there is"});
+    }
+    RoomScreen screen(session);
+    ShowOnDisplay(screen, 1366, 768);
+    MessageBoxes real(&screen);
+    auto& table = Find<QTableView>(screen, Controls::roomTable);
+    GoTo(table);
+    const int most = table.viewport()->height() / table.rowHeight(0);
+    for (int row = 30 - most + 1; row <= 30; ++row) {
+        table.setCurrentIndex(table.model()->index(row, 0));
+        QRect entry = table.visualRect(table.currentIndex());
+        entry.setRight(table.viewport()->width() - 1);
+        WithBox([&](QDialog& shown) { ExpectClear(shown, *table.viewport(), entry); },
+                [&] { real.AskYesNo("Really want to delete current data?"); });
     }
 }
 

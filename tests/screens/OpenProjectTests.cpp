@@ -294,6 +294,20 @@ TEST_F(OpenProjects, HaveADraftOfUnsavedOrdersAndTakeItBack) {
     EXPECT_FALSE(IsWorthTakingBack(draft, open)) << "as stored";
 }
 
+TEST_F(OpenProjects, HaveADraftOfChoicesThatCannotBeTakenAndTakeThemBack) {
+    open.TypedOrders[2].Step = "9,5";
+    const Draft draft = DraftOf(open);
+    EXPECT_FALSE(draft.IsEmpty());
+    EXPECT_FALSE(open.HasUnsavedChanges()) << "there is nothing that could be stored";
+    EXPECT_FALSE(IsWorthTakingBack(draft, open)) << "standing in the fields";
+    open.TypedOrders.clear();
+    EXPECT_TRUE(IsWorthTakingBack(draft, open));
+    TakeBack(open, draft);
+    EXPECT_EQ(open.TypedOrders, draft.TypedOrders);
+    DropRooms(open);
+    EXPECT_TRUE(open.TypedOrders.empty()) << "they go with the project";
+}
+
 TEST_F(OpenProjects, TakeADraftBackWithItsUnits) {
     Draft draft;
     draft.Rooms = {{366, 500, 0, 0, "", ""}};

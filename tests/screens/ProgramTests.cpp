@@ -9,6 +9,7 @@
 #include "store/Schema.h"
 #include "store/TestDatabase.h"
 
+#include <QAction>
 #include <QCheckBox>
 #include <QCloseEvent>
 #include <QComboBox>
@@ -143,6 +144,27 @@ TEST_F(ProgramTest, RefusesToRunWithoutAConfigurationFile) {
     EXPECT_EQ(boxes_.Messages, std::vector<std::string>{"Couldn't find TarnWin.ini"});
     EXPECT_TRUE(boxes_.Questions.empty()) << "an empty one is a configuration";
     EXPECT_FALSE(program_.Window().isVisible());
+}
+
+TEST_F(ProgramTest, NotesWhatWasSavedUntilAnotherScreenIsInFront) {
+    ASSERT_TRUE(Start());
+    MakeProject("A");
+    Click(Control(Controls::enterRooms));
+    TypeRoom("10", "12");
+    Click(Control(Controls::showReport));
+    const std::string name = "a report with a name that is longer than what the line has room for";
+    boxes_.Files = {folder_.Path(name + ".svg"), std::nullopt};
+    auto* save = program_.Window().findChild<QAction*>(QString::fromLatin1(Controls::reportAsSvg));
+    ASSERT_NE(save, nullptr);
+    save->trigger();
+    EXPECT_TRUE(Note().isVisible());
+    EXPECT_EQ(FromQt(Note().accessibleName()), "Saved: " + name + ".svg");
+    EXPECT_LE(Note().width(), program_.Window().width() / 2);
+    EXPECT_TRUE(program_.Window().rect().contains(Note().geometry()));
+    Click(Control(Controls::closeReport));
+    EXPECT_TRUE(Note().isVisible());
+    Click(Control(Controls::leaveRooms));
+    EXPECT_FALSE(Note().isVisible());
 }
 
 /// The program in an empty home.

@@ -64,13 +64,13 @@ TEST_F(RoomHistories, TakeBackAndMakeAgain) {
     const Rooms before = Now();
     history.Do(1, [&] { Now()[1].Remark = "hall"; });
     const Rooms after = Now();
-    EXPECT_EQ(history.UndoName(), "Change room 2");
+    EXPECT_EQ(history.UndoName(), "change room 2");
     EXPECT_EQ(history.RoomsAfterUndo(), before);
     EXPECT_EQ(Now(), after) << "nothing is taken back by a look";
     EXPECT_EQ(history.Undo(), 1U);
     EXPECT_EQ(Now(), before);
     EXPECT_EQ(history.UndoName(), "");
-    EXPECT_EQ(history.RedoName(), "Change room 2");
+    EXPECT_EQ(history.RedoName(), "change room 2");
     EXPECT_EQ(history.Redo(), 1U);
     EXPECT_EQ(Now(), after);
     EXPECT_FALSE(history.CanRedo());
@@ -81,7 +81,7 @@ TEST_F(RoomHistories, PutADeletedRoomBackWithAllThatItHad) {
     history.Do(1, [&] { Now()[1] = odd; });
     const Rooms before = Now();
     Delete(1);
-    EXPECT_EQ(history.UndoName(), "Delete room 2");
+    EXPECT_EQ(history.UndoName(), "delete room 2");
     EXPECT_EQ(history.Undo(), 1U);
     EXPECT_EQ(Now(), before);
     EXPECT_EQ(history.Redo(), 1U);
@@ -94,7 +94,7 @@ TEST_F(RoomHistories, ForgetWhatANewChangeReplaces) {
     history.Undo();
     Add(3);
     EXPECT_FALSE(history.CanRedo());
-    EXPECT_EQ(history.UndoName(), "New room 5");
+    EXPECT_EQ(history.UndoName(), "new room 5");
     history.Undo();
     history.Undo();
     EXPECT_EQ(Now(), open.Saved.Rooms);
@@ -142,7 +142,7 @@ TEST_F(RoomHistories, StayWhenTheSameRoomsAreLoadedAgain) {
     Save();
     Load();
     history.Follow();
-    EXPECT_EQ(history.UndoName(), "New room 4");
+    EXPECT_EQ(history.UndoName(), "new room 4");
 }
 
 TEST_F(RoomHistories, EndWithOtherRoomsOrAnotherProject) {
@@ -153,7 +153,7 @@ TEST_F(RoomHistories, EndWithOtherRoomsOrAnotherProject) {
     Add(2);
     open.Now.Name = "Q";
     Add(3);
-    EXPECT_EQ(history.UndoName(), "New room 6");
+    EXPECT_EQ(history.UndoName(), "new room 6");
     history.Undo();
     EXPECT_FALSE(history.CanUndo()) << "the steps of P are no steps of Q";
 }
@@ -173,7 +173,7 @@ TEST_F(RoomHistories, NoteWhatAnActionDidBeforeItFailed) {
                                 RaiseSubscript();
                             }),
                  RunTimeError);
-    EXPECT_EQ(history.UndoName(), "New room 4");
+    EXPECT_EQ(history.UndoName(), "new room 4");
 }
 
 TEST_F(RoomHistories, ForgetStepsThatWereTakenBackOtherwise) {
@@ -186,7 +186,7 @@ TEST_F(RoomHistories, ForgetStepsThatWereTakenBackOtherwise) {
     history.ForgetBehind(position);
     EXPECT_EQ(Now(), before);
     EXPECT_FALSE(history.CanRedo());
-    EXPECT_EQ(history.UndoName(), "New room 4");
+    EXPECT_EQ(history.UndoName(), "new room 4");
     history.Undo();
     EXPECT_EQ(Now(), open.Saved.Rooms);
     history.Redo();

@@ -190,8 +190,18 @@ struct ScreenTest : ::testing::Test {
     DraftKeeper drafts{open};
     Preferences kept;
     RoomHistory history{open};
-    Session session{open,    store,  page, boxes,   printing,
-                    screens, drafts, kept, history, [] { return QDate(2026, 3, 14); }};
+    std::vector<std::string> notes; ///< told in the window's line
+    Session session{open,
+                    store,
+                    page,
+                    boxes,
+                    printing,
+                    screens,
+                    drafts,
+                    kept,
+                    history,
+                    [] { return QDate(2026, 3, 14); },
+                    [this](const std::string& note) { notes.push_back(note); }};
 };
 
 } // namespace tarn::testing

@@ -40,6 +40,21 @@ DraftRecord FullRecord() {
     record.Content.Typed.In = Units::Metric;
     record.Content.Typed.New = Fields("new");
     record.Content.Typed.Changed = ChangedRoom{1, Room{1, 2, 3, 4, "5", "6"}, Fields("changed")};
+    TypedOrder& typed = record.Content.TypedOrders[3];
+    typed.In = Units::Metric;
+    typed.Rolls = {{"366 cm", "Shop \"1\"", "18,50"}, {"", "gr\xC3\xBC\xC3\x9F", ""}, {}};
+    typed.DownLay = false;
+    typed.CrossLay = typed.JoinRooms = typed.HalfDrop = true;
+    typed.Selvage = "1";
+    typed.TrimAlong = "2 ";
+    typed.TrimAcross = "x\"";
+    typed.MostParts = 6;
+    typed.ShortestPart = "4";
+    typed.PatternAcross = "5";
+    typed.PatternAlong = "6";
+    typed.PatternDrift = "7";
+    typed.Step = "8";
+    typed.Seconds = "9";
     return record;
 }
 
@@ -143,10 +158,30 @@ TEST(DraftText, IsRefusedWithNumbersThatDoNotFit) {
 TEST(DraftText, OfAnEarlierProgramHasNoOrders) {
     QJsonObject object = FullObject();
     object.remove(QStringLiteral("orders"));
+    object.remove(QStringLiteral("typedOrders"));
     const auto read = ReadDraftText(QJsonDocument(object).toJson().toStdString());
     ASSERT_TRUE(read);
     EXPECT_FALSE(read->Content.Orders) << "the stored ones";
+    EXPECT_TRUE(read->Content.TypedOrders.empty());
     EXPECT_EQ(read->Content.Rooms, FullRecord().Content.Rooms);
+}
+
+TEST(DraftText, IsRefusedWithChoicesOfAnOrderThatCannotBeShown) {
+    for (const auto& [name, value] : {std::pair{"carpet", QJsonValue(8)},
+                                      {"units", QJsonValue(QStringLiteral("yards"))},
+                                      {"rolls", QJsonValue(QJsonArray{QStringLiteral("x")})},
+                                      {"mostParts", QJsonValue(7)},
+                                      {"mostParts", QJsonValue(0)},
+                                      {"step", QJsonValue(8)},
+                                      {"downLay", QJsonValue()}}) {
+        QJsonObject object = FullObject();
+        QJsonArray orders = object[QStringLiteral("typedOrders")].toArray();
+        QJsonObject order = orders[0].toObject();
+        order[QLatin1String(name)] = value;
+        orders[0] = order;
+        object[QStringLiteral("typedOrders")] = orders;
+        EXPECT_FALSE(IsRead(object)) << name;
+    }
 }
 
 TEST(DraftText, IsRefusedWithAnOrderThatCannotBeReadOrIsNoCarpets) {

@@ -28,7 +28,7 @@ void PrintEstimate(Session& session, QObject& screen, const std::optional<Estima
 
 void SaveEstimateAsPdf(Session& session, const std::optional<Estimate>& estimate,
                        const Drawing& drawing) {
-    SaveAs(session.Boxes, session.Project.Now.Name, "pdf", [&](const std::string& path) {
+    SaveAs(session, session.Project.Now.Name, "pdf", [&](const std::string& path) {
         const EstimatePage page = PageOf(session, estimate, drawing, session.Page);
         WriteEstimatePdf(page, path);
         TellOfALostList(session.Boxes, page);
@@ -36,7 +36,7 @@ void SaveEstimateAsPdf(Session& session, const std::optional<Estimate>& estimate
 }
 
 void SaveEstimateAsSvg(Session& session, const Drawing& drawing, const std::string& title) {
-    SaveAs(session.Boxes, session.Project.Now.Name, "svg",
+    SaveAs(session, session.Project.Now.Name, "svg",
            [&](const std::string& path) { WriteOutputFile(path, SvgDocument(drawing, title)); });
 }
 

@@ -40,7 +40,8 @@ std::string DraftTime(const QDateTime& written, const QDate& today) {
 /// What a draft has, in a word.
 std::string ContentText(const Draft& draft) {
     if (!draft.Rooms) {
-        return draft.Orders ? "the choices of an order" : "a room that was being typed";
+        const bool isOrder = draft.Orders || draft.Typed.IsEmpty();
+        return isOrder ? "the choices of an order" : "a room that was being typed";
     }
     const std::size_t rooms = draft.Rooms->size();
     return TrimStr(static_cast<long long>(rooms)) + (rooms == 1 ? " room" : " rooms");
@@ -210,7 +211,7 @@ void MenuScreen::TakeBack(std::size_t place) {
     const KeptDraft draft = offered_.at(place);
     const std::string time = DraftTime(draft.Record.Written, Shared().Today());
     Shared().History.Do(
-        AnyRoom, [&] { Shared().Drafts.TakeBack(draft); }, "Take back rooms of " + time);
+        AnyRoom, [&] { Shared().Drafts.TakeBack(draft); }, "take back rooms of " + time);
     enterRooms_->setFocus(); // before the button goes
     ShowProject();
 }

@@ -68,7 +68,7 @@ void PrintOrder(Session& session, QObject& screen, const OrderDocument& document
 
 void SaveOrderAs(const Session& session, const OrderDocument& document, const OrderFile& file) {
     // Not the name under which the estimate is saved.
-    SaveAs(session.Boxes, document.Of.Name + " ORDER " + CarpetOf(document), file.Suffix,
+    SaveAs(session, document.Of.Name + " ORDER " + CarpetOf(document), file.Suffix,
            [&](const std::string& path) {
                const WaitCursor waiting;
                WriteOutputFile(path, file.ContentOf(session, document));

@@ -7,6 +7,7 @@
 #include "project/WallBase.h"
 #include "project/WholeLength.h"
 #include "screens/Arrangement.h"
+#include "screens/BoxPlace.h"
 #include "screens/ControlNames.h"
 #include "screens/Controls.h"
 #include "screens/Display.h"
@@ -238,6 +239,9 @@ QLabel* RoomEntryFrame::NewNote() {
     note_->setSizePolicy(policy);
     note_->ensurePolished(); // gives it the type that it is measured in
     note_->setMinimumHeight(2 * note_->fontMetrics().lineSpacing());
+    for (int i = 0; i < SizeTexts; ++i) {
+        SetNoteOn(Text(i), *note_);
+    }
     return note_;
 }
 

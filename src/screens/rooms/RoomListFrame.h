@@ -40,8 +40,8 @@ class RoomListFrame : public QFrame {
     void NoteRooms();
 
     /// Where it stands on a screen of that size: to the right of the form where its columns fit,
-    /// else below the form and what is under it, where a few rows fit. Nothing when there is no
-    /// room for it.
+    /// else below the form and what is under it, where some rows fit. Nothing when there is no room
+    /// for it.
     std::optional<RoomListPlace> PlaceBeside(QSize screen, const QRect& form, int under) const;
     void StandAt(const RoomListPlace& place);
     /// Have the totals below the table again.

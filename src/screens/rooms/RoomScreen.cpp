@@ -217,14 +217,28 @@ QWidget* RoomScreen::FirstFocus() {
     return &entry_->Text(RoomEntryFrame::WidthMajor);
 }
 
+std::optional<RoomListPlace> RoomScreen::ListPlace(const Places& form) const {
+    return width() < Pixels(WideWindow)
+               ? std::nullopt
+               : list_->PlaceBeside(Body().size(), form.Panel, form.Below.bottom() + 1);
+}
+
+bool RoomScreen::StandsHigh(const QWidget& panel, const Places& middle, const Places& high) const {
+    if (list_ == nullptr || &panel != entry_) {
+        return false; // it is not made yet, or not below that
+    }
+    const auto isBelow = [](const std::optional<RoomListPlace>& list, const Places& form) {
+        return list && list->Area.top() > form.Panel.bottom();
+    };
+    const auto list = ListPlace(middle);
+    return (!list || isBelow(list, middle)) && isBelow(ListPlace(high), high);
+}
+
 void RoomScreen::OnArranged() {
     if (list_ == nullptr || IsReportShown()) {
         return; // it is not made yet, or hidden with the form
     }
-    const Places form = PlacesOf(*entry_);
-    const auto place = width() < Pixels(WideWindow)
-                           ? std::nullopt
-                           : list_->PlaceBeside(Body().size(), form.Panel, form.Below.bottom() + 1);
+    const auto place = ListPlace(PlacesOf(*entry_));
     const bool hadFocus = list_->isAncestorOf(focusWidget());
     if (place && IsListAlone()) {
         ShowForm(); // the list comes beside it
@@ -645,13 +659,13 @@ void RoomScreen::PrintReport() {
 }
 
 void RoomScreen::SaveReportAsPdf() {
-    SaveAs(Shared().Boxes, Shared().Project.Now.Name, "pdf", [this](const std::string& path) {
+    SaveAs(Shared(), Shared().Project.Now.Name, "pdf", [this](const std::string& path) {
         WriteReportPdf(report_->Shown(), path, PaperOf(Shared().Page));
     });
 }
 
 void RoomScreen::SaveReportAsSvg() {
-    SaveAs(Shared().Boxes, Shared().Project.Now.Name, "svg",
+    SaveAs(Shared(), Shared().Project.Now.Name, "svg",
            [this](const std::string& path) { WriteOutputFile(path, ReportSvg(report_->Shown())); });
 }
 

@@ -16,6 +16,7 @@ namespace tarn {
 class ReportFrame;
 class RoomEntryFrame;
 class RoomListFrame;
+struct RoomListPlace;
 class UndoMenu;
 
 /// The room entry: the rooms of the open project, typed one at a time, their list and their report.
@@ -36,10 +37,14 @@ class RoomScreen : public TitledScreen {
     std::string_view GuidePage() const override;
     void OnCloseByFrame() override { Leave(); }
     void OnUncover() override;
+    /// Where the list stands below it the form makes room for that.
+    bool StandsHigh(const QWidget& panel, const Places& middle, const Places& high) const override;
     void OnArranged() override;
     QWidget* FirstFocus() override;
 
   private:
+    /// Where the list stands beside the form; nothing where it has no room there.
+    std::optional<RoomListPlace> ListPlace(const Places& form) const;
     void MakeMenu();
     void MakeButtonsBelow();
     void MakeKeys();
@@ -61,7 +66,7 @@ class RoomScreen : public TitledScreen {
     /// Take what stands in the fields for the typing of the open project, unless it is what the
     /// room has, and tell the draft.
     void KeepTyping();
-    /// Show in the list and in the Edit menu what the fields would be stored as.
+    /// Show in the list and in the Undo menu what the fields would be stored as.
     void ShowTyped();
     /// What the fields would be stored as; nothing when they would not be.
     std::optional<Room> Typed() const;

@@ -27,7 +27,7 @@ constexpr const char* LongRemark = "The second room on the left behind the hall,
 
 constexpr double CellPadding = 90; // twips, on each side
 constexpr double RowPadding = 75;  // twips, above and below together
-constexpr double FrameLine = 30;
+constexpr double FrameLine = 45;
 
 } // namespace
 
@@ -137,6 +137,30 @@ QSize RoomTable::minimumSizeHint() const {
 QItemSelectionModel::SelectionFlags RoomTable::selectionCommand(const QModelIndex& /*index*/,
                                                                 const QEvent* /*event*/) const {
     return QItemSelectionModel::NoUpdate;
+}
+
+/// The frame is around the whole row, and the toolkit paints the cell alone.
+void RoomTable::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
+    QTableView::currentChanged(current, previous);
+    viewport()->update();
+}
+
+void RoomTable::resizeEvent(QResizeEvent* event) {
+    QTableView::resizeEvent(event);
+    BringSelectedIntoView();
+}
+
+/// While it was hidden the screen may have got another size.
+void RoomTable::showEvent(QShowEvent* event) {
+    QTableView::showEvent(event);
+    BringSelectedIntoView();
+}
+
+void RoomTable::BringSelectedIntoView() {
+    const auto rows = selectionModel()->selectedRows();
+    if (!rows.isEmpty()) {
+        scrollTo(rows.front());
+    }
 }
 
 void RoomTable::keyPressEvent(QKeyEvent* event) {

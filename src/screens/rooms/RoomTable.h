@@ -42,7 +42,10 @@ class RoomTable : public QTableView {
   protected:
     QItemSelectionModel::SelectionFlags
     selectionCommand(const QModelIndex& index, const QEvent* event = nullptr) const override;
+    void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void showEvent(QShowEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void changeEvent(QEvent* event) override;
@@ -50,6 +53,7 @@ class RoomTable : public QTableView {
     void focusOutEvent(QFocusEvent* event) override;
 
   private:
+    void BringSelectedIntoView();
     void FitColumns();
     int WidthOf(const QString& text) const;
     int WidthBeside(int remark) const;

@@ -51,8 +51,7 @@ void ShowItem(QAction& item, const char* caption, const std::string& name) {
 UndoMenu::UndoMenu(QMenuBar& menus, QObject* parent, const std::function<void()>& undo,
                    const std::function<void()>& redo)
     : QObject(parent) {
-    // Every letter of its name is taken on this screen.
-    QMenu* menu = menus.addMenu(QStringLiteral("Edit"));
+    QMenu* menu = menus.addMenu(QStringLiteral("&Undo"));
     menu->setObjectName(Controls::editMenu);
     undo_ = AddItem(*menu, Controls::undoRooms, undo);
     redo_ = AddItem(*menu, Controls::redoRooms, redo);

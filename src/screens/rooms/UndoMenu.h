@@ -12,7 +12,7 @@ class QMenuBar;
 
 namespace tarn {
 
-/// The Edit menu of the room entry: Undo and Redo of the rooms, which say what they do, with their
+/// The Undo menu of the room entry: Undo and Redo of the rooms, which say what they do, with their
 /// keys. In a field the keys first take back, or make again, the typing in it.
 class UndoMenu : public QObject {
   public:

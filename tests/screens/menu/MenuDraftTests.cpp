@@ -119,7 +119,7 @@ TEST_F(MenuDrafts, AreAStepOfTheRoomsHistory) {
     Load();
     const Project before = open.Now;
     Click(Button(Controls::takeBack));
-    EXPECT_EQ(history.UndoName(), "Take back rooms of 13 Mar 14:05");
+    EXPECT_EQ(history.UndoName(), "take back rooms of 13 Mar 14:05");
     history.Undo();
     EXPECT_EQ(open.Now, before);
     history.Redo();

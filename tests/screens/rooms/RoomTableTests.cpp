@@ -1,6 +1,7 @@
 // The room entry screen: the list of the rooms and its totals.
 
 #include "base/RunTimeError.h"
+#include "screens/Theme.h"
 #include "screens/rooms/RoomListFrame.h"
 #include "screens/rooms/RoomScreenTesting.h"
 #include "screens/rooms/RoomTable.h"
@@ -8,6 +9,7 @@
 
 #include <QAccessible>
 #include <QHeaderView>
+#include <QImage>
 #include <QScrollBar>
 #include <QSignalSpy>
 
@@ -349,6 +351,7 @@ TEST_F(RoomTables, StandBelowTheFormWhereTheyDoNot) {
         EXPECT_TRUE(List().isVisible());
         EXPECT_GT(List().y(), save.mapTo(List().parentWidget(), QPoint()).y() + save.height());
         EXPECT_LT(List().geometry().bottom(), List().parentWidget()->height());
+        EXPECT_GE(Table().viewport()->height(), 8 * Table().rowHeight(0)) << "the form makes room";
         EXPECT_FALSE(Switch().isVisible());
         form->close();
     }
@@ -363,10 +366,59 @@ TEST_F(RoomTables, TakeNothingFromTheForm) {
     form->resize(1101, form->height());
     EXPECT_TRUE(QTest::qWaitFor([&] { return List().isVisible(); }));
     EXPECT_FALSE(Switch().isVisible());
-    EXPECT_EQ(Find(*form, Controls::roomPanel).geometry(), frame.translated(1, 0));
+    const QRect above = Find(*form, Controls::roomPanel).geometry();
+    EXPECT_EQ(above, frame.translated(1, above.y() - frame.y())) << "in the middle, and as large";
+    EXPECT_LT(above.y(), frame.y()) << "the list has the height below it";
     form->resize(1101, 500);
     EXPECT_TRUE(QTest::qWaitFor([&] { return !List().isVisible(); })) << "there is no room below";
     EXPECT_TRUE(Switch().isVisible());
+}
+
+TEST_F(RoomTables, HaveTheShownRoomInSightWheneverTheyAreShown) {
+    AddRooms(60);
+    Open(1366, 768);
+    const auto sees = [this](int row) {
+        const QRect cell = Table().visualRect(Table().model()->index(row, 0));
+        return !cell.isEmpty() && Table().viewport()->rect().contains(cell);
+    };
+    EXPECT_TRUE(sees(60)) << "the new room";
+    form->hide();
+    form->resize(1366, 650);
+    form->show();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return sees(60); }));
+    Table().scrollToTop();
+    ASSERT_FALSE(sees(60));
+    form->setEnabled(false);
+    form->hide();
+    form->setEnabled(true);
+    form->show();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return sees(60); })) << "as when another screen was above";
+}
+
+TEST_F(RoomTables, ShowTheWholeRowThatTheKeysActOn) {
+    AddRooms(10);
+    Open(1366, 768);
+    Focus(Table());
+    const auto hasFrame = [this](int row, int column) {
+        const QRect cell = Table().visualRect(Table().model()->index(row, column));
+        const QImage image = Table().viewport()->grab().toImage();
+        const QPoint middle(cell.center().x(), cell.top() + 1);
+        return image.pixelColor(middle * image.devicePixelRatio()) == CurrentColours().Accent;
+    };
+    const int last = Table().model()->columnCount() - 1;
+    Press(*form, Qt::Key_Up);
+    Press(*form, Qt::Key_Up);
+    const int row = Table().currentIndex().row();
+    ASSERT_EQ(row, 8);
+    for (const int column : {0, 4, last}) {
+        EXPECT_TRUE(hasFrame(row, column)) << column;
+        EXPECT_FALSE(hasFrame(row - 1, column)) << column;
+    }
+    Press(*form, Qt::Key_Up);
+    for (const int column : {0, 4, last}) {
+        EXPECT_TRUE(hasFrame(row - 1, column)) << column;
+        EXPECT_FALSE(hasFrame(row, column)) << column;
+    }
 }
 
 class TableOnEveryDisplay : public RoomTables,

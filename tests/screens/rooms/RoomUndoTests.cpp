@@ -52,23 +52,23 @@ struct UndoingRooms : RoomScreenTest {
 TEST_F(UndoingRooms, HaveAMenuThatNamesThem) {
     Open();
     const auto& menu = Find<QMenu>(*form, Controls::editMenu);
-    EXPECT_EQ(menu.title(), QStringLiteral("Edit"));
+    EXPECT_EQ(menu.title(), QStringLiteral("&Undo"));
     EXPECT_EQ(Items(), (Lines{"(Undo)", "(Redo)"}));
     EXPECT_EQ(Item(Controls::undoRooms).shortcut(), QKeySequence(QStringLiteral("Ctrl+Z")));
     EXPECT_EQ(Item(Controls::redoRooms).shortcut(), QKeySequence(QStringLiteral("Ctrl+Y")));
     ClickOn(Controls::previousRoom);
     EXPECT_EQ(Items(), (Lines{"(Undo)", "(Redo)"}));
     TypeInto(6, "!");
-    EXPECT_EQ(Items(), (Lines{"Undo Change room 3", "(Redo)"})) << "as it would be stored";
+    EXPECT_EQ(Items(), (Lines{"Undo change room 3", "(Redo)"})) << "as it would be stored";
     ClickOn(Controls::previousRoom);
-    EXPECT_EQ(Items(), (Lines{"Undo Change room 3", "(Redo)"}));
+    EXPECT_EQ(Items(), (Lines{"Undo change room 3", "(Redo)"}));
     boxes.YesNo = {true};
     ClickOn(Controls::deleteRoom);
-    EXPECT_EQ(Items(), (Lines{"Undo Delete room 2", "(Redo)"}));
+    EXPECT_EQ(Items(), (Lines{"Undo delete room 2", "(Redo)"}));
     Item(Controls::undoRooms).trigger();
-    EXPECT_EQ(Items(), (Lines{"Undo Change room 3", "Redo Delete room 2"}));
+    EXPECT_EQ(Items(), (Lines{"Undo change room 3", "Redo delete room 2"}));
     Item(Controls::undoRooms).trigger();
-    EXPECT_EQ(Items(), (Lines{"(Undo)", "Redo Change room 3"}));
+    EXPECT_EQ(Items(), (Lines{"(Undo)", "Redo change room 3"}));
 }
 
 TEST_F(UndoingRooms, AreFoundByTheMouse) {
@@ -302,10 +302,10 @@ TEST_F(UndoingRooms, ForgetTheRoomOfASaveThatFails) {
     ClickOn(Controls::saveRooms);
     ASSERT_EQ(boxes.Messages.size(), 1U);
     EXPECT_EQ(open.Now.Rooms.at(1).Remark, "");
-    EXPECT_EQ(Items()[0], "Undo Change room 2") << "which is typed, and not stored";
+    EXPECT_EQ(Items()[0], "Undo change room 2") << "which is typed, and not stored";
     Undo();
     EXPECT_EQ(Texts()[6], "");
-    EXPECT_EQ(Items()[0], "Undo Change room 3");
+    EXPECT_EQ(Items()[0], "Undo change room 3");
 }
 
 TEST_F(UndoingRooms, GoOnWhenTheScreenOpensAgain) {
@@ -315,7 +315,7 @@ TEST_F(UndoingRooms, GoOnWhenTheScreenOpensAgain) {
     ClickOn(Controls::leaveRooms);
     EXPECT_EQ(open.Now.Rooms.at(2).Remark, "hall");
     Open();
-    EXPECT_EQ(Items(), (Lines{"Undo Change room 3", "(Redo)"}));
+    EXPECT_EQ(Items(), (Lines{"Undo change room 3", "(Redo)"}));
     Undo();
     EXPECT_EQ(open.Now.Rooms, open.Saved.Rooms);
     form->close();
