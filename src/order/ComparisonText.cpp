@@ -62,6 +62,37 @@ std::string TakenText(const Order& order, std::size_t row) {
            " in one length without a join";
 }
 
+std::string RuleOfBest(const Order& order) {
+    if (!order.Best) {
+        return {};
+    }
+    bool isAnyPriced = false;
+    std::vector<std::size_t> unpriced; // rolls, each once
+    for (const OrderCandidate& candidate : order.Candidates) {
+        if (!candidate.Figures) {
+            continue;
+        }
+        if (candidate.Figures->Price) {
+            isAnyPriced = true;
+        } else if (unpriced.empty() || unpriced.back() != candidate.Roll) {
+            unpriced.push_back(candidate.Roll);
+        }
+    }
+    if (unpriced.empty()) {
+        return "Best is the least price; of equal ones, the shortest seams and joins.";
+    }
+    if (!isAnyPriced) {
+        return "Best is the least carpet, for no roll has a price; of equal ones, the shortest "
+               "seams "
+               "and joins.";
+    }
+    std::string names;
+    for (const std::size_t roll : unpriced) {
+        names += (names.empty() ? "" : ", ") + RollName(order.Request.Rolls.at(roll));
+    }
+    return "Best is the least carpet, for these rolls have no price: " + names + ".";
+}
+
 std::string RemarksOf(const OrderCandidate& candidate) {
     if (!candidate.Figures) {
         return candidate.Refused;

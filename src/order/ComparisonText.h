@@ -23,6 +23,10 @@ std::string AboveLeastText(const OrderCandidate& candidate);
 /// join". One that is not the best is told as chosen. It must have figures.
 std::string TakenText(const Order& order, std::size_t row);
 
+/// By what the best row is the best: the least price, or where a roll has none the least carpet,
+/// and then which. Empty while there is no best row.
+std::string RuleOfBest(const Order& order);
+
 /// Why a row is refused, or what there is to note on it, a line each; empty for nothing.
 std::string RemarksOf(const OrderCandidate& candidate);
 

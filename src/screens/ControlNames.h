@@ -225,6 +225,7 @@ inline constexpr const char* orderRefusal = "OrderRefusal";
 inline constexpr const char* comparisonPanel = "ComparisonPanel";
 inline constexpr const char* comparisonState = "ComparisonState";
 inline constexpr const char* comparisonTaken = "ComparisonTaken";
+inline constexpr const char* comparisonRule = "ComparisonRule";
 inline constexpr const char* comparison = "Comparison";
 inline constexpr const char* comparisonRemarks = "ComparisonRemarks";
 inline constexpr const char* compare = "Compare";

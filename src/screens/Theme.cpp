@@ -72,6 +72,7 @@ QPushButton[textRole="Hint"] { background: transparent; color: @Muted; padding: 
     border-color: transparent; min-height: 0; }
 QPushButton:hover { background: @Window; }
 QPushButton[textRole="Hint"]:hover { border-color: @Border; color: @Text; }
+QPushButton[textRole="Hint"]:disabled { background: transparent; border-color: transparent; }
 QPushButton:pressed { background: @Border; color: @Text; }
 QPushButton:disabled { color: @Disabled; background: @Surface; border-color: @Border; }
 QPushButton[primary="true"] { background: @Accent; color: @AccentText; border-color: @Accent;

@@ -88,5 +88,28 @@ TEST(ComparisonText, TellsTheBestFromARowThatWasChosen) {
     EXPECT_EQ(RemarksOf(order.Candidates[1]), "Nothing is allowed for trimming.\nOne more.");
 }
 
+TEST(ComparisonText, TellsByWhatTheBestIsTheBest) {
+    Order order = Example();
+    order.Request.Rolls.push_back({200, "Fair", "200in", 0.0});
+    order.Candidates.push_back({1, 180, 180, Lay::Cross, "", Figures(200, 200, 36000), {}});
+    order.Candidates.push_back({2, 200, 200, Lay::Down, "", Figures(200, 200, 40000), {}});
+    EXPECT_EQ(RuleOfBest(order), "Best is the least carpet, for these rolls have no price: 15ft, "
+                                 "Fair 200in.");
+    order.Candidates[1].Figures->Price.reset();
+    EXPECT_EQ(RuleOfBest(order),
+              "Best is the least carpet, for no roll has a price; of equal ones, "
+              "the shortest seams and joins.");
+    for (OrderCandidate& candidate : order.Candidates) {
+        if (candidate.Figures) {
+            candidate.Figures->Price = 100;
+        }
+    }
+    EXPECT_EQ(RuleOfBest(order),
+              "Best is the least price; of equal ones, the shortest seams and joins.")
+        << "a refused row does not count";
+    order.Best.reset();
+    EXPECT_EQ(RuleOfBest(order), "");
+}
+
 } // namespace
 } // namespace tarn

@@ -158,6 +158,10 @@ class Walk {
             parts.setCurrentIndex(part);
             Visit("order, part " + std::to_string(part + 1));
         }
+        Control<QLineEdit>(Controls::orderPatternAcross).setText(QStringLiteral("7"));
+        Control<QLineEdit>(Controls::orderStep).setText(QStringLiteral("9,5"));
+        Press(Controls::compare);
+        Visit("order, refused");
     }
 
     Units units_;

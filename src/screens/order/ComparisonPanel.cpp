@@ -37,8 +37,10 @@ QString Shortened(const QString& remarks) {
     return remarks.size() <= Most ? remarks : remarks.left(Most) + QChar(0x2026);
 }
 
+} // namespace
+
 /// As high as its rows, where they are not many.
-class RowsHighTable : public QTableWidget {
+class ComparisonPanel::ComparisonTable : public QTableWidget {
   public:
     using QTableWidget::QTableWidget;
 
@@ -49,14 +51,36 @@ class RowsHighTable : public QTableWidget {
     QSize minimumSizeHint() const override {
         return {QTableWidget::minimumSizeHint().width(), HeightFor(LeastRows)};
     }
+    /// Make the columns as wide as what is in them; the last one, the notes, has what is left.
+    /// Those of the row that one is on stand below the table, whole.
+    void FitColumns() {
+        resizeColumnsToContents();
+        FitNotes();
+    }
+
+  protected:
+    void resizeEvent(QResizeEvent* event) override {
+        QTableWidget::resizeEvent(event);
+        FitNotes();
+    }
 
   private:
+    void FitNotes() {
+        const int notes = columnCount() - 1;
+        if (notes >= 0) {
+            const int others = horizontalHeader()->length() - columnWidth(notes);
+            setColumnWidth(notes, std::max(horizontalHeader()->sectionSizeHint(notes),
+                                           viewport()->width() - others));
+        }
+    }
     int HeightFor(int rows) const {
         return 2 * frameWidth() + horizontalHeader()->sizeHint().height() +
                rows * verticalHeader()->defaultSectionSize() +
                horizontalScrollBar()->sizeHint().height();
     }
 };
+
+namespace {
 
 /// A row of the table from one of the comparison: what is decided by comes first, what one looks up
 /// is behind it.
@@ -103,7 +127,8 @@ ComparisonPanel::ComparisonPanel(QWidget* parent)
     : QWidget(parent) {
     setObjectName(Controls::comparisonPanel);
     taken_ = NewLine(this, Controls::comparisonTaken, TextRole::Heading);
-    table_ = new RowsHighTable(this);
+    rule_ = NewLine(this, Controls::comparisonRule, TextRole::Hint);
+    table_ = new ComparisonTable(this);
     NameControl(*table_, Controls::comparison, QStringLiteral("Comparison of rolls and lays"));
     table_->setTabKeyNavigation(false); // it leads on to the next control
     table_->setEditTriggers(QAbstractItemView::NoEditTriggers);
@@ -125,9 +150,14 @@ ComparisonPanel::ComparisonPanel(QWidget* parent)
     auto* rows = new QVBoxLayout(this);
     SetSpacing(*rows, 0, Metrics::Spacing / 2);
     rows->addWidget(taken_);
+    rows->addWidget(rule_);
     rows->addWidget(table_, 1);
     rows->addWidget(remarks_);
     Clear();
+}
+
+QTableWidget& ComparisonPanel::Table() {
+    return *table_;
 }
 
 void ComparisonPanel::Show(const Order& order, std::optional<std::size_t> taken) {
@@ -142,7 +172,7 @@ void ComparisonPanel::Show(const Order& order, std::optional<std::size_t> taken)
     for (std::size_t row = 0; row < order.Candidates.size(); ++row) {
         SetCells(order, row, taken == row);
     }
-    table_->resizeColumnsToContents();
+    table_->FitColumns();
     if (taken && static_cast<int>(*taken) != table_->currentRow()) {
         table_->setCurrentCell(static_cast<int>(*taken), std::max(table_->currentColumn(), 0));
     }
@@ -153,6 +183,9 @@ void ComparisonPanel::ShowTaken(const Order& order, std::optional<std::size_t> t
     const bool hasFigures = taken && order.Candidates[*taken].Figures;
     SetText(*taken_, hasFigures ? TakenText(order, *taken) : std::string());
     taken_->setVisible(hasFigures);
+    const std::string rule = RuleOfBest(order);
+    SetText(*rule_, rule);
+    rule_->setVisible(!rule.empty());
     const std::string remarks = taken ? RemarksOf(order.Candidates[*taken]) : std::string();
     SetText(*remarks_, remarks);
     remarks_->setText(Shortened(remarks_->text()));
@@ -164,6 +197,7 @@ void ComparisonPanel::Clear() {
     const QSignalBlocker silent(table_);
     table_->setRowCount(0);
     taken_->hide();
+    rule_->hide();
     remarks_->hide();
 }
 

@@ -13,8 +13,8 @@ class QTableWidgetItem;
 
 namespace tarn {
 
-/// The comparison of rolls and lays as a table, above it the row that is taken in words, and below
-/// it what there is to remark on that.
+/// The comparison of rolls and lays as a table, above it the row that is taken in words, with the
+/// rule by which one is the best, and below it what there is to remark on that row.
 class ComparisonPanel : public QWidget {
   public:
     explicit ComparisonPanel(QWidget* parent);
@@ -24,19 +24,22 @@ class ComparisonPanel : public QWidget {
     /// Show no comparison.
     void Clear();
 
-    QTableWidget& Table() { return *table_; }
+    QTableWidget& Table();
 
     /// The user went to another row. Must not raise.
     std::function<void(std::size_t)> OnRow = [](std::size_t) {};
 
   private:
+    class ComparisonTable;
+
     void SetHeads(Units units);
     void SetCells(const Order& order, std::size_t row, bool isTaken);
     void ShowTaken(const Order& order, std::optional<std::size_t> taken);
     QTableWidgetItem& Cell(int row, int column);
 
     QLabel* taken_ = nullptr;
-    QTableWidget* table_ = nullptr;
+    QLabel* rule_ = nullptr;
+    ComparisonTable* table_ = nullptr;
     QLabel* remarks_ = nullptr;
 };
 

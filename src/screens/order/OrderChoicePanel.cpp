@@ -27,6 +27,7 @@ namespace {
 
 constexpr double FieldWidth = 1150; ///< twips
 constexpr int LongestText = 20;     ///< characters of a field
+constexpr int RefusalLines = 2;     ///< kept free, so that nothing jumps
 constexpr const char* PatternHint =
     "Across is the distance to the next column of the pattern. With a half drop, which sets it "
     "half a repeat further along, that is half the repeat of makers who name the whole design.";
@@ -93,6 +94,11 @@ OrderChoicePanel::OrderChoicePanel(QWidget* parent, Units units)
     refusal_ = NewLabel(this, Controls::orderRefusal, {});
     SetRole(*refusal_, TextRole::Warning);
     refusal_->setWordWrap(true);
+    refusal_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    refusal_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    refusal_->ensurePolished(); // gives it the type that it is measured in
+    refusal_->setMinimumHeight(RefusalLines * refusal_->fontMetrics().lineSpacing());
+    KeepRoom(*refusal_);
     refusal_->hide();
     auto* rows = new QVBoxLayout(this);
     SetSpacing(*rows, Metrics::Spacing);
@@ -172,11 +178,12 @@ QBoxLayout* OrderChoicePanel::BuildFields() {
     halfDrop_ = NewBox(Controls::orderHalfDrop, "HALF DROP", 'F');
     addBox(halfDrop_, HalfDropRow, 1);
     add("pattern drift");
-    auto* hint = NewLabel(this, Controls::orderPatternHint, PatternHint);
-    SetRole(*hint, TextRole::Hint);
-    hint->setWordWrap(true);
-    hint->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // the fields are wide enough
-    grid->addWidget(hint, HintRow, 0, 1, 2);
+    patternHint_ = NewLabel(this, Controls::orderPatternHint, PatternHint);
+    SetRole(*patternHint_, TextRole::Hint);
+    patternHint_->setWordWrap(true);
+    // The fields are wide enough.
+    patternHint_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    grid->addWidget(patternHint_, HintRow, 0, 1, 2);
     add("seconds");
     auto* rows = new QVBoxLayout;
     rows->addLayout(grid);
@@ -217,8 +224,10 @@ void OrderChoicePanel::Connect() {
         connect(field, &QLineEdit::editingFinished, this, [this] { OnSettled(); });
         connect(field, &QLineEdit::returnPressed, this, [this] { OnEnter(); });
     }
-    connect(fields_.at("pattern along"), &QLineEdit::textChanged, this,
-            [this] { ShowUsualDrift(); });
+    for (const char* option : {"pattern across", "pattern along"}) {
+        connect(fields_.at(option), &QLineEdit::textChanged, this, [this] { NotePattern(); });
+    }
+    connect(halfDrop_, &QCheckBox::toggled, this, [this] { NotePattern(); });
     rolls_->OnChange = settle;
     for (QCheckBox* box : {down_, cross_, join_, halfDrop_}) {
         connect(box, &QCheckBox::toggled, this, settle);
@@ -257,7 +266,7 @@ void OrderChoicePanel::Show(const TypedOrder& typed) {
     join_->setChecked(typed.JoinRooms);
     halfDrop_->setChecked(typed.HalfDrop);
     showing_ = false;
-    ShowUsualDrift();
+    NotePattern();
 }
 
 TypedOrder OrderChoicePanel::Typed() {
@@ -275,12 +284,16 @@ TypedOrder OrderChoicePanel::Typed() {
     return typed;
 }
 
-/// What stands for the drift while nothing is typed goes with the pattern.
-void OrderChoicePanel::ShowUsualDrift() {
+/// What stands for the drift while nothing is typed goes with the pattern; and only where there is
+/// one it has to be told how a pattern is measured.
+void OrderChoicePanel::NotePattern() {
     TypedOrder pattern;
     pattern.In = units_;
+    pattern.PatternAcross = FromQt(fields_.at("pattern across")->text());
     pattern.PatternAlong = FromQt(fields_.at("pattern along")->text());
+    pattern.HalfDrop = halfDrop_->isChecked();
     fields_.at("pattern drift")->setPlaceholderText(ToQt(UsualDriftText(pattern)));
+    patternHint_->setVisible(HasPattern(pattern));
 }
 
 void OrderChoicePanel::ShowNote(std::string_view note) {

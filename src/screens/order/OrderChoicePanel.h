@@ -37,7 +37,8 @@ class OrderChoicePanel : public QFrame {
 
     /// What there is to say of the choices shown; empty for nothing.
     void ShowNote(std::string_view note);
-    /// Say under the fields why the choices are not taken; nothing for an empty reason.
+    /// Say under the fields why the choices are not taken; nothing for an empty reason. Nothing
+    /// moves for it.
     void ShowRefusal(std::string_view reason);
     /// Take the focus to the field of a fault.
     void FocusFault(const OrderRequestFault& fault);
@@ -64,7 +65,7 @@ class OrderChoicePanel : public QFrame {
     QCheckBox* NewBox(const char* name, std::string_view caption, char mnemonic);
     void OfferParts();
     void Connect();
-    void ShowUsualDrift();
+    void NotePattern();
 
     Units units_;
     bool showing_ = false; ///< what changes is not the user's doing
@@ -77,6 +78,7 @@ class OrderChoicePanel : public QFrame {
     QComboBox* parts_ = nullptr;
     QCheckBox* join_ = nullptr;
     QCheckBox* halfDrop_ = nullptr;
+    QLabel* patternHint_ = nullptr;
     QLabel* refusal_ = nullptr;
     std::map<std::string, QLineEdit*> fields_; ///< by their options
     std::vector<QWidget*> tabOrder_;

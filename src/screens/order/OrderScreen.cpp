@@ -260,10 +260,7 @@ void OrderScreen::Begin(std::optional<Byte> carpet) {
 void OrderScreen::OpenCarpet(Byte carpet) {
     DropComparison();
     carpet_ = carpet;
-    const CarpetRequest request = RequestFor(Shared().Project.Now.Orders, carpet, ShownUnits());
-    choices_->Show(TypedOf(request.Value));
-    choices_->ShowNote(request.InOtherUnits ? OtherUnitsNote(ShownUnits()) : std::string());
-    choices_->ShowRefusal({});
+    ShowChoices();
     asked_ = RequestOf(choices_->Typed());
     if (const auto* asked = std::get_if<OrderRequest>(&asked_)) {
         Start(*asked);
@@ -272,16 +269,32 @@ void OrderScreen::OpenCarpet(Byte carpet) {
     }
 }
 
-/// A change ends the comparison that it does not count for, and is kept as soon as it makes sense.
+/// What was typed last, where it could not be taken; else the request that is kept, or offered.
+void OrderScreen::ShowChoices() {
+    const OpenProject& project = Shared().Project;
+    const CarpetRequest request = RequestFor(project.Now.Orders, carpet_, ShownUnits());
+    const auto typed = project.TypedOrders.find(carpet_);
+    const bool hasTyped = typed != project.TypedOrders.end() && typed->second.In == ShownUnits();
+    choices_->Show(hasTyped ? typed->second : TypedOf(request.Value));
+    choices_->ShowNote(request.InOtherUnits ? OtherUnitsNote(ShownUnits()) : std::string());
+    choices_->ShowRefusal({});
+}
+
+/// A change ends the comparison that it does not count for. What makes sense is kept as a request,
+/// anything else as it is typed.
 void OrderScreen::NoteChoices() {
-    asked_ = RequestOf(choices_->Typed());
+    OpenProject& project = Shared().Project;
+    const TypedOrder typed = choices_->Typed();
+    asked_ = RequestOf(typed);
     if (const auto* asked = std::get_if<OrderRequest>(&asked_)) {
-        OpenProject& project = Shared().Project;
         KeepRequest(project.Now.Orders, project.Saved.Orders, carpet_, *asked);
-        Shared().Drafts.NoteChange();
+        project.TypedOrders.erase(carpet_);
         choices_->ShowNote({});
         choices_->ShowRefusal({});
+    } else {
+        project.TypedOrders.insert_or_assign(carpet_, typed);
     }
+    Shared().Drafts.NoteChange();
     if (run_ && !IsComparedRequest()) {
         StopComparing();
     }

@@ -64,6 +64,7 @@ class OrderScreen : public Screen {
     Units ShownUnits() const { return Shared().Project.Shown; }
     void Begin(std::optional<Byte> carpet);
     void OpenCarpet(Byte carpet);
+    void ShowChoices();
     void NoteChoices();
     void Settle();
     void Compare();

@@ -138,6 +138,36 @@ TEST_F(OrderScreenChoices, AreInTheDraftAndSavedWithTheProject) {
     EXPECT_THAT(NewRun().Of("MAPLE STREET 9"), IsEmpty());
 }
 
+TEST_F(OrderScreenChoices, ThatCannotBeTakenStandInTheFieldsAgainAndInTheDraft) {
+    Add(300, 400, 2);
+    Keep(2, {Roll(144, "12ft")});
+    OpenQuick();
+    Fill(Controls::orderStep, "9,5");
+    FillRoll(0, 2, "18,50");
+    TypeRoll(1, 1, "Fair");
+    Click(Button(Controls::leaveOrder));
+    form.reset();
+    ASSERT_EQ(NewRun().Of("MAPLE STREET 9").size(), 1U);
+    EXPECT_EQ(NewRun().Of("MAPLE STREET 9")[0].Record.Content.TypedOrders, open.TypedOrders);
+    Open();
+    EXPECT_EQ(FromQt(Field(Controls::orderStep).text()), "9,5");
+    EXPECT_EQ(Cell(Rolls(), 0, 2), "18,50");
+    EXPECT_EQ(Cell(Rolls(), 1, 1), "Fair");
+    EXPECT_THAT(Refusal(), HasSubstr("18,50"));
+    EXPECT_EQ(Table().rowCount(), 0);
+    QTest::keyClick(&Control(Controls::orderCarpet), Qt::Key_Down);
+    EXPECT_EQ(FromQt(Field(Controls::orderStep).text()), "3in") << "another carpet's own";
+    EXPECT_EQ(Refusal(), "");
+    QTest::keyClick(&Control(Controls::orderCarpet), Qt::Key_Up);
+    EXPECT_EQ(FromQt(Field(Controls::orderStep).text()), "9,5");
+    Fill(Controls::orderStep, "8");
+    FillRoll(0, 2, "18.50");
+    FillRoll(1, 0, "15ft");
+    EXPECT_EQ(Refusal(), "");
+    EXPECT_TRUE(open.TypedOrders.empty());
+    EXPECT_EQ(open.Now.Orders.at(0).Step, 8);
+}
+
 TEST_F(OrderScreenChoices, ThatCannotBeSavedStayAsTheyAre) {
     OpenQuick();
     Fill(Controls::orderTrimAlong, "3");
@@ -246,7 +276,9 @@ TEST_F(OrderScreenChoices, OfRollsAreRefusedInTheirCell) {
     EXPECT_EQ(Refusal(), "");
     FillRoll(0, 2, "18,50");
     Click(Button(Controls::compare));
-    EXPECT_EQ(Refusal(), "A price must be a number of 0 or more.");
+    EXPECT_EQ(Refusal(),
+              "The price \"18,50\" of the roll 12ft: a comma is not taken. Write it with "
+              "a point, as 18.50.");
     EXPECT_EQ(Rolls().currentRow(), 0);
     EXPECT_EQ(Rolls().currentColumn(), 2);
 }
@@ -295,6 +327,38 @@ TEST_F(OrderScreenChoices, OfRollsHoldNoTextThatMayNotBeKept) {
     const std::string name = Cell(Rolls(), 0, 1);
     EXPECT_EQ(name.substr(0, 6), "a b cx");
     EXPECT_EQ(name.size(), 60U);
+}
+
+TEST_F(OrderScreenChoices, TellHowAPatternIsMeasuredWhereThereIsOne) {
+    OpenQuick();
+    EXPECT_EQ(LabelText(Controls::orderPatternHint), "");
+    Fill(Controls::orderPatternAlong, "24");
+    EXPECT_NE(LabelText(Controls::orderPatternHint), "");
+    Fill(Controls::orderPatternAlong, "");
+    EXPECT_EQ(LabelText(Controls::orderPatternHint), "");
+    Click(Control<QCheckBox>(Controls::orderHalfDrop));
+    EXPECT_NE(LabelText(Controls::orderPatternHint), "");
+}
+
+TEST_F(OrderScreenChoices, MoveNothingWhenTheyAreRefused) {
+    for (const int width : {800, 1366, 1920}) {
+        SCOPED_TRACE(width);
+        Add(168, 120);
+        Keep(0, {Roll(144, "12ft")});
+        Open(std::nullopt, width, width == 800 ? 600 : 768);
+        WaitFor("Compared.");
+        Control<QTabBar>(Controls::orderParts).setCurrentIndex(0);
+        QCoreApplication::processEvents();
+        const QRect rolls = Rolls().geometry();
+        const QRect step = Field(Controls::orderStep).geometry();
+        Fill(Controls::orderStep, "9,5");
+        Press(*form, Qt::Key_Tab);
+        QCoreApplication::processEvents();
+        EXPECT_NE(Refusal(), "");
+        EXPECT_EQ(Rolls().geometry(), rolls);
+        EXPECT_EQ(Field(Controls::orderStep).geometry(), step);
+        open.TypedOrders.clear();
+    }
 }
 
 TEST_F(OrderScreenChoices, ShowWhatIsUsualWhereNothingIsTyped) {

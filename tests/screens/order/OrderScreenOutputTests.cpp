@@ -102,6 +102,7 @@ TEST_F(OrderScreenOutput, SavesEveryKindOfFile) {
         EXPECT_THAT(ReadFile(path), StartsWith(kinds[kind].second));
         EXPECT_EQ(boxes.SuggestedFiles.back(),
                   "MAPLE STREET 9 ORDER CARPET-3." + kinds[kind].first);
+        EXPECT_EQ(notes.back(), "Saved: order." + kinds[kind].first);
     }
     EXPECT_TRUE(boxes.Messages.empty());
 }
@@ -125,8 +126,10 @@ TEST_F(OrderScreenOutput, TellsWhichFileCouldNotBeWritten) {
     ASSERT_EQ(boxes.Messages.size(), 1U);
     EXPECT_THAT(boxes.Messages[0], StartsWith("The order could not be saved. "));
     EXPECT_THAT(boxes.Messages[0], HasSubstr(path));
+    EXPECT_EQ(notes.back(), "");
     SaveAs(0);
     EXPECT_EQ(boxes.Messages.size(), 1U) << "the box was cancelled";
+    EXPECT_EQ(notes.back(), "");
 }
 
 TEST_F(OrderScreenOutput, IsOfferedInAMenuByKey) {
