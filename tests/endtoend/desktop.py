@@ -22,12 +22,15 @@ KEYS = {
     "Escape": 0xFF1B,
     "space": 0x20,
     "Home": 0xFF50,
+    "Up": 0xFF52,
     "Down": 0xFF54,
     "End": 0xFF57,
     "Delete": 0xFFFF,
     "Menu": 0xFF67,
     "F1": 0xFFBE,
+    "F6": 0xFFC3,
     "Alt": 0xFFE9,
+    "Control": 0xFFE3,
 }
 
 
@@ -66,6 +69,25 @@ def walk(accessible):
 def text_of(accessible):
     text = accessible.queryText()
     return text.getText(0, text.characterCount)
+
+
+def start_window_manager(case, name):
+    """Start openbox for a test on that display; answers the display, to look at it."""
+    manager = subprocess.Popen(
+        ["openbox", "--sm-disable"],
+        env=dict(os.environ, DISPLAY=name),
+        stdout=subprocess.DEVNULL,
+        stderr=subprocess.DEVNULL,
+    )
+    case.addCleanup(manager.wait)
+    case.addCleanup(manager.terminate)
+    server = display.Display(name)
+    case.addCleanup(server.close)
+    supporting = server.intern_atom("_NET_SUPPORTING_WM_CHECK")
+    wait_for(
+        lambda: server.screen().root.get_full_property(supporting, X.AnyPropertyType), "openbox"
+    )
+    return server
 
 
 class Program:
@@ -277,18 +299,22 @@ class Program:
         self.tab_to(name)
         self.key("Return")
 
-    def press_with_alt(self, *letters):
-        """Press buttons by their letters, one right after the other."""
+    def press_with(self, modifier, *letters):
+        """Press keys while one of KEYS is held, one right after the other."""
         server = display.Display()
-        alt = server.keysym_to_keycode(KEYS["Alt"])
+        held = server.keysym_to_keycode(KEYS[modifier])
         for letter in letters:
             code = server.keysym_to_keycode(ord(letter))
             for what, key in (
-                (X.KeyPress, alt), (X.KeyPress, code), (X.KeyRelease, code), (X.KeyRelease, alt)
+                (X.KeyPress, held), (X.KeyPress, code), (X.KeyRelease, code), (X.KeyRelease, held)
             ):
                 xtest.fake_input(server, what, key)
         server.sync()
         server.close()
+
+    def press_with_alt(self, *letters):
+        """Press buttons by their letters."""
+        self.press_with("Alt", *letters)
 
     def type(self, text):
         for character in text:
@@ -333,29 +359,6 @@ class Program:
             return None
 
         return wait_for(look, "IMPROVE in use")
-
-    def start_improving(self):
-        """Press IMPROVE until it searches: it takes a layout that was found meanwhile first."""
-
-        def started():
-            if not self.is_there("push button", "STOP"):
-                self.click_on(self.improve_button())
-            return self.is_there("push button", "STOP")
-
-        wait_for(started, "an improving search")
-
-    def end_improving(self):
-        """Stop an improving search, unless it has come to its own end, and close what it says."""
-
-        def ended():
-            if self.boxes():
-                self.answer("OK")
-            stop = self.showing("push button", "STOP")
-            if stop:
-                self.click_on(stop[0])
-            return not stop and not self.boxes()
-
-        wait_for(ended, "the end of the search")
 
     def close_by_frame(self):
         """What the window manager does when the window's cross is clicked."""

@@ -25,11 +25,12 @@ FOREIGN = (
 )
 
 
-def start_display(size):
+def start_display(size, *options):
     """Start Xvfb on a free display number; answers the process and DISPLAY."""
     reader, writer = os.pipe()
     server = subprocess.Popen(
-        ["Xvfb", "-displayfd", str(writer), "-screen", "0", size + "x24", "-nolisten", "tcp"],
+        ["Xvfb", "-displayfd", str(writer), "-screen", "0", size + "x24", "-nolisten", "tcp",
+         *options],
         pass_fds=[writer],
         stdout=subprocess.DEVNULL,
         stderr=subprocess.DEVNULL,
@@ -44,9 +45,9 @@ def start_display(size):
 
 def main():
     size, *command = sys.argv[1:]
-    server, display = start_display(size)
     with tempfile.TemporaryDirectory(prefix="tarn-e2e-") as folder, socket.socket() as nobody:
         nobody.bind(("127.0.0.1", 0))  # held, so that no other program comes to listen there
+        server, display = start_display(size, "-nocursor", "-fbdir", folder)
         environment = dict(
             {name: value for name, value in os.environ.items() if name not in FOREIGN},
             CUPS_SERVER="%s:%d" % nobody.getsockname(),
@@ -60,6 +61,7 @@ def main():
             QT_QPA_PLATFORM="xcb",
             QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1",
             NO_AT_BRIDGE="0",
+            TARN_FRAMEBUFFER=folder + "/Xvfb_screen0",
         )
         os.chmod(folder, 0o700)
         try:

@@ -8,8 +8,8 @@ import tempfile
 import unittest
 
 import run
-from desktop import PATIENCE, Program, wait_for
-from Xlib import X, display
+from desktop import PATIENCE, Program, start_window_manager, wait_for
+from Xlib import X
 from house import House
 
 PROGRAMS = ["tarn", "tarn-estimate", "tarn-data"]
@@ -104,23 +104,8 @@ class WindowManager(Case):
         super().setUp()
 
     def manage(self, name):
-        """Start openbox on that display; answers the display, to look at it."""
-        manager = subprocess.Popen(
-            ["openbox", "--sm-disable"],
-            env=dict(os.environ, DISPLAY=name),
-            stdout=subprocess.DEVNULL,
-            stderr=subprocess.DEVNULL,
-        )
-        self.addCleanup(manager.wait)
-        self.addCleanup(manager.terminate)
-        server = display.Display(name)
-        self.addCleanup(server.close)
-        supporting = server.intern_atom("_NET_SUPPORTING_WM_CHECK")
-        wait_for(
-            lambda: server.screen().root.get_full_property(supporting, X.AnyPropertyType),
-            "openbox",
-        )
-        return server
+        """Start a window manager on that display; answers the display, to look at it."""
+        return start_window_manager(self, name)
 
     def open_sample(self):
         """Start the program and open a project."""
