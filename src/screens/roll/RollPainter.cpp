@@ -173,7 +173,7 @@ RollSpread RollPainter::SpreadOn(QSizeF size) const {
 
 RollPainter::Labelling RollPainter::LabellingOf(const RollSpread& spread, double zoom) const {
     Labelling labelling{spread, zoom, 0, {}};
-    std::vector<std::size_t> sizes; // of the letters above other lines
+    std::vector<std::size_t> sizes; // of the letters that stand with other texts
     for (std::size_t i = 0; i < chart_.Pieces.size(); ++i) {
         const ChartPiece& piece = chart_.Pieces[i];
         const auto [first, last] = RowsOf(spread, piece.Y, piece.Y + piece.Length);
@@ -183,7 +183,9 @@ RollPainter::Labelling RollPainter::LabellingOf(const RollSpread& spread, double
             const FittedLabel label =
                 FitLabel(piece, box.Width * zoom, box.Height * zoom, measure_, {row > first, 0});
             hasLetter = hasLetter || !label.Lines.empty();
-            if (row == first && label.Lines.size() > 1) {
+            const bool saysMore = label.Lines.size() > 1 ||
+                                  (label.Lines.size() == 1 && label.Lines[0].Text != piece.Label);
+            if (row == first && saysMore) {
                 sizes.push_back(label.Lines[0].Size);
             }
         }
