@@ -97,6 +97,7 @@ class Program:
         pyatspi.Registry.getDesktop(0)  # a program that starts before the bus is not seen on it
         self.started = time.monotonic()
         self.menus = 0  # opened so far
+        self.scale = float((environment or {}).get("QT_SCALE_FACTOR", 1))
         self.process = subprocess.Popen(
             [path, *arguments], env=dict(os.environ, **(environment or {}))
         )
@@ -216,8 +217,10 @@ class Program:
     def click_on(self, accessible, double=False, offset=None, button="b1"):
         area = self.area_of(accessible)
         x = area.x + (area.width // 2 if offset is None else offset)
+        y = area.y + area.height // 2
+        # The bus tells places as the program counts them, the display has pixels.
         pyatspi.Registry.generateMouseEvent(
-            x, area.y + area.height // 2, button + ("d" if double else "c")
+            round(x * self.scale), round(y * self.scale), button + ("d" if double else "c")
         )
 
     def choose_in_menu_of(self, accessible, letter):
