@@ -138,7 +138,7 @@ TEST_F(ReportAsFile, NamesTheFileWhateverFails) {
     boxes.Files = {"report.pdf", "report.pdf"};
     const auto told = [this](const std::function<void()>& failure) -> std::string {
         try {
-            SaveAs(boxes, "report", "pdf", [&](const std::string& /*path*/) { failure(); });
+            SaveAs(session, "report", "pdf", [&](const std::string& /*path*/) { failure(); });
         } catch (const OutputFileError& error) {
             return error.what();
         }
