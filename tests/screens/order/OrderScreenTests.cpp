@@ -3,6 +3,8 @@
 #include "screens/ControlChecks.h"
 #include "screens/order/OrderScreenTesting.h"
 
+#include <QScrollBar>
+
 #include <gmock/gmock.h>
 
 namespace tarn {
@@ -41,6 +43,7 @@ TEST_F(OrderScreens, CompareTheStandardRollsInBothLaysByThemselves) {
     EXPECT_THAT(Column(3), Each(Not(IsEmpty())));
     EXPECT_THAT(Column(0), Contains("best").Times(1));
     EXPECT_THAT(LabelText(Controls::comparisonTaken), StartsWith("Best: "));
+    EXPECT_THAT(LabelText(Controls::comparisonRule), StartsWith("Best is the least carpet"));
     EXPECT_FALSE(ListedLines().empty());
     EXPECT_TRUE(Button(Controls::printOrder).isEnabled());
     EXPECT_TRUE(Table().hasFocus());
@@ -196,6 +199,23 @@ TEST_F(OrderScreens, LeaveRoomBesideRemarksOnManyRooms) {
     EXPECT_GT(remarks.accessibleName().size(), 900) << "all of it for those who hear it";
     EXPECT_THAT(ShownToolTip(remarks), ::testing::EndsWith("room 100."));
     EXPECT_LE(Control(Controls::body).height(), form->height());
+}
+
+TEST_F(OrderScreens, GiveTheNotesNoMoreThanWhatIsLeftOfTheComparison) {
+    for (int room = 0; room < 100; ++room) {
+        Add(147, 120);
+    }
+    Keep(0, {Roll(144, "12ft")});
+    Open(std::nullopt, 1920, 1080);
+    WaitFor("Compared.");
+    EXPECT_EQ(Table().horizontalScrollBar()->maximum(), 0);
+    EXPECT_GT(Cell(Table(), 0, Table().columnCount() - 1).size(), 900U) << "all of it is there";
+    form->resize(1500, 1080);
+    EXPECT_TRUE(QTest::qWaitFor([this] {
+        return Table().columnViewportPosition(Table().columnCount() - 1) +
+                   Table().columnWidth(Table().columnCount() - 1) >=
+               Table().viewport()->width();
+    }));
 }
 
 TEST_F(OrderScreens, SayInWhichUnitsTheProjectWasEnteredAndShowTheirOwn) {
