@@ -1,5 +1,7 @@
 #include "base/RunTimeError.h"
 
+#include "base/Words.h"
+
 #include <utility>
 
 namespace tarn {
@@ -10,7 +12,7 @@ RunTimeError::RunTimeError(int number, std::string text, std::string advice)
     , advice_(std::move(advice)) {}
 
 std::string RunTimeError::Heading() const {
-    return "Run-time error '" + std::to_string(number_) + "':";
+    return Words("Run-time error '%1':", std::to_string(number_));
 }
 
 std::string RunTimeError::Sentences() const {
@@ -22,23 +24,23 @@ RunTimeError RunTimeError::WithAdvice(std::string advice) const {
 }
 
 void RaiseInvalidCall(std::string advice) {
-    throw RunTimeError(InvalidCallNumber, "Invalid procedure call", std::move(advice));
+    throw RunTimeError(InvalidCallNumber, Words("Invalid procedure call"), std::move(advice));
 }
 
 void RaiseOverflow(std::string advice) {
-    throw RunTimeError(OverflowNumber, "Overflow", std::move(advice));
+    throw RunTimeError(OverflowNumber, Words("Overflow"), std::move(advice));
 }
 
 void RaiseSubscript(std::string advice) {
-    throw RunTimeError(SubscriptNumber, "Subscript out of range", std::move(advice));
+    throw RunTimeError(SubscriptNumber, Words("Subscript out of range"), std::move(advice));
 }
 
 void RaiseDivisionByZero(std::string advice) {
-    throw RunTimeError(DivisionByZeroNumber, "Division by zero", std::move(advice));
+    throw RunTimeError(DivisionByZeroNumber, Words("Division by zero"), std::move(advice));
 }
 
 void RaiseInternal(std::string advice) {
-    throw RunTimeError(InternalNumber, "Internal error", std::move(advice));
+    throw RunTimeError(InternalNumber, Words("Internal error"), std::move(advice));
 }
 
 } // namespace tarn

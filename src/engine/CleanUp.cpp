@@ -2,6 +2,7 @@
 
 #include "base/Lengths.h"
 #include "base/RunTimeError.h"
+#include "base/Words.h"
 #include "engine/PieceGeometry.h"
 
 #include <cmath>
@@ -89,7 +90,7 @@ void CheckLayout(const std::vector<Placed>& layout, Single rollWidth) {
         }
     }
     if (!sound) {
-        RaiseInternal("The layout failed its own check and was discarded.");
+        RaiseInternal(Words("The layout failed its own check and was discarded."));
     }
 }
 

@@ -4,6 +4,7 @@
 #include "base/Numbers.h"
 #include "base/RunTimeError.h"
 #include "base/Text.h"
+#include "base/Words.h"
 #include "engine/PieceOrder.h"
 
 namespace tarn {
@@ -29,8 +30,9 @@ void CutToWidth(std::vector<Piece>& pieces, const SearchJob& job) {
             continue;
         }
         if (pieces.size() >= static_cast<std::size_t>(MaxPieces)) {
-            RaiseSubscript("There are more than " + TrimStr(MaxPieces) +
-                           " pieces: estimate the rooms in two projects.");
+            RaiseSubscript(Words("There are more than %1 pieces: estimate the rooms in two "
+                                 "projects.",
+                                 TrimStr(MaxPieces)));
         }
         Piece strip = pieces[i];
         strip.X2 =

@@ -3,6 +3,7 @@
 #include "base/Numbers.h"
 #include "base/RunTimeError.h"
 #include "base/Text.h"
+#include "base/Words.h"
 
 #include <limits>
 
@@ -24,9 +25,9 @@ Integer ResultLength(const std::vector<Placed>& layout) {
     try {
         return CInt(3 * Int((length + 2) / 3));
     } catch (const RunTimeError& error) {
-        throw error.WithAdvice("The fills need more than " +
-                               TrimStr(std::numeric_limits<Integer>::max()) +
-                               " inches of roll: estimate the rooms in two projects.");
+        throw error.WithAdvice(
+            Words("The fills need more than %1 inches of roll: estimate the rooms in two projects.",
+                  TrimStr(std::numeric_limits<Integer>::max())));
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include "base/Numbers.h"
 #include "base/RunTimeError.h"
+#include "base/Words.h"
 #include "engine/CaseParts.h"
 #include "engine/Cases.h"
 #include "engine/FinishLayout.h"
@@ -110,7 +111,7 @@ class CaseSearch {
         const Long length = CLng(static_cast<Double>(LengthInUse(layout)));
         if (layout.size() != parts ||
             (length != result_.BestLength && result_.BestLength != NoLength)) {
-            RaiseInternal("The layout is not as long as its trial and was discarded.");
+            RaiseInternal(Words("The layout is not as long as its trial and was discarded."));
         }
     }
 

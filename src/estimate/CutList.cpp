@@ -4,6 +4,7 @@
 #include "base/Lengths.h"
 #include "base/Numbers.h"
 #include "base/Text.h"
+#include "base/Words.h"
 #include "engine/ResultLength.h"
 #include "estimate/FillLabels.h"
 #include "estimate/Totals.h"
@@ -73,20 +74,20 @@ class ListWriter {
             lines_.push_back({LabelOf(estimate_, piece) + ": " + SizeOf(estimate_, piece), {}, i});
         }
         if (estimate_.Request.Repeat) {
-            Add("Match Pattern: " + RepeatText(*estimate_.Request.Repeat, units_));
+            Add(Words("Match Pattern: %1", RepeatText(*estimate_.Request.Repeat, units_)));
         }
     }
 
     void AddCounts(const RollTotals& totals) {
         const auto count = [](std::size_t number) { return TrimStr(static_cast<Long>(number)); };
         const Integer reported = estimate_.Fills.Length;
-        Add("Total Cuts:" + count(estimate_.Cuts.size()) +
-            "   Total Cut-Len:" + TotalText(totals.CutLength, units_));
-        Add("Total Fills:" + count(estimate_.Fills.Layout.size()) +
-            "   Total Fill-Len:" + TotalText(reported, units_));
+        Add(Words("Total Cuts:%1   Total Cut-Len:%2", count(estimate_.Cuts.size()),
+                  TotalText(totals.CutLength, units_)));
+        Add(Words("Total Fills:%1   Total Fill-Len:%2", count(estimate_.Fills.Layout.size()),
+                  TotalText(reported, units_)));
         const Single end = LengthInUse(estimate_.Fills.Layout);
         if (!IsWithinTolerance(end - static_cast<Single>(reported))) {
-            Add("Fills end at:" + LengthText(static_cast<Double>(end), units_));
+            Add(Words("Fills end at:%1", LengthText(static_cast<Double>(end), units_)));
         }
         if (estimate_.Improved) {
             Add(ImprovementText(*estimate_.Improved));
@@ -94,37 +95,41 @@ class ListWriter {
     }
 
     void AddRollTotals(const RollTotals& totals) {
-        Add("Total Length:" + TotalText(totals.Length, units_));
+        Add(Words("Total Length:%1", TotalText(totals.Length, units_)));
         if (metric_) {
-            Add("Total SQ. Meters:" + Format(totals.Size.SquareMeters, TotalFormat));
+            Add(Words("Total SQ. Meters:%1", Format(totals.Size.SquareMeters, TotalFormat)));
         } else {
-            Add("Total SQ. Yards:" + Format(totals.Size.SquareYards, TotalFormat));
-            Add("Total SQ. FT.:" + Format(totals.Size.SquareFeet, TotalFormat));
+            Add(Words("Total SQ. Yards:%1", Format(totals.Size.SquareYards, TotalFormat)));
+            Add(Words("Total SQ. FT.:%1", Format(totals.Size.SquareFeet, TotalFormat)));
         }
     }
 
     void AddPatternTotals(const PatternTotals& totals) {
-        const std::string size = metric_ ? Format(totals.Size.SquareMeters, "###0.00 SQ. Meters   ")
-                                         : Format(totals.Size.SquareFeet, "###0.00 SQ. FT.   ") +
-                                               Format(totals.Size.SquareYards, "###0.00 SQ. Yards");
-        Add("Total Match Pattern Length: " + WholeLengthText(totals.Length, units_));
-        Add("Total Match Pattern Size: " + size);
+        constexpr std::string_view Figure = "###0.00";
+        Add(Words("Total Match Pattern Length: %1", WholeLengthText(totals.Length, units_)));
+        Add(metric_ ? Words("Total Match Pattern Size: %1 SQ. Meters   ",
+                            Format(totals.Size.SquareMeters, Figure))
+                    : Words("Total Match Pattern Size: %1 SQ. FT.   %2 SQ. Yards",
+                            Format(totals.Size.SquareFeet, Figure),
+                            Format(totals.Size.SquareYards, Figure)));
     }
 
     void AddBase() {
         const auto base = static_cast<Double>(estimate_.Base);
-        Add("Total BASE: " +
-            (metric_ ? TrimStr(CLng(base)) + " CM" : Format(base / 12, BaseFormat) + " FEET"));
+        Add(metric_ ? Words("Total BASE: %1 CM", TrimStr(CLng(base)))
+                    : Words("Total BASE: %1 FEET", Format(base / 12, BaseFormat)));
     }
 
     void AddTile(const TileFloor& tile) {
         const Area area = AreaOf(static_cast<Double>(tile.Area));
         const auto perimeter = static_cast<Double>(tile.Perimeter);
-        const std::string size = metric_ ? Format(area.SquareMeters, " ##0.00") + " SQ. Meters.  "
-                                         : Format(area.SquareFeet, " ##0.00 SQ. FT.  ");
-        const std::string base = metric_ ? TrimStr(RoundedCentimetres(perimeter)) + " CM"
-                                         : Format(perimeter / 12, BaseFormat) + " FEET";
-        Add("Tile-" + TrimStr(CoveringNumber(tile.Covering)) + ": " + size + "Tile Base: " + base);
+        const std::string number = TrimStr(CoveringNumber(tile.Covering));
+        constexpr std::string_view Figure = " ##0.00";
+        Add(metric_
+                ? Words("Tile-%1: %2 SQ. Meters.  Tile Base: %3 CM", number,
+                        Format(area.SquareMeters, Figure), TrimStr(RoundedCentimetres(perimeter)))
+                : Words("Tile-%1: %2 SQ. FT.  Tile Base: %3 FEET", number,
+                        Format(area.SquareFeet, Figure), Format(perimeter / 12, BaseFormat)));
     }
 
     const Estimate& estimate_;
@@ -149,8 +154,8 @@ std::vector<CutListLine> CutListItems(const Estimate& estimate) {
 
 std::array<std::string, 2> CarpetHeadingLines(const EstimateRequest& request) {
     const auto width = static_cast<Double>(request.RollWidth);
-    return {"Carpet-" + TrimStr(request.Carpet + 1) + "  Width=" + TotalText(width, request.In),
-            request.Direction == Lay::Cross ? "CROSSLAY" : "DOWNLAY"};
+    return {Words("Carpet-%1  Width=%2", TrimStr(request.Carpet + 1), TotalText(width, request.In)),
+            request.Direction == Lay::Cross ? Words("CROSSLAY") : Words("DOWNLAY")};
 }
 
 std::string CarpetHeading(const EstimateRequest& request) {

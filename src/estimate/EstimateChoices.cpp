@@ -4,6 +4,7 @@
 #include "base/Numbers.h"
 #include "base/RunTimeError.h"
 #include "base/Text.h"
+#include "base/Words.h"
 #include "estimate/RollWidth.h"
 #include "estimate/Totals.h"
 #include "project/RoomSize.h"
@@ -93,7 +94,7 @@ std::string OtherWidthHint(std::string_view feet, std::string_view inches) {
     const auto reading = WidthOf(choices, Units::Metric);
     const auto* width = std::get_if<Single>(&reading);
     return width != nullptr
-               ? "= " + TrimStr(RoundedCentimetres(static_cast<Double>(*width))) + " CM"
+               ? Words("= %1 CM", TrimStr(RoundedCentimetres(static_cast<Double>(*width))))
                : "";
 }
 

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "base/Words.h"
 #include "estimate/EstimateRequest.h"
 #include "project/Coverings.h"
 #include "project/Project.h"
@@ -56,8 +57,8 @@ struct LastChoices {
     bool operator==(const LastChoices&) const = default;
 };
 
-inline constexpr std::string_view WrongWidthMessage = "The carpet width is not correct.";
-inline constexpr std::string_view WrongMatchMessage = "The match pattern is not correct.";
+inline constexpr auto WrongWidthMessage = Words("The carpet width is not correct.");
+inline constexpr auto WrongMatchMessage = Words("The match pattern is not correct.");
 
 /// Why choices are not taken.
 struct ChoicesRefusal {

@@ -1,6 +1,7 @@
 #include "estimate/FillLabels.h"
 
 #include "base/Text.h"
+#include "base/Words.h"
 
 namespace tarn {
 
@@ -21,7 +22,7 @@ std::string LabelOf(const Estimate& estimate, const Piece& piece) {
 }
 
 std::string CutLabel(std::size_t cut) {
-    return "Cut" + TrimStr(static_cast<long long>(cut) + 1);
+    return Words("Cut%1", TrimStr(static_cast<long long>(cut) + 1));
 }
 
 } // namespace tarn

@@ -1,6 +1,7 @@
 #include "estimate/ImproveEstimate.h"
 
 #include "base/Lengths.h"
+#include "base/Words.h"
 #include "estimate/MinCuts.h"
 #include "estimate/Totals.h"
 
@@ -45,7 +46,7 @@ std::string ShorterText(const Estimate& estimate, const Estimate& better) {
     const Units units = estimate.Request.In;
     const Long shorter = ListedTotal(TotalRoll(estimate).Length, units) -
                          ListedTotal(TotalRoll(better).Length, units);
-    return shorter > 0 ? WholeLengthText(shorter, units) + " shorter" : "";
+    return shorter > 0 ? Words("%1 shorter", WholeLengthText(shorter, units)) : "";
 }
 
 Estimate KeepingMinCut(const Estimate& estimate, const ImproveResult& result) {

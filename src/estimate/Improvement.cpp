@@ -4,6 +4,7 @@
 #include "base/Lengths.h"
 #include "base/Numbers.h"
 #include "base/Text.h"
+#include "base/Words.h"
 #include "engine/ResultLength.h"
 #include "estimate/MinCuts.h"
 
@@ -12,7 +13,7 @@ namespace tarn {
 namespace {
 
 constexpr Double TenthsInWhole = 1000; ///< of a percent
-constexpr const char* NoneAsShort = "none whose parts keep the minimum cut is as short";
+constexpr auto NoneAsShort = Words("none whose parts keep the minimum cut is as short");
 
 bool IsShorter(Double a, Double b) {
     return b - a >= LengthTolerance;
@@ -28,23 +29,24 @@ std::string GainText(const Improvement& improvement) {
         const Double share =
             (improvement.StartLength - improvement.Length) / improvement.StartLength;
         const Double tenths = Int(share * TenthsInWhole);
-        return "fills " + (tenths > 0 ? PercentText(tenths) : "less than 0.1%") + " shorter";
+        return tenths > 0 ? Words("fills %1 shorter", PercentText(tenths))
+                          : std::string(Words("fills less than 0.1% shorter"));
     }
     const int joins = improvement.StartPieces - improvement.Pieces;
     if (joins > 0) {
-        return TrimStr(joins) + (joins == 1 ? " join fewer" : " joins fewer");
+        return CountedWords("%n join fewer", "%n joins fewer", joins);
     }
-    return "larger free end";
+    return Words("larger free end");
 }
 
 } // namespace
 
 std::string LeastPossibleText(Double length, Double bound) {
     if (!IsShorter(bound, length)) {
-        return "the least possible";
+        return Words("the least possible");
     }
     const Double tenths = -Int(-(length - bound) / bound * TenthsInWhole);
-    return "at most " + PercentText(tenths) + " above the least possible";
+    return Words("at most %1 above the least possible", PercentText(tenths));
 }
 
 std::string GapText(const ImproveProgress& progress) {
@@ -58,24 +60,26 @@ std::string KeptText(const ImproveResult& result, const EstimateRequest& request
     if (!result.Kept) {
         return "";
     }
-    const std::string unit = request.In == Units::Metric ? " cm" : "";
-    return LengthText(static_cast<Double>(LengthInUse(result.Kept->Layout)), request.In) + unit +
-           " with parts of at least " +
-           std::string(MinCutCaption(request.ShortestPart, request.In));
+    const std::string length =
+        LengthText(static_cast<Double>(LengthInUse(result.Kept->Layout)), request.In);
+    return Words("%1 with parts of at least %2",
+                 request.In == Units::Metric ? Words("%1 cm", length) : length,
+                 MinCutCaption(request.ShortestPart, request.In));
 }
 
 std::string NothingBetterReason(const ImproveResult& result) {
     if (result.StartBelowRules) {
         return NoneAsShort;
     }
-    return result.Bound > 0 ? "this one is " + LeastPossibleText(static_cast<Double>(result.Length),
-                                                                 result.Bound)
-                            : "";
+    return result.Bound > 0
+               ? Words("this one is %1",
+                       LeastPossibleText(static_cast<Double>(result.Length), result.Bound))
+               : "";
 }
 
 std::string ImprovementText(const Improvement& improvement) {
-    return "Improved: " + GainText(improvement) + ", " +
-           LeastPossibleText(improvement.Length, improvement.Bound);
+    return Words("Improved: %1, %2", GainText(improvement),
+                 LeastPossibleText(improvement.Length, improvement.Bound));
 }
 
 } // namespace tarn

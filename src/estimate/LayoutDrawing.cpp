@@ -1,6 +1,7 @@
 #include "estimate/LayoutDrawing.h"
 
 #include "base/RunTimeError.h"
+#include "base/Words.h"
 #include "estimate/CutList.h"
 #include "estimate/FillLabels.h"
 
@@ -23,8 +24,8 @@ constexpr Double BlockSize = 9;
 constexpr Double PieceSizeSize = 7;
 constexpr Double PieceSizeMargin = 40; ///< kept free at both sides of a size text
 
-constexpr const char* TooShortAdvice =
-    "The fills are shorter than 1 inch: check the sizes of this carpet's rooms.";
+constexpr auto TooShortAdvice =
+    Words("The fills are shorter than 1 inch: check the sizes of this carpet's rooms.");
 
 /// Brings a drawing's font size and colour back.
 class KeepPen {
@@ -117,7 +118,7 @@ void DrawNoFills(Drawing& drawing) {
     drawing.PenY = NoticeTop;
     drawing.FontSize = NoticeSize;
     drawing.Color = DrawingColor::Red;
-    drawing.WriteLine("NO FILLS TO DISPLAY");
+    drawing.WriteLine(Words("NO FILLS TO DISPLAY"));
     drawing.Visible = true;
 }
 

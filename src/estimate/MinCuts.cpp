@@ -3,6 +3,7 @@
 #include "base/Format.h"
 #include "base/Lengths.h"
 #include "base/Numbers.h"
+#include "base/Words.h"
 
 namespace tarn {
 
@@ -10,12 +11,14 @@ namespace {
 
 struct MinCutFigures {
     Double Feet;
-    std::string_view Imperial;
-    std::string_view Metric;
+    Phrase Imperial;
+    Phrase Metric;
 };
 
 constexpr std::array<MinCutFigures, AllMinCuts.size()> Figures{
-    {{3, "3 FT", "91 cm"}, {1.5, "1FT 6\"", "46 cm"}, {0.5, "1/2FT", "15 cm"}}};
+    {{3, Words("3 FT"), Words("91 cm")},
+     {1.5, Words("1FT 6\""), Words("46 cm")},
+     {0.5, Words("1/2FT"), Words("15 cm")}}};
 
 const MinCutFigures& FiguresOf(MinCut minCut) {
     return Figures.at(static_cast<std::size_t>(minCut));
@@ -42,10 +45,11 @@ Double MinCutOfCaption(MinCut minCut, Units units) {
 std::string MinCutInForce(MinCut minCut, Units units, Double scale) {
     const Double inches = MinCutUnits(minCut, units, scale) * scale;
     if (units == Units::Metric) {
-        return Format(inches * CentimetresPerInch, "##0.0") + " cm";
+        return Words("%1 cm", Format(inches * CentimetresPerInch, "##0.0"));
     }
     const bool whole = inches == Int(inches);
-    return Format(inches, whole ? "##0" : "##0.0") + " inch" + (whole && inches > 1 ? "es" : "");
+    const std::string figure = Format(inches, whole ? "##0" : "##0.0");
+    return whole && inches > 1 ? Words("%1 inches", figure) : Words("%1 inch", figure);
 }
 
 } // namespace tarn

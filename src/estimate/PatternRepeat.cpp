@@ -4,6 +4,7 @@
 #include "base/Numbers.h"
 #include "base/RunTimeError.h"
 #include "base/Text.h"
+#include "base/Words.h"
 
 #include <limits>
 
@@ -16,9 +17,8 @@ Integer WholeRepeat(std::string_view text) {
     try {
         return CInt(Val(text));
     } catch (const RunTimeError& error) {
-        throw error.WithAdvice("The match pattern's " + std::string(text) +
-                               " is too large: a repeat is at most " +
-                               TrimStr(std::numeric_limits<Integer>::max()) + ".");
+        throw error.WithAdvice(Words("The match pattern's %1 is too large: a repeat is at most %2.",
+                                     text, TrimStr(std::numeric_limits<Integer>::max())));
     }
 }
 

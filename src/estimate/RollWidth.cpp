@@ -5,6 +5,7 @@
 #include "base/RunTimeError.h"
 #include "base/TakeNumber.h"
 #include "base/Text.h"
+#include "base/Words.h"
 
 #include <algorithm>
 #include <optional>
@@ -53,7 +54,7 @@ std::optional<Single> WidthOf(std::string_view text) {
 
 } // namespace
 
-const std::array<std::string_view, 4>& WidthCaptions(Units units) {
+const std::array<Phrase, 4>& WidthCaptions(Units units) {
     return units == Units::Metric ? MetricWidthCaptions : ImperialWidthCaptions;
 }
 
@@ -69,7 +70,7 @@ Single CaptionRollWidth(std::string_view caption, Units units) {
 }
 
 Single StandardRollWidth(std::size_t number, Units units) {
-    return CaptionRollWidth(WidthCaptions(units).at(number), units);
+    return CaptionRollWidth(WidthCaptions(units).at(number).English(), units);
 }
 
 Single OtherRollWidth(std::string_view feet, std::string_view inches) {
@@ -88,15 +89,16 @@ Single ReadRollWidth(const std::string& text) {
         width = WidthOf(text);
         usable = width && IsUsableRollWidth(*width);
     } catch (const RunTimeError&) {
-        throw std::invalid_argument("The roll width \"" + text + "\" is too large.");
+        throw std::invalid_argument(Words("The roll width \"%1\" is too large.", text));
     }
     if (!width) {
-        throw std::invalid_argument("The roll width \"" + text +
-                                    "\" is not readable: write it as 12ft, 13.5ft, 12ft6in, 150in "
-                                    "or 366cm.");
+        throw std::invalid_argument(
+            Words("The roll width \"%1\" is not readable: write it as 12ft, "
+                  "13.5ft, 12ft6in, 150in or 366cm.",
+                  text));
     }
     if (!usable) {
-        throw std::invalid_argument("The roll width \"" + text + "\" must be more than 0.");
+        throw std::invalid_argument(Words("The roll width \"%1\" must be more than 0.", text));
     }
     return *width;
 }

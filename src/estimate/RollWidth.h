@@ -5,6 +5,7 @@
 
 #include "base/Types.h"
 #include "base/Units.h"
+#include "base/Words.h"
 
 #include <array>
 #include <cstddef>
@@ -14,17 +15,19 @@
 namespace tarn {
 
 /// The captions of the four standard roll widths, narrowest first, and the number of the one that
-/// is chosen at first. The figure in the caption is the width: it is read from there.
-inline constexpr std::array<std::string_view, 4> ImperialWidthCaptions{
-    "CARPET WIDTH 6 FT.", "CARPET WIDTH 12 FT.", "CARPET WIDTH 13.5 FT.", "CARPET WIDTH 15 FT."};
-inline constexpr std::array<std::string_view, 4> MetricWidthCaptions{
-    "CARPET WIDTH 183 CMS", "CARPET WIDTH 366 CMS", "CARPET WIDTH 411 CMS", "CARPET WIDTH 457 CMS"};
+/// is chosen at first. The figure in the caption is the width: it is read from the English one.
+inline constexpr std::array<Phrase, 4> ImperialWidthCaptions{
+    Words("CARPET WIDTH 6 FT."), Words("CARPET WIDTH 12 FT."), Words("CARPET WIDTH 13.5 FT."),
+    Words("CARPET WIDTH 15 FT.")};
+inline constexpr std::array<Phrase, 4> MetricWidthCaptions{
+    Words("CARPET WIDTH 183 CMS"), Words("CARPET WIDTH 366 CMS"), Words("CARPET WIDTH 411 CMS"),
+    Words("CARPET WIDTH 457 CMS")};
 inline constexpr std::size_t DefaultWidth = 1;
 
 /// The captions in the unit in force.
-const std::array<std::string_view, 4>& WidthCaptions(Units units);
+const std::array<Phrase, 4>& WidthCaptions(Units units);
 
-/// The number in a caption as it is written: "13.5", "366".
+/// The number in an English caption as it is written: "13.5", "366".
 std::string_view CaptionNumber(std::string_view caption);
 
 /// The roll width, in inches, that a caption names: the number behind "CARPET WIDTH", in feet, or

@@ -4,6 +4,7 @@
 #include "base/Numbers.h"
 #include "base/RunTimeError.h"
 #include "base/Text.h"
+#include "base/Words.h"
 #include "project/RoomExtents.h"
 
 namespace tarn {
@@ -22,8 +23,9 @@ Cut AsCut(const Strip& strip, Lay lay) {
 
 void AppendCut(RoomCuts& cuts, Cut cut, Integer room) {
     if (cuts.Cuts.size() == MaxCuts) {
-        RaiseSubscript("There are more than " + TrimStr(static_cast<Long>(MaxCuts)) +
-                       " cuts: choose a wider roll or estimate the rooms in two projects.");
+        RaiseSubscript(Words("There are more than %1 cuts: choose a wider roll or estimate the "
+                             "rooms in two projects.",
+                             TrimStr(static_cast<Long>(MaxCuts))));
     }
     cut.Room = room;
     cuts.Cuts.push_back(cut);

@@ -1,5 +1,7 @@
 #include "files/Descriptor.h"
 
+#include "base/Words.h"
+
 #include <array>
 #include <cerrno>
 #include <fcntl.h>
@@ -69,7 +71,7 @@ void Synchronise(const Descriptor& file) {
 
 std::string CauseOf(const std::error_code& error) {
     if (error == std::errc::no_space_on_device || error.value() == EDQUOT) {
-        return "the disk is full. Free some space and try again";
+        return Words("the disk is full. Free some space and try again");
     }
     return error.message();
 }

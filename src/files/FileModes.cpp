@@ -1,5 +1,6 @@
 #include "files/FileModes.h"
 
+#include "base/Words.h"
 #include "files/TemporaryFile.h"
 
 #include <cerrno>
@@ -43,7 +44,7 @@ mode_t Bits(fs::perms mode) {
     return static_cast<mode_t>(mode);
 }
 
-[[noreturn]] void Raise(const char* what, const fs::path& path) {
+[[noreturn]] void Raise(const std::string& what, const fs::path& path) {
     throw fs::filesystem_error(what, path, std::error_code(errno, std::generic_category()));
 }
 
@@ -86,7 +87,7 @@ std::vector<fs::path> MakePrivateFolder(const fs::path& folder) {
             }
             RemoveAll(made);
             errno = cause;
-            Raise("The folder cannot be made", path);
+            Raise(Words("The folder cannot be made"), path);
         }
         SetMode(path, mode);
         made.push_back(path);
@@ -94,7 +95,7 @@ std::vector<fs::path> MakePrivateFolder(const fs::path& folder) {
             SynchroniseEntries(OrHere(path.parent_path()).native());
         } catch (const std::system_error& error) {
             RemoveAll(made);
-            throw fs::filesystem_error("The folder cannot be made", path, error.code());
+            throw fs::filesystem_error(Words("The folder cannot be made"), path, error.code());
         }
     }
     return made;
@@ -104,7 +105,7 @@ void MakePrivateFile(const fs::path& file) {
     const fs::perms mode = PrivateFileMode(file.parent_path());
     const int made = ::open(file.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, Bits(mode));
     if (made < 0) {
-        Raise("The file cannot be made", file);
+        Raise(Words("The file cannot be made"), file);
     }
     ::close(made);
     SetMode(file, mode);

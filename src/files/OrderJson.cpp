@@ -1,5 +1,6 @@
 #include "files/OrderJson.h"
 
+#include "base/Words.h"
 #include "files/JsonText.h"
 #include "files/OrderRequestJson.h"
 #include "files/QtText.h"
@@ -20,10 +21,10 @@ QJsonObject SeamObject(const SeamTotal& seams) {
             {QStringLiteral("length"), Whole(seams.Length)}};
 }
 
-QJsonArray Texts(const std::vector<std::string>& texts) {
+QJsonArray Texts(const std::vector<Saying>& texts) {
     QJsonArray array;
-    for (const std::string& text : texts) {
-        array.append(ToQt(text));
+    for (const Saying& text : texts) {
+        array.append(ToQt(text.English));
     }
     return array;
 }
@@ -51,7 +52,7 @@ QJsonObject FiguresObject(const OrderCandidate& candidate, Units units) {
          value([](const auto& all) { return SeamObject(all.CrossJoins); })},
         {QStringLiteral("price"),
          figures && figures->Price ? QJsonValue(*figures->Price) : QJsonValue()},
-        {QStringLiteral("notes"), Texts(figures ? figures->Notes : std::vector<std::string>())},
+        {QStringLiteral("notes"), Texts(figures ? figures->Notes : std::vector<Saying>())},
     };
 }
 
@@ -61,8 +62,9 @@ QJsonObject CandidateObject(const Order& order, const OrderCandidate& candidate)
     object.insert(QStringLiteral("rollWidth"), candidate.RollWidth);
     object.insert(QStringLiteral("usableWidth"), candidate.UsableWidth);
     object.insert(QStringLiteral("lay"), QString::fromLatin1(LayWord(candidate.Direction)));
-    object.insert(QStringLiteral("refused"),
-                  candidate.Refused.empty() ? QJsonValue() : QJsonValue(ToQt(candidate.Refused)));
+    object.insert(QStringLiteral("refused"), candidate.Refused.empty()
+                                                 ? QJsonValue()
+                                                 : QJsonValue(ToQt(candidate.Refused.English)));
     return object;
 }
 

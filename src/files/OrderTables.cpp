@@ -1,5 +1,6 @@
 #include "files/OrderTables.h"
 
+#include "base/Words.h"
 #include "files/CsvText.h"
 #include "order/Comparison.h"
 
@@ -15,10 +16,10 @@ TableCell NumberCell(Number number) {
     return static_cast<std::int64_t>(number);
 }
 
-std::string Joined(const std::vector<std::string>& texts) {
+std::string Joined(const std::vector<Saying>& texts) {
     std::string joined;
-    for (const std::string& text : texts) {
-        joined += (joined.empty() ? "" : " ") + text;
+    for (const Saying& text : texts) {
+        joined += (joined.empty() ? "" : " ") + text.English;
     }
     return joined;
 }
@@ -56,7 +57,7 @@ std::vector<TableCell> CandidateCells(const Order& order, std::size_t number) {
                                  NumberCell(candidate.UsableWidth),
                                  std::string(LayWord(candidate.Direction)),
                                  std::string(order.Best != number ? "" : mark),
-                                 candidate.Refused};
+                                 candidate.Refused.English};
     for (TableCell& cell : FigureCells(candidate, order.Request.In)) {
         cells.push_back(std::move(cell));
     }

@@ -1,6 +1,7 @@
 #include "files/OrderText.h"
 
 #include "base/Text.h"
+#include "base/Words.h"
 #include "order/ComparisonText.h"
 #include "order/CutLines.h"
 #include "order/OrderWords.h"
@@ -59,7 +60,7 @@ std::string RefusalText(const Order& order) {
     std::string text;
     for (const OrderCandidate& candidate : order.Candidates) {
         if (!candidate.Refused.empty()) {
-            text += CandidateName(order, candidate) + ": " + candidate.Refused + '\n';
+            text += CandidateName(order, candidate) + ": " + candidate.Refused.Shown + '\n';
         }
     }
     return text.empty() ? text : '\n' + text;
@@ -67,16 +68,17 @@ std::string RefusalText(const Order& order) {
 
 std::string ListText(const OrderDocument& document, const Order& order) {
     const OrderCandidate& best = order.Candidates.at(*order.Best);
-    std::vector<TextRow> rows{
-        {"Cut", "Which", "Room", "From", "To", "Across", "Size", "In the pattern"}};
+    std::vector<TextRow> rows{{Words("Cut"), Words("Which"), Words("Room"), Words("From"),
+                               Words("To"), Words("Across"), Words("Size"),
+                               Words("In the pattern")}};
     for (const CutLine& line : CutLines(document.Of, order.Request, best)) {
         rows.push_back({line.Label, line.Which, line.Room, line.From, line.To, line.Across,
                         line.Size, line.Match});
     }
     constexpr std::size_t LeftColumns = 3;
     std::string text = '\n' + TakenText(order, *order.Best) + '\n';
-    for (const std::string& note : best.Figures->Notes) {
-        text += note + '\n';
+    for (const Saying& note : best.Figures->Notes) {
+        text += note.Shown + '\n';
     }
     return text + '\n' + Columns(rows, LeftColumns);
 }

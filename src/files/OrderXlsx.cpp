@@ -1,6 +1,7 @@
 #include "files/OrderXlsx.h"
 
 #include "base/Text.h"
+#include "base/Words.h"
 #include "files/OrderTables.h"
 #include "files/OutputFile.h"
 
@@ -16,8 +17,7 @@ namespace {
 
 void Require(lxw_error error) {
     if (error != LXW_NO_ERROR) {
-        throw OutputFileError(std::string("The spreadsheet cannot be made: ") +
-                              lxw_strerror(error));
+        throw OutputFileError(Words("The spreadsheet cannot be made: %1", lxw_strerror(error)));
     }
 }
 
@@ -36,7 +36,7 @@ void WriteCell(lxw_worksheet& sheet, lxw_row_t row, lxw_col_t column, const Tabl
 void AddSheet(lxw_workbook& book, const ValueTable& table) {
     lxw_worksheet* sheet = workbook_add_worksheet(&book, table.Name.c_str());
     if (sheet == nullptr) {
-        throw OutputFileError("The spreadsheet cannot be made: no sheet " + table.Name + ".");
+        throw OutputFileError(Words("The spreadsheet cannot be made: no sheet %1.", table.Name));
     }
     lxw_format* bold = workbook_add_format(&book);
     format_set_bold(bold);
@@ -60,7 +60,7 @@ class Workbook {
     explicit Workbook(const std::string& path)
         : book_(workbook_new(path.c_str())) {
         if (book_ == nullptr) {
-            throw OutputFileError("The spreadsheet cannot be made: out of memory.");
+            throw OutputFileError(Words("The spreadsheet cannot be made: out of memory."));
         }
     }
     ~Workbook() {
@@ -94,7 +94,7 @@ std::string OrderXlsx(const OrderDocument& document) {
     QFile file(QString::fromStdString(path));
     if (!file.open(QIODevice::ReadOnly)) {
         throw OutputFileError(
-            "The spreadsheet cannot be made: " + file.errorString().toStdString() + ".");
+            Words("The spreadsheet cannot be made: %1.", file.errorString().toStdString()));
     }
     return file.readAll().toStdString();
 }

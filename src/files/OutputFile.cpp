@@ -1,5 +1,6 @@
 #include "files/OutputFile.h"
 
+#include "base/Words.h"
 #include "files/DatabaseFormat.h"
 #include "files/DeviceOutput.h"
 #include "files/FileModes.h"
@@ -18,7 +19,7 @@ namespace {
 namespace fs = std::filesystem;
 
 [[noreturn]] void Refuse(const std::string& path, const std::string& cause) {
-    throw OutputFileError("The file " + path + " cannot be written: " + cause + ".");
+    throw OutputFileError(Words("The file %1 cannot be written: %2.", path, cause));
 }
 
 bool IsDevice(const struct stat& status) {
@@ -51,15 +52,15 @@ void RequireReplaceable(const std::string& path, const std::string& target, Over
         throw std::system_error(std::make_error_code(std::errc::is_a_directory));
     }
     if ((status.st_mode & AnyWrite) == 0) {
-        Refuse(path, "it is read-only");
+        Refuse(path, Words("it is read-only"));
     }
     if (::access(target.c_str(), W_OK) != 0) {
         throw LastError();
     }
     if (over != Overwrite::Anything && IsDatabaseFile(target)) {
         throw OutputFileError(
-            "The file " + path +
-            " is a database and stays as it is. Name another file for the output.");
+            Words("The file %1 is a database and stays as it is. Name another file for the output.",
+                  path));
     }
 }
 
@@ -71,8 +72,9 @@ std::optional<fs::perms> ModeOf(NewFile made, const std::string& target) {
 void WriteFile(const std::string& path, const std::string& content, Overwrite over, NewFile made) {
     const std::string target = BehindLinks(path);
     if (target != path && over == Overwrite::Files) {
-        throw OutputFileError("The file " + path + " is a link, which leads to " + target +
-                              ", and stays as it is. Name another file for the output.");
+        throw OutputFileError(Words("The file %1 is a link, which leads to %2, and stays as it is. "
+                                    "Name another file for the output.",
+                                    path, target));
     }
     RequireReplaceable(path, target, over);
     RemoveLeftOvers(FolderOfPath(target));
@@ -93,10 +95,10 @@ void WriteOutputFile(const std::string& path, const std::string& content, Overwr
             WriteFile(path, content, over, made);
         }
     } catch (const NotTakenBack& error) {
-        Refuse(path, CauseOf(error.code()) + ". The new file may be there all the same");
+        Refuse(path, Words("%1. The new file may be there all the same", CauseOf(error.code())));
     } catch (const std::system_error& error) {
         if (error.code() == std::errc::timed_out) {
-            Refuse(path, "nothing reads from it");
+            Refuse(path, Words("nothing reads from it"));
         }
         Refuse(path, CauseOf(error.code()));
     }
@@ -106,8 +108,8 @@ void SynchroniseFolder(const std::string& folder) {
     try {
         SynchroniseEntries(folder);
     } catch (const std::system_error& error) {
-        throw OutputFileError("The folder " + folder +
-                              " cannot be stored: " + CauseOf(error.code()) + ".");
+        throw OutputFileError(
+            Words("The folder %1 cannot be stored: %2.", folder, CauseOf(error.code())));
     }
 }
 

@@ -336,7 +336,7 @@ std::string WriteRoomCsv(const std::vector<Room>& rooms) {
     AppendCsvRecord(text, {ColumnNames.begin(), ColumnNames.end()});
     for (const Room& room : rooms) {
         AppendCsvRecord(text,
-                        {TrimStr(room.Width), TrimStr(room.Length), CoveringCaption(room.Covering),
+                        {TrimStr(room.Width), TrimStr(room.Length), CoveringName(room.Covering),
                          BaseText(room.Base), CsvTextCell(room.Number), CsvTextCell(room.Remark)});
     }
     return text;

@@ -2,6 +2,7 @@
 
 #include "base/Lengths.h"
 #include "base/RunTimeError.h"
+#include "base/Words.h"
 #include "engine/ResultLength.h"
 #include "improve/ImproveThreads.h"
 #include "improve/RollJob.h"
@@ -31,7 +32,7 @@ void TakeBest(const ImproveOutcome& outcome, const RollJob& roll, const SearchJo
     SearchResult best = ResultOf(roll, outcome.Parts, job, start);
     if (best.Length <= start.Length && LayoutMeritOf(roll, best.Layout).BetterThan(merit)) {
         if (!IsWithinTolerance(LengthInUse(best.Layout) - LengthInUse(start.Layout))) {
-            RaiseInternal("The improved layout is longer than before and was discarded.");
+            RaiseInternal(Words("The improved layout is longer than before and was discarded."));
         }
         result.Improved = true;
         result.Fills = std::move(best);

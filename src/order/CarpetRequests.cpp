@@ -1,5 +1,6 @@
 #include "order/CarpetRequests.h"
 
+#include "base/Words.h"
 #include "estimate/RollWidth.h"
 #include "project/Coverings.h"
 #include "project/OrderLengths.h"
@@ -39,8 +40,8 @@ std::vector<Byte> CarpetsToOrder(const Project& project) {
 
 OrderRequest OfferedRequest(Units units) {
     OrderRequest request = DefaultOrderRequest(units);
-    for (const std::string_view caption : WidthCaptions(units)) {
-        request.Rolls.push_back(StandardRoll(caption, units));
+    for (const Phrase& caption : WidthCaptions(units)) {
+        request.Rolls.push_back(StandardRoll(caption.English(), units));
     }
     request.Lays = {Lay::Down, Lay::Cross};
     return request;

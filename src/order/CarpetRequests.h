@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include "base/Words.h"
 #include "project/OrderRequest.h"
 #include "project/Project.h"
 
@@ -14,7 +15,7 @@ namespace tarn {
 /// The covering codes of the carpets that have a room with an area.
 std::vector<Byte> CarpetsToOrder(const Project& project);
 /// What to say when there is none.
-inline constexpr std::string_view NothingToOrder = "No room with an area has a carpet.";
+inline constexpr auto NothingToOrder = Words("No room with an area has a carpet.");
 
 /// What is offered for a carpet of which nothing was asked yet: the standard roll widths of an
 /// estimate, both lays, and what is usual else.

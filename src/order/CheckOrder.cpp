@@ -1,6 +1,7 @@
 #include "order/CheckOrder.h"
 
 #include "base/Text.h"
+#include "base/Words.h"
 
 #include <algorithm>
 #include <cmath>
@@ -50,10 +51,10 @@ class CandidateCheck {
     void Check() {
         CheckRoll();
         if (!row_.Figures) {
-            Require(row_.Pieces.empty(), "there are pieces without figures");
+            Require(row_.Pieces.empty(), Words("there are pieces without figures"));
             return;
         }
-        Require(row_.Refused.empty(), "a refused row has figures");
+        Require(row_.Refused.empty(), Words("a refused row has figures"));
         WantStrips();
         CheckOrderOfPieces();
         for (const OrderPiece& piece : row_.Pieces) {
@@ -61,7 +62,7 @@ class CandidateCheck {
             pieces_[{piece.Room, piece.Strip}].push_back(&piece);
         }
         CheckOverlaps();
-        Require(pieces_.size() == wanted_.size(), "not every strip is laid");
+        Require(pieces_.size() == wanted_.size(), Words("not every strip is laid"));
         for (auto& [key, pieces] : pieces_) {
             CheckStrip(wanted_.at(key), pieces);
         }
@@ -73,9 +74,9 @@ class CandidateCheck {
     void CheckRoll() const {
         const RollChoice& roll = request_.Rolls.at(row_.Roll);
         Require(std::abs(roll.Width - row_.RollWidth) < 1 && row_.RollWidth <= roll.Width + 1e-6,
-                "the roll's width is not its whole units");
+                Words("the roll's width is not its whole units"));
         Require(row_.UsableWidth == row_.RollWidth - 2 * request_.Selvage,
-                "the usable width is not what the selvage leaves");
+                Words("the usable width is not what the selvage leaves"));
     }
 
     /// The strips that the rooms take.
@@ -104,10 +105,10 @@ class CandidateCheck {
     void CheckOrderOfPieces() const {
         for (std::size_t i = 0; i < row_.Pieces.size(); ++i) {
             const OrderPiece& piece = row_.Pieces[i];
-            Require(piece.Label == LabelOf(i), "the labels are not in a row");
+            Require(piece.Label == LabelOf(i), Words("the labels are not in a row"));
             Require(i == 0 || std::pair(row_.Pieces[i - 1].Y, row_.Pieces[i - 1].X) <
                                   std::pair(piece.Y, piece.X),
-                    "the pieces are not in cutting order");
+                    Words("the pieces are not in cutting order"));
         }
     }
 
@@ -122,15 +123,18 @@ class CandidateCheck {
     }
 
     void CheckPlace(const OrderPiece& piece) const {
-        const std::string name = "piece " + piece.Label;
+        const std::string& name = piece.Label;
         const auto strip = wanted_.find({piece.Room, piece.Strip});
-        Require(strip != wanted_.end(), name + " belongs to no room");
-        Require(piece.Width == strip->second.Width, name + " is not as wide as its strip");
-        Require(piece.Strips == strip->second.Strips, name + " does not know its strips");
-        Require(piece.RoomX == strip->second.Begin, name + " does not begin where its strip does");
-        Require(piece.Length > 0, name + " has no length");
+        Require(strip != wanted_.end(), Words("piece %1 belongs to no room", name));
+        Require(piece.Width == strip->second.Width,
+                Words("piece %1 is not as wide as its strip", name));
+        Require(piece.Strips == strip->second.Strips,
+                Words("piece %1 does not know its strips", name));
+        Require(piece.RoomX == strip->second.Begin,
+                Words("piece %1 does not begin where its strip does", name));
+        Require(piece.Length > 0, Words("piece %1 has no length", name));
         Require(piece.X >= 0 && piece.X + piece.Width <= row_.UsableWidth && piece.Y >= 0,
-                name + " is not on the roll");
+                Words("piece %1 is not on the roll", name));
     }
 
     void CheckOverlaps() const {
@@ -140,7 +144,7 @@ class CandidateCheck {
                 beside, [&](const OrderPiece* each) { return each->Y + each->Length <= piece.Y; });
             for (const OrderPiece* each : beside) {
                 Require(each->X + each->Width <= piece.X || piece.X + piece.Width <= each->X,
-                        "pieces " + each->Label + " and " + piece.Label + " overlap");
+                        Words("pieces %1 and %2 overlap", each->Label, piece.Label));
             }
             beside.push_back(&piece);
         }
@@ -149,23 +153,24 @@ class CandidateCheck {
     void CheckStrip(const Wanted& strip, Pieces& parts) const {
         std::sort(parts.begin(), parts.end(),
                   [](const OrderPiece* a, const OrderPiece* b) { return a->Part < b->Part; });
-        const std::string name = "the strip of piece " + parts.front()->Label;
+        const std::string& name = parts.front()->Label;
         const auto count = static_cast<Long>(parts.size());
         Long end = 0;
         for (Long part = 0; part < count; ++part) {
             const OrderPiece& piece = *parts[static_cast<std::size_t>(part)];
             Require(piece.Part == part + 1 && piece.Parts == count,
-                    name + " does not have its parts numbered");
-            Require(piece.RoomY == end, name + " has parts that do not follow each other");
+                    Words("the strip of piece %1 does not have its parts numbered", name));
+            Require(piece.RoomY == end,
+                    Words("the strip of piece %1 has parts that do not follow each other", name));
             Require(count == 1 || piece.Length >= request_.ShortestPart,
-                    name + " has a part that is too short");
+                    Words("the strip of piece %1 has a part that is too short", name));
             end += piece.Length;
         }
-        Require(end == strip.Length, name + " is not laid whole");
+        Require(end == strip.Length, Words("the strip of piece %1 is not laid whole", name));
         const bool mayDivide =
             strip.Width < row_.UsableWidth && (strip.IsFill || request_.JoinRooms);
         Require(count == 1 || (mayDivide && count <= request_.MostParts),
-                name + " has too many parts");
+                Words("the strip of piece %1 has too many parts", name));
     }
 
     void CheckPattern() const {
@@ -178,17 +183,21 @@ class CandidateCheck {
             Long columns = piece.Strip - other.Strip;
             if (pattern.Across > 0) {
                 columns = across / pattern.Across;
-                Require(across % pattern.Across == 0, MatchText(other, piece, "across"));
+                Require(across % pattern.Across == 0,
+                        MatchText(other, piece,
+                                  Words("pieces %1 and %2 do not match across the roll")));
             }
             if (pattern.Along > 0) {
                 along += pattern.HalfDrop && columns % 2 != 0 ? pattern.Along / 2 : 0;
-                Require(along % pattern.Along == 0, MatchText(other, piece, "along"));
+                Require(
+                    along % pattern.Along == 0,
+                    MatchText(other, piece, Words("pieces %1 and %2 do not match along the roll")));
             }
         }
     }
 
-    static std::string MatchText(const OrderPiece& a, const OrderPiece& b, const std::string& way) {
-        return "pieces " + a.Label + " and " + b.Label + " do not match " + way + " the roll";
+    static std::string MatchText(const OrderPiece& a, const OrderPiece& b, Phrase what) {
+        return Words(what, a.Label, b.Label);
     }
 
     void CheckFigures() const {
@@ -198,14 +207,16 @@ class CandidateCheck {
             needed = std::max<Area>(needed, piece.Y + piece.Length);
         }
         Require(figures.LengthNeeded == needed,
-                "the length needed is not the end of the last piece");
-        Require(figures.LeastLength <= needed, "the least length is above the length needed");
+                Words("the length needed is not the end of the last piece"));
+        Require(figures.LeastLength <= needed,
+                Words("the least length is above the length needed"));
         CheckOrderedLength(needed);
-        Require(figures.AreaBought == figures.Length * row_.RollWidth, "the area bought is wrong");
+        Require(figures.AreaBought == figures.Length * row_.RollWidth,
+                Words("the area bought is wrong"));
         CheckRoomFigures();
         const Double waste = 100 - 100 * static_cast<Double>(figures.AreaRooms) /
                                        static_cast<Double>(figures.AreaBought);
-        Require(std::abs(figures.WastePercent - waste) < 1e-6, "the waste is wrong");
+        Require(std::abs(figures.WastePercent - waste) < 1e-6, Words("the waste is wrong"));
         CheckPrice();
     }
 
@@ -219,7 +230,7 @@ class CandidateCheck {
         const Area least = needed * (Whole + more);
         Require(ordered % request_.Step == 0 && ordered * Whole >= least &&
                     (ordered - request_.Step) * Whole < least,
-                "the length to be ordered is wrong");
+                Words("the length to be ordered is wrong"));
     }
 
     void CheckRoomFigures() const {
@@ -238,19 +249,19 @@ class CandidateCheck {
         const OrderFigures& figures = *row_.Figures;
         Require(figures.AreaRooms == sums.AreaRooms &&
                     figures.AreaRoomsTrimmed == sums.AreaRoomsTrimmed,
-                "the area of the rooms is wrong");
+                Words("the area of the rooms is wrong"));
         Require(figures.SideSeams == sums.SideSeams && figures.CrossJoins == sums.CrossJoins,
-                "the seams or joins are not counted right");
+                Words("the seams or joins are not counted right"));
     }
 
     void CheckPrice() const {
         const std::optional<Double> of = request_.Rolls.at(row_.Roll).Price;
         const std::optional<Double>& price = row_.Figures->Price;
-        Require(of.has_value() == price.has_value(), "the price is missing or made up");
+        Require(of.has_value() == price.has_value(), Words("the price is missing or made up"));
         if (of) {
             const Double unit = request_.In == Units::Metric ? 100 * 100 : 36 * 36;
             const Double exact = *of * static_cast<Double>(row_.Figures->AreaBought) / unit;
-            Require(std::abs(*price - exact) <= 0.005 + 1e-9 * exact, "the price is wrong");
+            Require(std::abs(*price - exact) <= 0.005 + 1e-9 * exact, Words("the price is wrong"));
         }
     }
 
@@ -285,7 +296,7 @@ void CheckBest(const Order& order) {
             best = i;
         }
     }
-    Require(order.Best == best, "the best row is not the best");
+    Require(order.Best == best, Words("the best row is not the best"));
 }
 
 } // namespace
@@ -294,7 +305,7 @@ std::string CheckCandidate(const Project& project, const Order& order, std::size
     try {
         CandidateCheck(project, order, order.Candidates.at(candidate)).Check();
     } catch (const Fault& fault) {
-        return "row " + TrimStr(static_cast<Long>(candidate + 1)) + ": " + fault.Text;
+        return Words("row %1: %2", TrimStr(static_cast<Long>(candidate + 1)), fault.Text);
     }
     return "";
 }
@@ -303,11 +314,11 @@ std::string CheckOrder(const Project& project, const Order& order) {
     try {
         const std::size_t lays = order.Request.Lays.size();
         Require(order.Candidates.size() == order.Request.Rolls.size() * lays,
-                "there is not a row for each roll and lay");
+                Words("there is not a row for each roll and lay"));
         for (std::size_t i = 0; i < order.Candidates.size(); ++i) {
             const OrderCandidate& row = order.Candidates[i];
             Require(row.Roll == i / lays && row.Direction == order.Request.Lays[i % lays],
-                    "the rows are not in their order");
+                    Words("the rows are not in their order"));
             const std::string fault = CheckCandidate(project, order, i);
             Require(fault.empty(), fault);
         }

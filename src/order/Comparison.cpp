@@ -3,6 +3,7 @@
 #include "base/Format.h"
 #include "base/Numbers.h"
 #include "base/Text.h"
+#include "base/Words.h"
 
 #include <algorithm>
 #include <array>
@@ -56,32 +57,36 @@ bool IsShortOfStandard(const RollChoice& roll, Long width, Units units) {
                StandardMetricRolls.end();
 }
 
-std::vector<std::string> NotesOf(const Project& project, const OrderRequest& request,
-                                 const OrderCandidate& candidate,
-                                 const std::vector<OrderStrip>& strips) {
-    std::vector<std::string> notes;
+std::vector<Saying> NotesOf(const Project& project, const OrderRequest& request,
+                            const OrderCandidate& candidate,
+                            const std::vector<OrderStrip>& strips) {
+    std::vector<Saying> notes;
     if (request.TrimAlong == 0 && request.TrimAcross == 0) {
-        notes.emplace_back("Nothing is allowed for trimming.");
+        notes.push_back(Said([] { return Words("Nothing is allowed for trimming."); }));
     }
     const std::vector<Long> tight = RoomsWhere(strips, [&](const OrderStrip& strip) {
         return strip.Number == strip.Count - 1 && strip.Width < strip.NetWidth + request.TrimAcross;
     });
     if (!tight.empty()) {
-        notes.push_back("Less trim than asked for: " + RoomList(project, tight) + ".");
+        notes.push_back(
+            Said([&] { return Words("Less trim than asked for: %1.", RoomList(project, tight)); }));
     }
     const Long narrow = request.In == Units::Metric ? NarrowFillCentimetres : NarrowFillInches;
     const std::vector<Long> slivers = RoomsWhere(strips, [&](const OrderStrip& strip) {
         return strip.Count > 1 && strip.NetWidth < std::min(narrow, candidate.UsableWidth);
     });
     if (!slivers.empty()) {
-        notes.push_back("A fill narrower than " + OrderLengthText(narrow, request.In) + ": " +
-                        RoomList(project, slivers) + ".");
+        notes.push_back(Said([&] {
+            return Words("A fill narrower than %1: %2.", OrderLengthText(narrow, request.In),
+                         RoomList(project, slivers));
+        }));
     }
     const RollChoice& roll = request.Rolls.at(candidate.Roll);
     if (IsShortOfStandard(roll, candidate.RollWidth, request.In)) {
-        notes.push_back("The roll of " + roll.AsTyped + " counts as " +
-                        OrderLengthText(candidate.RollWidth, request.In) +
-                        ", a centimetre short of the standard one.");
+        notes.push_back(Said([&] {
+            return Words("The roll of %1 counts as %2, a centimetre short of the standard one.",
+                         roll.AsTyped, OrderLengthText(candidate.RollWidth, request.In));
+        }));
     }
     return notes;
 }

@@ -2,6 +2,7 @@
 
 #include "base/Format.h"
 #include "base/Lengths.h"
+#include "base/Words.h"
 #include "order/Comparison.h"
 #include "order/OrderWords.h"
 
@@ -9,26 +10,26 @@ namespace tarn {
 
 std::vector<std::string> ComparisonHeads(Units units) {
     const bool metric = units == Units::Metric;
-    return {"Roll",
-            "Lay",
-            metric ? "Order cm" : "Order",
-            metric ? "Needed cm" : "Needed",
-            metric ? "Least possible cm" : "Least possible",
-            metric ? "Bought sq. m" : "Bought sq. ft.",
-            metric ? "Rooms sq. m" : "Rooms sq. ft.",
-            metric ? "Trimmed sq. m" : "Trimmed sq. ft.",
-            "Waste %",
-            metric ? "Seams cm" : "Seams",
-            metric ? "Joins cm" : "Joins",
-            "Price"};
+    return {Words("Roll"),
+            Words("Lay"),
+            metric ? Words("Order cm") : Words("Order"),
+            metric ? Words("Needed cm") : Words("Needed"),
+            metric ? Words("Least possible cm") : Words("Least possible"),
+            metric ? Words("Bought sq. m") : Words("Bought sq. ft."),
+            metric ? Words("Rooms sq. m") : Words("Rooms sq. ft."),
+            metric ? Words("Trimmed sq. m") : Words("Trimmed sq. ft."),
+            Words("Waste %"),
+            metric ? Words("Seams cm") : Words("Seams"),
+            metric ? Words("Joins cm") : Words("Joins"),
+            Words("Price")};
 }
 
 std::vector<std::string> ComparisonCells(const Order& order, const OrderCandidate& candidate) {
     const Units units = order.Request.In;
     std::vector<std::string> cells{RollName(order.Request.Rolls.at(candidate.Roll)),
-                                   LayName(candidate.Direction)};
+                                   std::string(LayName(candidate.Direction))};
     if (!candidate.Figures) {
-        cells.emplace_back(candidate.Refused.empty() ? "" : "refused");
+        cells.emplace_back(candidate.Refused.empty() ? Phrase() : Words("refused"));
         cells.resize(ComparisonHeads(units).size());
         return cells;
     }
@@ -57,9 +58,10 @@ std::string AboveLeastText(const OrderCandidate& candidate) {
 
 std::string TakenText(const Order& order, std::size_t row) {
     const OrderCandidate& taken = order.Candidates.at(row);
-    return (IsBest(order, row) ? "Best: " : "Chosen: ") + CandidateName(order, taken) + ", " +
-           OrderLengthText(static_cast<Long>(taken.Figures->Length), order.Request.In) +
-           " in one length without a join";
+    return Words(IsBest(order, row) ? Words("Best: %1, %2 in one length without a join")
+                                    : Words("Chosen: %1, %2 in one length without a join"),
+                 CandidateName(order, taken),
+                 OrderLengthText(static_cast<Long>(taken.Figures->Length), order.Request.In));
 }
 
 std::string RuleOfBest(const Order& order) {
@@ -95,11 +97,11 @@ std::string RuleOfBest(const Order& order) {
 
 std::string RemarksOf(const OrderCandidate& candidate) {
     if (!candidate.Figures) {
-        return candidate.Refused;
+        return candidate.Refused.Shown;
     }
     std::string remarks;
-    for (const std::string& note : candidate.Figures->Notes) {
-        remarks += (remarks.empty() ? "" : "\n") + note;
+    for (const Saying& note : candidate.Figures->Notes) {
+        remarks += (remarks.empty() ? "" : "\n") + note.Shown;
     }
     return remarks;
 }

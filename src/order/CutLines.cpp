@@ -2,6 +2,7 @@
 
 #include "base/Lengths.h"
 #include "base/Text.h"
+#include "base/Words.h"
 
 #include <map>
 
@@ -11,11 +12,11 @@ namespace {
 
 /// "12"" or "30 cm": a short length beside other words.
 std::string RestText(Long length, Units units) {
-    return units == Units::Metric ? TrimStr(length) + " cm" : TrimStr(length) + "\"";
+    return units == Units::Metric ? Words("%1 cm", TrimStr(length)) : TrimStr(length) + "\"";
 }
 
-std::string CountText(const char* what, Long number, Long count) {
-    return std::string(what) + ' ' + TrimStr(number) + " of " + TrimStr(count);
+std::string CountText(Phrase what, Long number, Long count) {
+    return Words(what, TrimStr(number), TrimStr(count));
 }
 
 /// Which piece of its room it is.
@@ -23,10 +24,12 @@ std::string WhichPiece(const OrderPiece& piece, Long usableWidth) {
     std::string text;
     if (piece.Strips > 1) {
         const bool isFill = piece.Strip == piece.Strips - 1 && piece.Width < usableWidth;
-        text = CountText(isFill ? "fill" : "drop", piece.Strip + 1, piece.Strips);
+        text = CountText(isFill ? Words("fill %1 of %2") : Words("drop %1 of %2"), piece.Strip + 1,
+                         piece.Strips);
     }
     if (piece.Parts > 1) {
-        text += (text.empty() ? "" : ", ") + CountText("part", piece.Part, piece.Parts);
+        text +=
+            (text.empty() ? "" : ", ") + CountText(Words("part %1 of %2"), piece.Part, piece.Parts);
     }
     return text;
 }
@@ -39,12 +42,14 @@ std::string MatchText(const OrderPiece& piece, const OrderPiece& first,
     const Long rest = distance % request.Pattern.Along;
     std::string text;
     if (repeats > 0) {
-        text = TrimStr(repeats) + (repeats == 1 ? " repeat" : " repeats");
+        text = CountedWords("%n repeat", "%n repeats", repeats);
     }
     if (rest > 0) {
-        text += (text.empty() ? "" : " and ") + RestText(rest, request.In);
+        const std::string further = RestText(rest, request.In);
+        text = text.empty() ? further : Words("%1 and %2", text, further);
     }
-    return text.empty() ? "beside " + first.Label : text + " on from " + first.Label;
+    return text.empty() ? Words("beside %1", first.Label)
+                        : Words("%1 on from %2", text, first.Label);
 }
 
 } // namespace
@@ -55,7 +60,7 @@ std::string RoomName(const Project& project, const OrderPiece& piece) {
     if (!room.Remark.empty()) {
         name += (name.empty() ? "" : " ") + ShownText(room.Remark);
     }
-    return name.empty() ? "room " + TrimStr(piece.Room) : name;
+    return name.empty() ? Words("room %1", TrimStr(piece.Room)) : name;
 }
 
 std::vector<CutLine> CutLines(const Project& project, const OrderRequest& request,

@@ -1,6 +1,7 @@
 #include "order/MakeOrder.h"
 
 #include "base/RunTimeError.h"
+#include "base/Words.h"
 #include "order/CheckOrder.h"
 #include "order/Comparison.h"
 #include "order/CoreTurns.h"
@@ -208,7 +209,7 @@ class OrderMaker {
 
     static void RequireSound(const std::string& fault) {
         if (!fault.empty()) {
-            RaiseInternal("The order was discarded: " + fault + ".");
+            RaiseInternal(Words("The order was discarded: %1.", fault));
         }
     }
 

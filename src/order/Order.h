@@ -4,6 +4,7 @@
 
 #include "base/Lay.h"
 #include "base/Types.h"
+#include "base/Words.h"
 #include "project/OrderRequest.h"
 
 #include <cstdint>
@@ -52,7 +53,7 @@ struct OrderFigures {
     SeamTotal SideSeams;
     SeamTotal CrossJoins;
     std::optional<Double> Price; ///< rounded to two places
-    std::vector<std::string> Notes;
+    std::vector<Saying> Notes;
 
     bool operator==(const OrderFigures&) const = default;
 };
@@ -64,7 +65,7 @@ struct OrderCandidate {
     Long RollWidth = 0;
     Long UsableWidth = 0;
     Lay Direction = Lay::Down;
-    std::string Refused; ///< why there is none: a sentence, or empty
+    Saying Refused; ///< why there is none: a sentence, or empty
     std::optional<OrderFigures> Figures;
     std::vector<OrderPiece> Pieces; ///< in cutting order
 

@@ -1,6 +1,7 @@
 #include "order/OrderStrips.h"
 
 #include "base/Text.h"
+#include "base/Words.h"
 #include "improve/PatternPhase.h"
 
 #include <algorithm>
@@ -16,6 +17,12 @@ struct LaidRoom {
     Long Length;
 };
 
+std::string RoomText(const Project& project, Long room, Phrase alone, Phrase named) {
+    const Room& of = project.Rooms.at(static_cast<std::size_t>(room));
+    const std::string& name = of.Number.empty() ? of.Remark : of.Number;
+    return Words(name.empty() ? alone : named, TrimStr(room + 1), name);
+}
+
 class RoomCutter {
   public:
     RoomCutter(const Project& project, const OrderRequest& request, Long usable)
@@ -29,13 +36,18 @@ class RoomCutter {
         const Long rest = room.Width % usable_;
         const Long count = drops + (rest > 0 ? 1 : 0);
         if (room.Length + request_.TrimAlong > LongestStrip) {
-            return Refuse(room, "is too long: with its trim a strip may be " + Text(LongestStrip) +
-                                    " long.");
+            return Refuse([&] {
+                return Words("%1 is too long: with its trim a strip may be %2 long.", Name(room),
+                             Text(LongestStrip));
+            });
         }
         if (result_.Strips.size() + static_cast<std::size_t>(count) > MostStrips) {
-            result_.Refused = "There are more than " + TrimStr(static_cast<Long>(MostStrips)) +
-                              " strips: choose a wider roll or order the rooms in two projects.";
-            return false;
+            return Refuse([] {
+                return Words(
+                    "There are more than %1 strips: choose a wider roll or order the rooms "
+                    "in two projects.",
+                    TrimStr(static_cast<Long>(MostStrips)));
+            });
         }
         for (Long number = 0; number < count; ++number) {
             AddStrip(room, number, count, number < drops ? usable_ : rest);
@@ -44,16 +56,19 @@ class RoomCutter {
     }
 
     OrderStrips Take() { return std::move(result_); }
-    void RefuseAll(const std::string& reason) { result_.Refused = reason; }
+
+    template <typename Say>
+    bool Refuse(Say say) {
+        result_.Refused = Said(say);
+        return false;
+    }
 
   private:
     std::string Text(Long length) const { return OrderLengthText(length, request_.In); }
 
-    bool Refuse(const LaidRoom& room, const std::string& reason) {
-        std::string text = RoomText(project_, room.Number);
-        text.front() = 'R';
-        result_.Refused = text + " " + reason;
-        return false;
+    /// A room at the beginning of a sentence.
+    std::string Name(const LaidRoom& room) const {
+        return RoomText(project_, room.Number, Words("Room %1"), Words("Room %1 (%2)"));
     }
 
     void AddStrip(const LaidRoom& room, Long number, Long count, Long width) {
@@ -72,16 +87,19 @@ class RoomCutter {
         if (repeat == 0 || last.Count == 1) {
             return true;
         }
-        const std::string usable = "the roll's usable width of " + Text(usable_);
         if (drops > 1 && usable_ % repeat != 0) {
-            return Refuse(room, "cannot match: " + usable +
-                                    " is not a whole number of repeats of " + Text(repeat) +
-                                    " across.");
+            return Refuse([&] {
+                return Words("%1 cannot match: the roll's usable width of %2 is not a whole number "
+                             "of repeats of %3 across.",
+                             Name(room), Text(usable_), Text(repeat));
+            });
         }
         if (NextInPhase(0, last.Begin, repeat) + last.Width > usable_) {
-            return Refuse(room, "cannot match: its fill of " + Text(last.Width) +
-                                    " has no place across " + usable + " by the repeat of " +
-                                    Text(repeat) + ".");
+            return Refuse([&] {
+                return Words("%1 cannot match: its fill of %2 has no place across the roll's "
+                             "usable width of %3 by the repeat of %4.",
+                             Name(room), Text(last.Width), Text(usable_), Text(repeat));
+            });
         }
         return true;
     }
@@ -98,7 +116,7 @@ OrderStrips StripsOf(const Project& project, Byte carpet, const OrderRequest& re
                      Lay lay) {
     RoomCutter cutter(project, request, usable);
     if (usable < 1) {
-        cutter.RefuseAll("The roll is no wider than its selvage.");
+        cutter.Refuse([] { return Words("The roll is no wider than its selvage."); });
         return cutter.Take();
     }
     for (std::size_t i = 0; i < project.Rooms.size(); ++i) {
@@ -121,9 +139,7 @@ Long UsableWidth(const RollChoice& roll, const OrderRequest& request) {
 }
 
 std::string RoomText(const Project& project, Long room) {
-    const Room& named = project.Rooms.at(static_cast<std::size_t>(room));
-    const std::string& name = named.Number.empty() ? named.Remark : named.Number;
-    return "room " + TrimStr(room + 1) + (name.empty() ? "" : " (" + name + ")");
+    return RoomText(project, room, Words("room %1"), Words("room %1 (%2)"));
 }
 
 } // namespace tarn

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "base/Words.h"
 #include "project/OrderRequest.h"
 #include "project/Project.h"
 
@@ -29,7 +30,7 @@ inline constexpr std::size_t MostStrips = 6001;
 
 /// What a row of the comparison cuts, or why it cannot.
 struct OrderStrips {
-    std::string Refused; ///< a sentence; empty when all rooms can be cut
+    Saying Refused; ///< a sentence; empty when all rooms can be cut
     std::vector<OrderStrip> Strips;
 };
 

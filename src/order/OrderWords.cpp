@@ -3,15 +3,18 @@
 #include "base/Format.h"
 #include "base/Lengths.h"
 #include "base/Text.h"
+#include "base/Words.h"
 
 namespace tarn {
 
-const char* LayName(Lay lay) {
-    return lay == Lay::Cross ? "cross" : "down";
+std::string_view LayName(Lay lay) {
+    return lay == Lay::Cross ? Words("cross") : Words("down");
 }
 
 std::string CandidateName(const Order& order, const OrderCandidate& candidate) {
-    return RollName(order.Request.Rolls.at(candidate.Roll)) + ", " + LayName(candidate.Direction);
+    return RollName(order.Request.Rolls.at(candidate.Roll))
+        .append(", ")
+        .append(LayName(candidate.Direction));
 }
 
 std::string AreaText(std::int64_t area, Units units) {
@@ -19,7 +22,7 @@ std::string AreaText(std::int64_t area, Units units) {
 }
 
 std::string SeamText(const SeamTotal& seams, Units units) {
-    return seams.Count == 0 ? "none"
+    return seams.Count == 0 ? std::string(Words("none"))
                             : TrimStr(seams.Count) + ", " +
                                   WholeLengthText(static_cast<Long>(seams.Length), units);
 }

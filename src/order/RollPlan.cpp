@@ -2,6 +2,7 @@
 
 #include "base/Lengths.h"
 #include "base/Text.h"
+#include "base/Words.h"
 #include "order/SheetText.h"
 
 #include <algorithm>
@@ -26,7 +27,8 @@ std::string ShortRoom(const Project& project, const OrderPiece& piece) {
     text.erase(
         std::unique(text.begin(), text.end(), [](char a, char b) { return a == ' ' && b == ' '; }),
         text.end());
-    return text.empty() ? "room " + TrimStr(piece.Room) : FirstCharacters(text, MostRoomCharacters);
+    return text.empty() ? Words("room %1", TrimStr(piece.Room))
+                        : FirstCharacters(text, MostRoomCharacters);
 }
 
 class RollPlanner {
@@ -155,8 +157,8 @@ class RollPlanner {
     }
 
     std::string HeadOf(const RollStretch& stretch) const {
-        return WholeLengthText(stretch.From, request_.In) + " to " +
-               OrderLengthText(stretch.To, request_.In);
+        return Words("%1 to %2", WholeLengthText(stretch.From, request_.In),
+                     OrderLengthText(stretch.To, request_.In));
     }
 
     static Long WholeUnits(Double length) {
@@ -206,8 +208,8 @@ class RollPlanner {
         const auto& unmarked = strip.Labels.Unmarked;
         if (std::find(unmarked.begin(), unmarked.end(), number) != unmarked.end()) {
             const OrderPiece& piece = candidate_.Pieces.at(strip.Pieces.at(number));
-            text += "  (at " + OrderLengthText(piece.Y, request_.In) + ", " +
-                    OrderLengthText(piece.X, request_.In) + " across)";
+            text = Words("%1  (at %2, %3 across)", text, OrderLengthText(piece.Y, request_.In),
+                         OrderLengthText(piece.X, request_.In));
         }
         return ShortenedText(text, body_.Width(), NoteSize);
     }

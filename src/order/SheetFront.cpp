@@ -3,6 +3,7 @@
 #include "base/Format.h"
 #include "base/Lengths.h"
 #include "base/Text.h"
+#include "base/Words.h"
 #include "estimate/Totals.h"
 #include "order/OrderWords.h"
 #include "order/SheetText.h"
@@ -89,45 +90,50 @@ class FrontWriter {
 };
 
 std::string AreaWithUnit(std::int64_t area, Units units) {
-    return AreaText(area, units) + (units == Units::Metric ? " sq. m" : " sq. ft.");
+    const std::string figure = AreaText(area, units);
+    return units == Units::Metric ? Words("%1 sq. m", figure) : Words("%1 sq. ft.", figure);
 }
 
 void WriteRoll(FrontWriter& writer, const Order& order, const OrderCandidate& best) {
     const OrderRequest& request = order.Request;
     const auto length = [&](std::int64_t value) { return LengthText(value, request.In); };
-    writer.Value("Roll", RollName(request.Rolls.at(best.Roll)));
-    writer.Value("Roll width", length(best.RollWidth));
-    writer.Value("Usable width",
-                 length(best.UsableWidth) + (request.Selvage == 0
-                                                 ? ""
-                                                 : ", without the selvage of " +
-                                                       length(request.Selvage) + " on each side"));
-    writer.Value("Lay", best.Direction == Lay::Cross ? "cross: room lengths across the roll"
-                                                     : "down: room widths across the roll");
+    writer.Value(Words("Roll"), RollName(request.Rolls.at(best.Roll)));
+    writer.Value(Words("Roll width"), length(best.RollWidth));
+    const std::string usable = length(best.UsableWidth);
+    writer.Value(Words("Usable width"), request.Selvage == 0
+                                            ? usable
+                                            : Words("%1, without the selvage of %2 on each side",
+                                                    usable, length(request.Selvage)));
+    writer.Value(Words("Lay"), best.Direction == Lay::Cross
+                                   ? Words("cross: room lengths across the roll")
+                                   : Words("down: room widths across the roll"));
 }
 
 void WriteTotals(FrontWriter& writer, const Order& order, const OrderCandidate& best) {
     const OrderFigures& figures = *best.Figures;
     const Units units = order.Request.In;
     const auto length = [&](std::int64_t value) { return LengthText(value, units); };
-    writer.Heading("What to buy");
-    writer.Value("To be ordered", length(figures.Length) + " in one length without a join");
-    writer.Value("Needed", length(figures.LengthNeeded) +
-                               (figures.LeastLength == figures.LengthNeeded
-                                    ? ", the least possible"
-                                    : ", least possible " + length(figures.LeastLength)));
-    writer.Value("Area bought", AreaWithUnit(figures.AreaBought, units));
-    writer.Value("Area of the rooms", AreaWithUnit(figures.AreaRooms, units));
-    writer.Value("Strips with trim", AreaWithUnit(figures.AreaRoomsTrimmed, units));
-    writer.Value("Waste", Format(figures.WastePercent, "##0.0") + " % of what is bought");
-    writer.Value("Pieces", TrimStr(static_cast<long long>(best.Pieces.size())));
-    const std::string unit = units == Units::Metric ? " cm" : "";
+    writer.Heading(Words("What to buy"));
+    writer.Value(Words("To be ordered"),
+                 Words("%1 in one length without a join", length(figures.Length)));
+    writer.Value(Words("Needed"),
+                 figures.LeastLength == figures.LengthNeeded
+                     ? Words("%1, the least possible", length(figures.LengthNeeded))
+                     : Words("%1, least possible %2", length(figures.LengthNeeded),
+                             length(figures.LeastLength)));
+    writer.Value(Words("Area bought"), AreaWithUnit(figures.AreaBought, units));
+    writer.Value(Words("Area of the rooms"), AreaWithUnit(figures.AreaRooms, units));
+    writer.Value(Words("Strips with trim"), AreaWithUnit(figures.AreaRoomsTrimmed, units));
+    writer.Value(Words("Waste"),
+                 Words("%1 % of what is bought", Format(figures.WastePercent, "##0.0")));
+    writer.Value(Words("Pieces"), TrimStr(static_cast<long long>(best.Pieces.size())));
     const auto seams = [&](const SeamTotal& total) {
-        return SeamText(total, units) + (total.Count == 0 ? "" : unit);
+        const std::string text = SeamText(total, units);
+        return total.Count > 0 && units == Units::Metric ? Words("%1 cm", text) : text;
     };
-    writer.Value("Side seams", seams(figures.SideSeams));
-    writer.Value("Cross joins", seams(figures.CrossJoins));
-    writer.Value("Price", figures.Price ? Format(*figures.Price, "#,##0.00") : "");
+    writer.Value(Words("Side seams"), seams(figures.SideSeams));
+    writer.Value(Words("Cross joins"), seams(figures.CrossJoins));
+    writer.Value(Words("Price"), figures.Price ? Format(*figures.Price, "#,##0.00") : "");
 }
 
 /// With two places, where they say something.
@@ -140,28 +146,30 @@ std::string Percent(Double value) {
 std::string PatternText(const OrderRequest& request) {
     const PatternChoice& pattern = request.Pattern;
     const auto repeat = [&](Long length) {
-        return length == 0 ? std::string("none") : OrderLengthText(length, request.In);
+        return length == 0 ? std::string(Words("none")) : OrderLengthText(length, request.In);
     };
     if (pattern.Across == 0 && pattern.Along == 0) {
-        return "none";
+        return Words("none");
     }
-    return repeat(pattern.Across) + " across, " + repeat(pattern.Along) + " along" +
-           (pattern.HalfDrop ? ", half drop" : "") + "; drift " + Percent(DriftOf(request));
+    const Phrase text = pattern.HalfDrop ? Words("%1 across, %2 along, half drop; drift %3")
+                                         : Words("%1 across, %2 along; drift %3");
+    return Words(text, repeat(pattern.Across), repeat(pattern.Along), Percent(DriftOf(request)));
 }
 
 void WriteCutting(FrontWriter& writer, const OrderRequest& request) {
     const auto length = [&](Long value) { return OrderLengthText(value, request.In); };
-    writer.Heading("How it is cut");
-    writer.Value("Trim", length(request.TrimAlong) + " along, " + length(request.TrimAcross) +
-                             " across; part of the sizes");
-    writer.Value("Parts of a strip", request.MostParts == 1
-                                         ? "1"
-                                         : "at most " + TrimStr(request.MostParts) +
-                                               ", none shorter than " +
-                                               length(request.ShortestPart) +
-                                               (request.JoinRooms ? ", of rooms too" : ""));
-    writer.Value("Pattern repeat", PatternText(request));
-    writer.Value("Pile", "the same way on all pieces: see the arrows");
+    writer.Heading(Words("How it is cut"));
+    writer.Value(Words("Trim"), Words("%1 along, %2 across; part of the sizes",
+                                      length(request.TrimAlong), length(request.TrimAcross)));
+    const Phrase parts = request.JoinRooms ? Words("at most %1, none shorter than %2, of rooms "
+                                                   "too")
+                                           : Words("at most %1, none shorter than %2");
+    writer.Value(Words("Parts of a strip"),
+                 request.MostParts == 1
+                     ? "1"
+                     : Words(parts, TrimStr(request.MostParts), length(request.ShortestPart)));
+    writer.Value(Words("Pattern repeat"), PatternText(request));
+    writer.Value(Words("Pile"), Words("the same way on all pieces: see the arrows"));
 }
 
 /// Tiles and wall base of the whole project.
@@ -172,16 +180,17 @@ void WriteRest(FrontWriter& writer, const Project& project, Units units) {
     if (base == 0 && tiles.empty()) {
         return;
     }
-    writer.Heading("What else the project needs");
+    writer.Heading(Words("What else the project needs"));
     for (const TileFloor& tile : tiles) {
         const Area area = AreaOf(static_cast<Double>(tile.Area));
         writer.Value(CoveringCaption(tile.Covering),
-                     metric ? Format(area.SquareMeters, "#,##0.00") + " sq. m"
-                            : Format(area.SquareFeet, "#,##0.00") + " sq. ft.");
+                     metric ? Words("%1 sq. m", Format(area.SquareMeters, "#,##0.00"))
+                            : Words("%1 sq. ft.", Format(area.SquareFeet, "#,##0.00")));
     }
     if (base > 0) {
-        writer.Value("Wall base", metric ? Format(base, "##0") + " cm"
-                                         : Format(base / InchesPerFoot, "#,##0.00") + " feet");
+        writer.Value(Words("Wall base"),
+                     metric ? Words("%1 cm", Format(base, "##0"))
+                            : Words("%1 feet", Format(base / InchesPerFoot, "#,##0.00")));
     }
 }
 
@@ -190,25 +199,26 @@ void WriteRest(FrontWriter& writer, const Project& project, Units units) {
 std::vector<Drawing> FrontPages(const Project& project, const Order& order, const SheetPaper& paper,
                                 std::string_view head, std::string_view date) {
     FrontWriter writer(paper, head);
-    writer.Title(order.Best ? "Order and cutting sheet" : "No order");
-    writer.Value("Project", ShownText(project.Name));
-    writer.Value("Date", date);
-    writer.Value("Carpet", CoveringCaption(order.Carpet));
+    writer.Title(order.Best ? Words("Order and cutting sheet") : Words("No order"));
+    writer.Value(Words("Project"), ShownText(project.Name));
+    writer.Value(Words("Date"), date);
+    writer.Value(Words("Carpet"), CoveringCaption(order.Carpet));
     if (order.Best) {
         const OrderCandidate& best = order.Candidates.at(*order.Best);
         WriteRoll(writer, order, best);
         WriteTotals(writer, order, best);
         WriteCutting(writer, order.Request);
         if (!best.Figures->Notes.empty()) {
-            writer.Heading("Notes");
-            for (const std::string& note : best.Figures->Notes) {
-                writer.Paragraph(ShownText(note));
+            writer.Heading(Words("Notes"));
+            for (const Saying& note : best.Figures->Notes) {
+                writer.Paragraph(ShownText(note.Shown));
             }
         }
     } else {
-        writer.Heading("Every roll and lay is refused");
+        writer.Heading(Words("Every roll and lay is refused"));
         for (const OrderCandidate& candidate : order.Candidates) {
-            writer.Paragraph(CandidateName(order, candidate) + ": " + ShownText(candidate.Refused));
+            writer.Paragraph(CandidateName(order, candidate) + ": " +
+                             ShownText(candidate.Refused.Shown));
         }
     }
     WriteRest(writer, project, order.Request.In);

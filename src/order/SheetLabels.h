@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include "base/Words.h"
 #include "order/SheetPage.h"
 
 #include <string>
@@ -20,7 +21,7 @@ struct LabelledBox {
 
     std::string Size() const { return Across + " X " + Along; }
     /// The letter, and whether it goes on from another stretch.
-    std::string Name() const { return Letter + (Continues ? " continues" : ""); }
+    std::string Name() const { return Continues ? Words("%1 continues", Letter) : Letter; }
 };
 
 /// Where a stretch is drawn.

@@ -1,6 +1,7 @@
 #include "order/SheetList.h"
 
 #include "base/Text.h"
+#include "base/Words.h"
 #include "order/CutLines.h"
 #include "order/SheetText.h"
 
@@ -39,8 +40,9 @@ class ListPainter {
         , body_(BodyOf(paper))
         , units_(order.Request.In)
         , patternAdvice_(order.Request.Pattern.Along > 0
-                             ? " Where a piece must match, cut on the pattern, not on the tape."
-                             : "") {
+                             ? Words(" Where a piece must match, cut on the pattern, not on the "
+                                     "tape.")
+                             : Phrase()) {
         for (const CutLine& line : CutLines(project, order.Request, candidate)) {
             rows_.push_back({line.Label, line.From, line.To, line.Across, line.Size,
                              OneLine(line.Room), line.Which, line.Match});
@@ -61,7 +63,8 @@ class ListPainter {
 
   private:
     static Row<std::string> Heads() {
-        return {"Cut", "From", "To", "Across", "Size", "Room", "Which", "In the pattern"};
+        return {Words("Cut"),  Words("From"), Words("To"),    Words("Across"),
+                Words("Size"), Words("Room"), Words("Which"), Words("In the pattern")};
     }
 
     bool IsShown(int column) const { return widths_.at(static_cast<std::size_t>(column)) > 0; }
@@ -122,12 +125,14 @@ class ListPainter {
     void Turn() {
         constexpr Double CaptionSize = 9;
         pages_.push_back(NewPage(paper_, head_));
-        const std::string unit = units_ == Units::Metric ? "centimetres" : "feet and inches";
+        const Phrase advice =
+            units_ == Units::Metric
+                ? Words("Cut in this order. From and to count along the roll from its start, "
+                        "across from its usable edge; centimetres.")
+                : Words("Cut in this order. From and to count along the roll from its start, "
+                        "across from its usable edge; feet and inches.");
         y_ = AddLines(pages_.back(), body_,
-                      WrappedText("Cut in this order. From and to count along the roll from its "
-                                  "start, across from its usable edge; " +
-                                      unit + "." + patternAdvice_,
-                                  body_.Width(), CaptionSize),
+                      WrappedText(std::string(advice) + patternAdvice_, body_.Width(), CaptionSize),
                       CaptionSize) +
              2 * RowGap;
         PaintRow(CellsOf(Heads()));

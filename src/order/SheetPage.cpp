@@ -1,6 +1,7 @@
 #include "order/SheetPage.h"
 
 #include "base/Text.h"
+#include "base/Words.h"
 #include "order/SheetText.h"
 
 namespace tarn {
@@ -30,8 +31,8 @@ Drawing NewPage(const SheetPaper& paper, std::string_view head) {
 
 void NumberPages(std::vector<Drawing>& pages, const SheetPaper& paper) {
     for (std::size_t i = 0; i < pages.size(); ++i) {
-        const std::string number =
-            TrimStr(static_cast<Long>(i + 1)) + " of " + TrimStr(static_cast<Long>(pages.size()));
+        const std::string number = Words("%1 of %2", TrimStr(static_cast<Long>(i + 1)),
+                                         TrimStr(static_cast<Long>(pages.size())));
         pages[i].AddText(paper.Width - paper.Margin - WidthOfText(number, HeadSize), paper.Margin,
                          number, HeadSize);
     }

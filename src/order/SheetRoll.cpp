@@ -2,6 +2,7 @@
 
 #include "base/Lengths.h"
 #include "base/Text.h"
+#include "base/Words.h"
 #include "order/RollPlan.h"
 #include "order/SheetText.h"
 
@@ -16,6 +17,7 @@ namespace {
 constexpr Double HatchStep = 130; ///< between two hatching lines, down the page
 constexpr Double TickLength = 60;
 constexpr Double LongTickLength = 110;
+constexpr auto PileWord = Words("pile");
 
 class RollPainter {
   public:
@@ -57,8 +59,8 @@ class RollPainter {
         const Double left = strip.Roll.Left - RulerWidth;
         page.AddText(left, top, strip.Head, StripHeadSize);
         const Double second = top + HeightOfLine(StripHeadSize) + 40;
-        page.AddText(strip.Roll.Left, second, "pile", LeastTypeSize);
-        const Double x = strip.Roll.Left + WidthOfText("pile", LeastTypeSize) + 110;
+        page.AddText(strip.Roll.Left, second, PileWord, LeastTypeSize);
+        const Double x = strip.Roll.Left + WidthOfText(PileWord, LeastTypeSize) + 110;
         const Double tip = second + HeightOfLine(LeastTypeSize) + 20;
         constexpr Double Head = 55;
         page.AddLine(x, second - 10, x, tip);
@@ -199,7 +201,8 @@ class RollPainter {
         const auto perPage = static_cast<std::size_t>(body.Height() / HeightOfLine(NoteSize)) - 2;
         for (std::size_t first = 0; first < rest_.size(); first += perPage) {
             pages_.push_back(NewPage(paper_, head_));
-            std::vector<std::string> shown{"Pieces too small to be labelled on the roll", ""};
+            std::vector<std::string> shown{Words("Pieces too small to be labelled on the roll"),
+                                           ""};
             const auto begin = rest_.begin() + static_cast<std::ptrdiff_t>(first);
             const auto count = std::min(perPage, rest_.size() - first);
             shown.insert(shown.end(), begin, begin + static_cast<std::ptrdiff_t>(count));

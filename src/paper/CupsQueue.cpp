@@ -1,6 +1,7 @@
 #include "paper/CupsQueue.h"
 
 #include "base/Text.h"
+#include "base/Words.h"
 #include "paper/JobOptions.h"
 #include "paper/PrinterTrouble.h"
 
@@ -14,16 +15,16 @@ namespace {
 
 constexpr std::size_t LongestJobName = 255; ///< bytes
 
-constexpr const char* SettingsAdvice =
-    "Choose a default printer in the system's printer settings, or set this one up there.";
-constexpr const char* StoppedAdvice =
-    "Start it again in the system's printer settings, or choose another default printer there.";
-constexpr const char* NotAcceptingAdvice =
-    "Let it accept jobs in the system's printer settings, or choose another default printer there.";
-constexpr const char* TroubleAdvice = "Put that right at the printer, then print again.";
-constexpr const char* RefusedAdvice =
-    "Look at the printer in the system's printer settings, then print again.";
-constexpr const char* NotKnownAdvice = "Look whether the page comes out before you print again.";
+constexpr auto SettingsAdvice =
+    Words("Choose a default printer in the system's printer settings, or set this one up there.");
+constexpr auto StoppedAdvice = Words(
+    "Start it again in the system's printer settings, or choose another default printer there.");
+constexpr auto NotAcceptingAdvice = Words("Let it accept jobs in the system's printer settings, or "
+                                          "choose another default printer there.");
+constexpr auto TroubleAdvice = Words("Put that right at the printer, then print again.");
+constexpr auto RefusedAdvice =
+    Words("Look at the printer in the system's printer settings, then print again.");
+constexpr auto NotKnownAdvice = Words("Look whether the page comes out before you print again.");
 
 bool Succeeded(const Ipp& answer) {
     return ippGetStatusCode(answer.get()) <= IPP_STATUS_OK_EVENTS_COMPLETE;
@@ -90,14 +91,14 @@ CupsQueue::CupsQueue(CupsPatience patience)
     AskFor(request, QueueAttributes());
     const Ipp queue = server_.Ask(request, "/");
     if (ippGetStatusCode(queue.get()) == IPP_STATUS_ERROR_NOT_FOUND) {
-        throw PrinterError(name_.empty() ? "There is no default printer."
-                                         : "There is no printer " + name_ + ".",
+        throw PrinterError(name_.empty() ? std::string(Words("There is no default printer."))
+                                         : Words("There is no printer %1.", name_),
                            SettingsAdvice);
     }
     choice.Name = name_ = TextIn(queue.get(), "printer-name");
     if (!Succeeded(queue) || name_.empty()) {
         throw PrinterError(
-            "The printing system does not name the default printer: " + MessageOf(queue) + ".",
+            Words("The printing system does not name the default printer: %1.", MessageOf(queue)),
             SettingsAdvice);
     }
     RequireReady(queue.get());
@@ -109,16 +110,16 @@ CupsQueue::CupsQueue(CupsPatience patience)
 void CupsQueue::RequireReady(ipp_t* queue) const {
     const int state = NumberIn(queue, "printer-state");
     if (state == IPP_PSTATE_STOPPED) {
-        throw PrinterError("The printer " + name_ + " is stopped.", StoppedAdvice);
+        throw PrinterError(Words("The printer %1 is stopped.", name_), StoppedAdvice);
     }
     ipp_attribute_t* accepting =
         ippFindAttribute(queue, "printer-is-accepting-jobs", IPP_TAG_BOOLEAN);
     if (accepting != nullptr && ippGetBoolean(accepting, 0) == 0) {
-        throw PrinterError("The printer " + name_ + " takes no jobs.", NotAcceptingAdvice);
+        throw PrinterError(Words("The printer %1 takes no jobs.", name_), NotAcceptingAdvice);
     }
     const std::string trouble = PrinterTrouble(state, TextsIn(queue, "printer-state-reasons"));
     if (!trouble.empty()) {
-        throw PrinterError("The printer " + name_ + " " + trouble + ".", TroubleAdvice);
+        throw PrinterError(Words("The printer %1 %2.", name_, trouble), TroubleAdvice);
     }
 }
 
@@ -141,7 +142,7 @@ Ipp CupsQueue::NewJobRequest(ipp_op_t operation, int job) const {
 }
 
 PrinterError CupsQueue::Refusal(const Ipp& answer) const {
-    return PrinterError("The printer " + name_ + " refused the job: " + MessageOf(answer) + ".",
+    return PrinterError(Words("The printer %1 refused the job: %2.", name_, MessageOf(answer)),
                         RefusedAdvice);
 }
 
@@ -174,8 +175,8 @@ bool CupsQueue::KeepIfArrived(int job, const PrinterError& failure) {
             server_.Ask(NewJobRequest(IPP_OP_CANCEL_JOB, job), "/jobs/");
         }
     } catch (const PrinterError&) {
-        throw PrinterError("The printer " + name_ + " does not tell whether it took the job. " +
-                               failure.what(),
+        throw PrinterError(Words("The printer %1 does not tell whether it took the job. %2", name_,
+                                 failure.what()),
                            NotKnownAdvice);
     }
     return false;

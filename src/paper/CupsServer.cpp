@@ -1,5 +1,6 @@
 #include "paper/CupsServer.h"
 
+#include "base/Words.h"
 #include "paper/SocketDeadline.h"
 
 #include <algorithm>
@@ -18,7 +19,7 @@ constexpr std::size_t PieceBytes = 16384;
 /// How long the server may take to say that it wants no document, before the document is sent.
 constexpr milliseconds ContinueWait{1000};
 
-constexpr const char* NotAllowedAdvice = "Whoever looks after the printing system can allow it.";
+constexpr auto NotAllowedAdvice = Words("Whoever looks after the printing system can allow it.");
 
 /// Never asks for a password: there is nobody at the terminal.
 const char* NoPassword(const char*, http_t*, const char*, const char*, void*) {
@@ -29,15 +30,15 @@ struct CloseConnection {
     void operator()(http_t* connection) const { httpClose(connection); }
 };
 
-std::string SystemName() {
-    return "The printing system (" + std::string(cupsServer()) + ")";
+std::string ServerName() {
+    return cupsServer();
 }
 
 } // namespace
 
 NoAnswer::NoAnswer(const std::string& cause)
-    : PrinterError(cause, "Check that the printing system runs and that its network is there, then "
-                          "print again.") {}
+    : PrinterError(cause, Words("Check that the printing system runs and that its network is "
+                                "there, then print again.")) {}
 
 /// One request over a connection of its own, and what the server says of it.
 class CupsServer::Exchange {
@@ -79,14 +80,15 @@ http_t* CupsServer::Exchange::Connect(http_encryption_t encryption, Clock::time_
                                    : httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC,
                                                   first, 1, static_cast<int>(left), nullptr);
     if (connection == nullptr) {
-        throw NoAnswer(SystemName() + " cannot be reached.");
+        throw NoAnswer(Words("The printing system (%1) cannot be reached.", ServerName()));
     }
     return connection;
 }
 
 void CupsServer::Exchange::Fail() const {
-    throw NoAnswer("The printing system does not answer: " +
-                   std::string(deadline_.Passed() ? "it keeps silent." : "it hung up."));
+    throw NoAnswer(deadline_.Passed()
+                       ? Words("The printing system does not answer: it keeps silent.")
+                       : Words("The printing system does not answer: it hung up."));
 }
 
 bool CupsServer::Exchange::SendDocument(std::string_view document, const CupsPatience& patience) {
@@ -164,7 +166,7 @@ Ipp CupsServer::Ask(const Ipp& request, const std::string& resource, std::string
     try {
         return Exchanged(request, resource, document);
     } catch (const std::system_error& error) {
-        throw NoAnswer("The printing system cannot be asked: " + std::string(error.what()) + ".");
+        throw NoAnswer(Words("The printing system cannot be asked: %1.", error.what()));
     }
 }
 
@@ -195,12 +197,12 @@ Ipp CupsServer::Exchanged(const Ipp& request, const std::string& resource,
             exchange.Fail();
         } else {
             throw PrinterError(
-                "The printing system refused the request: " + std::string(httpStatus(status)) + ".",
+                Words("The printing system refused the request: %1.", httpStatus(status)),
                 NotAllowedAdvice);
         }
         left_ -= std::min(left_, duration_cast<milliseconds>(Clock::now() - started));
     }
-    throw PrinterError("The printing system does not let this user in.", NotAllowedAdvice);
+    throw PrinterError(Words("The printing system does not let this user in."), NotAllowedAdvice);
 }
 
 } // namespace tarn

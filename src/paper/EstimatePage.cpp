@@ -1,6 +1,7 @@
 #include "paper/EstimatePage.h"
 
 #include "base/Text.h"
+#include "base/Words.h"
 #include "estimate/CutList.h"
 
 #include <algorithm>
@@ -25,8 +26,7 @@ Double ListTypeSizeIn(const Drawing& drawing, const EstimateRequest& request) {
 EstimatePage MakeEstimatePage(const std::string& project, const std::optional<Estimate>& estimate,
                               Drawing drawing, PageTwips sheet, std::string_view date) {
     EstimatePage page;
-    page.Title = Space(5) + "TARN RESULT" + Space(2) + "(PROJECT: " + project + ")" + Space(2) +
-                 std::string(date);
+    page.Title = Space(5) + Words("TARN RESULT  (PROJECT: %1)  %2", project, date);
     page.Picture = std::move(drawing);
     page.Sheet = sheet;
     if (estimate && !HasNothingToCut(*estimate)) {

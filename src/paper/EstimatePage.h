@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/Words.h"
 #include "drawing/Drawing.h"
 #include "estimate/Estimate.h"
 #include "paper/PrinterPage.h"
@@ -26,11 +27,11 @@ struct EstimatePage {
 
 /// What a page says, and whoever prints it is told, when its cut list cannot be shown: that, and
 /// where the list is.
-inline constexpr std::string_view ListNotShownText =
-    "The page cannot show the cut list: the layout is too long for it.";
-inline constexpr std::string_view ListElsewhereText =
+inline constexpr auto ListNotShownText =
+    Words("The page cannot show the cut list: the layout is too long for it.");
+inline constexpr auto ListElsewhereText = Words(
     "The list stands on the screen, in the drawing saved as SVG, and in what tarn-estimate --text "
-    "writes.";
+    "writes.");
 
 /// The page of a project's estimate, if there is one. `date` is printed as it is.
 EstimatePage MakeEstimatePage(const std::string& project, const std::optional<Estimate>& estimate,

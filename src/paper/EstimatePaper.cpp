@@ -1,5 +1,6 @@
 #include "paper/EstimatePaper.h"
 
+#include "base/Words.h"
 #include "files/QtText.h"
 #include "paper/Arial.h"
 #include "paper/PaintDrawing.h"
@@ -126,13 +127,13 @@ bool LosesCutList(const EstimatePage& page, const Paper& paper) {
 void PaintEstimate(QPagedPaintDevice& device, const EstimatePage& page) {
     QPainter painter;
     if (!painter.begin(&device)) {
-        throw PrinterError("The estimate could not be put on paper.");
+        throw PrinterError(Words("The estimate could not be put on paper."));
     }
     CountInTwips(painter, device);
     const EstimatePlaces places = PlacesOf(page, SheetOf(device).size());
     const QTransform fit = FitInto(places.All, PrintableOf(device));
     if (fit.m11() * LetterHeight(TypeSize) < LeastLetters) {
-        throw PrinterError("The paper is too small for the estimate.", LargerPaperAdvice);
+        throw PrinterError(Words("The paper is too small for the estimate."), LargerPaperAdvice);
     }
     painter.setTransform(fit, true);
     painter.setFont(Arial(static_cast<int>(LetterHeight(TypeSize))));

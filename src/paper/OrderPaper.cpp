@@ -1,5 +1,6 @@
 #include "paper/OrderPaper.h"
 
+#include "base/Words.h"
 #include "files/OrderDocument.h"
 #include "order/OrderSheet.h"
 #include "paper/PaintDrawing.h"
@@ -32,24 +33,25 @@ SheetPaper SheetPaperOf(const QPagedPaintDevice& device) {
 } // namespace
 
 std::string OrderTitle(const OrderDocument& document) {
-    return document.Of.Name.empty() ? "ORDER" : "ORDER (PROJECT: " + document.Of.Name + ")";
+    return document.Of.Name.empty() ? std::string(Words("ORDER"))
+                                    : Words("ORDER (PROJECT: %1)", document.Of.Name);
 }
 
 void PaintOrder(QPagedPaintDevice& device, const OrderDocument& document, std::string_view date) {
     QPainter painter;
     if (!painter.begin(&device)) {
-        throw PrinterError("The order could not be put on paper.");
+        throw PrinterError(Words("The order could not be put on paper."));
     }
     CountInTwips(painter, device);
     const SheetPaper paper = SheetPaperOf(device);
     const SheetArea body = BodyOf(paper);
     if (body.Width() < LeastSheetWidth || body.Height() < LeastSheetHeight) {
-        throw PrinterError("The paper is too small for the order.", LargerPaperAdvice);
+        throw PrinterError(Words("The paper is too small for the order."), LargerPaperAdvice);
     }
     bool first = true;
     for (const Drawing& page : OrderSheet(document.Of, document.Orders, paper, date)) {
         if (!first && !device.newPage()) {
-            throw PrinterError("The order could not be put on a further page.");
+            throw PrinterError(Words("The order could not be put on a further page."));
         }
         first = false;
         PaintDrawing(painter, page);

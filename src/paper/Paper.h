@@ -3,6 +3,7 @@
 #pragma once
 
 #include "base/Twips.h"
+#include "base/Words.h"
 #include "paper/Printer.h"
 #include "paper/PrinterPage.h"
 
@@ -30,8 +31,8 @@ struct Paper {
 inline constexpr Double LeastLetters = 3 * TwipsPerPoint;
 
 /// What helps then.
-inline constexpr const char* LargerPaperAdvice =
-    "Choose a larger paper in the system's printer settings.";
+inline constexpr auto LargerPaperAdvice =
+    Words("Choose a larger paper in the system's printer settings.");
 
 /// The resolution in which pages are made, dots per inch; whole numbers in a document count them.
 inline constexpr int PageResolution = 1200;

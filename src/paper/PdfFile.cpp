@@ -1,6 +1,7 @@
 #include "paper/PdfFile.h"
 
 #include "base/Text.h"
+#include "base/Words.h"
 #include "files/OutputFile.h"
 #include "files/QtText.h"
 #include "paper/EstimatePaper.h"
@@ -26,7 +27,8 @@ std::string Document(const QString& title, const QPageLayout& layout,
         QPdfWriter writer(&buffer);
         writer.setResolution(PageResolution);
         if (!writer.setPageLayout(layout)) {
-            throw PrinterError("No page can be made on paper of that size.", LargerPaperAdvice);
+            throw PrinterError(Words("No page can be made on paper of that size."),
+                               LargerPaperAdvice);
         }
         writer.setTitle(title);
         writer.setCreator(ToQt(ApplicationTitle));

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "base/Types.h"
+#include "base/Words.h"
 
 #include <stdexcept>
 #include <string>
@@ -30,8 +31,8 @@ class PrinterError : public std::runtime_error {
 };
 
 /// Shown when printing failed.
-inline constexpr const char* PrinterNotReadyMessage =
-    "Warning: Your printer is not ready!\r\n\r\nYou couldn't print in the program";
+inline constexpr auto PrinterNotReadyMessage =
+    Words("Warning: Your printer is not ready!\r\n\r\nYou couldn't print in the program");
 
 /// The system's default printer. Every member raises PrinterError when there is none, when it takes
 /// no jobs, and when it refuses the job. It is used by one thread at a time, whichever that is. A

@@ -1,5 +1,7 @@
 #include "paper/PrinterTrouble.h"
 
+#include "base/Words.h"
+
 #include <algorithm>
 #include <cups/ipp.h>
 #include <string_view>
@@ -10,15 +12,19 @@ namespace {
 
 struct Trouble {
     std::string_view Reason;
-    std::string_view Words;
+    Phrase Is;
 };
 
 /// Of several, the first counts.
 constexpr Trouble Troubles[] = {
-    {"offline", "is off line"},          {"media-jam", "has a paper jam"},
-    {"cover-open", "has an open cover"}, {"door-open", "has an open door"},
-    {"media-empty", "is out of paper"},  {"media-needed", "is out of paper"},
-    {"toner-empty", "is out of toner"},  {"marker-supply-empty", "is out of ink or toner"},
+    {"offline", Words("is off line")},
+    {"media-jam", Words("has a paper jam")},
+    {"cover-open", Words("has an open cover")},
+    {"door-open", Words("has an open door")},
+    {"media-empty", Words("is out of paper")},
+    {"media-needed", Words("is out of paper")},
+    {"toner-empty", Words("is out of toner")},
+    {"marker-supply-empty", Words("is out of ink or toner")},
 };
 
 std::string_view WithoutSeverity(std::string_view reason) {
@@ -40,7 +46,7 @@ std::string PrinterTrouble(int state, const std::vector<std::string>& reasons) {
         if (std::any_of(reasons.begin(), reasons.end(), [&trouble](const std::string& reason) {
                 return WithoutSeverity(reason) == trouble.Reason;
             })) {
-            return std::string(trouble.Words);
+            return trouble.Is;
         }
     }
     return {};

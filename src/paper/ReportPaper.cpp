@@ -1,5 +1,6 @@
 #include "paper/ReportPaper.h"
 
+#include "base/Words.h"
 #include "paper/FixedPitchFont.h"
 #include "paper/Paper.h"
 #include "paper/Printer.h"
@@ -34,7 +35,7 @@ Grid GridOf(const QRectF& area) {
         std::min({ReportTypeSize, area.width() / (ReportHeadingWidth * CourierAdvance),
                   area.height() / (LeastPageLines * CourierLineHeight)});
     if (size < LeastLetters) {
-        throw PrinterError("The paper is too small for the report.", LargerPaperAdvice);
+        throw PrinterError(Words("The paper is too small for the report."), LargerPaperAdvice);
     }
     return {area, static_cast<int>(size)};
 }
@@ -90,7 +91,7 @@ class LinePainter {
 void PaintReport(QPagedPaintDevice& device, const EnteredDataReport& report) {
     QPainter painter;
     if (!painter.begin(&device)) {
-        throw PrinterError("The report could not be put on paper.");
+        throw PrinterError(Words("The report could not be put on paper."));
     }
     CountInTwips(painter, device);
     const Grid grid = GridOf(PrintableOf(device));
@@ -98,7 +99,7 @@ void PaintReport(QPagedPaintDevice& device, const EnteredDataReport& report) {
     bool first = true;
     for (const PaperPage& page : ReportPages(report, grid.Columns(), grid.Lines())) {
         if (!first && !device.newPage()) {
-            throw PrinterError("The report could not be put on a further page.");
+            throw PrinterError(Words("The report could not be put on a further page."));
         }
         first = false;
         for (std::size_t number = 0; number < page.size(); ++number) {

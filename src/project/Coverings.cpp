@@ -1,6 +1,7 @@
 #include "project/Coverings.h"
 
 #include "base/Text.h"
+#include "base/Words.h"
 
 namespace tarn {
 
@@ -9,8 +10,13 @@ Integer CoveringNumber(Byte code) {
 }
 
 std::string CoveringCaption(Byte code) {
-    const std::string kind = IsCarpet(code) ? "CARPET-" : "TILE-";
-    return kind + TrimStr(CoveringNumber(code));
+    const std::string number = TrimStr(CoveringNumber(code));
+    return IsCarpet(code) ? Words("CARPET-%1", number) : Words("TILE-%1", number);
+}
+
+std::string CoveringName(Byte code) {
+    const InEnglish english;
+    return CoveringCaption(code);
 }
 
 std::string CoveringReportText(Byte code) {
@@ -21,7 +27,7 @@ std::string CoveringReportText(Byte code) {
 std::optional<Byte> ReadCovering(std::string_view text) {
     const std::string wanted = UpperCaseLetters(TrimStr(text));
     for (Byte code = 0; code <= LastTileCode; ++code) {
-        if (wanted == CoveringCaption(code) || wanted == CoveringReportText(code)) {
+        if (wanted == CoveringName(code) || wanted == CoveringReportText(code)) {
             return code;
         }
     }

@@ -27,13 +27,15 @@ constexpr bool IsTile(Byte code) {
 /// The number in the covering's texts: carpets and tiles are each counted from 1.
 Integer CoveringNumber(Byte code);
 
-/// "CARPET-1" .. "CARPET-8", "TILE-1" .. "TILE-4".
+/// "CARPET-1" .. "CARPET-8", "TILE-1" .. "TILE-4", for people.
 std::string CoveringCaption(Byte code);
+/// The same in files and their names: in English whatever the language.
+std::string CoveringName(Byte code);
 
 /// The short form: C1 .. C8, T1 .. T4.
 std::string CoveringReportText(Byte code);
 
-/// The code of a caption or short form, whatever its letter case, blanks at both ends left out;
+/// The code of a name or short form, whatever its letter case, blanks at both ends left out;
 /// nothing for any other text.
 std::optional<Byte> ReadCovering(std::string_view text);
 

@@ -2,6 +2,7 @@
 
 #include "base/Lengths.h"
 #include "base/Text.h"
+#include "base/Words.h"
 #include "project/OrderLengths.h"
 
 #include <algorithm>
@@ -14,7 +15,7 @@ namespace tarn {
 
 namespace {
 
-constexpr const char* HowLengthsAreWritten = "write the length as 12ft6in, 18in, 366cm or 3.66m.";
+constexpr auto HowLengthsAreWritten = Words("write the length as 12ft6in, 18in, 366cm or 3.66m.");
 
 /// A number that is no number, which FaultOf refuses in its own words.
 constexpr Double NoNumber = std::numeric_limits<Double>::quiet_NaN();
@@ -53,7 +54,8 @@ struct Unread {
 template <class Value>
 Value Require(const std::string& option, std::string_view text, const Reading<Value>& reading) {
     if (!reading.Read) {
-        throw Unread{{option, "The " + option + " \"" + ShownText(text) + "\": " + reading.Reason}};
+        throw Unread{{option, Words("%1 \"%2\": %3", NameOfOption(option), ShownText(text),
+                                    reading.Reason)}};
     }
     return *reading.Read;
 }
@@ -92,7 +94,7 @@ RollChoice RollOf(const TypedRoll& typed, Units units) {
     RollChoice roll;
     roll.AsTyped = TrimStr(typed.Width);
     if (roll.AsTyped.empty()) {
-        throw Unread{{"roll", std::string("A roll has no width: ") + HowLengthsAreWritten}};
+        throw Unread{{"roll", Words("A roll has no width: %1", HowLengthsAreWritten)}};
     }
     roll.Width = Require("roll", typed.Width, ReadLength(typed.Width, units));
     roll.Name = TrimStr(typed.Name);
@@ -166,7 +168,7 @@ std::string TypedNumber(Double number) {
 
 Reading<Double> ReadLength(std::string_view text, Units units) {
     const auto length = ReadOrderLength(text, units);
-    return {length, length ? "" : HowLengthsAreWritten};
+    return {length, length ? Phrase() : HowLengthsAreWritten};
 }
 
 Reading<Long> ReadRaisedLength(std::string_view text, Units units) {
@@ -177,7 +179,7 @@ Reading<Long> ReadRaisedLength(std::string_view text, Units units) {
 Reading<Double> ReadPrice(std::string_view text) {
     const Double price = NumberOf(text);
     if (!IsPrice(price)) {
-        return {std::nullopt, "the price " + std::string(WhatAPriceMustBe)};
+        return {std::nullopt, Words("the price must be a number of 0 or more.")};
     }
     return {price, {}};
 }

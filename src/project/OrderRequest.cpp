@@ -3,9 +3,12 @@
 #include "base/Lengths.h"
 #include "base/Numbers.h"
 #include "base/Text.h"
+#include "base/Words.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
+#include <utility>
 
 namespace tarn {
 
@@ -38,33 +41,31 @@ Fault FaultOfLength(const std::string& option, Long value, Long least, Long most
     if (value >= least && value <= most) {
         return std::nullopt;
     }
-    return OrderRequestFault{option, "The " + option + " must be between " +
-                                         OrderLengthText(least, units) + " and " +
-                                         OrderLengthText(most, units) + "."};
+    return OrderRequestFault{option,
+                             Words("%1 must be between %2 and %3.", NameOfOption(option),
+                                   OrderLengthText(least, units), OrderLengthText(most, units))};
 }
 
 Fault FaultOfRolls(const OrderRequest& request) {
     if (request.Rolls.empty()) {
-        return OrderRequestFault{"roll", "There is no roll to order from: name its width."};
+        return OrderRequestFault{"roll", Words("There is no roll to order from: name its width.")};
     }
     if (request.Rolls.size() > MostRolls) {
-        return OrderRequestFault{"roll", "At most " + TrimStr(static_cast<Long>(MostRolls)) +
-                                             " rolls can be compared."};
+        return OrderRequestFault{"roll", Words("At most %1 rolls can be compared.",
+                                               TrimStr(static_cast<Long>(MostRolls)))};
     }
     for (std::size_t place = 0; place < request.Rolls.size(); ++place) {
         const RollChoice& roll = request.Rolls[place];
         const bool isNumber = std::isfinite(roll.Width) && roll.Width < LongestStrip + 1;
         if (!isNumber || WholeRollWidth(roll.Width) < 1) {
             return OrderRequestFault{"roll",
-                                     "A roll must be between " + OrderLengthText(1, request.In) +
-                                         " and " + OrderLengthText(LongestStrip, request.In) +
-                                         " wide.",
+                                     Words("A roll must be between %1 and %2 wide.",
+                                           OrderLengthText(1, request.In),
+                                           OrderLengthText(LongestStrip, request.In)),
                                      place};
         }
         if (roll.Price && !IsPrice(*roll.Price)) {
-            return OrderRequestFault{"price",
-                                     "The price of the roll " + RollName(roll) + ' ' +
-                                         std::string(WhatAPriceMustBe),
+            return OrderRequestFault{"price", Words("A price must be a number of 0 or more."),
                                      place};
         }
     }
@@ -77,7 +78,7 @@ Fault FaultOfLays(const OrderRequest& request) {
                        (request.Lays.size() == 1 &&
                         std::find(both.begin(), both.end(), request.Lays.front()) != both.end());
     if (!known) {
-        return OrderRequestFault{"lay", "The lay must be down, cross or both."};
+        return OrderRequestFault{"lay", Words("The lay must be down, cross or both.")};
     }
     return std::nullopt;
 }
@@ -106,10 +107,11 @@ Fault FaultOfHalfDrop(const PatternChoice& pattern) {
         return std::nullopt;
     }
     if (pattern.Along == 0) {
-        return OrderRequestFault{"half drop", "A half drop needs a pattern repeat along."};
+        return OrderRequestFault{"half drop", Words("A half drop needs a pattern repeat along.")};
     }
     if (pattern.Along % 2 != 0) {
-        return OrderRequestFault{"half drop", "A half drop needs an even pattern repeat along."};
+        return OrderRequestFault{"half drop",
+                                 Words("A half drop needs an even pattern repeat along.")};
     }
     return std::nullopt;
 }
@@ -120,14 +122,15 @@ bool IsBetween(Double value, Double least, Double most) {
 
 Fault FaultOfNumbers(const OrderRequest& request) {
     if (request.MostParts < 1 || request.MostParts > MostPartsOfStrip) {
-        return OrderRequestFault{"parts",
-                                 "A strip may have 1 to " + TrimStr(MostPartsOfStrip) + " parts."};
+        return OrderRequestFault{
+            "parts", Words("A strip may have 1 to %1 parts.", TrimStr(MostPartsOfStrip))};
     }
     if (request.PatternDrift && !IsBetween(*request.PatternDrift, 0, MostDrift)) {
-        return OrderRequestFault{"pattern drift", "The pattern drift must be 0 to 10 percent."};
+        return OrderRequestFault{"pattern drift",
+                                 Words("The pattern drift must be 0 to 10 percent.")};
     }
     if (!IsBetween(request.Seconds, 0, MostSeconds)) {
-        return OrderRequestFault{"seconds", "The search may take 0 to 3600 seconds."};
+        return OrderRequestFault{"seconds", Words("The search may take 0 to 3600 seconds.")};
     }
     return std::nullopt;
 }
@@ -149,6 +152,21 @@ OrderRequest DefaultOrderRequest(Units units) {
 
 Double DriftOf(const OrderRequest& request) {
     return request.PatternDrift.value_or(request.Pattern.Along > 0 ? 1 : 0);
+}
+
+std::string_view NameOfOption(std::string_view option) {
+    static constexpr std::array<std::pair<std::string_view, Phrase>, 8> Names{
+        {{"roll", Words("The roll")},
+         {"selvage", Words("The selvage")},
+         {"trim along", Words("The trim along")},
+         {"trim across", Words("The trim across")},
+         {"shortest part", Words("The shortest part")},
+         {"pattern across", Words("The pattern across")},
+         {"pattern along", Words("The pattern along")},
+         {"step", Words("The step")}}};
+    const auto* const found = std::find_if(Names.begin(), Names.end(),
+                                           [&](const auto& each) { return each.first == option; });
+    return found == Names.end() ? option : found->second.Text();
 }
 
 std::optional<OrderRequestFault> FaultOf(const OrderRequest& request) {
@@ -182,14 +200,17 @@ std::optional<Long> WholeRepeat(Double length) {
 }
 
 OrderRequestFault FaultOfRepeat(const std::string& option, Units units) {
-    const std::string unit = units == Units::Metric ? "centimetres" : "inches";
-    return {option, "The " + option + " must be whole " + unit +
-                        ": give it, and the rooms, in the units of the pattern."};
+    const auto reason = units == Units::Metric
+                            ? Words("%1 must be whole centimetres: give it, and the rooms, in the "
+                                    "units of the pattern.")
+                            : Words("%1 must be whole inches: give it, and the rooms, in the units "
+                                    "of the pattern.");
+    return {option, Words(reason, NameOfOption(option))};
 }
 
 std::string OrderLengthText(Long length, Units units) {
     const std::string text = WholeLengthText(length, units);
-    return units == Units::Metric ? text + " cm" : text;
+    return units == Units::Metric ? Words("%1 cm", text) : text;
 }
 
 } // namespace tarn

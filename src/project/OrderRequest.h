@@ -83,9 +83,8 @@ struct OrderRequestFault {
 /// The first fault of a request; nothing when all of it is within its bounds.
 std::optional<OrderRequestFault> FaultOf(const OrderRequest& request);
 
-/// Whether a number can be a price, and what one must be, behind its name.
+/// Whether a number can be a price.
 bool IsPrice(Double number);
-inline constexpr std::string_view WhatAPriceMustBe = "must be a number of 0 or more.";
 
 /// A roll's width in whole units: what is not whole is rounded down.
 Long WholeRollWidth(Double width);
@@ -94,6 +93,8 @@ Long WholeRollWidth(Double width);
 Long RaisedToWhole(Double length);
 /// A pattern repeat in whole units; nothing when it is not whole, which FaultOfRepeat words.
 std::optional<Long> WholeRepeat(Double length);
+/// An option as the subject of a sentence, by its name: "The trim along" of "trim along".
+std::string_view NameOfOption(std::string_view option);
 /// Why a repeat that is not whole cannot be asked for; `option` is "pattern across" or "pattern
 /// along".
 OrderRequestFault FaultOfRepeat(const std::string& option, Units units);

@@ -5,6 +5,7 @@
 #include "base/Numbers.h"
 #include "base/RunTimeError.h"
 #include "base/Text.h"
+#include "base/Words.h"
 #include "project/Coverings.h"
 #include "project/RoomSize.h"
 #include "project/WallBase.h"
@@ -20,12 +21,12 @@ std::string Padded(std::string_view text, long long width) {
     return std::string(text) + Space(width - Len(text));
 }
 
-constexpr std::string_view FirstHeading =
-    " ITEM                                      SQ.     CARPET             BASE         ROOM";
-constexpr std::string_view MetricHeading =
-    "   No.      WIDTH   LENGTH     METERS    /TILE   BASE     LENGTH     No.       REMARK";
-constexpr std::string_view ImperialHeading =
-    "   No.      WIDTH   LENGTH      Yrds     /TILE   BASE     LENGTH     No.       REMARK";
+constexpr auto FirstHeading = Words(
+    " ITEM                                      SQ.     CARPET             BASE         ROOM");
+constexpr auto MetricHeading =
+    Words("   No.      WIDTH   LENGTH     METERS    /TILE   BASE     LENGTH     No.       REMARK");
+constexpr auto ImperialHeading =
+    Words("   No.      WIDTH   LENGTH      Yrds     /TILE   BASE     LENGTH     No.       REMARK");
 
 /// Columns of a row, characters.
 constexpr long long ItemIndent = 4;
@@ -42,7 +43,7 @@ std::vector<ReportLine> Heading(const Project& project, Units shown, std::string
             {Space(55).append(ReportTitle)},
             {""},
             {Space(5).append(date)},
-            {Space(5) + "PROJECT NAME:   " + Padded(OneLine(project.Name), 30)},
+            {Space(5) + Words("PROJECT NAME:   %1", Padded(OneLine(project.Name), 30))},
             {""},
             {std::string(FirstHeading)},
             {std::string(shown == Units::Metric ? MetricHeading : ImperialHeading)},
@@ -80,10 +81,9 @@ Integer BaseLengthOf(const Room& room, long long item, Units shown) {
     try {
         return ListedBaseLength(room.Width, room.Length, room.Base);
     } catch (const RunTimeError& error) {
-        throw error.WithAdvice("The wall base of room " + TrimStr(item) + " is longer than " +
-                               TrimStr(std::numeric_limits<Integer>::max()) + " " +
-                               std::string(SmallUnitName(shown)) +
-                               ": correct its size or its base.");
+        throw error.WithAdvice(Words(
+            "The wall base of room %1 is longer than %2 %3: correct its size or its base.",
+            TrimStr(item), TrimStr(std::numeric_limits<Integer>::max()), SmallUnitName(shown)));
     }
 }
 

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "base/Units.h"
+#include "base/Words.h"
 #include "project/Project.h"
 
 #include <cstddef>
@@ -45,7 +46,7 @@ struct EnteredDataReport {
 EnteredDataReport MakeReport(const Project& project, Units shown, std::string_view date);
 
 /// The title of the report, in its heading and of what is printed.
-inline constexpr std::string_view ReportTitle = "ENTERED DATA REPORT";
+inline constexpr auto ReportTitle = Words("ENTERED DATA REPORT");
 
 /// How the report's lines stand, for who breaks them into pages: a heading, of which the last lines
 /// are the heads of the columns, then the rows.

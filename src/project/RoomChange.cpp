@@ -1,6 +1,7 @@
 #include "project/RoomChange.h"
 
 #include "base/Text.h"
+#include "base/Words.h"
 
 #include <algorithm>
 
@@ -47,14 +48,15 @@ void TakeBackChange(Rooms& rooms, const RoomChange& change) {
 }
 
 std::string NameOf(const RoomChange& change) {
-    const std::string room = " room " + TrimStr(static_cast<long long>(change.Place) + 1);
+    const std::string room = TrimStr(static_cast<long long>(change.Place) + 1);
     if (change.Before.empty() && change.After.size() == 1) {
-        return "new" + room;
+        return Words("New room %1", room);
     }
     if (change.Before.size() == 1 && change.After.empty()) {
-        return "delete" + room;
+        return Words("Delete room %1", room);
     }
-    return change.Before.size() == 1 && change.After.size() == 1 ? "change" + room : "change rooms";
+    const bool isOne = change.Before.size() == 1 && change.After.size() == 1;
+    return isOne ? Words("Change room %1", room) : std::string(Words("Change rooms"));
 }
 
 } // namespace tarn

@@ -3,6 +3,7 @@
 #include "base/Numbers.h"
 #include "base/RunTimeError.h"
 #include "base/Text.h"
+#include "base/Words.h"
 #include "project/Coverings.h"
 #include "project/RoomExtents.h"
 #include "project/RoomSize.h"
@@ -20,36 +21,42 @@ namespace {
 
 using Outcome = StoreResult::Outcome;
 
-/// The size that is typed; nothing when it may not be stored. `side` names it for the user.
-std::optional<Integer> SizeOf(const SizeParts& typed, Units units, const std::string& side) {
-    try {
-        return ReadSize(typed, units);
-    } catch (const RunTimeError& error) {
-        throw error.WithAdvice("The " + side + " of a room can be " +
-                               TrimStr(std::numeric_limits<Integer>::max()) + " " +
-                               std::string(SmallUnitName(units)) + " at most.");
-    }
-}
-
-/// One size of a room: what it is called, and the fields of its parts.
+/// One size of a room: what is said of it, and the fields of its parts.
 struct Side {
-    const char* Name;
+    Phrase TooLarge;
+    Phrase Wrong;
+    Phrase Missing;
     SizeField Major;
     SizeField Minor;
 };
-constexpr Side WidthSide{"width", SizeField::WidthMajor, SizeField::WidthMinor};
-constexpr Side LengthSide{"length", SizeField::LengthMajor, SizeField::LengthMinor};
+constexpr Side WidthSide{Words("The width of a room can be %1 %2 at most."),
+                         Words("Room width:\r\n%1"),
+                         Words("The width is empty: a new room needs both its sizes."),
+                         SizeField::WidthMajor, SizeField::WidthMinor};
+constexpr Side LengthSide{Words("The length of a room can be %1 %2 at most."),
+                          Words("Room length:\r\n%1"),
+                          Words("The length is empty: a new room needs both its sizes."),
+                          SizeField::LengthMajor, SizeField::LengthMinor};
+
+/// The size that is typed; nothing when it may not be stored.
+std::optional<Integer> SizeOf(const SizeParts& typed, Units units, const Side& side) {
+    try {
+        return ReadSize(typed, units);
+    } catch (const RunTimeError& error) {
+        throw error.WithAdvice(Words(side.TooLarge, TrimStr(std::numeric_limits<Integer>::max()),
+                                     SmallUnitName(units)));
+    }
+}
 
 /// A size that may not be stored is to be corrected.
 StoreResult WrongSize(const SizeParts& typed, Units units, const Side& side) {
     const bool isMajor = Spread(typed, units).Wrong == SizePart::Major;
     return {Outcome::WrongSize, isMajor ? side.Major : side.Minor,
-            "Room " + std::string(side.Name) + ":" + std::string(CrLf) + RefusedNote(typed, units)};
+            Words(side.Wrong, RefusedNote(typed, units))};
 }
 
 StoreResult MissingSize(const Side& side) {
-    return {Outcome::OneSizeMissing, side.Major,
-            "The " + std::string(side.Name) + " is empty: a new room needs both its sizes."};
+    return {Outcome::OneSizeMissing, side.Major, side.Missing};
 }
 
 /// Whether a new room of that size is stored behind `count` others, and why not.
@@ -102,11 +109,11 @@ std::string_view StoreResult::Message() const {
 }
 
 StoreResult StoreRoom(Project& project, Units shown, std::size_t room, const RoomDraft& draft) {
-    const auto width = SizeOf(draft.Width, shown, WidthSide.Name);
+    const auto width = SizeOf(draft.Width, shown, WidthSide);
     if (!width) {
         return WrongSize(draft.Width, shown, WidthSide);
     }
-    const auto length = SizeOf(draft.Length, shown, LengthSide.Name);
+    const auto length = SizeOf(draft.Length, shown, LengthSide);
     if (!length) {
         return WrongSize(draft.Length, shown, LengthSide);
     }
@@ -162,9 +169,9 @@ bool IsEmptiedSizeText(std::string_view text, bool beingTyped) {
 std::string BaseMessage(std::string_view secondExample) {
     std::string message;
     for (const std::string_view line :
-         {std::string_view("Sorry, you entered wrong string for base"),
-          std::string_view("You should enter L or W with 1 or 2 to be calculated"),
-          std::string_view("Example1: L2W1 - means 2 x Length + 1 x Width"), secondExample}) {
+         {Words("Sorry, you entered wrong string for base").Text(),
+          Words("You should enter L or W with 1 or 2 to be calculated").Text(),
+          Words("Example1: L2W1 - means 2 x Length + 1 x Width").Text(), secondExample}) {
         message.append(line).append(CrLf);
     }
     return message;

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "base/Units.h"
+#include "base/Words.h"
 #include "project/Project.h"
 #include "project/RoomDraft.h"
 
@@ -13,11 +14,11 @@
 
 namespace tarn {
 
-inline constexpr std::string_view WrongSizeMessage =
-    "The Size of room is not correct. Data is not changed";
+inline constexpr auto WrongSizeMessage =
+    Words("The Size of room is not correct. Data is not changed");
 
 /// Refuses a room beyond RoomCapacity, however it comes.
-inline constexpr std::string_view ProjectFullText = "The project is full: it can hold 501 rooms.";
+inline constexpr auto ProjectFullText = Words("The project is full: it can hold 501 rooms.");
 static_assert(RoomCapacity == 501);
 
 /// A room as its fields show it, with sizes in `shown`. A covering that cannot be chosen is none.
@@ -66,9 +67,9 @@ bool IsEmptiedSizeText(std::string_view text, bool beingTyped);
 
 /// What is shown for a wall base that is not valid, with the example that belongs to the occasion.
 std::string BaseMessage(std::string_view secondExample);
-inline constexpr std::string_view TypedBaseExample =
-    "Example2: W21 - means 2 x Width and Length is not calculated.";
-inline constexpr std::string_view EnteredBaseExample =
-    "Example2: W2 - means 2 x Width and Length is not calculated.";
+inline constexpr auto TypedBaseExample =
+    Words("Example2: W21 - means 2 x Width and Length is not calculated.");
+inline constexpr auto EnteredBaseExample =
+    Words("Example2: W2 - means 2 x Width and Length is not calculated.");
 
 } // namespace tarn

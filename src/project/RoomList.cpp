@@ -4,6 +4,7 @@
 #include "base/Lengths.h"
 #include "base/RunTimeError.h"
 #include "base/Text.h"
+#include "base/Words.h"
 #include "project/Coverings.h"
 #include "project/RoomEntry.h"
 #include "project/WallBase.h"
@@ -44,21 +45,21 @@ std::vector<std::string> TotalLine(const std::string& name, std::size_t rooms, l
 std::string_view CaptionOf(RoomColumn column, Units shown) {
     switch (column) {
     case RoomColumn::Item:
-        return "ITEM";
+        return Words("ITEM");
     case RoomColumn::Width:
-        return "WIDTH";
+        return Words("WIDTH");
     case RoomColumn::Length:
-        return "LENGTH";
+        return Words("LENGTH");
     case RoomColumn::Covering:
-        return "TYPE";
+        return Words("TYPE");
     case RoomColumn::Base:
-        return "BASE";
+        return Words("BASE");
     case RoomColumn::Number:
-        return "ROOM";
+        return Words("ROOM");
     case RoomColumn::Remark:
-        return "REMARK";
+        return Words("REMARK");
     case RoomColumn::Area:
-        return shown == Units::Metric ? "SQ. M" : "SQ. YD.";
+        return shown == Units::Metric ? Words("SQ. M") : Words("SQ. YD.");
     }
     return {};
 }
@@ -86,7 +87,7 @@ std::string ListText(RoomColumn column, const Room& room, std::size_t place, Uni
 }
 
 std::string_view NewRoomText(bool isHalfTyped) {
-    return isHalfTyped ? "New room, half typed" : "New room";
+    return isHalfTyped ? Words("New room, half typed") : Words("New room");
 }
 
 std::optional<Room> RoomAsTyped(const Project& project, Units shown, std::size_t room,
@@ -133,9 +134,9 @@ std::vector<CoveringTotal> TotalsByCovering(const std::vector<Room>& rooms, std:
 
 std::vector<std::string> TotalCaptions(Units shown) {
     if (shown == Units::Metric) {
-        return {"COVERING", "ROOMS", "SQ. M"};
+        return {Words("COVERING"), Words("ROOMS"), Words("SQ. M")};
     }
-    return {"COVERING", "ROOMS", "SQ. YD.", "SQ. FT."};
+    return {Words("COVERING"), Words("ROOMS"), Words("SQ. YD."), Words("SQ. FT.")};
 }
 
 std::vector<std::vector<std::string>> TotalLines(const std::vector<CoveringTotal>& totals,
@@ -149,7 +150,7 @@ std::vector<std::vector<std::string>> TotalLines(const std::vector<CoveringTotal
         area += total.Area;
     }
     if (totals.size() > 1) {
-        lines.push_back(TotalLine("ALL", rooms, area, shown));
+        lines.push_back(TotalLine(Words("ALL"), rooms, area, shown));
     }
     return lines;
 }

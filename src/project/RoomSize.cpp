@@ -3,6 +3,7 @@
 #include "base/Numbers.h"
 #include "base/Text.h"
 #include "base/UnicodeNumbers.h"
+#include "base/Words.h"
 #include "project/WholeLength.h"
 
 namespace tarn {
@@ -22,7 +23,7 @@ bool HasBlankBetweenDigits(std::string_view text) {
 } // namespace
 
 std::string_view SmallUnitName(Units units) {
-    return units == Units::Metric ? "centimetres" : "inches";
+    return units == Units::Metric ? Words("centimetres") : Words("inches");
 }
 
 SizeParts SplitSize(Integer size, Units units) {

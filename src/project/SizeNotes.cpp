@@ -4,6 +4,7 @@
 #include "base/Numbers.h"
 #include "base/RunTimeError.h"
 #include "base/Text.h"
+#include "base/Words.h"
 #include "project/WholeLength.h"
 
 #include <algorithm>
@@ -15,7 +16,7 @@ namespace tarn {
 namespace {
 
 constexpr std::string_view Digits = "0123456789";
-constexpr std::string_view SignNotTaken = "A sign is not taken";
+constexpr auto SignNotTaken = Words("A sign is not taken");
 
 bool IsSign(char c) {
     return c == '-' || c == '+';
@@ -45,9 +46,9 @@ std::string Meant(std::string_view typed) {
     return number;
 }
 
-std::string NumberAlone(const std::string& what, std::string_view standing) {
-    return what + ": type the number alone, such as " +
-           (HasSize(standing) ? Meant(standing) : std::string("12"));
+std::string NumberAlone(std::string_view what, std::string_view standing) {
+    return Words("%1: type the number alone, such as %2", what,
+                 HasSize(standing) ? Meant(standing) : std::string("12"));
 }
 
 /// How a text with a comma is written with a point.
@@ -80,8 +81,8 @@ std::string ZeroPartNote(std::string_view dropped, std::string_view standing, Un
     if (dropped.empty() || !(isZeroUnit || isDashed) || !HasSize(standing)) {
         return {};
     }
-    return TrimStr(dropped) + " is dropped: for " + std::string(SmallUnitName(units)) + " type " +
-           Meant(standing) + (units == Units::Metric ? "cm" : "\"");
+    return Words("%1 is dropped: for %2 type %3", TrimStr(dropped), SmallUnitName(units),
+                 Meant(standing) + (units == Units::Metric ? "cm" : "\""));
 }
 
 /// A text as a note quotes it.
@@ -136,11 +137,11 @@ std::string Listed(const std::vector<std::size_t>& numbers) {
     const std::size_t more = numbers.size() - shown;
     std::string list;
     for (std::size_t i = 0; i < shown; ++i) {
-        const bool isLast = i + 1 == shown && more == 0;
-        list += i == 0 ? "" : isLast ? " and " : ", ";
-        list += TrimStr(static_cast<long long>(numbers[i]));
+        const bool isLast = i > 0 && i + 1 == shown && more == 0;
+        const std::string number = TrimStr(static_cast<long long>(numbers[i]));
+        list = isLast ? Words("%1 and %2", list, number) : list + (i == 0 ? "" : ", ") + number;
     }
-    return more == 0 ? list : list + " and " + TrimStr(static_cast<long long>(more)) + " more";
+    return more == 0 ? list : Words("%1 and %2 more", list, TrimStr(static_cast<long long>(more)));
 }
 
 } // namespace
@@ -153,21 +154,21 @@ std::string DroppedNote(std::string_view dropped, std::string_view standing, Uni
     const std::size_t comma = typed.find_last_of(',');
     if (comma != std::string::npos &&
         (comma < dropped.size() || HasSize(std::string_view(typed).substr(comma)))) {
-        return "A comma is not taken: type " +
-               (HasSize(standing) ? WithPoint(typed) : std::string("3.45"));
+        return Words("A comma is not taken: type %1",
+                     HasSize(standing) ? WithPoint(typed) : std::string("3.45"));
     }
     if (std::string note = ZeroPartNote(dropped, standing, units); !note.empty()) {
         return note;
     }
     const bool isNegative = !standing.empty() && standing.front() == '-';
     if (isNegative || std::any_of(dropped.begin(), dropped.end(), IsSign)) {
-        return NumberAlone(std::string(SignNotTaken), standing);
+        return NumberAlone(SignNotTaken, standing);
     }
     if (std::any_of(dropped.begin(), dropped.end(), IsLetter)) {
-        return NumberAlone("Letters are not taken", standing);
+        return NumberAlone(Words("Letters are not taken"), standing);
     }
     const bool hasMark = dropped.find_first_not_of("0. \t") != std::string_view::npos;
-    return hasMark ? NumberAlone("Only a number is taken", standing) : std::string();
+    return hasMark ? NumberAlone(Words("Only a number is taken"), standing) : std::string();
 }
 
 std::string RefusedNote(const SizeParts& typed, Units units) {
@@ -179,17 +180,18 @@ std::string RefusedNote(const SizeParts& typed, Units units) {
     case Fault::Unreadable: {
         std::string note = DroppedNote({}, text, units);
         return !note.empty() ? note
-                             : Quoted(text) + " is not taken: type it like " +
-                                   (isMetric ? "3.66, 3.66m or 366cm" : "6.5, 6 1/2\" or 12'6\"");
+               : isMetric
+                   ? Words("%1 is not taken: type it like 3.66, 3.66m or 366cm", Quoted(text))
+                   : Words("%1 is not taken: type it like 6.5, 6 1/2\" or 12'6\"", Quoted(text));
     }
     case Fault::Negative:
-        return NumberAlone(std::string(SignNotTaken), text);
+        return NumberAlone(SignNotTaken, text);
     case Fault::OtherUnits:
     case Fault::UnitNotTaken:
-        return std::string("Only ") + (isMetric ? "metres and centimetres" : "feet and inches") +
-               " are taken here: type it like " + (isMetric ? "3.66m" : "12'6\"");
+        return isMetric ? Words("Only metres and centimetres are taken here: type it like 3.66m")
+                        : Words("Only feet and inches are taken here: type it like 12'6\"");
     case Fault::BesideNumber:
-        return Quoted(text) + " is a whole length: empty the field beside it";
+        return Words("%1 is a whole length: empty the field beside it", Quoted(text));
     case Fault::None:
         break;
     }
@@ -212,8 +214,8 @@ std::string KeptNote(const SizeParts& typed, Units units) {
         keptParts.Major.clear();
     }
     const SizeParts typedParts{NumberIn(numbers.Major), NumberIn(numbers.Minor)};
-    return "Kept as " + SizeTextOf(keptParts, units) + " (typed " + SizeTextOf(typedParts, units) +
-           ")";
+    return Words("Kept as %1 (typed %2)", SizeTextOf(keptParts, units),
+                 SizeTextOf(typedParts, units));
 }
 
 bool IsEmptySize(const SizeParts& typed, Units units) {
@@ -222,11 +224,11 @@ bool IsEmptySize(const SizeParts& typed, Units units) {
 
 std::string EmptySizeNote(bool isWidthEmpty, bool isLengthEmpty) {
     if (isWidthEmpty && isLengthEmpty) {
-        return "Width and length are empty and count as 0.";
+        return Words("Width and length are empty and count as 0.");
     }
     if (isWidthEmpty || isLengthEmpty) {
-        return std::string("The ") + (isWidthEmpty ? "width" : "length") +
-               " is empty and counts as 0.";
+        return isWidthEmpty ? Words("The width is empty and counts as 0.")
+                            : Words("The length is empty and counts as 0.");
     }
     return {};
 }
@@ -242,11 +244,14 @@ std::string EmptyRoomsText(const std::vector<Room>& before, const std::vector<Ro
     if (numbers.empty()) {
         return {};
     }
-    const bool isOne = numbers.size() == 1;
-    return (isOne ? "Room " : "Rooms ") + Listed(numbers) +
-           (isOne ? " has no width or no length: it is stored with 0, and nothing is cut for it."
-                  : " have no width or no length: they are stored with 0, and nothing is cut for "
-                    "them.");
+    if (numbers.size() == 1) {
+        return Words("Room %1 has no width or no length: it is stored with 0, and nothing is cut "
+                     "for it.",
+                     Listed(numbers));
+    }
+    return Words("Rooms %1 have no width or no length: they are stored with 0, and nothing is cut "
+                 "for them.",
+                 Listed(numbers));
 }
 
 } // namespace tarn

@@ -16,6 +16,9 @@ inline constexpr const char* formTitle = "FTitle";
 inline constexpr const char* titleWarning = "FWarning";
 inline constexpr const char* showGuide = "ShowGuide";
 inline constexpr const char* printingNote = "PrintingNote";
+inline constexpr const char* helpMenu = "HelpMenu";
+inline constexpr const char* helpGuide = "HelpGuide";
+inline constexpr const char* helpAbout = "HelpAbout";
 
 // Guide: the guide, which any screen opens.
 inline constexpr const char* guideWindow = "Guide";
@@ -25,6 +28,12 @@ inline constexpr const char* guideSearch = "GuideSearch";
 inline constexpr const char* findInGuide = "FindInGuide";
 inline constexpr const char* guideNote = "GuideNote";
 inline constexpr const char* closeGuide = "CloseGuide";
+inline constexpr const char* aboutFromGuide = "AboutFromGuide";
+
+// About: what the program is, opened from the guide and from the menu "Help".
+inline constexpr const char* aboutWindow = "About";
+inline constexpr const char* aboutText = "AboutText";
+inline constexpr const char* closeAbout = "CloseAbout";
 
 // Projects: the projects and their directories.
 inline constexpr const char* projectScreen = "ProjectForm";
@@ -64,6 +73,7 @@ inline constexpr const char* enterRooms = "Command1(0)";
 inline constexpr const char* backToProjects = "Command1(1)";
 inline constexpr const char* estimateFromMenu = "Command1(2)";
 inline constexpr const char* exitFromMenu = "EXmnu";
+inline constexpr const char* languageMenu = "LanguageMenu";
 
 // Rooms: the rooms of a project, and the report of them.
 inline constexpr const char* roomScreen = "TarnForm";

@@ -15,13 +15,13 @@ namespace tarn {
 
 namespace {
 
-QString WithMnemonic(std::string_view caption, char mnemonic) {
-    QString text = ToQt(caption);
-    text.replace(QLatin1String("&"), QLatin1String("&&"));
-    if (mnemonic != 0) {
-        const auto at = text.indexOf(QLatin1Char(mnemonic));
-        Q_ASSERT(at >= 0);
-        text.insert(at, QLatin1Char('&'));
+QString Read(const QString& marked) {
+    QString text;
+    for (qsizetype i = 0; i < marked.size(); ++i) {
+        if (marked[i] == QLatin1Char('&') && ++i == marked.size()) {
+            break;
+        }
+        text += marked[i];
     }
     return text;
 }
@@ -69,30 +69,29 @@ void SetToolTip(QWidget& control, const QString& text) {
     control.setToolTip(Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text) : text);
 }
 
-void SetCaption(QAbstractButton& button, std::string_view caption, char mnemonic) {
+void SetCaption(QAbstractButton& button, std::string_view caption) {
     static PressAtOnce pressAtOnce;
-    button.setText(WithMnemonic(caption, mnemonic));
-    button.setAccessibleName(ToQt(caption));
+    button.setText(ToQt(caption));
+    button.setAccessibleName(WithoutMark(caption));
     button.installEventFilter(&pressAtOnce); // once, however often it is called
 }
 
-QString CaptionOf(const QAbstractButton& button) {
-    QString text;
-    const QString marked = button.text();
-    for (qsizetype i = 0; i < marked.size(); ++i) {
-        if (marked[i] == QLatin1Char('&') && ++i == marked.size()) {
-            break;
-        }
-        text += marked[i];
-    }
-    return text;
+std::string Unmarked(std::string_view text) {
+    return FromQt(ToQt(text).replace(QLatin1String("&"), QLatin1String("&&")));
 }
 
-QPushButton* NewButton(QWidget* parent, QAnyStringView name, std::string_view caption,
-                       char mnemonic) {
+QString WithoutMark(std::string_view caption) {
+    return Read(ToQt(caption));
+}
+
+QString CaptionOf(const QAbstractButton& button) {
+    return Read(button.text());
+}
+
+QPushButton* NewButton(QWidget* parent, QAnyStringView name, std::string_view caption) {
     auto* button = new QPushButton(parent);
     button->setObjectName(name);
-    SetCaption(*button, caption, mnemonic);
+    SetCaption(*button, caption);
     return button;
 }
 
@@ -129,11 +128,12 @@ void SetText(QLabel& label, std::string_view text) {
 }
 
 QLabel* NewLabelFor(QWidget& control, QWidget* parent, QAnyStringView name,
-                    std::string_view caption, char mnemonic) {
-    QLabel* label = NewLabel(parent, name, caption);
-    label->setText(WithMnemonic(caption, mnemonic));
+                    std::string_view caption) {
+    const QString read = WithoutMark(caption);
+    QLabel* label = NewLabel(parent, name, FromQt(read));
+    label->setText(ToQt(caption));
     label->setBuddy(&control);
-    control.setAccessibleName(ToQt(caption));
+    control.setAccessibleName(read);
     return label;
 }
 

@@ -6,6 +6,7 @@
 #include <QAnyStringView>
 #include <QString>
 
+#include <string>
 #include <string_view>
 
 class QAbstractButton;
@@ -24,14 +25,18 @@ void NameControl(QWidget& control, QAnyStringView name, const QString& accessibl
 /// in it may have been typed. An empty text takes it away.
 void SetToolTip(QWidget& control, const QString& text);
 
-/// Set a button's caption and accessible name. `mnemonic`, a letter of the caption, is underlined
-/// and presses the button together with Alt, at once and once however long it is held; 0 for none.
-void SetCaption(QAbstractButton& button, std::string_view caption, char mnemonic = 0);
+/// Set a button's caption and accessible name. The letter behind an "&" in it, its mnemonic, is
+/// underlined and presses the button together with Alt, at once and once however long it is held;
+/// an ampersand is written "&&".
+void SetCaption(QAbstractButton& button, std::string_view caption);
+/// A text for a caption that stands there as it is.
+std::string Unmarked(std::string_view text);
+/// A caption as it is read, without the mark of its mnemonic.
+QString WithoutMark(std::string_view caption);
 /// A button's caption without the mark of its mnemonic.
 QString CaptionOf(const QAbstractButton& button);
 
-QPushButton* NewButton(QWidget* parent, QAnyStringView name, std::string_view caption,
-                       char mnemonic = 0);
+QPushButton* NewButton(QWidget* parent, QAnyStringView name, std::string_view caption);
 /// Have keys press the button, too, wherever the focus is on its screen; once however long they are
 /// held, and not while the button is out of use.
 void PressOnKeys(QAbstractButton& button, const QKeySequence& keys, QWidget& screen);
@@ -47,9 +52,9 @@ QLabel* NewLabel(QWidget* parent, QAnyStringView name, std::string_view caption)
 /// Give a label another text, which is its accessible name, too.
 void SetText(QLabel& label, std::string_view text);
 
-/// A label for `control`: gives the control its accessible name, and takes Alt and `mnemonic` to
-/// it.
+/// A label for `control`: gives the control its accessible name, and takes Alt and the mnemonic to
+/// it, which is marked as in a button's caption.
 QLabel* NewLabelFor(QWidget& control, QWidget* parent, QAnyStringView name,
-                    std::string_view caption, char mnemonic = 0);
+                    std::string_view caption);
 
 } // namespace tarn

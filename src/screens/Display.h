@@ -2,6 +2,8 @@
 
 // The display: whether it is large enough, twips as its pixels, and how a window fills it.
 
+#include "base/Words.h"
+
 #include <QMargins>
 #include <QSize>
 
@@ -17,9 +19,9 @@ inline constexpr int LeastDisplayWidth = 800;
 inline constexpr int LeastDisplayHeight = 600;
 
 /// Shown on a smaller display; the program then ends.
-inline constexpr std::string_view DisplayTooSmallMessage =
-    "Sorry, the program must run under display resolution 800 X 600 or higher\r\n"
-    "Please change the display resolution!";
+inline constexpr auto DisplayTooSmallMessage =
+    Words("Sorry, the program must run under display resolution 800 X 600 or higher\r\n"
+          "Please change the display resolution!");
 
 /// A screen's size in physical pixels, exact as far as it decides whether the display is large
 /// enough.

@@ -1,5 +1,6 @@
 #include "screens/DraftKeeper.h"
 
+#include "base/Words.h"
 #include "files/OutputFile.h"
 
 #include <algorithm>
@@ -152,7 +153,7 @@ std::vector<KeptDraft> DraftKeeper::WorthTakingBack() const {
 void DraftKeeper::TakeBack(const KeptDraft& draft) {
     Flush();
     if (!trouble_.empty()) {
-        throw OutputFileError("What is not saved could not be kept. " + trouble_);
+        throw OutputFileError(Words("What is not saved could not be kept. %1", trouble_));
     }
     tarn::TakeBack(project_, draft.Record.Content);
     Part();

@@ -2,6 +2,7 @@
 
 #include "base/RunTimeError.h"
 #include "base/Text.h"
+#include "base/Words.h"
 
 #include <exception>
 
@@ -29,7 +30,7 @@ std::string MessageOfCurrent(const std::string& failure) {
     } catch (const std::exception& error) {
         return Joined(failure, error.what());
     } catch (...) {
-        return Joined(failure, "The reason is not known.");
+        return Joined(failure, Words("The reason is not known."));
     }
 }
 

@@ -1,5 +1,6 @@
 #include "screens/GuideWindow.h"
 
+#include "base/Words.h"
 #include "files/QtText.h"
 #include "screens/Arrangement.h"
 #include "screens/ControlNames.h"
@@ -23,7 +24,8 @@ namespace tarn {
 namespace {
 
 constexpr int LineLength = 80; ///< characters
-constexpr const char* FindFailure = "The guide could not be searched.";
+constexpr auto FindFailure = Words("The guide could not be searched.");
+constexpr auto AboutFailure = Words("The text could not be shown.");
 
 } // namespace
 
@@ -31,20 +33,21 @@ GuideWindow::GuideWindow(QWidget& program, Dialogs& boxes)
     : QDialog(&program)
     , program_(program)
     , boxes_(boxes) {
-    NameControl(*this, Controls::guideWindow, QStringLiteral("Guide"));
-    setWindowTitle(QStringLiteral("GUIDE"));
+    NameControl(*this, Controls::guideWindow, ToQt(Words("Guide")));
+    setWindowTitle(ToQt(Words("GUIDE")));
     LayOut();
     Connect();
 }
 
 void GuideWindow::LayOut() {
     text_ = new GuideView(this);
-    NameControl(*text_, Controls::guideText, QStringLiteral("Guide"));
+    NameControl(*text_, Controls::guideText, ToQt(Words("Guide")));
     search_ = new QLineEdit(this);
     search_->setObjectName(Controls::guideSearch);
-    find_ = NewButton(this, Controls::findInGuide, "FIND NEXT", 'F');
+    find_ = NewButton(this, Controls::findInGuide, Words("&FIND NEXT"));
     find_->setDefault(true);
-    close_ = NewButton(this, Controls::closeGuide, "CLOSE", 'C');
+    about_ = NewButton(this, Controls::aboutFromGuide, Words("&ABOUT"));
+    close_ = NewButton(this, Controls::closeGuide, Words("&CLOSE"));
     note_ = NewLabel(this, Controls::guideNote, "");
     note_->setWordWrap(true);
     note_->setTextInteractionFlags(Qt::TextSelectableByMouse);
@@ -53,16 +56,17 @@ void GuideWindow::LayOut() {
 
     auto* row = new QHBoxLayout;
     row->setSpacing(Pixels(Metrics::Spacing));
-    row->addWidget(NewLabelFor(*search_, this, Controls::guideSearchCaption, "WORD", 'W'));
+    row->addWidget(NewLabelFor(*search_, this, Controls::guideSearchCaption, Words("&WORD")));
     row->addWidget(search_, 1);
     row->addWidget(find_);
+    row->addWidget(about_);
     row->addWidget(close_);
     auto* rows = new QVBoxLayout(this);
     SetSpacing(*rows, Metrics::Spacing);
     rows->addWidget(text_, 1);
     rows->addWidget(note_);
     rows->addLayout(row);
-    SetTabOrders({text_, search_, find_, close_});
+    SetTabOrders({text_, search_, find_, about_, close_});
 }
 
 void GuideWindow::Connect() {
@@ -75,6 +79,13 @@ void GuideWindow::Connect() {
                 search_->setFocus();
                 search_->selectAll();
             });
+    connect(about_, &QPushButton::clicked, this, [this] {
+        Guarded(boxes_, AboutFailure, [this] {
+            if (OnAbout) {
+                OnAbout();
+            }
+        });
+    });
     connect(close_, &QPushButton::clicked, this, &QDialog::reject);
     text_->OnLinkAway = [this](const QString& address) {
         Guarded(boxes_, {}, [&] { TellLinkAway(address); });
@@ -113,13 +124,13 @@ void GuideWindow::Find() {
             text_->setTextCursor(before);
         }
     }
-    SetText(*note_, found ? "" : "The guide does not have this word.");
+    SetText(*note_, found ? Phrase() : Words("The guide does not have this word."));
     note_->setVisible(!found && !word.isEmpty());
 }
 
 void GuideWindow::TellLinkAway(const QString& address) {
-    SetText(*note_,
-            "This is not in the guide, and the program opens nothing else: " + FromQt(address));
+    SetText(*note_, Words("This is not in the guide, and the program opens nothing else: %1",
+                          FromQt(address)));
     note_->show();
 }
 

@@ -2,6 +2,7 @@
 
 #include <QDialog>
 
+#include <functional>
 #include <string_view>
 
 class QLabel;
@@ -22,6 +23,9 @@ class GuideWindow : public QDialog {
     /// Show the guide at a page (see GuidePages.h), in front, with the focus in its text.
     void ShowPage(std::string_view page);
 
+    /// What the button ABOUT does.
+    std::function<void()> OnAbout;
+
   protected:
     void hideEvent(QHideEvent* event) override;
 
@@ -38,6 +42,7 @@ class GuideWindow : public QDialog {
     GuideView* text_ = nullptr;
     QLineEdit* search_ = nullptr;
     QPushButton* find_ = nullptr;
+    QPushButton* about_ = nullptr;
     QPushButton* close_ = nullptr;
     QLabel* note_ = nullptr;
     bool placed_ = false;

@@ -72,7 +72,7 @@ std::optional<std::size_t> MessageBoxes::Choose(const std::string& text,
     std::vector<QAbstractButton*> buttons;
     for (const std::string& action : actions) {
         auto* button = new QPushButton(&box);
-        SetCaption(*button, action);
+        SetCaption(*button, Unmarked(action));
         box.addButton(button, QMessageBox::ActionRole);
         buttons.push_back(button);
     }

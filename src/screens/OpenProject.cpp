@@ -1,5 +1,6 @@
 #include "screens/OpenProject.h"
 
+#include "base/Words.h"
 #include "project/RoomExtents.h"
 #include "store/Names.h"
 #include "store/ProjectNames.h"
@@ -20,12 +21,12 @@ std::optional<LastChoices> OpenProject::LastChosen() const {
                                                               : std::nullopt;
 }
 
-std::string_view UnitsWarning(const OpenProject& project) {
+Phrase UnitsWarning(const OpenProject& project) {
     const bool hasSizes = !project.Now.Rooms.empty() || !project.Typed.IsEmpty();
     if (project.Shown == Units::Imperial) {
-        return project.IsInMetric() ? "ENTERED IN METRIC" : "";
+        return project.IsInMetric() ? Words("E&NTERED IN METRIC") : Phrase();
     }
-    return hasSizes && !project.IsInMetric() ? "ENTERED IN FEET" : "";
+    return hasSizes && !project.IsInMetric() ? Words("E&NTERED IN FEET") : Phrase();
 }
 
 Draft DraftOf(const OpenProject& project) {

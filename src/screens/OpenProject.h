@@ -3,6 +3,7 @@
 #pragma once
 
 #include "base/Units.h"
+#include "base/Words.h"
 #include "estimate/EstimateChoices.h"
 #include "project/OrderEntry.h"
 #include "project/Project.h"
@@ -48,13 +49,13 @@ struct OpenProject {
 
 /// What tells the user in which units the project was entered, while others are in force; empty
 /// while they are not.
-std::string_view UnitsWarning(const OpenProject& project);
+Phrase UnitsWarning(const OpenProject& project);
 
 /// Shown when a project was saved.
-inline constexpr std::string_view SavedMessage = "Data is saved";
+inline constexpr auto SavedMessage = Words("Data is saved");
 
 /// What could not be done when saving failed; the cause follows it.
-inline constexpr std::string_view NotSavedMessage = "The project could not be saved.";
+inline constexpr auto NotSavedMessage = Words("The project could not be saved.");
 
 /// How a save treats what another program stored since the project was read.
 enum class MeanwhileStored { Stays, IsReplaced };

@@ -21,6 +21,10 @@ QString KeyOf(Preference which) {
     return {};
 }
 
+QString LanguageKey() {
+    return QStringLiteral("Language");
+}
+
 /// The owner's alone, and its folder too.
 void MakeIfMissing(const std::filesystem::path& file) {
     try {
@@ -50,9 +54,23 @@ bool Preferences::IsOn(Preference which) const {
 
 void Preferences::Set(Preference which, bool on) {
     chosen_[which] = on;
+    Keep(KeyOf(which), on);
+}
+
+std::string Preferences::Language() const {
+    return language_.empty() && file_ ? file_->value(LanguageKey()).toString().toStdString()
+                                      : language_;
+}
+
+void Preferences::ChooseLanguage(const std::string& code) {
+    language_ = code;
+    Keep(LanguageKey(), QString::fromStdString(code));
+}
+
+void Preferences::Keep(const QString& key, const QVariant& value) {
     if (file_) {
         MakeIfMissing(file_->fileName().toStdString());
-        file_->setValue(KeyOf(which), on);
+        file_->setValue(key, value);
         file_->sync();
     }
 }

@@ -4,8 +4,10 @@
 
 #include <map>
 #include <memory>
+#include <string>
 
 class QSettings;
+class QVariant;
 
 namespace tarn {
 
@@ -30,9 +32,16 @@ class Preferences {
     /// Choose it, or no longer, and keep that at once.
     void Set(Preference which, bool on);
 
+    /// The code of the language of the next start; empty until one was chosen.
+    std::string Language() const;
+    void ChooseLanguage(const std::string& code);
+
   private:
     std::unique_ptr<QSettings> file_;
+    void Keep(const QString& key, const QVariant& value);
+
     std::map<Preference, bool> chosen_; ///< without a file, and where it could not be written
+    std::string language_;              ///< as chosen_
 };
 
 /// The file of the user's own preferences, in the user's configuration directory; empty when the

@@ -2,6 +2,7 @@
 
 #include "base/RunTimeError.h"
 #include "base/Text.h"
+#include "base/Words.h"
 #include "paper/EstimatePaper.h"
 #include "screens/AfterBoxes.h"
 #include "screens/Guard.h"
@@ -60,11 +61,13 @@ std::string GivenUpText(std::size_t jobs) {
 std::string SaveInstead(const PrintJob& job, bool isShown) {
     std::string caption(SaveAsPdfCaption);
     std::erase(caption, '&');
-    const char* way = isShown ? "Or right-click what is shown" : "Or show it again, right-click it";
     if (std::holds_alternative<OrderPages>(job)) {
-        way = isShown ? "Or press SAVE AS" : "Or show the order again, press SAVE AS";
+        return isShown
+                   ? Words("Or press SAVE AS and choose \"%1\".", caption)
+                   : Words("Or show the order again, press SAVE AS and choose \"%1\".", caption);
     }
-    return std::string(way) + " and choose \"" + caption + "\".";
+    return isShown ? Words("Or right-click what is shown and choose \"%1\".", caption)
+                   : Words("Or show it again, right-click it and choose \"%1\".", caption);
 }
 
 } // namespace

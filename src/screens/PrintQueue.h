@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/Words.h"
 #include "files/OrderDocument.h"
 #include "paper/EstimatePage.h"
 #include "paper/Printer.h"
@@ -33,7 +34,7 @@ struct OrderPages {
 using PrintJob = std::variant<EnteredDataReport, EstimatePage, OrderPages>;
 
 /// Shown while something is printed.
-inline constexpr std::string_view PrintingNote = "Printing ...";
+inline constexpr auto PrintingNote = Words("Printing ...");
 
 /// Tell when a page, printed or saved, cannot show its cut list.
 void TellOfALostList(Dialogs& boxes, const EstimatePage& page);

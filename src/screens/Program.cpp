@@ -1,5 +1,6 @@
 #include "screens/Program.h"
 
+#include "base/Words.h"
 #include "screens/Display.h"
 #include "screens/Guard.h"
 #include "screens/projects/RoomsAsProject.h"
@@ -33,7 +34,7 @@ bool Program::Start(const std::vector<std::filesystem::path>& configurationDirec
                     QSize displayPixels, const std::function<QDate()>& today,
                     const QLocale& locale) {
     bool started = false;
-    Guarded(boxes_, "The program could not be started.", [&] {
+    Guarded(boxes_, Words("The program could not be started."), [&] {
         session_.Today = today;
         if (CanRun(configurationDirectories, displayPixels)) {
             Show(locale);
@@ -67,12 +68,13 @@ bool Program::CanRun(const std::vector<std::filesystem::path>& configurationDire
 bool Program::IsFirstStartMade(const std::vector<std::filesystem::path>& directories) {
     const auto offer = OfferFirstStart(directories);
     return offer && boxes_.AskYesNo(QuestionAbout(*offer)) &&
-           Guarded(boxes_, "Nothing was made.", [&] { MakeFirstStart(*offer); });
+           Guarded(boxes_, Words("Nothing was made."), [&] { MakeFirstStart(*offer); });
 }
 
 void Program::Show(const QLocale& locale) {
     store_ = OpenStore(folder_);
     store_.SetBeforeFirstChange([this] { BackUp(); });
+    screens_.SetPlaces(PlacesOf(folder_));
     drafts_.SetDrafts(UserDrafts(WithNativeSeparators(folder_.DatabaseName)));
     project_.Now.Directory = MonthDirectoryName(session_.Today(), locale);
     screens_.ShowProjects();
@@ -88,7 +90,7 @@ void Program::Show(const QLocale& locale) {
 
 void Program::BackUp() {
     // The change that it goes before is made all the same.
-    Guarded(boxes_, "There is no backup of the data as it was before this change.",
+    Guarded(boxes_, Words("There is no backup of the data as it was before this change."),
             [this] { MakeBackup(WithNativeSeparators(folder_.DatabaseName)); });
 }
 

@@ -44,8 +44,16 @@ void ProgramScreens::ShowOrder(std::optional<Byte> carpet) {
 void ProgramScreens::ShowGuide(std::string_view page) {
     if (guide_ == nullptr) {
         guide_ = new GuideWindow(window_, session_->Boxes);
+        guide_->OnAbout = [this] { ShowAbout(); };
     }
     guide_->ShowPage(page);
+}
+
+void ProgramScreens::ShowAbout() {
+    auto* about = new AboutWindow(window_, places_);
+    about->setAttribute(Qt::WA_DeleteOnClose);
+    about->setModal(true);
+    about->show();
 }
 
 void ProgramScreens::Return() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "screens/AboutWindow.h"
 #include "screens/ScreenWindow.h"
 #include "screens/Screens.h"
 #include "screens/Session.h"
@@ -16,6 +17,8 @@ class ProgramScreens : public Screens {
 
     /// What the screens work on; to be set before the first one is shown, and to outlive them.
     void SetSession(Session& session) { session_ = &session; }
+    /// What ShowAbout tells of where things lie.
+    void SetPlaces(Places places) { places_ = std::move(places); }
 
     void ShowProjects() override;
     void ShowMenu(MenuEntry entry) override;
@@ -24,6 +27,7 @@ class ProgramScreens : public Screens {
     void ShowOptions(const EstimateRequest& request, EstimateClient& client) override;
     void ShowOrder(std::optional<Byte> carpet) override;
     void ShowGuide(std::string_view page) override;
+    void ShowAbout() override;
     void Return() override;
     void End() override;
 
@@ -31,6 +35,7 @@ class ProgramScreens : public Screens {
     ScreenWindow& window_;
     Session* session_ = nullptr;
     GuideWindow* guide_ = nullptr; ///< the window's own; made when it is first asked for
+    Places places_;
 };
 
 } // namespace tarn

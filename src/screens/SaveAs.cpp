@@ -1,5 +1,6 @@
 #include "screens/SaveAs.h"
 
+#include "base/Words.h"
 #include "files/OutputFile.h"
 
 namespace tarn {
@@ -16,7 +17,7 @@ void SaveAs(const Session& session, const std::string& name, const std::string& 
     } catch (const OutputFileError&) {
         throw;
     } catch (const std::exception& error) {
-        throw OutputFileError("The file " + *path + " cannot be written: " + error.what());
+        throw OutputFileError(Words("The file %1 cannot be written: %2", *path, error.what()));
     }
     session.Note("Saved: " + path->substr(path->rfind('/') + 1));
 }

@@ -2,7 +2,8 @@
 
 // Saving what a screen shows as a file of the user's choice.
 
-#include "screens/Session.h"
+#include "base/Words.h"
+#include "screens/Dialogs.h"
 
 #include <functional>
 #include <string>
@@ -10,8 +11,8 @@
 namespace tarn {
 
 /// What every screen calls its ways to a file.
-inline constexpr const char* SaveAsPdfCaption = "Save as &PDF";
-inline constexpr const char* SaveAsSvgCaption = "Save as &SVG";
+inline constexpr auto SaveAsPdfCaption = Words("Save as &PDF");
+inline constexpr auto SaveAsSvgCaption = Words("Save as &SVG");
 
 /// Ask for a file, beginning with `name`, have `write` write it, and note in the window that it is
 /// saved; nothing when that was cancelled. Raises OutputFileError, which names the file, whatever

@@ -1,6 +1,7 @@
 #include "screens/SaveProject.h"
 
 #include "base/Text.h"
+#include "base/Words.h"
 #include "project/SizeNotes.h"
 #include "screens/Session.h"
 #include "store/Names.h"
@@ -13,25 +14,26 @@ namespace {
 
 using Outcome = SaveResult::Outcome;
 
-constexpr const char* ReplaceIt = "Replace it";
-constexpr const char* SaveAsNew = "Save it as a new project";
+constexpr auto ReplaceIt = Words("Replace it");
+constexpr auto SaveAsNew = Words("Save it as a new project");
 
 std::string ChangedText(const std::string& project) {
-    return "Another program has changed the project " + project + " since it was opened here." +
-           std::string(CrLf) + "What that program stored is lost when you replace it.";
+    return Words("Another program has changed the project %1 since it was opened here.\r\n"
+                 "What that program stored is lost when you replace it.",
+                 project);
 }
 
 std::string GoneText(const std::string& project) {
-    return "The project " + project +
-           " is no longer there: another program has renamed or deleted it." + std::string(CrLf) +
-           "Its rooms can be saved as a new project.";
+    return Words("The project %1 is no longer there: another program has renamed or deleted it.\r\n"
+                 "Its rooms can be saved as a new project.",
+                 project);
 }
 
 /// Save under a name that the user is asked for until it is taken; false when the user gave it up.
 bool SavedUnderNewName(Session& session) {
     std::string typed = session.Project.Now.Name;
     for (;;) {
-        const auto answer = session.Boxes.Input("Enter the new project name", typed);
+        const auto answer = session.Boxes.Input(Words("Enter the new project name"), typed);
         const std::string name = StoredName(answer.value_or(std::string()));
         if (name.empty()) {
             return false;

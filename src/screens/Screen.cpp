@@ -1,5 +1,7 @@
 #include "screens/Screen.h"
 
+#include "base/Words.h"
+#include "files/QtText.h"
 #include "screens/ControlNames.h"
 #include "screens/Controls.h"
 #include "screens/Guard.h"
@@ -8,6 +10,7 @@
 #include <QContextMenuEvent>
 #include <QCoreApplication>
 #include <QKeyEvent>
+#include <QMenu>
 #include <QMenuBar>
 #include <QPointer>
 #include <QPushButton>
@@ -20,7 +23,7 @@ namespace tarn {
 
 namespace {
 
-constexpr const char* GuideFailure = "The guide could not be shown.";
+constexpr auto GuideFailure = Words("The guide could not be shown.");
 
 /// Scrolls to what takes the focus, but not under a mouse that is pressing it: a click whose button
 /// moved away is none. The scroll area itself follows the Tab key alone.
@@ -91,8 +94,9 @@ void Screen::MakeKeys() {
             [this] { Guard(GuideFailure, [this] { ShowGuide(); }); });
     // The toolkit knows the menu key alone, which many a keyboard lacks.
     auto* menu = new QShortcut(QKeySequence(Qt::SHIFT | Qt::Key_F10), this);
-    connect(menu, &QShortcut::activated, this,
-            [this] { Guard("The menu could not be opened.", [this] { OpenContextMenu(); }); });
+    connect(menu, &QShortcut::activated, this, [this] {
+        Guard(Words("The menu could not be opened."), [this] { OpenContextMenu(); });
+    });
 }
 
 void Screen::OpenContextMenu() const {
@@ -105,7 +109,7 @@ void Screen::OpenContextMenu() const {
 
 QPushButton& Screen::GuideButton() {
     if (guide_ == nullptr) {
-        guide_ = NewButton(body_, Controls::showGuide, "GUIDE (F1)");
+        guide_ = NewButton(body_, Controls::showGuide, Words("GUIDE (F1)"));
         guide_->setFocusPolicy(Qt::NoFocus); // the typing stays where it is
         SetRole(*guide_, TextRole::Hint);
         OnClick(*guide_, GuideFailure, [this] { ShowGuide(); });
@@ -119,13 +123,13 @@ void Screen::ShowGuide() const {
 
 void Screen::CloseByFrame() {
     if (isEnabled()) {
-        Guard("The screen could not be closed.", [this] { OnCloseByFrame(); });
+        Guard(Words("The screen could not be closed."), [this] { OnCloseByFrame(); });
     }
 }
 
 void Screen::Uncover() {
     setEnabled(true);
-    Guard("The screen could not be shown.", [this] { OnUncover(); });
+    Guard(Words("The screen could not be shown."), [this] { OnUncover(); });
 }
 
 QMenuBar& Screen::Menus() {
@@ -135,6 +139,21 @@ QMenuBar& Screen::Menus() {
         layout()->setMenuBar(menus_);
     }
     return *menus_;
+}
+
+void Screen::AddHelpMenu() {
+    // Without a mnemonic: on some screens every letter is taken.
+    QMenu* menu = Menus().addMenu(ToQt(Words("Help")));
+    menu->setObjectName(Controls::helpMenu);
+    QAction* guide = menu->addAction(ToQt(Words("&Guide")));
+    guide->setObjectName(Controls::helpGuide);
+    connect(guide, &QAction::triggered, this,
+            [this] { Guard(GuideFailure, [this] { ShowGuide(); }); });
+    QAction* about = menu->addAction(ToQt(Words("&About")));
+    about->setObjectName(Controls::helpAbout);
+    connect(about, &QAction::triggered, this, [this] {
+        Guard(Words("The text could not be shown."), [this] { session_.Go.ShowAbout(); });
+    });
 }
 
 bool Screen::Guard(const std::string& failure, const std::function<void()>& body) const noexcept {

@@ -53,6 +53,8 @@ class Screen : public QWidget {
 
     /// The menu bar, made when it is first asked for.
     QMenuBar& Menus();
+    /// A menu at the end of the bar that leads to the guide and to what the program is.
+    void AddHelpMenu();
     /// What holds the controls.
     QWidget& Body() const { return *body_; }
     QScrollArea& Scroller() { return *scroller_; }

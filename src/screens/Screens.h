@@ -42,6 +42,8 @@ class Screens {
     virtual void ShowOrder(std::optional<Byte> carpet) = 0;
     /// Open the guide at one of its pages (see GuidePages.h), beside the screen in front.
     virtual void ShowGuide(std::string_view page) = 0;
+    /// Show what the program is, above the screen in front.
+    virtual void ShowAbout() = 0;
     /// Unload the screen in front and show and enable the one below it.
     virtual void Return() = 0;
     /// End the program, once all that was to be printed is. Nothing is asked and nothing saved.

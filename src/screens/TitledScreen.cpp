@@ -1,6 +1,7 @@
 #include "screens/TitledScreen.h"
 
 #include "base/Text.h"
+#include "base/Words.h"
 #include "files/QtText.h"
 #include "screens/ControlNames.h"
 #include "screens/Controls.h"
@@ -63,7 +64,7 @@ void TitledScreen::ShowPanel(QWidget& panel) {
 }
 
 void TitledScreen::SetTitleWarning(std::string_view words) {
-    SetText(*titleWarning_, words);
+    SetText(*titleWarning_, FromQt(WithoutMark(words)));
     titleWarning_->setVisible(!words.empty());
     Arrange();
 }
@@ -92,7 +93,7 @@ bool TitledScreen::ChangesArrangement(const QObject* watched, QEvent::Type event
 
 bool TitledScreen::eventFilter(QObject* watched, QEvent* event) {
     if (ChangesArrangement(watched, event->type())) {
-        Guard("The screen could not be arranged.", [this] { Arrange(); });
+        Guard(Words("The screen could not be arranged."), [this] { Arrange(); });
     }
     return Screen::eventFilter(watched, event);
 }

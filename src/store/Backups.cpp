@@ -1,5 +1,6 @@
 #include "store/Backups.h"
 
+#include "base/Words.h"
 #include "files/Descriptor.h"
 #include "files/OutputFile.h"
 #include "store/DatabaseError.h"
@@ -83,11 +84,11 @@ void RequireEveryTable(Connection& connection, const std::string& backup) {
         if (!shape.Optional &&
             connection
                 .Run("SELECT 1 FROM sqlite_master WHERE type = 'table' AND name = ? COLLATE NOCASE",
-                     "The backup " + backup + " cannot be read", {TextValue(name)})
+                     Words("The backup %1 cannot be read", backup), {TextValue(name)})
                 .Rows.empty()) {
-            std::string text = "The file " + backup;
-            text.append(" is no backup of this program's data: it has no table ").append(name);
-            throw DatabaseError(text.append("."));
+            throw DatabaseError(
+                Words("The file %1 is no backup of this program's data: it has no table %2.",
+                      backup, name));
         }
     }
 }
@@ -96,11 +97,12 @@ void RequireEveryTable(Connection& connection, const std::string& backup) {
 void CopyBackup(const std::string& backup, const std::string& target, int busyWait) {
     UntouchedFile source(backup, busyWait);
     if (const auto damage = DamageOf(source.Database(), source.Path())) {
-        throw DatabaseError("The backup " + backup + " is damaged (" + *damage +
-                            ") and is not put in place. Take another one.");
+        throw DatabaseError(Words("The backup %1 is damaged (%2) and is not put in place. Take "
+                                  "another one.",
+                                  backup, *damage));
     }
     RequireEveryTable(source.Database(), backup);
-    const std::string failing = "The backup " + backup + " cannot be copied";
+    const std::string failing = Words("The backup %1 cannot be copied", backup);
     source.Database().Run("VACUUM INTO ?", failing, {TextValue(target)});
     Connection copy(target, Connection::Access::ReadWrite, busyWait);
     MarkAsCopyOfItsOwn(copy, failing);
@@ -113,7 +115,7 @@ void TakeBackCutOffChange(const std::string& path, int busyWait) {
         if (JournalBeside(path) == JournalKind::Own ||
             QFileInfo::exists(QString::fromStdString(path + "-wal"))) {
             Connection(path, Connection::Access::ReadWrite, busyWait)
-                .Run("SELECT count(*) FROM sqlite_master", "The file cannot be read");
+                .Run("SELECT count(*) FROM sqlite_master", Words("The file cannot be read"));
         }
     } catch (const DatabaseError&) {
         // A damaged file is kept as it is, and its journal with it.
@@ -130,8 +132,8 @@ std::string KeepFormer(const QFileInfo& file, const QDateTime& now) {
         try {
             CopyContent(path, copy.Path());
         } catch (const std::system_error& error) {
-            throw DatabaseError("The file " + path + " cannot be kept as " + kept + ": " +
-                                CauseOf(error.code()) + ".");
+            throw DatabaseError(
+                Words("The file %1 cannot be kept as %2: %3.", path, kept, CauseOf(error.code())));
         }
         copy.Place();
         return kept;
@@ -158,8 +160,8 @@ std::string SetJournalAside(const QFileInfo& file, const std::string& former,
                         ".journal";
     if (!QFile::rename(journal, QString::fromStdString(aside)) &&
         !(QFile::copy(journal, QString::fromStdString(aside)) && QFile::remove(journal))) {
-        throw DatabaseError("The journal " + journal.toStdString() + " cannot be set aside as " +
-                            aside + ".");
+        throw DatabaseError(
+            Words("The journal %1 cannot be set aside as %2.", journal.toStdString(), aside));
     }
     try {
         SynchroniseFolder(file.absolutePath().toStdString());
@@ -228,9 +230,10 @@ std::string FindBackup(const std::string& backup, const std::string& database) {
 std::optional<std::size_t> CountProjects(const std::string& path) {
     try {
         const std::string table(ProjTab);
-        const Result count = UntouchedFile(path, DefaultBusyWait)
-                                 .Database()
-                                 .Run("SELECT count(*) FROM " + table, table + " cannot be read");
+        const Result count =
+            UntouchedFile(path, DefaultBusyWait)
+                .Database()
+                .Run("SELECT count(*) FROM " + table, Words("%1 cannot be read", table));
         return static_cast<std::size_t>(count.Rows.at(0).at(0).toLongLong());
     } catch (const DatabaseError&) {
         return std::nullopt;
@@ -242,7 +245,8 @@ Restored RestoreBackup(const std::string& backup, const std::string& database, c
     const QFileInfo file = FileOf(database);
     const std::string path = file.filePath().toStdString();
     if (FileOf(backup).filePath() == file.filePath()) {
-        throw DatabaseError("The file " + backup + " is the database itself. Name a backup of it.");
+        throw DatabaseError(
+            Words("The file %1 is the database itself. Name a backup of it.", backup));
     }
     FileInMaking copy(path, FileInMaking::Target::Replaced);
     CopyBackup(backup, copy.Path(), busyWait);
@@ -254,9 +258,10 @@ Restored RestoreBackup(const std::string& backup, const std::string& database, c
         lock.emplace(path, FileLock::Kind::Replacing, busyWait);
     }
     if (QFileInfo::exists(QString::fromStdString(path + "-wal"))) {
-        throw DatabaseError("The database file " + path +
-                            " cannot be replaced: another program is using the database. Close "
-                            "that program and try again.");
+        throw DatabaseError(
+            Words("The database file %1 cannot be replaced: another program is using "
+                  "the database. Close that program and try again.",
+                  path));
     }
     if (file.exists()) {
         restored.Former = KeepFormer(file, now);

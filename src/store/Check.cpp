@@ -1,6 +1,7 @@
 #include "store/Check.h"
 
 #include "base/Text.h"
+#include "base/Words.h"
 #include "project/Coverings.h"
 #include "store/DatabaseError.h"
 #include "store/DatabaseFile.h"
@@ -23,14 +24,15 @@ namespace tarn {
 namespace {
 
 constexpr std::size_t MostPlaces = 10; // of each kind
+constexpr auto RoomsWithoutRow = Words("Rooms without a row, which are read as empty");
 
 // --- the file and its tables ---
 
 void TellOfJournal(const UntouchedFile& file, const std::string& path, Findings& findings) {
     if (file.Journal() == JournalKind::Own) {
-        findings.Tell("A change was cut off by a crash: " + JournalPath(path) +
-                      " lies beside the file. The next program that opens the file takes that "
-                      "change back.");
+        findings.Tell(Words("A change was cut off by a crash: %1 lies beside the file. The next "
+                            "program that opens the file takes that change back.",
+                            JournalPath(path)));
     } else if (file.Journal() == JournalKind::Foreign) {
         findings.Tell(ForeignJournalText(path));
     }
@@ -39,12 +41,12 @@ void TellOfJournal(const UntouchedFile& file, const std::string& path, Findings&
 /// Whether the file's structure is in order, so far that its rows can be read.
 void FindDamage(UntouchedFile& file, Findings& findings) {
     const Result check = file.Database().Run(
-        "PRAGMA integrity_check(20)", "The database file " + file.Path() + " cannot be checked");
+        "PRAGMA integrity_check(20)", Words("The database file %1 cannot be checked", file.Path()));
     bool sound = true;
     for (const QVariantList& row : check.Rows) {
         const QString line = row.at(0).toString();
         if (line != QStringLiteral("ok")) {
-            findings.Tell("Damaged: " + OneLine(line.toStdString()));
+            findings.Tell(Words("Damaged: %1", OneLine(line.toStdString())));
             sound = false;
         }
     }
@@ -59,7 +61,7 @@ std::vector<std::string> NamesOf(Connection& connection, const std::string& quer
     const std::string name(shape.Name);
     std::vector<std::string> names;
     for (const QVariantList& row :
-         connection.Run(query, "The table " + name + " cannot be checked", {TextValue(name)})
+         connection.Run(query, Words("The table %1 cannot be checked", name), {TextValue(name)})
              .Rows) {
         names.push_back(ShownText(row.at(0).toString().toStdString()));
     }
@@ -77,15 +79,15 @@ bool IsTable(Connection& connection, const TableShape& shape, Findings& findings
         return false;
     }
     if (kinds.empty()) {
-        findings.Tell("The table " + name + " is missing.");
+        findings.Tell(Words("The table %1 is missing.", name));
         return false;
     }
     if (kinds.front() == "view") {
-        findings.Tell("In the place of the table " + name + " is a view, which stores nothing.");
+        findings.Tell(Words("In the place of the table %1 is a view, which stores nothing.", name));
         return false;
     }
     if (!RawTable(connection, shape).HasRowNumbers()) {
-        findings.Tell("In the place of the table " + name + " is one without row numbers.");
+        findings.Tell(Words("In the place of the table %1 is one without row numbers.", name));
         return false;
     }
     return true;
@@ -94,19 +96,20 @@ bool IsTable(Connection& connection, const TableShape& shape, Findings& findings
 /// What another program put on a table that changes or refuses what is stored in it, and what is
 /// missing for speed.
 void FindOddities(Connection& connection, const TableShape& shape, Findings& findings) {
-    const std::string onTable = " on " + std::string(shape.Name);
+    const auto onTable = [&](std::string_view what) { return Words("%1 on %2", what, shape.Name); };
     for (const std::string& trigger :
          NamesOf(connection,
                  "SELECT name FROM sqlite_master WHERE type = 'trigger' "
                  "AND tbl_name = ? COLLATE NOCASE",
                  shape)) {
-        findings.Add("Triggers of another program, which may change or refuse what is stored",
-                     trigger + onTable);
+        findings.Add(
+            Words("Triggers of another program, which may change or refuse what is stored"),
+            onTable(trigger));
     }
     for (const std::string& index :
          NamesOf(connection, "SELECT name FROM pragma_index_list(?) WHERE \"unique\"", shape)) {
-        findings.Add("Indexes of another program that refuse a value which is there already",
-                     index + onTable);
+        findings.Add(Words("Indexes of another program that refuse a value which is there already"),
+                     onTable(index));
     }
     const auto indexed = NamesOf(connection,
                                  "SELECT c.name FROM pragma_index_list(?) i, "
@@ -117,8 +120,8 @@ void FindOddities(Connection& connection, const TableShape& shape, Findings& fin
             std::none_of(indexed.begin(), indexed.end(), [&field](const std::string& name) {
                 return EqualsIgnoringCase(name, field.Name);
             })) {
-            findings.Add("Fields without their index, by which reading becomes slow",
-                         std::string(field.Name) + onTable);
+            findings.Add(Words("Fields without their index, by which reading becomes slow"),
+                         onTable(field.Name));
         }
     }
 }
@@ -127,18 +130,13 @@ void FindOddities(Connection& connection, const TableShape& shape, Findings& fin
 bool HasFields(const RawTable& table, const TableShape& shape, Findings& findings) {
     for (const Field& field : shape.Fields) {
         if (!table.Has(field.Name) && !field.Optional) {
-            findings.Tell("The table " + std::string(shape.Name) + " has no field " +
-                          std::string(field.Name) + ".");
+            findings.Tell(Words("The table %1 has no field %2.", shape.Name, field.Name));
         }
     }
     return table.IsComplete();
 }
 
 // --- the rows ---
-
-std::string Counted(std::int64_t count, const char* what) {
-    return std::to_string(count) + ' ' + what + (count == 1 ? "" : "s");
-}
 
 /// The findings in the rows of the tables that can be read.
 class RowCheck {
@@ -220,7 +218,7 @@ void RowCheck::ReadDirectories() {
     });
     for (const auto& [name, rows] : directories_) {
         if (rows > 1 && !name.empty()) {
-            findings_.Add("Directories with more than one row", name);
+            findings_.Add(Words("Directories with more than one row"), name);
         }
     }
 }
@@ -255,15 +253,16 @@ void RowCheck::ReadSheets() {
 void RowCheck::CompareProjects() {
     for (const auto& [name, rows] : projects_) {
         if (rows > 1 && !name.empty()) {
-            findings_.Add("Projects with more than one row", name);
+            findings_.Add(Words("Projects with more than one row"), name);
         }
     }
     if (Reads(DirTab)) {
         for (const auto& [directory, project] : places_) {
             if (!directories_.contains(directory)) {
-                findings_.Add("Projects that no screen shows, since their directory is neither "
-                              "listed nor a month",
-                              std::string(project).append(" in ").append(directory));
+                findings_.Add(
+                    Words("Projects that no screen shows, since their directory is neither "
+                          "listed nor a month"),
+                    Words("%1 in %2", project, directory));
             }
         }
     }
@@ -276,20 +275,21 @@ void RowCheck::CompareSheets() {
         const std::string stored = StoredName(sheet.Project);
         const std::string number = QuotedValue(sheet.Number);
         if (Reads(ProjTab) && !projects_.contains(stored)) {
-            findings_.Add("Sheets without a project",
-                          "number " + number + " of " +
-                              (sheet.Project.empty() ? "no name" : sheet.Project));
+            findings_.Add(Words("Sheets without a project"),
+                          sheet.Project.empty() ? Words("number %1 of no name", number)
+                                                : Words("number %1 of %2", number, sheet.Project));
         }
         if (++sheetsOf[stored] == 2) {
-            findings_.Add("Projects with more than one sheet, of which the first alone is used",
-                          sheet.Project);
+            findings_.Add(
+                Words("Projects with more than one sheet, of which the first alone is used"),
+                sheet.Project);
         }
         if (const auto* whole = std::get_if<std::int64_t>(&sheet.Number)) {
             const Sheet& first = *sheetsByNumber_.at(*whole);
             if (StoredName(first.Project) != stored && shared.insert(*whole).second) {
-                findings_.Add("Sheet numbers of more than one project, whose rooms cannot be told "
-                              "apart",
-                              number + " of " + first.Project + " and " + sheet.Project);
+                findings_.Add(Words("Sheet numbers of more than one project, whose rooms cannot be "
+                                    "told apart"),
+                              Words("%1 of %2 and %3", number, first.Project, sheet.Project));
             }
         }
     }
@@ -298,16 +298,16 @@ void RowCheck::CompareSheets() {
 void RowCheck::FindUnreached(const TableShape& shape) {
     const std::string name(shape.Name);
     const std::string kind = shape.Name == InputData
-                                 ? "Rooms without a sheet, which nothing shows"
-                                 : "Rows of " + name + " without a sheet, which nothing reaches";
+                                 ? std::string(Words("Rooms without a sheet, which nothing shows"))
+                                 : Words("Rows of %1 without a sheet, which nothing reaches", name);
     const Result groups = connection_.Run("SELECT TabIndex, count(*) FROM " + name +
                                               " WHERE typeof(TabIndex) = 'integer' AND TabIndex "
                                               "NOT IN (SELECT TabIndex FROM MainTab WHERE TabIndex "
                                               "IS NOT NULL) GROUP BY TabIndex",
-                                          name + " cannot be read");
+                                          Words("%1 cannot be read", name));
     for (const QVariantList& row : groups.Rows) {
-        findings_.Add(kind, std::to_string(row.at(1).toLongLong()) + " under the number " +
-                                row.at(0).toString().toStdString());
+        findings_.Add(kind, Words("%1 under the number %2", std::to_string(row.at(1).toLongLong()),
+                                  row.at(0).toString().toStdString()));
     }
 }
 
@@ -316,7 +316,7 @@ void RowCheck::CompareRooms() {
         connection_.Run("SELECT TabIndex, count(*), count(DISTINCT ObjNum), min(ObjNum), "
                         "max(ObjNum) FROM InputData WHERE typeof(TabIndex) = 'integer' "
                         "GROUP BY TabIndex",
-                        "InputData cannot be read");
+                        Words("%1 cannot be read", InputData));
     std::unordered_map<std::int64_t, const QVariantList*> rowsOf;
     for (const QVariantList& group : groups.Rows) {
         rowsOf[group.at(0).toLongLong()] = &group;
@@ -329,8 +329,8 @@ void RowCheck::CompareRooms() {
         const auto found = rowsOf.find(number);
         if (found == rowsOf.end()) {
             if (*rooms > 0) {
-                findings_.Add("Rooms without a row, which are read as empty",
-                              sheet->Project + ", all " + std::to_string(*rooms));
+                findings_.Add(RoomsWithoutRow,
+                              Words("%1, all %2", sheet->Project, std::to_string(*rooms)));
             }
             continue;
         }
@@ -347,17 +347,17 @@ void RowCheck::CompareRooms() {
 void RowCheck::CompareRoomsOf(std::int64_t number, std::int64_t rooms) {
     const std::string& project = sheetsByNumber_.at(number)->Project;
     const auto roomText = [&project](std::int64_t place) {
-        return project + ", room " + std::to_string(place + 1);
+        return Words("%1, room %2", project, std::to_string(place + 1));
     };
     const Result stored = connection_.Run(
         "SELECT ObjNum, count(*) FROM InputData WHERE TabIndex = ? AND typeof(ObjNum) = 'integer' "
         "GROUP BY ObjNum",
-        "InputData cannot be read", {QVariant::fromValue<qint64>(number)});
+        Words("%1 cannot be read", InputData), {QVariant::fromValue<qint64>(number)});
     std::int64_t beyond = 0;
     std::int64_t next = 0; // the room whose row is to come
     const auto tellMissing = [&](std::int64_t end) {
         for (; next < end && next < rooms; ++next) {
-            findings_.Add("Rooms without a row, which are read as empty", roomText(next));
+            findings_.Add(RoomsWithoutRow, roomText(next));
         }
     };
     for (const QVariantList& row : stored.Rows) {
@@ -368,15 +368,15 @@ void RowCheck::CompareRoomsOf(std::int64_t number, std::int64_t rooms) {
             tellMissing(place);
             next = place + 1;
             if (row.at(1).toLongLong() > 1) {
-                findings_.Add("Rooms with more than one row, of which the last is read",
+                findings_.Add(Words("Rooms with more than one row, of which the last is read"),
                               roomText(place));
             }
         }
     }
     tellMissing(rooms);
     if (beyond > 0) {
-        findings_.Add("Rooms beyond the number that the sheet tells, which nothing shows",
-                      project + ", " + Counted(beyond, "room"));
+        findings_.Add(Words("Rooms beyond the number that the sheet tells, which nothing shows"),
+                      project + ", " + CountedWords("%n room", "%n rooms", beyond));
     }
 }
 
@@ -392,11 +392,12 @@ void RowCheck::CompareRequests() {
         const std::string place =
             sheet->second->Project + ", " + CoveringCaption(static_cast<Byte>(request->Carpet - 1));
         if (!request->IsReadable) {
-            findings_.Add("Requests for orders that cannot be read", place);
+            findings_.Add(Words("Requests for orders that cannot be read"), place);
         } else if (++rowsOf[{request->Sheet, request->Carpet}] == 2) {
-            findings_.Add("Carpets with more than one request for an order, of which the last is "
-                          "read",
-                          place);
+            findings_.Add(
+                Words("Carpets with more than one request for an order, of which the last is "
+                      "read"),
+                place);
         }
     });
 }
@@ -409,9 +410,9 @@ void RowCheck::FindWrongValues(const TableShape& shape) {
             const auto fault = table.Has(field.Name) ? FaultOf(row.Values.at(i), field)
                                                      : std::optional<std::string>();
             if (fault) {
-                findings_.Add(
-                    std::string(field.Name) + " in " + std::string(shape.Name) + " " + *fault,
-                    PlaceOf(shape, row, table) + " (" + QuotedValue(row.Values.at(i)) + ")");
+                findings_.Add(Words("%1 in %2 %3", field.Name, shape.Name, *fault),
+                              PlaceOf(shape, row, table) + " (" + QuotedValue(row.Values.at(i)) +
+                                  ")");
             }
         }
     });
@@ -431,10 +432,10 @@ std::string RowCheck::PlaceOf(const TableShape& shape, const RawRow& row,
         const auto sheet =
             number != nullptr ? sheetsByNumber_.find(*number) : sheetsByNumber_.end();
         if (sheet != sheetsByNumber_.end() && room != nullptr) {
-            return sheet->second->Project + ", room " + std::to_string(*room + 1);
+            return Words("%1, room %2", sheet->second->Project, std::to_string(*room + 1));
         }
     }
-    return "row " + std::to_string(row.Number);
+    return Words("row %1", std::to_string(row.Number));
 }
 
 } // namespace
@@ -446,7 +447,7 @@ std::vector<std::string> CheckDatabaseFile(const std::string& path, int busyWait
         TellOfJournal(file, path, findings);
         FindDamage(file, findings);
         Connection& connection = file.Database();
-        const std::string failing = "The database file " + path + " cannot be checked";
+        const std::string failing = Words("The database file %1 cannot be checked", path);
         connection.Run("BEGIN", failing); // all that follows is of one moment
         std::vector<const TableShape*> readable;
         for (const TableShape& shape : TableShapes()) {

@@ -1,6 +1,7 @@
 #include "store/Configuration.h"
 
 #include "base/Text.h"
+#include "base/Words.h"
 #include "files/Descriptor.h"
 #include "files/FileModes.h"
 #include "files/TemporaryFile.h"
@@ -86,7 +87,7 @@ std::string TextFor(const std::string& dataFolder) {
 }
 
 [[noreturn]] void RefuseToWrite(const fs::path& file, const std::string& cause) {
-    throw std::runtime_error("Cannot write " + file.string() + ": " + cause + ".");
+    throw std::runtime_error(Words("Cannot write %1: %2.", file.string(), cause));
 }
 
 /// Fill an empty file, and have it stored on the disk. Raises std::system_error.
@@ -103,7 +104,7 @@ void FillFile(const fs::path& file, const std::string& text) {
 void RequireReadableBack(const fs::path& file, const std::string& dataFolder) {
     if (dataFolder.empty() || FolderOfText(TextFor(dataFolder)) != dataFolder ||
         WithNativeSeparators(dataFolder) != dataFolder) {
-        RefuseToWrite(file, "the folder \"" + dataFolder + "\" cannot be named in it");
+        RefuseToWrite(file, Words("the folder \"%1\" cannot be named in it", dataFolder));
     }
 }
 
@@ -186,7 +187,7 @@ void WriteConfiguration(const fs::path& directory, const std::string& dataFolder
     try {
         MakePrivateFolder(directory);
         if (fs::exists(file) && !(fs::is_regular_file(file) && fs::is_empty(file))) {
-            RefuseToWrite(file, "it is there already");
+            RefuseToWrite(file, Words("it is there already"));
         }
         if (fs::is_regular_file(draft)) {
             fs::remove(draft); // of a run that was ended in the middle

@@ -1,5 +1,6 @@
 #include "store/Connection.h"
 
+#include "base/Words.h"
 #include "files/QtText.h"
 #include "store/DatabaseError.h"
 #include "store/Remedies.h"
@@ -55,26 +56,26 @@ std::string Cause(const QSqlError& error) {
     constexpr int PrimaryCode = 0xFF;
     const std::string text = error.databaseText().toStdString();
     if (error.nativeErrorCode().toInt() == FileMoved) {
-        return "the database file was moved, deleted or replaced while it was open. Put it back, "
-               "or start the program again.";
+        return Words("the database file was moved, deleted or replaced while it was open. Put it "
+                     "back, or start the program again.");
     }
     if (error.nativeErrorCode().toInt() == FolderNotOnDisk) {
-        return "the disk does not confirm that it keeps the change, which may be there all the "
-               "same. Look whether it is.";
+        return Words("the disk does not confirm that it keeps the change, which may be there all "
+                     "the same. Look whether it is.");
     }
     switch (error.nativeErrorCode().toInt() & PrimaryCode) {
     case Busy:
     case Locked:
-        return "another program is using the database. Close that program and try again.";
+        return Words("another program is using the database. Close that program and try again.");
     case ReadOnlyFile:
-        return "the database is read-only. Allow writing to the file and to its folder.";
+        return Words("the database is read-only. Allow writing to the file and to its folder.");
     case DiskFull:
-        return "the disk is full. Free some space and try again.";
+        return Words("the disk is full. Free some space and try again.");
     case DiskError:
-        return "the disk reports an error (" + text + ").";
+        return Words("the disk reports an error (%1).", text);
     case Corrupt:
     case NotADatabase:
-        return "the database file is damaged (" + text + "). " + DamageAdvice;
+        return Words("the database file is damaged (%1). Put a backup in its place.", text);
     default:
         return text + ".";
     }
@@ -104,7 +105,7 @@ Connection::Connection(const std::string& path, Access access, int busyWait)
         error = database.lastError();
     }
     QSqlDatabase::removeDatabase(name_);
-    Raise("The database file " + path + " cannot be opened", error);
+    Raise(Words("The database file %1 cannot be opened", path), error);
 }
 
 Connection::~Connection() {

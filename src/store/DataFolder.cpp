@@ -1,5 +1,6 @@
 #include "store/DataFolder.h"
 
+#include "base/Words.h"
 #include "store/Configuration.h"
 
 namespace tarn {
@@ -18,7 +19,7 @@ FindDataFolder(const std::vector<std::filesystem::path>& configurationDirectorie
 ProjectStore OpenStore(const DataFolder& folder) {
     std::string advice;
     if (folder.Path.empty()) {
-        advice = " No data folder is named in " + folder.Configuration.string() + ".";
+        advice = Words(" No data folder is named in %1.", folder.Configuration.string());
     }
     return ProjectStore::OpenedWhenUsed(WithNativeSeparators(folder.DatabaseName),
                                         DatabaseAccess::ReadWrite, std::move(advice));

@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include "base/Words.h"
 #include "store/ProjectStore.h"
 
 #include <filesystem>
@@ -14,7 +15,7 @@ namespace tarn {
 
 /// Shown when there is no configuration file, or the one found first is empty; the program then
 /// ends.
-inline constexpr std::string_view ConfigurationMissingMessage = "Couldn't find TarnWin.ini";
+inline constexpr auto ConfigurationMissingMessage = Words("Couldn't find TarnWin.ini");
 
 /// The database file below the data folder, with a backslash as its path is kept as text.
 inline constexpr std::string_view DatabaseFileInDataFolder = "DATA\\Tarn.mdb";

@@ -1,6 +1,8 @@
 #include "store/DatabaseFile.h"
 
+#include "base/Words.h"
 #include "files/DatabaseFormat.h"
+#include "files/QtText.h"
 #include "store/Configuration.h"
 #include "store/DatabaseError.h"
 #include "store/Journal.h"
@@ -17,13 +19,9 @@ namespace tarn {
 
 namespace {
 
-[[noreturn]] void Refuse(const std::string& path, const std::string& cause) {
-    throw DatabaseError("The database file " + path + " " + cause);
-}
-
-/// What to do about a path that leads to the wrong place.
-std::string CorrectThePath() {
-    return "Correct its path or the data folder in " + std::string(ConfigurationFileName);
+/// `what` has the path as %1 and where the path may have come from as %2.
+[[noreturn]] void Refuse(Phrase what, const std::string& path) {
+    throw DatabaseError(Words(what, path, ConfigurationFileName));
 }
 
 bool TakesWriting(const QFileInfo& info) {
@@ -39,10 +37,12 @@ QFileInfo FolderOf(const QFileInfo& file) {
 
 void RequireWritable(const std::string& path, const QFileInfo& info) {
     if (!TakesWriting(info)) {
-        Refuse(path, "is read-only. Allow writing to it.");
+        Refuse(Words("The database file %1 is read-only. Allow writing to it."), path);
     }
     if (!TakesWriting(FolderOf(info))) {
-        Refuse(path, "lies in a read-only folder. Allow writing to the folder.");
+        Refuse(Words("The database file %1 lies in a read-only folder. Allow writing to the "
+                     "folder."),
+               path);
     }
 }
 
@@ -51,32 +51,41 @@ void RequireWritable(const std::string& path, const QFileInfo& info) {
 void RequireDatabaseFile(const std::string& path) {
     const QFileInfo info(QString::fromStdString(path));
     if (!info.exists()) {
-        Refuse(path, "is missing. " + CorrectThePath() +
-                         ", or make a new data folder with \"tarn-data create\".");
+        Refuse(Words("The database file %1 is missing. Correct its path or the data folder in %2, "
+                     "or make a new data folder with \"tarn-data create\"."),
+               path);
     }
     if (info.isDir()) {
-        Refuse(path, "is a folder. " + CorrectThePath() + ".");
+        Refuse(Words("The database file %1 is a folder. Correct its path or the data folder in "
+                     "%2."),
+               path);
     }
     if (!info.isFile()) { // to open a pipe would wait for ever
-        Refuse(path, "is a pipe, a device or a socket. " + CorrectThePath() + ".");
+        Refuse(Words("The database file %1 is a pipe, a device or a socket. Correct its path or "
+                     "the data folder in %2."),
+               path);
     }
     RequireFilesBeside(path);
     QFile file(info.filePath());
     if (!file.open(QIODevice::ReadOnly)) {
-        Refuse(path, "cannot be read: " + file.errorString().toStdString() + ".");
+        throw DatabaseError(Words("The database file %1 cannot be read: %2.", path,
+                                  file.errorString().toStdString()));
     }
     const QByteArray head = file.read(DatabaseHeadSize);
     if (head.isEmpty()) {
-        Refuse(path, std::string("is empty. ") + RestoreAdvice);
+        Refuse(Words("The database file %1 is empty. Put a backup in its place."), path);
     }
     const DatabaseFormat format = DatabaseFormatOf(head);
     if (format == DatabaseFormat::Jet) {
-        Refuse(path, "is in the older Jet format, which cannot be read. Keep it, make a new data "
-                     "folder with \"tarn-data create\" and enter its projects there.");
+        Refuse(Words("The database file %1 is in the older Jet format, which cannot be read. Keep "
+                     "it, make a new data folder with \"tarn-data create\" and enter its projects "
+                     "there."),
+               path);
     }
     if (format == DatabaseFormat::None) {
-        Refuse(path, "is not a database of this program. " + CorrectThePath() +
-                         ", or put a backup in its place with \"tarn-data restore\".");
+        Refuse(Words("The database file %1 is not a database of this program. Correct its path or "
+                     "the data folder in %2, or put a backup in its place."),
+               path);
     }
 }
 
@@ -94,12 +103,12 @@ std::unique_ptr<Connection> ConnectToFile(const std::string& path, DatabaseAcces
     }
     // Able to write, so that SQLite can take back a change that a crash cut off; but refusing to.
     auto connection = std::make_unique<Connection>(path, Connection::Access::ReadWrite, busyWait);
-    connection->Run("PRAGMA query_only = ON", "The database file " + path + " cannot be opened");
+    connection->Run("PRAGMA query_only = ON", Words("The database file %1 cannot be opened", path));
     return connection;
 }
 
 std::optional<std::string> DamageOf(Connection& connection, const std::string& path) {
-    const std::string failing = "The database file " + path + " cannot be opened";
+    const std::string failing = Words("The database file %1 cannot be opened", path);
     const auto ask = [&](const char* statement) {
         return connection.Run(statement, failing).Rows.at(0).at(0);
     };
@@ -112,7 +121,7 @@ std::optional<std::string> DamageOf(Connection& connection, const std::string& p
     const bool whole = QFileInfo(QString::fromStdString(path)).size() >= size ||
                        ask("PRAGMA journal_mode").toString() == QStringLiteral("wal");
     if (!whole) {
-        finding = QStringLiteral("a part of it is missing");
+        finding = ToQt(Words("a part of it is missing"));
     }
     connection.Run("COMMIT", failing);
     return finding == QStringLiteral("ok") ? std::nullopt : std::optional(finding.toStdString());
@@ -120,8 +129,8 @@ std::optional<std::string> DamageOf(Connection& connection, const std::string& p
 
 void RequireSound(Connection& connection, const std::string& path) {
     if (const auto damage = DamageOf(connection, path)) {
-        throw DatabaseError("The database file " + path + " is damaged (" + *damage + "). " +
-                            DamageAdvice);
+        throw DatabaseError(Words(
+            "The database file %1 is damaged (%2). Put a backup in its place.", path, *damage));
     }
 }
 
@@ -129,7 +138,7 @@ std::unique_ptr<Connection> OpenDatabaseFile(const std::string& path, DatabaseAc
                                              int busyWait) {
     auto connection = ConnectToFile(path, access, busyWait);
     RequireSound(*connection, path);
-    const std::string failing = "The database file " + path + " cannot be opened";
+    const std::string failing = Words("The database file %1 cannot be opened", path);
     connection->Run("PRAGMA synchronous = EXTRA", failing);
     // Nothing of a change reaches the file before the journal is whole, the first page in it: by
     // that page a journal is told to be the file's own.

@@ -24,7 +24,7 @@ constexpr const char* Imperial = "feet";
 /// What is missing or wrong in a text; it never gets out of here.
 struct Damaged : std::runtime_error {
     Damaged()
-        : std::runtime_error("a damaged draft") {}
+        : std::runtime_error("damaged") {}
 };
 
 void Require(bool sound) {

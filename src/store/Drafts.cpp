@@ -1,5 +1,6 @@
 #include "store/Drafts.h"
 
+#include "base/Words.h"
 #include "files/FileModes.h"
 #include "files/OutputFile.h"
 #include "files/QtText.h"
@@ -73,10 +74,13 @@ void RemoveFile(const std::string& file) noexcept {
 
 /// A failure of a draft's file as one of its folder: the file's name tells nobody anything.
 std::string FolderFailure(const std::string& file, std::string failure) {
-    const std::string named = "file " + file;
-    const std::size_t at = failure.find(named);
-    if (at != std::string::npos) {
-        failure.replace(at, named.size(), "folder " + fs::path(file).parent_path().string());
+    constexpr std::string_view Cause = "\x01"; // stands where the cause does
+    const std::string named = Words("The file %1 cannot be written: %2.", file, Cause);
+    const std::string begin = named.substr(0, named.find(Cause));
+    if (failure.starts_with(begin)) {
+        const std::string folder = fs::path(file).parent_path().string();
+        const std::string instead = Words("The folder %1 cannot be written: %2.", folder, Cause);
+        failure.replace(0, begin.size(), instead.substr(0, instead.find(Cause)));
     }
     return failure;
 }
@@ -88,8 +92,8 @@ void WriteFile(const std::string& file, const DraftRecord& record) {
         MakePrivateFolder(folder);
         WriteOutputFile(file, DraftText(record), Overwrite::Chosen, NewFile::Private);
     } catch (const fs::filesystem_error& error) {
-        throw OutputFileError("The folder " + folder.string() +
-                              " cannot be written: " + error.code().message() + ".");
+        throw OutputFileError(
+            Words("The folder %1 cannot be written: %2.", folder.string(), error.code().message()));
     } catch (const OutputFileError& error) {
         throw OutputFileError(FolderFailure(file, error.what()));
     }
@@ -119,7 +123,7 @@ std::optional<fs::path> UserStateDirectory() {
 Drafts UserDrafts(const std::string& database) {
     const auto folder = UserStateDirectory();
     return folder ? Drafts(*folder, database)
-                  : Drafts("There is no folder for it: the environment names no home.");
+                  : Drafts(Words("There is no folder for it: the environment names no home."));
 }
 
 Drafts::Drafts(std::string reason)

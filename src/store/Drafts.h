@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "base/Words.h"
 #include "store/DraftRecord.h"
 
 #include <QDateTime>
@@ -39,7 +40,7 @@ struct KeptDraft {
 class Drafts {
   public:
     /// Keeps nothing, for the reason given.
-    explicit Drafts(std::string reason = "There is no folder for drafts.");
+    explicit Drafts(std::string reason = Words("There is no folder for drafts."));
     /// `folder` is made by the first draft. `database` is the path of the database file.
     Drafts(const std::filesystem::path& folder, const std::string& database);
 

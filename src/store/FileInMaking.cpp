@@ -1,5 +1,6 @@
 #include "store/FileInMaking.h"
 
+#include "base/Words.h"
 #include "files/FileModes.h"
 #include "files/OutputFile.h"
 #include "files/TemporaryFile.h"
@@ -52,13 +53,13 @@ FileInMaking::FileInMaking(const std::string& target, Target kind)
     , kind_(kind) {
     const QFileInfo info(target_);
     if (QFileInfo(QString::fromStdString(target)).fileName().isEmpty()) {
-        throw DatabaseError("The file " + target + " cannot be made: it has no name.");
+        throw DatabaseError(Words("The file %1 cannot be made: it has no name.", target));
     }
     if (kind == Target::New && (info.exists() || info.isSymLink())) {
-        Refuse("it is there already and stays as it is");
+        Refuse(Words("it is there already and stays as it is"));
     }
     if (info.exists() && !info.isFile()) {
-        Refuse("something that is no file stands in its place");
+        Refuse(Words("something that is no file stands in its place"));
     }
     MakeFolder(info.absolutePath());
     RemoveLeftOvers(info.absolutePath().toStdString());
@@ -92,7 +93,7 @@ void FileInMaking::Place() {
     const bool moved = kind_ == Target::New ? MoveToNewName(Path(), target)
                                             : std::rename(Path().c_str(), target.c_str()) == 0;
     if (!moved) {
-        Refuse("it cannot be moved into its folder, or another program made it meanwhile");
+        Refuse(Words("it cannot be moved into its folder, or another program made it meanwhile"));
     }
     try {
         for (const auto& made : madeFolders_) {
@@ -103,7 +104,7 @@ void FileInMaking::Place() {
         if (kind_ == Target::New && ::unlink(target.c_str()) == 0) {
             throw DatabaseError(error.what());
         }
-        throw DatabaseError(std::string(error.what()) + " The new file may be there all the same.");
+        throw DatabaseError(Words("%1 The new file may be there all the same.", error.what()));
     }
     placed_ = true;
 }
@@ -126,7 +127,7 @@ void FileInMaking::MakeFolder(const QString& folder) {
     try {
         madeFolders_ = MakePrivateFolder(folder.toStdString());
     } catch (const std::filesystem::filesystem_error&) {
-        Refuse("its folder cannot be made");
+        Refuse(Words("its folder cannot be made"));
     }
 }
 
@@ -144,7 +145,7 @@ void FileInMaking::MakeWorkshop(const QString& folder) {
     }
     workshop_.reset();
     RemoveMadeFolders();
-    Refuse("its folder takes no files");
+    Refuse(Words("its folder takes no files"));
 }
 
 void FileInMaking::RemoveMadeFolders() {
@@ -155,7 +156,7 @@ void FileInMaking::RemoveMadeFolders() {
 }
 
 void FileInMaking::Refuse(const std::string& cause) const {
-    throw DatabaseError("The file " + target_.toStdString() + " cannot be made: " + cause + ".");
+    throw DatabaseError(Words("The file %1 cannot be made: %2.", target_.toStdString(), cause));
 }
 
 } // namespace tarn

@@ -1,5 +1,6 @@
 #include "store/FileLock.h"
 
+#include "base/Words.h"
 #include "store/DatabaseError.h"
 
 #include <QDeadlineTimer>
@@ -49,9 +50,11 @@ bool Set(int file, short type, off_t first, off_t size) {
 FileLock::FileLock(const std::string& path, Kind kind, int busyWait)
     : file_(open(path.c_str(),
                  (kind == Kind::Reading ? O_RDONLY : O_RDWR) | O_CLOEXEC | O_NONBLOCK)) {
-    const std::string failing = "The database file " + path + " cannot be locked: ";
+    const auto refuse = [&path](std::string_view cause) {
+        throw DatabaseError(Words("The database file %1 cannot be locked: %2", path, cause));
+    };
     if (file_ < 0) {
-        throw DatabaseError(failing + std::strerror(errno) + ".");
+        refuse(std::string(std::strerror(errno)) + ".");
     }
     const QDeadlineTimer deadline(busyWait);
     constexpr unsigned long Pause = 10; // milliseconds
@@ -59,10 +62,10 @@ FileLock::FileLock(const std::string& path, Kind kind, int busyWait)
         const int cause = errno;
         if ((cause != EAGAIN && cause != EACCES) || deadline.hasExpired()) {
             close(file_);
-            throw DatabaseError(failing + (cause == EAGAIN || cause == EACCES
-                                               ? "another program is using the database. Close "
-                                                 "that program and try again."
-                                               : std::string(std::strerror(cause)) + "."));
+            refuse(cause == EAGAIN || cause == EACCES
+                       ? std::string(Words("another program is using the database. Close that "
+                                           "program and try again."))
+                       : std::string(std::strerror(cause)) + ".");
         }
         QThread::msleep(Pause);
     }

@@ -1,5 +1,7 @@
 #include "store/Findings.h"
 
+#include "base/Words.h"
+
 namespace tarn {
 
 void Findings::Tell(const std::string& sentence) {
@@ -26,7 +28,7 @@ std::vector<std::string> Findings::Lines() const {
             line += (i == 0 ? ": " : "; ") + kind.Places.at(i);
         }
         if (kind.Count > kind.Places.size()) {
-            line += "; and " + std::to_string(kind.Count - kind.Places.size()) + " more";
+            line = Words("%1; and %2 more", line, std::to_string(kind.Count - kind.Places.size()));
         }
         lines.push_back(line + (kind.Places.empty() ? "" : "."));
     }
@@ -42,8 +44,8 @@ std::vector<std::string> Findings::LineOfEach() const {
         if (kind.Count == 0) {
             lines.push_back(kind.Text);
         } else if (kind.Count > kind.Places.size()) {
-            lines.push_back(kind.Text + ": " + std::to_string(kind.Count - kind.Places.size()) +
-                            " more.");
+            lines.push_back(
+                Words("%1: %2 more.", kind.Text, std::to_string(kind.Count - kind.Places.size())));
         }
     }
     return lines;

@@ -1,6 +1,7 @@
 #include "store/FirstStart.h"
 
 #include "base/Text.h"
+#include "base/Words.h"
 #include "files/Descriptor.h"
 #include "files/FileModes.h"
 #include "store/Configuration.h"
@@ -39,8 +40,8 @@ class Making {
             auto made = MakePrivateFolder(folder);
             made_.insert(made_.end(), made.begin(), made.end());
         } catch (const fs::filesystem_error& error) {
-            throw std::runtime_error("The folder " + folder.string() +
-                                     " cannot be made: " + CauseOf(error.code()) + ".");
+            throw std::runtime_error(
+                Words("The folder %1 cannot be made: %2.", folder.string(), CauseOf(error.code())));
         }
     }
     void Database(const fs::path& file) {
@@ -72,12 +73,14 @@ std::optional<FirstStart> OfferFirstStart(const std::vector<fs::path>& configura
 }
 
 std::string QuestionAbout(const FirstStart& start) {
-    const std::string lineBreak(CrLf);
-    return (start.HasData ? "Use the data that is in this folder already?"
-                          : "Make a folder for the program's data?") +
-           lineBreak + lineBreak + "Data folder: " + start.DataFolder.string() + lineBreak +
-           "It is named in a new file: " + start.Configuration.string() + lineBreak + lineBreak +
-           "With No nothing is made, and the program ends.";
+    const Phrase question = start.HasData
+                                ? Words("Use the data that is in this folder already?\r\n\r\n"
+                                        "Data folder: %1\r\nIt is named in a new file: %2\r\n\r\n"
+                                        "With No nothing is made, and the program ends.")
+                                : Words("Make a folder for the program's data?\r\n\r\n"
+                                        "Data folder: %1\r\nIt is named in a new file: %2\r\n\r\n"
+                                        "With No nothing is made, and the program ends.");
+    return Words(question, start.DataFolder.string(), start.Configuration.string());
 }
 
 void MakeFirstStart(const FirstStart& start) {

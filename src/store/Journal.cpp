@@ -1,5 +1,6 @@
 #include "store/Journal.h"
 
+#include "base/Words.h"
 #include "files/DatabaseFormat.h"
 #include "store/DatabaseError.h"
 
@@ -186,9 +187,9 @@ void RequireFilesBeside(const std::string& database) {
         const std::string beside = path + suffix;
         const QFileInfo info(QString::fromStdString(beside));
         if (info.exists() && !info.isFile()) {
-            std::string text = "The database file ";
-            text.append(database).append(" cannot be opened: ").append(beside);
-            throw DatabaseError(text.append(" is no file. Remove it."));
+            throw DatabaseError(
+                Words("The database file %1 cannot be opened: %2 is no file. Remove it.", database,
+                      beside));
         }
     }
 }
@@ -200,13 +201,12 @@ void RequireOwnJournal(const std::string& database) {
 }
 
 std::string ForeignJournalText(const std::string& database) {
-    return "The database file " + database + " is not opened: beside it lies " +
-           JournalPath(database) +
-           ", the journal of a change that was cut off, and it belongs to another state of the "
-           "file, as when a backup was copied over the file. Together they would give wrong rooms; "
-           "nothing was changed. Put a backup in place with \"tarn-data restore BACKUP "
-           "--database " +
-           database + "\", which sets the journal aside.";
+    return Words("The database file %1 is not opened: beside it lies %2, the journal of a change "
+                 "that was cut off, and it belongs to another state of the file, as when a backup "
+                 "was copied over the file. Together they would give wrong rooms; nothing was "
+                 "changed. Put a backup in place with \"tarn-data restore BACKUP --database %1\", "
+                 "which sets the journal aside.",
+                 database, JournalPath(database));
 }
 
 } // namespace tarn

@@ -1,6 +1,7 @@
 #include "store/Names.h"
 
 #include "base/Text.h"
+#include "base/Words.h"
 #include "files/QtText.h"
 
 #include <algorithm>
@@ -11,6 +12,11 @@ namespace {
 
 bool IsBreak(QChar c) {
     return c.category() == QChar::Separator_Line || c.category() == QChar::Separator_Paragraph;
+}
+
+/// Of the kinds of names there are; the other one is a directory.
+bool IsProject(std::string_view kind) {
+    return kind == "project";
 }
 
 } // namespace
@@ -31,16 +37,20 @@ bool HoldsForbiddenCharacter(std::string_view name) {
 }
 
 std::string NameTooLongText(std::string_view kind, std::string_view name) {
-    return "The " + std::string(kind) + " name " + std::string(name) + " has more than " +
-           TrimStr(MaxNameLength) + " characters.";
+    return Words(IsProject(kind) ? Words("The project name %1 has more than %2 characters.")
+                                 : Words("The directory name %1 has more than %2 characters."),
+                 name, TrimStr(MaxNameLength));
 }
 
 std::string NoNameText(std::string_view kind) {
-    return "The " + std::string(kind) + " needs a name.";
+    return IsProject(kind) ? Words("The project needs a name.")
+                           : Words("The directory needs a name.");
 }
 
 std::string ControlCharacterText(std::string_view kind) {
-    return "The " + std::string(kind) + " name holds a line break or another control character.";
+    return IsProject(kind)
+               ? Words("The project name holds a line break or another control character.")
+               : Words("The directory name holds a line break or another control character.");
 }
 
 std::string StoredName(std::string_view name) {

@@ -1,6 +1,7 @@
 #include "store/OrderRows.h"
 
 #include "base/RunTimeError.h"
+#include "base/Words.h"
 #include "files/OrderRequestJson.h"
 #include "project/Coverings.h"
 #include "store/DatabaseError.h"
@@ -45,9 +46,9 @@ StoredRequests RequestsOf(const std::vector<StoredRow>& rows) {
         }
     }
     if (!unreadable.empty()) {
-        stored.Findings.push_back("Requests for orders that cannot be read, left out and dropped "
-                                  "by SAVE: carpet " +
-                                  unreadable + ".");
+        stored.Findings.push_back(Words("Requests for orders that cannot be read, left out and "
+                                        "dropped by SAVE: carpet %1.",
+                                        unreadable));
     }
     return stored;
 }

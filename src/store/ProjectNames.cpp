@@ -1,6 +1,7 @@
 #include "store/ProjectNames.h"
 
 #include "base/Text.h"
+#include "base/Words.h"
 #include "files/QtText.h"
 #include "project/TypedText.h"
 #include "store/Months.h"
@@ -72,7 +73,7 @@ std::optional<std::string> DirectoryNameRefusal(ProjectStore& store, std::string
         return NameTooLongText("directory", StoredName(name));
     }
     if (IsDirectoryTaken(store, name)) {
-        return "There is one directory with the same name, change to other one!";
+        return Words("There is one directory with the same name, change to other one!");
     }
     return std::nullopt;
 }
@@ -85,7 +86,7 @@ std::optional<std::string> ProjectNameRefusal(ProjectStore& store, std::string_v
         return NameTooLongText("project", StoredName(name));
     }
     if (store.DirectoryOf(name)) {
-        return "There is one project with the same name, change to other one!";
+        return Words("There is one project with the same name, change to other one!");
     }
     return std::nullopt;
 }

@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include "base/Words.h"
 #include "store/ProjectStore.h"
 
 #include <optional>
@@ -11,9 +12,9 @@
 namespace tarn {
 
 /// Shown when something was left out of a project name, and when one is refused for a character.
-inline constexpr std::string_view ForbiddenCharactersMessage =
-    "Sorry, the project name couldn't contain any of following characters:\r\n"
-    "   \\/:*?\"<>|";
+inline constexpr auto ForbiddenCharactersMessage =
+    Words("Sorry, the project name couldn't contain any of following characters:\r\n"
+          "   \\/:*?\"<>|");
 
 /// What becomes of text that is put into a project name. UTF-8.
 struct NameText {

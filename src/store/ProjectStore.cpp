@@ -2,6 +2,7 @@
 
 #include "base/RunTimeError.h"
 #include "base/Text.h"
+#include "base/Words.h"
 #include "project/RoomEntry.h"
 #include "store/DatabaseFile.h"
 #include "store/FileIdentity.h"
@@ -35,7 +36,7 @@ class Step {
         connection_.Run(kind == Kind::Reading  ? "BEGIN"
                         : kind == Kind::Change ? "BEGIN IMMEDIATE"
                                                : "SAVEPOINT part",
-                        "The database takes no change");
+                        Words("The database takes no change"));
     }
     ~Step() {
         if (!kept_) {
@@ -47,13 +48,13 @@ class Step {
 
     void Keep() {
         connection_.Run(kind_ == Kind::Part ? "RELEASE part" : "COMMIT",
-                        "The change cannot be stored");
+                        Words("The change cannot be stored"));
         kept_ = true;
     }
 
   private:
     void TakeBack() noexcept {
-        constexpr std::string_view Failing = "The change cannot be taken back";
+        constexpr auto Failing = Words("The change cannot be taken back");
         try {
             if (kind_ == Kind::Part) {
                 connection_.Run("ROLLBACK TO part", Failing);
@@ -93,8 +94,8 @@ std::string NewName(std::string_view kind, std::string_view name) {
 std::string NewProjectName(std::string_view project) {
     std::string name = NewName("project", project);
     if (name.find_first_of(ForbiddenInProjectName) != std::string::npos) {
-        throw DatabaseError("The project name " + name + " holds one of the characters " +
-                            std::string(ForbiddenInProjectName) + ".");
+        throw DatabaseError(Words("The project name %1 holds one of the characters %2.", name,
+                                  ForbiddenInProjectName));
     }
     return name;
 }
@@ -102,8 +103,8 @@ std::string NewProjectName(std::string_view project) {
 /// The one rule on names with a double quote.
 void RequireUsable(std::string_view name) {
     if (name.find('"') != std::string_view::npos) {
-        throw DatabaseError("The name " + std::string(name) +
-                            " cannot be used: a double quote stands inside it.");
+        throw DatabaseError(
+            Words("The name %1 cannot be used: a double quote stands inside it.", name));
     }
 }
 
@@ -280,7 +281,7 @@ ProjectStore::ProjectStore(std::unique_ptr<Impl> impl)
     : impl_(std::move(impl)) {}
 
 ProjectStore::ProjectStore()
-    : ProjectStore(Unavailable("No database is open.")) {}
+    : ProjectStore(Unavailable(Words("No database is open."))) {}
 
 ProjectStore ProjectStore::Unavailable(std::string reason) {
     return ProjectStore(std::make_unique<Impl>(std::move(reason)));

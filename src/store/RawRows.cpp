@@ -1,6 +1,7 @@
 #include "store/RawRows.h"
 
 #include "base/Text.h"
+#include "base/Words.h"
 #include "files/QtText.h"
 #include "store/DatabaseError.h"
 #include "store/Names.h"
@@ -84,16 +85,16 @@ RawRow RowFrom(const QVariantList& stored) {
 
 std::optional<std::string> NameFault(const std::string& name, bool isProject) {
     if (StoredName(name).empty()) {
-        return "is empty";
+        return Words("is empty");
     }
     if (Len(name) > MaxNameLength) {
-        return "has more than " + TrimStr(MaxNameLength) + " characters";
+        return Words("has more than %1 characters", TrimStr(MaxNameLength));
     }
     if (isProject ? HoldsForbiddenCharacter(name) : HoldsControlCharacter(name)) {
-        return "holds a character that no name may";
+        return Words("holds a character that no name may");
     }
     if (!EqualsIgnoringCase(StoredName(name), name)) {
-        return "is not as names are stored: in upper case, without blanks at its ends";
+        return Words("is not as names are stored: in upper case, without blanks at its ends");
     }
     return std::nullopt;
 }
@@ -126,7 +127,7 @@ std::string TextOf(const RawValue& value) {
 
 std::string QuotedValue(const RawValue& value) {
     if (IsNull(value)) {
-        return "nothing";
+        return Words("nothing");
     }
     constexpr qsizetype Most = 40; // characters
     QString text = ToQt(TextOf(value));
@@ -146,28 +147,29 @@ std::optional<std::string> FaultOf(const RawValue& value, const Field& field) {
         const bool good = whole != nullptr ? *whole >= field.Least && *whole <= field.Greatest
                                            : IsNull(value) && field.MayBeNull;
         return good ? std::nullopt
-                    : std::optional("is no whole number from " + std::to_string(field.Least) +
-                                    " to " + std::to_string(field.Greatest));
+                    : std::optional(Words("is no whole number from %1 to %2",
+                                          std::to_string(field.Least),
+                                          std::to_string(field.Greatest)));
     }
     case FieldContent::AboveZero: {
         const auto number = NumberOf(value);
         return number && *number > 0 && std::isfinite(*number)
                    ? std::nullopt
-                   : std::optional<std::string>("is no number above 0");
+                   : std::optional<std::string>(Words("is no number above 0"));
     }
     default:
         break;
     }
     const bool isText = field.Content == FieldContent::Text;
     if (IsNull(value)) {
-        return isText ? std::nullopt : std::optional<std::string>("is empty");
+        return isText ? std::nullopt : std::optional<std::string>(Words("is empty"));
     }
     if (text == nullptr) {
-        return "is no text";
+        return Words("is no text");
     }
     if (FindTextFault(*text) != TextFault::None) {
-        return "holds what no text may: a control character, U+FFFE, U+FFFF, or bytes that are not "
-               "UTF-8";
+        return Words("holds what no text may: a control character, U+FFFE, U+FFFF, or bytes that "
+                     "are not UTF-8");
     }
     return isText ? std::nullopt : NameFault(*text, field.Content == FieldContent::ProjectName);
 }
@@ -177,7 +179,7 @@ RawTable::RawTable(Connection& connection, const TableShape& shape)
     , shape_(shape) {
     const std::string name(shape.Name);
     const Result columns =
-        connection.Run("PRAGMA table_info(" + name + ")", name + " cannot be read");
+        connection.Run("PRAGMA table_info(" + name + ")", Words("%1 cannot be read", name));
     for (const Field& field : shape.Fields) {
         has_.push_back(std::any_of(
             columns.Rows.begin(), columns.Rows.end(), [&field](const QVariantList& column) {
@@ -188,7 +190,7 @@ RawTable::RawTable(Connection& connection, const TableShape& shape)
     hasRowNumbers_ = !connection
                           .Run("SELECT 1 FROM pragma_table_list WHERE schema = 'main' AND "
                                "name = ? COLLATE NOCASE AND type = 'table' AND wr = 0",
-                               name + " cannot be read", {TextValue(name)})
+                               Words("%1 cannot be read", name), {TextValue(name)})
                           .Rows.empty();
 }
 
@@ -214,10 +216,10 @@ bool RawTable::IsComplete() const {
 
 std::vector<RawRow> RawTable::Read(std::int64_t after, int most, const std::string& condition) {
     const std::string name(shape_.Name);
-    const Result result = connection_.Run("SELECT rowid" + selected_ + " FROM " + name +
-                                              " NOT INDEXED WHERE rowid > ?" + condition +
-                                              " ORDER BY rowid LIMIT " + std::to_string(most),
-                                          name + " cannot be read", {QVariant::fromValue(after)});
+    const Result result = connection_.Run(
+        "SELECT rowid" + selected_ + " FROM " + name + " NOT INDEXED WHERE rowid > ?" + condition +
+            " ORDER BY rowid LIMIT " + std::to_string(most),
+        Words("%1 cannot be read", name), {QVariant::fromValue(after)});
     std::vector<RawRow> rows;
     rows.reserve(result.Rows.size());
     for (const QVariantList& stored : result.Rows) {
@@ -227,7 +229,7 @@ std::vector<RawRow> RawTable::Read(std::int64_t after, int most, const std::stri
 }
 
 std::int64_t RawTable::PageCount() {
-    return connection_.Run("PRAGMA page_count", "The file cannot be read")
+    return connection_.Run("PRAGMA page_count", Words("The file cannot be read"))
         .Rows.at(0)
         .at(0)
         .toLongLong();
@@ -238,7 +240,7 @@ void RawTable::VisitUnnumbered(const Visitor& visit) {
     const std::string name(shape_.Name);
     const Result result = connection_.Run("SELECT 0" + selected_ + " FROM " + name + " LIMIT " +
                                               std::to_string(MostRowsOfPage * PageCount()),
-                                          name + " cannot be read");
+                                          Words("%1 cannot be read", name));
     std::int64_t number = 0;
     for (const QVariantList& stored : result.Rows) {
         RawRow row = RowFrom(stored);

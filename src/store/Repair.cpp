@@ -1,6 +1,7 @@
 #include "store/Repair.h"
 
 #include "base/Text.h"
+#include "base/Words.h"
 #include "store/Check.h"
 #include "store/DatabaseError.h"
 #include "store/DatabaseFile.h"
@@ -24,7 +25,8 @@ namespace tarn {
 namespace {
 
 constexpr std::size_t MostPlaces = 200; // of each kind
-constexpr const char* LeftOutWithoutSheet = "Rows of sheets that are not there, left out";
+constexpr auto LeftOutWithoutSheet = Words("Rows of sheets that are not there, left out");
+constexpr auto LeftOutAsStrange = Words("What another program put there, left out");
 
 QVariant VariantOf(const RawValue& value) {
     if (const auto* whole = std::get_if<std::int64_t>(&value)) {
@@ -72,8 +74,8 @@ class RowWriter {
             rows += (rows.empty() ? "" : ", ") + row + ")";
         }
         const std::string name(shape_.Name);
-        connection_.Run("INSERT INTO " + name + " VALUES " + rows, name + " takes no new row",
-                        values_);
+        connection_.Run("INSERT INTO " + name + " VALUES " + rows,
+                        Words("%1 takes no new row", name), values_);
         values_.clear();
         rows_ = 0;
     }
@@ -96,8 +98,10 @@ class Source {
         // goes.
         lock_.emplace(path, FileLock::Kind::Reading, busyWait);
         // Also a file with a damaged description of its tables, or cut short, is read then.
-        file_.Database().Run("PRAGMA writable_schema = ON", "The database file cannot be read");
-        file_.Database().Run("BEGIN", "The database file cannot be read"); // all of one moment
+        file_.Database().Run("PRAGMA writable_schema = ON",
+                             Words("The database file cannot be read"));
+        file_.Database().Run("BEGIN",
+                             Words("The database file cannot be read")); // all of one moment
     }
 
     const UntouchedFile& File() const { return file_; }
@@ -107,7 +111,7 @@ class Source {
         return !file_.Database()
                     .Run("SELECT 1 FROM sqlite_master WHERE type IN ('table', 'view') AND "
                          "name = ? COLLATE NOCASE",
-                         std::string(table) + " cannot be read", {TextValue(table)})
+                         Words("%1 cannot be read", table), {TextValue(table)})
                     .Rows.empty();
     }
     /// Give `visit` every row of a table that can be read.
@@ -116,30 +120,33 @@ class Source {
         const std::string name(table);
         try {
             if (!Has(table)) {
-                changes_.Add("Tables that were missing and are empty now", name);
+                changes_.Add(Words("Tables that were missing and are empty now"), name);
                 return;
             }
             RawTable rows(file_.Database(), shape);
             for (const Field& field : shape.Fields) {
                 if (!rows.Has(field.Name) && !field.Optional) {
-                    changes_.Add("Fields that were missing", name + "." + std::string(field.Name));
+                    changes_.Add(Words("Fields that were missing"),
+                                 name + "." + std::string(field.Name));
                 }
             }
             rows.VisitReadable(visit, [&](std::int64_t after) {
-                changes_.Add("Rows that cannot be read and are left out",
-                             name + (after < 0 ? std::string(", from the first row on")
-                                               : ", behind row " + std::to_string(after)));
+                changes_.Add(Words("Rows that cannot be read and are left out"),
+                             after < 0 ? Words("%1, from the first row on", name)
+                                       : Words("%1, behind row %2", name, std::to_string(after)));
             });
             ++tablesRead_;
         } catch (const DatabaseError& error) {
-            changes_.Add("Tables that cannot be read", name + " (" + error.what() + ")");
+            changes_.Add(Words("Tables that cannot be read"), name + " (" + error.what() + ")");
         }
     }
     /// Raise DatabaseError when not one table could be read.
     void RequireSomething() const {
         if (tablesRead_ == 0) {
-            throw DatabaseError("Nothing can be read of the database file " + path_ + ". " +
-                                RestoreAdvice);
+            throw DatabaseError(
+                Words("Nothing can be read of the database file %1. Put a backup in its "
+                      "place.",
+                      path_));
         }
     }
     /// Tell what another program put into the file: it is not taken over.
@@ -147,7 +154,7 @@ class Source {
         const Result all = file_.Database().Run(
             "SELECT type, name, tbl_name FROM sqlite_master WHERE name NOT LIKE 'sqlite\\_%' "
             "ESCAPE '\\'",
-            "The tables cannot be listed");
+            Words("The tables cannot be listed"));
         for (const QVariantList& row : all.Rows) {
             const std::string type = row.at(0).toString().toStdString();
             const std::string name = ShownText(row.at(1).toString().toStdString());
@@ -156,8 +163,7 @@ class Source {
                 return EqualsIgnoringCase(shape.Name, name);
             });
             if (type == "trigger" || type == "view" || (type == "table" && !isOwn)) {
-                changes_.Add("What another program put there, left out",
-                             std::string(type).append(" ").append(name));
+                changes_.Add(LeftOutAsStrange, std::string(type).append(" ").append(name));
             } else if (type == "table") {
                 TellOfFields(name);
             }
@@ -170,15 +176,14 @@ class Source {
         const auto& fields = std::find_if(shapes.begin(), shapes.end(), [&](const auto& shape) {
                                  return EqualsIgnoringCase(shape.Name, table);
                              })->Fields;
-        const Result columns =
-            file_.Database().Run("PRAGMA table_info(" + table + ")", table + " cannot be read");
+        const Result columns = file_.Database().Run("PRAGMA table_info(" + table + ")",
+                                                    Words("%1 cannot be read", table));
         for (const QVariantList& column : columns.Rows) {
             const std::string name = column.at(1).toString().toStdString();
             if (std::none_of(fields.begin(), fields.end(), [&](const Field& field) {
                     return EqualsIgnoringCase(field.Name, name);
                 })) {
-                changes_.Add("What another program put there, left out",
-                             "field " + ShownText(name) + " of " + table);
+                changes_.Add(LeftOutAsStrange, Words("field %1 of %2", ShownText(name), table));
             }
         }
     }
@@ -219,7 +224,7 @@ void CopyRequests(Source& source, Connection& target, const RepairedData& data, 
     }
     CreateTable(target, ShapeOf(OrderData));
     const auto place = [](const RawRow& row) {
-        return std::string(OrderData) + ", row " + std::to_string(row.Number);
+        return Words("%1, row %2", OrderData, std::to_string(row.Number));
     };
     std::map<std::pair<std::int64_t, std::int64_t>, RawRow> kept; // by sheet and carpet
     source.Read(OrderData, [&](const RawRow& row) {
@@ -229,12 +234,12 @@ void CopyRequests(Source& source, Connection& target, const RepairedData& data, 
         if (request && !number) {
             changes.Add(LeftOutWithoutSheet, place(row));
         } else if (!request || !request->IsReadable) {
-            changes.Add("Requests for orders that cannot be read, left out", place(row));
+            changes.Add(Words("Requests for orders that cannot be read, left out"), place(row));
         } else {
             const auto [former, isFirst] = kept.try_emplace({*number, request->Carpet}, row);
             if (!isFirst) {
-                changes.Add("Requests for an order that a later one of the carpet replaced, left "
-                            "out",
+                changes.Add(Words("Requests for an order that a later one of the carpet replaced, "
+                                  "left out"),
                             place(former->second));
                 former->second = row;
             }
@@ -268,7 +273,7 @@ void CopySheetTables(Source& source, Connection& target, const RepairedData& dat
                     values.emplace_back(*number);
                 } else {
                     changes.Add(LeftOutWithoutSheet,
-                                std::string(table) + ", row " + std::to_string(row.Number));
+                                Words("%1, row %2", table, std::to_string(row.Number)));
                     return;
                 }
             }
@@ -280,9 +285,10 @@ void CopySheetTables(Source& source, Connection& target, const RepairedData& dat
 
 void TellOfJournal(JournalKind journal, Findings& changes) {
     if (journal == JournalKind::Own) {
-        changes.Tell("A change that a crash cut off is taken back.");
+        changes.Tell(Words("A change that a crash cut off is taken back."));
     } else if (journal == JournalKind::Foreign) {
-        changes.Tell("The journal beside the file belongs to another state of it and is not used.");
+        changes.Tell(
+            Words("The journal beside the file belongs to another state of it and is not used."));
     }
 }
 
@@ -290,8 +296,8 @@ void TellOfJournal(JournalKind journal, Findings& changes) {
 void RequireClean(const std::string& file, const std::string& target, int busyWait) {
     const auto findings = CheckDatabaseFile(file, busyWait);
     if (!findings.empty()) {
-        throw DatabaseError("The file " + target + " cannot be made: it would not be sound. " +
-                            findings.front());
+        throw DatabaseError(Words("The file %1 cannot be made: it would not be sound. %2", target,
+                                  findings.front()));
     }
 }
 
@@ -312,7 +318,7 @@ std::vector<std::string> RepairDatabaseFile(const std::string& source, const std
     data.Settle();
     {
         Connection to(file.Path(), Connection::Access::Create, busyWait);
-        const std::string failing = "The file " + target + " cannot be made";
+        const std::string failing = Words("The file %1 cannot be made", target);
         to.Run("BEGIN", failing);
         CreateTables(to);
         WriteProjects(to, data);

@@ -1,6 +1,7 @@
 #include "store/RepairedData.h"
 
 #include "base/Text.h"
+#include "base/Words.h"
 #include "files/QtText.h"
 #include "project/Room.h"
 #include "store/Months.h"
@@ -18,7 +19,8 @@ namespace tarn {
 namespace {
 
 constexpr const char* MadeDirectory = "REPAIRED";
-constexpr const char* ValuesChanged = "Values that were changed";
+constexpr auto ValuesChanged = Words("Values that were changed");
+constexpr auto RowsLeftOut = Words("Rows that say nothing and were left out");
 constexpr double UsualScale = 0.01;
 
 /// Where a field's value stands in the rows of its table.
@@ -81,7 +83,7 @@ bool IsMonth(const std::string& name) {
 }
 
 std::string RoomText(const std::string& project, std::size_t place) {
-    return project + ", room " + std::to_string(place + 1);
+    return Words("%1, room %2", project, std::to_string(place + 1));
 }
 
 } // namespace
@@ -116,7 +118,8 @@ std::string RepairedData::CleanName(const RawValue& value, bool isProject) {
         StoredName(FittingNameText(StoredName(FromQt(QString::fromStdU32String(name))), 0));
     const auto* text = std::get_if<std::string>(&value);
     if (text == nullptr || !EqualsIgnoringCase(*text, clean)) {
-        changes_.Add("Names that were changed", QuotedValue(value) + " became \"" + clean + "\"");
+        changes_.Add(Words("Names that were changed"),
+                     Words("%1 became \"%2\"", QuotedValue(value), clean));
     }
     return clean;
 }
@@ -140,16 +143,15 @@ RepairedProject& RepairedData::MakeProject(const std::string& name, const std::s
 void RepairedData::TakeDirectory(const std::string& name) {
     if (!IsMonth(name) && knownDirectories_.insert(name).second) {
         directories_.push_back(name);
-        changes_.Add("Directories that were made for projects which no screen showed", name);
+        changes_.Add(Words("Directories that were made for projects which no screen showed"), name);
     }
 }
 
 void RepairedData::AddDirectory(const RawRow& row) {
     const std::string name = CleanName(row.Values.at(0), false);
     if (name.empty() || !knownDirectories_.insert(name).second) {
-        changes_.Add("Rows that say nothing and were left out",
-                     std::string(DirTab) + ", row " + std::to_string(row.Number) + " (" +
-                         QuotedValue(row.Values.at(0)) + ")");
+        changes_.Add(RowsLeftOut, Words("%1, row %2 (%3)", DirTab, std::to_string(row.Number),
+                                        QuotedValue(row.Values.at(0))));
         return;
     }
     directories_.push_back(name);
@@ -159,9 +161,8 @@ void RepairedData::AddProject(const RawRow& row) {
     const RawValue& stored = In(row, ProjTab, "ProjName");
     const std::string known = StoredName(TextOf(stored));
     if (!projectOf_.try_emplace(known, projects_.size()).second) {
-        changes_.Add("Rows that say nothing and were left out",
-                     std::string(ProjTab) + ", row " + std::to_string(row.Number) + " (" +
-                         QuotedValue(stored) + ", a second time)");
+        changes_.Add(RowsLeftOut, Words("%1, row %2 (%3, a second time)", ProjTab,
+                                        std::to_string(row.Number), QuotedValue(stored)));
         return;
     }
     const std::string name = CleanName(stored, true);
@@ -199,8 +200,10 @@ void RepairedData::SettleSheet(const RawRow& sheet) {
     const RawValue& name = In(sheet, MainTab, "ProjName");
     const auto number = WholeIn(sheet, MainTab, "TabIndex");
     const std::string text =
-        "number " + QuotedValue(In(sheet, MainTab, "TabIndex")) + " of " + QuotedValue(name);
-    const auto leaveOut = [&] { changes_.Add("Sheets without rooms that were left out", text); };
+        Words("number %1 of %2", QuotedValue(In(sheet, MainTab, "TabIndex")), QuotedValue(name));
+    const auto leaveOut = [&] {
+        changes_.Add(Words("Sheets without rooms that were left out"), text);
+    };
     const auto give = [&](RepairedProject& project) {
         project.OldNumber = number;
         project.Sheet = sheet;
@@ -228,9 +231,10 @@ void RepairedData::SettleSheet(const RawRow& sheet) {
         hasProject ? projects_.at(found->second).Directory : std::string(MadeDirectory);
     RepairedProject& made = MakeProject(own, directory);
     give(made);
-    changes_.Add(hasProject ? "Second sheets of a project, which became projects of their own"
-                            : "Sheets without a project, for which one was made",
-                 text + ", now " + made.Name + " in " + directory);
+    changes_.Add(hasProject
+                     ? Words("Second sheets of a project, which became projects of their own")
+                     : Words("Sheets without a project, for which one was made"),
+                 Words("%1, now %2 in %3", text, made.Name, directory));
 }
 
 void RepairedData::SettleRooms() {
@@ -244,8 +248,8 @@ void RepairedData::SettleRooms() {
         const auto rooms = rooms_.extract(number);
         DivideRooms(projects, rooms ? rooms.mapped() : std::vector<RawRow>());
     }
-    const std::string kind = "Rooms without a sheet, for which a project was made (in feet and "
-                             "inches: their units are not known)";
+    const std::string kind = Words("Rooms without a sheet, for which a project was made (in feet "
+                                   "and inches: their units are not known)");
     for (const auto& [number, rooms] : rooms_) {
         KeepRest("ROOMS OF SHEET " + std::to_string(number), MadeDirectory, kind, rooms);
     }
@@ -260,8 +264,9 @@ void RepairedData::DivideRooms(const std::vector<std::size_t>& projects,
     for (const std::size_t i : projects) {
         FillProject(projects_.at(i), rooms, taken);
         if (projects.size() > 1) {
-            changes_.Add("Projects that shared their rooms with others, and have them all now",
-                         projects_.at(i).Name);
+            changes_.Add(
+                Words("Projects that shared their rooms with others, and have them all now"),
+                projects_.at(i).Name);
         }
     }
     std::vector<RawRow> rest;
@@ -275,7 +280,8 @@ void RepairedData::DivideRooms(const std::vector<std::size_t>& projects,
     const std::string directory = projects_.at(first).Directory;
     const std::size_t before = projects_.size();
     KeepRest(name, directory,
-             "Rooms that their project did not show, which are in one of their own now", rest);
+             Words("Rooms that their project did not show, which are in one of their own now"),
+             rest);
     for (std::size_t i = before; i < projects_.size(); ++i) { // in the same units
         projects_.at(i).Sheet = projects_.at(first).Sheet;
     }
@@ -291,9 +297,10 @@ void RepairedData::FillProject(RepairedProject& project, const std::vector<RawRo
             const auto place = CountIn(room, InputData, "ObjNum", RoomCapacity);
             count = std::max(count, place ? *place + 1 : 0);
         }
-        changes_.Add(ValuesChanged, project.Name + ": ObjNum " +
-                                        QuotedValue(In(project.Sheet, MainTab, "ObjNum")) +
-                                        " became " + std::to_string(count));
+        constexpr std::string_view ObjNum = "ObjNum";
+        changes_.Add(ValuesChanged,
+                     Words("%1: %2 %3 became %4", project.Name, ObjNum,
+                           QuotedValue(In(project.Sheet, MainTab, ObjNum)), std::to_string(count)));
     }
     std::vector<std::optional<std::size_t>> chosen(count); // of `rooms`, by their places
     for (std::size_t i = 0; i < rooms.size(); ++i) {
@@ -304,7 +311,8 @@ void RepairedData::FillProject(RepairedProject& project, const std::vector<RawRo
         auto& former = chosen.at(*place);
         if (former && IsSameRoom(rooms.at(*former), rooms.at(i))) {
             taken.at(*former) = true;
-            changes_.Add("Rooms that were stored twice alike", RoomText(project.Name, *place));
+            changes_.Add(Words("Rooms that were stored twice alike"),
+                         RoomText(project.Name, *place));
         }
         former = i; // the last one counts
     }
@@ -314,7 +322,7 @@ void RepairedData::FillProject(RepairedProject& project, const std::vector<RawRo
             project.Rooms.push_back(rooms.at(*room));
         } else {
             project.Rooms.push_back(EmptyRoom());
-            changes_.Add("Rooms that could not be found and are empty now",
+            changes_.Add(Words("Rooms that could not be found and are empty now"),
                          RoomText(project.Name, place));
         }
     }
@@ -328,7 +336,7 @@ void RepairedData::KeepRest(const std::string& name, const std::string& director
         made.OldNumber = std::numeric_limits<std::int64_t>::min(); // none that rows refer to
         made.Rooms.assign(rooms.begin() + static_cast<std::ptrdiff_t>(first),
                           rooms.begin() + static_cast<std::ptrdiff_t>(first + count));
-        changes_.Add(kind, std::to_string(count) + ", now " + made.Name + " in " + directory);
+        changes_.Add(kind, Words("%1, now %2 in %3", std::to_string(count), made.Name, directory));
     }
 }
 
@@ -354,8 +362,10 @@ void RepairedData::GiveNumbers() {
             ++next;
         }
         if (next > greatest) {
-            changes_.Add("Projects for which no number was left, without their rooms",
-                         project->Name + ", " + std::to_string(project->Rooms.size()) + " rooms");
+            changes_.Add(Words("Projects for which no number was left, without their rooms"),
+                         project->Name + ", " +
+                             CountedWords("%n room", "%n rooms",
+                                          static_cast<long long>(project->Rooms.size())));
             project->OldNumber.reset();
             continue;
         }
@@ -371,9 +381,9 @@ void RepairedData::MendRows() {
         for (std::size_t i = 0; i < fields.size(); ++i) {
             const RawValue mended = MendedValue(row.Values.at(i), fields.at(i));
             if (FaultOf(row.Values.at(i), fields.at(i))) {
-                changes_.Add(ValuesChanged, where + ": " + std::string(fields.at(i).Name) + " " +
-                                                QuotedValue(row.Values.at(i)) + " became " +
-                                                QuotedValue(mended));
+                changes_.Add(ValuesChanged,
+                             Words("%1: %2 %3 became %4", where, fields.at(i).Name,
+                                   QuotedValue(row.Values.at(i)), QuotedValue(mended)));
             }
             row.Values.at(i) = mended;
         }

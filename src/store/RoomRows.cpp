@@ -3,6 +3,7 @@
 #include "base/Numbers.h"
 #include "base/RunTimeError.h"
 #include "base/Text.h"
+#include "base/Words.h"
 #include "project/Coverings.h"
 #include "project/WallBase.h"
 #include "store/Schema.h"
@@ -47,19 +48,21 @@ using Slots = std::set<std::size_t>;
 
 /// "room 2", "rooms 2, 3", "rooms 2, 4 to 6": counted from 1.
 std::string RoomList(const Slots& slots) {
-    std::string list = slots.size() == 1 ? "room " : "rooms ";
+    std::string list;
     for (auto slot = slots.begin(); slot != slots.end();) {
         const std::size_t first = *slot;
         std::size_t last = first;
         while (++slot != slots.end() && *slot == last + 1) {
             last = *slot;
         }
-        list += (first == *slots.begin() ? "" : ", ") + std::to_string(first + 1);
-        if (last > first) {
-            list += (last == first + 1 ? ", " : " to ") + std::to_string(last + 1);
-        }
+        const std::string begin = std::to_string(first + 1);
+        const std::string end = std::to_string(last + 1);
+        list += list.empty() ? "" : ", ";
+        list += last > first + 1    ? Words("%1 to %2", begin, end)
+                : last == first + 1 ? begin + ", " + end
+                                    : begin;
     }
-    return list;
+    return Words(slots.size() == 1 ? Words("room %1") : Words("rooms %1"), list);
 }
 
 /// "the project A", "the projects A, B".
@@ -68,7 +71,7 @@ std::string ProjectList(const std::vector<std::string>& projects) {
     for (const std::string& project : projects) {
         list += (list.empty() ? "" : ", ") + project;
     }
-    return (projects.size() == 1 ? "the project " : "the projects ") + list;
+    return Words(projects.size() == 1 ? Words("the project %1") : Words("the projects %1"), list);
 }
 
 /// The slots of the rows for which `holds` is true.
@@ -111,7 +114,7 @@ std::string NumbersOutside(const std::vector<RoomRow>& rows) {
             numbers += (numbers.empty() ? "" : ", ") + row.ObjNumText;
         }
     }
-    return count > MostListed ? numbers + " and " + std::to_string(count - MostListed) + " more"
+    return count > MostListed ? Words("%1 and %2 more", numbers, std::to_string(count - MostListed))
                               : numbers;
 }
 
@@ -124,8 +127,9 @@ std::vector<RoomRow> ReadRoomRows(const std::vector<StoredRow>& stored) {
         try {
             rows.push_back(ReadRoomRow(row));
         } catch (const RunTimeError& error) {
-            throw error.WithAdvice("A number stored in the room row with ObjNum " +
-                                   row.TextIn("ObjNum") + " is too large.");
+            throw error.WithAdvice(
+                Words("A number stored in the room row with ObjNum %1 is too large.",
+                      row.TextIn("ObjNum")));
         }
     }
     return rows;
@@ -170,27 +174,29 @@ std::vector<std::string> RoomFindings(const std::vector<RoomRow>& rows, std::siz
     };
 
     if (!sharing.empty()) {
-        addWhere("Stored under one number with " + ProjectList(sharing) +
-                     ", whose rooms they may be",
-                 [](const RoomRow&) { return true; });
+        addWhere(
+            Words("Stored under one number with %1, whose rooms they may be", ProjectList(sharing)),
+            [](const RoomRow&) { return true; });
     }
-    add("Missing, read as empty", MissingSlots(rows, count));
-    addWhere("Beyond the end of the project, dropped by SAVE",
+    add(Words("Missing, read as empty"), MissingSlots(rows, count));
+    addWhere(Words("Beyond the end of the project, dropped by SAVE"),
              [count](const RoomRow& row) { return *row.Slot >= count; });
-    add("Stored more than once, the last row is used", RepeatedSlots(rows));
+    add(Words("Stored more than once, the last row is used"), RepeatedSlots(rows));
     if (const std::string numbers = NumbersOutside(rows); !numbers.empty()) {
-        lines.push_back("Outside rooms 1 to " + std::to_string(RoomCapacity) +
-                        ", left out and dropped by SAVE: ObjNum " + numbers + ".");
+        lines.push_back(Words("Outside rooms 1 to %1, left out and dropped by SAVE: ObjNum %2.",
+                              std::to_string(RoomCapacity), numbers));
     }
-    addWhere("Without a room number, read as", [](const RoomRow& row) { return !row.HasNumber; });
-    addWhere("Without a width or a length, read as 0",
+    addWhere(Words("Without a room number, read as"),
+             [](const RoomRow& row) { return !row.HasNumber; });
+    addWhere(Words("Without a width or a length, read as 0"),
              [](const RoomRow& row) { return !row.HasSize; });
-    addWhere("Without a covering, read as " + CoveringCaption(0),
+    addWhere(Words("Without a covering, read as %1", CoveringCaption(0)),
              [](const RoomRow& row) { return !row.HasCovering; });
-    addWhere("With an unknown covering, not estimated until one is chosen",
+    addWhere(Words("With an unknown covering, not estimated until one is chosen"),
              [](const RoomRow& row) { return row.Content.Covering > LastTileCode; });
-    addWhere("Without a wall base, read as none", [](const RoomRow& row) { return !row.HasBase; });
-    addWhere("With an unknown wall base, shown as none", [](const RoomRow& row) {
+    addWhere(Words("Without a wall base, read as none"),
+             [](const RoomRow& row) { return !row.HasBase; });
+    addWhere(Words("With an unknown wall base, shown as none"), [](const RoomRow& row) {
         return row.Content.Base != 0 && BaseText(row.Content.Base).empty();
     });
     return lines;

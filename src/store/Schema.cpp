@@ -1,5 +1,6 @@
 #include "store/Schema.h"
 
+#include "base/Words.h"
 #include "project/Coverings.h"
 #include "project/Room.h"
 #include "project/WallBase.h"
@@ -120,7 +121,7 @@ bool IsOfSheets(const TableShape& shape) {
 
 void CreateTable(Connection& connection, const TableShape& table) {
     const std::string name(table.Name);
-    const std::string failing = "The table " + name + " cannot be made";
+    const std::string failing = Words("The table %1 cannot be made", name);
     std::string columns;
     for (const Field& field : table.Fields) {
         columns += columns.empty() ? "" : ", ";
@@ -149,7 +150,7 @@ void CreateDatabaseFile(const std::string& path) {
     FileInMaking file(path);
     {
         Connection connection(file.Path(), Connection::Access::Create, DefaultBusyWait);
-        const std::string failing = "The database file " + path + " cannot be made";
+        const std::string failing = Words("The database file %1 cannot be made", path);
         connection.Run("BEGIN", failing);
         CreateTables(connection);
         MarkAsCopyOfItsOwn(connection, failing);
@@ -162,7 +163,7 @@ void BackUpDatabaseFile(const std::string& source, const std::string& target, in
     const auto connection = ConnectToFile(source, DatabaseAccess::ReadOnly, busyWait);
     RequireSound(*connection, source);
     FileInMaking file(target);
-    const std::string failing = "The backup " + target + " cannot be made";
+    const std::string failing = Words("The backup %1 cannot be made", target);
     connection->Run("PRAGMA query_only = OFF",
                     failing); // it keeps the copy from being written, too
     connection->Run("VACUUM INTO ?", failing, {TextValue(file.Path())});

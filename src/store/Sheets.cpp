@@ -3,6 +3,7 @@
 #include "base/Numbers.h"
 #include "base/RunTimeError.h"
 #include "base/Text.h"
+#include "base/Words.h"
 #include "files/QtText.h"
 #include "store/DatabaseError.h"
 #include "store/Schema.h"
@@ -31,16 +32,15 @@ constexpr Integer GreatestNumber = std::numeric_limits<Integer>::max();
 Double RequiredNumber(const StoredRow& sheet, std::string_view field) {
     const auto number = sheet.NumberIn(field);
     if (!number) {
-        throw DatabaseError("The project's sheet has no value in its field " + std::string(field) +
-                            ".");
+        throw DatabaseError(Words("The project's sheet has no value in its field %1.", field));
     }
     return *number;
 }
 
 void RequireGood(bool good, std::string_view field) {
     if (!good) {
-        throw DatabaseError("The project's sheet holds a wrong value in its field " +
-                            std::string(field) + ".");
+        throw DatabaseError(
+            Words("The project's sheet holds a wrong value in its field %1.", field));
     }
 }
 
@@ -50,8 +50,8 @@ void DeleteRowsUnder(Connection& connection, const QVariant& number) {
     for (const std::string_view table : TablesBySheet()) {
         const std::string kind = KindOf(connection, table);
         if (kind == "view") {
-            throw DatabaseError(std::string(table) +
-                                " cannot be deleted from: it is a view and no table.");
+            throw DatabaseError(
+                Words("%1 cannot be deleted from: it is a view and no table.", table));
         }
         if (!kind.empty() && table != MainTab) {
             Table(connection, table).DeleteWhere("TabIndex", number);
@@ -91,14 +91,14 @@ StoredProject ReadStored(Connection& connection, std::string_view project) {
 Integer SheetNumberOf(const StoredRow& sheet, std::string_view project) {
     const Double number = RequiredNumber(sheet, "TabIndex");
     const auto text = [&](const std::string& fault) {
-        return "The sheet of the project " + std::string(project) + " has the number " +
-               sheet.TextIn("TabIndex") + "; " + fault;
+        return Words("The sheet of the project %1 has the number %2; %3", project,
+                     sheet.TextIn("TabIndex"), fault);
     };
     if (std::abs(number) > GreatestNumber) {
-        RaiseOverflow(text("the greatest is " + TrimStr(GreatestNumber) + "."));
+        RaiseOverflow(text(Words("the greatest is %1.", TrimStr(GreatestNumber))));
     }
     if (number != std::floor(number)) {
-        throw DatabaseError(text("it must be a whole one."));
+        throw DatabaseError(text(Words("it must be a whole one.")));
     }
     return CInt(number);
 }
@@ -110,7 +110,7 @@ std::optional<Integer> FindSheetNumber(Connection& connection, std::string_view 
 
 Integer NewSheetNumber(Connection& connection) {
     const auto overflow = [] {
-        RaiseOverflow("No sheet number is left: the greatest one, 32767, is in use.");
+        RaiseOverflow(Words("No sheet number is left: the greatest one, 32767, is in use."));
     };
     const auto greatest = Table(connection, MainTab).Greatest("TabIndex");
     if (greatest && *greatest >= GreatestNumber) {
@@ -166,10 +166,12 @@ std::vector<std::string> SheetFindings(const std::vector<StoredRow>& sheets, Int
     std::string others;
     for (auto sheet = sheets.begin() + 1; sheet != sheets.end(); ++sheet) {
         const std::string other = sheet->TextIn("TabIndex");
-        others += (others.empty() ? "" : ", ") + (other.empty() ? "one without a number" : other);
+        others += (others.empty() ? "" : ", ") +
+                  (other.empty() ? std::string(Words("one without a number")) : other);
     }
-    return {"Stored with more than one sheet, the first, number " + TrimStr(number) +
-            ", is used; not reached: " + others + "."};
+    return {
+        Words("Stored with more than one sheet, the first, number %1, is used; not reached: %2.",
+              TrimStr(number), others)};
 }
 
 Integer SheetNumberToSave(Connection& connection, const Project& project,
@@ -214,7 +216,8 @@ void DeleteSheetsOf(Connection& connection, std::string_view project) {
     const auto sheets = table.RowsShowing("ProjName", project);
     for (const StoredRow& sheet : sheets) {
         if (!sheet.NumberIn("TabIndex")) {
-            throw DatabaseError("A project's sheet has no number; its data cannot be deleted.");
+            throw DatabaseError(
+                Words("A project's sheet has no number; its data cannot be deleted."));
         }
         sheet.IntegerIn("TabIndex"); // a number past the greatest overflows
     }

@@ -2,6 +2,7 @@
 
 #include "base/Numbers.h"
 #include "base/Text.h"
+#include "base/Words.h"
 #include "files/QtText.h"
 #include "store/DatabaseError.h"
 
@@ -33,9 +34,8 @@ std::optional<Double> NumberOf(const QVariant& value, std::string_view field) {
         return std::nullopt;
     }
     if (!IsWhole(value) && !IsReal(value)) {
-        throw DatabaseError("The field " + std::string(field) +
-                            " should hold a number and holds \"" + value.toString().toStdString() +
-                            "\".");
+        throw DatabaseError(Words("The field %1 should hold a number and holds \"%2\".", field,
+                                  value.toString().toStdString()));
     }
     return IsWhole(value) ? static_cast<Double>(value.toLongLong()) : value.toDouble();
 }
@@ -52,7 +52,7 @@ std::size_t RequirePlace(std::string_view field, const std::vector<std::string>&
                          const std::string& table) {
     const std::size_t place = PlaceOf(field, fields);
     if (place == fields.size()) {
-        throw DatabaseError(table + " has no field " + std::string(field) + ".");
+        throw DatabaseError(Words("%1 has no field %2.", table, field));
     }
     return place;
 }
@@ -69,7 +69,7 @@ std::string TextOf(const QVariant& value) {
 }
 
 [[noreturn]] void RaiseKept(const std::string& failing) {
-    throw DatabaseError(failing + ": the database keeps a row as it was.");
+    throw DatabaseError(Words("%1: the database keeps a row as it was.", failing));
 }
 
 } // namespace
@@ -129,14 +129,16 @@ Table::Table(Connection& connection, std::string_view name)
     , name_(name) {}
 
 void Table::LearnOfChanges() {
-    connection_.Run("SELECT 1 FROM " + name_ + " LIMIT 0", Failing(" cannot be read"));
+    connection_.Run("SELECT 1 FROM " + name_ + " LIMIT 0", Failing(Words("%1 cannot be read")));
 }
 
 const std::vector<std::string>& Table::Fields() {
     if (fields_.empty()) {
         LearnOfChanges();
-        fields_ = connection_.Run("SELECT * FROM " + name_ + " LIMIT 0", Failing(" cannot be read"))
-                      .Fields;
+        fields_ =
+            connection_
+                .Run("SELECT * FROM " + name_ + " LIMIT 0", Failing(Words("%1 cannot be read")))
+                .Fields;
     }
     return fields_;
 }
@@ -147,7 +149,7 @@ bool Table::HasField(std::string_view field) {
 
 void Table::AddNumberField(std::string_view field) {
     connection_.Run("ALTER TABLE " + name_ + " ADD COLUMN " + std::string(field) + " INTEGER",
-                    Failing(" cannot be given the field " + std::string(field)));
+                    Words("%1 cannot be given the field %2", name_, field));
     fields_.clear();
 }
 
@@ -185,7 +187,7 @@ std::vector<StoredRow> Table::Read(const std::string& condition, const QVariantL
     Result result =
         connection_.Run("SELECT " + rowNumber + ", * FROM " + name_ + condition + " ORDER BY " +
                             (order.empty() ? std::string() : std::string(order) + ", ") + rowNumber,
-                        Failing(" cannot be read"), values);
+                        Failing(Words("%1 cannot be read")), values);
 
     result.Fields.erase(result.Fields.begin()); // the row number is no field of the table
     fields_ = result.Fields;
@@ -202,8 +204,8 @@ std::vector<StoredRow> Table::Read(const std::string& condition, const QVariantL
 
 std::optional<Double> Table::Greatest(std::string_view field) {
     const std::string greatest = "Max(" + std::string(field) + ")";
-    const Result result =
-        connection_.Run("SELECT " + greatest + " FROM " + name_, Failing(" cannot be read"));
+    const Result result = connection_.Run("SELECT " + greatest + " FROM " + name_,
+                                          Failing(Words("%1 cannot be read")));
     return NumberOf(result.Rows.at(0).at(0), greatest);
 }
 
@@ -211,7 +213,7 @@ std::set<Double> Table::NumbersBetween(std::string_view field, Double least, Dou
     const std::string name(field);
     const Result result = connection_.Run("SELECT DISTINCT " + name + " FROM " + name_ + " WHERE " +
                                               name + " BETWEEN ? AND ?",
-                                          Failing(" cannot be read"), {least, most});
+                                          Failing(Words("%1 cannot be read")), {least, most});
     std::set<Double> numbers;
     for (const QVariantList& row : result.Rows) {
         numbers.insert(NumberOf(row.at(0), field).value());
@@ -234,17 +236,17 @@ void Table::Add(const Values& values, const StoredRow* place) {
         marks += marks.empty() ? "?" : ", ?";
         bound.push_back(value);
     }
-    const std::string failing = Failing(" takes no new row");
+    const std::string failing = Failing(Words("%1 takes no new row"));
     const std::string statement =
         "INSERT INTO " + name_ + " (" + names + ") VALUES (" + marks + ")";
     if (connection_.Run(statement, failing, bound).Affected != 1) {
-        throw DatabaseError(failing + ": the database leaves it out.");
+        throw DatabaseError(Words("%1: the database leaves it out.", failing));
     }
 }
 
 void Table::Change(const StoredRow& row, std::string_view field, const QVariant& value) {
     RunOnRow("UPDATE " + name_ + " SET " + std::string(field) + " = ? WHERE rowid = ?",
-             Failing(" cannot be changed"), {value, row.rowNumber_});
+             Failing(Words("%1 cannot be changed")), {value, row.rowNumber_});
 }
 
 void Table::Delete(const std::vector<StoredRow>& rows) {
@@ -259,7 +261,8 @@ void Table::Delete(const std::vector<StoredRow>& rows) {
 
 qint64 Table::Count(const std::string& condition, const QVariantList& values) {
     return connection_
-        .Run("SELECT count(*) FROM " + name_ + condition, Failing(" cannot be read"), values)
+        .Run("SELECT count(*) FROM " + name_ + condition, Failing(Words("%1 cannot be read")),
+             values)
         .Rows.at(0)
         .at(0)
         .toLongLong();
@@ -288,7 +291,7 @@ void Table::RunOnRow(const std::string& statement, const std::string& failing,
 std::string KindOf(Connection& connection, std::string_view table) {
     const Result found = connection.Run("SELECT type FROM sqlite_master WHERE type IN ('table', "
                                         "'view') AND name = ? COLLATE NOCASE",
-                                        std::string(table) + " cannot be read", {TextValue(table)});
+                                        Words("%1 cannot be read", table), {TextValue(table)});
     return found.Rows.empty() ? std::string() : FromQt(found.Rows.at(0).at(0).toString());
 }
 

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "base/Types.h"
+#include "base/Words.h"
 #include "store/Connection.h"
 
 #include <memory>
@@ -109,8 +110,8 @@ class Table {
     /// statement.
     void LearnOfChanges();
     const std::vector<std::string>& Fields();
-    std::string Failing(std::string_view what) const { return name_ + std::string(what); }
-    std::string DeleteFailing() const { return Failing(" cannot be deleted from"); }
+    std::string Failing(Phrase what) const { return Words(what, name_); }
+    std::string DeleteFailing() const { return Failing(Words("%1 cannot be deleted from")); }
 
     Connection& connection_;
     std::string name_;

@@ -1,5 +1,6 @@
 #include "store/UntouchedFile.h"
 
+#include "base/Words.h"
 #include "files/Descriptor.h"
 #include "store/DatabaseError.h"
 #include "store/DatabaseFile.h"
@@ -15,10 +16,10 @@ void CopyFile(const std::string& from, const std::string& to) {
     try {
         CopyContent(from, to);
     } catch (const std::system_error& error) {
-        throw DatabaseError("The database file " + from +
-                            " cannot be looked over: a copy of it cannot be made in " +
-                            QFileInfo(QString::fromStdString(to)).path().toStdString() + ": " +
-                            CauseOf(error.code()) + ".");
+        throw DatabaseError(Words("The database file %1 cannot be looked over: a copy of it cannot "
+                                  "be made in %2: %3.",
+                                  from, QFileInfo(QString::fromStdString(to)).path().toStdString(),
+                                  CauseOf(error.code())));
     }
 }
 
@@ -46,8 +47,9 @@ void UntouchedFile::Copy(const std::string& path) {
     }
     copy_.emplace();
     if (!copy_->isValid()) {
-        throw DatabaseError("The database file " + path +
-                            " cannot be looked over: the folder for temporary files takes none.");
+        throw DatabaseError(Words("The database file %1 cannot be looked over: the folder for "
+                                  "temporary files takes none.",
+                                  path));
     }
     path_ = copy_->filePath(QStringLiteral("copy.mdb")).toStdString();
     CopyFile(path, path_);

@@ -3,6 +3,7 @@
 #include "base/Lengths.h"
 #include "base/RunTimeError.h"
 #include "base/Text.h"
+#include "base/Words.h"
 #include "files/RoomCsv.h"
 #include "files/ShortDate.h"
 #include "project/Coverings.h"
@@ -30,7 +31,7 @@ namespace {
 /// `folder` as an absolute path without a separator at its end.
 std::filesystem::path FolderPath(const std::string& folder) {
     if (folder.empty()) {
-        throw Refusal("Name the folder to be made.");
+        throw Refusal(Words("Name the folder to be made."));
     }
     const auto path = std::filesystem::absolute(folder).lexically_normal();
     return path.has_filename() ? path : path.parent_path();
@@ -43,18 +44,21 @@ void SettleConfiguration(const std::filesystem::path& folder, const std::string&
                                  : std::vector<std::filesystem::path>{configDirectory};
     const Configuration inForce = ReadConfiguration(directories);
     if (inForce.Found == Configuration::Finding::Read) {
-        std::cout << "The configuration file " << inForce.File.string() << " is in force; it names "
-                  << (inForce.DataPath.empty() ? "no folder" : "the folder " + inForce.DataPath)
-                  << ".\n";
+        const Phrase text =
+            inForce.DataPath.empty()
+                ? Words("The configuration file %1 is in force; it names no folder.")
+                : Words("The configuration file %1 is in force; it names the folder %2.");
+        std::cout << Words(text, inForce.File.string(), inForce.DataPath) << '\n';
         return;
     }
     if (directories.empty()) {
-        throw Refusal("There is no home directory for the configuration file; name a directory "
-                      "with --config-dir.");
+        throw Refusal(Words("There is no home directory for the configuration file; name a "
+                            "directory with --config-dir."));
     }
     WriteConfiguration(directories.front(), folder.string());
-    std::cout << "Made " << (directories.front() / ConfigurationFileName).string()
-              << ", which names the folder " << folder.string() << ".\n";
+    std::cout << Words("Made %1, which names the folder %2.",
+                       (directories.front() / ConfigurationFileName).string(), folder.string())
+              << '\n';
 }
 
 /// The projects of every directory, by directory. One that is a month has no row of its own.
@@ -70,9 +74,10 @@ std::map<std::string, std::vector<std::string>> ProjectsByDirectory(ProjectStore
 }
 
 std::string RoomLine(const Room& room, std::size_t number, Units units) {
-    std::string line = "    " + std::to_string(number) + ": " + WholeLengthText(room.Width, units) +
-                       " X " + WholeLengthText(room.Length, units) +
-                       (units == Units::Metric ? " CM" : "") + "  " +
+    const std::string size =
+        WholeLengthText(room.Width, units) + " X " + WholeLengthText(room.Length, units);
+    std::string line = "    " + std::to_string(number) + ": " +
+                       (units == Units::Metric ? Words("%1 CM", size) : size) + "  " +
                        CoveringCaption(room.Covering);
     for (const std::string& text : {BaseText(room.Base), room.Number, room.Remark}) {
         line += text.empty() ? "" : "  " + text;
@@ -82,7 +87,8 @@ std::string RoomLine(const Room& room, std::size_t number, Units units) {
 
 void ListRooms(std::ostream& out, const LoadedProject& loaded) {
     const std::vector<Room>& rooms = loaded.Value.Rooms;
-    out << " (" << rooms.size() << (rooms.size() == 1 ? " room" : " rooms") << ")\n";
+    out << " (" << CountedWords("%n room", "%n rooms", static_cast<long long>(rooms.size()))
+        << ")\n";
     for (const std::string& finding : loaded.Findings) {
         out << "    " << ShownText(finding) << '\n';
     }
@@ -94,7 +100,7 @@ void ListRooms(std::ostream& out, const LoadedProject& loaded) {
 
 void ListProject(std::ostream& out, ProjectStore& store, const std::string& project) {
     const auto tellCause = [&out](const std::string& cause) {
-        out << " (cannot be loaded: " << ShownText(cause) << ")\n";
+        out << " (" << Words("cannot be loaded: %1", ShownText(cause)) << ")\n";
     };
     out << "  " << ShownText(project);
     try {
@@ -114,12 +120,12 @@ void RequireReadable(const Project& project, const std::string& file) {
     if (reading.Succeeded()) {
         return;
     }
-    std::string text = "The project " + project.Name +
-                       " cannot be exported: no import would take these rooms. Correct them in the "
-                       "program first; nothing was written.";
+    std::string text = Words("The project %1 cannot be exported: no import would take these rooms. "
+                             "Correct them in the program first; nothing was written.",
+                             project.Name);
     for (const RoomCsvError& mistake : reading.Errors) {
         // Line 1 is the header, and each room has one line.
-        text += "\n  room " + TrimStr(mistake.Line - 1) + ": " + MistakeText(mistake);
+        text += "\n  " + Words("room %1: %2", TrimStr(mistake.Line - 1), MistakeText(mistake));
     }
     throw Refusal(text + MoreMistakes(reading));
 }
@@ -130,13 +136,13 @@ void CreateData(const std::string& folder, const std::string& configDirectory) {
     const auto path = FolderPath(folder);
     const auto database = path / WithNativeSeparators(DatabaseFileInDataFolder);
     CreateDatabaseFile(database.string());
-    std::cout << "Made " << database.string() << ".\n";
+    std::cout << Words("Made %1.", database.string()) << '\n';
     try {
         SettleConfiguration(path, configDirectory);
     } catch (const std::runtime_error& error) {
-        throw Refusal(std::string(error.what()) + " The database is made all the same. Write " +
-                      std::string(ConfigurationFileName) + " yourself: the line " +
-                      std::string(ConfigurationHeader) + ", and in the next one its folder.");
+        throw Refusal(Words("%1 The database is made all the same. Write %2 yourself: the line %3, "
+                            "and in the next one its folder.",
+                            error.what(), ConfigurationFileName, ConfigurationHeader));
     }
 }
 
@@ -156,8 +162,9 @@ void ReportProject(const std::string& database, const std::string& name, Units u
     ProjectStore store(database, DatabaseAccess::ReadOnly);
     const Project project = LoadProjectNamed(store, name);
     if (project.EnteredIn == Units::Metric && units != Units::Metric) {
-        WarnOfMetric(project, "its sizes are listed in feet and inches. Use --metric for "
-                              "centimetres.");
+        WarnOfMetric(Words("Warning: the project %1 was entered in metric; its sizes are listed in "
+                           "feet and inches. Use --metric for centimetres."),
+                     project);
     }
     std::string report = MakeReport(project, units, ShortDateOfToday()).Text();
     report.erase(std::remove(report.begin(), report.end(), '\r'), report.end());
@@ -170,7 +177,9 @@ void ExportProject(const std::string& database, const std::string& name, const s
     ProjectStore store(database, DatabaseAccess::ReadOnly);
     const Project project = LoadProjectNamed(store, name);
     if (project.EnteredIn == Units::Metric) {
-        WarnOfMetric(project, "its sizes are written in centimetres. Use --metric to read them.");
+        WarnOfMetric(Words("Warning: the project %1 was entered in metric; its sizes are written "
+                           "in centimetres. Use --metric to read them."),
+                     project);
     }
     const std::string rooms = WriteRoomCsv(project.Rooms);
     RequireReadable(project, rooms);

@@ -2,6 +2,8 @@
 
 #include "base/Format.h"
 #include "base/TakeNumber.h"
+#include "base/Version.h"
+#include "base/Words.h"
 #include "estimate/MinCuts.h"
 #include "estimate/RollWidth.h"
 #include "files/RoomCsv.h"
@@ -22,42 +24,40 @@ namespace tarn {
 
 namespace {
 
-constexpr const char* Description =
+constexpr auto Description = Words(
     "Estimate one carpet of a project: how its rooms are cut from a roll.\n"
-    "The rooms come from a database (--database and --project) or from a CSV file (--rooms).";
+    "The rooms come from a database (--database and --project) or from a CSV file (--rooms).");
 
 std::string Footer() {
-    return "A CSV file has a header line and the columns width,length,covering,base,room,remark in "
-           "any\n"
-           "order; the first three are required. Sizes are whole inches or text such as 12'6\" "
-           "(whole\n"
-           "centimetres with --metric), coverings CARPET-1 or C1, TILE-4 or T4. The base tells how "
-           "many\n"
-           "widths and lengths of the room take wall base: W2L1 is two widths and one length. A "
-           "size\n"
-           "of 0 is read and not cut. A room number has at most " +
-           std::to_string(MaxRoomNumberLength) + " characters, a remark " +
-           std::to_string(MaxRemarkLength) +
-           ",\n"
-           "each in one line; of one that begins with ' the ' is taken off. A file, no pipe or "
-           "device, has\n"
-           "at most " +
-           std::to_string(RoomCapacity) + " rooms and " +
-           std::to_string(MaxRoomCsvBytes / (std::size_t{1024} * 1024)) +
-           " MB.\n\n"
-           "An output file takes the place of the one that is there, once it is whole and stored.\n"
-           "Databases and symbolic links stay as they are without --force.\n\n"
-           "Exit status: 0 done, 1 refused (the reason is on standard error), 2 wrong usage.\n\n"
-           "Example:\n"
-           "  tarn-estimate --rooms house.csv --carpet 1 --roll-width 12ft --max-pieces 2 --svg "
-           "house.svg";
+    return Words(
+        "A CSV file has a header line and the columns width,length,covering,base,room,remark in "
+        "any\n"
+        "order; the first three are required. Sizes are whole inches or text such as 12'6\" "
+        "(whole\n"
+        "centimetres with --metric), coverings CARPET-1 or C1, TILE-4 or T4. The base tells how "
+        "many\n"
+        "widths and lengths of the room take wall base: W2L1 is two widths and one length. A size\n"
+        "of 0 is read and not cut. A room number has at most %1 characters, a remark %2,\n"
+        "each in one line; of one that begins with ' the ' is taken off. A file, no pipe or "
+        "device, "
+        "has\n"
+        "at most %3 rooms and %4 MB.\n\n"
+        "An output file takes the place of the one that is there, once it is whole and stored.\n"
+        "Databases and symbolic links stay as they are without --force.\n\n"
+        "Exit status: 0 done, 1 refused (the reason is on standard error), 2 wrong usage.\n\n"
+        "Example:\n"
+        "  tarn-estimate --rooms house.csv --carpet 1 --roll-width 12ft --max-pieces 2 --svg "
+        "house.svg",
+        std::to_string(MaxRoomNumberLength), std::to_string(MaxRemarkLength),
+        std::to_string(RoomCapacity), std::to_string(MaxRoomCsvBytes / (std::size_t{1024} * 1024)));
 }
 
 /// "a, b or c": what `textOf` says of each minimum cut.
 std::string EachMinCut(const std::function<std::string(MinCut)>& textOf) {
     std::string list = textOf(AllMinCuts.front());
     for (std::size_t i = 1; i < AllMinCuts.size(); ++i) {
-        list += (i < AllMinCuts.size() - 1 ? ", " : " or ") + textOf(AllMinCuts.at(i));
+        const std::string more = textOf(AllMinCuts.at(i));
+        list = i < AllMinCuts.size() - 1 ? list + ", " + more : Words("%1 or %2", list, more);
     }
     return list;
 }
@@ -75,7 +75,7 @@ std::string LengthsOfCaptions() {
     const auto metric = [](MinCut minCut) {
         return std::string(MinCutCaption(minCut, Units::Metric));
     };
-    return EachMinCut(inches) + " inches or more (" + EachMinCut(metric) + " with --metric)";
+    return Words("%1 inches or more (%2 with --metric)", EachMinCut(inches), EachMinCut(metric));
 }
 
 std::string MinCutDescription() {
@@ -83,35 +83,34 @@ std::string MinCutDescription() {
         return std::to_string(static_cast<int>(minCut)) + " = " +
                std::string(MinCutCaption(minCut, Units::Imperial));
     };
-    return "Minimum cut: " + EachMinCut(choice) +
-           ". Despite their names these keep the parts of a divided fill at " +
-           LengthsInForce(Units::Imperial) + " or more (" + LengthsInForce(Units::Metric) +
-           " with --metric); --improve keeps them at " + LengthsOfCaptions();
+    return Words(
+        "Minimum cut: %1. Despite their names these keep the parts of a divided fill at %2 "
+        "or more (%3 with --metric); --improve keeps them at %4",
+        EachMinCut(choice), LengthsInForce(Units::Imperial), LengthsInForce(Units::Metric),
+        LengthsOfCaptions());
 }
 
 void AddInput(CLI::App& app, EstimateOptions& options) {
     AddRoomsSource(app, options.Database, options.Project, options.Rooms);
     app.add_flag("--metric", options.Metric,
-                 "The sizes are centimetres; lists and totals are metric");
+                 Words("The sizes are centimetres; lists and totals are metric"));
 }
 
-void AddChoices(CLI::App& app, EstimateOptions& options) {
-    app.add_option("--carpet", options.Carpet, "Number of the carpet, 1 to 8")
+void AddChoices(CLI::App& app, EstimateOptions& options, std::string& lay) {
+    app.add_option("--carpet", options.Carpet, Words("Number of the carpet, 1 to 8"))
         ->required()
         ->check(CLI::Range(1, 8))
         ->type_name("N");
     app.add_option("--roll-width", options.RollWidth,
-                   "Width of the roll: 12ft, 13.5ft, 12ft6in, 150in or 366cm")
+                   Words("Width of the roll: 12ft, 13.5ft, 12ft6in, 150in or 366cm"))
         ->required()
         ->type_name("WIDTH");
-    app.add_option_function<std::string>(
-           "--lay", [&options](const std::string& lay) { options.CrossLay = lay == "cross"; },
-           "down: room widths across the roll; cross: room lengths")
+    app.add_option("--lay", lay, Words("down: room widths across the roll; cross: room lengths"))
         ->check(CLI::IsMember({"down", "cross"}))
         ->default_str("down")
         ->type_name("down|cross");
     app.add_option("--match", options.Match,
-                   "Pattern repeat across x along, in inches (centimetres with --metric)")
+                   Words("Pattern repeat across x along, in inches (centimetres with --metric)"))
         ->check(NotEmpty)
         ->type_name("18x24");
     app.add_option("--min-cut", options.MinCut, MinCutDescription())
@@ -119,28 +118,30 @@ void AddChoices(CLI::App& app, EstimateOptions& options) {
         ->capture_default_str()
         ->type_name("N");
     app.add_option("--max-pieces", options.MaxPieces,
-                   "Maximum number of parts into which a fill is divided, 1 to " +
-                       std::to_string(MostPiecesPerFill))
+                   Words("Maximum number of parts into which a fill is divided, 1 to %1",
+                         std::to_string(MostPiecesPerFill)))
         ->check(CLI::Range(1, static_cast<int>(MostPiecesPerFill)))
         ->capture_default_str()
         ->type_name("N");
 }
 
 void AddOutput(CLI::App& app, EstimateOptions& options) {
-    app.add_option("--text", options.Text,
-                   "Write the cut list to FILE, or to standard output for - (done when no other "
-                   "output is asked for)")
+    app.add_option(
+           "--text", options.Text,
+           Words("Write the cut list to FILE, or to standard output for - (done when no other "
+                 "output is asked for)"))
         ->check(NotEmpty)
         ->type_name("FILE|-");
-    app.add_option("--json", options.Json, "Write cuts, pieces and totals as JSON")
+    app.add_option("--json", options.Json, Words("Write cuts, pieces and totals as JSON"))
         ->check(NotEmpty)
         ->type_name("FILE|-");
-    app.add_option("--svg", options.Svg, "Write the drawing of the layout with the cut list")
+    app.add_option("--svg", options.Svg, Words("Write the drawing of the layout with the cut list"))
         ->check(NotEmpty)
         ->type_name("FILE|-");
-    app.add_option("--pdf", options.Pdf,
-                   "Write the page that the program prints, for the paper of the default printer "
-                   "(A4 without one)")
+    app.add_option(
+           "--pdf", options.Pdf,
+           Words("Write the page that the program prints, for the paper of the default printer "
+                 "(A4 without one)"))
         ->check(NotEmpty)
         ->type_name("FILE|-");
     AddForce(app, options.Over);
@@ -149,22 +150,24 @@ void AddOutput(CLI::App& app, EstimateOptions& options) {
 void AddImprovement(CLI::App& app, EstimateOptions& options) {
     auto* seconds =
         app.add_option("--improve", options.ImproveSeconds,
-                       "Then look for a better layout, for so many seconds at most or until it is "
-                       "the least possible, with the parts of a divided fill at " +
-                           LengthsOfCaptions() +
-                           " by --min-cut; Ctrl+C ends that earlier and keeps the best")
+                       Words("Then look for a better layout, for so many seconds at most or until "
+                             "it is the least possible, with the parts of a divided fill at %1 by "
+                             "--min-cut; Ctrl+C ends that earlier and keeps the best",
+                             LengthsOfCaptions()))
             ->check(CLI::PositiveNumber)
             ->type_name("SECONDS");
-    auto* steps = app.add_option("--improve-steps", options.ImproveSteps,
-                                 "The same for so many steps at most, so that the result can be "
-                                 "repeated")
-                      ->check(CLI::PositiveNumber)
-                      ->type_name("N");
-    app.add_option("--seed", options.Seed, "Another seed makes the search take another way")
+    auto* steps =
+        app.add_option("--improve-steps", options.ImproveSteps,
+                       Words("The same for so many steps at most, so that the result can be "
+                             "repeated"))
+            ->check(CLI::PositiveNumber)
+            ->type_name("N");
+    app.add_option("--seed", options.Seed, Words("Another seed makes the search take another way"))
         ->capture_default_str()
         ->type_name("N");
-    app.add_option("--threads", options.Threads,
-                   "How many threads look for it (all cores, at most 8; with --improve-steps one)")
+    app.add_option(
+           "--threads", options.Threads,
+           Words("How many threads look for it (all cores, at most 8; with --improve-steps one)"))
         ->check(CLI::Range(std::size_t{1}, MostThreads))
         ->type_name("N");
     app.callback([&options, seconds, steps] {
@@ -187,11 +190,13 @@ void CheckTogether(EstimateOptions& options) {
 
 } // namespace
 
-void DescribeEstimate(CLI::App& app, EstimateOptions& options) {
-    app.name("tarn-estimate");
-    app.description(Description);
+std::optional<EstimateOptions> ReadEstimateOptions(int argc, const char* const* argv, int& status) {
+    SpeakAsAsked(argc, argv);
+    CLI::App app(Description, "tarn-estimate");
+    PrepareHelp(app);
     app.footer(Footer());
-    app.set_version_flag("--version", VersionText(app.get_name()));
+    app.set_version_flag("--version", VersionText(app.get_name()),
+                         Words("Display program version information and exit"));
     app.get_formatter()->column_width(28);
     AddInput(app, options);
     AddChoices(app, options);
@@ -238,8 +243,10 @@ std::optional<RepeatTexts> RepeatOf(const EstimateOptions& options) {
     rest.remove_prefix(separated ? 1 : 0);
     const std::string_view along = TakeNumber(rest);
     if (across.empty() || !separated || along.empty() || !rest.empty()) {
-        throw Refusal("The match pattern \"" + options.Match +
-                      "\" is not readable: write it as 18x24, the repeat across and along.");
+        throw Refusal(
+            Words("The match pattern \"%1\" is not readable: write it as 18x24, the repeat "
+                  "across and along.",
+                  options.Match));
     }
     return RepeatTexts{std::string(across), std::string(along)};
 }

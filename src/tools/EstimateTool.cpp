@@ -1,5 +1,6 @@
 #include "tools/EstimateTool.h"
 
+#include "base/Words.h"
 #include "estimate/CutList.h"
 #include "estimate/LayoutDrawing.h"
 #include "estimate/MakeEstimate.h"
@@ -36,7 +37,9 @@ Project LoadRooms(const EstimateOptions& options) {
     ProjectStore store(options.Database, DatabaseAccess::ReadOnly);
     Project project = LoadProjectNamed(store, options.Project);
     if (project.EnteredIn == Units::Metric && !options.Metric) {
-        WarnOfMetric(project, "it is estimated in feet and inches. Use --metric for centimetres.");
+        WarnOfMetric(Words("Warning: the project %1 was entered in metric; it is estimated in feet "
+                           "and inches. Use --metric for centimetres."),
+                     project);
     }
     return project;
 }
@@ -101,7 +104,7 @@ void EstimateFor(const EstimateOptions& options) {
     RequireOutputsBesideInput(options);
     const Project project = LoadRooms(options);
     if (!HasRooms(project, request.Carpet)) {
-        throw Refusal("No room has " + CoveringCaption(request.Carpet) + ".");
+        throw Refusal(Words("No room has %1.", CoveringCaption(request.Carpet)));
     }
     if (repeat) {
         request.Repeat = ReadPatternRepeat(repeat->Across, repeat->Along);
@@ -109,8 +112,9 @@ void EstimateFor(const EstimateOptions& options) {
     SearchObserver nobody;
     Estimate estimate = MakeEstimate(project, request, nobody);
     if (HasNothingToCut(estimate)) {
-        std::cerr << "Warning: the rooms of " << CoveringCaption(request.Carpet)
-                  << " have no area; there is nothing to cut.\n";
+        std::cerr << Words("Warning: the rooms of %1 have no area; there is nothing to cut.",
+                           CoveringCaption(request.Carpet))
+                  << '\n';
     }
     if (options.Improve) {
         estimate = ImprovedFor(options, estimate);

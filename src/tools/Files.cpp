@@ -1,5 +1,6 @@
 #include "tools/Files.h"
 
+#include "base/Words.h"
 #include "files/Descriptor.h"
 #include "tools/Refusal.h"
 #include "tools/StandardStreams.h"
@@ -17,18 +18,19 @@ namespace tarn {
 namespace {
 
 [[noreturn]] void RefuseToRead(const std::string& path, const std::string& cause) {
-    throw Refusal("The file " + path + " cannot be read: " + cause + ".");
+    throw Refusal(Words("The file %1 cannot be read: %2.", path, cause));
 }
 
 /// Raise Refusal unless it is a file, whose bytes come to an end.
 void RequireFile(const std::string& path, const struct stat& status) {
     if (S_ISDIR(status.st_mode)) {
-        RefuseToRead(path, "it is a folder");
+        RefuseToRead(path, Words("it is a folder"));
     }
     if (!S_ISREG(status.st_mode)) {
-        RefuseToRead(path,
-                     std::string(S_ISFIFO(status.st_mode) ? "it is a pipe" : "it is a device") +
-                         ". Save what comes from it in a file and name that");
+        RefuseToRead(
+            path, S_ISFIFO(status.st_mode)
+                      ? Words("it is a pipe. Save what comes from it in a file and name that")
+                      : Words("it is a device. Save what comes from it in a file and name that"));
     }
 }
 
@@ -81,7 +83,7 @@ std::string ReadWholeFile(const std::string& path, std::size_t mostBytes) {
         size += count > 0 ? static_cast<std::size_t>(count) : 0;
     }
     constexpr std::size_t Megabyte = std::size_t{1024} * 1024;
-    RefuseToRead(path, "it has more than " + std::to_string(mostBytes / Megabyte) + " MB");
+    RefuseToRead(path, Words("it has more than %1 MB", std::to_string(mostBytes / Megabyte)));
 }
 
 void WriteWholeFile(const std::string& path, const std::string& content, Overwrite over) {
@@ -98,8 +100,9 @@ bool IsSameFile(const std::string& path, const std::string& other) {
 
 void RequireOtherFile(const std::string& output, const std::string& input) {
     if (!output.empty() && output != StandardOutput && IsSameFile(output, input)) {
-        throw Refusal("The file " + output +
-                      " cannot be written: the rooms are read from it. Name another file.");
+        throw Refusal(Words("The file %1 cannot be written: the rooms are read from it. Name "
+                            "another file.",
+                            output));
     }
 }
 

@@ -1,3 +1,4 @@
+#include "base/Words.h"
 #include "store/Drafts.h"
 #include "store/Months.h"
 #include "store/ProjectNames.h"
@@ -33,12 +34,13 @@ void RequireReplaceable(const LoadedProject& loaded, const ImportRequest& reques
     // A sheet that counts no room may have rows of rooms all the same: the findings name them.
     const bool hasRooms = !loaded.Value.Rooms.empty() || !loaded.Findings.empty();
     if (hasRooms && !request.Replace) {
-        throw Refusal("The project " + name +
-                      " has rooms already; --replace puts those of the file in their place.");
+        throw Refusal(Words("The project %1 has rooms already; --replace puts those of the file in "
+                            "their place.",
+                            name));
     }
     if (hasRooms && count == 0) {
-        throw Refusal("The file " + request.Rooms + " has no rooms; the project " + name +
-                      " keeps those that it has.");
+        throw Refusal(Words("The file %1 has no rooms; the project %2 keeps those that it has.",
+                            request.Rooms, name));
     }
 }
 
@@ -65,7 +67,9 @@ void ImportProject(const ImportRequest& request) {
     if (isNew) {
         UserDrafts(request.Database).End(name); // of a project that had its name
     }
-    std::cout << name << ": " << rooms.size() << (rooms.size() == 1 ? " room.\n" : " rooms.\n");
+    std::cout << CountedWords("%1: %n room.", "%1: %n rooms.", static_cast<long long>(rooms.size()),
+                              name)
+              << '\n';
 }
 
 } // namespace tarn

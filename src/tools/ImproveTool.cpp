@@ -1,6 +1,7 @@
 #include "tools/ImproveTool.h"
 
 #include "base/Lengths.h"
+#include "base/Words.h"
 #include "estimate/ImproveEstimate.h"
 #include "tools/InterruptStops.h"
 
@@ -33,8 +34,10 @@ class ProgressLine : public ImproveObserver {
         const auto now = Clock::now();
         if (isTerminal_ && progress.Bound > 0 && (!written_ || now - last_ >= Pause)) {
             constexpr const char* StartOfLine = "\r\033[K";
-            std::cerr << StartOfLine << "Fills: " << LengthText(progress.Best, units_) << ", "
-                      << GapText(progress) << std::flush;
+            std::cerr << StartOfLine
+                      << Words("Fills: %1, %2", LengthText(progress.Best, units_),
+                               GapText(progress))
+                      << std::flush;
             last_ = now;
             written_ = true;
         }
@@ -66,11 +69,11 @@ Estimate ImprovedFor(const EstimateOptions& options, const Estimate& estimate) {
     }
     const std::string reason = NothingBetterReason(improved.Result);
     if (!improved.Result.Improved && !reason.empty()) {
-        std::cerr << "Note: no better layout was found; " << reason << ".\n";
+        std::cerr << Words("Note: no better layout was found; %1.", reason) << '\n';
     }
     const std::string kept = KeptText(improved.Result, estimate.Request);
     if (!kept.empty()) {
-        std::cerr << "Note: beside it there is one of " << kept << ".\n";
+        std::cerr << Words("Note: beside it there is one of %1.", kept) << '\n';
     }
     return std::move(improved.Value);
 }

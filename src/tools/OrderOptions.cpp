@@ -1,5 +1,7 @@
 #include "tools/OrderOptions.h"
 
+#include "base/Version.h"
+#include "base/Words.h"
 #include "project/OrderEntry.h"
 #include "tools/Files.h"
 #include "tools/ProgramVersion.h"
@@ -15,11 +17,11 @@ namespace tarn {
 
 namespace {
 
-constexpr const char* Description =
+constexpr auto Description = Words(
     "What to buy and how to cut it: compares rolls and lays, and lists the cuts of the best.\n"
-    "The rooms come from a database (--database and --project) or from a CSV file (--rooms).";
+    "The rooms come from a database (--database and --project) or from a CSV file (--rooms).");
 
-constexpr const char* Footer =
+constexpr auto Footer = Words(
     "Lengths are written 12ft6in, 18in, 366cm or 3.66m; a bare number is in the project's units.\n"
     "All lengths of an order are whole inches, with --metric whole centimetres: roll widths are\n"
     "rounded down; trim, selvage, shortest part and step up. A pattern repeat must be whole.\n\n"
@@ -29,103 +31,111 @@ constexpr const char* Footer =
     "Exit status: 0 done, 1 refused, or no carpet has an order (the reason is on standard error),\n"
     "2 wrong usage.\n\n"
     "Example:\n"
-    "  tarn-order --rooms house.csv --roll 12ft=18.50 --roll 15ft=19 --lay both --trim 3in";
+    "  tarn-order --rooms house.csv --roll 12ft=18.50 --roll 15ft=19 --lay both --trim 3in");
 
 void AddInput(CLI::App& app, OrderOptions& options) {
     AddRoomsSource(app, options.Database, options.Project, options.Rooms);
-    auto* metric = app.add_flag("--metric", options.Metric, "The sizes are centimetres");
+    auto* metric = app.add_flag("--metric", options.Metric, Words("The sizes are centimetres"));
     app.add_flag("--feet", options.Feet,
-                 "The sizes are inches, also of a project that was entered in metric")
+                 Words("The sizes are inches, also of a project that was entered in metric"))
         ->excludes(metric);
     app.add_option("--carpet", options.Carpet,
-                   "Number of the carpet, 1 to 8 (default: all of the project)")
+                   Words("Number of the carpet, 1 to 8 (default: all of the project)"))
         ->check(CLI::Range(1, 8))
         ->type_name("N");
 }
 
 void AddRolls(CLI::App& app, OrderOptions& options) {
-    app.add_option("--roll", options.Rolls,
-                   "A roll to compare, with a name and a price per square yard (square metre with "
-                   "--metric) if wanted; may be given several times")
+    app.add_option(
+           "--roll", options.Rolls,
+           Words("A roll to compare, with a name and a price per square yard (square metre with "
+                 "--metric) if wanted; may be given several times"))
         ->check(NotEmpty)
         ->expected(1)
         ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll)
         ->type_name("[NAME:]12ft[=PRICE]");
     app.add_option("--selvage", options.Selvage,
-                   "Cut off along each edge of the roll (default 0, at most 6in or 15cm)")
+                   Words("Cut off along each edge of the roll (default 0, at most 6in or 15cm)"))
         ->check(NotEmpty)
         ->type_name("1in");
     app.add_option("--lay", options.Lay,
-                   "down: room widths across the roll (default); cross: room lengths")
+                   Words("down: room widths across the roll (default); cross: room lengths"))
         ->check(CLI::IsMember({"down", "cross", "both"}))
         ->type_name("down|cross|both");
     app.add_option("--step", options.Step,
-                   "The roll is ordered in whole steps (default 3in, 5cm with --metric)")
+                   Words("The roll is ordered in whole steps (default 3in, 5cm with --metric)"))
         ->check(NotEmpty)
         ->type_name("3in");
 }
 
 void AddCutting(CLI::App& app, OrderOptions& options) {
-    app.add_option("--trim", options.Trim,
-                   "More than a strip's length, at its far end (default 0, at most 24in or 60cm)")
+    app.add_option(
+           "--trim", options.Trim,
+           Words("More than a strip's length, at its far end (default 0, at most 24in or 60cm)"))
         ->check(NotEmpty)
         ->type_name("3in");
-    app.add_option("--trim-across", options.TrimAcross, "More than a room's width, the same bounds")
+    app.add_option("--trim-across", options.TrimAcross,
+                   Words("More than a room's width, the same bounds"))
         ->check(NotEmpty)
         ->type_name("1in");
-    app.add_option("--max-parts", options.MaxParts,
-                   "Most parts of a strip, 1 to " + std::to_string(MostPartsOfStrip) +
-                       " (default 1)")
+    app.add_option(
+           "--max-parts", options.MaxParts,
+           Words("Most parts of a strip, 1 to %1 (default 1)", std::to_string(MostPartsOfStrip)))
         ->check(CLI::Range(1, static_cast<int>(MostPartsOfStrip)))
         ->type_name("N");
     app.add_option("--min-part", options.MinPart,
-                   "Shortest part of a divided strip (default 3ft, 91cm with --metric)")
+                   Words("Shortest part of a divided strip (default 3ft, 91cm with --metric)"))
         ->check(NotEmpty)
         ->type_name("3ft");
     app.add_flag("--join-rooms", options.JoinRooms,
-                 "A room no wider than the roll may be divided, too");
+                 Words("A room no wider than the roll may be divided, too"));
     app.add_option("--pattern", options.Pattern,
-                   "Pattern repeat across x along, 0 for none in that direction")
+                   Words("Pattern repeat across x along, 0 for none in that direction"))
         ->check(NotEmpty)
         ->type_name("18x24");
     app.add_flag("--half-drop", options.HalfDrop,
-                 "The next column of the pattern stands half a repeat further along");
-    app.add_option("--pattern-drift", options.PatternDrift,
-                   "Percent by which repeats may come out longer (default 1 with a repeat along, "
-                   "else 0; at most 10)")
+                 Words("The next column of the pattern stands half a repeat further along"));
+    app.add_option(
+           "--pattern-drift", options.PatternDrift,
+           Words("Percent by which repeats may come out longer (default 1 with a repeat along, "
+                 "else 0; at most 10)"))
         ->type_name("P");
 }
 
 void AddSearch(CLI::App& app, OrderOptions& options) {
-    app.add_option("--seconds", options.Seconds,
-                   "How long to look for shorter layouts, all rows together (default 2); Ctrl+C "
-                   "ends that earlier and keeps the best")
+    app.add_option(
+           "--seconds", options.Seconds,
+           Words("How long to look for shorter layouts, all rows together (default 2); Ctrl+C "
+                 "ends that earlier and keeps the best"))
         ->check(CLI::Range(0.0, 3600.0))
         ->type_name("S");
-    app.add_option("--steps", options.Steps,
-                   "So many layouts for each row instead, so that the result can be repeated")
+    app.add_option(
+           "--steps", options.Steps,
+           Words("So many layouts for each row instead, so that the result can be repeated"))
         ->check(CLI::PositiveNumber)
         ->type_name("N");
-    app.add_option("--seed", options.Seed, "Another seed makes the search take another way")
+    app.add_option("--seed", options.Seed, Words("Another seed makes the search take another way"))
         ->capture_default_str()
         ->type_name("N");
 }
 
 void AddOutput(CLI::App& app, OrderOptions& options) {
-    const auto add = [&app](const char* name, std::string& path, const char* what) {
+    const auto add = [&app](const char* name, std::string& path, Phrase what) {
         app.add_option(name, path, what)->check(NotEmpty)->type_name("FILE|-");
     };
     add("--text", options.Text,
-        "Write comparison and list as text (on standard output when no other output is asked for)");
-    add("--json", options.Json, "Write requests, comparison and pieces as JSON");
-    add("--csv", options.Csv, "Write comparison and pieces as CSV");
-    add("--xlsx", options.Xlsx, "Write comparison and pieces as a spreadsheet");
+        Words("Write comparison and list as text (on standard output when no other output is asked "
+              "for)"));
+    add("--json", options.Json, Words("Write requests, comparison and pieces as JSON"));
+    add("--csv", options.Csv, Words("Write comparison and pieces as CSV"));
+    add("--xlsx", options.Xlsx, Words("Write comparison and pieces as a spreadsheet"));
     add("--pdf", options.Pdf,
-        "Write the sheet to buy and cut by, of all carpets, as it is printed; A4 unless the "
-        "printer has another paper");
+        Words("Write the sheet to buy and cut by, of all carpets, as it is printed; A4 unless the "
+              "printer has another paper"));
     add("--svg", options.Svg,
-        "Write the pages of one carpet's sheet below each other as a drawing (with --carpet when "
-        "there are several)");
+        Words("Write the pages of one carpet's sheet below each other as a drawing (with --carpet "
+              "when "
+              "there are several)"));
     AddForce(app, options.Over);
 }
 
@@ -195,7 +205,7 @@ void TakePattern(const std::optional<std::string>& text, Units units, PatternCho
     }
     const auto cross = text->find_first_of("xX");
     if (cross == std::string::npos) {
-        Refuse("--pattern", *text, "write the repeat across and along, as 18x24.");
+        Refuse("--pattern", *text, Words("write the repeat across and along, as 18x24."));
     }
     pattern.Across = RepeatOf("pattern across", text->substr(0, cross), units);
     pattern.Along = RepeatOf("pattern along", text->substr(cross + 1), units);
@@ -210,11 +220,13 @@ std::vector<Lay> LaysOf(const std::string& word) {
 
 } // namespace
 
-void DescribeOrder(CLI::App& app, OrderOptions& options) {
-    app.name("tarn-order");
-    app.description(Description);
+std::optional<OrderOptions> ReadOrderOptions(int argc, const char* const* argv, int& status) {
+    SpeakAsAsked(argc, argv);
+    CLI::App app(Description, "tarn-order");
+    PrepareHelp(app);
     app.footer(Footer);
-    app.set_version_flag("--version", VersionText(app.get_name()));
+    app.set_version_flag("--version", VersionText(app.get_name()),
+                         Words("Display program version information and exit"));
     app.get_formatter()->column_width(28);
     AddInput(app, options);
     AddRolls(app, options);
@@ -263,8 +275,8 @@ OrderRequest RequestOf(const OrderOptions& options, Units units,
         request.PatternDrift = options.PatternDrift; // that of another pattern does not count
     }
     if (const auto fault = FaultOf(request)) {
-        throw Refusal(fault->Reason +
-                      (fault->Option == "roll" && request.Rolls.empty() ? " Use --roll." : ""));
+        const bool isNone = fault->Option == "roll" && request.Rolls.empty();
+        throw Refusal(isNone ? Words("%1 Use --roll.", fault->Reason) : fault->Reason);
     }
     return request;
 }

@@ -1,5 +1,6 @@
 #include "tools/OrderTool.h"
 
+#include "base/Words.h"
 #include "files/OrderDocument.h"
 #include "files/OrderJson.h"
 #include "files/OrderTables.h"
@@ -45,9 +46,9 @@ OrderDocument ReadProject(const OrderOptions& options) {
     OrderDocument document{LoadProjectNamed(store, options.Project), asked, {}};
     const Units entered = document.Of.EnteredIn;
     if (entered != asked && !options.Metric && !options.Feet) {
-        throw Refusal("The project " + document.Of.Name +
-                      " was entered in metric. Use --metric, or --feet to take its sizes as "
-                      "inches.");
+        throw Refusal(Words("The project %1 was entered in metric. Use --metric, or --feet to take "
+                            "its sizes as inches.",
+                            document.Of.Name));
     }
     return document;
 }
@@ -59,8 +60,8 @@ std::vector<Byte> CarpetsOf(const OrderOptions& options, const Project& project)
                   [&](Byte carpet) { return options.Carpet.value_or(carpet + 1) != carpet + 1; });
     if (carpets.empty()) {
         throw Refusal(options.Carpet
-                          ? "No room with an area has " +
-                                CoveringCaption(static_cast<Byte>(*options.Carpet - 1)) + "."
+                          ? Words("No room with an area has %1.",
+                                  CoveringCaption(static_cast<Byte>(*options.Carpet - 1)))
                           : std::string(NothingToOrder));
     }
     return carpets;
@@ -76,8 +77,9 @@ std::map<Byte, OrderRequest> RequestsOf(const OrderOptions& options,
         const bool isSaved = saved != document.Of.Orders.end();
         const bool isUsed = isSaved && saved->second.In == document.In;
         if (isSaved && !isUsed) {
-            std::cerr << "Note: " << CoveringCaption(carpet)
-                      << ": the saved request is in other units and is not used.\n";
+            std::cerr << Words("Note: %1: the saved request is in other units and is not used.",
+                               CoveringCaption(carpet))
+                      << '\n';
         }
         requests.emplace(carpet, RequestOf(options, document.In,
                                            isUsed ? std::optional(saved->second) : std::nullopt));
@@ -111,7 +113,7 @@ class ProgressLine : public OrderObserver {
 
     static std::string BestText(const Order& order) {
         if (!order.Best) {
-            return "comparing";
+            return Words("comparing");
         }
         const OrderCandidate& best = order.Candidates.at(*order.Best);
         return CandidateName(order, best) + ", " +
@@ -131,7 +133,7 @@ OrderLimits LimitsOf(const OrderOptions& options, const OrderRequest& request) {
 }
 
 void Tell(const Order& order, const std::string& text) {
-    std::cerr << "Note: " << CoveringCaption(order.Carpet) << ", " << ShownLines(text) << '\n';
+    std::cerr << Words("Note: %1, %2", CoveringCaption(order.Carpet), ShownLines(text)) << '\n';
 }
 
 /// Tell what there is to note: what the best rows have, and which carpets have no order.
@@ -139,12 +141,13 @@ void TellNotes(const OrderDocument& document) {
     for (const Order& order : document.Orders) {
         if (order.Best) {
             const OrderCandidate& best = order.Candidates.at(*order.Best);
-            for (const std::string& note : best.Figures->Notes) {
-                Tell(order, CandidateName(order, best) + ": " + note);
+            for (const Saying& note : best.Figures->Notes) {
+                Tell(order, CandidateName(order, best) + ": " + note.Shown);
             }
         } else {
             for (const OrderCandidate& candidate : order.Candidates) {
-                Tell(order, CandidateName(order, candidate) + " is refused: " + candidate.Refused);
+                Tell(order, Words("%1 is refused: %2", CandidateName(order, candidate),
+                                  candidate.Refused.Shown));
             }
         }
     }
@@ -199,8 +202,8 @@ void OrderFor(const OrderOptions& options) {
     OrderDocument document = ReadProject(options);
     const std::map<Byte, OrderRequest> requests = RequestsOf(options, document);
     if (!options.Svg.empty() && requests.size() > 1) {
-        throw Refusal("The drawing of --svg shows one carpet, and there are several: choose one "
-                      "with --carpet.");
+        throw Refusal(Words("The drawing of --svg shows one carpet, and there are several: choose "
+                            "one with --carpet."));
     }
     {
         const InterruptStops stops;
@@ -214,7 +217,7 @@ void OrderFor(const OrderOptions& options) {
     TellNotes(document);
     if (std::none_of(document.Orders.begin(), document.Orders.end(),
                      [](const Order& order) { return order.Best.has_value(); })) {
-        throw Refusal("No carpet has an order: every roll and lay is refused.");
+        throw Refusal(Words("No carpet has an order: every roll and lay is refused."));
     }
 }
 

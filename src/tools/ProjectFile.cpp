@@ -2,6 +2,7 @@
 
 #include "base/RunTimeError.h"
 #include "base/Text.h"
+#include "base/Words.h"
 #include "store/Names.h"
 #include "tools/Files.h"
 #include "tools/Refusal.h"
@@ -13,25 +14,26 @@ namespace tarn {
 namespace {
 
 [[noreturn]] void RefuseToLoad(const std::string& project, const std::string& cause) {
-    throw Refusal("The project " + project + " cannot be loaded: " + cause);
+    throw Refusal(Words("The project %1 cannot be loaded: %2", project, cause));
 }
 
 } // namespace
 
 std::string NameArgument(std::string_view kind, const std::string& name) {
-    const auto refuse = [&](const std::string& cause) {
-        throw Refusal("The name of the " + std::string(kind) + " \"" + ShownText(name) + "\" " +
-                      cause);
+    const auto refuse = [&](std::string_view cause) {
+        throw Refusal(Words(kind == "project" ? Words("The name of the project \"%1\" %2")
+                                              : Words("The name of the directory \"%1\" %2"),
+                            ShownText(name), cause));
     };
     const TextFault fault = FindTextFault(name);
     if (fault == TextFault::NotUtf8) {
-        refuse("is not UTF-8: the terminal that it was typed in writes another code.");
+        refuse(Words("is not UTF-8: the terminal that it was typed in writes another code."));
     }
     if (fault == TextFault::NoCharacter) {
-        refuse("holds U+FFFE or U+FFFF, which are no characters.");
+        refuse(Words("holds U+FFFE or U+FFFF, which are no characters."));
     }
     if (HoldsControlCharacter(name)) {
-        refuse("holds a line break or another control character.");
+        refuse(Words("holds a line break or another control character."));
     }
     std::string stored = StoredName(name);
     if (stored.empty()) {
@@ -53,36 +55,35 @@ LoadedProject LoadWhole(ProjectStore& store, const std::string& name) {
 Project LoadProjectNamed(ProjectStore& store, const std::string& name) {
     const std::string stored = NameArgument("project", name);
     if (!store.DirectoryOf(stored)) {
-        throw Refusal("There is no project " + stored +
-                      ". \"tarn-data list\" tells the projects that there are.");
+        throw Refusal(Words("There is no project %1. \"tarn-data list\" tells the projects that "
+                            "there are.",
+                            stored));
     }
     LoadedProject loaded = LoadWhole(store, stored);
     for (const std::string& finding : loaded.Findings) {
-        std::cerr << "Warning: " << ShownText(finding) << '\n';
+        std::cerr << Words("Warning: %1", ShownText(finding)) << '\n';
     }
     if (loaded.Value.IsNew) {
-        throw Refusal("The project " + stored + " has no saved rooms.");
+        throw Refusal(Words("The project %1 has no saved rooms.", stored));
     }
     return std::move(loaded.Value);
 }
 
-void WarnOfMetric(const Project& project, const char* consequence) {
-    std::cerr << "Warning: the project " << ShownText(project.Name) << " was entered in metric; "
-              << consequence << '\n';
+void WarnOfMetric(Phrase warning, const Project& project) {
+    std::cerr << Words(warning, ShownText(project.Name)) << '\n';
 }
 
 std::string MoreMistakes(const RoomCsvReading& reading) {
     if (reading.MoreErrors == 0) {
         return {};
     }
-    return "\n  and " + TrimStr(reading.MoreErrors) +
-           (reading.MoreErrors == 1 ? " more mistake" : " more mistakes");
+    return "\n  " + CountedWords("and %n more mistake", "and %n more mistakes", reading.MoreErrors);
 }
 
 std::vector<Room> ReadRoomFile(const std::string& path, Units units) {
     RoomCsvReading reading = ReadRoomCsv(ReadWholeFile(path, MaxRoomCsvBytes), units);
     if (!reading.Succeeded()) {
-        std::string text = "The file " + path + " cannot be used; nothing was taken from it:";
+        std::string text = Words("The file %1 cannot be used; nothing was taken from it:", path);
         for (const RoomCsvError& error : reading.Errors) {
             text += "\n  " + ErrorText(error);
         }

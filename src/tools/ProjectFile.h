@@ -3,6 +3,7 @@
 #pragma once
 
 #include "base/Units.h"
+#include "base/Words.h"
 #include "files/RoomCsv.h"
 #include "store/ProjectStore.h"
 
@@ -26,8 +27,9 @@ LoadedProject LoadWhole(ProjectStore& store, const std::string& name);
 /// loaded whole.
 Project LoadProjectNamed(ProjectStore& store, const std::string& name);
 
-/// Tell on standard error that the project was entered in metric, and what follows from it.
-void WarnOfMetric(const Project& project, const char* consequence);
+/// Tell on standard error that the project was entered in metric, and what follows from it: a
+/// sentence that has the project's name as %1.
+void WarnOfMetric(Phrase warning, const Project& project);
 
 /// A line that tells how many mistakes there are beside those that are told, with its line break
 /// before it; empty for none.

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -11,6 +12,14 @@ class App;
 } // namespace CLI
 
 namespace tarn {
+
+/// Put the language in force that the arguments ask for with --language, else `chosen` where that
+/// is a language: first of all, since options are described in it. What is no language is refused
+/// when the arguments are parsed (PrepareHelp).
+void SpeakAsAsked(int argc, const char* const* argv, std::string_view chosen = {});
+
+/// Add --language, and have `app` give its help in the language in force: before any option.
+void PrepareHelp(CLI::App& app);
 
 /// Add --database with --project, and --rooms, which excludes them. The texts must outlive `app`.
 void AddRoomsSource(CLI::App& app, std::string& database, std::string& project, std::string& rooms);

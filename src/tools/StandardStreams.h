@@ -2,6 +2,8 @@
 
 #pragma once
 
+#include "base/Words.h"
+
 #include <string>
 #include <string_view>
 
@@ -25,6 +27,6 @@ bool IsStandardOutputWritten();
 std::string ShownLines(std::string_view text);
 
 /// What standard output that cannot be written is refused with.
-inline constexpr std::string_view StandardOutputRefusal = "Standard output cannot be written.";
+inline constexpr auto StandardOutputRefusal = Words("Standard output cannot be written.");
 
 } // namespace tarn

@@ -1,6 +1,7 @@
 #include "tools/ToolMain.h"
 
 #include "base/RunTimeError.h"
+#include "base/Words.h"
 #include "tools/ExitStatus.h"
 #include "tools/StandardStreams.h"
 
@@ -24,7 +25,7 @@ int RunTool(std::string_view program, const std::function<void()>& body) {
         if (IsStandardOutputWritten()) {
             return Done;
         }
-        Tell(program, "What was asked for is done, but standard output cannot be written.");
+        Tell(program, Words("What was asked for is done, but standard output cannot be written."));
     } catch (const RunTimeError& error) {
         Tell(program, error.Heading() + ' ' + error.Sentences());
     } catch (const std::exception& error) {
@@ -36,7 +37,7 @@ int RunTool(std::string_view program, const std::function<void()>& body) {
 void AddForce(CLI::App& command, Overwrite& over) {
     command.add_flag_callback(
         "--force", [&over] { over = Overwrite::Anything; },
-        "Write over a database too, and where a symbolic link leads");
+        Words("Write over a database too, and where a symbolic link leads"));
 }
 
 int ExplainArguments(const CLI::App& options, const CLI::ParseError& error) {

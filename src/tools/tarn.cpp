@@ -1,14 +1,15 @@
+#include "base/Version.h"
+#include "base/Words.h"
 #include "paper/SystemPrinter.h"
 #include "screens/Display.h"
 #include "screens/EndSignals.h"
 #include "screens/MessageBoxes.h"
 #include "screens/Program.h"
 #include "screens/Theme.h"
+#include "screens/ToolkitWords.h"
 #include "store/Configuration.h"
 #include "tools/ExitStatus.h"
-#include "tools/ProgramOptions.h"
-#include "tools/ProgramVersion.h"
-#include "tools/ProjectFile.h"
+#include "tools/SharedOptions.h"
 #include "tools/StandardStreams.h"
 
 #include <QApplication>
@@ -27,10 +28,22 @@ tarn::RoomSource RoomsOfFile(const std::string& path) {
 }
 
 int Run(int argc, char* argv[]) {
-    int status = 0;
-    const auto options = tarn::ReadProgramOptions(argc, argv, status);
-    if (!options) {
-        return status;
+    tarn::SpeakAsAsked(argc, argv, tarn::Preferences(tarn::UserPreferencesFile()).Language());
+    CLI::App options{tarn::Words("Estimate how carpets are cut from the roll."), "tarn"};
+    tarn::PrepareHelp(options);
+    std::string configDirectory;
+    options.set_version_flag("--version", tarn::VersionText("tarn"),
+                             tarn::Words("Display program version information and exit"));
+    const CLI::Option* givenDirectory =
+        options
+            .add_option(
+                "--config-dir", configDirectory,
+                tarn::Words("Directory of the configuration file %1", tarn::ConfigurationFileName))
+            ->type_name("DIR");
+    try {
+        options.parse(argc, argv);
+    } catch (const CLI::ParseError& error) {
+        return tarn::ExplainArguments(options, error);
     }
 
     QApplication application(argc, argv);
@@ -41,9 +54,11 @@ int Run(int argc, char* argv[]) {
     const tarn::EndSignals ending;
     const QScreen* display = QGuiApplication::primaryScreen();
     if (display == nullptr) {
-        std::cerr << "tarn: There is no display to show the program on.\n";
+        std::cerr << "tarn: " << tarn::Words("There is no display to show the program on.").Text()
+                  << '\n';
         return tarn::Refused;
     }
+    const tarn::ToolkitWords toolkit;
     const tarn::Theme theme(application);
     tarn::MessageBoxes boxes;
     tarn::SystemPrinter printer;

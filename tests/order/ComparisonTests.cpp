@@ -84,7 +84,12 @@ TEST(Figures, PriceIsByTheSquareMetreWithMetric) {
 }
 
 std::vector<std::string> NotesFor(const Project& project, const OrderRequest& request) {
-    return MakeOrderOf(project, request).Candidates.at(0).Figures.value().Notes;
+    std::vector<std::string> notes;
+    for (const Saying& note :
+         MakeOrderOf(project, request).Candidates.at(0).Figures.value().Notes) {
+        notes.push_back(note.English);
+    }
+    return notes;
 }
 
 TEST(Notes, SayWhatAnInstallerHasToKnow) {

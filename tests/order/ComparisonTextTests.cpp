@@ -63,7 +63,7 @@ TEST(ComparisonText, HasNoFiguresOfARefusedRowNorOfOneToCome) {
     EXPECT_EQ(cells[2], "refused");
     EXPECT_EQ(cells[3], "");
     EXPECT_EQ(RemarksOf(order.Candidates[0]), "The drops do not match.");
-    order.Candidates[0].Refused.clear();
+    order.Candidates[0].Refused = {};
     cells = ComparisonCells(order, order.Candidates[0]);
     EXPECT_EQ(cells[2], "");
     EXPECT_EQ(RemarksOf(order.Candidates[0]), "");

@@ -95,7 +95,7 @@ TEST_P(Known, IsFoundAndProven) {
     const Order order = MakeOrderOf(project, known.Request, 60000);
     EXPECT_EQ(CheckOrder(project, order), "");
     ASSERT_EQ(order.Candidates.size(), 1U);
-    ASSERT_TRUE(order.Candidates[0].Figures) << order.Candidates[0].Refused;
+    ASSERT_TRUE(order.Candidates[0].Figures) << order.Candidates[0].Refused.English;
     const OrderFigures& figures = *order.Candidates[0].Figures;
     EXPECT_EQ(figures.LengthNeeded, known.Needed);
     EXPECT_EQ(figures.LeastLength, known.Needed) << "and is known to be the least";

@@ -27,7 +27,7 @@ std::string RefusalOf(const Project& project, const OrderRequest& request) {
     EXPECT_FALSE(order.Candidates[0].Figures);
     EXPECT_TRUE(order.Candidates[0].Pieces.empty());
     EXPECT_FALSE(order.Best);
-    return order.Candidates[0].Refused;
+    return order.Candidates[0].Refused.English;
 }
 
 TEST(MakeOrder, OfRandomProjectsPassesBothChecks) {

@@ -40,7 +40,23 @@ QStringList MarkedTexts(const QWidget& screen) {
     return texts;
 }
 
+std::set<std::string> MnemonicsOf(const QWidget& screen, const std::string& where) {
+    std::set<std::string> letters;
+    for (const QString& text : MarkedTexts(screen)) {
+        const QKeySequence letter = QKeySequence::mnemonic(text);
+        if (!letter.isEmpty()) {
+            EXPECT_TRUE(letters.insert(FromQt(letter.toString())).second)
+                << where << ": " << FromQt(text) << " has the mnemonic of another control";
+        }
+    }
+    return letters;
+}
+
 } // namespace
+
+void ExpectMnemonicsOnce(const QWidget& screen, const std::string& where) {
+    MnemonicsOf(screen, where);
+}
 
 void ExpectNamesAndMnemonicsOnce(const QWidget& screen, std::size_t mnemonics) {
     std::set<std::string> names;
@@ -52,15 +68,7 @@ void ExpectNamesAndMnemonicsOnce(const QWidget& screen, std::size_t mnemonics) {
         }
     }
     EXPECT_FALSE(names.empty());
-    std::set<std::string> letters;
-    for (const QString& text : MarkedTexts(screen)) {
-        const QKeySequence letter = QKeySequence::mnemonic(text);
-        if (!letter.isEmpty()) {
-            EXPECT_TRUE(letters.insert(FromQt(letter.toString())).second)
-                << FromQt(text) << " has the mnemonic of another control";
-        }
-    }
-    EXPECT_EQ(letters.size(), mnemonics);
+    EXPECT_EQ(MnemonicsOf(screen, FromQt(screen.objectName())).size(), mnemonics);
 }
 
 } // namespace tarn::testing

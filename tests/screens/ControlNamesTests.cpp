@@ -1,6 +1,7 @@
 // The table of control names, compared with the screens as they are built.
 
 #include "estimate/EstimateTesting.h"
+#include "screens/AboutWindow.h"
 #include "screens/GuideWindow.h"
 #include "screens/ScreenTesting.h"
 #include "screens/ScreenWindow.h"
@@ -119,6 +120,11 @@ TEST_F(ControlNames, OfTheGuideAreThoseOfTheTable) {
     ExpectNamesOf("Guide", GuideWindow(program, boxes));
 }
 
+TEST_F(ControlNames, OfWhatTheProgramIsAreThoseOfTheTable) {
+    QWidget program;
+    ExpectNamesOf("About", AboutWindow(program, {}));
+}
+
 TEST_F(ControlNames, ThatScreensShareAreThoseOfTheTable) {
     Names names = NamesOn(MenuScreen(session, MenuEntry::Returning));
     const Names ofWindow = NamesOn(ScreenWindow());
@@ -129,7 +135,7 @@ TEST_F(ControlNames, ThatScreensShareAreThoseOfTheTable) {
 
 TEST_F(ControlNames, AreReadUnderTheirHeadings) {
     const auto names = NamesByHeading();
-    EXPECT_EQ(names.size(), 9U);
+    EXPECT_EQ(names.size(), 10U);
     EXPECT_THAT(names.at("Options"), ::testing::Contains("Option1(5)"));
 }
 

@@ -28,7 +28,7 @@ TEST(SetToolTip, ShowsATextAsItIsWritten) {
 /// A window with a button that Alt+P presses, and how often that happened.
 struct ButtonKeys : ::testing::Test {
     ButtonKeys() {
-        button = NewButton(&window, QStringLiteral("Button"), "Press", 'P');
+        button = NewButton(&window, QStringLiteral("Button"), "&Press");
         QObject::connect(button, &QPushButton::clicked, [this] { ++pressed; });
         ShowOnDisplay(window);
     }
@@ -65,7 +65,7 @@ TEST_F(ButtonKeys, PressNothingThatIsDisabled) {
 }
 
 TEST_F(ButtonKeys, PressOnceAfterTheCaptionChanged) {
-    SetCaption(*button, "Press again", 'P');
+    SetCaption(*button, "&Press again");
     KeyDown(false);
     EXPECT_EQ(pressed, 1);
 }

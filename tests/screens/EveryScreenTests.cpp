@@ -1,6 +1,9 @@
 // What has to hold on every screen: names for assistive programs, a way to each control by keys
 // alone, and whole texts whatever the size of the system's text.
 
+#include "base/Text.h"
+#include "files/SpokenLanguage.h"
+#include "screens/ControlChecks.h"
 #include "screens/ControlNames.h"
 #include "screens/Display.h"
 #include "screens/ElidedLabel.h"
@@ -17,6 +20,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
+#include <QRegularExpression>
 #include <QScrollArea>
 
 #include <array>
@@ -201,21 +205,25 @@ bool ScrollsItsContent(const QWidget& widget) {
     return qobject_cast<const QAbstractScrollArea*>(widget.parentWidget()) != nullptr;
 }
 
+void ExpectWholeTextsOn(QSize display, const std::string& state, ScreenWindow& window) {
+    ResizeTo(window, display);
+    const std::string where = state + " at " + std::to_string(display.width());
+    const std::vector<QWidget*> shown = ShownIn(window);
+    for (const QWidget* widget : shown) {
+        ExpectRoomForItsText(where, *widget);
+        const QWidget& above = *widget->parentWidget();
+        if (HasText(*widget) && !ScrollsItsContent(above)) {
+            EXPECT_TRUE(above.rect().contains(WordsOf(*widget)))
+                << where << ": " << NameOf(*widget) << " runs out of " << NameOf(above);
+        }
+    }
+    ExpectApart(where, shown);
+}
+
 void ExpectWholeTexts(const std::string& state, ScreenWindow& window) {
     constexpr std::array Displays{QSize(800, 600), QSize(1366, 768), QSize(1920, 1080)};
     for (const QSize& display : Displays) {
-        ResizeTo(window, display);
-        const std::string where = state + " at " + std::to_string(display.width());
-        const std::vector<QWidget*> shown = ShownIn(window);
-        for (const QWidget* widget : shown) {
-            ExpectRoomForItsText(where, *widget);
-            const QWidget& above = *widget->parentWidget();
-            if (HasText(*widget) && !ScrollsItsContent(above)) {
-                EXPECT_TRUE(above.rect().contains(WordsOf(*widget)))
-                    << where << ": " << NameOf(*widget) << " runs out of " << NameOf(above);
-            }
-        }
-        ExpectApart(where, shown);
+        ExpectWholeTextsOn(display, state, window);
     }
 }
 
@@ -224,6 +232,60 @@ TEST_P(TextSizes, KeepEveryTextWhole) {
     for (const Units units : {Units::Imperial, Units::Metric}) {
         VisitEveryScreen(units, ExpectWholeTexts);
     }
+}
+
+// --- languages ---
+
+class Spoken : public ::testing::TestWithParam<const char*> {};
+
+INSTANTIATE_TEST_SUITE_P(Languages, Spoken, ::testing::Values("de", "es", "pseudo"),
+                         [](const auto& each) { return std::string(each.param); });
+
+/// On the smallest display: the others leave more room.
+TEST_P(Spoken, KeepsTextsWholeMnemonicsApartAndControlsInReach) {
+    const SpokenLanguage language(GetParam());
+    for (const Units units : {Units::Imperial, Units::Metric}) {
+        VisitEveryScreen(units, [units](const std::string& state, ScreenWindow& window) {
+            ExpectWholeTextsOn({800, 600}, state, window);
+            ExpectMnemonicsOnce(*window.Front(), state);
+            if (units == Units::Imperial) {
+                ExpectTabComesEverywhere(state, window);
+            }
+        });
+    }
+}
+
+TEST(RightToLeft, KeepsEveryTextWhole) {
+    const SpokenLanguage language("pseudo");
+    QApplication::setLayoutDirection(Qt::RightToLeft);
+    VisitEveryScreen(Units::Imperial, [](const std::string& state, ScreenWindow& window) {
+        ExpectWholeTextsOn({800, 600}, state, window);
+        const QByteArray folder = qgetenv("TARN_PICTURES");
+        if (!folder.isEmpty()) {
+            window.grab().save(QString::fromLocal8Bit(folder) + QLatin1Char('/') +
+                               ToQt(state).replace(QLatin1Char(' '), QLatin1Char('-')) +
+                               QStringLiteral(".png"));
+        }
+    });
+    QApplication::setLayoutDirection(Qt::LeftToRight);
+}
+
+/// Texts that stand on the screens as the language has them not: in no brackets.
+TEST(PseudoLanguage, IsSpokenByEveryControl) {
+    const SpokenLanguage language("pseudo");
+    VisitEveryScreen(Units::Imperial, [](const std::string& state, ScreenWindow& window) {
+        for (const QWidget* widget : ShownIn(window)) {
+            const auto* button = qobject_cast<const QAbstractButton*>(widget);
+            const auto* label = qobject_cast<const QLabel*>(widget);
+            const QString text = button != nullptr  ? button->text()
+                                 : label != nullptr ? label->text()
+                                                    : QString();
+            const bool hasWords = text.contains(QRegularExpression(QStringLiteral("[A-Za-z]{3}")));
+            const bool isTitle = text == ToQt(ApplicationTitle);
+            EXPECT_TRUE(!hasWords || isTitle || text.contains(QLatin1Char('[')))
+                << state << ": " << FromQt(text);
+        }
+    });
 }
 
 // --- context menus ---

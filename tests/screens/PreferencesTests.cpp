@@ -30,6 +30,21 @@ TEST_F(PreferencesFile, OutlastsARun) {
     EXPECT_FALSE(Preferences(file).IsOn(Preference::WholeRoll));
 }
 
+TEST_F(PreferencesFile, HoldsTheLanguageOfTheNextStart) {
+    {
+        Preferences first(file);
+        EXPECT_EQ(first.Language(), "");
+        first.ChooseLanguage("de");
+        EXPECT_EQ(first.Language(), "de");
+    }
+    Preferences second(file);
+    EXPECT_EQ(second.Language(), "de");
+    EXPECT_FALSE(second.IsOn(Preference::WholeRoll));
+    Preferences nowhere;
+    nowhere.ChooseLanguage("es");
+    EXPECT_EQ(nowhere.Language(), "es") << "in this run";
+}
+
 TEST_F(PreferencesFile, IsItsOwnersAlone) {
     const mode_t before = umask(0);
     Preferences(file).Set(Preference::WholeRoll, true);

@@ -127,6 +127,7 @@ struct FakeScreens : Screens {
         Record(carpet ? "order " + CoveringCaption(*carpet) : "order");
     }
     void ShowGuide(std::string_view page) override { Record("guide " + std::string(page)); }
+    void ShowAbout() override { Record("about"); }
     void Return() override { Record("return"); }
     void End() override { Record("end"); }
 

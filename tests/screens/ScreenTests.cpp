@@ -27,7 +27,7 @@ struct PlainScreen : TitledScreen {
         First = new QWidget;
         First->setObjectName(QStringLiteral("First"));
         First->setMinimumSize(200, height);
-        Button = NewButton(First, QStringLiteral("Command1"), "GO & STAY", 'S');
+        Button = NewButton(First, QStringLiteral("Command1"), "GO && &STAY");
         Second = new QWidget;
         Second->setObjectName(QStringLiteral("Second"));
         Second->setMinimumSize(100, 50);

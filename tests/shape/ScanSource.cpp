@@ -77,6 +77,7 @@ class SourceScanner {
             in_.TakeUntil("*/");
         } else if (IsSpace(in_.Peek())) {
             lineIsEmpty_ = lineIsEmpty_ || in_.Peek() == '\n';
+            word_.clear();
             in_.Take();
         } else if (in_.Peek() == '#' && lineIsEmpty_) {
             TakeDirective();
@@ -124,6 +125,13 @@ class SourceScanner {
         if (isCharacter) {
             TakeQuoted('\'');
         }
+        if (IsWordCharacter(c)) {
+            word_ += c;
+        } else {
+            isSaying_ =
+                c == '(' ? word_ == "Words" || word_ == "CountedWords" : c == ',' && isSaying_;
+            word_.clear();
+        }
     }
 
     std::string TakeQuoted(char end) {
@@ -147,7 +155,7 @@ class SourceScanner {
         if (joins_) {
             found_.Texts.back().Text += text;
         } else {
-            found_.Texts.push_back({line, text});
+            found_.Texts.push_back({line, text, isSaying_});
         }
         joins_ = true;
     }
@@ -155,7 +163,9 @@ class SourceScanner {
     Cursor in_;
     ScannedSource found_;
     bool lineIsEmpty_ = true;
-    bool joins_ = false; ///< nothing but blanks since the last literal
+    bool joins_ = false;    ///< nothing but blanks since the last literal
+    std::string word_;      ///< that is being read
+    bool isSaying_ = false; ///< behind the parenthesis of a call of Words, or literals in it alone
 };
 
 /// The next word of a CMakeLists.txt, or a parenthesis; nothing at the end.

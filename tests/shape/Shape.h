@@ -12,6 +12,11 @@ namespace tarn::testing {
 /// store's language outside of the store; a folder that no rule knows. In the order of the paths.
 std::vector<std::string> FindShapeFaults(const std::filesystem::path& src);
 
+/// The literals of `src` that look like words for people, and go past the words that are translated
+/// (base/Words.h), each as "FOLDER/FILE:LINE: literal". What is known to be for programs is left
+/// out.
+std::vector<std::string> FindUnsaidWords(const std::filesystem::path& src);
+
 /// The folders that have a place, from the lowest up.
 std::vector<std::string> KnownFolders();
 
@@ -20,6 +25,7 @@ struct ScannedSource {
     struct Item {
         int Line;
         std::string Text;
+        bool IsSaid = false; ///< a literal of Words or CountedWords (see base/Words.h)
     };
     std::vector<Item> Includes; ///< as written: "folder/File.h" or <vector>, with the quotes
     std::vector<Item> Texts;    ///< string literals without their quotes, adjacent ones as one

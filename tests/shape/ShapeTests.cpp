@@ -14,6 +14,7 @@ namespace {
 namespace fs = std::filesystem;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
+using ::testing::SizeIs;
 
 /// What is found in a made-up src of that one file, which is removed afterwards.
 std::vector<std::string> FaultsOf(const std::string& path, const std::string& text) {
@@ -24,6 +25,17 @@ std::vector<std::string> FaultsOf(const std::string& path, const std::string& te
     std::vector<std::string> faults = FindShapeFaults(src);
     fs::remove_all(src);
     return faults;
+}
+
+/// The same of words.
+std::vector<std::string> UnsaidIn(const std::string& path, const std::string& text) {
+    const fs::path src =
+        fs::temp_directory_path() / ("tarn-words-" + std::to_string(std::random_device{}()));
+    fs::create_directories((src / path).parent_path());
+    std::ofstream(src / path) << text;
+    std::vector<std::string> found = FindUnsaidWords(src);
+    fs::remove_all(src);
+    return found;
 }
 
 std::vector<std::string> TextsOf(const std::vector<ScannedSource::Item>& items) {
@@ -37,6 +49,27 @@ std::vector<std::string> TextsOf(const std::vector<ScannedSource::Item>& items) 
 
 TEST(Shape, OfThisSystemIsKept) {
     EXPECT_THAT(FindShapeFaults(TARN_SOURCES), IsEmpty());
+}
+
+TEST(Shape, HasItsWordsTranslated) {
+    EXPECT_THAT(FindUnsaidWords(TARN_SOURCES), IsEmpty());
+}
+
+TEST(UnsaidWords, AreLiteralsThatArePastTheWords) {
+    EXPECT_THAT(UnsaidIn("screens/A.cpp", "auto a = Words(\"a room\"), b = ToQt(\"a room\");\n"
+                                          "f(CountedWords(\"a room\", \"%n rooms, more\", n),\n"
+                                          "  \"The room: \", \"%1 room\");\n"
+                                          "Words(text + \" of it all\");"),
+                ElementsAre("screens/A.cpp:1: a room",
+                            "screens/A.cpp:3: The room: ", "screens/A.cpp:4:  of it all"));
+}
+
+TEST(UnsaidWords, AreNotWhatProgramsRead) {
+    EXPECT_THAT(UnsaidIn("store/A.cpp", "Run(\"SELECT a FROM b WHERE c\"); // a remark here\n"
+                                        "QStringLiteral(\"roomNumber\"); Key(\"lengthNeeded\");\n"
+                                        "f(\"--config-dir\", \"%1 %2\", \"###0.00\", \"\\r\\n\");"),
+                IsEmpty());
+    EXPECT_THAT(UnsaidIn("screens/A.cpp", "f(\"SELECT one of these\");"), SizeIs(1));
 }
 
 TEST(Shape, HasARuleForEachFolderOfThisSystemAndForNoOther) {

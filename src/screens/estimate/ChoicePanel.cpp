@@ -1,5 +1,6 @@
 #include "screens/estimate/ChoicePanel.h"
 
+#include "base/Words.h"
 #include "estimate/RollWidth.h"
 #include "files/QtText.h"
 #include "screens/Arrangement.h"
@@ -23,29 +24,27 @@ namespace {
 
 constexpr int OtherWidth = static_cast<int>(Controls::standardWidths.size());
 constexpr double BoxWidth = 900; ///< twips
-constexpr const char* ChoiceFailure = "The choice could not be shown.";
+constexpr auto ChoiceFailure = Words("The choice could not be shown.");
 
 /// What stands behind the boxes, and the letters that go to the boxes of a free width. Those are
 /// read as feet and inches in every unit (see OtherRollWidth).
 struct UnitLabels {
-    const char* OtherMajor;
-    char MajorMnemonic;
-    const char* OtherMinor;
-    char MinorMnemonic;
-    const char* Repeat;
+    Phrase OtherMajor;
+    Phrase OtherMinor;
+    Phrase Repeat;
 };
-constexpr UnitLabels ImperialLabels{"FEET", 'F', "INCHES", 'N', "INCHES"};
-constexpr UnitLabels MetricLabels{"METER", 'T', "CM", 0, "CMS"};
+constexpr UnitLabels ImperialLabels{Words("&FEET"), Words("I&NCHES"), Words("INCHES")};
+constexpr UnitLabels MetricLabels{Words("ME&TER"), Words("CM"), Words("CMS")};
 
 const UnitLabels& LabelsOf(Units units) {
     return units == Units::Metric ? MetricLabels : ImperialLabels;
 }
 
 void AddOption(QBoxLayout& column, QButtonGroup& group, int id, const char* name,
-               std::string_view caption, char mnemonic) {
+               std::string_view caption) {
     auto* option = new QRadioButton;
     option->setObjectName(name);
-    SetCaption(*option, caption, mnemonic);
+    SetCaption(*option, caption);
     group.addButton(option, id);
     column.addWidget(option);
 }
@@ -60,7 +59,7 @@ ChoicePanel::ChoicePanel(QWidget* parent, Dialogs& boxes, Units units)
     : QFrame(parent)
     , boxes_(boxes)
     , units_(units) {
-    NameControl(*this, Controls::choicePanel, QStringLiteral("Estimate choices"));
+    NameControl(*this, Controls::choicePanel, ToQt(Words("Estimate choices")));
     SetPanel(*this);
     auto* rows = new QVBoxLayout(this);
     SetSpacing(*rows, Metrics::Margin, Metrics::Margin);
@@ -84,7 +83,7 @@ QBoxLayout* ChoicePanel::BuildCarpets() {
     for (std::size_t code = 0; code < Controls::carpets.size(); ++code) {
         const std::string number = std::to_string(code + 1);
         AddOption(*column, carpets_, static_cast<int>(code), Controls::carpets[code],
-                  "CARPET - " + number, number[0]);
+                  Words("CARPET - &%1", number));
     }
     column->addStretch();
     return column;
@@ -95,10 +94,9 @@ QBoxLayout* ChoicePanel::BuildWidths() {
     SpaceOut(*column);
     const auto& captions = WidthCaptions(units_);
     for (std::size_t i = 0; i < captions.size(); ++i) {
-        AddOption(*column, widths_, static_cast<int>(i), Controls::standardWidths[i], captions[i],
-                  0);
+        AddOption(*column, widths_, static_cast<int>(i), Controls::standardWidths[i], captions[i]);
     }
-    AddOption(*column, widths_, OtherWidth, Controls::otherWidth, "CARPET WIDTH OTHER", 'H');
+    AddOption(*column, widths_, OtherWidth, Controls::otherWidth, Words("CARPET WIDT&H OTHER"));
     column->addWidget(BuildOther());
     column->addStretch();
     return column;
@@ -113,13 +111,13 @@ QWidget* ChoicePanel::BuildOther() {
     const UnitLabels& labels = LabelsOf(units_);
     otherBoxes_ = {NewBox(Controls::otherWidthMajor), NewBox(Controls::otherWidthMinor)};
     rows->addWidget(otherBoxes_[0], 0, 0);
-    rows->addWidget(NewLabelFor(*otherBoxes_[0], other_, Controls::otherWidthMajorUnit,
-                                labels.OtherMajor, labels.MajorMnemonic),
-                    0, 1);
+    rows->addWidget(
+        NewLabelFor(*otherBoxes_[0], other_, Controls::otherWidthMajorUnit, labels.OtherMajor), 0,
+        1);
     rows->addWidget(otherBoxes_[1], 0, 2);
-    rows->addWidget(NewLabelFor(*otherBoxes_[1], other_, Controls::otherWidthMinorUnit,
-                                labels.OtherMinor, labels.MinorMnemonic),
-                    0, 3);
+    rows->addWidget(
+        NewLabelFor(*otherBoxes_[1], other_, Controls::otherWidthMinorUnit, labels.OtherMinor), 0,
+        3);
     otherHint_ = NewLabel(other_, Controls::otherWidthHint, "");
     SetRole(*otherHint_, TextRole::Warning);
     rows->addWidget(otherHint_, 1, 0, 1, 4);
@@ -132,34 +130,34 @@ QBoxLayout* ChoicePanel::BuildLayAndMatch() {
     SpaceOut(*rows);
     auto* lays = new QHBoxLayout;
     lays->setSpacing(Pixels(2 * Metrics::Margin));
-    AddOption(*lays, lays_, static_cast<int>(Lay::Down), Controls::downLay, "DOWN LAY", 'D');
-    AddOption(*lays, lays_, static_cast<int>(Lay::Cross), Controls::crossLay, "CROSS LAY", 'L');
+    AddOption(*lays, lays_, static_cast<int>(Lay::Down), Controls::downLay, Words("&DOWN LAY"));
+    AddOption(*lays, lays_, static_cast<int>(Lay::Cross), Controls::crossLay, Words("CROSS &LAY"));
     lays->addStretch();
     rows->addLayout(lays);
     match_ = new QCheckBox(this);
     match_->setObjectName(Controls::matchPattern);
-    SetCaption(*match_, "MATCH PATTERN", 'M');
+    SetCaption(*match_, Words("&MATCH PATTERN"));
     rows->addWidget(match_, 0, Qt::AlignLeft);
     auto* repeat = new QHBoxLayout;
     SpaceOut(*repeat);
-    const char* unit = LabelsOf(units_).Repeat;
+    const std::string_view unit = LabelsOf(units_).Repeat;
     repeatBoxes_[0] = AddRepeat(
         *repeat, {Controls::repeatWidth, Controls::repeatWidthCaption, Controls::repeatWidthUnit},
-        "WIDTH:", 'W', unit);
+        Words("&WIDTH:"), unit);
     repeat->addSpacing(Pixels(Metrics::Margin));
     repeatBoxes_[1] = AddRepeat(
         *repeat,
         {Controls::repeatLength, Controls::repeatLengthCaption, Controls::repeatLengthUnit},
-        "LENGTH:", 'G', unit);
+        Words("LEN&GTH:"), unit);
     repeat->addStretch();
     rows->addLayout(repeat);
     return rows;
 }
 
-QLineEdit* ChoicePanel::AddRepeat(QBoxLayout& row, const RepeatNames& names, const char* caption,
-                                  char mnemonic, const char* unit) {
+QLineEdit* ChoicePanel::AddRepeat(QBoxLayout& row, const RepeatNames& names,
+                                  std::string_view caption, std::string_view unit) {
     QLineEdit* box = NewBox(names.Box);
-    row.addWidget(NewLabelFor(*box, this, names.Caption, caption, mnemonic));
+    row.addWidget(NewLabelFor(*box, this, names.Caption, caption));
     row.addWidget(box);
     row.addWidget(NewLabel(this, names.Unit, unit));
     return box;
@@ -168,12 +166,12 @@ QLineEdit* ChoicePanel::AddRepeat(QBoxLayout& row, const RepeatNames& names, con
 QBoxLayout* ChoicePanel::BuildButtons() {
     auto* row = new QHBoxLayout;
     row->setSpacing(Pixels(Metrics::Spacing));
-    last_ = NewButton(this, Controls::lastChoices, "LAST CHOICES", 'A');
+    last_ = NewButton(this, Controls::lastChoices, Words("L&AST CHOICES"));
     last_->setEnabled(false);
     row->addWidget(last_);
     row->addStretch();
-    ok_ = NewButton(this, Controls::acceptChoices, "OK", 'O');
-    cancel_ = NewButton(this, Controls::cancelChoices, "CANCEL", 'C');
+    ok_ = NewButton(this, Controls::acceptChoices, Words("&OK"));
+    cancel_ = NewButton(this, Controls::cancelChoices, Words("&CANCEL"));
     SetPrimary(*ok_);
     for (QPushButton* button : {ok_, cancel_}) {
         button->setMinimumWidth(Pixels(Metrics::ButtonWidth));

@@ -58,8 +58,8 @@ class ChoicePanel : public QFrame {
     QBoxLayout* BuildWidths();
     QWidget* BuildOther();
     QBoxLayout* BuildLayAndMatch();
-    QLineEdit* AddRepeat(QBoxLayout& row, const RepeatNames& names, const char* caption,
-                         char mnemonic, const char* unit);
+    QLineEdit* AddRepeat(QBoxLayout& row, const RepeatNames& names, std::string_view caption,
+                         std::string_view unit);
     QBoxLayout* BuildButtons();
     QLineEdit* NewBox(const char* name);
     void SetTabOrder();

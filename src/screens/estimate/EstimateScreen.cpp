@@ -1,5 +1,6 @@
 #include "screens/estimate/EstimateScreen.h"
 
+#include "base/Words.h"
 #include "estimate/EstimateChoices.h"
 #include "estimate/ImproveEstimate.h"
 #include "estimate/LayoutDrawing.h"
@@ -42,17 +43,17 @@ namespace tarn {
 
 namespace {
 
-constexpr const char* NoDataMessage = "There is not data in the database";
-constexpr const char* EstimateFailure = "The estimate could not be made.";
-constexpr const char* DrawingFailure = "The layout could not be drawn.";
-constexpr const char* ImproveFailure = "The layout could not be improved.";
-constexpr const char* OrderFailure = "The order could not be opened.";
-constexpr const char* PictureFailure = "The picture could not be saved.";
-constexpr const char* LeaveFailure = "The screen could not be closed.";
-constexpr const char* RollCaption = "ROLL";
-constexpr const char* DrawingCaption = "DRAWING";
-constexpr const char* PasteHint =
-    "Then click where the cut list is to stand, or press Enter for the top left of the view.";
+constexpr auto NoDataMessage = Words("There is not data in the database");
+constexpr auto EstimateFailure = Words("The estimate could not be made.");
+constexpr auto DrawingFailure = Words("The layout could not be drawn.");
+constexpr auto ImproveFailure = Words("The layout could not be improved.");
+constexpr auto OrderFailure = Words("The order could not be opened.");
+constexpr auto PictureFailure = Words("The picture could not be saved.");
+constexpr auto LeaveFailure = Words("The screen could not be closed.");
+constexpr auto RollCaption = Words("ROLL");
+constexpr auto DrawingCaption = Words("DRAWING");
+constexpr auto PasteHint = Words(
+    "Then click where the cut list is to stand, or press Enter for the top left of the view.");
 
 ElidedLabel* NewElidedLabel(QWidget* parent, const char* name, const QString& text, TextRole role) {
     auto* label = new ElidedLabel(parent);
@@ -64,7 +65,8 @@ ElidedLabel* NewElidedLabel(QWidget* parent, const char* name, const QString& te
 
 std::string NothingBetterText(const ImproveResult& result) {
     const std::string reason = NothingBetterReason(result);
-    return "No better layout was found" + (reason.empty() ? "" : ": " + reason) + ".";
+    return reason.empty() ? std::string(Words("No better layout was found."))
+                          : Words("No better layout was found: %1.", reason);
 }
 
 } // namespace
@@ -135,14 +137,14 @@ QHBoxLayout* EstimateScreen::BuildTitle() {
 
 void EstimateScreen::ShowProjectName() {
     const std::string& name = OpenedProject().Name;
-    setWindowTitle(ToQt("ESTIMATE FOR PROJECT: " + name));
+    setWindowTitle(ToQt(Words("ESTIMATE FOR PROJECT: %1", name)));
     SetText(*title_, FromQt(windowTitle()));
-    SetText(*projectName_, "PROJ: " + name);
+    SetText(*projectName_, Words("PROJ: %1", name));
 }
 
 void EstimateScreen::ShowUnitsWarning() {
     const std::string_view words = UnitsWarning(Shared().Project);
-    SetText(*unitsWarning_, words);
+    SetText(*unitsWarning_, FromQt(WithoutMark(words)));
     unitsWarning_->setVisible(!words.empty());
 }
 
@@ -169,19 +171,19 @@ QHBoxLayout* EstimateScreen::BuildStatus() {
 }
 
 QVBoxLayout* EstimateScreen::BuildButtons() {
-    back_ = NewButton(&Body(), Controls::leaveEstimate, "BACK", 'B');
-    openPanel_ = NewButton(&Body(), Controls::openChoices, "ESTIMATE", 'E');
-    paste_ = NewButton(&Body(), Controls::pasteCuts, "PASTE CUTS", 'P');
-    print_ = NewButton(&Body(), Controls::printEstimate, "PRINT", 'I');
-    save_ = NewButton(&Body(), Controls::saveFromEstimate, "SAVE", 'S');
-    redraw_ = NewButton(&Body(), Controls::redrawLayout, "REDRAW", 'R');
+    back_ = NewButton(&Body(), Controls::leaveEstimate, Words("&BACK"));
+    openPanel_ = NewButton(&Body(), Controls::openChoices, Words("&ESTIMATE"));
+    paste_ = NewButton(&Body(), Controls::pasteCuts, Words("&PASTE CUTS"));
+    print_ = NewButton(&Body(), Controls::printEstimate, Words("PR&INT"));
+    save_ = NewButton(&Body(), Controls::saveFromEstimate, Words("&SAVE"));
+    redraw_ = NewButton(&Body(), Controls::redrawLayout, Words("&REDRAW"));
     improveButtons_ = new ImproveButtons(&Body());
     improve_ = &improveButtons_->Improve();
-    order_ = NewButton(&Body(), Controls::openOrder, "ORDER");
+    order_ = NewButton(&Body(), Controls::openOrder, Words("ORDER"));
     SetPrimary(*openPanel_);
-    paste_->setToolTip(QString::fromLatin1(PasteHint));
+    paste_->setToolTip(ToQt(PasteHint));
     switchView_ = NewButton(&Body(), Controls::switchView, RollCaption);
-    switchView_->setToolTip(QStringLiteral("The whole roll with its list, or the drawing: key D"));
+    switchView_->setToolTip(ToQt(Words("The whole roll with its list, or the drawing: key D")));
     switchView_->setMinimumWidth(Pixels(Metrics::ButtonWidth));
     auto* column = new QVBoxLayout;
     column->setSpacing(0);
@@ -216,9 +218,9 @@ void EstimateScreen::BuildPictureMenu() {
     picture_->ContextMenu = [this](QPoint global) { pictureMenu_->popup(global); };
 }
 
-void EstimateScreen::AddToPictureMenu(const char* name, const char* caption,
+void EstimateScreen::AddToPictureMenu(const char* name, std::string_view caption,
                                       std::function<void()> save) {
-    QAction* action = pictureMenu_->addAction(QString::fromLatin1(caption));
+    QAction* action = pictureMenu_->addAction(ToQt(caption));
     action->setObjectName(name);
     connect(action, &QAction::triggered, this,
             [this, save = std::move(save)] { Guard(PictureFailure, save); });

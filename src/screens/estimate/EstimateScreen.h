@@ -62,7 +62,7 @@ class EstimateScreen : public Screen, public EstimateClient {
     QHBoxLayout* BuildStatus();
     QVBoxLayout* BuildButtons();
     void BuildPictureMenu();
-    void AddToPictureMenu(const char* name, const char* caption, std::function<void()> save);
+    void AddToPictureMenu(const char* name, std::string_view caption, std::function<void()> save);
     void Connect();
     void ConnectKeys();
     std::array<QPushButton*, 8> Buttons() const;

@@ -1,5 +1,6 @@
 #include "screens/estimate/ImproveButtons.h"
 
+#include "base/Words.h"
 #include "files/QtText.h"
 #include "screens/Arrangement.h"
 #include "screens/ControlNames.h"
@@ -14,15 +15,14 @@ namespace tarn {
 
 namespace {
 
-constexpr const char* ImproveCaption = "IMPROVE";
-constexpr char ImproveMnemonic = 'V';
+constexpr auto ImproveCaption = Words("IMPRO&VE");
 
 } // namespace
 
 ImproveButtons::ImproveButtons(QWidget* parent)
     : QWidget(parent)
-    , improve_(NewButton(this, Controls::improveFills, ImproveCaption, ImproveMnemonic))
-    , undo_(NewButton(this, Controls::undoImprovement, "UNDO", 'U')) {
+    , improve_(NewButton(this, Controls::improveFills, ImproveCaption))
+    , undo_(NewButton(this, Controls::undoImprovement, Words("&UNDO"))) {
     undo_->setEnabled(false);
     IgnoreSecondClick(*undo_); // which was for IMPROVE, in whose place it stands
     auto* rows = new QGridLayout(this);
@@ -37,8 +37,10 @@ ImproveButtons::ImproveButtons(QWidget* parent)
 }
 
 void ImproveButtons::Offer(const std::string& shorter) {
-    const std::string caption = ImproveCaption + (shorter.empty() ? "" : ": " + shorter);
-    if (FromQt(improve_->accessibleName()) == caption && undo_->isHidden() != shorter.empty()) {
+    const std::string caption =
+        shorter.empty() ? std::string(ImproveCaption) : Words("IMPRO&VE: %1", Unmarked(shorter));
+    if (improve_->accessibleName() == WithoutMark(caption) &&
+        undo_->isHidden() != shorter.empty()) {
         return;
     }
     auto& rows = static_cast<QGridLayout&>(*layout());
@@ -46,7 +48,7 @@ void ImproveButtons::Offer(const std::string& shorter) {
     rows.removeWidget(improve_);
     rows.addWidget(improve_, 0, 0, shorter.empty() ? 1 : 2, 1);
     undo_->setVisible(shorter.empty());
-    SetCaption(*improve_, caption, ImproveMnemonic);
+    SetCaption(*improve_, caption);
     improve_->setText(improve_->text().replace(QLatin1String(": "), QLatin1String(":\n")));
 }
 

@@ -2,7 +2,9 @@
 
 #include "base/Lengths.h"
 #include "base/Numbers.h"
+#include "base/Words.h"
 #include "estimate/Improvement.h"
+#include "files/QtText.h"
 #include "screens/Arrangement.h"
 #include "screens/ControlNames.h"
 #include "screens/Controls.h"
@@ -43,7 +45,7 @@ std::string BoundText(Double inches, Units units) {
 ImprovePanel::ImprovePanel(QWidget* parent, Units units)
     : QFrame(parent)
     , units_(units) {
-    NameControl(*this, Controls::improvePanel, QStringLiteral("IMPROVE"));
+    NameControl(*this, Controls::improvePanel, ToQt(Words("IMPROVE")));
     SetPanel(*this);
     setMinimumWidth(Pixels(PanelWidth));
     auto* rows = new QVBoxLayout(this);
@@ -55,11 +57,11 @@ ImprovePanel::ImprovePanel(QWidget* parent, Units units)
         rows->addWidget(line);
     }
     time_ = new QProgressBar(this);
-    NameControl(*time_, Controls::improveTime, QStringLiteral("Time used"));
+    NameControl(*time_, Controls::improveTime, ToQt(Words("Time used")));
     time_->setRange(0, Seconds * MillisecondsPerSecond);
     time_->setTextVisible(false);
     rows->addWidget(time_);
-    stop_ = NewButton(this, Controls::stopImproving, "STOP");
+    stop_ = NewButton(this, Controls::stopImproving, Words("STOP"));
     connect(stop_, &QPushButton::clicked, this, [this] { Stop(); });
     rows->addWidget(stop_, 0, Qt::AlignRight);
     hide();
@@ -72,7 +74,7 @@ ImprovedEstimate ImprovePanel::Run(const Search& search) {
             Panel.running_ = true;
             Panel.stopped_ = false;
             Panel.shown_ = false;
-            SetText(*Panel.best_, "Looking for a better layout");
+            SetText(*Panel.best_, Words("Looking for a better layout"));
             SetText(*Panel.least_, {});
             SetText(*Panel.gap_, {});
             Panel.time_->setValue(0);
@@ -111,10 +113,11 @@ bool ImprovePanel::Progress(const ImproveProgress& progress) {
 }
 
 void ImprovePanel::Show(const ImproveProgress& progress) {
-    SetText(*best_, "Fills so far: " + LengthText(progress.Best, units_));
+    SetText(*best_, Words("Fills so far: %1", LengthText(progress.Best, units_)));
     const bool proven = progress.Bound > 0 && !progress.StartBelowRules;
-    SetText(*least_, proven ? "No layout takes less than: " + BoundText(progress.Bound, units_)
-                            : std::string());
+    SetText(*least_, proven
+                         ? Words("No layout takes less than: %1", BoundText(progress.Bound, units_))
+                         : std::string());
     SetText(*gap_, GapText(progress));
     time_->setValue(static_cast<int>(
         std::min<qint64>(sinceStart_.elapsed(), qint64{Seconds} * MillisecondsPerSecond)));

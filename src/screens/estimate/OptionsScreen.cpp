@@ -1,5 +1,6 @@
 #include "screens/estimate/OptionsScreen.h"
 
+#include "base/Words.h"
 #include "estimate/MakeEstimate.h"
 #include "files/QtText.h"
 #include "screens/Arrangement.h"
@@ -26,8 +27,8 @@ namespace tarn {
 
 namespace {
 
-constexpr const char* SearchFailure = "The fills could not be laid out.";
-constexpr const char* EmptyFailure = "The estimate could not be emptied.";
+constexpr auto SearchFailure = Words("The fills could not be laid out.");
+constexpr auto EmptyFailure = Words("The estimate could not be emptied.");
 
 QFrame* NewFrame(QWidget* parent, const char* name) {
     auto* frame = new QFrame(parent);
@@ -41,7 +42,7 @@ void AddHeading(QVBoxLayout& layout, QWidget& frame, const char* captionName,
     QLabel* label = NewLabel(&frame, captionName, caption);
     SetRole(*label, TextRole::Heading);
     layout.addWidget(label);
-    QLabel* select = NewLabel(&frame, selectName, "SELECT");
+    QLabel* select = NewLabel(&frame, selectName, Words("SELECT"));
     SetRole(*select, TextRole::Hint);
     layout.addWidget(select);
     frame.setAccessibleName(ToQt(caption));
@@ -59,7 +60,7 @@ std::size_t FirstChosen(std::span<QRadioButton* const> options) {
 
 OptionsScreen::OptionsScreen(Session& session, const EstimateRequest& request,
                              EstimateClient& client)
-    : TitledScreen(session, Controls::optionsScreen, "*ESTIMATION OPTIONS*")
+    : TitledScreen(session, Controls::optionsScreen, Words("*ESTIMATION OPTIONS*"))
     , request_(request)
     , client_(client) {
     BuildPanel();
@@ -80,7 +81,7 @@ void OptionsScreen::Choose(const FillChoices& choices) {
 
 void OptionsScreen::BuildMinCuts(QWidget& frame) {
     auto* layout = new QVBoxLayout(&frame);
-    AddHeading(*layout, frame, Controls::minCutHeading, "MINIMUM CUT LENGTH",
+    AddHeading(*layout, frame, Controls::minCutHeading, Words("MINIMUM CUT LENGTH"),
                Controls::minCutSelect);
     auto* group = new QButtonGroup(&frame);
     KeepTabAtChosen(*group);
@@ -89,8 +90,9 @@ void OptionsScreen::BuildMinCuts(QWidget& frame) {
         auto* option = new QRadioButton(&frame);
         option->setObjectName(Controls::minCuts[i]);
         SetCaption(*option, MinCutCaption(minCut, request_.In));
-        option->setToolTip(ToQt("No part of a fill becomes shorter than " +
-                                MinCutInForce(minCut, request_.In, Shared().Project.Now.Scale)));
+        option->setToolTip(
+            ToQt(Words("No part of a fill becomes shorter than %1",
+                       MinCutInForce(minCut, request_.In, Shared().Project.Now.Scale))));
         group->addButton(option);
         layout->addWidget(option);
         minCuts_[i] = option;
@@ -101,7 +103,7 @@ void OptionsScreen::BuildMinCuts(QWidget& frame) {
 
 void OptionsScreen::BuildPieces(QWidget& frame) {
     auto* layout = new QVBoxLayout(&frame);
-    AddHeading(*layout, frame, Controls::piecesHeading, "MAXIMUM NUMBER OF PIECES PER FILL",
+    AddHeading(*layout, frame, Controls::piecesHeading, Words("MAXIMUM NUMBER OF PIECES PER FILL"),
                Controls::piecesSelect);
     auto* group = new QButtonGroup(&frame);
     KeepTabAtChosen(*group);
@@ -112,7 +114,7 @@ void OptionsScreen::BuildPieces(QWidget& frame) {
         const std::string caption = std::to_string(index + 1);
         auto* option = new QRadioButton(&frame);
         option->setObjectName(Controls::piecesPerFill[i]);
-        SetCaption(*option, caption, caption.front());
+        SetCaption(*option, "&" + caption);
         group->addButton(option);
         grid->addWidget(option, index % Rows, index / Rows);
         pieces_[i] = option;
@@ -126,7 +128,7 @@ QLayout* OptionsScreen::BuildProgress(QWidget& frame) {
     auto* row = new QHBoxLayout;
     bar_ = new QProgressBar(&frame);
     bar_->setTextVisible(false);
-    NameControl(*bar_, Controls::searchProgress, QStringLiteral("Search progress"));
+    NameControl(*bar_, Controls::searchProgress, ToQt(Words("Search progress")));
     percentage_ = NewLabel(&frame, Controls::searchPercentage, "");
     percentage_->ensurePolished(); // gives it the type that it is measured in
     percentage_->setMinimumWidth(
@@ -135,7 +137,7 @@ QLayout* OptionsScreen::BuildProgress(QWidget& frame) {
         KeepRoom(*progress);
         progress->hide();
     }
-    continue_ = NewButton(&frame, Controls::layOutFills, "Continue", 'C');
+    continue_ = NewButton(&frame, Controls::layOutFills, Words("&Continue"));
     continue_->setEnabled(false);
     SetPrimary(*continue_);
     OnClick(*continue_, SearchFailure, [this] { Continue(); });
@@ -151,7 +153,7 @@ void OptionsScreen::BuildPanel() {
     auto* layout = new QVBoxLayout(panel);
     SetSpacing(*layout, Metrics::Margin);
 
-    QLabel* heading = NewLabel(panel, Controls::optionsHeading, "ESTIMATING FILLS MENU");
+    QLabel* heading = NewLabel(panel, Controls::optionsHeading, Words("ESTIMATING FILLS MENU"));
     SetRole(*heading, TextRole::Heading);
     heading->setAlignment(Qt::AlignHCenter);
     layout->addWidget(heading);

@@ -1,5 +1,6 @@
 #include "screens/estimate/PictureBox.h"
 
+#include "base/Words.h"
 #include "files/QtText.h"
 #include "paper/PaintDrawing.h"
 #include "screens/Arrangement.h"
@@ -59,7 +60,7 @@ PictureBox::PictureBox(QWidget* parent, Dialogs& boxes)
           },
           [this] { return DrawnTwips(); }) {
     TellAsPicture(*this); // before it is named, which is told already
-    NameControl(*this, Controls::layoutPicture, QStringLiteral("Layout drawing"));
+    NameControl(*this, Controls::layoutPicture, ToQt(Words("Layout drawing")));
     setToolTip(ZoomHint());
     setFocusPolicy(Qt::StrongFocus);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
@@ -72,8 +73,8 @@ PictureBox::PictureBox(QWidget* parent, Dialogs& boxes)
 }
 
 QString PictureBox::ZoomHint() {
-    return QStringLiteral("Zoom: + and \u2212, or Ctrl and wheel.  0: actual size.  "
-                          "Double click: everything.");
+    return ToQt(Words("Zoom: + and \u2212, or Ctrl and wheel.  0: actual size.  "
+                      "Double click: everything."));
 }
 
 void PictureBox::ShowChanged(Drawing drawing) {
@@ -114,7 +115,7 @@ QPointF PictureBox::ToViewport(QPointF twips) const {
 }
 
 bool PictureBox::Guard(const std::function<void()>& body) const {
-    return Guarded(boxes_, "The layout could not be shown.", body);
+    return Guarded(boxes_, Words("The layout could not be shown."), body);
 }
 
 double PictureBox::PixelsPerTwip() const {

@@ -2,6 +2,7 @@
 
 #include "base/RunTimeError.h"
 #include "base/Text.h"
+#include "base/Words.h"
 #include "estimate/EstimateChoices.h"
 #include "project/Coverings.h"
 #include "project/RoomExtents.h"
@@ -16,11 +17,11 @@ namespace tarn {
 namespace {
 
 std::string FailureText(const std::string& project, const std::string& cause) {
-    return "The project " + project + " could not be loaded. " + cause;
+    return Words("The project %1 could not be loaded. %2", project, cause);
 }
 
 std::string FindingsText(const std::string& project, const std::vector<std::string>& findings) {
-    std::string text = "The project " + project + " is not stored as it should be:";
+    std::string text = Words("The project %1 is not stored as it should be:", project);
     for (const std::string& finding : findings) {
         text.append(CrLf).append(finding);
     }
@@ -33,7 +34,7 @@ std::string ExtentsFailure(const Project& project) {
         RequireExtents(project, Units::Imperial);
         return {};
     } catch (const RunTimeError& error) {
-        return "The size of a room: " + error.Sentences();
+        return Words("The size of a room: %1", error.Sentences());
     }
 }
 

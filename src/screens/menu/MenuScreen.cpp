@@ -1,6 +1,8 @@
 #include "screens/menu/MenuScreen.h"
 
 #include "base/Text.h"
+#include "base/Words.h"
+#include "files/Language.h"
 #include "files/QtText.h"
 #include "screens/Arrangement.h"
 #include "screens/ControlNames.h"
@@ -10,6 +12,7 @@
 #include "screens/menu/MenuLoad.h"
 
 #include <QAction>
+#include <QActionGroup>
 #include <QCheckBox>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -25,8 +28,8 @@ namespace {
 
 constexpr double PanelWidth = 5700; // twips
 
-constexpr const char* UnitsFailure = "The units could not be changed.";
-constexpr const char* TakeBackFailure = "The rooms could not be taken back.";
+constexpr auto UnitsFailure = Words("The units could not be changed.");
+constexpr auto TakeBackFailure = Words("The rooms could not be taken back.");
 
 /// The time of a draft as the user's clock showed it, such as 22 Nov 14:05; with the year when it
 /// is not this one.
@@ -40,19 +43,19 @@ std::string DraftTime(const QDateTime& written, const QDate& today) {
 /// What a draft has, in a word.
 std::string ContentText(const Draft& draft) {
     if (!draft.Rooms) {
-        const bool isOrder = draft.Orders || draft.Typed.IsEmpty();
-        return isOrder ? "the choices of an order" : "a room that was being typed";
+        return draft.Orders ? Words("the choices of an order")
+                            : Words("a room that was being typed");
     }
     const std::size_t rooms = draft.Rooms->size();
-    return TrimStr(static_cast<long long>(rooms)) + (rooms == 1 ? " room" : " rooms");
+    return CountedWords("%n room", "%n rooms", static_cast<long long>(rooms));
 }
 
 } // namespace
 
 MenuScreen::MenuScreen(Session& session, MenuEntry entry)
-    : TitledScreen(session, Controls::menuScreen, "*SOLVANE OPTIONS*") {
+    : TitledScreen(session, Controls::menuScreen, Words("*SOLVANE OPTIONS*")) {
     BuildPanel();
-    BuildExit();
+    BuildMenus();
     OpenProject& project = Shared().Project;
     const MenuLoad load = LoadMenu(project, Shared().Store, entry);
     if (!project.IsUsable) {
@@ -75,31 +78,31 @@ void MenuScreen::BuildPanel() {
     SetPanel(*panel);
     panel->setMinimumWidth(Pixels(PanelWidth));
 
-    auto* heading = NewLabel(panel, Controls::menuHeading, "OPERATION MENU");
+    auto* heading = NewLabel(panel, Controls::menuHeading, Words("OPERATION MENU"));
     SetRole(*heading, TextRole::Heading);
     heading->setAlignment(Qt::AlignCenter);
     panel->setAccessibleName(heading->text());
-    notSaved_ = NewLabel(panel, Controls::notSaved, "NOT SAVED");
+    notSaved_ = NewLabel(panel, Controls::notSaved, Words("NOT SAVED"));
     SetRole(*notSaved_, TextRole::Warning);
     notSaved_->setAlignment(Qt::AlignCenter);
     notKept_ = NewLabel(panel, Controls::notKept, "");
     SetRole(*notKept_, TextRole::Warning);
     notKept_->setAlignment(Qt::AlignCenter);
     notKept_->setWordWrap(true);
-    tilesOnly_ = NewLabel(panel, Controls::tilesOnly, "TILES ONLY");
+    tilesOnly_ = NewLabel(panel, Controls::tilesOnly, Words("TILES ONLY"));
     SetRole(*tilesOnly_, TextRole::Hint);
     tilesOnly_->setAlignment(Qt::AlignCenter);
     Shared().Drafts.OnTrouble(*this, [this] { ShowTrouble(); });
 
     QHBoxLayout* units = BuildUnits(panel);
     QHBoxLayout* drafts = BuildTakeBack(panel);
-    enterRooms_ = NewButton(panel, Controls::enterRooms, "ENTER/EDIT DATA", 'D');
-    back_ = NewButton(panel, Controls::backToProjects, "BACKWARD", 'B');
-    estimate_ = NewButton(panel, Controls::estimateFromMenu, "ESTIMATE", 'E');
+    enterRooms_ = NewButton(panel, Controls::enterRooms, Words("ENTER/E&DIT DATA"));
+    back_ = NewButton(panel, Controls::backToProjects, Words("&BACKWARD"));
+    estimate_ = NewButton(panel, Controls::estimateFromMenu, Words("&ESTIMATE"));
     SetPrimary(*enterRooms_);
-    OnClick(*enterRooms_, "The rooms could not be opened.", [this] { EnterRooms(); });
-    OnClick(*back_, "The projects could not be shown.", [this] { GoBack(); });
-    OnClick(*estimate_, "The estimate could not be opened.", [this] { Estimate(); });
+    OnClick(*enterRooms_, Words("The rooms could not be opened."), [this] { EnterRooms(); });
+    OnClick(*back_, Words("The projects could not be shown."), [this] { GoBack(); });
+    OnClick(*estimate_, Words("The estimate could not be opened."), [this] { Estimate(); });
 
     auto* layout = new QVBoxLayout(panel);
     SetSpacing(*layout, Metrics::Margin);
@@ -117,17 +120,40 @@ void MenuScreen::BuildPanel() {
     SetTabOrders({metric_, enteredIn_, takeBack_, earlier_, enterRooms_, estimate_, back_});
 }
 
-void MenuScreen::BuildExit() {
-    QAction* exit = Menus().addAction(QStringLiteral("E&xit"));
+void MenuScreen::BuildMenus() {
+    QAction* exit = Menus().addAction(ToQt(Words("E&xit")));
     exit->setObjectName(Controls::exitFromMenu);
-    connect(exit, &QAction::triggered, this,
-            [this] { Guard("The program could not be ended.", [this] { Shared().Go.End(); }); });
+    connect(exit, &QAction::triggered, this, [this] {
+        Guard(Words("The program could not be ended."), [this] { Shared().Go.End(); });
+    });
+    BuildLanguages();
+    AddHelpMenu();
+}
+
+void MenuScreen::BuildLanguages() {
+    QMenu* menu = Menus().addMenu(ToQt(Words("&Language")));
+    menu->setObjectName(Controls::languageMenu);
+    auto* group = new QActionGroup(menu);
+    const std::string chosen = Shared().Kept.Language();
+    for (const KnownLanguage& language : KnownLanguages()) {
+        QAction* action = menu->addAction(ToQt(language.Name));
+        action->setCheckable(true);
+        action->setChecked(language.Code == (chosen.empty() ? "en" : chosen));
+        group->addAction(action);
+        connect(action, &QAction::triggered, this, [this, language] {
+            Guard(Words("The language could not be chosen."), [&] {
+                Shared().Kept.ChooseLanguage(language.Code);
+                Shared().Boxes.Message(Words(
+                    "From its next start on the program speaks this language: %1", language.Name));
+            });
+        });
+    }
 }
 
 QHBoxLayout* MenuScreen::BuildUnits(QWidget* panel) {
     metric_ = new QCheckBox(panel);
     metric_->setObjectName(Controls::metric);
-    SetCaption(*metric_, "Metric", 'M');
+    SetCaption(*metric_, Words("&Metric"));
     connect(metric_, &QCheckBox::toggled, this, [this](bool ticked) {
         Guard(UnitsFailure, [&] {
             Shared().Project.Shown = ticked ? Units::Metric : Units::Imperial;
@@ -149,7 +175,7 @@ QHBoxLayout* MenuScreen::BuildUnits(QWidget* panel) {
 
 QHBoxLayout* MenuScreen::BuildTakeBack(QWidget* panel) {
     takeBack_ = NewButton(panel, Controls::takeBack, "");
-    earlier_ = NewButton(panel, Controls::earlierRooms, "EARLIER", 'R');
+    earlier_ = NewButton(panel, Controls::earlierRooms, Words("EA&RLIER"));
     earlierMenu_ = new QMenu(earlier_);
     earlierMenu_->setObjectName(Controls::earlierRoomsMenu);
     earlier_->setMenu(earlierMenu_);
@@ -173,13 +199,13 @@ void MenuScreen::ShowProject() {
 
 void MenuScreen::ShowTrouble() {
     const std::string& trouble = Shared().Drafts.Trouble();
-    notKept_->setText(ToQt("NOT KEPT: " + trouble));
+    notKept_->setText(ToQt(Words("NOT KEPT: %1", trouble)));
     notKept_->setVisible(!trouble.empty());
 }
 
 void MenuScreen::ShowUnits() {
     const std::string_view words = UnitsWarning(Shared().Project);
-    SetCaption(*enteredIn_, words, words.empty() ? '\0' : 'N');
+    SetCaption(*enteredIn_, words);
     enteredIn_->setVisible(!words.empty());
 }
 
@@ -197,8 +223,8 @@ void MenuScreen::OfferDrafts() {
         if (i == 0) {
             const Draft& draft = offered_[i].Record.Content;
             const bool hasRooms = draft.Rooms || !draft.Typed.IsEmpty();
-            SetCaption(*takeBack_,
-                       (hasRooms ? "TAKE BACK ROOMS OF " : "TAKE BACK ORDER OF ") + time, 'T');
+            SetCaption(*takeBack_, hasRooms ? Words("&TAKE BACK ROOMS OF %1", time)
+                                            : Words("&TAKE BACK ORDER OF %1", time));
         }
         const QAction* item =
             earlierMenu_->addAction(ToQt(time + ", " + ContentText(offered_[i].Record.Content)));
@@ -211,7 +237,7 @@ void MenuScreen::TakeBack(std::size_t place) {
     const KeptDraft draft = offered_.at(place);
     const std::string time = DraftTime(draft.Record.Written, Shared().Today());
     Shared().History.Do(
-        AnyRoom, [&] { Shared().Drafts.TakeBack(draft); }, "take back rooms of " + time);
+        AnyRoom, [&] { Shared().Drafts.TakeBack(draft); }, Words("Take back rooms of %1", time));
     enterRooms_->setFocus(); // before the button goes
     ShowProject();
 }

@@ -27,7 +27,9 @@ class MenuScreen : public TitledScreen {
 
   private:
     void BuildPanel();
-    void BuildExit();
+    void BuildMenus();
+    /// The languages, to choose that of the next start.
+    void BuildLanguages();
     QHBoxLayout* BuildUnits(QWidget* panel);
     QHBoxLayout* BuildTakeBack(QWidget* panel);
     /// Show what the open project is: its units, whether it is saved, which drafts it has.

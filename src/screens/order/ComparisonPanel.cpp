@@ -1,6 +1,7 @@
 #include "screens/order/ComparisonPanel.h"
 
 #include "base/Text.h"
+#include "base/Words.h"
 #include "files/QtText.h"
 #include "order/ComparisonText.h"
 #include "screens/Arrangement.h"
@@ -101,7 +102,7 @@ std::vector<std::string> TableRow(std::string mark, const std::vector<std::strin
 }
 
 std::vector<std::string> Heads(Units units) {
-    return TableRow("Take", ComparisonHeads(units), "Above least %", "Notes");
+    return TableRow(Words("Take"), ComparisonHeads(units), Words("Above least %"), Words("Notes"));
 }
 
 QLabel* NewLine(QWidget* parent, const char* name, TextRole role) {
@@ -127,9 +128,8 @@ ComparisonPanel::ComparisonPanel(QWidget* parent)
     : QWidget(parent) {
     setObjectName(Controls::comparisonPanel);
     taken_ = NewLine(this, Controls::comparisonTaken, TextRole::Heading);
-    rule_ = NewLine(this, Controls::comparisonRule, TextRole::Hint);
-    table_ = new ComparisonTable(this);
-    NameControl(*table_, Controls::comparison, QStringLiteral("Comparison of rolls and lays"));
+    table_ = new RowsHighTable(this);
+    NameControl(*table_, Controls::comparison, ToQt(Words("Comparison of rolls and lays")));
     table_->setTabKeyNavigation(false); // it leads on to the next control
     table_->setEditTriggers(QAbstractItemView::NoEditTriggers);
     table_->setSelectionBehavior(QAbstractItemView::SelectRows);
@@ -212,9 +212,9 @@ void ComparisonPanel::SetHeads(Units units) {
 
 void ComparisonPanel::SetCells(const Order& order, std::size_t row, bool isTaken) {
     const OrderCandidate& candidate = order.Candidates[row];
-    const char* const mark = order.Best == row              ? "best"
-                             : isTaken && candidate.Figures ? "chosen"
-                                                            : "";
+    const Phrase mark = order.Best == row              ? Words("best")
+                        : isTaken && candidate.Figures ? Words("chosen")
+                                                       : Phrase();
     const auto cells = TableRow(mark, ComparisonCells(order, candidate), AboveLeastText(candidate),
                                 OneLine(RemarksOf(candidate)));
     for (int column = 0; column < table_->columnCount(); ++column) {

@@ -1,6 +1,7 @@
 #include "screens/order/OrderChoicePanel.h"
 
 #include "base/Text.h"
+#include "base/Words.h"
 #include "files/QtText.h"
 #include "project/Coverings.h"
 #include "screens/Arrangement.h"
@@ -27,39 +28,38 @@ namespace {
 
 constexpr double FieldWidth = 1150; ///< twips
 constexpr int LongestText = 20;     ///< characters of a field
-constexpr int RefusalLines = 2;     ///< kept free, so that nothing jumps
-constexpr const char* PatternHint =
+constexpr auto PatternHint = Words(
     "Across is the distance to the next column of the pattern. With a half drop, which sets it "
-    "half a repeat further along, that is half the repeat of makers who name the whole design.";
+    "half a repeat further along, that is half the repeat of makers who name the whole design.");
 
 /// A field of the panel by the option of the request that it is for.
 struct FieldOf {
     const char* Option;
     const char* Name;
     const char* CaptionName;
-    const char* Caption;
-    char Mnemonic;
+    Phrase Caption;
     std::string TypedOrder::*Text;
     int Row; ///< in the grid of fields
     int Column;
 };
 constexpr std::array<FieldOf, 9> Fields{
-    {{"selvage", Controls::orderSelvage, Controls::orderSelvageCaption, "SELVAGE", 'G',
+    {{"selvage", Controls::orderSelvage, Controls::orderSelvageCaption, Words("SELVA&GE"),
       &TypedOrder::Selvage, 0, 0},
-     {"step", Controls::orderStep, Controls::orderStepCaption, "STEP", 0, &TypedOrder::Step, 0, 1},
-     {"trim along", Controls::orderTrimAlong, Controls::orderTrimAlongCaption, "TRIM ALONG", 'A',
+     {"step", Controls::orderStep, Controls::orderStepCaption, Words("STEP"), &TypedOrder::Step, 0,
+      1},
+     {"trim along", Controls::orderTrimAlong, Controls::orderTrimAlongCaption, Words("TRIM &ALONG"),
       &TypedOrder::TrimAlong, 1, 0},
-     {"trim across", Controls::orderTrimAcross, Controls::orderTrimAcrossCaption, "TRIM ACROSS",
-      'O', &TypedOrder::TrimAcross, 1, 1},
+     {"trim across", Controls::orderTrimAcross, Controls::orderTrimAcrossCaption,
+      Words("TRIM ACR&OSS"), &TypedOrder::TrimAcross, 1, 1},
      {"shortest part", Controls::orderShortestPart, Controls::orderShortestPartCaption,
-      "SHORTEST PART", 'H', &TypedOrder::ShortestPart, 2, 1},
+      Words("S&HORTEST PART"), &TypedOrder::ShortestPart, 2, 1},
      {"pattern across", Controls::orderPatternAcross, Controls::orderPatternAcrossCaption,
-      "PATTERN ACROSS", 'N', &TypedOrder::PatternAcross, 4, 0},
+      Words("PATTER&N ACROSS"), &TypedOrder::PatternAcross, 4, 0},
      {"pattern along", Controls::orderPatternAlong, Controls::orderPatternAlongCaption,
-      "PATTERN ALONG", 'E', &TypedOrder::PatternAlong, 4, 1},
-     {"pattern drift", Controls::orderPatternDrift, Controls::orderPatternDriftCaption, "DRIFT %",
-      0, &TypedOrder::PatternDrift, 5, 1},
-     {"seconds", Controls::orderSeconds, Controls::orderSecondsCaption, "SECONDS", 0,
+      Words("PATT&ERN ALONG"), &TypedOrder::PatternAlong, 4, 1},
+     {"pattern drift", Controls::orderPatternDrift, Controls::orderPatternDriftCaption,
+      Words("DRIFT %"), &TypedOrder::PatternDrift, 5, 1},
+     {"seconds", Controls::orderSeconds, Controls::orderSecondsCaption, Words("SECONDS"),
       &TypedOrder::Seconds, 7, 1}}};
 constexpr int PartsRow = 2;
 constexpr int JoinRow = 3;
@@ -85,7 +85,7 @@ QBoxLayout* Labelled(QLabel* label, QWidget* control) {
 OrderChoicePanel::OrderChoicePanel(QWidget* parent, Units units)
     : QFrame(parent)
     , units_(units) {
-    NameControl(*this, Controls::orderChoices, QStringLiteral("Order choices"));
+    NameControl(*this, Controls::orderChoices, ToQt(Words("Order choices")));
     SetPanel(*this);
     columns_ = new QBoxLayout(QBoxLayout::TopToBottom);
     SetSpacing(*columns_, 0, Metrics::Spacing);
@@ -117,7 +117,7 @@ QBoxLayout* OrderChoicePanel::BuildRolls() {
     carpet_ = new QComboBox(this);
     carpet_->setObjectName(Controls::orderCarpet);
     rows->addLayout(Labelled(
-        NewLabelFor(*carpet_, this, Controls::orderCarpetCaption, "CARPET", 'C'), carpet_));
+        NewLabelFor(*carpet_, this, Controls::orderCarpetCaption, Words("&CARPET")), carpet_));
     note_ = NewLabel(this, Controls::orderNote, {});
     SetRole(*note_, TextRole::Warning);
     note_->setWordWrap(true);
@@ -125,13 +125,13 @@ QBoxLayout* OrderChoicePanel::BuildRolls() {
     rows->addWidget(note_);
     rolls_ = new RollTable(this, units_);
     rolls_->setObjectName(Controls::orderRolls);
-    auto* remove = NewButton(this, Controls::removeRoll, "REMOVE ROLL", 'V');
+    auto* remove = NewButton(this, Controls::removeRoll, Words("REMO&VE ROLL"));
     connect(remove, &QPushButton::clicked, this, [this] { rolls_->RemoveCurrent(); });
     rows->addLayout(
-        Labelled(NewLabelFor(*rolls_, this, Controls::orderRollsCaption, "ROLLS", 'R'), remove));
+        Labelled(NewLabelFor(*rolls_, this, Controls::orderRollsCaption, Words("&ROLLS")), remove));
     rows->addWidget(rolls_, 1);
-    down_ = NewBox(Controls::orderDownLay, "DOWN LAY", 'D');
-    cross_ = NewBox(Controls::orderCrossLay, "CROSS LAY", 'L');
+    down_ = NewBox(Controls::orderDownLay, Words("&DOWN LAY"));
+    cross_ = NewBox(Controls::orderCrossLay, Words("CROSS &LAY"));
     auto* lays = new QHBoxLayout;
     lays->addWidget(down_);
     lays->addWidget(cross_);
@@ -151,10 +151,8 @@ QBoxLayout* OrderChoicePanel::BuildFields() {
         box->setObjectName(field.Name);
         box->setMaxLength(LongestText);
         KeepTextWidth(*box, FieldWidth);
-        grid->addLayout(
-            Labelled(NewLabelFor(*box, this, field.CaptionName, field.Caption, field.Mnemonic),
-                     box),
-            field.Row, field.Column);
+        grid->addLayout(Labelled(NewLabelFor(*box, this, field.CaptionName, field.Caption), box),
+                        field.Row, field.Column);
         tabOrder_.push_back(box);
     };
     const auto addBox = [&](QCheckBox* box, int row, int columns) {
@@ -166,16 +164,16 @@ QBoxLayout* OrderChoicePanel::BuildFields() {
     }
     OfferParts();
     grid->addLayout(
-        Labelled(NewLabelFor(*parts_, this, Controls::orderPartingCaption, "PARTS AT MOST", 'P'),
+        Labelled(NewLabelFor(*parts_, this, Controls::orderPartingCaption, Words("&PARTS AT MOST")),
                  parts_),
         PartsRow, 0);
     tabOrder_.push_back(parts_);
     add("shortest part");
-    join_ = NewBox(Controls::orderJoinRooms, "JOIN ROOMS NO WIDER THAN THE ROLL", 'J');
+    join_ = NewBox(Controls::orderJoinRooms, Words("&JOIN ROOMS NO WIDER THAN THE ROLL"));
     addBox(join_, JoinRow, 2);
     add("pattern across");
     add("pattern along");
-    halfDrop_ = NewBox(Controls::orderHalfDrop, "HALF DROP", 'F');
+    halfDrop_ = NewBox(Controls::orderHalfDrop, Words("HAL&F DROP"));
     addBox(halfDrop_, HalfDropRow, 1);
     add("pattern drift");
     patternHint_ = NewLabel(this, Controls::orderPatternHint, PatternHint);
@@ -191,10 +189,10 @@ QBoxLayout* OrderChoicePanel::BuildFields() {
     return rows;
 }
 
-QCheckBox* OrderChoicePanel::NewBox(const char* name, std::string_view caption, char mnemonic) {
+QCheckBox* OrderChoicePanel::NewBox(const char* name, std::string_view caption) {
     auto* box = new QCheckBox(this);
     box->setObjectName(name);
-    SetCaption(*box, caption, mnemonic);
+    SetCaption(*box, caption);
     return box;
 }
 

@@ -62,7 +62,7 @@ class OrderChoicePanel : public QFrame {
   private:
     QBoxLayout* BuildRolls();
     QBoxLayout* BuildFields();
-    QCheckBox* NewBox(const char* name, std::string_view caption, char mnemonic);
+    QCheckBox* NewBox(const char* name, std::string_view caption);
     void OfferParts();
     void Connect();
     void NotePattern();

@@ -1,5 +1,6 @@
 #include "screens/order/OrderOutput.h"
 
+#include "base/Words.h"
 #include "files/OrderJson.h"
 #include "files/OrderTables.h"
 #include "files/OrderText.h"
@@ -26,7 +27,7 @@ std::string DateOf(const Session& session) {
 }
 
 std::string CarpetOf(const OrderDocument& document) {
-    return CoveringCaption(document.Orders.front().Carpet);
+    return CoveringName(document.Orders.front().Carpet); // in the name of a file
 }
 
 std::string PdfOf(const Session& session, const OrderDocument& document) {
@@ -45,13 +46,13 @@ const std::array<OrderFile, 6>& OrderFiles() {
     static const std::array<OrderFile, 6> files{
         {{SaveAsPdfCaption, "pdf", PdfOf},
          {SaveAsSvgCaption, "svg", SvgOf},
-         {"Save as spreadsheet (&XLSX)", "xlsx",
+         {Words("Save as spreadsheet (&XLSX)"), "xlsx",
           [](const Session&, Document document) { return OrderXlsx(document); }},
-         {"Save as &CSV", "csv",
+         {Words("Save as &CSV"), "csv",
           [](const Session&, Document document) { return OrderCsv(document); }},
-         {"Save as &text", "txt",
+         {Words("Save as &text"), "txt",
           [](const Session&, Document document) { return OrderText(document); }},
-         {"Save as &JSON", "json",
+         {Words("Save as &JSON"), "json",
           [](const Session&, Document document) { return OrderJson(document); }}}};
     return files;
 }

@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include "base/Words.h"
 #include "files/OrderDocument.h"
 #include "screens/Session.h"
 
@@ -12,7 +13,7 @@ namespace tarn {
 
 /// A kind of file that an order is saved as.
 struct OrderFile {
-    const char* Caption; ///< with its mnemonic
+    Phrase Caption; ///< with its mnemonic
     const char* Suffix;
     /// The whole content. May raise.
     std::string (*ContentOf)(const Session& session, const OrderDocument& document);

@@ -1,5 +1,6 @@
 #include "screens/order/OrderScreen.h"
 
+#include "base/Words.h"
 #include "files/QtText.h"
 #include "screens/Arrangement.h"
 #include "screens/ControlNames.h"
@@ -32,23 +33,25 @@ namespace tarn {
 
 namespace {
 
-constexpr const char* OrderFailure = "The order could not be made.";
-constexpr const char* ChoiceFailure = "The choices could not be taken.";
-constexpr const char* FileFailure = "The order could not be saved.";
-constexpr const char* LeaveFailure = "The screen could not be closed.";
+constexpr auto OrderFailure = Words("The order could not be made.");
+constexpr auto ChoiceFailure = Words("The choices could not be taken.");
+constexpr auto FileFailure = Words("The order could not be saved.");
+constexpr auto LeaveFailure = Words("The screen could not be closed.");
 
-constexpr std::string_view Comparing = "Comparing. STOP keeps the best so far.";
-constexpr std::string_view Compared = "Compared.";
-constexpr std::string_view Stopped = "Stopped: the best so far.";
-constexpr std::string_view OutOfDate = "OUT OF DATE: the choices have changed. Press COMPARE.";
-constexpr std::string_view AllRefused = "Every roll and lay is refused: the notes say why.";
+constexpr auto Comparing = Words("Comparing. STOP keeps the best so far.");
+constexpr auto Compared = Words("Compared.");
+constexpr auto Stopped = Words("Stopped: the best so far.");
+constexpr auto OutOfDate = Words("OUT OF DATE: the choices have changed. Press COMPARE.");
+constexpr auto AllRefused = Words("Every roll and lay is refused: the notes say why.");
 
 constexpr double WideFrom = 16500; ///< twips: from here on all parts stand side by side
 
 std::string OtherUnitsNote(Units shown) {
-    return std::string("The request that is kept for this carpet is in ") +
-           (shown == Units::Metric ? "feet and inches" : "metric") +
-           " and is not used. What you change takes its place.";
+    return shown == Units::Metric
+               ? Words("The request that is kept for this carpet is in feet and inches and is not "
+                       "used. What you change takes its place.")
+               : Words("The request that is kept for this carpet is in metric and is not used. "
+                       "What you change takes its place.");
 }
 
 } // namespace
@@ -92,9 +95,9 @@ QBoxLayout* OrderScreen::BuildTitle() {
     unitsWarning_ = NewLabel(&Body(), Controls::titleWarning, "");
     SetRole(*unitsWarning_, TextRole::Warning);
     tabs_ = new QTabBar(&Body());
-    NameControl(*tabs_, Controls::orderParts, QStringLiteral("Parts of the screen"));
-    for (const char* caption : {"CHOICES", "COMPARISON", "ROLL"}) {
-        tabs_->addTab(QString::fromLatin1(caption));
+    NameControl(*tabs_, Controls::orderParts, ToQt(Words("Parts of the screen")));
+    for (const Phrase caption : {Words("CHOICES"), Words("COMPARISON"), Words("ROLL")}) {
+        tabs_->addTab(ToQt(caption));
     }
     tabs_->setDrawBase(false);
     tabs_->setUsesScrollButtons(false);
@@ -129,11 +132,11 @@ QBoxLayout* OrderScreen::BuildParts() {
 }
 
 QBoxLayout* OrderScreen::BuildButtons() {
-    compare_ = NewButton(&Body(), Controls::compare, "COMPARE", 'M');
-    stop_ = NewButton(&Body(), Controls::stopComparing, "STOP", 'T');
-    print_ = NewButton(&Body(), Controls::printOrder, "PRINT", 'I');
-    saveAs_ = NewButton(&Body(), Controls::saveOrderAs, "SAVE AS", 'S');
-    back_ = NewButton(&Body(), Controls::leaveOrder, "BACK", 'B');
+    compare_ = NewButton(&Body(), Controls::compare, Words("CO&MPARE"));
+    stop_ = NewButton(&Body(), Controls::stopComparing, Words("S&TOP"));
+    print_ = NewButton(&Body(), Controls::printOrder, Words("PR&INT"));
+    saveAs_ = NewButton(&Body(), Controls::saveOrderAs, Words("&SAVE AS"));
+    back_ = NewButton(&Body(), Controls::leaveOrder, Words("&BACK"));
     SetPrimary(*compare_);
     BuildFiles();
     auto* line = new QHBoxLayout;
@@ -152,7 +155,7 @@ void OrderScreen::BuildFiles() {
     files_->setObjectName(Controls::orderFiles);
     for (std::size_t kind = 0; kind < OrderFiles().size(); ++kind) {
         const OrderFile& file = OrderFiles()[kind];
-        QAction* action = files_->addAction(QString::fromLatin1(file.Caption));
+        QAction* action = files_->addAction(ToQt(file.Caption));
         action->setObjectName(Controls::orderFileActions[kind]);
         connect(action, &QAction::triggered, this,
                 [this, &file] { Guard(FileFailure, [&] { SaveTaken(file); }); });
@@ -195,16 +198,16 @@ void OrderScreen::SetTabOrder() {
 }
 
 void OrderScreen::ShowTitle() {
-    setWindowTitle(ToQt("ORDER FOR PROJECT: " + Shared().Project.Now.Name));
+    setWindowTitle(ToQt(Words("ORDER FOR PROJECT: %1", Shared().Project.Now.Name)));
     SetText(*title_, FromQt(windowTitle()));
     const std::string_view words = UnitsWarning(Shared().Project);
-    SetText(*unitsWarning_, words);
+    SetText(*unitsWarning_, FromQt(WithoutMark(words)));
     unitsWarning_->setVisible(!words.empty());
 }
 
 bool OrderScreen::eventFilter(QObject* watched, QEvent* event) {
     if (watched == &Body() && event->type() == QEvent::Resize) {
-        Guard("The screen could not be arranged.", [this] { Arrange(); });
+        Guard(Words("The screen could not be arranged."), [this] { Arrange(); });
     }
     return Screen::eventFilter(watched, event);
 }

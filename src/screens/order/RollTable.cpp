@@ -1,5 +1,6 @@
 #include "screens/order/RollTable.h"
 
+#include "base/Words.h"
 #include "files/QtText.h"
 #include "project/TypedText.h"
 #include "screens/Theme.h"
@@ -53,8 +54,9 @@ QString Kept(const QString& text) {
 
 RollTable::RollTable(QWidget* parent, Units units)
     : QTableWidget(0, Columns, parent) {
-    const char* const price = units == Units::Metric ? "Price per\nsq. m" : "Price per\nsq. yd";
-    setHorizontalHeaderLabels({QStringLiteral("Width"), QStringLiteral("Name"), ToQt(price)});
+    const Phrase price =
+        units == Units::Metric ? Words("Price per\nsq. m") : Words("Price per\nsq. yd");
+    setHorizontalHeaderLabels({ToQt(Words("Width")), ToQt(Words("Name")), ToQt(price)});
     setItemDelegate(new CellDelegate(this));
     setTabKeyNavigation(false); // it leads on to the next control
     setSelectionMode(SingleSelection);

@@ -1,6 +1,7 @@
 #include "screens/projects/ProjectChoice.h"
 
 #include "base/Text.h"
+#include "base/Words.h"
 #include "store/Names.h"
 #include "store/ProjectStore.h"
 
@@ -24,7 +25,7 @@ ChoiceResult AcceptExisting(ProjectStore& store, Project& current, const Project
                             const std::string& name) {
     const auto ownDirectory = store.DirectoryOf(name);
     if (!ownDirectory) {
-        return Refusal("The project is no longer there. Please select it again!");
+        return Refusal(Words("The project is no longer there. Please select it again!"));
     }
     current.Directory = choice.Directory.value_or(*ownDirectory);
     current.Name = name;
@@ -34,11 +35,12 @@ ChoiceResult AcceptExisting(ProjectStore& store, Project& current, const Project
 ChoiceResult AcceptNew(ProjectStore& store, Project& current, const ProjectChoice& choice,
                        const std::string& name) {
     if (store.DirectoryOf(name)) {
-        return Refusal("The Project Name: " + TrimStr(choice.Name) + " has been used" +
-                       std::string(CrLf) + "Please change to another name!");
+        return Refusal(Words("The Project Name: %1 has been used\r\n"
+                             "Please change to another name!",
+                             TrimStr(choice.Name)));
     }
     if (!choice.Directory) {
-        return Refusal("Please select a month or a directory.");
+        return Refusal(Words("Please select a month or a directory."));
     }
     store.AddProject(*choice.Directory, name);
     current.Directory = *choice.Directory;

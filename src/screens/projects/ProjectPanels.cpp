@@ -1,5 +1,7 @@
 #include "screens/projects/ProjectPanels.h"
 
+#include "base/Words.h"
+#include "files/QtText.h"
 #include "screens/Arrangement.h"
 #include "screens/ControlNames.h"
 #include "screens/Controls.h"
@@ -25,9 +27,8 @@ constexpr double MonthsWidth = 2250;
 constexpr double DirectoriesWidth = 3300;
 constexpr double ProjectsWidth = 4500;
 
-QPushButton* NewWideButton(QWidget* parent, const char* name, std::string_view caption,
-                           char mnemonic) {
-    QPushButton* button = NewButton(parent, name, caption, mnemonic);
+QPushButton* NewWideButton(QWidget* parent, const char* name, std::string_view caption) {
+    QPushButton* button = NewButton(parent, name, caption);
     button->setMinimumWidth(Pixels(Metrics::ButtonWidth));
     return button;
 }
@@ -46,7 +47,7 @@ SettingsPanel::SettingsPanel() {
     SetPanel(*this);
     setMinimumWidth(Pixels(SettingsWidth));
     auto* current = new QGroupBox(this);
-    current->setTitle(QStringLiteral(" CURRENT SETTING"));
+    current->setTitle(ToQt(Words(" CURRENT SETTING")));
     NameControl(*current, Controls::currentSetting, current->title());
     directory_ = NewSetting(current, Controls::currentDirectory);
     project_ = NewSetting(current, Controls::currentProject);
@@ -54,9 +55,9 @@ SettingsPanel::SettingsPanel() {
     settings->setSpacing(Pixels(Metrics::Spacing));
     settings->addWidget(directory_);
     settings->addWidget(project_);
-    SelectProject = NewWideButton(this, Controls::selectProject, "SELECT PROJECT", 'S');
+    SelectProject = NewWideButton(this, Controls::selectProject, Words("&SELECT PROJECT"));
     SetPrimary(*SelectProject);
-    Exit = NewWideButton(this, Controls::exitProgram, "EXIT", 'X');
+    Exit = NewWideButton(this, Controls::exitProgram, Words("E&XIT"));
     // The free place beside the buttons: a click there brings the focus back to the main one.
     BesideSelectProject = NewButton(this, Controls::besideSelectProject, {});
     BesideSelectProject->setFlat(true);
@@ -77,8 +78,9 @@ SettingsPanel::SettingsPanel() {
 }
 
 void SettingsPanel::Show(const std::string& directory, const std::string& project) {
-    SetText(*directory_, "DIRECTORY:" + directory);
-    SetText(*project_, project.empty() ? "No Project Selected" : "PROJECT:" + project);
+    SetText(*directory_, Words("DIRECTORY:%1", directory));
+    SetText(*project_, project.empty() ? std::string(Words("No Project Selected"))
+                                       : Words("PROJECT:%1", project));
 }
 
 SelectionPanel::SelectionPanel() {
@@ -99,19 +101,19 @@ void SelectionPanel::MakeControls() {
     Months = newList(Controls::months, MonthsWidth);
     Directories = newList(Controls::directories, DirectoriesWidth);
     Projects = newList(Controls::projects, ProjectsWidth);
-    monthsCaption_ = NewLabelFor(*Months, this, Controls::monthsCaption, "MONTHS", 'M');
+    monthsCaption_ = NewLabelFor(*Months, this, Controls::monthsCaption, Words("&MONTHS"));
     directoriesCaption_ =
-        NewLabelFor(*Directories, this, Controls::directoriesCaption, "DIRECTORIES", 'D');
-    projectsCaption_ = NewLabelFor(*Projects, this, Controls::projectsCaption, "PROJECTS", 'P');
+        NewLabelFor(*Directories, this, Controls::directoriesCaption, Words("&DIRECTORIES"));
+    projectsCaption_ = NewLabelFor(*Projects, this, Controls::projectsCaption, Words("&PROJECTS"));
 
     Name = new ProjectBox(this);
-    NameControl(*Name, Controls::projectBox, QStringLiteral("PROJECT"));
+    NameControl(*Name, Controls::projectBox, ToQt(Words("PROJECT")));
 
-    NewProject = NewWideButton(this, Controls::newProject, "NEW PROJECT", 'N');
-    NewDirectory = NewWideButton(this, Controls::newDirectory, "NEW DIRECTORY", 'Y');
-    Done = NewWideButton(this, Controls::acceptProject, "DONE", 'O');
+    NewProject = NewWideButton(this, Controls::newProject, Words("&NEW PROJECT"));
+    NewDirectory = NewWideButton(this, Controls::newDirectory, Words("NEW DIRECTOR&Y"));
+    Done = NewWideButton(this, Controls::acceptProject, Words("D&ONE"));
     SetPrimary(*Done);
-    Exit = NewWideButton(this, Controls::closeSelection, "EXIT", 'E');
+    Exit = NewWideButton(this, Controls::closeSelection, Words("&EXIT"));
 }
 
 void SelectionPanel::LayOut() {

@@ -1,6 +1,7 @@
 #include "screens/projects/ProjectScreen.h"
 
 #include "base/Text.h"
+#include "base/Words.h"
 #include "screens/ControlNames.h"
 #include "screens/projects/ChoiceList.h"
 #include "screens/projects/ProjectBox.h"
@@ -19,10 +20,10 @@ namespace tarn {
 
 namespace {
 
-constexpr const char* ListFailure = "The projects could not be listed.";
-constexpr const char* MakeDirectoryFailure = "The directory could not be made.";
-constexpr const char* RenameDirectoryFailure = "The directory could not be renamed.";
-constexpr const char* RenameProjectFailure = "The project could not be renamed.";
+constexpr auto ListFailure = Words("The projects could not be listed.");
+constexpr auto MakeDirectoryFailure = Words("The directory could not be made.");
+constexpr auto RenameDirectoryFailure = Words("The directory could not be renamed.");
+constexpr auto RenameProjectFailure = Words("The project could not be renamed.");
 
 /// The row that takes the place of a removed one; -1 in an empty list.
 int NeighbourOf(int removed, const ChoiceList& list) {
@@ -32,7 +33,7 @@ int NeighbourOf(int removed, const ChoiceList& list) {
 } // namespace
 
 ProjectScreen::ProjectScreen(Session& session)
-    : TitledScreen(session, Controls::projectScreen, "*PROJECT SELECTION*")
+    : TitledScreen(session, Controls::projectScreen, Words("*PROJECT SELECTION*"))
     , settings_(new SettingsPanel)
     , selection_(new SelectionPanel)
     , shownList_(selection_->Months) {
@@ -50,7 +51,8 @@ ProjectScreen::ProjectScreen(Session& session)
 
 void ProjectScreen::ConnectSettings() {
     OnClick(*settings_->SelectProject, ListFailure, [this] { OpenSelection(); });
-    OnClick(*settings_->Exit, "The program could not be ended.", [this] { Shared().Go.End(); });
+    OnClick(*settings_->Exit, Words("The program could not be ended."),
+            [this] { Shared().Go.End(); });
     OnClick(*settings_->BesideSelectProject, {}, [this] { settings_->SelectProject->setFocus(); });
 }
 
@@ -68,15 +70,15 @@ void ProjectScreen::ConnectLists() {
         Guard(RenameDirectoryFailure, [this] { AskDirectoryName(); });
     };
     directories.OnDelete = [this] {
-        Guard("The directory could not be deleted.", [this] { AskDeleteDirectory(); });
+        Guard(Words("The directory could not be deleted."), [this] { AskDeleteDirectory(); });
     };
     ChoiceList& projects = *selection_->Projects;
     projects.OnChosen = [this] {
-        Guard("The project could not be selected.", [this] { ProjectChosen(); });
+        Guard(Words("The project could not be selected."), [this] { ProjectChosen(); });
     };
     projects.OnRename = [this] { Guard(RenameProjectFailure, [this] { AskProjectName(); }); };
     projects.OnDelete = [this] {
-        Guard("The project could not be deleted.", [this] { AskDeleteProject(); });
+        Guard(Words("The project could not be deleted."), [this] { AskDeleteProject(); });
     };
 }
 
@@ -85,7 +87,7 @@ void ProjectScreen::ConnectSelection() {
     selection_->Name->OnLeftOut = [this] { Guard({}, [this] { TellLeftOut(); }); };
     OnClick(*selection_->NewProject, ListFailure, [this] { NewProject(); });
     OnClick(*selection_->NewDirectory, MakeDirectoryFailure, [this] { NewDirectory(); });
-    OnClick(*selection_->Done, "The project could not be selected.", [this] { Done(); });
+    OnClick(*selection_->Done, Words("The project could not be selected."), [this] { Done(); });
     OnClick(*selection_->Exit, {}, [this] { CloseSelection(); });
 }
 
@@ -257,7 +259,7 @@ void ProjectScreen::AskName(const std::string& prompt, const std::string& failur
 }
 
 void ProjectScreen::NewDirectory() {
-    AskName("Enter the new directory name", MakeDirectoryFailure,
+    AskName(Words("Enter the new directory name"), MakeDirectoryFailure,
             [this](const std::string& name) -> std::optional<std::string> {
                 if (IsDirectoryTaken(Shared().Store, name)) {
                     selection_->Directories->ScrollTo(name); // there it is
@@ -272,7 +274,7 @@ void ProjectScreen::NewDirectory() {
 void ProjectScreen::AskDirectoryName() {
     ChoiceList& list = *selection_->Directories;
     const std::string oldName = list.ChosenName().value();
-    AskName("Enter the new name you want to change to:", RenameDirectoryFailure,
+    AskName(Words("Enter the new name you want to change to:"), RenameDirectoryFailure,
             [&](const std::string& name) -> std::optional<std::string> {
                 if (name == StoredName(oldName)) {
                     return std::nullopt;
@@ -290,7 +292,7 @@ void ProjectScreen::AskDirectoryName() {
 void ProjectScreen::AskProjectName() {
     ChoiceList& list = *selection_->Projects;
     const std::string oldName = list.ChosenName().value();
-    AskName("Enter the new project name you want to change to:", RenameProjectFailure,
+    AskName(Words("Enter the new project name you want to change to:"), RenameProjectFailure,
             [&](const std::string& name) -> std::optional<std::string> {
                 if (name == StoredName(oldName)) {
                     return std::nullopt;
@@ -313,8 +315,8 @@ void ProjectScreen::AskProjectName() {
 
 void ProjectScreen::AskDeleteDirectory() {
     if (!Shared().Boxes.AskYesNo(
-            "Warning: Delete directory will make data under this directory lost!" +
-            std::string(CrLf) + "Do you want to continue deleting?")) {
+            Words("Warning: Delete directory will make data under this directory lost!\r\n"
+                  "Do you want to continue deleting?"))) {
         return;
     }
     ChoiceList& list = *selection_->Directories;
@@ -340,8 +342,9 @@ void ProjectScreen::AskDeleteDirectory() {
 }
 
 void ProjectScreen::AskDeleteProject() {
-    if (!Shared().Boxes.AskYesNo("Are you sure to delete this project?" + std::string(CrLf) +
-                                 "Delete operation will make the data of the project lost!")) {
+    if (!Shared().Boxes.AskYesNo(
+            Words("Are you sure to delete this project?\r\n"
+                  "Delete operation will make the data of the project lost!"))) {
         return;
     }
     ChoiceList& list = *selection_->Projects;

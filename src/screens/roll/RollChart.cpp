@@ -3,6 +3,7 @@
 #include "base/Lengths.h"
 #include "base/Numbers.h"
 #include "base/Text.h"
+#include "base/Words.h"
 #include "estimate/CutList.h"
 #include "estimate/FillLabels.h"
 #include "estimate/RollPlaces.h"
@@ -31,14 +32,15 @@ std::string RoomOnPiece(const Project& project, std::size_t room) {
             }
         }
     }
-    return "room " + TrimStr(static_cast<long long>(room) + 1);
+    return Words("room %1", TrimStr(static_cast<long long>(room) + 1));
 }
 
 /// "room 102", also of a room whose name says that it is one.
 std::string RoomSpoken(const std::string& name) {
-    constexpr std::string_view Word = "room ";
-    const bool says = UpperCaseLetters(name).starts_with(UpperCaseLetters(Word));
-    return says ? name : std::string(Word) + name;
+    const std::string spoken = Words("room %1", name);
+    const std::string_view word = std::string_view(spoken).substr(0, spoken.find(' ') + 1);
+    const bool says = UpperCaseLetters(name).starts_with(UpperCaseLetters(word));
+    return says ? name : spoken;
 }
 
 /// A length in inches as text that stands by itself.
@@ -49,13 +51,13 @@ std::string SpokenLength(Double inches, Units units) {
 
 std::string Described(const ChartPiece& piece, const std::string& across, const std::string& along,
                       const std::string& from, const std::string& to) {
-    return piece.Label + ", " + across + " by " + along + ", " + RoomSpoken(piece.Room) +
-           ", from " + from + " to " + to;
+    return Words("%1, %2 by %3, %4, from %5 to %6", piece.Label, across, along,
+                 RoomSpoken(piece.Room), from, to);
 }
 
 std::string DescribedRoll(const std::string& width, const std::string& length, std::size_t pieces) {
-    return "Roll " + width + " wide, " + length + " long, " +
-           TrimStr(static_cast<long long>(pieces)) + (pieces == 1 ? " piece" : " pieces");
+    return CountedWords("Roll %1 wide, %2 long, %n piece", "Roll %1 wide, %2 long, %n pieces",
+                        static_cast<long long>(pieces), width, length);
 }
 
 /// What the pieces leave of the roll, found to a hundredth of a unit where a Long can count so far.
@@ -161,13 +163,10 @@ class EstimateCharter {
     std::vector<std::size_t> rooms_; ///< of the pieces
 };
 
-/// A piece of an order in one line. Most pieces begin at the edge: that is not said.
-std::string LineText(const CutLine& line, bool isAtEdge) {
-    std::string text =
-        line.Label + ": " + line.Size + "  " + line.Room + "  " + line.From + " to " + line.To;
-    if (!isAtEdge) {
-        text += ", across " + line.Across;
-    }
+/// A piece of an order in one line.
+std::string LineText(const CutLine& line) {
+    std::string text = Words("%1: %2  %3  from %4 to %5, across %6", line.Label, line.Size,
+                             line.Room, line.From, line.To, line.Across);
     for (const std::string& more : {line.Which, line.Match}) {
         if (!more.empty()) {
             text += ", " + more;

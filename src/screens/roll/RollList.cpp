@@ -1,5 +1,6 @@
 #include "screens/roll/RollList.h"
 
+#include "base/Words.h"
 #include "files/QtText.h"
 #include "screens/ControlNames.h"
 #include "screens/Controls.h"
@@ -114,7 +115,7 @@ QVariant ChartLineModel::data(const QModelIndex& index, int role) const {
 RollList::RollList(QWidget* parent)
     : QListView(parent)
     , lines_(new ChartLineModel(this)) {
-    NameControl(*this, Controls::rollList, QStringLiteral("Cut list"));
+    NameControl(*this, Controls::rollList, ToQt(Words("Cut list")));
     setModel(lines_);
     setItemDelegate(new LineDelegate(this));
     setWordWrap(true);

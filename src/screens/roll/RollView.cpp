@@ -1,5 +1,6 @@
 #include "screens/roll/RollView.h"
 
+#include "base/Words.h"
 #include "files/QtText.h"
 #include "screens/ControlNames.h"
 #include "screens/Controls.h"
@@ -44,7 +45,7 @@ RollView::RollView(QWidget* parent, Dialogs& boxes)
           [this] { return QSizeF(spread_.Width(), spread_.Height()); }) {
     painter_.emplace(chart_, font());
     InstallRollAccess();
-    NameControl(*this, Controls::rollView, QStringLiteral("Whole roll"));
+    NameControl(*this, Controls::rollView, ToQt(Words("Whole roll")));
     setFocusPolicy(Qt::StrongFocus);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     setMinimumSize(Pixels(LeastWidth), Pixels(LeastHeight));
@@ -71,7 +72,7 @@ QSize RollView::sizeHint() const {
 }
 
 bool RollView::Guard(const std::function<void()>& body) const {
-    return Guarded(boxes_, "The roll could not be shown.", body);
+    return Guarded(boxes_, Words("The roll could not be shown."), body);
 }
 
 /// Lay the roll out anew for the size of the view.

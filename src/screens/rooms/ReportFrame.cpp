@@ -1,6 +1,7 @@
 #include "screens/rooms/ReportFrame.h"
 
 #include "base/Twips.h"
+#include "base/Words.h"
 #include "files/QtText.h"
 #include "paper/FixedPitchFont.h"
 #include "screens/Arrangement.h"
@@ -33,8 +34,8 @@ ReportFrame::ReportFrame() {
     view_->setFont(CourierNew(Pixels(Metrics::ListingFont * TwipsPerPoint)));
     MakeMenu();
 
-    print_ = NewButton(this, Controls::printReport, "PRINT", 'I');
-    close_ = NewButton(this, Controls::closeReport, "CLOSE", 'C');
+    print_ = NewButton(this, Controls::printReport, Words("PR&INT"));
+    close_ = NewButton(this, Controls::closeReport, Words("&CLOSE"));
     SetPrimary(*print_);
 
     auto* layout = new QVBoxLayout(this);

@@ -1,6 +1,7 @@
 #include "screens/rooms/RoomEntryFrame.h"
 
 #include "base/Text.h"
+#include "base/Words.h"
 #include "files/QtText.h"
 #include "project/Coverings.h"
 #include "project/SizeNotes.h"
@@ -37,7 +38,7 @@ namespace {
 /// Width of a size field, twips.
 constexpr double SizeFieldWidth = 1050;
 
-constexpr const char* NotTested = "The text could not be tested.";
+constexpr auto NotTested = Words("The text could not be tested.");
 
 /// A title as it is written, without mnemonics.
 void SetPlainTitle(QGroupBox& group, QString title) {
@@ -101,23 +102,23 @@ struct SizeRow {
     QLineEdit& Major;
     QLineEdit& Minor;
     std::string_view Caption;
-    char Mnemonic;
     const char* CaptionName;
     const char* MajorUnitName;
     const char* MinorUnitName;
 };
 
 void AddSizeRow(QWidget* parent, QGridLayout& grid, int at, const SizeRow& row, Units shown) {
-    const std::string_view majorUnit = shown == Units::Metric ? "M" : "FEET";
-    const std::string_view minorUnit = shown == Units::Metric ? "CM" : "INCHES";
-    grid.addWidget(NewLabelFor(row.Major, parent, row.CaptionName, row.Caption, row.Mnemonic), at,
-                   0);
+    const std::string_view majorUnit = shown == Units::Metric ? Words("M") : Words("FEET");
+    const std::string_view minorUnit = shown == Units::Metric ? Words("CM") : Words("INCHES");
+    grid.addWidget(NewLabelFor(row.Major, parent, row.CaptionName, row.Caption), at, 0);
     grid.addWidget(&row.Major, at, 1);
     grid.addWidget(NewLabel(parent, row.MajorUnitName, majorUnit), at, 2);
     grid.addWidget(&row.Minor, at, 3);
     grid.addWidget(NewLabelFor(row.Minor, parent, row.MinorUnitName, minorUnit), at, 4);
-    row.Major.setAccessibleDescription(ToQt(row.Caption) + QLatin1Char(' ') + ToQt(majorUnit));
-    row.Minor.setAccessibleDescription(ToQt(row.Caption) + QLatin1Char(' ') + ToQt(minorUnit));
+    row.Major.setAccessibleDescription(WithoutMark(row.Caption) + QLatin1Char(' ') +
+                                       ToQt(majorUnit));
+    row.Minor.setAccessibleDescription(WithoutMark(row.Caption) + QLatin1Char(' ') +
+                                       ToQt(minorUnit));
 }
 
 } // namespace
@@ -157,25 +158,26 @@ void RoomEntryFrame::MakeFields() {
 }
 
 void RoomEntryFrame::MakeButtons() {
-    next_ = NewButton(this, Controls::nextRoom, "NEXT ROOM", 'N');
-    previous_ = NewButton(this, Controls::previousRoom, "PREVIOUS ROOM", 'P');
-    delete_ = NewButton(this, Controls::deleteRoom, "DELETE ", 'D');
-    estimate_ = NewButton(this, Controls::estimateFromRooms, "ESTIMATE", 'E');
-    report_ = NewButton(this, Controls::showReport, "REPORT", 'R');
+    next_ = NewButton(this, Controls::nextRoom, Words("&NEXT ROOM"));
+    previous_ = NewButton(this, Controls::previousRoom, Words("&PREVIOUS ROOM"));
+    delete_ = NewButton(this, Controls::deleteRoom, Words("&DELETE "));
+    estimate_ = NewButton(this, Controls::estimateFromRooms, Words("&ESTIMATE"));
+    report_ = NewButton(this, Controls::showReport, Words("&REPORT"));
     SetPrimary(*next_);
 }
 
 QGroupBox* RoomEntryFrame::NewSizeGroup(Units shown) {
     auto* group = new QGroupBox(this);
-    SetGroupCaption(*group, Controls::roomSizes, QStringLiteral("ROOM SIZE"));
+    SetGroupCaption(*group, Controls::roomSizes, ToQt(Words("ROOM SIZE")));
     auto* grid = new QGridLayout(group);
     SetSpacing(*grid, Metrics::Spacing);
     AddSizeRow(this, *grid, 0,
-               {Text(WidthMajor), Text(WidthMinor), "ROOM   WIDTH", 'W', Controls::roomWidthCaption,
-                Controls::roomWidthMajorUnit, Controls::roomWidthMinorUnit},
+               {Text(WidthMajor), Text(WidthMinor), Words("ROOM   &WIDTH"),
+                Controls::roomWidthCaption, Controls::roomWidthMajorUnit,
+                Controls::roomWidthMinorUnit},
                shown);
     AddSizeRow(this, *grid, 1,
-               {Text(LengthMajor), Text(LengthMinor), "ROOM LENGTH", 'L',
+               {Text(LengthMajor), Text(LengthMinor), Words("ROOM &LENGTH"),
                 Controls::roomLengthCaption, Controls::roomLengthMajorUnit,
                 Controls::roomLengthMinorUnit},
                shown);
@@ -185,26 +187,24 @@ QGroupBox* RoomEntryFrame::NewSizeGroup(Units shown) {
 
 QGroupBox* RoomEntryFrame::NewItemGroup() {
     auto* group = new QGroupBox(this);
-    SetGroupCaption(*group, Controls::roomItem, QStringLiteral("ITEM INFO"));
+    SetGroupCaption(*group, Controls::roomItem, ToQt(Words("ITEM INFO")));
     auto* grid = new QGridLayout(group);
     SetSpacing(*grid, Metrics::Spacing);
     const struct {
         QWidget* Control;
         std::string_view Caption;
         const char* CaptionName;
-        char Mnemonic;
-    } rows[] = {{covering_, "CARPET TYPE", Controls::coveringCaption, 'T'},
-                {&Text(Base), "BASE", Controls::wallBaseCaption, 'A'},
-                {&Text(Number), "ROOM No.", Controls::roomNumberCaption, 'O'},
-                {&Text(Remark), "REMARK", Controls::remarkCaption, 'K'}};
+    } rows[] = {{covering_, Words("CARPE&T TYPE"), Controls::coveringCaption},
+                {&Text(Base), Words("B&ASE"), Controls::wallBaseCaption},
+                {&Text(Number), Words("RO&OM No."), Controls::roomNumberCaption},
+                {&Text(Remark), Words("REMAR&K"), Controls::remarkCaption}};
     int row = 0;
     for (const auto& each : rows) {
-        QLabel* label =
-            NewLabelFor(*each.Control, this, each.CaptionName, each.Caption, each.Mnemonic);
+        QLabel* label = NewLabelFor(*each.Control, this, each.CaptionName, each.Caption);
         grid->addWidget(label, row, 0);
         grid->addWidget(each.Control, row, 1);
         if (each.Control == &Text(Base)) {
-            const QString example = QStringLiteral("EXAMPLE: W2L1");
+            const QString example = ToQt(Words("EXAMPLE: W2L1"));
             label->setToolTip(example);
             each.Control->setToolTip(example);
         }
@@ -218,7 +218,7 @@ QWidget* RoomEntryFrame::NewItemNumberRow() {
     auto* row = new QWidget(this);
     auto* layout = new QHBoxLayout(row);
     SetSpacing(*layout, 0);
-    QLabel* caption = NewLabel(row, Controls::itemNumberCaption, "PROJECT ITEM No.");
+    QLabel* caption = NewLabel(row, Controls::itemNumberCaption, Words("PROJECT ITEM No."));
     itemNumber_ = NewLabel(row, Controls::itemNumber, "");
     SetRole(*caption, TextRole::Hint);
     SetRole(*itemNumber_, TextRole::Heading);
@@ -339,7 +339,7 @@ void RoomEntryFrame::ShowNewRoom() {
 }
 
 void RoomEntryFrame::SetProject(const std::string& project) {
-    SetGroupCaption(*this, Controls::roomPanel, ToQt("PROJECT: " + project).toUpper());
+    SetGroupCaption(*this, Controls::roomPanel, ToQt(Words("PROJECT: %1", project)).toUpper());
     FitCaption();
 }
 

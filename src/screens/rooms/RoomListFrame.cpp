@@ -1,5 +1,7 @@
 #include "screens/rooms/RoomListFrame.h"
 
+#include "base/Words.h"
+#include "files/QtText.h"
 #include "screens/Arrangement.h"
 #include "screens/ControlNames.h"
 #include "screens/Controls.h"
@@ -27,7 +29,7 @@ RoomListFrame::RoomListFrame(const OpenProject& project)
     , table_(new RoomTable(project))
     , totals_(new RoomTotals(project.Shown))
     , layout_(new QBoxLayout(QBoxLayout::TopToBottom, this)) {
-    NameControl(*this, Controls::roomList, QStringLiteral("ROOMS"));
+    NameControl(*this, Controls::roomList, ToQt(Words("ROOMS")));
     SetPanel(*this);
     SetSpacing(*layout_, Metrics::Spacing);
     layout_->addWidget(table_, 1);

@@ -2,6 +2,7 @@
 
 #include "base/RunTimeError.h"
 #include "base/Text.h"
+#include "base/Words.h"
 #include "files/OutputFile.h"
 #include "files/QtText.h"
 #include "files/ReportSvg.h"
@@ -41,32 +42,31 @@ namespace tarn {
 
 namespace {
 
-constexpr const char* NotStored = "The room could not be stored.";
-constexpr const char* ReportNotSaved = "The report could not be saved.";
-constexpr const char* NotClosed = "The screen could not be closed.";
-constexpr const char* NotDeleted = "The room could not be deleted.";
-constexpr const char* NotReported = "The report could not be made.";
-constexpr const char* NotPrinted = "The report could not be printed.";
-constexpr const char* NotUndone = "The rooms could not be put back.";
-constexpr const char* NotShown = "The rooms could not be shown.";
+constexpr auto NotStored = Words("The room could not be stored.");
+constexpr auto ReportNotSaved = Words("The report could not be saved.");
+constexpr auto NotClosed = Words("The screen could not be closed.");
+constexpr auto NotDeleted = Words("The room could not be deleted.");
+constexpr auto NotReported = Words("The report could not be made.");
+constexpr auto NotPrinted = Words("The report could not be printed.");
+constexpr auto NotUndone = Words("The rooms could not be put back.");
+constexpr auto NotShown = Words("The rooms could not be shown.");
 
 /// From which width of the window on the list may stand beside the form, twips.
 constexpr double WideWindow = 16500;
 
-constexpr char ShowMnemonic = 'H';
-constexpr const char* ShowListCaption = "SHOW LIST";
-constexpr const char* ShowFormCaption = "SHOW FORM";
+constexpr auto ShowListCaption = Words("S&HOW LIST");
+constexpr auto ShowFormCaption = Words("S&HOW FORM");
 
-constexpr const char* DeleteQuestion = "Really want to delete current data?";
-constexpr const char* NothingToEstimateMessage =
-    "There is no data to estimate. Please fill in the room information before estimating.";
+constexpr auto DeleteQuestion = Words("Really want to delete current data?");
+constexpr auto NothingToEstimateMessage =
+    Words("There is no data to estimate. Please fill in the room information before estimating.");
 
 std::string Date(const QDate& date) {
     return ShortDate(date.year(), date.month(), date.day());
 }
 
-QAction* AddItem(QMenu& menu, const char* name, const char* text) {
-    QAction* item = menu.addAction(QString::fromLatin1(text));
+QAction* AddItem(QMenu& menu, const char* name, std::string_view text) {
+    QAction* item = menu.addAction(ToQt(text));
     item->setObjectName(name);
     return item;
 }
@@ -74,7 +74,7 @@ QAction* AddItem(QMenu& menu, const char* name, const char* text) {
 } // namespace
 
 RoomScreen::RoomScreen(Session& session)
-    : TitledScreen(session, Controls::roomScreen, "*EDIT DATA*")
+    : TitledScreen(session, Controls::roomScreen, Words("*EDIT DATA*"))
     , entry_(new RoomEntryFrame(session.Project.Now.Name, session.Project.Shown, session.Boxes))
     , report_(new ReportFrame)
     , current_(FirstRoom(session.Project)) {
@@ -99,13 +99,13 @@ RoomScreen::RoomScreen(Session& session)
 }
 
 void RoomScreen::MakeMenu() {
-    QMenu* menu = Menus().addMenu(QStringLiteral("&File"));
+    QMenu* menu = Menus().addMenu(ToQt(Words("&File")));
     menu->setObjectName(Controls::fileMenu);
-    QAction* save = AddItem(*menu, Controls::fileSave, "&Save");
+    QAction* save = AddItem(*menu, Controls::fileSave, Words("&Save"));
     save->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_S));
     save->setAutoRepeat(false);
     menu->addSeparator()->setObjectName(Controls::fileSeparator);
-    const QAction* close = AddItem(*menu, Controls::fileClose, "&Close");
+    const QAction* close = AddItem(*menu, Controls::fileClose, Words("&Close"));
     connect(save, &QAction::triggered, this, [this] { Save(); });
     connect(close, &QAction::triggered, this, [this] { Guard(NotClosed, [this] { Leave(); }); });
     undo_ = new UndoMenu(
@@ -114,21 +114,22 @@ void RoomScreen::MakeMenu() {
     for (int i = 0; i < RoomEntryFrame::Texts; ++i) {
         undo_->Attend(entry_->Text(i));
     }
+    AddHelpMenu();
 }
 
 void RoomScreen::MakeButtonsBelow() {
     below_ = new QWidget;
-    back_ = NewButton(below_, Controls::leaveRooms, "BACK", 'B');
-    save_ = NewButton(below_, Controls::saveRooms, "SAVE", 'S');
+    back_ = NewButton(below_, Controls::leaveRooms, Words("&BACK"));
+    save_ = NewButton(below_, Controls::saveRooms, Words("&SAVE"));
     auto* row = new QHBoxLayout(below_);
     SetSpacing(*row, 0, Metrics::Margin);
-    showList_ = NewButton(below_, Controls::showRoomList, ShowListCaption, ShowMnemonic);
+    showList_ = NewButton(below_, Controls::showRoomList, ShowListCaption);
     KeepRoom(*showList_);
     IgnoreSecondClick(*showList_);
     showList_->ensurePolished();
     int widest = Pixels(Metrics::ButtonWidth);
-    for (const char* caption : {ShowFormCaption, ShowListCaption}) {
-        SetCaption(*showList_, caption, ShowMnemonic);
+    for (const Phrase caption : {ShowFormCaption, ShowListCaption}) {
+        SetCaption(*showList_, caption);
         widest = std::max(widest, showList_->sizeHint().width());
     }
     // At the left: nowhere near the buttons of the report.
@@ -141,7 +142,7 @@ void RoomScreen::MakeButtonsBelow() {
 }
 
 void RoomScreen::MakeKeys() {
-    const auto add = [this](QKeySequence key, const char* failure, void (RoomScreen::*act)()) {
+    const auto add = [this](QKeySequence key, Phrase failure, void (RoomScreen::*act)()) {
         auto* shortcut = new QShortcut(key, this);
         shortcut->setAutoRepeat(false);
         connect(shortcut, &QShortcut::activated, this,
@@ -178,7 +179,7 @@ void RoomScreen::ConnectButtons() {
     OnCommand(entry_->Previous(), NotStored, [this] { ShowPrevious(); });
     OnCommand(entry_->Delete(), NotDeleted, [this] { AskAndDelete(); });
     connect(save_, &QPushButton::clicked, this, [this] { Save(); });
-    OnClick(entry_->Estimate(), "The estimate could not be opened.", [this] { Estimate(); });
+    OnClick(entry_->Estimate(), Words("The estimate could not be opened."), [this] { Estimate(); });
     OnClick(entry_->Report(), NotReported, [this] { ShowReport(); });
     OnClick(*back_, NotClosed, [this] { Leave(); });
     OnClick(report_->Print(), NotPrinted, [this] { PrintReport(); });
@@ -186,7 +187,7 @@ void RoomScreen::ConnectButtons() {
             [this] { Guard(ReportNotSaved, [this] { SaveReportAsPdf(); }); });
     connect(&report_->SaveAsSvg(), &QAction::triggered, this,
             [this] { Guard(ReportNotSaved, [this] { SaveReportAsSvg(); }); });
-    OnClick(report_->Close(), "The report could not be closed.", [this] { CloseReport(); });
+    OnClick(report_->Close(), Words("The report could not be closed."), [this] { CloseReport(); });
 }
 
 void RoomScreen::ConnectList() {
@@ -352,7 +353,7 @@ void RoomScreen::ShowUnitsWarning() {
 
 void RoomScreen::ShowTrouble() {
     const std::string& trouble = Shared().Drafts.Trouble();
-    entry_->SetWarning(trouble.empty() ? QString() : ToQt("NOT KEPT: " + trouble));
+    entry_->SetWarning(trouble.empty() ? QString() : ToQt(Words("NOT KEPT: %1", trouble)));
 }
 
 StoreResult RoomScreen::StoreFields() {
@@ -570,7 +571,7 @@ void RoomScreen::TellNotStored() {
     if (project.Typed.New) {
         const auto room = static_cast<long long>(project.Now.Rooms.size()) + 1;
         entry_->SetHint(
-            ToQt("Room " + TrimStr(room) + " is not stored: it needs a width and a length."));
+            ToQt(Words("Room %1 is not stored: it needs a width and a length.", TrimStr(room))));
     }
 }
 
@@ -612,13 +613,13 @@ bool RoomScreen::IsListAlone() const {
 
 void RoomScreen::ShowForm() {
     if (IsListAlone()) {
-        SetCaption(*showList_, ShowListCaption, ShowMnemonic);
+        SetCaption(*showList_, ShowListCaption);
         ShowPanel(*entry_);
     }
 }
 
 void RoomScreen::ShowList() {
-    SetCaption(*showList_, ShowFormCaption, ShowMnemonic);
+    SetCaption(*showList_, ShowFormCaption);
     ShowPanel(*list_);
     list_->Table().setFocus();
 }
@@ -673,7 +674,7 @@ void RoomScreen::CloseReport() {
     reading_.reset();
     SetEntryEnabled(true);
     ShowPanel(*entry_);
-    SetCaption(*showList_, ShowListCaption, ShowMnemonic);
+    SetCaption(*showList_, ShowListCaption);
     FirstFocus()->setFocus();
 }
 

@@ -1,5 +1,7 @@
 #include "screens/rooms/RoomTable.h"
 
+#include "base/Words.h"
+#include "files/QtText.h"
 #include "screens/ControlNames.h"
 #include "screens/Controls.h"
 #include "screens/Display.h"
@@ -33,7 +35,7 @@ constexpr double FrameLine = 45;
 
 RoomTable::RoomTable(const OpenProject& project)
     : model_(new RoomTableModel(project, this)) {
-    NameControl(*this, Controls::roomTable, QStringLiteral("ROOMS"));
+    NameControl(*this, Controls::roomTable, ToQt(Words("ROOMS")));
     setModel(model_);
     setSelectionMode(QAbstractItemView::SingleSelection);
     setSelectionBehavior(QAbstractItemView::SelectRows);

@@ -1,5 +1,6 @@
 #include "screens/rooms/RoomTableModel.h"
 
+#include "base/Words.h"
 #include "files/QtText.h"
 #include "screens/Theme.h"
 
@@ -101,7 +102,7 @@ QVariant RoomTableModel::data(const QModelIndex& index, int role) const {
     case Qt::AccessibleTextRole: {
         const QString cell = text();
         return ToQt(CaptionOf(column, project_.Shown)) + QLatin1Char(' ') +
-               (cell.isEmpty() ? QStringLiteral("none") : cell);
+               (cell.isEmpty() ? ToQt(Words("none")) : cell);
     }
     default:
         return {};

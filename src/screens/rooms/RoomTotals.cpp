@@ -1,5 +1,6 @@
 #include "screens/rooms/RoomTotals.h"
 
+#include "base/Words.h"
 #include "files/QtText.h"
 #include "screens/ControlNames.h"
 #include "screens/Controls.h"
@@ -88,7 +89,7 @@ class RoomTotals::Model : public QAbstractTableModel {
 
 RoomTotals::RoomTotals(Units shown)
     : model_(new Model(shown, this)) {
-    NameControl(*this, Controls::roomTotals, QStringLiteral("TOTALS BY COVERING"));
+    NameControl(*this, Controls::roomTotals, ToQt(Words("TOTALS BY COVERING")));
     setModel(model_);
     setSelectionMode(QAbstractItemView::NoSelection);
     setEditTriggers(QAbstractItemView::NoEditTriggers);

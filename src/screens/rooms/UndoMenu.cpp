@@ -1,5 +1,6 @@
 #include "screens/rooms/UndoMenu.h"
 
+#include "base/Words.h"
 #include "files/QtText.h"
 #include "screens/ControlNames.h"
 
@@ -39,10 +40,9 @@ QAction* AddItem(QMenu& menu, const char* name, const std::function<void()>& act
     return item;
 }
 
-void ShowItem(QAction& item, const char* caption, const std::string& name) {
+void ShowItem(QAction& item, std::string_view caption, const std::string& name) {
     const QString what = ToQt(name.empty() ? name : " " + name);
-    item.setText(QLatin1String(caption) +
-                 QString(what).replace(QLatin1Char('&'), QLatin1String("&&")));
+    item.setText(ToQt(caption) + QString(what).replace(QLatin1Char('&'), QLatin1String("&&")));
     item.setEnabled(!name.empty());
 }
 
@@ -51,7 +51,8 @@ void ShowItem(QAction& item, const char* caption, const std::string& name) {
 UndoMenu::UndoMenu(QMenuBar& menus, QObject* parent, const std::function<void()>& undo,
                    const std::function<void()>& redo)
     : QObject(parent) {
-    QMenu* menu = menus.addMenu(QStringLiteral("&Undo"));
+    // Every letter of its name is taken on this screen.
+    QMenu* menu = menus.addMenu(ToQt(Words("Edit")));
     menu->setObjectName(Controls::editMenu);
     undo_ = AddItem(*menu, Controls::undoRooms, undo);
     redo_ = AddItem(*menu, Controls::redoRooms, redo);
@@ -65,8 +66,8 @@ void UndoMenu::Attend(EntryField& field) {
 }
 
 void UndoMenu::Show(const std::string& undo, const std::string& redo) {
-    ShowItem(*undo_, "&Undo", undo);
-    ShowItem(*redo_, "&Redo", redo);
+    ShowItem(*undo_, Words("&Undo"), undo);
+    ShowItem(*redo_, Words("&Redo"), redo);
 }
 
 bool UndoMenu::eventFilter(QObject* watched, QEvent* event) {

@@ -11,6 +11,7 @@
 #include <QAction>
 #include <QCheckBox>
 #include <QLabel>
+#include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
 
@@ -57,7 +58,34 @@ TEST_F(MenuScreens, CarryTheirCaptions) {
 
 TEST_F(MenuScreens, UseEachNameAndMnemonicOnce) {
     Load();
-    ExpectNamesAndMnemonicsOnce(*menu, 6);
+    ExpectNamesAndMnemonicsOnce(*menu, 7);
+}
+
+TEST_F(MenuScreens, ChooseTheLanguageOfTheNextStart) {
+    Load();
+    const QList<QAction*> languages = Find<QMenu>(*menu, Controls::languageMenu).actions();
+    ASSERT_EQ(languages.size(), 3);
+    EXPECT_EQ(languages[0]->text(), QStringLiteral("English"));
+    EXPECT_TRUE(languages[0]->isChecked());
+    EXPECT_EQ(languages[1]->text(), QStringLiteral("Deutsch"));
+    languages[1]->trigger();
+    EXPECT_TRUE(languages[1]->isChecked());
+    EXPECT_FALSE(languages[0]->isChecked());
+    EXPECT_EQ(kept.Language(), "de");
+    EXPECT_EQ(boxes.Messages,
+              std::vector<std::string>{
+                  "From its next start on the program speaks this language: Deutsch"});
+    EXPECT_EQ(CaptionOf(Button(Controls::backToProjects)), QStringLiteral("BACKWARD"))
+        << "in this run all stays as it is";
+    Load(MenuEntry::Returning);
+    EXPECT_TRUE(Find<QMenu>(*menu, Controls::languageMenu).actions()[1]->isChecked());
+}
+
+TEST_F(MenuScreens, LeadToTheGuideAndToWhatTheProgramIs) {
+    Load();
+    Find<QAction>(*menu, Controls::helpGuide).trigger();
+    Find<QAction>(*menu, Controls::helpAbout).trigger();
+    EXPECT_EQ(screens.Calls, (std::vector<std::string>{"guide the-menu", "about"}));
 }
 
 TEST_F(MenuScreens, StandInTheMiddleWithTheTitlesAbove) {
