@@ -377,7 +377,7 @@
     </message>
     <message>
         <source>&amp;PARTS AT MOST</source>
-        <translation>TEILE &amp;HÖCHSTENS</translation>
+        <translation>MA&amp;X. TEILE</translation>
     </message>
     <message>
         <source>&amp;PASTE CUTS</source>
@@ -664,6 +664,10 @@ Beim Löschen gehen die Daten des Projekts verloren!</translation>
     <message>
         <source>Carpets with more than one request for an order, of which the last is read</source>
         <translation>Teppichböden mit mehr als einer Bestellvorgabe, von denen die letzte gelesen wird</translation>
+    </message>
+    <message>
+        <source>Centimetres</source>
+        <translation>Zentimeter</translation>
     </message>
     <message>
         <source>Change room %1</source>
@@ -1135,6 +1139,10 @@ Bei Nein wird nichts angelegt, und das Programm endet.</translation>
         <translation>Name</translation>
     </message>
     <message>
+        <source>Name of the project:</source>
+        <translation>Name des Projekts:</translation>
+    </message>
+    <message>
         <source>Needed cm</source>
         <translation>Benötigt cm</translation>
     </message>
@@ -1173,6 +1181,10 @@ Bei Nein wird nichts angelegt, und das Programm endet.</translation>
     <message>
         <source>No part of a fill becomes shorter than %1</source>
         <translation>Kein Teil eines Füllstücks wird kürzer als %1</translation>
+    </message>
+    <message>
+        <source>No project is made of %1.</source>
+        <translation>Aus %1 wird kein Projekt.</translation>
     </message>
     <message>
         <source>No room has %1.</source>
@@ -1513,6 +1525,10 @@ yd²</translation>
         <translation>Räume m²</translation>
     </message>
     <message>
+        <source>Rooms that are to become a project, whose name is asked for</source>
+        <translation>Räume, die ein Projekt werden sollen, nach dessen Namen gefragt wird</translation>
+    </message>
+    <message>
         <source>Rooms that could not be found and are empty now</source>
         <translation>Räume, die nicht gefunden wurden und jetzt leer sind</translation>
     </message>
@@ -1550,7 +1566,7 @@ yd²</translation>
     </message>
     <message>
         <source>S&amp;HORTEST PART</source>
-        <translation>KÜRZE&amp;STES TEIL</translation>
+        <translation>MINDE&amp;STTEIL</translation>
     </message>
     <message>
         <source>S&amp;HOW FORM</source>
@@ -1765,6 +1781,22 @@ Bitte wählen Sie einen anderen Namen!</translation>
     <message>
         <source>The choices could not be taken.</source>
         <translation>Die Auswahl konnte nicht übernommen werden.</translation>
+    </message>
+    <message>
+        <source>The columns of a CSV file are those that tarn-estimate --help tells.
+
+Exit status: 0 done, 1 the program could not start (the reason is in a box or on standard
+error), 2 wrong usage.
+
+Example:
+  tarn house.csv</source>
+        <translation>Die Spalten einer CSV-Datei sind die, die tarn-estimate --help nennt.
+
+Rückgabewert: 0 getan, 1 das Programm konnte nicht starten (der Grund steht in einem Fenster oder in
+der Fehlerausgabe), 2 falscher Aufruf.
+
+Beispiel:
+  tarn house.csv</translation>
     </message>
     <message>
         <source>The configuration file %1 is in force; it names the folder %2.</source>
@@ -2085,6 +2117,10 @@ Seine Räume können als neues Projekt gespeichert werden.</translation>
         <translation>Das Projekt konnte nicht gelöscht werden.</translation>
     </message>
     <message>
+        <source>The project could not be made.</source>
+        <translation>Das Projekt konnte nicht angelegt werden.</translation>
+    </message>
+    <message>
         <source>The project could not be renamed.</source>
         <translation>Das Projekt konnte nicht umbenannt werden.</translation>
     </message>
@@ -2185,6 +2221,12 @@ Seine Räume können als neues Projekt gespeichert werden.</translation>
         <translation>Die Räume konnten nicht zurückgeholt werden.</translation>
     </message>
     <message>
+        <source>The rooms of %1 become a new project.<byte value="xd"/>
+What are their sizes in?</source>
+        <translation>Die Räume aus %1 werden ein neues Projekt.<byte value="xd"/>
+Worin sind ihre Maße angegeben?</translation>
+    </message>
+    <message>
         <source>The rooms; see tarn-estimate --help</source>
         <translation>Die Räume; siehe tarn-estimate --help</translation>
     </message>
@@ -2210,7 +2252,7 @@ Seine Räume können als neues Projekt gespeichert werden.</translation>
     </message>
     <message>
         <source>The shortest part</source>
-        <translation>Das kürzeste Teil</translation>
+        <translation>Das Mindestteil</translation>
     </message>
     <message>
         <source>The size of a room: %1</source>
@@ -2327,6 +2369,10 @@ Seine Räume können als neues Projekt gespeichert werden.</translation>
     <message>
         <source>There is no roll to order from: name its width.</source>
         <translation>Es gibt keine Rolle, von der bestellt wird: Nennen Sie ihre Breite.</translation>
+    </message>
+    <message>
+        <source>There is no room in it.</source>
+        <translation>Darin ist kein Raum.</translation>
     </message>
     <message>
         <source>There is one project with the same name, change to other one!</source>
@@ -3697,6 +3743,11 @@ m²</translation>
         <location filename="../src/screens/projects/ProjectScreen.cpp"/>
         <source>The projects could not be listed.</source>
         <translation>Die Projekte konnten nicht aufgelistet werden.</translation>
+    </message>
+    <message>
+        <location filename="../src/screens/projects/RoomsAsProject.cpp"/>
+        <source>Feet and inches</source>
+        <translation>Fuß und Zoll</translation>
     </message>
     <message>
         <location filename="../src/screens/roll/RollChart.cpp"/>

@@ -666,6 +666,10 @@ Delete operation will make the data of the project lost!</source>
         <translation>Moquetas con más de una petición de pedido, de las que se lee la última</translation>
     </message>
     <message>
+        <source>Centimetres</source>
+        <translation>Centímetros</translation>
+    </message>
+    <message>
         <source>Change room %1</source>
         <translation>Cambiar estancia %1</translation>
     </message>
@@ -1054,7 +1058,7 @@ Ejemplo:
     </message>
     <message>
         <source>MAXIMUM NUMBER OF PIECES PER FILL</source>
-        <translation>NÚMERO MÁXIMO DE TRAMOS POR RELLENO</translation>
+        <translation>MÁXIMO DE TRAMOS POR RELLENO</translation>
     </message>
     <message>
         <source>ME&amp;TER</source>
@@ -1135,6 +1139,10 @@ Con No no se crea nada y el programa termina.</translation>
         <translation>Nombre</translation>
     </message>
     <message>
+        <source>Name of the project:</source>
+        <translation>Nombre del proyecto:</translation>
+    </message>
+    <message>
         <source>Needed cm</source>
         <translation>Necesario cm</translation>
     </message>
@@ -1173,6 +1181,10 @@ Con No no se crea nada y el programa termina.</translation>
     <message>
         <source>No part of a fill becomes shorter than %1</source>
         <translation>Ningún tramo de un relleno queda más corto que %1</translation>
+    </message>
+    <message>
+        <source>No project is made of %1.</source>
+        <translation>De %1 no se hace ningún proyecto.</translation>
     </message>
     <message>
         <source>No room has %1.</source>
@@ -1430,11 +1442,11 @@ yd²</translation>
     </message>
     <message>
         <source>ROOM   &amp;WIDTH</source>
-        <translation>ANC&amp;HO ESTANCIA</translation>
+        <translation>ANC&amp;HO</translation>
     </message>
     <message>
         <source>ROOM &amp;LENGTH</source>
-        <translation>&amp;LARGO ESTANCIA</translation>
+        <translation>&amp;LARGO</translation>
     </message>
     <message>
         <source>ROOM SIZE</source>
@@ -1511,6 +1523,10 @@ yd²</translation>
     <message>
         <source>Rooms sq. m</source>
         <translation>Estancias m²</translation>
+    </message>
+    <message>
+        <source>Rooms that are to become a project, whose name is asked for</source>
+        <translation>Estancias que deben pasar a ser un proyecto, cuyo nombre se pregunta</translation>
     </message>
     <message>
         <source>Rooms that could not be found and are empty now</source>
@@ -1765,6 +1781,22 @@ Please change to another name!</source>
     <message>
         <source>The choices could not be taken.</source>
         <translation>No se pudieron aplicar las opciones.</translation>
+    </message>
+    <message>
+        <source>The columns of a CSV file are those that tarn-estimate --help tells.
+
+Exit status: 0 done, 1 the program could not start (the reason is in a box or on standard
+error), 2 wrong usage.
+
+Example:
+  tarn house.csv</source>
+        <translation>Las columnas de un archivo CSV son las que dice tarn-estimate --help.
+
+Estado de salida: 0 hecho, 1 el programa no pudo iniciarse (la causa está en un cuadro o en la salida
+de errores), 2 uso incorrecto.
+
+Ejemplo:
+  tarn house.csv</translation>
     </message>
     <message>
         <source>The configuration file %1 is in force; it names the folder %2.</source>
@@ -2085,6 +2117,10 @@ Sus estancias se pueden guardar como proyecto nuevo.</translation>
         <translation>No se pudo borrar el proyecto.</translation>
     </message>
     <message>
+        <source>The project could not be made.</source>
+        <translation>No se pudo crear el proyecto.</translation>
+    </message>
+    <message>
         <source>The project could not be renamed.</source>
         <translation>No se pudo cambiar el nombre del proyecto.</translation>
     </message>
@@ -2183,6 +2219,12 @@ Sus estancias se pueden guardar como proyecto nuevo.</translation>
     <message>
         <source>The rooms could not be taken back.</source>
         <translation>No se pudieron recuperar las estancias.</translation>
+    </message>
+    <message>
+        <source>The rooms of %1 become a new project.<byte value="xd"/>
+What are their sizes in?</source>
+        <translation>Las estancias de %1 pasan a ser un proyecto nuevo.<byte value="xd"/>
+¿En qué están sus medidas?</translation>
     </message>
     <message>
         <source>The rooms; see tarn-estimate --help</source>
@@ -2327,6 +2369,10 @@ Sus estancias se pueden guardar como proyecto nuevo.</translation>
     <message>
         <source>There is no roll to order from: name its width.</source>
         <translation>No hay rollo del que pedir: indique su ancho.</translation>
+    </message>
+    <message>
+        <source>There is no room in it.</source>
+        <translation>No contiene ninguna estancia.</translation>
     </message>
     <message>
         <source>There is one project with the same name, change to other one!</source>
@@ -3697,6 +3743,11 @@ m²</translation>
         <location filename="../src/screens/projects/ProjectScreen.cpp"/>
         <source>The projects could not be listed.</source>
         <translation>No se pudieron enumerar los proyectos.</translation>
+    </message>
+    <message>
+        <location filename="../src/screens/projects/RoomsAsProject.cpp"/>
+        <source>Feet and inches</source>
+        <translation>Pies y pulgadas</translation>
     </message>
     <message>
         <location filename="../src/screens/roll/RollChart.cpp"/>

@@ -57,7 +57,8 @@ void UseTranslation(Translation translation) {
 }
 
 std::string_view Phrase::Text() const {
-    return inForce == nullptr || isEnglish ? std::string_view(english_) : inForce->Text(english_);
+    const bool isAsItIs = inForce == nullptr || isEnglish || *english_ == '\0';
+    return isAsItIs ? std::string_view(english_) : inForce->Text(english_);
 }
 
 std::string Filled(std::string_view pattern, std::initializer_list<std::string_view> arguments) {

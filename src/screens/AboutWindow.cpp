@@ -13,6 +13,7 @@
 #include "store/Configuration.h"
 #include "store/Drafts.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QPushButton>
 #include <QTextBrowser>
@@ -31,6 +32,12 @@ namespace {
 constexpr const char* LicenceFile = ":/guide/licences.md"; ///< built in with the guide
 constexpr int Width = 9000;                                ///< twips
 constexpr int Height = 6600;
+
+/// The program tells the application with which commit it was built.
+QString ProgramAndVersion() {
+    const QString full = QCoreApplication::applicationVersion();
+    return QStringLiteral("tarn ") + (full.isEmpty() ? ToQt(Version) : full);
+}
 
 QString Licences() {
     InitialiseGuide();
@@ -74,7 +81,7 @@ AboutWindow::AboutWindow(QWidget& program, const Places& places)
 
 void AboutWindow::Fill(const Places& places) {
     QTextCursor cursor(text_->document());
-    cursor.insertText(ToQt(VersionText("tarn")));
+    cursor.insertText(ProgramAndVersion());
     for (const auto& [name, path] : places) {
         cursor.insertBlock();
         cursor.insertText(ToQt(Words("%1: %2", name, path)));

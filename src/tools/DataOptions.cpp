@@ -68,7 +68,8 @@ void AddMetric(CLI::App& command, DataOptions& arguments) {
 CLI::App& AddCommand(CLI::App& app, const char* name, Phrase text, Command& chosen, Command run) {
     CLI::App* command = app.add_subcommand(name, text);
     command->fallthrough(); // --language may stand behind the command, too
-    command->callback([&chosen, run = std::move(run)] { chosen = run; });
+    command->set_help_flag("-h,--help", Words("Print this help message and exit"));
+    command->callback([chosen = &arguments.Chosen, run = std::move(run)] { *chosen = run; });
     return *command;
 }
 

@@ -80,6 +80,7 @@ TEST(Words, StayWhereTheyAreWhileOthersAreSaid) {
     for (std::thread& thread : threads) {
         thread.join();
     }
+    EXPECT_EQ(Phrase(), "") << "nothing is said in no language";
     EXPECT_EQ(first, "<BACK>");
     EXPECT_EQ(first.data(), Back.Text().data());
 }

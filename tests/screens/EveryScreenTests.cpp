@@ -260,12 +260,6 @@ TEST(RightToLeft, KeepsEveryTextWhole) {
     QApplication::setLayoutDirection(Qt::RightToLeft);
     VisitEveryScreen(Units::Imperial, [](const std::string& state, ScreenWindow& window) {
         ExpectWholeTextsOn({800, 600}, state, window);
-        const QByteArray folder = qgetenv("TARN_PICTURES");
-        if (!folder.isEmpty()) {
-            window.grab().save(QString::fromLocal8Bit(folder) + QLatin1Char('/') +
-                               ToQt(state).replace(QLatin1Char(' '), QLatin1Char('-')) +
-                               QStringLiteral(".png"));
-        }
     });
     QApplication::setLayoutDirection(Qt::LeftToRight);
 }

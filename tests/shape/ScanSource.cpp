@@ -118,7 +118,8 @@ class SourceScanner {
             return;
         }
         // What follows a digit or a letter separates digits.
-        const bool isCharacter = c == '\'' && !IsWordCharacter(in_.Before());
+        const bool isPrefixed = word_ == "u" || word_ == "U" || word_ == "L" || word_ == "u8";
+        const bool isCharacter = c == '\'' && (!IsWordCharacter(in_.Before()) || isPrefixed);
         const bool mayBePrefix = in_.StartsWith("R\"") || in_.StartsWith("u8");
         joins_ = joins_ && mayBePrefix;
         in_.Take();

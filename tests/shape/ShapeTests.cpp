@@ -56,11 +56,11 @@ TEST(Shape, HasItsWordsTranslated) {
 }
 
 TEST(UnsaidWords, AreLiteralsThatArePastTheWords) {
-    EXPECT_THAT(UnsaidIn("screens/A.cpp", "auto a = Words(\"a room\"), b = ToQt(\"a room\");\n"
+    EXPECT_THAT(UnsaidIn("screens/A.cpp", "auto a = Words(\"a room\"), b = ToQt(\"the room\");\n"
                                           "f(CountedWords(\"a room\", \"%n rooms, more\", n),\n"
                                           "  \"The room: \", \"%1 room\");\n"
                                           "Words(text + \" of it all\");"),
-                ElementsAre("screens/A.cpp:1: a room",
+                ElementsAre("screens/A.cpp:1: the room",
                             "screens/A.cpp:3: The room: ", "screens/A.cpp:4:  of it all"));
 }
 
@@ -209,6 +209,11 @@ TEST(ShapeScan, FindsIncludesButNotInCommentsOrTexts) {
                                            "  #  include <h> // why\n");
     EXPECT_THAT(TextsOf(found.Includes), ElementsAre("\"b/B.h\"", "<h>"));
     EXPECT_EQ(found.Includes[1].Line, 8);
+}
+
+TEST(ShapeScan, KnowsPrefixedCharactersFromSeparatedDigits) {
+    const auto found = ScanSource("a + u' ' + \"one\"; b = 1'000; c = u'\"'; d = \"two\";");
+    EXPECT_THAT(TextsOf(found.Texts), ElementsAre("one", "two"));
 }
 
 TEST(ShapeScan, JoinsAdjacentTexts) {
