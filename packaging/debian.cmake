@@ -70,11 +70,12 @@ set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_NAME tarn)
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_SECTION misc)
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_SHLIBDEPS ON)
-# Beside what the programs are linked to: the driver that Qt loads for the database, and a font with
-# the widths that pages are made by (docs/printing.md).
-set(CPACK_DEBIAN_RUNTIME_PACKAGE_DEPENDS "libqt6sql6-sqlite, fonts-liberation")
-set(CPACK_DEBIAN_RUNTIME_PACKAGE_RECOMMENDS
-    "hicolor-icon-theme, shared-mime-info, qt6-translations-l10n")
+# Beside what the programs are linked to: the driver that Qt loads for the database, a font with the
+# widths that pages are made by (docs/printing.md), and one for the screens: without, a system that
+# has no other takes letters of one width.
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_DEPENDS
+    "libqt6sql6-sqlite, fonts-liberation, fonts-dejavu-core | fonts-noto-core")
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_RECOMMENDS "hicolor-icon-theme, shared-mime-info")
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_SUGGESTS "cups")
 set(CPACK_COMPONENT_RUNTIME_DESCRIPTION
     "estimating tool for floor-covering installers

@@ -200,6 +200,8 @@ def expect_only_depends(system, before):
 
 def first_start(system, work):
     """From the menu entry, in an empty home: Enter on the message, Yes to the offer."""
+    face = system.as_user("fc-match 'Sans Serif'")
+    expect("Mono" not in face, f"the screens have a face to read: {face.strip()}")
     screen = Display()
     program = subprocess.Popen(
         system.user_command(exec_line(system), [f"DISPLAY={screen.name}"]), start_new_session=True
@@ -297,9 +299,10 @@ def open_with(system, work):
 def upgrade(system, new):
     before = system.home()
     listed = system.as_user("tarn-data list --database .local/share/tarn/DATA/Tarn.mdb")
-    old_version = system.as_user("tarn --version")
+    version = ["dpkg-query", "-W", "-f=${Version}", "tarn"]
+    old_version = system.run(*version)
     system.install(new)
-    expect(system.as_user("tarn --version") != old_version, "the upgrade brings another version")
+    expect(system.run(*version) != old_version, f"the upgrade replaced {old_version}")
     expect(system.home() == before, "and leaves every file of the user as it was")
     expect(system.as_user("tarn-data list --database .local/share/tarn/DATA/Tarn.mdb") == listed,
            "the projects are read by the new version")
