@@ -212,8 +212,12 @@
         <translation>%1: %2</translation>
     </message>
     <message>
-        <source>%1: %2  %3  from %4 to %5, across %6</source>
-        <translation>%1: %2  %3  von %4 bis %5, quer %6</translation>
+        <source>%1: %2  %3  %4 to %5</source>
+        <translation>%1: %2  %3  %4 bis %5</translation>
+    </message>
+    <message>
+        <source>%1: %2  %3  %4 to %5, across %6</source>
+        <translation>%1: %2  %3  %4 bis %5, quer %6</translation>
     </message>
     <message>
         <source>%1: %2 %3 became %4</source>
@@ -405,7 +409,11 @@
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation>&amp;Wiederholen:</translation>
+        <translation>&amp;Wiederholen</translation>
+    </message>
+    <message>
+        <source>&amp;Redo %1</source>
+        <translation>&amp;Wiederholen: %1</translation>
     </message>
     <message>
         <source>&amp;SAVE</source>
@@ -432,8 +440,8 @@
         <translation>&amp;RÄUME VOM %1 ZURÜCKHOLEN</translation>
     </message>
     <message>
-        <source>&amp;Undo</source>
-        <translation>&amp;Rückgängig:</translation>
+        <source>&amp;Undo %1</source>
+        <translation>&amp;Rückgängig: %1</translation>
     </message>
     <message>
         <source>&amp;WIDTH:</source>
@@ -572,6 +580,18 @@ Beim Löschen gehen die Daten des Projekts verloren!</translation>
     <message>
         <source>Backups in %1, the newest first:</source>
         <translation>Sicherungen in %1, die neueste zuerst:</translation>
+    </message>
+    <message>
+        <source>Best is the least carpet, for no roll has a price; of equal ones, the shortest seams and joins.</source>
+        <translation>Am besten ist am wenigsten Teppichboden, denn keine Rolle hat einen Preis; bei Gleichstand die kürzesten Nähte.</translation>
+    </message>
+    <message>
+        <source>Best is the least carpet, for these rolls have no price: %1.</source>
+        <translation>Am besten ist am wenigsten Teppichboden, denn diese Rollen haben keinen Preis: %1.</translation>
+    </message>
+    <message>
+        <source>Best is the least price; of equal ones, the shortest seams and joins.</source>
+        <translation>Am besten ist der niedrigste Preis; bei Gleichstand die kürzesten Nähte.</translation>
     </message>
     <message>
         <source>Beyond the end of the project, dropped by SAVE</source>
@@ -1211,8 +1231,8 @@ Bei Nein wird nichts angelegt, und das Programm endet.</translation>
         <translation>Hinweis: Daneben gibt es eine von %1.</translation>
     </message>
     <message>
-        <source>Nothing can be read of the database file %1. Put a backup in its place.</source>
-        <translation>Von der Datenbankdatei %1 ist nichts lesbar. Setzen Sie eine Sicherung an ihre Stelle.</translation>
+        <source>Nothing can be read of the database file %1. %2</source>
+        <translation>Von der Datenbankdatei %1 ist nichts lesbar. %2</translation>
     </message>
     <message>
         <source>Nothing was made.</source>
@@ -1403,6 +1423,10 @@ yd²</translation>
     <message>
         <source>Put %1 in the place of %2.</source>
         <translation>%1 an die Stelle von %2 gesetzt.</translation>
+    </message>
+    <message>
+        <source>Put a backup in its place with &quot;tarn-data restore&quot;, or save what can still be read of it with &quot;tarn-data repair&quot;.</source>
+        <translation>Setzen Sie mit „tarn-data restore“ eine Sicherung an ihre Stelle, oder retten Sie mit „tarn-data repair“, was noch lesbar ist.</translation>
     </message>
     <message>
         <source>Put a backup in the place of a database; what was there is kept</source>
@@ -1641,6 +1665,10 @@ yd²</translation>
         <translation>Als neues Projekt speichern</translation>
     </message>
     <message>
+        <source>Saved: %1</source>
+        <translation>Gespeichert: %1</translation>
+    </message>
+    <message>
         <source>Seams</source>
         <translation>Nähte</translation>
     </message>
@@ -1827,12 +1855,12 @@ Beispiel:
         <translation>Die Datenbankdatei %1 ist eine Pipe, ein Gerät oder ein Socket. Berichtigen Sie ihren Pfad oder den Datenordner in %2.</translation>
     </message>
     <message>
-        <source>The database file %1 is damaged (%2). Put a backup in its place.</source>
-        <translation>Die Datenbankdatei %1 ist beschädigt (%2). Setzen Sie eine Sicherung an ihre Stelle.</translation>
+        <source>The database file %1 is damaged (%2). %3</source>
+        <translation>Die Datenbankdatei %1 ist beschädigt (%2). %3</translation>
     </message>
     <message>
-        <source>The database file %1 is empty. Put a backup in its place.</source>
-        <translation>Die Datenbankdatei %1 ist leer. Setzen Sie eine Sicherung an ihre Stelle.</translation>
+        <source>The database file %1 is empty. %2</source>
+        <translation>Die Datenbankdatei %1 ist leer. %2</translation>
     </message>
     <message>
         <source>The database file %1 is in the older Jet format, which cannot be read. Keep it, make a new data folder with &quot;tarn-data create&quot; and enter its projects there.</source>
@@ -1843,8 +1871,8 @@ Beispiel:
         <translation>Die Datenbankdatei %1 fehlt. Berichtigen Sie ihren Pfad oder den Datenordner in %2, oder legen Sie mit „tarn-data create“ einen neuen Datenordner an.</translation>
     </message>
     <message>
-        <source>The database file %1 is not a database of this program. Correct its path or the data folder in %2, or put a backup in its place.</source>
-        <translation>Die Datenbankdatei %1 ist keine Datenbank dieses Programms. Berichtigen Sie ihren Pfad oder den Datenordner in %2, oder setzen Sie eine Sicherung an ihre Stelle.</translation>
+        <source>The database file %1 is not a database of this program. Correct its path or the data folder in %2, or put a backup in its place with &quot;tarn-data restore&quot;.</source>
+        <translation>Die Datenbankdatei %1 ist keine Datenbank dieses Programms. Berichtigen Sie ihren Pfad oder den Datenordner in %2, oder setzen Sie mit „tarn-data restore“ eine Sicherung an ihre Stelle.</translation>
     </message>
     <message>
         <source>The database file %1 lies in a read-only folder. Allow writing to the folder.</source>
@@ -2045,6 +2073,14 @@ Beispiel:
     <message>
         <source>The picture could not be saved.</source>
         <translation>Das Bild konnte nicht gespeichert werden.</translation>
+    </message>
+    <message>
+        <source>The price &quot;%1&quot; of the roll %2: a comma is not taken. Write it with a point, as 18.50.</source>
+        <translation>Der Preis „%1“ der Rolle %2: Ein Komma gilt nicht. Schreiben Sie ihn mit Punkt, wie 18.50.</translation>
+    </message>
+    <message>
+        <source>The price of the roll %1 must be a number of 0 or more.</source>
+        <translation>Der Preis der Rolle %1 muss eine Zahl von 0 an sein.</translation>
     </message>
     <message>
         <source>The printer %1 %2.</source>
@@ -2673,12 +2709,24 @@ Wollen Sie wirklich löschen?</translation>
         <translation>nicht lesbar</translation>
     </message>
     <message>
+        <source>change room %1</source>
+        <translation>Raum %1 ändern</translation>
+    </message>
+    <message>
+        <source>change rooms</source>
+        <translation>Räume ändern</translation>
+    </message>
+    <message>
         <source>chosen</source>
         <translation>gewählt</translation>
     </message>
     <message>
         <source>cross: room lengths across the roll</source>
         <translation>quer: Raumlängen quer zur Rolle</translation>
+    </message>
+    <message>
+        <source>delete room %1</source>
+        <translation>Raum %1 löschen</translation>
     </message>
     <message>
         <source>down</source>
@@ -2905,6 +2953,10 @@ Wollen Sie wirklich löschen?</translation>
         <translation>An ihrer Stelle steht etwas, das keine Datei ist</translation>
     </message>
     <message>
+        <source>take back rooms of %1</source>
+        <translation>Räume vom %1 zurückholen</translation>
+    </message>
+    <message>
         <source>the area bought is wrong</source>
         <translation>die gekaufte Fläche ist falsch</translation>
     </message>
@@ -2913,8 +2965,8 @@ Wollen Sie wirklich löschen?</translation>
         <translation>die Fläche der Räume ist falsch</translation>
     </message>
     <message>
-        <source>the database file is damaged (%1). Put a backup in its place.</source>
-        <translation>Die Datenbankdatei ist beschädigt (%1). Setzen Sie eine Sicherung an ihre Stelle.</translation>
+        <source>the database file is damaged (%1). %2</source>
+        <translation>Die Datenbankdatei ist beschädigt (%1). %2</translation>
     </message>
     <message>
         <source>the database is read-only. Allow writing to the file and to its folder.</source>
@@ -3444,8 +3496,8 @@ Das Programm kann nicht drucken</translation>
     </message>
     <message>
         <location filename="../src/project/RoomChange.cpp"/>
-        <source>New room %1</source>
-        <translation>Neuer Raum %1</translation>
+        <source>new room %1</source>
+        <translation>neuer Raum %1</translation>
     </message>
     <message>
         <location filename="../src/project/RoomEntry.cpp"/>
@@ -3536,8 +3588,12 @@ Bitte ändern Sie die Bildschirmauflösung!</translation>
     </message>
     <message>
         <location filename="../src/screens/PrintQueue.cpp"/>
-        <source>Or press SAVE AS and choose &quot;%1&quot;.</source>
-        <translation>Oder drücken Sie SPEICHERN ALS und wählen Sie „%1“.</translation>
+        <source>One more job that waited behind it was not printed either.</source>
+        <comment>%n more jobs that waited behind it were not printed either.</comment>
+        <translation>
+            <numerusform>Ein weiterer Auftrag, der dahinter wartete, wurde auch nicht gedruckt.</numerusform>
+            <numerusform>%n weitere Aufträge, die dahinter warteten, wurden auch nicht gedruckt.</numerusform>
+        </translation>
     </message>
     <message>
         <location filename="../src/screens/PrintQueue.h"/>
@@ -3812,8 +3868,8 @@ m²</translation>
     </message>
     <message>
         <location filename="../src/screens/rooms/UndoMenu.cpp"/>
-        <source>Edit</source>
-        <translation>Bearbeiten</translation>
+        <source>&amp;Undo</source>
+        <translation>Zurückne&amp;hmen</translation>
     </message>
     <message>
         <location filename="../src/store/Backups.cpp"/>
@@ -3988,6 +4044,11 @@ Bei Nein wird nichts angelegt, und das Programm endet.</translation>
         <location filename="../src/store/Tables.cpp"/>
         <source>%1 cannot be read</source>
         <translation>%1 kann nicht gelesen werden</translation>
+    </message>
+    <message>
+        <location filename="../src/store/Remedies.h"/>
+        <source>Put a backup in its place with &quot;tarn-data restore&quot;.</source>
+        <translation>Setzen Sie mit „tarn-data restore“ eine Sicherung an ihre Stelle.</translation>
     </message>
     <message>
         <location filename="../src/store/Repair.cpp"/>

@@ -212,8 +212,12 @@
         <translation>%1: %2</translation>
     </message>
     <message>
-        <source>%1: %2  %3  from %4 to %5, across %6</source>
-        <translation>%1: %2  %3  de %4 a %5, de través %6</translation>
+        <source>%1: %2  %3  %4 to %5</source>
+        <translation>%1: %2  %3  %4 a %5</translation>
+    </message>
+    <message>
+        <source>%1: %2  %3  %4 to %5, across %6</source>
+        <translation>%1: %2  %3  %4 a %5, de través %6</translation>
     </message>
     <message>
         <source>%1: %2 %3 became %4</source>
@@ -405,7 +409,11 @@
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation>&amp;Rehacer:</translation>
+        <translation>&amp;Rehacer</translation>
+    </message>
+    <message>
+        <source>&amp;Redo %1</source>
+        <translation>&amp;Rehacer: %1</translation>
     </message>
     <message>
         <source>&amp;SAVE</source>
@@ -432,8 +440,8 @@
         <translation>&amp;RECUPERAR ESTANCIAS DEL %1</translation>
     </message>
     <message>
-        <source>&amp;Undo</source>
-        <translation>&amp;Deshacer:</translation>
+        <source>&amp;Undo %1</source>
+        <translation>&amp;Deshacer: %1</translation>
     </message>
     <message>
         <source>&amp;WIDTH:</source>
@@ -572,6 +580,18 @@ Delete operation will make the data of the project lost!</source>
     <message>
         <source>Backups in %1, the newest first:</source>
         <translation>Copias de seguridad en %1, la más reciente primero:</translation>
+    </message>
+    <message>
+        <source>Best is the least carpet, for no roll has a price; of equal ones, the shortest seams and joins.</source>
+        <translation>Lo mejor es la menor cantidad de moqueta, pues ningún rollo tiene precio; a igualdad, las juntas y empalmes más cortos.</translation>
+    </message>
+    <message>
+        <source>Best is the least carpet, for these rolls have no price: %1.</source>
+        <translation>Lo mejor es la menor cantidad de moqueta, pues estos rollos no tienen precio: %1.</translation>
+    </message>
+    <message>
+        <source>Best is the least price; of equal ones, the shortest seams and joins.</source>
+        <translation>Lo mejor es el menor precio; a igualdad, las juntas y empalmes más cortos.</translation>
     </message>
     <message>
         <source>Beyond the end of the project, dropped by SAVE</source>
@@ -1211,8 +1231,8 @@ Con No no se crea nada y el programa termina.</translation>
         <translation>Nota: junto a ella hay una de %1.</translation>
     </message>
     <message>
-        <source>Nothing can be read of the database file %1. Put a backup in its place.</source>
-        <translation>No se puede leer nada de la base de datos %1. Ponga una copia de seguridad en su lugar.</translation>
+        <source>Nothing can be read of the database file %1. %2</source>
+        <translation>No se puede leer nada de la base de datos %1. %2</translation>
     </message>
     <message>
         <source>Nothing was made.</source>
@@ -1403,6 +1423,10 @@ yd²</translation>
     <message>
         <source>Put %1 in the place of %2.</source>
         <translation>Se puso %1 en lugar de %2.</translation>
+    </message>
+    <message>
+        <source>Put a backup in its place with &quot;tarn-data restore&quot;, or save what can still be read of it with &quot;tarn-data repair&quot;.</source>
+        <translation>Ponga una copia de seguridad en su lugar con «tarn-data restore», o salve con «tarn-data repair» lo que aún se pueda leer.</translation>
     </message>
     <message>
         <source>Put a backup in the place of a database; what was there is kept</source>
@@ -1641,6 +1665,10 @@ yd²</translation>
         <translation>Guardarlo como proyecto nuevo</translation>
     </message>
     <message>
+        <source>Saved: %1</source>
+        <translation>Guardado: %1</translation>
+    </message>
+    <message>
         <source>Seams</source>
         <translation>Juntas</translation>
     </message>
@@ -1827,12 +1855,12 @@ Ejemplo:
         <translation>La base de datos %1 es una tubería, un dispositivo o un socket. Corrija su ruta o la carpeta de datos en %2.</translation>
     </message>
     <message>
-        <source>The database file %1 is damaged (%2). Put a backup in its place.</source>
-        <translation>La base de datos %1 está dañada (%2). Ponga una copia de seguridad en su lugar.</translation>
+        <source>The database file %1 is damaged (%2). %3</source>
+        <translation>La base de datos %1 está dañada (%2). %3</translation>
     </message>
     <message>
-        <source>The database file %1 is empty. Put a backup in its place.</source>
-        <translation>La base de datos %1 está vacía. Ponga una copia de seguridad en su lugar.</translation>
+        <source>The database file %1 is empty. %2</source>
+        <translation>La base de datos %1 está vacía. %2</translation>
     </message>
     <message>
         <source>The database file %1 is in the older Jet format, which cannot be read. Keep it, make a new data folder with &quot;tarn-data create&quot; and enter its projects there.</source>
@@ -1843,8 +1871,8 @@ Ejemplo:
         <translation>Falta la base de datos %1. Corrija su ruta o la carpeta de datos en %2, o cree una carpeta de datos nueva con «tarn-data create».</translation>
     </message>
     <message>
-        <source>The database file %1 is not a database of this program. Correct its path or the data folder in %2, or put a backup in its place.</source>
-        <translation>El archivo %1 no es una base de datos de este programa. Corrija su ruta o la carpeta de datos en %2, o ponga una copia de seguridad en su lugar.</translation>
+        <source>The database file %1 is not a database of this program. Correct its path or the data folder in %2, or put a backup in its place with &quot;tarn-data restore&quot;.</source>
+        <translation>El archivo %1 no es una base de datos de este programa. Corrija su ruta o la carpeta de datos en %2, o ponga una copia de seguridad en su lugar con «tarn-data restore».</translation>
     </message>
     <message>
         <source>The database file %1 lies in a read-only folder. Allow writing to the folder.</source>
@@ -2045,6 +2073,14 @@ Ejemplo:
     <message>
         <source>The picture could not be saved.</source>
         <translation>No se pudo guardar la imagen.</translation>
+    </message>
+    <message>
+        <source>The price &quot;%1&quot; of the roll %2: a comma is not taken. Write it with a point, as 18.50.</source>
+        <translation>El precio «%1» del rollo %2: no se admite la coma. Escríbalo con punto, como 18.50.</translation>
+    </message>
+    <message>
+        <source>The price of the roll %1 must be a number of 0 or more.</source>
+        <translation>El precio del rollo %1 debe ser un número igual o mayor que 0.</translation>
     </message>
     <message>
         <source>The printer %1 %2.</source>
@@ -2673,12 +2709,24 @@ Do you want to continue deleting?</source>
         <translation>no se puede leer</translation>
     </message>
     <message>
+        <source>change room %1</source>
+        <translation>cambiar estancia %1</translation>
+    </message>
+    <message>
+        <source>change rooms</source>
+        <translation>cambiar estancias</translation>
+    </message>
+    <message>
         <source>chosen</source>
         <translation>elegido</translation>
     </message>
     <message>
         <source>cross: room lengths across the roll</source>
         <translation>de través: el largo de las estancias a lo ancho del rollo</translation>
+    </message>
+    <message>
+        <source>delete room %1</source>
+        <translation>borrar estancia %1</translation>
     </message>
     <message>
         <source>down</source>
@@ -2905,6 +2953,10 @@ Do you want to continue deleting?</source>
         <translation>en su lugar hay algo que no es un archivo</translation>
     </message>
     <message>
+        <source>take back rooms of %1</source>
+        <translation>recuperar estancias del %1</translation>
+    </message>
+    <message>
         <source>the area bought is wrong</source>
         <translation>la superficie comprada es errónea</translation>
     </message>
@@ -2913,8 +2965,8 @@ Do you want to continue deleting?</source>
         <translation>la superficie de las estancias es errónea</translation>
     </message>
     <message>
-        <source>the database file is damaged (%1). Put a backup in its place.</source>
-        <translation>la base de datos está dañada (%1). Ponga una copia de seguridad en su lugar.</translation>
+        <source>the database file is damaged (%1). %2</source>
+        <translation>la base de datos está dañada (%1). %2</translation>
     </message>
     <message>
         <source>the database is read-only. Allow writing to the file and to its folder.</source>
@@ -3444,8 +3496,8 @@ No se puede imprimir en el programa</translation>
     </message>
     <message>
         <location filename="../src/project/RoomChange.cpp"/>
-        <source>New room %1</source>
-        <translation>Estancia nueva %1</translation>
+        <source>new room %1</source>
+        <translation>estancia nueva %1</translation>
     </message>
     <message>
         <location filename="../src/project/RoomEntry.cpp"/>
@@ -3536,8 +3588,12 @@ Please change the display resolution!</source>
     </message>
     <message>
         <location filename="../src/screens/PrintQueue.cpp"/>
-        <source>Or press SAVE AS and choose &quot;%1&quot;.</source>
-        <translation>O pulse GUARDAR COMO y elija «%1».</translation>
+        <source>One more job that waited behind it was not printed either.</source>
+        <comment>%n more jobs that waited behind it were not printed either.</comment>
+        <translation>
+            <numerusform>Otro trabajo que esperaba detrás tampoco se imprimió.</numerusform>
+            <numerusform>Otros %n trabajos que esperaban detrás tampoco se imprimieron.</numerusform>
+        </translation>
     </message>
     <message>
         <location filename="../src/screens/PrintQueue.h"/>
@@ -3812,8 +3868,8 @@ m²</translation>
     </message>
     <message>
         <location filename="../src/screens/rooms/UndoMenu.cpp"/>
-        <source>Edit</source>
-        <translation>Edición</translation>
+        <source>&amp;Undo</source>
+        <translation>&amp;Deshacer</translation>
     </message>
     <message>
         <location filename="../src/store/Backups.cpp"/>
@@ -3988,6 +4044,11 @@ Con No no se crea nada y el programa termina.</translation>
         <location filename="../src/store/Tables.cpp"/>
         <source>%1 cannot be read</source>
         <translation>%1 no se puede leer</translation>
+    </message>
+    <message>
+        <location filename="../src/store/Remedies.h"/>
+        <source>Put a backup in its place with &quot;tarn-data restore&quot;.</source>
+        <translation>Ponga una copia de seguridad en su lugar con «tarn-data restore».</translation>
     </message>
     <message>
         <location filename="../src/store/Repair.cpp"/>
