@@ -84,9 +84,9 @@ TEST(Figures, PriceIsByTheSquareMetreWithMetric) {
 }
 
 std::vector<std::string> NotesFor(const Project& project, const OrderRequest& request) {
+    const Order order = MakeOrderOf(project, request);
     std::vector<std::string> notes;
-    for (const Saying& note :
-         MakeOrderOf(project, request).Candidates.at(0).Figures.value().Notes) {
+    for (const Saying& note : order.Candidates.at(0).Figures.value().Notes) {
         notes.push_back(note.English);
     }
     return notes;

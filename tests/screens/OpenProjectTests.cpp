@@ -222,11 +222,11 @@ TEST_F(OpenProjects, ThatAreGoneWithTheirDirectoryMakeItAgain) {
 TEST_F(OpenProjects, SayInWhichUnitsTheyWereEnteredWhileOthersAreInForce) {
     EXPECT_EQ(UnitsWarning(open), "");
     open.Shown = Units::Metric;
-    EXPECT_EQ(UnitsWarning(open), "ENTERED IN FEET");
+    EXPECT_EQ(UnitsWarning(open), "E&NTERED IN FEET");
     open.Saved.EnteredIn = Units::Metric;
     EXPECT_EQ(UnitsWarning(open), "");
     open.Shown = Units::Imperial;
-    EXPECT_EQ(UnitsWarning(open), "ENTERED IN METRIC");
+    EXPECT_EQ(UnitsWarning(open), "E&NTERED IN METRIC");
 }
 
 TEST_F(OpenProjects, WithoutRoomsWereEnteredAsTheyAreTyped) {
@@ -238,9 +238,9 @@ TEST_F(OpenProjects, WithoutRoomsWereEnteredAsTheyAreTyped) {
         EXPECT_EQ(UnitsWarning(open), "") << "nothing was entered";
         open.Typed.New.emplace();
         open.Typed.In = Units::Metric;
-        EXPECT_EQ(UnitsWarning(open), shown == Units::Metric ? "" : "ENTERED IN METRIC");
+        EXPECT_EQ(UnitsWarning(open), shown == Units::Metric ? "" : "E&NTERED IN METRIC");
         open.Typed.In = Units::Imperial;
-        EXPECT_EQ(UnitsWarning(open), shown == Units::Metric ? "ENTERED IN FEET" : "");
+        EXPECT_EQ(UnitsWarning(open), shown == Units::Metric ? "E&NTERED IN FEET" : "");
     }
 }
 
