@@ -105,6 +105,17 @@ std::string ShownText(std::string_view utf8) {
     return shown;
 }
 
+std::string WellFormedText(std::string_view utf8) {
+    std::string text;
+    text.reserve(utf8.size());
+    while (!utf8.empty()) {
+        const auto [fault, length] = FirstFault(utf8);
+        text += fault == TextFault::NotUtf8 ? ReplacementCharacter : utf8.substr(0, length);
+        utf8.remove_prefix(length);
+    }
+    return text;
+}
+
 std::string OneLine(std::string_view utf8) {
     constexpr char LeadOfHighControls = '\xC2'; // U+0080 to U+009F are C2 80 to C2 9F
     std::string line;

@@ -57,6 +57,9 @@ inline constexpr std::string_view ReplacementCharacter = "\xEF\xBF\xBD";
 /// The text as it is shown: with ReplacementCharacter for each fault, and so without any.
 std::string ShownText(std::string_view utf8);
 
+/// The text with ReplacementCharacter for each byte that is not UTF-8.
+std::string WellFormedText(std::string_view utf8);
+
 /// The text with a blank for each control character: what can stand in one line.
 std::string OneLine(std::string_view utf8);
 

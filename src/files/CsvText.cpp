@@ -3,6 +3,7 @@
 #include "base/Text.h"
 
 #include <algorithm>
+#include <array>
 
 namespace tarn {
 
@@ -19,8 +20,9 @@ void SetFault(CsvRecord& record, CsvFault fault) {
 
 } // namespace
 
-CsvReader::CsvReader(std::string_view text)
-    : rest_(text) {
+CsvReader::CsvReader(std::string_view text, char separator)
+    : rest_(text)
+    , separator_(separator) {
     if (rest_.starts_with(ByteOrderMark)) {
         rest_.remove_prefix(ByteOrderMark.size());
     }
@@ -60,7 +62,7 @@ CsvRecord CsvReader::TakeRecord() {
     CsvRecord record;
     record.Line = line_;
     TakeField(record);
-    while (rest_.starts_with(',')) {
+    while (rest_.starts_with(separator_)) {
         Take(1);
         TakeField(record);
     }
@@ -79,7 +81,9 @@ void CsvReader::TakeField(CsvRecord& record) {
             SetFault(record, CsvFault::UnclosedQuote);
         }
     }
-    const std::string_view plain = Take(std::min(rest_.find_first_of(",\r\n"), rest_.size()));
+    const std::array<char, 3> ends{separator_, '\r', '\n'};
+    const std::string_view plain = Take(
+        std::min(rest_.find_first_of(std::string_view(ends.data(), ends.size())), rest_.size()));
     if (quoted && !plain.empty()) {
         SetFault(record, CsvFault::TextAfterQuote);
     }

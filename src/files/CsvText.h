@@ -13,7 +13,7 @@ namespace tarn {
 /// What is wrong with the quoting of a field.
 enum class CsvFault {
     None,
-    TextAfterQuote, ///< something other than a comma or a line end follows the closing quote
+    TextAfterQuote, ///< something other than a separator or a line end follows the closing quote
     UnclosedQuote   ///< the text ends within the quotes
 };
 
@@ -30,16 +30,16 @@ struct CsvRecord {
     std::size_t FaultyField = 0;     ///< its place among all, from 0, when there is a fault
 };
 
-/// Takes a CSV text apart by RFC 4180, record by record: fields separated by commas; a field that
-/// begins with a quote may hold commas, line ends and doubled quotes. A byte-order mark at the
-/// start is skipped, lines end in CR LF, LF or CR, empty lines are no records. A quote further on
-/// in a field that does not begin with one is itself, so that 12'6" can be written as it is. Blanks
-/// belong to the field. The bytes of the fields are not judged; a record with a fault is still
-/// split to its end.
+/// Takes a CSV text apart by RFC 4180, record by record: fields separated by commas, or by another
+/// character; a field that begins with a quote may hold separators, line ends and doubled quotes. A
+/// byte-order mark at the start is skipped, lines end in CR LF, LF or CR, empty lines are no
+/// records. A quote further on in a field that does not begin with one is itself, so that 12'6" can
+/// be written as it is. Blanks belong to the field. The bytes of the fields are not judged; a
+/// record with a fault is still split to its end.
 class CsvReader {
   public:
-    /// The text is not copied.
-    explicit CsvReader(std::string_view text);
+    /// The text is not copied. The separator is neither a quote nor of a line end.
+    explicit CsvReader(std::string_view text, char separator = ',');
 
     /// The next record; nothing behind the last one.
     std::optional<CsvRecord> Next();
@@ -53,6 +53,7 @@ class CsvReader {
     bool TakeQuoted(std::string& field);
 
     std::string_view rest_;
+    char separator_;
     long long line_ = 1;
 };
 

@@ -1,11 +1,7 @@
 #include "files/OrderTables.h"
 
-#include "base/Words.h"
-#include "files/CsvText.h"
+#include "files/Spreadsheet.h"
 #include "order/Comparison.h"
-
-#include <array>
-#include <charconv>
 
 namespace tarn {
 
@@ -64,36 +60,6 @@ std::vector<TableCell> CandidateCells(const Order& order, std::size_t number) {
     return cells;
 }
 
-/// Numbers as they are read back to the same value.
-std::string NumberText(double number) {
-    std::array<char, 32> digits{};
-    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), number).ptr;
-    return {digits.data(), end};
-}
-
-std::string CsvCell(const TableCell& cell) {
-    if (const auto* text = std::get_if<std::string>(&cell)) {
-        return CsvTextCell(*text);
-    }
-    if (const auto* whole = std::get_if<std::int64_t>(&cell)) {
-        return std::to_string(*whole);
-    }
-    const auto* number = std::get_if<double>(&cell);
-    return number == nullptr ? std::string() : NumberText(*number);
-}
-
-void AppendTable(std::string& csv, const ValueTable& table) {
-    AppendCsvRecord(csv, {table.Heads.begin(), table.Heads.end()});
-    for (const auto& row : table.Rows) {
-        std::vector<std::string> fields;
-        fields.reserve(row.size());
-        for (const TableCell& cell : row) {
-            fields.push_back(CsvCell(cell));
-        }
-        AppendCsvRecord(csv, fields);
-    }
-}
-
 } // namespace
 
 ValueTable ComparisonTable(const OrderDocument& document) {
@@ -133,11 +99,11 @@ ValueTable PieceTable(const OrderDocument& document) {
 }
 
 std::string OrderCsv(const OrderDocument& document) {
-    std::string csv;
-    AppendTable(csv, ComparisonTable(document));
-    csv += "\r\n";
-    AppendTable(csv, PieceTable(document));
-    return csv;
+    return CsvOf({ComparisonTable(document), PieceTable(document)});
+}
+
+std::string OrderXlsx(const OrderDocument& document) {
+    return XlsxOf({ComparisonTable(document), PieceTable(document)});
 }
 
 } // namespace tarn

@@ -1,64 +1,40 @@
 #include "files/RoomCsv.h"
 
+#include "base/Format.h"
 #include "base/Lengths.h"
+#include "base/Numbers.h"
+#include "base/TakeNumber.h"
 #include "base/Text.h"
 #include "files/CsvText.h"
-#include "files/QtText.h"
+#include "files/ForeignFile.h"
+#include "files/RoomHeadings.h"
+#include "files/TextEncoding.h"
 #include "project/Coverings.h"
 #include "project/RoomEntry.h"
 #include "project/WallBase.h"
-
-#include <QString>
+#include "project/WholeLength.h"
 
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <cmath>
 #include <limits>
 #include <optional>
+#include <utility>
 
 namespace tarn {
 
 namespace {
 
-enum class Column { Width, Length, Covering, Base, Room, Remark };
-
-constexpr std::array<std::string_view, 6> ColumnNames{"width", "length", "covering",
-                                                      "base",  "room",   "remark"};
-constexpr std::size_t RequiredColumns = 3;
-
 constexpr std::string_view SaveAsUtf8 = "; save it as UTF-8 (\"CSV UTF-8\" in a spreadsheet)";
+constexpr std::string_view Digits = "0123456789";
 
-std::string_view NameOf(Column column) {
-    return ColumnNames[static_cast<std::size_t>(column)];
+bool IsDigits(std::string_view text) {
+    return !text.empty() && text.find_first_not_of(Digits) == std::string_view::npos;
 }
 
-/// What is wrong with a file as a whole, as spreadsheets save one, or nothing: every line of it
-/// would otherwise be a mistake.
-std::string FormProblem(std::string_view text, const CsvRecord& header) {
-    using namespace std::string_view_literals;
-    for (const std::string_view utf16Mark : {"\xFF\xFE"sv, "\xFE\xFF"sv}) {
-        if (text.starts_with(utf16Mark)) {
-            return "the file is not UTF-8" + std::string(SaveAsUtf8);
-        }
-    }
-    if (header.Fault == CsvFault::None && header.Fields.size() == 1) {
-        for (const auto& [separator, name] : {std::pair{';', "semicolons"}, {'\t', "tabs"}}) {
-            if (header.Fields.front().find(separator) != std::string::npos) {
-                return "the columns are separated by " + std::string(name) +
-                       "; save the file with commas between them";
-            }
-        }
-    }
-    return {};
-}
-
-std::optional<Column> ColumnOf(std::string_view headerField) {
-    const std::string name = ToQt(headerField).trimmed().toLower().toStdString();
-    const auto* const found = std::find(ColumnNames.begin(), ColumnNames.end(), name);
-    if (found == ColumnNames.end()) {
-        return std::nullopt;
-    }
-    return static_cast<Column>(found - ColumnNames.begin());
+std::string Counted(std::size_t count) {
+    return TrimStr(static_cast<long long>(count));
 }
 
 // Each of the following sets one field of a room and answers what is wrong with the text, or
@@ -66,9 +42,91 @@ std::optional<Column> ColumnOf(std::string_view headerField) {
 
 using Problem = std::string;
 
-Problem TakeSize(std::string_view field, Units units, Integer& size) {
+/// What a size column holds.
+struct SizeColumn {
+    Units In = Units::Imperial;
+    std::optional<LengthUnit> Unit; ///< that the heading names
+};
+
+/// What is wrong with a number such as 3,45, in words that say how to write it; empty for another
+/// text.
+Problem CommaProblem(std::string_view text, const SizeColumn& column) {
+    const std::size_t comma = text.find(',');
+    if (comma == std::string_view::npos) {
+        return {};
+    }
+    const std::string whole(text.substr(0, comma));
+    const std::string places(text.substr(comma + 1));
+    if (!IsDigits(whole) || !IsDigits(places)) {
+        return {};
+    }
+    const std::string point = whole + "." + places;
+    constexpr std::size_t Thousand = 3;
+    if (places.size() == Thousand) { // 1,200 may be one as well as the other
+        return "has a comma: write " + point + ", or " + whole + places;
+    }
+    if (column.Unit) {
+        return "has a decimal comma: write " + point;
+    }
+    return "has a decimal comma: write " + point + " below a heading with its unit, such as " +
+           (column.In == Units::Metric ? "width (m)" : "width (ft)");
+}
+
+/// The size of a whole number, or of feet and inches. A size too large for a room is one more than
+/// the largest.
+std::optional<long long> PlainSize(std::string_view text, Units units) {
+    if (IsDigits(text)) {
+        long long value = 0;
+        const auto result = std::from_chars(text.data(), text.data() + text.size(), value);
+        return result.ec == std::errc() ? value : std::numeric_limits<Integer>::max() + 1LL;
+    }
+    const auto inches = units == Units::Metric ? std::nullopt : ReadFeetAndInches(text);
+    return inches ? std::optional<long long>(*inches) : std::nullopt;
+}
+
+/// A number with at most as many places as a length is read with. What spreadsheets compute has
+/// more, of which the last are noise.
+std::string ShortNumber(std::string_view number) {
+    constexpr std::size_t MostPlaces = 6;
+    const std::size_t point = number.find('.');
+    const bool isLong = point != std::string_view::npos && number.size() - point - 1 > MostPlaces;
+    return isLong ? Format(Val(number), "0.000000") : std::string(number);
+}
+
+/// The size of a text below a heading that names a unit, as the fields on the screen would read it,
+/// before it is rounded. Nothing when it is none.
+std::optional<Double> SizeInUnit(std::string_view text, const SizeColumn& column) {
+    constexpr std::size_t MostDigits = 9;
+    std::string_view rest = text;
+    const std::string_view number = TakeNumber(rest);
+    if (rest.empty() && std::min(number.find('.'), number.size()) > MostDigits) {
+        return std::numeric_limits<Double>::max();
+    }
+    std::string length(text);
+    if (rest.empty() && !number.empty()) {
+        const bool isLarge = column.Unit->Part == SizePart::Major;
+        const char* const unit =
+            column.In == Units::Metric ? (isLarge ? "m" : "cm") : (isLarge ? "ft" : "in");
+        length = ShortNumber(number) + unit;
+    } else if (const auto inches = PlainSize(text, column.In)) {
+        return static_cast<Double>(*inches);
+    }
+    const auto whole = ReadWholeLength(length);
+    return whole && whole->In == column.In ? std::optional(JoinedSize(whole->Parts, column.In))
+                                           : std::nullopt;
+}
+
+std::string_view NoSize(const SizeColumn& column) {
+    if (column.In == Units::Metric) {
+        return column.Unit ? "is not a size such as 3.45 or 3.45m"
+                           : "is not a size in whole centimetres";
+    }
+    return column.Unit ? "is not a size such as 12.5 or 12'6\""
+                       : "is not a size in whole inches, or in feet and inches such as 12'6\"";
+}
+
+Problem TakeSize(std::string_view field, const SizeColumn& column, Integer& size, Problem& note) {
     constexpr long long Most = std::numeric_limits<Integer>::max();
-    const bool metric = units == Units::Metric;
     const std::string trimmed = TrimStr(field);
     std::string_view text = trimmed;
     if (text.empty()) {
@@ -78,25 +136,30 @@ Problem TakeSize(std::string_view field, Units units, Integer& size) {
     if (negative) {
         text.remove_prefix(1);
     }
-    long long value = 0;
-    if (!text.empty() && text.find_first_not_of("0123456789") == std::string_view::npos) {
-        const auto result = std::from_chars(text.data(), text.data() + text.size(), value);
-        if (result.ec != std::errc()) {
-            value = Most + 1;
-        }
-    } else if (const auto inches = metric ? std::nullopt : ReadFeetAndInches(text)) {
-        value = *inches;
-    } else {
-        return metric ? "is not a size in whole centimetres"
-                      : "is not a size in whole inches, or in feet and inches such as 12'6\"";
+    if (Problem problem = CommaProblem(text, column); !problem.empty()) {
+        return problem;
+    }
+    std::optional<Double> value;
+    if (column.Unit) {
+        value = SizeInUnit(text, column);
+    } else if (const auto plain = PlainSize(text, column.In)) {
+        value = static_cast<Double>(*plain);
+    }
+    if (!value) {
+        return std::string(NoSize(column));
     }
     if (negative) {
         return "is negative";
     }
-    if (value > Most) {
+    if (*value > Most) {
         return "is too large: a size is at most " + TrimStr(Most);
     }
-    size = static_cast<Integer>(value);
+    size = CInt(*value);
+    constexpr Double Noise = 0.001; // of what a spreadsheet computes
+    if (std::abs(*value - static_cast<Double>(size)) > Noise) {
+        note = "is kept as " + WholeLengthText(size, column.In) +
+               (column.In == Units::Metric ? " cm" : "");
+    }
     return {};
 }
 
@@ -157,54 +220,205 @@ Problem TakeText(std::string_view field, long long most, std::string& text) {
     return problem.empty() ? CheckLength(field, most) : problem;
 }
 
-Problem TakeField(Column column, std::string_view field, Units units, Room& room) {
+/// `note` is set when something of the field was not kept.
+Problem TakeField(const RoomHeading& column, std::string_view field, Units units, Room& room,
+                  Problem& note) {
     if (FindTextFault(field) == TextFault::NotUtf8) {
         return CheckCharacters(field);
     }
-    switch (column) {
-    case Column::Width:
-        return TakeSize(field, units, room.Width);
-    case Column::Length:
-        return TakeSize(field, units, room.Length);
-    case Column::Covering:
+    switch (column.Field) {
+    case RoomField::Width:
+        return TakeSize(field, {units, column.Unit}, room.Width, note);
+    case RoomField::Length:
+        return TakeSize(field, {units, column.Unit}, room.Length, note);
+    case RoomField::Covering:
         return TakeCovering(field, room.Covering);
-    case Column::Base:
+    case RoomField::Base:
         return TakeBase(field, room.Base);
-    case Column::Room:
+    case RoomField::Room:
         return TakeText(field, MaxRoomNumberLength, room.Number);
-    case Column::Remark:
+    case RoomField::Remark:
         return TakeText(field, MaxRemarkLength, room.Remark);
     }
     return {};
 }
 
+/// What is wrong with the unit that a heading names, if anything.
+Problem UnitProblem(const RoomHeading& heading, Units units) {
+    if (!heading.Unit || heading.Unit->In == units) {
+        return {};
+    }
+    if (!heading.Unit->In) {
+        return "has a unit in which no size is read; give the sizes in ft, in, m or cm";
+    }
+    return units == Units::Metric
+               ? "is in feet or inches, and the rooms are read in metric; read them without metric"
+               : "is in metric, and the rooms are read in feet and inches; read them with metric";
+}
+
+/// Whether a record is the headings of a table: the sizes have theirs in every one.
+bool HasHeadings(const CsvRecord& record) {
+    return std::any_of(record.Fields.begin(), record.Fields.end(), [](const std::string& field) {
+        const auto heading = ReadRoomHeading(field);
+        return heading && IsSize(heading->Field);
+    });
+}
+
+/// Where the separator is looked for, the first that is tried first.
+constexpr std::array<char, 3> Separators{',', ';', '\t'};
+
+/// The separator of a text: the one by which its first record has the most known headings, else the
+/// most fields; of equals the first in Separators.
+char SeparatorOf(std::string_view text) {
+    char best = Separators.front();
+    std::pair<std::size_t, std::size_t> most;
+    for (const char separator : Separators) {
+        const auto record = CsvReader(text, separator).Next();
+        if (!record) {
+            break;
+        }
+        const auto known = static_cast<std::size_t>(
+            std::count_if(record->Fields.begin(), record->Fields.end(),
+                          [](const auto& field) { return ReadRoomHeading(field).has_value(); }));
+        if (const std::pair found(known, record->FieldCount); found > most) {
+            most = found;
+            best = separator;
+        }
+    }
+    return best;
+}
+
+/// The separator that a first line "sep=;" names, as spreadsheets write and take it; nothing
+/// without such a line.
+std::optional<char> NamedSeparator(std::string_view text) {
+    constexpr std::string_view Name = "sep=";
+    const std::string_view line = text.substr(0, std::min(text.find_first_of("\r\n"), text.size()));
+    if (line.size() != Name.size() + 1 || !EqualsIgnoringCase(line.substr(0, Name.size()), Name)) {
+        return std::nullopt;
+    }
+    const auto* const found = std::find(Separators.begin(), Separators.end(), line.back());
+    return found == Separators.end() ? std::nullopt : std::optional(*found);
+}
+
 class RoomCsvReader {
   public:
-    explicit RoomCsvReader(Units units)
-        : units_(units) {}
+    RoomCsvReader(Units units, std::size_t most)
+        : units_(units)
+        , most_(most) {}
 
-    RoomCsvReading Read(std::string_view text) && {
-        CsvReader records(text);
-        const auto header = records.Next();
-        std::string problem = header ? FormProblem(text, *header) : "the file is empty";
-        if (!problem.empty()) {
-            AddError(1, std::move(problem));
+    /// A file: what it is and how it is written is found out.
+    RoomCsvReading ReadFile(std::string_view bytes, const std::string& encoding) && {
+        if (const std::string_view kind = ForeignKind(bytes); !kind.empty()) {
+            AddError(1, "the file is " + std::string(kind) +
+                            "; open it in a spreadsheet and save it as CSV");
             return std::move(reading_);
         }
-        ReadHeader(*header);
-        for (std::size_t count = 1; const auto record = records.Next(); ++count) {
-            if (count == RoomCapacity + 1) {
-                AddError(record->Line, std::string(ProjectFullText));
-            }
-            ReadRoom(*record);
+        const DecodedText decoded = DecodeText(bytes, encoding);
+        for (const MisfitBytes& misfit : decoded.Misfits) {
+            AddError(misfit.Line, "column " + TrimStr(misfit.Column) + ": the byte " +
+                                      misfit.Bytes + " is none of " + ShownText(decoded.Encoding));
         }
+        reading_.MoreErrors += decoded.MoreMisfits;
+        if (!reading_.Succeeded()) {
+            return std::move(reading_);
+        }
+        const std::string_view text = decoded.Utf8;
+        const auto named = NamedSeparator(text);
+        CsvReader records(text, named ? *named : SeparatorOf(text));
+        if (named) {
+            records.Next(); // the line that names it
+        }
+        const auto first = records.Next();
+        if (!first) {
+            AddError(1, "the file is empty");
+            return std::move(reading_);
+        }
+        ReadHeader(*first);
+        ReadRooms(records);
+        return Result();
+    }
+
+    /// What was copied in a spreadsheet.
+    RoomCsvReading ReadPasted(std::string_view text) && {
+        if (text.size() > MaxRoomCsvBytes) {
+            AddError(1, "the text has more than " + Counted(MaxRoomCsvBytes / (1024U * 1024U)) +
+                            " MB");
+            return std::move(reading_);
+        }
+        const std::string_view line =
+            text.substr(0, std::min(text.find_first_of("\r\n"), text.size()));
+        const bool isOfCells = line.find('\t') != std::string_view::npos;
+        CsvReader records(text, isOfCells ? '\t' : SeparatorOf(text));
+        const auto first = records.Next();
+        if (!first) {
+            AddError(1, "there is no text to paste");
+            return std::move(reading_);
+        }
+        if (HasHeadings(*first)) {
+            ReadHeader(*first);
+        } else if (TakeUsualColumns(*first)) {
+            ReadRecord(*first);
+        } else {
+            return std::move(reading_);
+        }
+        ReadRooms(records);
+        return Result();
+    }
+
+  private:
+    RoomCsvReading Result() {
         if (!reading_.Succeeded()) {
             reading_.Rooms.clear();
+            reading_.Notes.clear();
+            reading_.MoreNotes = 0;
         }
         return std::move(reading_);
     }
 
-  private:
+    void ReadRooms(CsvReader& records) {
+        while (const auto record = records.Next()) {
+            ReadRecord(*record);
+        }
+    }
+
+    /// A record of a room; one of empty fields alone, as spreadsheets write an empty row, is none.
+    void ReadRecord(const CsvRecord& record) {
+        const bool isEmpty = record.Fault == CsvFault::None &&
+                             record.FieldCount == record.Fields.size() &&
+                             std::all_of(record.Fields.begin(), record.Fields.end(),
+                                         [](const std::string& field) { return field.empty(); });
+        if (isEmpty) {
+            return;
+        }
+        if (++count_ == most_ + 1) {
+            AddError(record.Line, std::string(ProjectFullText));
+        }
+        ReadRoom(record);
+    }
+
+    /// The columns of a table without headings; false when it has too few or too many of them.
+    bool TakeUsualColumns(const CsvRecord& record) {
+        columnCount_ = record.FieldCount;
+        if (columnCount_ < NeededRoomFields || columnCount_ > RoomFieldNames.size()) {
+            AddError(record.Line, "there are no headings, and " + Counted(columnCount_) +
+                                      (columnCount_ == 1 ? " column" : " columns") +
+                                      ": without headings they are " + UsualColumns());
+            return false;
+        }
+        for (std::size_t i = 0; i < columnCount_; ++i) {
+            columns_.push_back(RoomHeading{static_cast<RoomField>(i), std::nullopt});
+        }
+        return true;
+    }
+
+    static std::string UsualColumns() {
+        std::string text;
+        for (const std::string_view name : RoomFieldNames) {
+            text.append(text.empty() ? "" : ", ").append(name);
+        }
+        return text + ", of which the first " + Counted(NeededRoomFields) + " are needed";
+    }
+
     void AddError(long long line, std::string problem) {
         AddError(line, {}, {}, std::move(problem));
     }
@@ -217,6 +431,14 @@ class RoomCsvReader {
         }
     }
 
+    void AddNote(long long line, std::string_view field, std::string value, std::string text) {
+        if (reading_.Notes.size() < MaxRoomCsvErrors) {
+            reading_.Notes.push_back({line, std::string(field), std::move(value), std::move(text)});
+        } else {
+            ++reading_.MoreNotes;
+        }
+    }
+
     /// Report the fault of a record, if it has one; whether it has.
     bool ReportFault(const CsvRecord& record) {
         if (record.Fault == CsvFault::None) {
@@ -224,7 +446,7 @@ class RoomCsvReader {
         }
         const std::size_t faulty = record.FaultyField;
         const bool known = faulty < columns_.size() && columns_[faulty].has_value();
-        AddError(record.Line, known ? NameOf(*columns_[faulty]) : "field",
+        AddError(record.Line, known ? NameOf(columns_[faulty]->Field) : "field",
                  faulty < record.Fields.size() ? record.Fields[faulty] : std::string(),
                  record.Fault == CsvFault::UnclosedQuote ? "has a quote that is never closed"
                                                          : "has text behind its closing quote");
@@ -239,30 +461,33 @@ class RoomCsvReader {
             return;
         }
         for (const std::string& field : header.Fields) {
-            const auto column = ColumnOf(field);
+            const auto column = ReadRoomHeading(field);
             if (TrimStr(field).empty()) {
                 AddError(header.Line, "a column has no name");
             } else if (!column) {
                 AddError(header.Line, HeaderField, field, "is unknown");
-            } else if (Has(*column)) {
+            } else if (Has(column->Field)) {
                 AddError(header.Line, HeaderField, field, "appears twice");
+            } else if (Problem problem = UnitProblem(*column, units_); !problem.empty()) {
+                AddError(header.Line, HeaderField, field, std::move(problem));
             }
             columns_.push_back(column);
         }
         if (columnCount_ > MostCsvFields) {
-            AddError(header.Line, "the line has " + TrimStr(static_cast<long long>(columnCount_)) +
-                                      " columns; a room has " +
-                                      TrimStr(static_cast<long long>(ColumnNames.size())));
+            AddError(header.Line, "the line has " + Counted(columnCount_) +
+                                      " columns; a room has " + Counted(RoomFieldNames.size()));
         }
-        for (std::size_t i = 0; i < RequiredColumns; ++i) {
-            if (!Has(static_cast<Column>(i))) {
-                AddError(header.Line, HeaderField, std::string(ColumnNames[i]), "is missing");
+        for (std::size_t i = 0; i < NeededRoomFields; ++i) {
+            if (!Has(static_cast<RoomField>(i))) {
+                AddError(header.Line, HeaderField, std::string(RoomFieldNames[i]), "is missing");
             }
         }
     }
 
-    bool Has(Column column) const {
-        return std::find(columns_.begin(), columns_.end(), column) != columns_.end();
+    bool Has(RoomField field) const {
+        return std::any_of(columns_.begin(), columns_.end(), [field](const auto& column) {
+            return column && column->Field == field;
+        });
     }
 
     void ReadRoom(const CsvRecord& record) {
@@ -270,45 +495,54 @@ class RoomCsvReader {
             return;
         }
         if (record.FieldCount != columnCount_) {
-            AddError(record.Line,
-                     "the line has " + TrimStr(static_cast<long long>(record.FieldCount)) +
-                         " fields and the header " + TrimStr(static_cast<long long>(columnCount_)));
+            AddError(record.Line, "the line has " + Counted(record.FieldCount) +
+                                      " fields and the header " + Counted(columnCount_));
             return;
         }
         Room room;
         for (std::size_t i = 0; i < columns_.size(); ++i) {
             if (const auto column = columns_[i]) {
-                std::string problem = TakeField(*column, record.Fields[i], units_, room);
+                Problem note;
+                Problem problem = TakeField(*column, record.Fields[i], units_, room, note);
                 if (!problem.empty()) {
-                    AddError(record.Line, NameOf(*column), record.Fields[i], std::move(problem));
+                    AddError(record.Line, NameOf(column->Field), record.Fields[i],
+                             std::move(problem));
+                } else if (!note.empty()) {
+                    AddNote(record.Line, NameOf(column->Field), record.Fields[i], std::move(note));
                 }
             }
         }
-        if (reading_.Rooms.size() < RoomCapacity) {
+        if (reading_.Rooms.size() < most_) {
             reading_.Rooms.push_back(std::move(room));
         }
     }
 
     Units units_;
+    std::size_t most_; ///< rooms
     /// By field, as many as are kept; nothing for one that is left out.
-    std::vector<std::optional<Column>> columns_;
+    std::vector<std::optional<RoomHeading>> columns_;
     std::size_t columnCount_ = 0; ///< of all
+    std::size_t count_ = 0;       ///< records of rooms so far
     RoomCsvReading reading_;
 };
 
 /// A value for one line of text: control characters as blanks, invalid bytes as replacement
 /// characters, and not too long.
 std::string Shown(std::string_view value) {
-    constexpr qsizetype Most = 40;
-    QString text = ToQt(OneLine(value));
-    if (text.size() > Most) {
-        text.truncate(Most);
-        if (text.back().isHighSurrogate()) {
-            text.chop(1);
+    constexpr std::size_t Most = 40; // characters, of which those beyond U+FFFF count twice
+    constexpr unsigned char FirstOfFourBytes = 0xF0;
+    const std::string line = WellFormedText(OneLine(value));
+    std::size_t count = 0;
+    for (std::size_t at = 0; at < line.size(); ++at) {
+        if (ContinuesCharacter(line[at])) {
+            continue;
         }
-        text += QStringLiteral("...");
+        count += static_cast<unsigned char>(line[at]) >= FirstOfFourBytes ? 2 : 1;
+        if (count > Most) {
+            return line.substr(0, at) + "...";
+        }
     }
-    return text.toStdString();
+    return line;
 }
 
 } // namespace
@@ -327,13 +561,35 @@ std::string ErrorText(const RoomCsvError& error) {
     return "line " + TrimStr(error.Line) + ": " + MistakeText(error);
 }
 
-RoomCsvReading ReadRoomCsv(std::string_view text, Units units) {
-    return RoomCsvReader(units).Read(text);
+std::string MoreMistakesText(long long count) {
+    return "and " + TrimStr(count) + (count == 1 ? " more mistake" : " more mistakes");
+}
+
+std::vector<std::string> MistakeLines(const RoomCsvReading& reading, std::size_t most) {
+    const std::size_t told = std::min(most, reading.Errors.size());
+    std::vector<std::string> lines;
+    for (std::size_t i = 0; i < told; ++i) {
+        lines.push_back(ErrorText(reading.Errors[i]));
+    }
+    const long long more =
+        reading.MoreErrors + static_cast<long long>(reading.Errors.size() - told);
+    if (more > 0) {
+        lines.push_back(MoreMistakesText(more));
+    }
+    return lines;
+}
+
+RoomCsvReading ReadRoomCsv(std::string_view bytes, Units units, const std::string& encoding) {
+    return RoomCsvReader(units, RoomCapacity).ReadFile(bytes, encoding);
+}
+
+RoomCsvReading ReadPastedRooms(std::string_view text, Units units, std::size_t most) {
+    return RoomCsvReader(units, most).ReadPasted(text);
 }
 
 std::string WriteRoomCsv(const std::vector<Room>& rooms) {
     std::string text;
-    AppendCsvRecord(text, {ColumnNames.begin(), ColumnNames.end()});
+    AppendCsvRecord(text, {RoomFieldNames.begin(), RoomFieldNames.end()});
     for (const Room& room : rooms) {
         AppendCsvRecord(text,
                         {TrimStr(room.Width), TrimStr(room.Length), CoveringName(room.Covering),

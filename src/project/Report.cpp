@@ -76,17 +76,6 @@ std::string AreaColumn(const Room& room, Units shown) {
     return text + Space(11 - Len(metricText));
 }
 
-/// The base length of the room that is number `item` of the project.
-Integer BaseLengthOf(const Room& room, long long item, Units shown) {
-    try {
-        return ListedBaseLength(room.Width, room.Length, room.Base);
-    } catch (const RunTimeError& error) {
-        throw error.WithAdvice(Words(
-            "The wall base of room %1 is longer than %2 %3: correct its size or its base.",
-            TrimStr(item), TrimStr(std::numeric_limits<Integer>::max()), SmallUnitName(shown)));
-    }
-}
-
 /// Base text, base length and the gap before the room number. `numberLength` is that of the
 /// covering's number.
 std::string BaseColumns(const Room& room, long long item, Units shown, long long numberLength) {
@@ -94,7 +83,7 @@ std::string BaseColumns(const Room& room, long long item, Units shown, long long
     if (room.Base == 0) {
         return base + Space(NoBaseWidth - numberLength);
     }
-    const Integer length = BaseLengthOf(room, item, shown);
+    const Integer length = ReportedBaseLength(room, item, shown);
     if (shown == Units::Metric) {
         return Padded(base, MetricBaseWidth) + Padded(TrimStr(length), BaseLengthWidth);
     }
@@ -125,6 +114,17 @@ std::string EnteredDataReport::Text() const {
         text.append(line.Text).append(CrLf);
     }
     return text;
+}
+
+Integer ReportedBaseLength(const Room& room, long long item, Units shown) {
+    try {
+        return ListedBaseLength(room.Width, room.Length, room.Base);
+    } catch (const RunTimeError& error) {
+        throw error.WithAdvice("The wall base of room " + TrimStr(item) + " is longer than " +
+                               TrimStr(std::numeric_limits<Integer>::max()) + " " +
+                               std::string(SmallUnitName(shown)) +
+                               ": correct its size or its base.");
+    }
 }
 
 EnteredDataReport MakeReport(const Project& project, Units shown, std::string_view date) {

@@ -45,6 +45,10 @@ struct EnteredDataReport {
 /// Integer.
 EnteredDataReport MakeReport(const Project& project, Units shown, std::string_view date);
 
+/// The base length that the report lists for the room that is number `item` of the project, in the
+/// small unit. Raises as MakeReport.
+Integer ReportedBaseLength(const Room& room, long long item, Units shown);
+
 /// The title of the report, in its heading and of what is printed.
 inline constexpr auto ReportTitle = Words("ENTERED DATA REPORT");
 

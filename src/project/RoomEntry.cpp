@@ -14,6 +14,7 @@
 #include <algorithm>
 #include <limits>
 #include <optional>
+#include <utility>
 
 namespace tarn {
 
@@ -145,6 +146,17 @@ StoreResult StoreRoom(Project& project, Units shown, std::size_t room, const Roo
         project.EnteredIn = shown;
     }
     return {};
+}
+
+void AddRooms(Project& project, Units shown, const std::vector<Room>& rooms) {
+    if (rooms.empty()) {
+        return;
+    }
+    Project after = project;
+    after.Rooms.insert(after.Rooms.end(), rooms.begin(), rooms.end());
+    after.EnteredIn = shown;
+    RequireExtents(after, shown);
+    project = std::move(after);
 }
 
 void DeleteRoom(Project& project, std::size_t room) {

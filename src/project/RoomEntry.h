@@ -11,6 +11,7 @@
 #include <cstddef>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace tarn {
 
@@ -57,6 +58,10 @@ struct StoreResult {
 /// for a size beyond an Integer, "Subscript out of range" for a room beyond the new one, and as
 /// ExtentOf for sizes that the project's scale gives no extent.
 StoreResult StoreRoom(Project& project, Units shown, std::size_t room, const RoomDraft& draft);
+
+/// Add rooms behind the last one, all of them or none; `shown` are then the units in which the
+/// project was entered. Nothing for no rooms. Raises as RequireExtents, with nothing changed.
+void AddRooms(Project& project, Units shown, const std::vector<Room>& rooms);
 
 /// Remove a room: the rooms behind it move up. Nothing for the new room, which is not stored.
 void DeleteRoom(Project& project, std::size_t room);

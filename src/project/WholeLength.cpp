@@ -21,21 +21,16 @@ constexpr std::string_view Blanks = " \t";
 /// Most digits on each side of the point: what is computed from them fits a whole number exactly.
 constexpr std::size_t MostDigits = 9;
 
-struct Unit {
-    std::optional<Units> In; ///< nothing: no size is typed in it
-    SizePart Part = SizePart::Major;
-};
-
 struct UnitName {
     std::string_view Name;
-    Unit Is;
+    LengthUnit Is;
 };
 
-constexpr Unit Feet{Units::Imperial, SizePart::Major};
-constexpr Unit Inches{Units::Imperial, SizePart::Minor};
-constexpr Unit Metres{Units::Metric, SizePart::Major};
-constexpr Unit Centimetres{Units::Metric, SizePart::Minor};
-constexpr Unit NotTaken{std::nullopt, SizePart::Major};
+constexpr LengthUnit Feet{Units::Imperial, SizePart::Major};
+constexpr LengthUnit Inches{Units::Imperial, SizePart::Minor};
+constexpr LengthUnit Metres{Units::Metric, SizePart::Major};
+constexpr LengthUnit Centimetres{Units::Metric, SizePart::Minor};
+constexpr LengthUnit NotTaken{std::nullopt, SizePart::Major};
 
 /// How units are written. Where one name begins another, the longer one stands first.
 constexpr std::array<UnitName, 30> UnitNames{{
@@ -159,7 +154,7 @@ class Reader {
         return decimal;
     }
     /// A unit, also one that is written short with a point, "ft.".
-    std::optional<Unit> TakeUnit() {
+    std::optional<LengthUnit> TakeUnit() {
         SkipBlanks();
         for (const UnitName& each : UnitNames) {
             const std::size_t size = each.Name.size();
@@ -312,7 +307,7 @@ std::optional<ValReading> TryToRead(std::string_view text) {
 }
 
 /// The unit that is all that stands behind the number of a text.
-std::optional<Unit> UnitBehindNumber(const std::string& plain) {
+std::optional<LengthUnit> UnitBehindNumber(const std::string& plain) {
     const auto reading = TryToRead(plain);
     if (!reading || !reading->Readable) {
         return std::nullopt;
@@ -381,6 +376,13 @@ bool IsNegative(std::string_view text) {
 }
 
 } // namespace
+
+std::optional<LengthUnit> ReadLengthUnit(std::string_view text) {
+    const std::string plain = WithPlainQuotes(text);
+    Reader reader(plain);
+    const auto unit = reader.TakeUnit();
+    return reader.IsAtEnd() ? unit : std::nullopt;
+}
 
 std::optional<WholeLength> ReadWholeLength(std::string_view text) {
     const std::string plain = WithPlainQuotes(text);

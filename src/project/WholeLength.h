@@ -25,6 +25,18 @@ struct WholeLength {
     bool operator==(const WholeLength&) const = default;
 };
 
+/// A unit of length: the one of a size field, or one in which no size is typed, such as mm.
+struct LengthUnit {
+    std::optional<Units> In; ///< nothing: no size is typed in it
+    SizePart Part = SizePart::Major;
+
+    bool operator==(const LengthUnit&) const = default;
+};
+
+/// The unit that a text names, in one of the ways in which ReadWholeLength reads it; nothing for
+/// another text.
+std::optional<LengthUnit> ReadLengthUnit(std::string_view text);
+
 /// Read a length with its units: 12'6", 12' 6 1/2", 12'-6", 12-6, 12ft 6in, 3.66m, 366cm, 3m 66cm,
 /// or one of the units alone. Units may be written in either case and in full (feet, inches,
 /// metres, centimetres), feet and inches also with typographic quotes, and with blanks around

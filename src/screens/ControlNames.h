@@ -84,6 +84,7 @@ inline constexpr const char* fileClose = "FileMnu(99)";
 inline constexpr const char* editMenu = "EditMenu";
 inline constexpr const char* undoRooms = "UndoRooms";
 inline constexpr const char* redoRooms = "RedoRooms";
+inline constexpr const char* pasteRooms = "PasteRooms";
 inline constexpr const char* roomPanel = "Frame1";
 inline constexpr const char* roomSizes = "Frame2";
 inline constexpr const char* roomWidthMajor = "Text1(0)";
@@ -119,18 +120,25 @@ inline constexpr const char* showRoomList = "ShowRoomList";
 inline constexpr const char* roomList = "RoomList";
 inline constexpr const char* roomTable = "RoomTable";
 inline constexpr const char* roomTotals = "RoomTotals";
+inline constexpr const char* roomListMenu = "RoomListMenu";
+inline constexpr const char* pasteIntoList = "PasteIntoList";
+inline constexpr const char* roomListAsXlsx = "RoomListXlsx";
+inline constexpr const char* roomListAsCsv = "RoomListCsv";
 inline constexpr const char* reportPanel = "Frame4";
 inline constexpr const char* reportText = "Text2";
 inline constexpr const char* printReport = "Command2(0)";
 inline constexpr const char* closeReport = "Command2(1)";
 inline constexpr const char* reportAsPdf = "SaveAsPdf";
 inline constexpr const char* reportAsSvg = "SaveAsSvg";
+inline constexpr const char* reportAsXlsx = "SaveAsXlsx";
+inline constexpr const char* reportAsCsv = "SaveAsCsv";
 
 // Estimate: the estimate, what is chosen for it, and the improving search.
 inline constexpr const char* estimateScreen = "ESCarpForm";
 inline constexpr const char* layoutPicture = "Picture1";
 inline constexpr const char* pictureAsPdf = "SavePdf";
 inline constexpr const char* pictureAsSvg = "SaveSvg";
+inline constexpr const char* rollAsDxf = "SaveDxf";
 inline constexpr const char* estimatedProject = "Label2";
 inline constexpr const char* zoomHint = "Label5";
 inline constexpr const char* openChoices = "Command3";
@@ -243,8 +251,8 @@ inline constexpr const char* stopComparing = "StopComparing";
 inline constexpr const char* printOrder = "PrintOrder";
 inline constexpr const char* saveOrderAs = "SaveOrderAs";
 inline constexpr const char* orderFiles = "OrderFiles";
-inline constexpr std::array<const char*, 6> orderFileActions{"OrderPdf", "OrderSvg",  "OrderXlsx",
-                                                             "OrderCsv", "OrderText", "OrderJson"};
+inline constexpr std::array<const char*, 7> orderFileActions{
+    "OrderPdf", "OrderSvg", "OrderXlsx", "OrderCsv", "OrderText", "OrderJson", "OrderDxf"};
 inline constexpr const char* leaveOrder = "LeaveOrder";
 
 } // namespace tarn::Controls

@@ -3,9 +3,10 @@
 #include "base/Lengths.h"
 #include "base/RunTimeError.h"
 #include "base/Text.h"
-#include "base/Words.h"
+#include "files/ProjectTables.h"
 #include "files/RoomCsv.h"
 #include "files/ShortDate.h"
+#include "files/Spreadsheet.h"
 #include "project/Coverings.h"
 #include "project/Report.h"
 #include "project/WallBase.h"
@@ -127,7 +128,10 @@ void RequireReadable(const Project& project, const std::string& file) {
         // Line 1 is the header, and each room has one line.
         text += "\n  " + Words("room %1: %2", TrimStr(mistake.Line - 1), MistakeText(mistake));
     }
-    throw Refusal(text + MoreMistakes(reading));
+    if (reading.MoreErrors > 0) {
+        text += "\n  " + MoreMistakesText(reading.MoreErrors);
+    }
+    throw Refusal(text);
 }
 
 } // namespace
@@ -158,32 +162,50 @@ void ListData(const std::string& database) {
     WriteStandardOutput(out.str());
 }
 
-void ReportProject(const std::string& database, const std::string& name, Units units) {
-    ProjectStore store(database, DatabaseAccess::ReadOnly);
-    const Project project = LoadProjectNamed(store, name);
-    if (project.EnteredIn == Units::Metric && units != Units::Metric) {
-        WarnOfMetric(Words("Warning: the project %1 was entered in metric; its sizes are listed in "
-                           "feet and inches. Use --metric for centimetres."),
-                     project);
+void ReportProject(const ReportRequest& request) {
+    RequireOtherFile(request.Csv, request.Database);
+    RequireOtherFile(request.Xlsx, request.Database);
+    ProjectStore store(request.Database, DatabaseAccess::ReadOnly);
+    const Project project = LoadProjectNamed(store, request.Project);
+    if (project.EnteredIn == Units::Metric && request.In != Units::Metric) {
+        WarnOfMetric(project, "its sizes are listed in feet and inches. Use --metric for "
+                              "centimetres.");
     }
-    std::string report = MakeReport(project, units, ShortDateOfToday()).Text();
-    report.erase(std::remove(report.begin(), report.end(), '\r'), report.end());
-    WriteStandardOutput(ShownLines(report));
+    if (!request.Xlsx.empty()) {
+        WriteWholeFile(request.Xlsx, XlsxOf({ReportTable(project, request.In)}), request.Over);
+    }
+    if (!request.Csv.empty()) {
+        WriteWholeFile(request.Csv, CsvOf({ReportTable(project, request.In)}), request.Over);
+    }
+    if (request.Csv.empty() && request.Xlsx.empty()) {
+        std::string report = MakeReport(project, request.In, ShortDateOfToday()).Text();
+        report.erase(std::remove(report.begin(), report.end(), '\r'), report.end());
+        WriteStandardOutput(ShownLines(report));
+    }
 }
 
-void ExportProject(const std::string& database, const std::string& name, const std::string& output,
-                   Overwrite over) {
-    RequireOtherFile(output, database);
-    ProjectStore store(database, DatabaseAccess::ReadOnly);
-    const Project project = LoadProjectNamed(store, name);
+void ExportProject(const ExportRequest& request) {
+    const std::string csv =
+        request.Csv.empty() && request.Xlsx.empty() ? StandardOutput : request.Csv;
+    RequireOtherFile(csv, request.Database);
+    RequireOtherFile(request.Xlsx, request.Database);
+    ProjectStore store(request.Database, DatabaseAccess::ReadOnly);
+    const Project project = LoadProjectNamed(store, request.Project);
     if (project.EnteredIn == Units::Metric) {
         WarnOfMetric(Words("Warning: the project %1 was entered in metric; its sizes are written "
                            "in centimetres. Use --metric to read them."),
                      project);
     }
     const std::string rooms = WriteRoomCsv(project.Rooms);
-    RequireReadable(project, rooms);
-    WriteWholeFile(output, rooms, over);
+    if (!csv.empty()) {
+        RequireReadable(project, rooms);
+    }
+    if (!request.Xlsx.empty()) {
+        WriteWholeFile(request.Xlsx, XlsxOf(RoomTables(project, project.EnteredIn)), request.Over);
+    }
+    if (!csv.empty()) {
+        WriteWholeFile(csv, rooms, request.Over);
+    }
 }
 
 } // namespace tarn

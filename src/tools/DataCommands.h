@@ -4,6 +4,7 @@
 
 #include "base/Units.h"
 #include "files/OutputFile.h"
+#include "tools/SharedOptions.h"
 
 #include <string>
 
@@ -20,16 +21,26 @@ void CreateData(const std::string& folder, const std::string& configDirectory);
 /// Print every directory, its projects and their rooms.
 void ListData(const std::string& database);
 
-/// Print the entered-data report of a project, with today's date. Warns on standard error when the
-/// project was entered in metric and `units` are not.
-void ReportProject(const std::string& database, const std::string& name, Units units);
+/// What a report goes to.
+struct ReportRequest {
+    std::string Database;
+    std::string Project;
+    Units In = Units::Imperial; ///< in which sizes are listed
+    std::string Csv;            ///< output files, or - ; empty = not wanted
+    std::string Xlsx;
+    Overwrite Over = Overwrite::Files;
+};
+
+/// Print the entered-data report of a project, with today's date; or write it as the files that are
+/// asked for. Warns on standard error when the project was entered in metric and the report is not.
+void ReportProject(const ReportRequest& request);
 
 /// What an import does.
 struct ImportRequest {
     std::string Database;
     std::string Project;
     std::string Directory;      ///< for a new project; empty = the current month
-    std::string Rooms;          ///< CSV file
+    RoomFile Rooms;             ///< CSV file
     Units In = Units::Imperial; ///< the units of the file
     bool Replace = false;       ///< allow the rooms of an existing project to be replaced
 };
@@ -39,10 +50,19 @@ struct ImportRequest {
 /// Replace is set and the file has rooms.
 void ImportProject(const ImportRequest& request);
 
-/// Write a project's rooms as CSV to a file, or to standard output for "-". The file does not tell
-/// its unit: warns on standard error when it is metric. Raises Refusal, which names them, when the
-/// project has rooms that ImportProject would refuse, such as one of a negative size.
-void ExportProject(const std::string& database, const std::string& name, const std::string& output,
-                   Overwrite over = Overwrite::Files);
+/// What an export goes to.
+struct ExportRequest {
+    std::string Database;
+    std::string Project;
+    std::string Csv;  ///< output files, or - ; without any the CSV goes to standard output
+    std::string Xlsx; ///< empty = not wanted
+    Overwrite Over = Overwrite::Files;
+};
+
+/// Write a project's rooms as CSV or as a spreadsheet. The CSV file does not tell its unit: warns
+/// on standard error when it is metric. Raises Refusal, which names them, when the CSV is wanted
+/// and the project has rooms that ImportProject would refuse, such as one of a negative size;
+/// nothing is written then.
+void ExportProject(const ExportRequest& request);
 
 } // namespace tarn

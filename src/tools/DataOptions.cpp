@@ -38,7 +38,8 @@ std::string Footer() {
 struct Arguments {
     std::string Folder;
     std::string ConfigDirectory;
-    std::string Output = StandardOutput;
+    std::string Csv; ///< outputs; empty = not wanted
+    std::string Xlsx;
     std::string Target;
     Overwrite Over = Overwrite::Files;
     ImportRequest Project;
@@ -120,21 +121,30 @@ void AddCareCommands(CLI::App& app, DataOptions& arguments) {
 }
 
 void AddProjectCommands(CLI::App& app, Arguments& arguments, Command& chosen) {
-    auto& report = AddCommand(app, "report", Words("Print the entered-data report of a project"),
-                              chosen, [project = &arguments.Project] {
-                                  ReportProject(project->Database, project->Project, project->In);
+    auto& report = AddCommand(app, "report", "Print the entered-data report of a project", chosen,
+                              [arguments = &arguments] {
+                                  const ImportRequest& project = arguments->Project;
+                                  ReportProject({project.Database, project.Project, project.In,
+                                                 arguments->Csv, arguments->Xlsx, arguments->Over});
                               });
     AddProject(report, arguments);
     AddMetric(report, arguments);
+    report.add_option("--csv", arguments.Csv, "Write it as CSV instead")
+        ->check(NotEmpty)
+        ->type_name("FILE|-");
+    report.add_option("--xlsx", arguments.Xlsx, "Write it as a spreadsheet instead")
+        ->check(NotEmpty)
+        ->type_name("FILE|-");
+    AddForce(report, arguments.Over);
 
     auto& import =
         AddCommand(app, "import", Words("Make the rooms of a CSV file those of a project"), chosen,
                    [project = &arguments.Project] { ImportProject(*project); });
     AddProject(import, arguments);
     import
-        .add_option("FILE.csv", arguments.Project.Rooms,
-                    Words("The rooms; see tarn-estimate --help"))
+        .add_option("FILE.csv", arguments.Project.Rooms.Path, "The rooms; see tarn-estimate --help")
         ->required();
+    AddEncoding(import, arguments.Project.Rooms.Encoding);
     import
         .add_option("--directory", arguments.Project.Directory,
                     Words("Directory of a new project (default: the current month)"))
@@ -144,13 +154,18 @@ void AddProjectCommands(CLI::App& app, Arguments& arguments, Command& chosen) {
                     Words("Replace the rooms that the project has"));
 
     auto& exporting = AddCommand(
-        app, "export", Words("Write a project's rooms as CSV"), chosen, [arguments = &arguments] {
-            ExportProject(arguments->Project.Database, arguments->Project.Project,
-                          arguments->Output, arguments->Over);
+        app, "export", "Write a project's rooms as CSV", chosen, [arguments = &arguments] {
+            ExportProject({arguments->Project.Database, arguments->Project.Project, arguments->Csv,
+                           arguments->Xlsx, arguments->Over});
         });
     AddProject(exporting, arguments);
+    exporting.add_option("--output", arguments.Csv, "File to write (default: standard output)")
+        ->check(NotEmpty)
+        ->type_name("FILE|-");
     exporting
-        .add_option("--output", arguments.Output, Words("File to write (default: standard output)"))
+        .add_option("--xlsx", arguments.Xlsx,
+                    "Write them as a spreadsheet, with the totals by covering")
+        ->check(NotEmpty)
         ->type_name("FILE|-");
     AddForce(exporting, arguments.Over);
 }
@@ -176,6 +191,7 @@ std::function<void()> ReadDataCommand(int argc, const char* const* argv, int& st
     DescribeData(app, *arguments);
     try {
         app.parse(argc, argv);
+        RequireDifferentOutputs({{"the CSV", arguments->Csv}, {"--xlsx", arguments->Xlsx}});
     } catch (const CLI::ParseError& error) {
         status = ExplainArguments(app, error);
         return {};

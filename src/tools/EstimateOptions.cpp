@@ -29,27 +29,32 @@ constexpr auto Description = Words(
     "The rooms come from a database (--database and --project) or from a CSV file (--rooms).");
 
 std::string Footer() {
-    return Words(
-        "A CSV file has a header line and the columns width,length,covering,base,room,remark in "
-        "any\n"
-        "order; the first three are required. Sizes are whole inches or text such as 12'6\" "
-        "(whole\n"
-        "centimetres with --metric), coverings CARPET-1 or C1, TILE-4 or T4. The base tells how "
-        "many\n"
-        "widths and lengths of the room take wall base: W2L1 is two widths and one length. A size\n"
-        "of 0 is read and not cut. A room number has at most %1 characters, a remark %2,\n"
-        "each in one line; of one that begins with ' the ' is taken off. A file, no pipe or "
-        "device, "
-        "has\n"
-        "at most %3 rooms and %4 MB.\n\n"
-        "An output file takes the place of the one that is there, once it is whole and stored.\n"
-        "Databases and symbolic links stay as they are without --force.\n\n"
-        "Exit status: 0 done, 1 refused (the reason is on standard error), 2 wrong usage.\n\n"
-        "Example:\n"
-        "  tarn-estimate --rooms house.csv --carpet 1 --roll-width 12ft --max-pieces 2 --svg "
-        "house.svg",
-        std::to_string(MaxRoomNumberLength), std::to_string(MaxRemarkLength),
-        std::to_string(RoomCapacity), std::to_string(MaxRoomCsvBytes / (std::size_t{1024} * 1024)));
+    return "A CSV file has a header line and the columns width,length,covering,base,room,remark in "
+           "any\n"
+           "order; the first three are required. Sizes are whole inches or text such as 12'6\" "
+           "(whole\n"
+           "centimetres with --metric), or numbers in the unit that a heading such as \"Width "
+           "(ft)\" names;\n"
+           "coverings CARPET-1 or C1, TILE-4 or T4. The base tells how many widths and lengths of "
+           "the\n"
+           "room take wall base: W2L1 is two widths and one length. A size of 0 is read and not "
+           "cut. A\n"
+           "room number has at most " +
+           std::to_string(MaxRoomNumberLength) + " characters, a remark " +
+           std::to_string(MaxRemarkLength) +
+           ", each in one line; of one that begins\n"
+           "with ' the ' is taken off. Commas, semicolons or tabs separate. A file, no pipe or "
+           "device, has at\n"
+           "most " +
+           std::to_string(RoomCapacity) + " rooms and " +
+           std::to_string(MaxRoomCsvBytes / (std::size_t{1024} * 1024)) +
+           " MB.\n\n"
+           "An output file takes the place of the one that is there, once it is whole and stored.\n"
+           "Databases and symbolic links stay as they are without --force.\n\n"
+           "Exit status: 0 done, 1 refused (the reason is on standard error), 2 wrong usage.\n\n"
+           "Example:\n"
+           "  tarn-estimate --rooms house.csv --carpet 1 --roll-width 12ft --max-pieces 2 --svg "
+           "house.svg";
 }
 
 /// "a, b or c": what `textOf` says of each minimum cut.
@@ -138,10 +143,14 @@ void AddOutput(CLI::App& app, EstimateOptions& options) {
     app.add_option("--svg", options.Svg, Words("Write the drawing of the layout with the cut list"))
         ->check(NotEmpty)
         ->type_name("FILE|-");
-    app.add_option(
-           "--pdf", options.Pdf,
-           Words("Write the page that the program prints, for the paper of the default printer "
-                 "(A4 without one)"))
+    app.add_option("--dxf", options.Dxf,
+                   "Write the whole roll, cuts and fills, true to size for a plotter or cutting "
+                   "table, along X, in inches (centimetres with --metric)")
+        ->check(NotEmpty)
+        ->type_name("FILE|-");
+    app.add_option("--pdf", options.Pdf,
+                   "Write the page that the program prints, for the paper of the default printer "
+                   "(A4 without one)")
         ->check(NotEmpty)
         ->type_name("FILE|-");
     AddForce(app, options.Over);
@@ -177,13 +186,14 @@ void AddImprovement(CLI::App& app, EstimateOptions& options) {
 
 /// What the single options cannot tell. Raises CLI::ValidationError.
 void CheckTogether(EstimateOptions& options) {
-    RequireRoomsSource(options.Database, options.Rooms);
+    RequireRoomsSource(options.Database, options.Rooms.Path);
     RequireDifferentOutputs({{"--text", options.Text},
                              {"--json", options.Json},
                              {"--svg", options.Svg},
+                             {"--dxf", options.Dxf},
                              {"--pdf", options.Pdf}});
     if (options.Text.empty() && options.Json.empty() && options.Svg.empty() &&
-        options.Pdf.empty()) {
+        options.Dxf.empty() && options.Pdf.empty()) {
         options.Text = StandardOutput;
     }
 }

@@ -4,6 +4,7 @@
 
 #include "estimate/EstimateRequest.h"
 #include "files/OutputFile.h"
+#include "tools/SharedOptions.h"
 
 #include <optional>
 #include <string>
@@ -18,7 +19,7 @@ namespace tarn {
 struct EstimateOptions {
     std::string Database; ///< with Project, or else Rooms
     std::string Project;
-    std::string Rooms; ///< a CSV file
+    RoomFile Rooms; ///< a CSV file
     bool Metric = false;
     int Carpet = 0; ///< 1..8
     std::string RollWidth;
@@ -29,6 +30,7 @@ struct EstimateOptions {
     std::string Text; ///< output files; empty = not wanted
     std::string Json;
     std::string Svg;
+    std::string Dxf;
     std::string Pdf;
     Overwrite Over = Overwrite::Files;
 

@@ -6,6 +6,7 @@
 #include "estimate/MakeEstimate.h"
 #include "estimate/Totals.h"
 #include "files/EstimateJson.h"
+#include "files/RollDxf.h"
 #include "files/ShortDate.h"
 #include "files/Svg.h"
 #include "paper/EstimatePage.h"
@@ -28,7 +29,7 @@ namespace {
 /// The project with the rooms that are to be estimated. Its name is empty when they come from a
 /// file of rooms alone.
 Project LoadRooms(const EstimateOptions& options) {
-    if (!options.Rooms.empty()) {
+    if (!options.Rooms.Path.empty()) {
         Project project;
         project.Rooms =
             ReadRoomFile(options.Rooms, options.Metric ? Units::Metric : Units::Imperial);
@@ -75,15 +76,20 @@ std::string PdfOf(const Estimate& estimate) {
 }
 
 void RequireOutputsBesideInput(const EstimateOptions& options) {
-    const std::string& input = options.Rooms.empty() ? options.Database : options.Rooms;
-    for (const std::string& output : {options.Svg, options.Pdf, options.Json, options.Text}) {
+    const std::string& input = options.Rooms.Path.empty() ? options.Database : options.Rooms.Path;
+    for (const std::string& output :
+         {options.Svg, options.Dxf, options.Pdf, options.Json, options.Text}) {
         RequireOtherFile(output, input);
     }
 }
 
-void WriteOutputs(const EstimateOptions& options, const Estimate& estimate) {
+void WriteOutputs(const EstimateOptions& options, const Project& project,
+                  const Estimate& estimate) {
     if (!options.Svg.empty()) {
         WriteWholeFile(options.Svg, SvgOf(estimate), options.Over);
+    }
+    if (!options.Dxf.empty()) {
+        WriteWholeFile(options.Dxf, EstimateDxf(estimate, project), options.Over);
     }
     if (!options.Pdf.empty()) {
         WriteWholeFile(options.Pdf, PdfOf(estimate), options.Over);
@@ -119,7 +125,7 @@ void EstimateFor(const EstimateOptions& options) {
     if (options.Improve) {
         estimate = ImprovedFor(options, estimate);
     }
-    WriteOutputs(options, estimate);
+    WriteOutputs(options, project, estimate);
 }
 
 } // namespace tarn

@@ -133,23 +133,27 @@ void AddOutput(CLI::App& app, OrderOptions& options) {
         Words("Write the sheet to buy and cut by, of all carpets, as it is printed; A4 unless the "
               "printer has another paper"));
     add("--svg", options.Svg,
-        Words("Write the pages of one carpet's sheet below each other as a drawing (with --carpet "
-              "when "
-              "there are several)"));
+        "Write the pages of one carpet's sheet below each other as a drawing (with --carpet when "
+        "there are several)");
+    add("--dxf", options.Dxf,
+        "Write the roll of one carpet's best row true to size for a plotter or cutting table, "
+        "along "
+        "X, in inches (centimetres with --metric)");
     AddForce(app, options.Over);
 }
 
 /// What the single options cannot tell. Raises CLI::ValidationError.
 void CheckTogether(OrderOptions& options) {
-    RequireRoomsSource(options.Database, options.Rooms);
+    RequireRoomsSource(options.Database, options.Rooms.Path);
     RequireDifferentOutputs({{"--text", options.Text},
                              {"--json", options.Json},
                              {"--csv", options.Csv},
                              {"--xlsx", options.Xlsx},
                              {"--pdf", options.Pdf},
-                             {"--svg", options.Svg}});
+                             {"--svg", options.Svg},
+                             {"--dxf", options.Dxf}});
     if (options.Text.empty() && options.Json.empty() && options.Csv.empty() &&
-        options.Xlsx.empty() && options.Pdf.empty() && options.Svg.empty()) {
+        options.Xlsx.empty() && options.Pdf.empty() && options.Svg.empty() && options.Dxf.empty()) {
         options.Text = StandardOutput;
     }
 }

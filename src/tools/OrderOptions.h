@@ -4,6 +4,7 @@
 
 #include "files/OutputFile.h"
 #include "project/OrderRequest.h"
+#include "tools/SharedOptions.h"
 
 #include <cstdint>
 #include <optional>
@@ -21,7 +22,7 @@ namespace tarn {
 struct OrderOptions {
     std::string Database; ///< with Project, or else Rooms
     std::string Project;
-    std::string Rooms; ///< a CSV file
+    RoomFile Rooms; ///< a CSV file
     bool Metric = false;
     bool Feet = false;
     std::optional<int> Carpet; ///< 1..8; all of the project without it
@@ -49,6 +50,7 @@ struct OrderOptions {
     std::string Xlsx;
     std::string Pdf;
     std::string Svg;
+    std::string Dxf;
     Overwrite Over = Overwrite::Files;
 };
 

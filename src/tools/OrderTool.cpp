@@ -5,7 +5,7 @@
 #include "files/OrderJson.h"
 #include "files/OrderTables.h"
 #include "files/OrderText.h"
-#include "files/OrderXlsx.h"
+#include "files/RollDxf.h"
 #include "files/ShortDate.h"
 #include "files/Svg.h"
 #include "order/CarpetRequests.h"
@@ -29,6 +29,7 @@
 #include <map>
 #include <optional>
 #include <unistd.h>
+#include <utility>
 
 namespace tarn {
 
@@ -37,7 +38,7 @@ namespace {
 /// The project, and in which units it is ordered.
 OrderDocument ReadProject(const OrderOptions& options) {
     const Units asked = options.Metric ? Units::Metric : Units::Imperial;
-    if (!options.Rooms.empty()) {
+    if (!options.Rooms.Path.empty()) {
         OrderDocument document{{}, asked, {}};
         document.Of.Rooms = ReadRoomFile(options.Rooms, asked);
         return document;
@@ -154,9 +155,9 @@ void TellNotes(const OrderDocument& document) {
 }
 
 void RequireOutputsBesideInput(const OrderOptions& options) {
-    const std::string& input = options.Rooms.empty() ? options.Database : options.Rooms;
-    for (const std::string& output :
-         {options.Text, options.Json, options.Csv, options.Xlsx, options.Pdf, options.Svg}) {
+    const std::string& input = options.Rooms.Path.empty() ? options.Database : options.Rooms.Path;
+    for (const std::string& output : {options.Text, options.Json, options.Csv, options.Xlsx,
+                                      options.Pdf, options.Svg, options.Dxf}) {
         RequireOtherFile(output, input);
     }
 }
@@ -177,6 +178,9 @@ std::string SvgOf(const OrderDocument& document) {
 void WriteOutputs(const OrderOptions& options, const OrderDocument& document) {
     if (!options.Svg.empty()) {
         WriteWholeFile(options.Svg, SvgOf(document), options.Over);
+    }
+    if (!options.Dxf.empty() && document.Orders.front().Best) { // else there is no roll
+        WriteWholeFile(options.Dxf, OrderDxf(document), options.Over);
     }
     if (!options.Pdf.empty()) {
         WriteWholeFile(options.Pdf, PdfOf(document), options.Over);
@@ -201,9 +205,12 @@ void OrderFor(const OrderOptions& options) {
     RequireOutputsBesideInput(options);
     OrderDocument document = ReadProject(options);
     const std::map<Byte, OrderRequest> requests = RequestsOf(options, document);
-    if (!options.Svg.empty() && requests.size() > 1) {
-        throw Refusal(Words("The drawing of --svg shows one carpet, and there are several: choose "
-                            "one with --carpet."));
+    for (const auto& [option, path] :
+         {std::pair("--svg", options.Svg), std::pair("--dxf", options.Dxf)}) {
+        if (!path.empty() && requests.size() > 1) {
+            throw Refusal("The drawing of " + std::string(option) +
+                          " shows one carpet, and there are several: choose one with --carpet.");
+        }
     }
     {
         const InterruptStops stops;

@@ -2,11 +2,12 @@
 
 #include "base/RunTimeError.h"
 #include "base/Text.h"
-#include "base/Words.h"
+#include "files/TextEncoding.h"
 #include "store/Names.h"
 #include "tools/Files.h"
 #include "tools/Refusal.h"
 
+#include <algorithm>
 #include <iostream>
 
 namespace tarn {
@@ -15,6 +16,37 @@ namespace {
 
 [[noreturn]] void RefuseToLoad(const std::string& project, const std::string& cause) {
     throw Refusal(Words("The project %1 cannot be loaded: %2", project, cause));
+}
+
+RoomCsvReading Reading(const RoomFile& file, Units units) {
+    const std::string bytes = ReadWholeFile(file.Path, MaxRoomCsvBytes);
+    try {
+        return ReadRoomCsv(bytes, units, file.Encoding);
+    } catch (const UnknownEncoding& error) {
+        throw Refusal(error.what());
+    }
+}
+
+/// What helps where the file is in another encoding than it was read in, with its line break before
+/// it; empty where it is not.
+std::string EncodingAdvice(const RoomFile& file, const RoomCsvReading& reading) {
+    const bool isOther =
+        std::any_of(reading.Errors.begin(), reading.Errors.end(), [](const RoomCsvError& error) {
+            return FindTextFault(error.Value) == TextFault::NotUtf8;
+        });
+    return isOther && file.Encoding.empty()
+               ? "\nOr name the encoding of the file with --encoding, such as windows-1252."
+               : "";
+}
+
+void TellNotes(const RoomFile& file, const RoomCsvReading& reading) {
+    for (const RoomCsvError& note : reading.Notes) {
+        std::cerr << "Note: " << ShownText(file.Path + ", " + ErrorText(note)) << '\n';
+    }
+    if (reading.MoreNotes > 0) {
+        std::cerr << "Note: " << ShownText(file.Path) << ", and " << reading.MoreNotes
+                  << " more sizes that are rounded\n";
+    }
 }
 
 } // namespace
@@ -73,22 +105,16 @@ void WarnOfMetric(Phrase warning, const Project& project) {
     std::cerr << Words(warning, ShownText(project.Name)) << '\n';
 }
 
-std::string MoreMistakes(const RoomCsvReading& reading) {
-    if (reading.MoreErrors == 0) {
-        return {};
-    }
-    return "\n  " + CountedWords("and %n more mistake", "and %n more mistakes", reading.MoreErrors);
-}
-
-std::vector<Room> ReadRoomFile(const std::string& path, Units units) {
-    RoomCsvReading reading = ReadRoomCsv(ReadWholeFile(path, MaxRoomCsvBytes), units);
+std::vector<Room> ReadRoomFile(const RoomFile& file, Units units) {
+    RoomCsvReading reading = Reading(file, units);
     if (!reading.Succeeded()) {
-        std::string text = Words("The file %1 cannot be used; nothing was taken from it:", path);
-        for (const RoomCsvError& error : reading.Errors) {
-            text += "\n  " + ErrorText(error);
+        std::string text = "The file " + file.Path + " cannot be used; nothing was taken from it:";
+        for (const std::string& line : MistakeLines(reading)) {
+            text += "\n  " + line;
         }
-        throw Refusal(text + MoreMistakes(reading));
+        throw Refusal(text + EncodingAdvice(file, reading));
     }
+    TellNotes(file, reading);
     return std::move(reading.Rooms);
 }
 

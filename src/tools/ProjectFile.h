@@ -6,6 +6,7 @@
 #include "base/Words.h"
 #include "files/RoomCsv.h"
 #include "store/ProjectStore.h"
+#include "tools/SharedOptions.h"
 
 #include <string>
 #include <string_view>
@@ -31,11 +32,8 @@ Project LoadProjectNamed(ProjectStore& store, const std::string& name);
 /// sentence that has the project's name as %1.
 void WarnOfMetric(Phrase warning, const Project& project);
 
-/// A line that tells how many mistakes there are beside those that are told, with its line break
-/// before it; empty for none.
-std::string MoreMistakes(const RoomCsvReading& reading);
-
-/// The rooms of a CSV file. Raises Refusal naming its mistakes, MaxRoomCsvErrors of them at most.
-std::vector<Room> ReadRoomFile(const std::string& path, Units units);
+/// The rooms of a CSV file; sizes that are rounded are told on standard error. Raises Refusal
+/// naming its mistakes, MaxRoomCsvErrors of them at most, and for an encoding that is not known.
+std::vector<Room> ReadRoomFile(const RoomFile& file, Units units);
 
 } // namespace tarn

@@ -9,20 +9,23 @@
 
 namespace CLI {
 class App;
+class Option;
 } // namespace CLI
 
 namespace tarn {
 
-/// Put the language in force that the arguments ask for with --language, else `chosen` where that
-/// is a language: first of all, since options are described in it. What is no language is refused
-/// when the arguments are parsed (PrepareHelp).
-void SpeakAsAsked(int argc, const char* const* argv, std::string_view chosen = {});
+/// A file of rooms, and how it is written.
+struct RoomFile {
+    std::string Path;
+    std::string Encoding; ///< as iconv(3) knows it; empty for UTF-8, or what the file says
+};
 
-/// Add --language, and have `app` give its help in the language in force: before any option.
-void PrepareHelp(CLI::App& app);
+/// Add --encoding, which a program or command with a file of rooms has.
+CLI::Option* AddEncoding(CLI::App& app, std::string& encoding);
 
-/// Add --database with --project, and --rooms, which excludes them. The texts must outlive `app`.
-void AddRoomsSource(CLI::App& app, std::string& database, std::string& project, std::string& rooms);
+/// Add --database with --project, and --rooms, with --encoding, which excludes them. The texts must
+/// outlive `app`.
+void AddRoomsSource(CLI::App& app, std::string& database, std::string& project, RoomFile& rooms);
 
 /// Raise CLI::ValidationError when neither a database nor a file of rooms was named.
 void RequireRoomsSource(const std::string& database, const std::string& rooms);

@@ -162,5 +162,11 @@ TEST(OneLine, HasABlankForEachControlCharacterAndAllElseAsItIs) {
     EXPECT_EQ(OneLine(""), "");
 }
 
+TEST(WellFormedText, HasAReplacementForEachByteThatIsNotUtf8AndAllElseAsItIs) {
+    EXPECT_EQ(WellFormedText("a\xFFü\xC3\xE6\xB5z"), "a\uFFFDü\uFFFD\uFFFD\uFFFDz");
+    EXPECT_EQ(WellFormedText("\t\uFFFE\x7F"), "\t\uFFFE\x7F");
+    EXPECT_EQ(WellFormedText(""), "");
+}
+
 } // namespace
 } // namespace tarn

@@ -1,5 +1,6 @@
 #include "base/Text.h"
 #include "files/RoomCsv.h"
+#include "files/TextEncoding.h"
 #include "project/RoomTesting.h"
 
 #include <gmock/gmock.h>
@@ -271,22 +272,253 @@ TEST(ReadRoomCsv, RefusesAnUnknownColumnAndOneWithoutAName) {
     EXPECT_EQ(ErrorsOf("width,length,covering,\n1,2,C1,"), (Lines{"line 1: a column has no name"}));
 }
 
-TEST(ReadRoomCsv, TellsWhichSeparatorStandsInPlaceOfCommas) {
-    EXPECT_EQ(ErrorsOf("width;length;covering\n12,5;96;C1\n"),
-              (Lines{"line 1: the columns are separated by semicolons; save the file with commas "
-                     "between them"}));
-    EXPECT_EQ(ErrorsOf("\xEF\xBB\xBFwidth\tlength\tcovering\r\n120\t96\tC1\r\n"),
-              (Lines{"line 1: the columns are separated by tabs; save the file with commas between "
-                     "them"}));
+TEST(ReadRoomCsv, FindsSemicolonsAndTabs) {
+    EXPECT_EQ(RoomsOf("width;length;covering;remark\n12'6\";96;C1;a, b\n"),
+              (Rooms{{150, 96, 0, 0, "", "a, b"}}));
+    EXPECT_EQ(RoomsOf("\xEF\xBB\xBFwidth\tlength\tcovering\tremark\r\n120\t96\tC1\ta; b, c\r\n"),
+              (Rooms{{120, 96, 0, 0, "", "a; b, c"}}));
+    EXPECT_EQ(RoomsOf("\"width\";\"length\";\"covering\";\"remark\"\n1;2;C1;\"a;\"\"b\"\n"),
+              (Rooms{{1, 2, 0, 0, "", "a;\"b"}}));
     EXPECT_EQ(ErrorsOf("width,length,covering,a;b\n1,2,C1,3"),
               (Lines{"line 1: column \"a;b\" is unknown"}));
+    EXPECT_EQ(ErrorsOf("width;length;covering;a,b,c,d,e,f\n1;2;C1;3"),
+              (Lines{"line 1: column \"a,b,c,d,e,f\" is unknown"}))
+        << "known headings count before columns";
+    EXPECT_EQ(ErrorsOf("a;b,c\n1;2,3").front(), "line 1: column \"a;b\" is unknown")
+        << "of equals the comma";
 }
 
-TEST(ReadRoomCsv, RefusesUtf16WithOneMistake) {
-    const Lines expected{"line 1: the file is not UTF-8; save it as UTF-8 (\"CSV UTF-8\" in a "
-                         "spreadsheet)"};
-    EXPECT_EQ(ErrorsOf(std::string("\xFF\xFEw\0,\0\n\0x\0", 10)), expected);
-    EXPECT_EQ(ErrorsOf(std::string("\xFE\xFF\0w\0,\0\n\0x", 10)), expected);
+TEST(ReadRoomCsv, TakesTheSeparatorThatAFirstLineNames) {
+    EXPECT_EQ(RoomsOf("sep=;\r\nwidth;length;covering\r\n1;2;C1\r\n"),
+              (Rooms{{1, 2, 0, 0, "", ""}}));
+    EXPECT_EQ(RoomsOf("\xEF\xBB\xBFSEP=\t\nwidth\tlength\tcovering\n1\t2\tC1\n"),
+              (Rooms{{1, 2, 0, 0, "", ""}}));
+    EXPECT_EQ(ErrorsOf("sep=,\nwidth,length,covering\n-1,2,C1\n"),
+              (Lines{"line 3: width \"-1\" is negative"}));
+    EXPECT_EQ(ErrorsOf("sep=;\n"), (Lines{"line 1: the file is empty"}));
+    EXPECT_EQ(ErrorsOf("sep=|\nwidth|length|covering\n1|2|C1\n").front(),
+              "line 1: column \"sep=|\" is unknown");
+}
+
+TEST(ReadRoomCsv, LeavesOutLinesOfSeparatorsAlone) {
+    EXPECT_EQ(RoomsOf("width;length;covering\n;;\n1;2;C1\n;;\n;;;\n"),
+              (Rooms{{1, 2, 0, 0, "", ""}}));
+    EXPECT_EQ(ErrorsOf("width,length,covering\n,,\n, ,\n"),
+              (Lines{"line 3: width is missing", "line 3: length \" \" is missing",
+                     "line 3: covering is missing"}));
+}
+
+/// A text in UTF-16, with a mark.
+std::string Utf16(std::u16string_view text, bool bigEndian) {
+    std::string bytes;
+    const std::u16string marked = std::u16string(u"\uFEFF").append(text);
+    for (const char16_t unit : marked) {
+        const std::array<char, 2> pair{static_cast<char>(unit >> 8U), static_cast<char>(unit)};
+        bytes += pair[bigEndian ? 0 : 1];
+        bytes += pair[bigEndian ? 1 : 0];
+    }
+    return bytes;
+}
+
+TEST(ReadRoomCsv, ReadsUtf16WithAMarkInEitherOrder) {
+    for (const bool bigEndian : {false, true}) {
+        EXPECT_EQ(
+            RoomsOf(Utf16(u"width\tlength\tcovering\tremark\r\n1\t2\tC1\tKüche 浴室 \U0001F6C1"
+                          u"\r\n",
+                          bigEndian)),
+            (Rooms{{1, 2, 0, 0, "", "Küche 浴室 \U0001F6C1"}}));
+        std::u16string half = u"width,length,covering,remark\n1,2,C1,a";
+        half += char16_t{0xD83D};
+        half += u"b\n";
+        EXPECT_EQ(ErrorsOf(Utf16(half, bigEndian)),
+                  (Lines{bigEndian ? "line 2: column 9: the byte 0xD8 0x3D is none of UTF-16BE"
+                                   : "line 2: column 9: the byte 0x3D 0xD8 is none of UTF-16LE"}));
+    }
+    EXPECT_EQ(ErrorsOf("\xFF\xFE"), (Lines{"line 1: the file is empty"}));
+    EXPECT_EQ(ErrorsOf(Utf16(u"width,length,covering\n", false) + "x"),
+              (Lines{"line 2: column 1: the byte 0x78 is none of UTF-16LE"}));
+}
+
+TEST(ReadRoomCsv, ReadsTheEncodingThatIsNamed) {
+    const RoomCsvReading reading = ReadRoomCsv("width;length;covering;remark\n1;2;C1;K\xFC"
+                                               "che \x80\n",
+                                               Units::Imperial, "windows-1252");
+    EXPECT_EQ(reading.Rooms, (Rooms{{1, 2, 0, 0, "", "Küche €"}}));
+    const RoomCsvReading japanese =
+        ReadRoomCsv("width,length,covering,room\n1,2,C1,\x95\x94\n", Units::Imperial, "Shift_JIS");
+    EXPECT_EQ(japanese.Rooms, (Rooms{{1, 2, 0, 0, "部", ""}}));
+    EXPECT_THROW(ReadRoomCsv("width,length,covering\n", Units::Imperial, "klingon"),
+                 UnknownEncoding);
+}
+
+TEST(ReadRoomCsv, TellsBytesThatAreNoneOfTheEncodingByLineAndColumn) {
+    const auto errorsIn = [](std::string_view text, const char* encoding) {
+        return MistakeLines(ReadRoomCsv(text, Units::Imperial, encoding));
+    };
+    EXPECT_EQ(
+        errorsIn("width,length,covering,remark\r\n1,2,C1,\xE9\x81\r\n3,-4,C1,\x9D", "windows-1252"),
+        (Lines{"line 2: column 9: the byte 0x81 is none of windows-1252",
+               "line 3: column 9: the byte 0x9D is none of windows-1252"}))
+        << "and nothing else";
+    EXPECT_EQ(errorsIn("width,length,covering,remark\n1,2,C1,\xC3\xA9\xFF", "utf-8"),
+              (Lines{"line 2: column 9: the byte 0xFF is none of utf-8"}));
+    const Lines many = errorsIn("width\n" + std::string(25, '\x81'), "windows-1252");
+    ASSERT_EQ(many.size(), 21U);
+    EXPECT_EQ(many[19], "line 2: column 20: the byte 0x81 is none of windows-1252");
+    EXPECT_EQ(many[20], "and 5 more mistakes");
+}
+
+TEST(ReadRoomCsv, RefusesFilesOfOtherKindsWithOneMistake) {
+    using namespace std::string_literals;
+    const auto refusal = [](const std::string& kind) {
+        return Lines{"line 1: the file is " + kind +
+                     "; open it in a spreadsheet and save it as CSV"};
+    };
+    EXPECT_EQ(ErrorsOf("PK\x03\x04\x14\0\x06\0 [Content_Types].xml"s),
+              refusal("an Excel workbook (XLSX)"));
+    EXPECT_EQ(ErrorsOf("PK\x03\x04\x14\0 xl/workbook.xml"s), refusal("an Excel workbook (XLSX)"));
+    EXPECT_EQ(
+        ErrorsOf("PK\x03\x04\x14\0 mimetypeapplication/vnd.oasis.opendocument.spreadsheetPK"s),
+        refusal("an OpenDocument spreadsheet (ODS)"));
+    EXPECT_EQ(ErrorsOf("PK\x03\x04 photo.jpg"),
+              refusal("an archive (ZIP), as spreadsheets such as XLSX and ODS are"));
+    EXPECT_EQ(ErrorsOf("\xD0\xCF\x11\xE0\xA1\xB1\x1A\xE1\0\0"s),
+              refusal("an older Excel workbook (XLS) or another Office file"));
+    EXPECT_EQ(ErrorsOf("%PDF-1.7\n"), refusal("a PDF document"));
+    EXPECT_EQ(ErrorsOf("PK,width,length,covering\n1,2,3,C1"),
+              (Lines{"line 1: column \"PK\" is unknown"}));
+}
+
+TEST(ReadRoomCsv, TakesHeadingsAsTheyAreUsuallyWritten) {
+    EXPECT_EQ(RoomsOf("Notes; Floor coverings ;LENGTHS;Room No.;Width;Wall base\nx;t1;2;y;1;w2\n"),
+              (Rooms{{1, 2, 8, 2, "y", "x"}}));
+}
+
+TEST(ReadRoomCsv, ReadsSizesInTheUnitOfTheirHeading) {
+    EXPECT_EQ(RoomsOf("Width (ft),Length (in),covering\n12.5,150,C1\n12'6\",12' 6\",C1\n"
+                      "12,12.5ft,C1\n.5ft,0,C1\n"),
+              (Rooms{{150, 150, 0, 0, "", ""},
+                     {150, 150, 0, 0, "", ""},
+                     {144, 150, 0, 0, "", ""},
+                     {6, 0, 0, 0, "", ""}}));
+    EXPECT_EQ(RoomsOf("Width (m),Length [cm],covering\n3.45,420,C1\n3,3.66m,C1\n", Units::Metric),
+              (Rooms{{345, 420, 0, 0, "", ""}, {300, 366, 0, 0, "", ""}}));
+    EXPECT_EQ(ErrorsOf("Width (ft),Length (ft),covering\n3.5m,12 or so,C1\n-1,2731,C1\n1e2,,C1\n"
+                       "9999999999,1 2,C1\n"),
+              (Lines{"line 2: width \"3.5m\" is not a size such as 12.5 or 12'6\"",
+                     "line 2: length \"12 or so\" is not a size such as 12.5 or 12'6\"",
+                     "line 3: width \"-1\" is negative",
+                     "line 3: length \"2731\" is too large: a size is at most 32767",
+                     "line 4: width \"1e2\" is not a size such as 12.5 or 12'6\"",
+                     "line 4: length is missing",
+                     "line 5: width \"9999999999\" is too large: a size is at most 32767",
+                     "line 5: length \"1 2\" is not a size such as 12.5 or 12'6\""}));
+    EXPECT_EQ(ErrorsOf("Width (m),length,covering\n12ft,1,C1\n", Units::Metric),
+              (Lines{"line 2: width \"12ft\" is not a size such as 3.45 or 3.45m"}));
+}
+
+TEST(ReadRoomCsv, RoundsSizesAsTheScreensDoAndNotesIt) {
+    const RoomCsvReading reading =
+        ReadRoomCsv("Width (ft),Length (ft),covering\n12.33,12.125,C1\n12.333333333333334,12,C1\n",
+                    Units::Imperial);
+    EXPECT_EQ(reading.Rooms, (Rooms{{148, 146, 0, 0, "", ""}, {148, 144, 0, 0, "", ""}}))
+        << "halves to the even one";
+    Lines notes;
+    for (const RoomCsvError& note : reading.Notes) {
+        notes.push_back(ErrorText(note));
+    }
+    EXPECT_EQ(notes, (Lines{"line 2: width \"12.33\" is kept as 12'4\"",
+                            "line 2: length \"12.125\" is kept as 12'2\""}))
+        << "12'4\", as a spreadsheet computes it, is not told";
+    const RoomCsvReading metric =
+        ReadRoomCsv("Width (m),Length (m),covering\n3.4499999999999997,3.456,C1\n", Units::Metric);
+    EXPECT_EQ(metric.Rooms, (Rooms{{345, 346, 0, 0, "", ""}}));
+    ASSERT_EQ(metric.Notes.size(), 1U);
+    EXPECT_EQ(ErrorText(metric.Notes[0]), "line 2: length \"3.456\" is kept as 346 cm");
+    std::string many = "Width (ft),length,covering\n";
+    for (int room = 0; room < 30; ++room) {
+        many += "0.1,1,C1\n";
+    }
+    EXPECT_EQ(ReadRoomCsv(many, Units::Imperial).Notes.size(), 20U);
+    EXPECT_EQ(ReadRoomCsv(many, Units::Imperial).MoreNotes, 10);
+    EXPECT_TRUE(ReadRoomCsv(many + "x,1,C1\n", Units::Imperial).Notes.empty()) << "refused";
+}
+
+TEST(ReadRoomCsv, RefusesUnitsOfTheOtherSystemAndThoseInWhichNoSizeIsRead) {
+    EXPECT_EQ(
+        ErrorsOf("Width (m),length,covering\n3,3,C1\n").front(),
+        "line 1: column \"Width (m)\" is in metric, and the rooms are read in feet and inches; "
+        "read them with metric");
+    EXPECT_EQ(ErrorsOf("width,Length (ft),covering\n3,3,C1\n", Units::Metric).front(),
+              "line 1: column \"Length (ft)\" is in feet or inches, and the rooms are read in "
+              "metric; read them without metric");
+    EXPECT_EQ(
+        ErrorsOf("Width (mm),length,covering\n3000,3,C1\n", Units::Metric).front(),
+        "line 1: column \"Width (mm)\" has a unit in which no size is read; give the sizes in "
+        "ft, in, m or cm");
+}
+
+TEST(ReadRoomCsv, RefusesADecimalCommaByName) {
+    EXPECT_EQ(
+        ErrorsOf("Width (m);Length (m);covering\n3,45;-4,5;C1\n1,200;1,x;C1\n", Units::Metric),
+        (Lines{"line 2: width \"3,45\" has a decimal comma: write 3.45",
+               "line 2: length \"-4,5\" has a decimal comma: write 4.5",
+               "line 3: width \"1,200\" has a comma: write 1.200, or 1200",
+               "line 3: length \"1,x\" is not a size such as 3.45 or 3.45m"}));
+    EXPECT_EQ(ErrorsOf("width,length,covering\n\"3,45\",1,C1\n", Units::Metric),
+              (Lines{"line 2: width \"3,45\" has a decimal comma: write 3.45 below a heading with "
+                     "its unit, such as width (m)"}));
+    EXPECT_EQ(ErrorsOf("width;length;covering\n12,5;96;C1\n"),
+              (Lines{"line 2: width \"12,5\" has a decimal comma: write 12.5 below a heading with "
+                     "its unit, such as width (ft)"}));
+}
+
+Rooms PastedRooms(std::string_view text, Units units = Units::Imperial) {
+    const RoomCsvReading reading = ReadPastedRooms(text, units);
+    EXPECT_THAT(MistakeLines(reading), ::testing::IsEmpty());
+    return reading.Rooms;
+}
+
+Lines PasteErrors(std::string_view text, Units units = Units::Imperial,
+                  std::size_t most = RoomCapacity) {
+    const RoomCsvReading reading = ReadPastedRooms(text, units, most);
+    EXPECT_TRUE(reading.Rooms.empty());
+    return MistakeLines(reading);
+}
+
+TEST(ReadPastedRooms, TakesTheUsualColumnsWithoutHeadings) {
+    EXPECT_EQ(PastedRooms("150\t12'0\"\tC1\tW1\t101\tHall, upper\n9\t8\tT4\t\t\t\n"),
+              (Rooms{{150, 144, 0, 1, "101", "Hall, upper"}, {9, 8, 11, 0, "", ""}}));
+    EXPECT_EQ(PastedRooms("1\t2\tC1"), (Rooms{{1, 2, 0, 0, "", ""}}));
+    EXPECT_EQ(PastedRooms("1;2;C1\r\n3;4;C2\r\n"),
+              (Rooms{{1, 2, 0, 0, "", ""}, {3, 4, 1, 0, "", ""}}));
+    EXPECT_EQ(PastedRooms("1\t2\tC1\t\tnote\tcarpet\n"), (Rooms{{1, 2, 0, 0, "note", "carpet"}}))
+        << "headings have those of the sizes among them";
+}
+
+TEST(ReadPastedRooms, TakesColumnsByTheirHeadings) {
+    EXPECT_EQ(PastedRooms("Remark\tWidth (m)\tLength (m)\tType\nBad\t3.45\t4\tC2\n", Units::Metric),
+              (Rooms{{345, 400, 1, 0, "", "Bad"}}));
+    EXPECT_EQ(PasteErrors("Width\tCovering\n1\tC1\n"),
+              (Lines{"line 1: column \"length\" is missing"}));
+}
+
+TEST(ReadPastedRooms, TellsWhatIsWrongByLine) {
+    EXPECT_EQ(
+        PasteErrors("1\t2\tC1\n3,5\t2\tC1\n", Units::Metric),
+        (Lines{"line 2: width \"3,5\" has a decimal comma: write 3.5 below a heading with its "
+               "unit, such as width (m)"}));
+    EXPECT_EQ(PasteErrors("3,45\t2,80\tC1\n", Units::Metric).size(), 2U) << "tabs, not commas";
+    EXPECT_EQ(
+        PasteErrors("Living room"),
+        (Lines{"line 1: there are no headings, and 1 column: without headings they are width, "
+               "length, covering, base, room, remark, of which the first 3 are needed"}));
+    EXPECT_EQ(PasteErrors("1\t2\t3\t4\t5\t6\t7").size(), 1U);
+    EXPECT_EQ(PasteErrors(""), (Lines{"line 1: there is no text to paste"}));
+    EXPECT_EQ(PasteErrors("1\t2\tC1\n1\t2\tC1\n\n1\t2\tC1\n", Units::Imperial, 2),
+              (Lines{"line 4: The project is full: it can hold 501 rooms."}));
+    EXPECT_EQ(PasteErrors(std::string(MaxRoomCsvBytes + 1, 'x')),
+              (Lines{"line 1: the text has more than 16 MB"}));
 }
 
 TEST(ReadRoomCsv, RefusesAColumnThatAppearsTwice) {

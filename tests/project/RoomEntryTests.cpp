@@ -342,5 +342,29 @@ TEST(BaseMessages, HaveTwoDifferentSecondExamples) {
               lines + "Example2: W2 - means 2 x Width and Length is not calculated.\r\n");
 }
 
+TEST(AddedRooms, StandBehindTheOthersInTheUnitsShown) {
+    Project project;
+    project.Rooms = {{1, 2, 0, 0, "", ""}};
+    AddRooms(project, Units::Metric, {{3, 4, 1, 0, "a", ""}, {0, 5, 2, 0, "", "b"}});
+    EXPECT_EQ(
+        project.Rooms,
+        (std::vector<Room>{{1, 2, 0, 0, "", ""}, {3, 4, 1, 0, "a", ""}, {0, 5, 2, 0, "", "b"}}));
+    EXPECT_EQ(project.EnteredIn, Units::Metric);
+    AddRooms(project, Units::Imperial, {});
+    EXPECT_EQ(project.EnteredIn, Units::Metric) << "nothing was added";
+}
+
+TEST(AddedRooms, AreAllRefusedWhereOneHasNoPlace) {
+    Project project;
+    project.Rooms.resize(RoomCapacity - 1);
+    const Project before = project;
+    EXPECT_EQ(ErrorNumber([&] { AddRooms(project, Units::Metric, {Room(), Room()}); }), 9);
+    EXPECT_EQ(project, before);
+    AddRooms(project, Units::Metric, {Room()});
+    EXPECT_EQ(project.Rooms.size(), RoomCapacity);
+    project.Scale = 0;
+    EXPECT_EQ(ErrorNumber([&] { AddRooms(project, Units::Metric, {Room()}); }), 11);
+}
+
 } // namespace
 } // namespace tarn

@@ -1,6 +1,7 @@
 #include "project/RoomEntry.h"
 #include "project/RoomList.h"
 #include "project/RoomTesting.h"
+#include "project/ShortRoomName.h"
 
 #include <gtest/gtest.h>
 
@@ -163,6 +164,15 @@ TEST(RoomListTotals, HoldTheLargestProject) {
 TEST(NewRoomText, SaysWhetherItIsHalfTyped) {
     EXPECT_EQ(NewRoomText(false), "New room");
     EXPECT_EQ(NewRoomText(true), "New room, half typed");
+}
+
+TEST(ShortRoomNames, AreTheNumberOrTheRemarkOrThePlace) {
+    Project project;
+    project.Rooms = {{1, 2, 0, 0, "101", "Hall"}, {1, 2, 0, 0, "", "two\nlines\xFF"}, {}};
+    EXPECT_EQ(ShortRoomName(project, 0), "101");
+    EXPECT_EQ(ShortRoomName(project, 1), "two\uFFFDlines\uFFFD");
+    EXPECT_EQ(ShortRoomName(project, 2), "room 3");
+    EXPECT_EQ(ShortRoomName(project, 9), "room 10");
 }
 
 } // namespace

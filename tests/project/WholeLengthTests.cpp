@@ -251,5 +251,24 @@ TEST(WithoutZeroPart, LeavesTheSmallUnit) {
     }
 }
 
+TEST(LengthUnits, AreReadByEachOfTheirNames) {
+    constexpr LengthUnit Feet{Units::Imperial, SizePart::Major};
+    constexpr LengthUnit Inches{Units::Imperial, SizePart::Minor};
+    constexpr LengthUnit Metres{Units::Metric, SizePart::Major};
+    constexpr LengthUnit Centimetres{Units::Metric, SizePart::Minor};
+    for (const char* text : {"ft", "FEET", " foot ", "ft.", "'", "\u2019"}) {
+        EXPECT_EQ(ReadLengthUnit(text), Feet) << text;
+    }
+    for (const char* text : {"in", "Inches", "\"", "''", "\u2033"}) {
+        EXPECT_EQ(ReadLengthUnit(text), Inches) << text;
+    }
+    EXPECT_EQ(ReadLengthUnit("m"), Metres);
+    EXPECT_EQ(ReadLengthUnit("Centimeters"), Centimetres);
+    EXPECT_EQ(ReadLengthUnit("mm")->In, std::nullopt);
+    for (const char* text : {"", " ", "f", "ft in", "1ft", "min", "inch x"}) {
+        EXPECT_EQ(ReadLengthUnit(text), std::nullopt) << text;
+    }
+}
+
 } // namespace
 } // namespace tarn

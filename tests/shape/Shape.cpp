@@ -111,7 +111,7 @@ std::string ScreenOf(std::string_view path) {
 bool IsStandardOrSystem(const std::string& header) {
     // The standard's headers have no ending; the rest are the operating system's.
     static const std::regex names(R"([a-z_0-9]+|(sys|netinet|arpa)/[a-z_0-9]+\.h)"
-                                  R"(|(unistd|fcntl|poll|pwd|signal)\.h)");
+                                  R"(|(unistd|fcntl|iconv|poll|pwd|signal)\.h)");
     return std::regex_match(header, names);
 }
 

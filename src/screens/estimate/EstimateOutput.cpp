@@ -1,6 +1,7 @@
 #include "screens/estimate/EstimateOutput.h"
 
 #include "files/OutputFile.h"
+#include "files/RollDxf.h"
 #include "files/ShortDate.h"
 #include "files/Svg.h"
 #include "paper/EstimatePage.h"
@@ -38,6 +39,12 @@ void SaveEstimateAsPdf(Session& session, const std::optional<Estimate>& estimate
 void SaveEstimateAsSvg(Session& session, const Drawing& drawing, const std::string& title) {
     SaveAs(session, session.Project.Now.Name, "svg",
            [&](const std::string& path) { WriteOutputFile(path, SvgDocument(drawing, title)); });
+}
+
+void SaveEstimateAsDxf(Session& session, const Estimate& estimate) {
+    SaveAs(session.Boxes, session.Project.Now.Name, "dxf", [&](const std::string& path) {
+        WriteOutputFile(path, EstimateDxf(estimate, session.Project.Now));
+    });
 }
 
 } // namespace tarn

@@ -24,4 +24,7 @@ void SaveEstimateAsPdf(Session& session, const std::optional<Estimate>& estimate
 /// The same with the drawing alone as SVG, under a title.
 void SaveEstimateAsSvg(Session& session, const Drawing& drawing, const std::string& title);
 
+/// The same with the whole roll of the estimate as DXF.
+void SaveEstimateAsDxf(Session& session, const Estimate& estimate);
+
 } // namespace tarn

@@ -151,7 +151,7 @@ void EstimateScreen::ShowUnitsWarning() {
 QHBoxLayout* EstimateScreen::BuildPictureAndButtons() {
     views_ = std::make_unique<ResultViews>(Body(), Shared());
     picture_ = &views_->Picture();
-    BuildPictureMenu();
+    BuildFileMenus();
     auto* columns = new QHBoxLayout;
     columns->setSpacing(Pixels(Metrics::Margin));
     columns->addLayout(&views_->Layout(), 1);
@@ -207,20 +207,28 @@ std::array<QPushButton*, 8> EstimateScreen::Buttons() const {
     return {openPanel_, improve_, order_, paste_, redraw_, print_, save_, back_};
 }
 
-/// A child of the picture that pops up without waiting, so that the screen may close under it.
-void EstimateScreen::BuildPictureMenu() {
+/// Children of what they belong to, which pop up without waiting, so that the screen may close
+/// under them.
+void EstimateScreen::BuildFileMenus() {
     pictureMenu_ = new QMenu(picture_);
-    AddToPictureMenu(Controls::pictureAsPdf, SaveAsPdfCaption,
-                     [this] { SaveEstimateAsPdf(Shared(), estimate_, picture_->Shown()); });
-    AddToPictureMenu(Controls::pictureAsSvg, SaveAsSvgCaption, [this] {
-        SaveEstimateAsSvg(Shared(), picture_->Shown(), FromQt(windowTitle()));
-    });
+    AddToMenu(*pictureMenu_, Controls::pictureAsPdf, SaveAsPdfCaption,
+              [this] { SaveEstimateAsPdf(Shared(), estimate_, picture_->Shown()); });
+    AddToMenu(*pictureMenu_, Controls::pictureAsSvg, SaveAsSvgCaption,
+              [this] { SaveEstimateAsSvg(Shared(), picture_->Shown(), FromQt(windowTitle())); });
     picture_->ContextMenu = [this](QPoint global) { pictureMenu_->popup(global); };
+
+    RollView& roll = views_->Roll().View();
+    auto* rollMenu = new QMenu(&roll);
+    AddToMenu(*rollMenu, Controls::rollAsDxf, SaveAsDxfCaption,
+              [this] { SaveEstimateAsDxf(Shared(), estimate_.value()); });
+    roll.setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(&roll, &QWidget::customContextMenuRequested, rollMenu,
+            [rollMenu, &roll](QPoint at) { rollMenu->popup(roll.viewport()->mapToGlobal(at)); });
 }
 
-void EstimateScreen::AddToPictureMenu(const char* name, std::string_view caption,
-                                      std::function<void()> save) {
-    QAction* action = pictureMenu_->addAction(ToQt(caption));
+void EstimateScreen::AddToMenu(QMenu& menu, const char* name, const char* caption,
+                               std::function<void()> save) {
+    QAction* action = menu.addAction(QString::fromLatin1(caption));
     action->setObjectName(name);
     connect(action, &QAction::triggered, this,
             [this, save = std::move(save)] { Guard(PictureFailure, save); });

@@ -61,8 +61,8 @@ class EstimateScreen : public Screen, public EstimateClient {
     QHBoxLayout* BuildPictureAndButtons();
     QHBoxLayout* BuildStatus();
     QVBoxLayout* BuildButtons();
-    void BuildPictureMenu();
-    void AddToPictureMenu(const char* name, std::string_view caption, std::function<void()> save);
+    void BuildFileMenus();
+    void AddToMenu(QMenu& menu, const char* name, const char* caption, std::function<void()> save);
     void Connect();
     void ConnectKeys();
     std::array<QPushButton*, 8> Buttons() const;

@@ -4,8 +4,8 @@
 #include "files/OrderJson.h"
 #include "files/OrderTables.h"
 #include "files/OrderText.h"
-#include "files/OrderXlsx.h"
 #include "files/OutputFile.h"
+#include "files/RollDxf.h"
 #include "files/ShortDate.h"
 #include "files/Svg.h"
 #include "order/OrderSheet.h"
@@ -41,19 +41,21 @@ std::string SvgOf(const Session& session, const OrderDocument& document) {
 
 } // namespace
 
-const std::array<OrderFile, 6>& OrderFiles() {
+const std::array<OrderFile, 7>& OrderFiles() {
     using Document = const OrderDocument&;
-    static const std::array<OrderFile, 6> files{
+    static const std::array<OrderFile, 7> files{
         {{SaveAsPdfCaption, "pdf", PdfOf},
          {SaveAsSvgCaption, "svg", SvgOf},
-         {Words("Save as spreadsheet (&XLSX)"), "xlsx",
+         {SaveAsXlsxCaption, "xlsx",
           [](const Session&, Document document) { return OrderXlsx(document); }},
-         {Words("Save as &CSV"), "csv",
+         {SaveAsCsvCaption, "csv",
           [](const Session&, Document document) { return OrderCsv(document); }},
          {Words("Save as &text"), "txt",
           [](const Session&, Document document) { return OrderText(document); }},
-         {Words("Save as &JSON"), "json",
-          [](const Session&, Document document) { return OrderJson(document); }}}};
+         {"Save as &JSON", "json",
+          [](const Session&, Document document) { return OrderJson(document); }},
+         {SaveAsDxfCaption, "dxf",
+          [](const Session&, Document document) { return OrderDxf(document); }}}};
     return files;
 }
 

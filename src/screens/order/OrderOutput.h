@@ -20,7 +20,7 @@ struct OrderFile {
 };
 
 /// In the order in which they are offered.
-const std::array<OrderFile, 6>& OrderFiles();
+const std::array<OrderFile, 7>& OrderFiles();
 
 /// A document of one order of the open project.
 OrderDocument DocumentOf(const Session& session, Order order);

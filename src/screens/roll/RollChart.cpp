@@ -11,6 +11,7 @@
 #include "order/OrderWords.h"
 #include "order/RollFold.h"
 #include "project/OrderRequest.h"
+#include "project/ShortRoomName.h"
 #include "screens/roll/Tints.h"
 
 #include <algorithm>
@@ -21,19 +22,6 @@
 namespace tarn {
 
 namespace {
-
-/// A room as it is written on a piece: by its number, or else its remark, or else its place.
-std::string RoomOnPiece(const Project& project, std::size_t room) {
-    if (room < project.Rooms.size()) {
-        const Room& of = project.Rooms[room];
-        for (const std::string& name : {of.Number, of.Remark}) {
-            if (!name.empty()) {
-                return OneLine(ShownText(name));
-            }
-        }
-    }
-    return Words("room %1", TrimStr(static_cast<long long>(room) + 1));
-}
 
 /// "room 102", also of a room whose name says that it is one.
 std::string RoomSpoken(const std::string& name) {
@@ -131,9 +119,12 @@ class EstimateCharter {
             places_.Fills + static_cast<Double>(placed.Y), placed.Part.Room);
     }
 
-    void Add(ChartPiece piece, const SizeOnRoll& size, Double x, Double y, Integer ofRoom) {
-        const auto room = static_cast<std::size_t>(ofRoom);
-        piece.Room = RoomOnPiece(project_, room);
+    static std::size_t RoomAt(const std::vector<std::size_t>& rooms, std::size_t number) {
+        return number < rooms.size() ? rooms[number] : 0;
+    }
+
+    void Add(ChartPiece piece, const SizeOnRoll& size, Double x, Double y, std::size_t room) {
+        piece.Room = ShortRoomName(project_, room);
         piece.X = InUnit(x);
         piece.Y = InUnit(y);
         piece.Width = InUnit(size.Across);
@@ -204,7 +195,7 @@ RollChart ChartOf(const Order& order, std::size_t candidate, const Project& proj
         ChartPiece piece;
         piece.Label = from.Label;
         piece.Size = lines[i].Size;
-        piece.Room = RoomOnPiece(project, room);
+        piece.Room = ShortRoomName(project, room);
         piece.X = order.Request.Selvage + from.X;
         piece.Y = from.Y;
         piece.Width = from.Width;

@@ -8,7 +8,6 @@
 #include "screens/ControlNames.h"
 #include "screens/Controls.h"
 #include "screens/Display.h"
-#include "screens/SaveAs.h"
 #include "screens/Theme.h"
 
 #include <QAction>
@@ -18,6 +17,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include <string_view>
 #include <utility>
 
 namespace tarn {
@@ -54,19 +54,25 @@ ReportFrame::ReportFrame() {
 }
 
 void ReportFrame::MakeMenu() {
-    saveAsPdf_ = new QAction(ToQt(SaveAsPdfCaption), this);
-    saveAsPdf_->setObjectName(Controls::reportAsPdf);
-    saveAsSvg_ = new QAction(ToQt(SaveAsSvgCaption), this);
-    saveAsSvg_->setObjectName(Controls::reportAsSvg);
+    QList<QAction*> actions;
+    QAction* pages = nullptr; // the first file of pages, behind those of figures
+    for (const ReportFile& file : ReportFiles()) {
+        auto* action = new QAction(ToQt(file.Caption), this);
+        action->setObjectName(file.Control);
+        connect(action, &QAction::triggered, this, [this, &file] { OnSave(file); });
+        actions.append(action);
+        pages = std::string_view(file.Control) == Controls::reportAsPdf ? action : pages;
+    }
     view_->setContextMenuPolicy(Qt::CustomContextMenu);
-    connect(view_, &QWidget::customContextMenuRequested, this, [this](const QPoint& at) {
-        QMenu* menu = view_->createStandardContextMenu();
-        menu->setAttribute(Qt::WA_DeleteOnClose);
-        menu->addSeparator();
-        menu->addAction(saveAsPdf_);
-        menu->addAction(saveAsSvg_);
-        menu->popup(view_->viewport()->mapToGlobal(at));
-    });
+    connect(view_, &QWidget::customContextMenuRequested, this,
+            [this, actions, pages](const QPoint& at) {
+                QMenu* menu = view_->createStandardContextMenu();
+                menu->setAttribute(Qt::WA_DeleteOnClose);
+                menu->addSeparator();
+                menu->addActions(actions);
+                menu->insertSeparator(pages);
+                menu->popup(view_->viewport()->mapToGlobal(at));
+            });
 }
 
 void ReportFrame::Show(EnteredDataReport report) {

@@ -1,10 +1,12 @@
 #pragma once
 
 #include "project/Report.h"
+#include "screens/rooms/RoomOutput.h"
 
 #include <QFrame>
 
-class QAction;
+#include <functional>
+
 class QPlainTextEdit;
 class QPushButton;
 
@@ -22,9 +24,8 @@ class ReportFrame : public QFrame {
     QPlainTextEdit& View() { return *view_; }
     QPushButton& Print() { return *print_; }
     QPushButton& Close() { return *close_; }
-    /// Of the view's context menu.
-    QAction& SaveAsPdf() { return *saveAsPdf_; }
-    QAction& SaveAsSvg() { return *saveAsSvg_; }
+    /// Called for the kind of file that was chosen in the view's context menu.
+    std::function<void(const ReportFile& file)> OnSave = [](const ReportFile&) {};
 
   private:
     void MakeMenu();
@@ -33,8 +34,6 @@ class ReportFrame : public QFrame {
     QPlainTextEdit* view_ = nullptr;
     QPushButton* print_ = nullptr;
     QPushButton* close_ = nullptr;
-    QAction* saveAsPdf_ = nullptr;
-    QAction* saveAsSvg_ = nullptr;
 };
 
 } // namespace tarn

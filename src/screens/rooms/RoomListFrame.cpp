@@ -7,10 +7,13 @@
 #include "screens/Controls.h"
 #include "screens/Display.h"
 #include "screens/Theme.h"
+#include "screens/rooms/RoomPaste.h"
 #include "screens/rooms/RoomTable.h"
 #include "screens/rooms/RoomTotals.h"
 
+#include <QAction>
 #include <QBoxLayout>
+#include <QMenu>
 
 #include <algorithm>
 
@@ -34,6 +37,27 @@ RoomListFrame::RoomListFrame(const OpenProject& project)
     SetSpacing(*layout_, Metrics::Spacing);
     layout_->addWidget(table_, 1);
     layout_->addWidget(totals_);
+    table_->OnPaste = [this] { OnPaste(); };
+    MakeMenu();
+}
+
+/// A child of the table that pops up without waiting, so that the screen may close under it.
+void RoomListFrame::MakeMenu() {
+    auto* menu = new QMenu(table_);
+    menu->setObjectName(Controls::roomListMenu);
+    const auto add = [this, menu](const char* name, const char* caption, auto act) {
+        QAction* action = menu->addAction(QString::fromLatin1(caption));
+        action->setObjectName(name);
+        connect(action, &QAction::triggered, this, act);
+    };
+    add(Controls::pasteIntoList, PasteRoomsCaption, [this] { OnPaste(); });
+    menu->addSeparator();
+    for (const RoomListFile& file : RoomListFiles()) {
+        add(file.Control, file.Caption, [this, &file] { OnSave(file); });
+    }
+    table_->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(table_, &QWidget::customContextMenuRequested, menu,
+            [this, menu](const QPoint& at) { menu->popup(table_->viewport()->mapToGlobal(at)); });
 }
 
 void RoomListFrame::Show(std::size_t room, const std::optional<Room>& typed) {

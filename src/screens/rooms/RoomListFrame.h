@@ -2,12 +2,14 @@
 
 #include "project/Room.h"
 #include "screens/OpenProject.h"
+#include "screens/rooms/RoomOutput.h"
 
 #include <QFrame>
 #include <QRect>
 #include <QSize>
 
 #include <cstddef>
+#include <functional>
 #include <optional>
 
 class QBoxLayout;
@@ -34,6 +36,11 @@ class RoomListFrame : public QFrame {
     RoomTable& Table() { return *table_; }
     RoomTotals& Totals() { return *totals_; }
 
+    /// None may raise. Rooms are to be pasted: Ctrl+V in the table, or by its context menu.
+    std::function<void()> OnPaste = [] {};
+    /// The list is to be saved as that kind of file.
+    std::function<void(const RoomListFile& file)> OnSave = [](const RoomListFile&) {};
+
     /// The room on the screen, 0 .. number of rooms, and what its fields would be stored as.
     void Show(std::size_t room, const std::optional<Room>& typed);
     /// The rooms have changed.
@@ -48,6 +55,7 @@ class RoomListFrame : public QFrame {
     void StandAlone();
 
   private:
+    void MakeMenu();
     QSize LeastSize(bool totalsBeside) const;
     /// The largest height up to `most` in which no row is cut off.
     int WholeRows(int most, bool totalsBeside) const;

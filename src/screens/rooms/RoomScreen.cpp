@@ -2,12 +2,8 @@
 
 #include "base/RunTimeError.h"
 #include "base/Text.h"
-#include "base/Words.h"
-#include "files/OutputFile.h"
 #include "files/QtText.h"
-#include "files/ReportSvg.h"
 #include "files/ShortDate.h"
-#include "paper/PdfFile.h"
 #include "project/Report.h"
 #include "project/RoomChange.h"
 #include "project/RoomList.h"
@@ -15,12 +11,13 @@
 #include "screens/ControlNames.h"
 #include "screens/Controls.h"
 #include "screens/Display.h"
-#include "screens/SaveAs.h"
 #include "screens/SaveProject.h"
 #include "screens/Theme.h"
 #include "screens/rooms/ReportFrame.h"
 #include "screens/rooms/RoomEntryFrame.h"
 #include "screens/rooms/RoomListFrame.h"
+#include "screens/rooms/RoomOutput.h"
+#include "screens/rooms/RoomPaste.h"
 #include "screens/rooms/RoomTable.h"
 #include "screens/rooms/RoomTotals.h"
 #include "screens/rooms/UndoMenu.h"
@@ -42,14 +39,16 @@ namespace tarn {
 
 namespace {
 
-constexpr auto NotStored = Words("The room could not be stored.");
-constexpr auto ReportNotSaved = Words("The report could not be saved.");
-constexpr auto NotClosed = Words("The screen could not be closed.");
-constexpr auto NotDeleted = Words("The room could not be deleted.");
-constexpr auto NotReported = Words("The report could not be made.");
-constexpr auto NotPrinted = Words("The report could not be printed.");
-constexpr auto NotUndone = Words("The rooms could not be put back.");
-constexpr auto NotShown = Words("The rooms could not be shown.");
+constexpr const char* NotStored = "The room could not be stored.";
+constexpr const char* ReportNotSaved = "The report could not be saved.";
+constexpr const char* NotClosed = "The screen could not be closed.";
+constexpr const char* NotDeleted = "The room could not be deleted.";
+constexpr const char* NotReported = "The report could not be made.";
+constexpr const char* NotPrinted = "The report could not be printed.";
+constexpr const char* NotUndone = "The rooms could not be put back.";
+constexpr const char* NotPasted = "The rooms could not be pasted.";
+constexpr const char* ListNotSaved = "The list of the rooms could not be saved.";
+constexpr const char* NotShown = "The rooms could not be shown.";
 
 /// From which width of the window on the list may stand beside the form, twips.
 constexpr double WideWindow = 16500;
@@ -114,7 +113,10 @@ void RoomScreen::MakeMenu() {
     for (int i = 0; i < RoomEntryFrame::Texts; ++i) {
         undo_->Attend(entry_->Text(i));
     }
-    AddHelpMenu();
+    undo_->Menu().addSeparator();
+    const QAction* paste = AddItem(undo_->Menu(), Controls::pasteRooms, PasteRoomsCaption);
+    connect(paste, &QAction::triggered, this,
+            [this] { RunCommand(NotPasted, [this] { PasteRooms(); }); });
 }
 
 void RoomScreen::MakeButtonsBelow() {
@@ -183,11 +185,10 @@ void RoomScreen::ConnectButtons() {
     OnClick(entry_->Report(), NotReported, [this] { ShowReport(); });
     OnClick(*back_, NotClosed, [this] { Leave(); });
     OnClick(report_->Print(), NotPrinted, [this] { PrintReport(); });
-    connect(&report_->SaveAsPdf(), &QAction::triggered, this,
-            [this] { Guard(ReportNotSaved, [this] { SaveReportAsPdf(); }); });
-    connect(&report_->SaveAsSvg(), &QAction::triggered, this,
-            [this] { Guard(ReportNotSaved, [this] { SaveReportAsSvg(); }); });
-    OnClick(report_->Close(), Words("The report could not be closed."), [this] { CloseReport(); });
+    report_->OnSave = [this](const ReportFile& file) {
+        Guard(ReportNotSaved, [&] { SaveReportAs(Shared(), report_->Shown(), file); });
+    };
+    OnClick(report_->Close(), "The report could not be closed.", [this] { CloseReport(); });
 }
 
 void RoomScreen::ConnectList() {
@@ -197,6 +198,10 @@ void RoomScreen::ConnectList() {
     };
     list_->Table().OnDelete = [this](std::size_t room) {
         RunCommand(NotDeleted, [this, room] { DeleteListed(room); });
+    };
+    list_->OnPaste = [this] { RunCommand(NotPasted, [this] { PasteRooms(); }); };
+    list_->OnSave = [this](const RoomListFile& file) {
+        RunCommand(ListNotSaved, [&] { WithRoomStored([&] { SaveRoomListAs(Shared(), file); }); });
     };
     Shared().History.OnChange(*this, [this] { list_->NoteRooms(); });
 }
@@ -502,6 +507,30 @@ void RoomScreen::DeleteListed(std::size_t room) {
     }
 }
 
+void RoomScreen::PasteRooms() {
+    const StoreResult result = StoreShownRoom();
+    if (!result.IsStored() && result.What != StoreResult::Outcome::Empty) {
+        ShowForm();
+        FocusAfter(result);
+        return;
+    }
+    OpenProject& project = Shared().Project;
+    const std::size_t first = project.Now.Rooms.size();
+    const RoomCsvReading pasted = ReadClipboardRooms(project.Shown, RoomCapacity - first);
+    if (!pasted.Succeeded()) {
+        Shared().Boxes.Message(NothingPasted, WhyNotPasted(pasted));
+        return;
+    }
+    Shared().History.Do(
+        first, [&] { AddRooms(project.Now, project.Shown, pasted.Rooms); },
+        NameOfPaste(pasted.Rooms.size()));
+    GoTo(first);
+    KeepTyping();
+    if (!pasted.Notes.empty()) {
+        Shared().Boxes.Message(PastedRounded, RoundedText(pasted));
+    }
+}
+
 bool RoomScreen::TakesLastChangeBack() const {
     const RoomHistory& history = Shared().History;
     std::vector<Room> rooms = Shared().Project.Now.Rooms;
@@ -657,17 +686,6 @@ void RoomScreen::PrintShown() {
 
 void RoomScreen::PrintReport() {
     Shared().Printing.Print(report_->Shown(), *reading_, [this] { CloseReport(); });
-}
-
-void RoomScreen::SaveReportAsPdf() {
-    SaveAs(Shared(), Shared().Project.Now.Name, "pdf", [this](const std::string& path) {
-        WriteReportPdf(report_->Shown(), path, PaperOf(Shared().Page));
-    });
-}
-
-void RoomScreen::SaveReportAsSvg() {
-    SaveAs(Shared(), Shared().Project.Now.Name, "svg",
-           [this](const std::string& path) { WriteOutputFile(path, ReportSvg(report_->Shown())); });
 }
 
 void RoomScreen::CloseReport() {

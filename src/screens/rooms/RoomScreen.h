@@ -99,6 +99,9 @@ class RoomScreen : public TitledScreen {
     void GoToListed(std::size_t room);
     /// Go there and delete it.
     void DeleteListed(std::size_t room);
+    /// Put the rooms of the clipboard behind the others and go to the first of them; all or, told,
+    /// none. What stands in the fields is stored first, as by NEXT.
+    void PasteRooms();
     /// Take the last change of the rooms back, or make the next again, and show its room. What
     /// stands in the fields is stored first: it is the last change.
     void Undo();
@@ -127,8 +130,6 @@ class RoomScreen : public TitledScreen {
     /// Ctrl+P: print the report, which is shown first.
     void PrintShown();
     void PrintReport();
-    void SaveReportAsPdf();
-    void SaveReportAsSvg();
     void CloseReport();
     /// Take the fields into memory if that needs no word with the user, and show the menu.
     void Leave();

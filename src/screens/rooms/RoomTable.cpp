@@ -166,6 +166,12 @@ void RoomTable::BringSelectedIntoView() {
 }
 
 void RoomTable::keyPressEvent(QKeyEvent* event) {
+    if (event->matches(QKeySequence::Paste)) {
+        if (!event->isAutoRepeat() && OnPaste) {
+            OnPaste();
+        }
+        return;
+    }
     const auto& act = event->key() == Qt::Key_Delete ? OnDelete : OnChosen;
     switch (event->key()) {
     case Qt::Key_Return:

@@ -23,6 +23,8 @@ class RoomTable : public QTableView {
     std::function<void(std::size_t)> OnChosen;
     /// Delete was pressed on it.
     std::function<void(std::size_t)> OnDelete;
+    /// Ctrl+V was pressed.
+    std::function<void()> OnPaste;
 
     /// Select the row of the room on the screen, which would be stored as `typed`, and see that it
     /// is in view.

@@ -52,10 +52,10 @@ UndoMenu::UndoMenu(QMenuBar& menus, QObject* parent, const std::function<void()>
                    const std::function<void()>& redo)
     : QObject(parent) {
     // Every letter of its name is taken on this screen.
-    QMenu* menu = menus.addMenu(ToQt(Words("Edit")));
-    menu->setObjectName(Controls::editMenu);
-    undo_ = AddItem(*menu, Controls::undoRooms, undo);
-    redo_ = AddItem(*menu, Controls::redoRooms, redo);
+    menu_ = menus.addMenu(QStringLiteral("Edit"));
+    menu_->setObjectName(Controls::editMenu);
+    undo_ = AddItem(*menu_, Controls::undoRooms, undo);
+    redo_ = AddItem(*menu_, Controls::redoRooms, redo);
     undo_->setShortcut(UndoKey());
     redo_->setShortcuts(RedoKeys());
     Show({}, {});

@@ -8,6 +8,7 @@
 #include <string>
 
 class QAction;
+class QMenu;
 class QMenuBar;
 
 namespace tarn {
@@ -20,6 +21,8 @@ class UndoMenu : public QObject {
     UndoMenu(QMenuBar& menus, QObject* parent, const std::function<void()>& undo,
              const std::function<void()>& redo);
 
+    /// The menu, for what stands behind them in it.
+    QMenu& Menu() { return *menu_; }
     /// Take the keys of a field where it has nothing to take back or to make again.
     void Attend(EntryField& field);
     /// What there is to take back and to make again; empty for nothing.
@@ -28,6 +31,7 @@ class UndoMenu : public QObject {
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
+    QMenu* menu_ = nullptr;
     QAction* undo_ = nullptr;
     QAction* redo_ = nullptr;
 };

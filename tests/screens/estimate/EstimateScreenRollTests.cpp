@@ -1,11 +1,18 @@
 // The whole view of the roll on the carpet estimate: beside the drawing, or in its place.
 
+#include "files/RollDxf.h"
 #include "screens/Display.h"
 #include "screens/Theme.h"
 #include "screens/estimate/EstimateScreenTesting.h"
 #include "screens/roll/RollList.h"
 #include "screens/roll/RollPanel.h"
 #include "screens/roll/RollView.h"
+#include "store/TestDatabase.h"
+
+#include <QContextMenuEvent>
+#include <QMenu>
+
+#include <gmock/gmock.h>
 
 #include <array>
 
@@ -208,6 +215,27 @@ TEST_F(EstimateScreenRoll, IsNotWhatIsPrinted) {
     EXPECT_EQ(printer.Estimates[0].Picture, Picture().Shown());
     EXPECT_EQ(Written(), written);
     EXPECT_EQ(Picture().Shown().Steps().size(), steps);
+}
+
+TEST_F(EstimateScreenRoll, IsSavedAsDxfByItsMenu) {
+    const TestFolder files;
+    EstimateOn(1366, 768);
+    boxes.Files = {files.Path("a.dxf"), files.Path("b.dxf"), files.Path("missing/c.dxf")};
+    for (const auto reason :
+         {QContextMenuEvent::Mouse, QContextMenuEvent::Keyboard, QContextMenuEvent::Keyboard}) {
+        QWidget& target = reason == QContextMenuEvent::Mouse ? *View().viewport() : View();
+        QContextMenuEvent event(reason, QPoint(9, 9), target.mapToGlobal(QPoint(9, 9)));
+        QApplication::sendEvent(&target, &event);
+        QWidget* menu = QApplication::activePopupWidget();
+        ASSERT_NE(menu, nullptr);
+        QTest::keyClick(menu, Qt::Key_D);
+    }
+    EXPECT_EQ(boxes.SuggestedFiles[0], "MAPLE STREET 9.dxf");
+    const std::string wanted = EstimateDxf(Searched(), open.Now);
+    EXPECT_EQ(ReadFile(files.Path("a.dxf")), wanted);
+    EXPECT_EQ(ReadFile(files.Path("b.dxf")), wanted);
+    ASSERT_EQ(boxes.Messages.size(), 1U);
+    EXPECT_THAT(boxes.Messages[0], ::testing::HasSubstr("missing/c.dxf"));
 }
 
 } // namespace

@@ -87,14 +87,15 @@ TEST_F(OrderScreenOutput, EndsTheComparisonThatIsBeingMadeFirst) {
 TEST_F(OrderScreenOutput, SavesEveryKindOfFile) {
     OpenQuick();
     auto& menu = Control<QMenu>(Controls::orderFiles);
-    ASSERT_EQ(menu.actions().size(), 6);
+    ASSERT_EQ(menu.actions().size(), 7);
     const std::vector<std::pair<std::string, std::string>> kinds{
         {"pdf", "%PDF"},
         {"svg", "<?xml"},
         {"xlsx", "PK"},
         {"csv", "carpet,name,roll,"},
         {"txt", "MAPLE STREET 9, CARPET-3"},
-        {"json", "{"}};
+        {"json", "{"},
+        {"dxf", "999\r\nLengths are inches"}};
     for (std::size_t kind = 0; kind < kinds.size(); ++kind) {
         const std::string path = folder.Path("order." + kinds[kind].first);
         boxes.Files.push_back(path);

@@ -1,12 +1,15 @@
-// The room entry screen: the report as a PDF or SVG file.
+// The room entry screen: the report as a file.
 
 #include "files/OutputFile.h"
+#include "files/ProjectTables.h"
 #include "files/ReportSvg.h"
 #include "files/ShortDate.h"
+#include "files/Spreadsheet.h"
 #include "paper/PdfTesting.h"
 #include "project/Report.h"
 #include "screens/SaveAs.h"
 #include "screens/rooms/RoomScreenTesting.h"
+#include "store/TestDatabase.h"
 
 #include <QContextMenuEvent>
 #include <QFile>
@@ -77,6 +80,26 @@ TEST_F(ReportAsFile, HoldsTheReportAsSvg) {
     EXPECT_TRUE(View().isVisible()) << "the report stays open";
 }
 
+TEST_F(ReportAsFile, OffersItsFiguresBeforeThePages) {
+    QMenu& menu = OpenMenu(QContextMenuEvent::Mouse);
+    const QList<QAction*> actions = menu.actions();
+    ASSERT_GE(actions.size(), 6);
+    EXPECT_EQ(actions[actions.size() - 5]->objectName(), QLatin1String(Controls::reportAsXlsx));
+    EXPECT_EQ(actions[actions.size() - 4]->objectName(), QLatin1String(Controls::reportAsCsv));
+    EXPECT_TRUE(actions[actions.size() - 6]->isSeparator());
+    QTest::keyClick(&menu, Qt::Key_Escape);
+}
+
+TEST_F(ReportAsFile, HoldsItsFiguresAsCsvAndAsASpreadsheet) {
+    boxes.Files = {Path("report.csv"), Path("report.xlsx")};
+    Save(QContextMenuEvent::Keyboard, Qt::Key_V);
+    Save(QContextMenuEvent::Keyboard, Qt::Key_X);
+    EXPECT_EQ(boxes.SuggestedFiles, (Lines{"Mill house.csv", "Mill house.xlsx"}));
+    EXPECT_EQ(ReadFile(Path("report.csv")), CsvOf({ReportTable(open.Now, open.Shown)}));
+    EXPECT_EQ(ReadFile(Path("report.xlsx")), XlsxOf({ReportTable(open.Now, open.Shown)}));
+    EXPECT_TRUE(boxes.Messages.empty());
+}
+
 TEST_F(ReportAsFile, HoldsTheReport) {
     for (const auto reason : {QContextMenuEvent::Mouse, QContextMenuEvent::Keyboard}) {
         const std::string path = Path(reason == QContextMenuEvent::Mouse ? "mouse.pdf" : "key.pdf");
@@ -121,7 +144,7 @@ TEST_F(ReportAsFile, IsNotWrittenWithoutAFile) {
 }
 
 TEST_F(ReportAsFile, NamesTheFileThatCannotBeWritten) {
-    for (const auto letter : {Qt::Key_P, Qt::Key_S}) {
+    for (const auto letter : {Qt::Key_P, Qt::Key_S, Qt::Key_X, Qt::Key_V}) {
         const std::string path = Path("nowhere/report");
         boxes.Files = {path};
         boxes.Messages.clear();

@@ -1,8 +1,6 @@
-#include "files/OrderXlsx.h"
+#include "files/Spreadsheet.h"
 
 #include "base/Text.h"
-#include "base/Words.h"
-#include "files/OrderTables.h"
 #include "files/OutputFile.h"
 
 #include <QFile>
@@ -42,7 +40,7 @@ void AddSheet(lxw_workbook& book, const ValueTable& table) {
     format_set_bold(bold);
     for (std::size_t column = 0; column < table.Heads.size(); ++column) {
         Require(worksheet_write_string(sheet, 0, static_cast<lxw_col_t>(column),
-                                       std::string(table.Heads[column]).c_str(), bold));
+                                       table.Heads[column].c_str(), bold));
     }
     worksheet_freeze_panes(sheet, 1, 0);
     lxw_row_t number = 0;
@@ -80,16 +78,17 @@ class Workbook {
 
 } // namespace
 
-std::string OrderXlsx(const OrderDocument& document) {
+std::string XlsxOf(const std::vector<ValueTable>& tables) {
     const QTemporaryDir folder; // the library writes to files alone
-    const std::string path = folder.filePath(QStringLiteral("order.xlsx")).toStdString();
+    const std::string path = folder.filePath(QStringLiteral("tables.xlsx")).toStdString();
     Workbook workbook(path);
-    // The same order gives the same bytes.
+    // The same tables give the same bytes.
     lxw_doc_properties properties{};
     properties.created = 1;
     Require(workbook_set_properties(&workbook.Book(), &properties));
-    AddSheet(workbook.Book(), ComparisonTable(document));
-    AddSheet(workbook.Book(), PieceTable(document));
+    for (const ValueTable& table : tables) {
+        AddSheet(workbook.Book(), table);
+    }
     workbook.Close();
     QFile file(QString::fromStdString(path));
     if (!file.open(QIODevice::ReadOnly)) {

@@ -1,0 +1,58 @@
+#include "screens/rooms/RoomPaste.h"
+
+#include "base/Text.h"
+#include "files/QtText.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+
+#include <algorithm>
+
+namespace tarn {
+
+namespace {
+
+/// As many lines as a box holds in a small window.
+constexpr std::size_t MostLines = 5;
+
+std::string Joined(const std::vector<std::string>& lines) {
+    std::string text;
+    for (const std::string& line : lines) {
+        text.append(text.empty() ? "" : CrLf).append(line);
+    }
+    return text;
+}
+
+} // namespace
+
+RoomCsvReading ReadClipboardRooms(Units units, std::size_t most) {
+    RoomCsvReading reading =
+        ReadPastedRooms(FromQt(QGuiApplication::clipboard()->text()), units, most);
+    if (reading.Succeeded() && reading.Rooms.empty()) {
+        reading.Errors.push_back({1, {}, {}, "there is no room below the headings"});
+    }
+    return reading;
+}
+
+std::string NameOfPaste(std::size_t rooms) {
+    return "Paste " + TrimStr(static_cast<long long>(rooms)) + (rooms == 1 ? " room" : " rooms");
+}
+
+std::string WhyNotPasted(const RoomCsvReading& reading) {
+    return Joined(MistakeLines(reading, MostLines));
+}
+
+std::string RoundedText(const RoomCsvReading& reading) {
+    std::vector<std::string> lines;
+    const std::size_t told = std::min(MostLines, reading.Notes.size());
+    for (std::size_t i = 0; i < told; ++i) {
+        lines.push_back(ErrorText(reading.Notes[i]));
+    }
+    const long long more = reading.MoreNotes + static_cast<long long>(reading.Notes.size() - told);
+    if (more > 0) {
+        lines.push_back("and " + TrimStr(more) + " more");
+    }
+    return Joined(lines);
+}
+
+} // namespace tarn
