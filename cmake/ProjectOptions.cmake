@@ -36,9 +36,10 @@ endif()
 # What makes a fault of memory hard to make use of: the program and its tables lie at addresses that
 # change, the tables are closed once it runs, buffers on the stack and in library calls are watched,
 # and jumps lead only to where something begins. tests/hardening looks at the built programs. Builds
-# for finding faults have their own means, and Debug is for debuggers.
+# for finding faults have their own means, Debug is for debuggers, and Windows has other ways.
 set(TARN_HARDENED OFF)
-if(NOT TARN_SANITIZE AND NOT TARN_COVERAGE AND NOT TARN_FUZZ AND NOT CMAKE_BUILD_TYPE STREQUAL "Debug")
+if(NOT TARN_SANITIZE AND NOT TARN_COVERAGE AND NOT TARN_FUZZ AND NOT CMAKE_BUILD_TYPE STREQUAL "Debug"
+   AND NOT WIN32)
   set(TARN_HARDENED ON)
   # Before all else: what uses Qt is compiled with -fPIC, and of the two the later one counts.
   string(APPEND CMAKE_CXX_FLAGS " -fPIE")
