@@ -1219,8 +1219,20 @@ Bei Nein wird nichts angelegt, und das Programm endet.</translation>
         <translation>Keine Blattnummer ist mehr frei: Die größte, 32767, ist vergeben.</translation>
     </message>
     <message>
+        <source>Note: %1</source>
+        <translation>Hinweis: %1</translation>
+    </message>
+    <message>
         <source>Note: %1, %2</source>
         <translation>Hinweis: %1, %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>Note: %1, and %n more size that is rounded</source>
+        <comment>Note: %1, and %n more sizes that are rounded</comment>
+        <translation>
+            <numerusform>Hinweis: %1, und %n weiteres gerundetes Maß</numerusform>
+            <numerusform>Hinweis: %1, und %n weitere gerundete Maße</numerusform>
+        </translation>
     </message>
     <message>
         <source>Note: %1: the saved request is in other units and is not used.</source>
@@ -1649,6 +1661,10 @@ yd²</translation>
         <translation>Als &amp;CSV speichern</translation>
     </message>
     <message>
+        <source>Save as &amp;DXF</source>
+        <translation>Als &amp;DXF speichern</translation>
+    </message>
+    <message>
         <source>Save as &amp;JSON</source>
         <translation>Als &amp;JSON speichern</translation>
     </message>
@@ -1657,8 +1673,8 @@ yd²</translation>
         <translation>Als &amp;SVG speichern</translation>
     </message>
     <message>
-        <source>Save as &amp;text</source>
-        <translation>Als &amp;Text speichern</translation>
+        <source>Save as spreadsheet (&amp;XLSX)</source>
+        <translation>Als Tabelle speichern (&amp;XLSX)</translation>
     </message>
     <message>
         <source>Save it as a new project</source>
@@ -1903,8 +1919,8 @@ Beispiel:
         <translation>Das Verzeichnis braucht einen Namen.</translation>
     </message>
     <message>
-        <source>The drawing of --svg shows one carpet, and there are several: choose one with --carpet.</source>
-        <translation>Die Zeichnung von --svg zeigt einen Teppichboden, und es gibt mehrere: Wählen Sie mit --carpet einen.</translation>
+        <source>The drawing of %1 shows one carpet, and there are several: choose one with --carpet.</source>
+        <translation>Die Zeichnung von %1 zeigt einen Teppichboden, und es gibt mehrere: Wählen Sie mit --carpet einen.</translation>
     </message>
     <message>
         <source>The estimate could not be emptied.</source>
@@ -2019,6 +2035,10 @@ Beispiel:
         <translation>Die Länge eines Raums kann höchstens %1 %2 sein.</translation>
     </message>
     <message>
+        <source>The list of the rooms could not be saved.</source>
+        <translation>Die Liste der Räume konnte nicht gespeichert werden.</translation>
+    </message>
+    <message>
         <source>The list stands on the screen, in the drawing saved as SVG, and in what tarn-estimate --text writes.</source>
         <translation>Die Liste steht auf dem Bildschirm, in der als SVG gespeicherten Zeichnung und in dem, was tarn-estimate --text schreibt.</translation>
     </message>
@@ -2033,6 +2053,10 @@ Beispiel:
     <message>
         <source>The name of the directory &quot;%1&quot; %2</source>
         <translation>Der Name des Verzeichnisses „%1“ %2</translation>
+    </message>
+    <message>
+        <source>The name of the project &quot;%1&quot; %2</source>
+        <translation>Der Name des Projekts „%1“ %2</translation>
     </message>
     <message>
         <source>The next column of the pattern stands half a repeat further along</source>
@@ -2241,8 +2265,20 @@ Seine Räume können als neues Projekt gespeichert werden.</translation>
         <translation>Der Raum konnte nicht gelöscht werden.</translation>
     </message>
     <message>
+        <source>The rooms are pasted. Some sizes are rounded:</source>
+        <translation>Die Räume sind eingefügt. Einige Maße sind gerundet:</translation>
+    </message>
+    <message>
         <source>The rooms could not be opened.</source>
         <translation>Die Räume konnten nicht geöffnet werden.</translation>
+    </message>
+    <message>
+        <source>The rooms could not be pasted.</source>
+        <translation>Die Räume konnten nicht eingefügt werden.</translation>
+    </message>
+    <message>
+        <source>The rooms could not be pasted: nothing was changed.</source>
+        <translation>Die Räume konnten nicht eingefügt werden: Nichts wurde geändert.</translation>
     </message>
     <message>
         <source>The rooms could not be put back.</source>
@@ -2621,6 +2657,14 @@ Wollen Sie wirklich löschen?</translation>
         <translation>Bahnen, Stücke und Summen als JSON schreiben</translation>
     </message>
     <message>
+        <source>Write it as CSV instead</source>
+        <translation>Ihn stattdessen als CSV schreiben</translation>
+    </message>
+    <message>
+        <source>Write it as a spreadsheet instead</source>
+        <translation>Ihn stattdessen als Tabelle (XLSX) schreiben</translation>
+    </message>
+    <message>
         <source>Write over a database too, and where a symbolic link leads</source>
         <translation>Auch über eine Datenbank schreiben, und dorthin, wohin eine Verknüpfung führt</translation>
     </message>
@@ -2645,8 +2689,20 @@ Wollen Sie wirklich löschen?</translation>
         <translation>Die Seiten des Blatts eines Teppichbodens untereinander als Zeichnung schreiben (mit --carpet, wenn es mehrere gibt)</translation>
     </message>
     <message>
+        <source>Write the roll of one carpet&apos;s best row true to size for a plotter or cutting table, along X, in inches (centimetres with --metric)</source>
+        <translation>Die Rolle der besten Zeile eines Teppichbodens maßstäblich für einen Plotter oder Schneidetisch schreiben, entlang X, in Zoll (mit --metric in Zentimetern)</translation>
+    </message>
+    <message>
         <source>Write the sheet to buy and cut by, of all carpets, as it is printed; A4 unless the printer has another paper</source>
         <translation>Das Bestell- und Zuschnittblatt aller Teppichböden schreiben, wie es gedruckt wird; A4, wenn der Drucker kein anderes Papier hat</translation>
+    </message>
+    <message>
+        <source>Write the whole roll, cuts and fills, true to size for a plotter or cutting table, along X, in inches (centimetres with --metric)</source>
+        <translation>Die ganze Rolle, Bahnen und Füllstücke, maßstäblich für einen Plotter oder Schneidetisch schreiben, entlang X, in Zoll (mit --metric in Zentimetern)</translation>
+    </message>
+    <message>
+        <source>Write them as a spreadsheet, with the totals by covering</source>
+        <translation>Sie als Tabelle (XLSX) schreiben, mit den Summen je Belag</translation>
     </message>
     <message>
         <source>You should enter L or W with 1 or 2 to be calculated</source>
@@ -2655,6 +2711,10 @@ Wollen Sie wirklich löschen?</translation>
     <message>
         <source>Zoom: + and −, or Ctrl and wheel.  0: actual size.  Double click: everything.</source>
         <translation>Zoom: + und −, oder Strg und Mausrad.  0: wahre Größe.  Doppelklick: alles.</translation>
+    </message>
+    <message>
+        <source>a PDF document</source>
+        <translation>ein PDF-Dokument</translation>
     </message>
     <message>
         <source>a part of it is missing</source>
@@ -2668,13 +2728,21 @@ Wollen Sie wirklich löschen?</translation>
         <source>a room that was being typed</source>
         <translation>ein Raum, der gerade eingegeben wurde</translation>
     </message>
-    <message numerus="yes">
-        <source>and %n more mistake</source>
-        <comment>and %n more mistakes</comment>
-        <translation>
-            <numerusform>und %n weiterer Fehler</numerusform>
-            <numerusform>und %n weitere Fehler</numerusform>
-        </translation>
+    <message>
+        <source>an Excel workbook (XLSX)</source>
+        <translation>eine Excel-Arbeitsmappe (XLSX)</translation>
+    </message>
+    <message>
+        <source>an archive (ZIP), as spreadsheets such as XLSX and ODS are</source>
+        <translation>ein Archiv (ZIP), wie es Tabellen im Format XLSX oder ODS sind</translation>
+    </message>
+    <message>
+        <source>an older Excel workbook (XLS) or another Office file</source>
+        <translation>eine ältere Excel-Arbeitsmappe (XLS) oder eine andere Office-Datei</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>und %1 weitere</translation>
     </message>
     <message>
         <source>another program is using the database. Close that program and try again.</source>
@@ -2957,6 +3025,10 @@ Wollen Sie wirklich löschen?</translation>
         <translation>Räume vom %1 zurückholen</translation>
     </message>
     <message>
+        <source>the CSV</source>
+        <translation>die CSV-Datei</translation>
+    </message>
+    <message>
         <source>the area bought is wrong</source>
         <translation>die gekaufte Fläche ist falsch</translation>
     </message>
@@ -3215,6 +3287,11 @@ Wollen Sie wirklich löschen?</translation>
         <translation>Der Ordner kann nicht angelegt werden</translation>
     </message>
     <message>
+        <location filename="../src/files/ForeignFile.cpp"/>
+        <source>an OpenDocument spreadsheet (ODS)</source>
+        <translation>eine OpenDocument-Tabelle (ODS)</translation>
+    </message>
+    <message>
         <location filename="../src/files/Language.cpp"/>
         <source>There is no language &quot;%1&quot;. Choose one of %2.</source>
         <translation>Es gibt keine Sprache „%1“. Wählen Sie eine von %2.</translation>
@@ -3225,19 +3302,29 @@ Wollen Sie wirklich löschen?</translation>
         <translation>Stück</translation>
     </message>
     <message>
-        <location filename="../src/files/OrderXlsx.cpp"/>
+        <location filename="../src/files/RollDxf.cpp"/>
+        <source>There is no roll to draw: every roll and lay is refused.</source>
+        <translation>Es gibt keine Rolle zu zeichnen: Jede Rolle und Lage ist abgelehnt.</translation>
+    </message>
+    <message>
+        <location filename="../src/files/Spreadsheet.cpp"/>
         <source>The spreadsheet cannot be made: %1</source>
         <translation>Die Tabelle kann nicht erstellt werden: %1</translation>
     </message>
     <message>
-        <location filename="../src/files/OrderXlsx.cpp"/>
+        <location filename="../src/files/Spreadsheet.cpp"/>
         <source>The spreadsheet cannot be made: %1.</source>
         <translation>Die Tabelle kann nicht erstellt werden: %1.</translation>
     </message>
     <message>
-        <location filename="../src/files/OrderXlsx.cpp"/>
+        <location filename="../src/files/Spreadsheet.cpp"/>
         <source>The spreadsheet cannot be made: out of memory.</source>
         <translation>Die Tabelle kann nicht erstellt werden: zu wenig Speicher.</translation>
+    </message>
+    <message>
+        <location filename="../src/files/TextEncoding.cpp"/>
+        <source>The encoding &quot;%1&quot; is not known; &quot;iconv -l&quot; lists those that are.</source>
+        <translation>Die Zeichenkodierung „%1“ ist unbekannt; „iconv -l“ nennt die bekannten.</translation>
     </message>
     <message>
         <location filename="../src/improve/ImproveFills.cpp"/>
@@ -3749,8 +3836,8 @@ Was jenes Programm gespeichert hat, geht verloren, wenn Sie es ersetzen.</transl
     </message>
     <message>
         <location filename="../src/screens/order/OrderOutput.cpp"/>
-        <source>Save as spreadsheet (&amp;XLSX)</source>
-        <translation>Als Tabelle speichern (&amp;XLSX)</translation>
+        <source>Save as &amp;text</source>
+        <translation>Als &amp;Text speichern</translation>
     </message>
     <message>
         <location filename="../src/screens/order/OrderScreen.cpp"/>
@@ -3850,6 +3937,30 @@ m²</translation>
         <location filename="../src/screens/rooms/RoomTable.cpp"/>
         <source>ROOMS</source>
         <translation>RÄUME</translation>
+    </message>
+    <message>
+        <location filename="../src/screens/rooms/RoomOutput.cpp"/>
+        <source>Save as CS&amp;V</source>
+        <translation>Als CS&amp;V speichern</translation>
+    </message>
+    <message numerus="yes">
+        <location filename="../src/screens/rooms/RoomPaste.cpp"/>
+        <source>paste %n room</source>
+        <comment>paste %n rooms</comment>
+        <translation>
+            <numerusform>%n Raum einfügen</numerusform>
+            <numerusform>%n Räume einfügen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <location filename="../src/screens/rooms/RoomPaste.cpp"/>
+        <source>there is no room below the headings</source>
+        <translation>unter den Überschriften steht kein Raum</translation>
+    </message>
+    <message>
+        <location filename="../src/screens/rooms/RoomPaste.h"/>
+        <source>&amp;Paste rooms</source>
+        <translation>Räume &amp;einfügen</translation>
     </message>
     <message>
         <location filename="../src/screens/rooms/RoomScreen.cpp"/>
@@ -4199,11 +4310,12 @@ Beispiel:
         <location filename="../src/tools/EstimateOptions.cpp"/>
         <source>A CSV file has a header line and the columns width,length,covering,base,room,remark in any
 order; the first three are required. Sizes are whole inches or text such as 12&apos;6&quot; (whole
-centimetres with --metric), coverings CARPET-1 or C1, TILE-4 or T4. The base tells how many
-widths and lengths of the room take wall base: W2L1 is two widths and one length. A size
-of 0 is read and not cut. A room number has at most %1 characters, a remark %2,
-each in one line; of one that begins with &apos; the &apos; is taken off. A file, no pipe or device, has
-at most %3 rooms and %4 MB.
+centimetres with --metric), or numbers in the unit that a heading such as &quot;Width (ft)&quot; names;
+coverings CARPET-1 or C1, TILE-4 or T4. The base tells how many widths and lengths of the
+room take wall base: W2L1 is two widths and one length. A size of 0 is read and not cut. A
+room number has at most %1 characters, a remark %2, each in one line; of one that begins
+with &apos; the &apos; is taken off. Commas, semicolons or tabs separate. A file, no pipe or device, has at
+most %3 rooms and %4 MB.
 
 An output file takes the place of the one that is there, once it is whole and stored.
 Databases and symbolic links stay as they are without --force.
@@ -4214,10 +4326,11 @@ Example:
   tarn-estimate --rooms house.csv --carpet 1 --roll-width 12ft --max-pieces 2 --svg house.svg</source>
         <translation>Eine CSV-Datei hat eine Kopfzeile und die Spalten width,length,covering,base,room,remark in
 beliebiger Reihenfolge; die ersten drei sind erforderlich. Maße sind ganze Zoll oder Text wie 12&apos;6&quot;
-(mit --metric ganze Zentimeter), Beläge CARPET-1 oder C1, TILE-4 oder T4. Die Spalte base sagt,
-wie viele Breiten und Längen des Raums Sockelleiste bekommen: W2L1 sind zwei Breiten und eine
-Länge. Ein Maß von 0 wird gelesen und nicht zugeschnitten. Eine Raumnummer hat höchstens %1
-Zeichen, eine Bemerkung %2, beide in einer Zeile; von einer, die mit &apos; beginnt, entfällt das &apos;.
+(mit --metric ganze Zentimeter), oder Zahlen in der Einheit, die eine Überschrift wie „Width (ft)“
+nennt; Beläge CARPET-1 oder C1, TILE-4 oder T4. Die Spalte base sagt, wie viele Breiten und Längen
+des Raums Sockelleiste bekommen: W2L1 sind zwei Breiten und eine Länge. Ein Maß von 0 wird gelesen
+und nicht zugeschnitten. Eine Raumnummer hat höchstens %1 Zeichen, eine Bemerkung %2, beide in einer
+Zeile; von einer, die mit &apos; beginnt, entfällt das &apos;. Kommas, Semikolons oder Tabulatoren trennen.
 Eine Datei, keine Pipe und kein Gerät, hat höchstens %3 Räume und %4 MB.
 
 Eine Ausgabedatei tritt an die Stelle der vorhandenen, sobald sie ganz und gespeichert ist.
@@ -4301,13 +4414,18 @@ Die Räume kommen aus einer Datenbank (--database und --project) oder einer CSV-
     </message>
     <message>
         <location filename="../src/tools/ProjectFile.cpp"/>
-        <source>The name of the project &quot;%1&quot; %2</source>
-        <translation>Der Name des Projekts „%1“ %2</translation>
+        <source>Or name the encoding of the file with --encoding, such as windows-1252.</source>
+        <translation>Oder nennen Sie mit --encoding die Zeichenkodierung der Datei, etwa windows-1252.</translation>
     </message>
     <message>
         <location filename="../src/tools/ProjectFile.cpp"/>
         <source>The project %1 cannot be loaded: %2</source>
         <translation>Das Projekt %1 kann nicht geladen werden: %2</translation>
+    </message>
+    <message>
+        <location filename="../src/tools/SharedOptions.cpp"/>
+        <source>Encoding of the CSV file, such as windows-1252; &quot;iconv -l&quot; lists them (default: what its byte-order mark says, else UTF-8)</source>
+        <translation>Zeichenkodierung der CSV-Datei, etwa windows-1252; „iconv -l“ nennt sie (Vorgabe: was ihre Bytereihenfolge-Marke sagt, sonst UTF-8)</translation>
     </message>
     <message>
         <location filename="../src/tools/SharedOptions.cpp"/>

@@ -1219,8 +1219,20 @@ Con No no se crea nada y el programa termina.</translation>
         <translation>No queda ningún número de hoja: el mayor, 32767, está en uso.</translation>
     </message>
     <message>
+        <source>Note: %1</source>
+        <translation>Nota: %1</translation>
+    </message>
+    <message>
         <source>Note: %1, %2</source>
         <translation>Nota: %1, %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>Note: %1, and %n more size that is rounded</source>
+        <comment>Note: %1, and %n more sizes that are rounded</comment>
+        <translation>
+            <numerusform>Nota: %1, y %n medida redondeada más</numerusform>
+            <numerusform>Nota: %1, y %n medidas redondeadas más</numerusform>
+        </translation>
     </message>
     <message>
         <source>Note: %1: the saved request is in other units and is not used.</source>
@@ -1649,6 +1661,10 @@ yd²</translation>
         <translation>Guardar como &amp;CSV</translation>
     </message>
     <message>
+        <source>Save as &amp;DXF</source>
+        <translation>Guardar como &amp;DXF</translation>
+    </message>
+    <message>
         <source>Save as &amp;JSON</source>
         <translation>Guardar como &amp;JSON</translation>
     </message>
@@ -1657,8 +1673,8 @@ yd²</translation>
         <translation>Guardar como &amp;SVG</translation>
     </message>
     <message>
-        <source>Save as &amp;text</source>
-        <translation>Guardar como &amp;texto</translation>
+        <source>Save as spreadsheet (&amp;XLSX)</source>
+        <translation>Guardar como hoja de cálculo (&amp;XLSX)</translation>
     </message>
     <message>
         <source>Save it as a new project</source>
@@ -1903,8 +1919,8 @@ Ejemplo:
         <translation>El directorio necesita un nombre.</translation>
     </message>
     <message>
-        <source>The drawing of --svg shows one carpet, and there are several: choose one with --carpet.</source>
-        <translation>El dibujo de --svg muestra una moqueta, y hay varias: elija una con --carpet.</translation>
+        <source>The drawing of %1 shows one carpet, and there are several: choose one with --carpet.</source>
+        <translation>El dibujo de %1 muestra una moqueta, y hay varias: elija una con --carpet.</translation>
     </message>
     <message>
         <source>The estimate could not be emptied.</source>
@@ -2019,6 +2035,10 @@ Ejemplo:
         <translation>El largo de una estancia puede ser de %1 %2 como máximo.</translation>
     </message>
     <message>
+        <source>The list of the rooms could not be saved.</source>
+        <translation>No se pudo guardar la lista de estancias.</translation>
+    </message>
+    <message>
         <source>The list stands on the screen, in the drawing saved as SVG, and in what tarn-estimate --text writes.</source>
         <translation>La lista está en la pantalla, en el dibujo guardado como SVG y en lo que escribe tarn-estimate --text.</translation>
     </message>
@@ -2033,6 +2053,10 @@ Ejemplo:
     <message>
         <source>The name of the directory &quot;%1&quot; %2</source>
         <translation>El nombre del directorio «%1» %2</translation>
+    </message>
+    <message>
+        <source>The name of the project &quot;%1&quot; %2</source>
+        <translation>El nombre del proyecto «%1» %2</translation>
     </message>
     <message>
         <source>The next column of the pattern stands half a repeat further along</source>
@@ -2241,8 +2265,20 @@ Sus estancias se pueden guardar como proyecto nuevo.</translation>
         <translation>No se pudo borrar la estancia.</translation>
     </message>
     <message>
+        <source>The rooms are pasted. Some sizes are rounded:</source>
+        <translation>Las estancias están pegadas. Algunas medidas están redondeadas:</translation>
+    </message>
+    <message>
         <source>The rooms could not be opened.</source>
         <translation>No se pudieron abrir las estancias.</translation>
+    </message>
+    <message>
+        <source>The rooms could not be pasted.</source>
+        <translation>No se pudieron pegar las estancias.</translation>
+    </message>
+    <message>
+        <source>The rooms could not be pasted: nothing was changed.</source>
+        <translation>No se pudieron pegar las estancias: no se cambió nada.</translation>
     </message>
     <message>
         <source>The rooms could not be put back.</source>
@@ -2621,6 +2657,14 @@ Do you want to continue deleting?</source>
         <translation>Escribir cortes, piezas y totales como JSON</translation>
     </message>
     <message>
+        <source>Write it as CSV instead</source>
+        <translation>Escribirlo como CSV en su lugar</translation>
+    </message>
+    <message>
+        <source>Write it as a spreadsheet instead</source>
+        <translation>Escribirlo como hoja de cálculo en su lugar</translation>
+    </message>
+    <message>
         <source>Write over a database too, and where a symbolic link leads</source>
         <translation>Escribir también sobre una base de datos, y adonde lleve un enlace simbólico</translation>
     </message>
@@ -2645,8 +2689,20 @@ Do you want to continue deleting?</source>
         <translation>Escribir las páginas de la hoja de una moqueta una bajo otra como dibujo (con --carpet si hay varias)</translation>
     </message>
     <message>
+        <source>Write the roll of one carpet&apos;s best row true to size for a plotter or cutting table, along X, in inches (centimetres with --metric)</source>
+        <translation>Escribir el rollo de la mejor fila de una moqueta a tamaño real para un plóter o una mesa de corte, a lo largo de X, en pulgadas (centímetros con --metric)</translation>
+    </message>
+    <message>
         <source>Write the sheet to buy and cut by, of all carpets, as it is printed; A4 unless the printer has another paper</source>
         <translation>Escribir la hoja de pedido y corte de todas las moquetas, tal como se imprime; A4 si la impresora no tiene otro papel</translation>
+    </message>
+    <message>
+        <source>Write the whole roll, cuts and fills, true to size for a plotter or cutting table, along X, in inches (centimetres with --metric)</source>
+        <translation>Escribir todo el rollo, cortes y rellenos, a tamaño real para un plóter o una mesa de corte, a lo largo de X, en pulgadas (centímetros con --metric)</translation>
+    </message>
+    <message>
+        <source>Write them as a spreadsheet, with the totals by covering</source>
+        <translation>Escribirlas como hoja de cálculo, con los totales por revestimiento</translation>
     </message>
     <message>
         <source>You should enter L or W with 1 or 2 to be calculated</source>
@@ -2655,6 +2711,10 @@ Do you want to continue deleting?</source>
     <message>
         <source>Zoom: + and −, or Ctrl and wheel.  0: actual size.  Double click: everything.</source>
         <translation>Zoom: + y −, o Ctrl y rueda.  0: tamaño real.  Doble clic: todo.</translation>
+    </message>
+    <message>
+        <source>a PDF document</source>
+        <translation>un documento PDF</translation>
     </message>
     <message>
         <source>a part of it is missing</source>
@@ -2668,13 +2728,21 @@ Do you want to continue deleting?</source>
         <source>a room that was being typed</source>
         <translation>una estancia que se estaba escribiendo</translation>
     </message>
-    <message numerus="yes">
-        <source>and %n more mistake</source>
-        <comment>and %n more mistakes</comment>
-        <translation>
-            <numerusform>y %n error más</numerusform>
-            <numerusform>y %n errores más</numerusform>
-        </translation>
+    <message>
+        <source>an Excel workbook (XLSX)</source>
+        <translation>un libro de Excel (XLSX)</translation>
+    </message>
+    <message>
+        <source>an archive (ZIP), as spreadsheets such as XLSX and ODS are</source>
+        <translation>un archivo comprimido (ZIP), como lo son las hojas de cálculo XLSX y ODS</translation>
+    </message>
+    <message>
+        <source>an older Excel workbook (XLS) or another Office file</source>
+        <translation>un libro de Excel antiguo (XLS) u otro archivo de Office</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>y %1 más</translation>
     </message>
     <message>
         <source>another program is using the database. Close that program and try again.</source>
@@ -2957,6 +3025,10 @@ Do you want to continue deleting?</source>
         <translation>recuperar estancias del %1</translation>
     </message>
     <message>
+        <source>the CSV</source>
+        <translation>el CSV</translation>
+    </message>
+    <message>
         <source>the area bought is wrong</source>
         <translation>la superficie comprada es errónea</translation>
     </message>
@@ -3215,6 +3287,11 @@ Do you want to continue deleting?</source>
         <translation>No se puede crear la carpeta</translation>
     </message>
     <message>
+        <location filename="../src/files/ForeignFile.cpp"/>
+        <source>an OpenDocument spreadsheet (ODS)</source>
+        <translation>una hoja de cálculo de OpenDocument (ODS)</translation>
+    </message>
+    <message>
         <location filename="../src/files/Language.cpp"/>
         <source>There is no language &quot;%1&quot;. Choose one of %2.</source>
         <translation>No existe el idioma «%1». Elija uno de %2.</translation>
@@ -3225,19 +3302,29 @@ Do you want to continue deleting?</source>
         <translation>Pieza</translation>
     </message>
     <message>
-        <location filename="../src/files/OrderXlsx.cpp"/>
+        <location filename="../src/files/RollDxf.cpp"/>
+        <source>There is no roll to draw: every roll and lay is refused.</source>
+        <translation>No hay rollo que dibujar: se rechazan todos los rollos y sentidos.</translation>
+    </message>
+    <message>
+        <location filename="../src/files/Spreadsheet.cpp"/>
         <source>The spreadsheet cannot be made: %1</source>
         <translation>No se puede hacer la hoja de cálculo: %1</translation>
     </message>
     <message>
-        <location filename="../src/files/OrderXlsx.cpp"/>
+        <location filename="../src/files/Spreadsheet.cpp"/>
         <source>The spreadsheet cannot be made: %1.</source>
         <translation>No se puede hacer la hoja de cálculo: %1.</translation>
     </message>
     <message>
-        <location filename="../src/files/OrderXlsx.cpp"/>
+        <location filename="../src/files/Spreadsheet.cpp"/>
         <source>The spreadsheet cannot be made: out of memory.</source>
         <translation>No se puede hacer la hoja de cálculo: falta memoria.</translation>
+    </message>
+    <message>
+        <location filename="../src/files/TextEncoding.cpp"/>
+        <source>The encoding &quot;%1&quot; is not known; &quot;iconv -l&quot; lists those that are.</source>
+        <translation>La codificación «%1» no se conoce; «iconv -l» enumera las conocidas.</translation>
     </message>
     <message>
         <location filename="../src/improve/ImproveFills.cpp"/>
@@ -3749,8 +3836,8 @@ Lo que guardó ese programa se pierde si usted lo sustituye.</translation>
     </message>
     <message>
         <location filename="../src/screens/order/OrderOutput.cpp"/>
-        <source>Save as spreadsheet (&amp;XLSX)</source>
-        <translation>Guardar como hoja de cálculo (&amp;XLSX)</translation>
+        <source>Save as &amp;text</source>
+        <translation>Guardar como &amp;texto</translation>
     </message>
     <message>
         <location filename="../src/screens/order/OrderScreen.cpp"/>
@@ -3850,6 +3937,30 @@ m²</translation>
         <location filename="../src/screens/rooms/RoomTable.cpp"/>
         <source>ROOMS</source>
         <translation>ESTANCIAS</translation>
+    </message>
+    <message>
+        <location filename="../src/screens/rooms/RoomOutput.cpp"/>
+        <source>Save as CS&amp;V</source>
+        <translation>Guardar como CS&amp;V</translation>
+    </message>
+    <message numerus="yes">
+        <location filename="../src/screens/rooms/RoomPaste.cpp"/>
+        <source>paste %n room</source>
+        <comment>paste %n rooms</comment>
+        <translation>
+            <numerusform>pegar %n estancia</numerusform>
+            <numerusform>pegar %n estancias</numerusform>
+        </translation>
+    </message>
+    <message>
+        <location filename="../src/screens/rooms/RoomPaste.cpp"/>
+        <source>there is no room below the headings</source>
+        <translation>no hay ninguna estancia bajo los encabezados</translation>
+    </message>
+    <message>
+        <location filename="../src/screens/rooms/RoomPaste.h"/>
+        <source>&amp;Paste rooms</source>
+        <translation>&amp;Pegar estancias</translation>
     </message>
     <message>
         <location filename="../src/screens/rooms/RoomScreen.cpp"/>
@@ -4199,11 +4310,12 @@ Ejemplo:
         <location filename="../src/tools/EstimateOptions.cpp"/>
         <source>A CSV file has a header line and the columns width,length,covering,base,room,remark in any
 order; the first three are required. Sizes are whole inches or text such as 12&apos;6&quot; (whole
-centimetres with --metric), coverings CARPET-1 or C1, TILE-4 or T4. The base tells how many
-widths and lengths of the room take wall base: W2L1 is two widths and one length. A size
-of 0 is read and not cut. A room number has at most %1 characters, a remark %2,
-each in one line; of one that begins with &apos; the &apos; is taken off. A file, no pipe or device, has
-at most %3 rooms and %4 MB.
+centimetres with --metric), or numbers in the unit that a heading such as &quot;Width (ft)&quot; names;
+coverings CARPET-1 or C1, TILE-4 or T4. The base tells how many widths and lengths of the
+room take wall base: W2L1 is two widths and one length. A size of 0 is read and not cut. A
+room number has at most %1 characters, a remark %2, each in one line; of one that begins
+with &apos; the &apos; is taken off. Commas, semicolons or tabs separate. A file, no pipe or device, has at
+most %3 rooms and %4 MB.
 
 An output file takes the place of the one that is there, once it is whole and stored.
 Databases and symbolic links stay as they are without --force.
@@ -4214,11 +4326,12 @@ Example:
   tarn-estimate --rooms house.csv --carpet 1 --roll-width 12ft --max-pieces 2 --svg house.svg</source>
         <translation>Un archivo CSV tiene una línea de cabecera y las columnas width,length,covering,base,room,remark en
 cualquier orden; las tres primeras son obligatorias. Las medidas son pulgadas enteras o texto como
-12&apos;6&quot; (centímetros enteros con --metric), los revestimientos CARPET-1 o C1, TILE-4 o T4. La columna
-base dice cuántos anchos y largos de la estancia llevan rodapié: W2L1 son dos anchos y un largo. Una
-medida de 0 se lee y no se corta. Un número de estancia tiene como máximo %1 caracteres, una nota
-%2, cada uno en una línea; si empieza por &apos; se quita ese &apos;. Un archivo, que no sea tubería ni
-dispositivo, tiene como máximo %3 estancias y %4 MB.
+12&apos;6&quot; (centímetros enteros con --metric), o números en la unidad que dice un encabezado como
+«Width (ft)»; los revestimientos CARPET-1 o C1, TILE-4 o T4. La columna base dice cuántos anchos y
+largos de la estancia llevan rodapié: W2L1 son dos anchos y un largo. Una medida de 0 se lee y no se
+corta. Un número de estancia tiene como máximo %1 caracteres, una nota %2, cada uno en una línea; si
+empieza por &apos; se quita ese &apos;. Separan comas, puntos y comas o tabuladores. Un archivo, que no sea
+tubería ni dispositivo, tiene como máximo %3 estancias y %4 MB.
 
 Un archivo de salida sustituye al que hay cuando está entero y guardado. Las bases de datos y los
 enlaces simbólicos se quedan como están sin --force.
@@ -4301,13 +4414,18 @@ Las estancias vienen de una base de datos (--database y --project) o de un archi
     </message>
     <message>
         <location filename="../src/tools/ProjectFile.cpp"/>
-        <source>The name of the project &quot;%1&quot; %2</source>
-        <translation>El nombre del proyecto «%1» %2</translation>
+        <source>Or name the encoding of the file with --encoding, such as windows-1252.</source>
+        <translation>O indique la codificación del archivo con --encoding, por ejemplo windows-1252.</translation>
     </message>
     <message>
         <location filename="../src/tools/ProjectFile.cpp"/>
         <source>The project %1 cannot be loaded: %2</source>
         <translation>El proyecto %1 no se puede cargar: %2</translation>
+    </message>
+    <message>
+        <location filename="../src/tools/SharedOptions.cpp"/>
+        <source>Encoding of the CSV file, such as windows-1252; &quot;iconv -l&quot; lists them (default: what its byte-order mark says, else UTF-8)</source>
+        <translation>Codificación del archivo CSV, por ejemplo windows-1252; «iconv -l» las enumera (por omisión: la que dice su marca de orden de bytes; si no, UTF-8)</translation>
     </message>
     <message>
         <location filename="../src/tools/SharedOptions.cpp"/>
