@@ -182,6 +182,8 @@ inline constexpr const char* improveBound = "Label6(1)";
 inline constexpr const char* improveGap = "Label6(2)";
 inline constexpr const char* improveTime = "ProgressBar1";
 inline constexpr const char* stopImproving = "Command1(2)";
+inline constexpr const char* takeKept = "TakeKept";
+inline constexpr const char* leaveKept = "LeaveKept";
 
 // Roll: the whole view of a roll and its list, on the screens that have one.
 inline constexpr const char* rollView = "RollView";

@@ -249,6 +249,8 @@ void EstimateScreen::Connect() {
     connect(improve_, &QPushButton::pressed, this, [this] { takesShorter_ = OffersShorter(); });
     OnClick(*improve_, DrawingFailure, [this] { ImproveLayout(); });
     OnClick(improveButtons_->Undo(), DrawingFailure, [this] { UndoImprovement(); });
+    OnClick(improvePanel_->TakeButton(), DrawingFailure, [this] { TakeKept(); });
+    OnClick(improvePanel_->LeaveButton(), DrawingFailure, [this] { LeaveKept(); });
     OnClick(*order_, OrderFailure, [this] {
         Shared().Go.ShowOrder(estimate_ ? std::optional(estimate_->Request.Carpet) : std::nullopt);
     });
@@ -283,6 +285,8 @@ void EstimateScreen::Escape() {
         improvePanel_->Stop();
     } else if (!panel_->isHidden()) {
         panel_->CancelButton().click();
+    } else if (kept_) {
+        LeaveKept();
     } else {
         SetPasting(false);
     }
@@ -301,7 +305,7 @@ QWidget* EstimateScreen::FirstFocus() {
 }
 
 std::string_view EstimateScreen::GuidePage() const {
-    if (improvePanel_->IsRunning()) {
+    if (!improvePanel_->isHidden()) {
         return GuidePages::improving;
     }
     return panel_->isHidden() ? GuidePages::result : GuidePages::choices;
@@ -347,6 +351,7 @@ void EstimateScreen::PlacePanels() {
 }
 
 void EstimateScreen::OpenPanel() {
+    DropKept();
     panel_->show();
     panel_->raise();
     OfferViews();
@@ -504,6 +509,7 @@ void EstimateScreen::RedrawLayout() {
 void EstimateScreen::ForgetImprovements() {
     quiet_.Drop();
     shorter_.reset();
+    DropKept();
     history_.Clear();
     EnableImprove();
 }
@@ -534,6 +540,7 @@ void EstimateScreen::ImproveLayout() {
     if (!estimate_) {
         return;
     }
+    DropKept();
     if (takes && OffersShorter()) {
         TakeImprovement(Estimate(shorter_->Better));
         FocusResult();
@@ -561,13 +568,41 @@ void EstimateScreen::SearchLong() {
     if (improved->Value != before) {
         TakeImprovement(improved->Value);
     }
-    if (!improved->Result.Improved) {
+    if (improved->Result.Kept) {
+        OfferKept(improved->Result);
+    } else if (!improved->Result.Improved) {
         Shared().Boxes.Message(NothingBetterText(improved->Result));
     }
 }
 
+/// What keeps the minimum cut where the estimate's own layout does not.
+void EstimateScreen::OfferKept(const ImproveResult& result) {
+    kept_ = KeepingMinCut(*estimate_, result);
+    improvePanel_->Offer(KeptText(result, estimate_->Request), NothingBetterReason(result));
+}
+
+void EstimateScreen::DropKept() {
+    if (kept_) {
+        kept_.reset();
+        improvePanel_->hide();
+    }
+}
+
+void EstimateScreen::TakeKept() {
+    if (const auto kept = kept_) {
+        TakeImprovement(*kept);
+        FocusResult();
+    }
+}
+
+void EstimateScreen::LeaveKept() {
+    DropKept();
+    FocusResult();
+}
+
 void EstimateScreen::TakeImprovement(const Estimate& better) {
     ShownEstimate before = ShownNow();
+    DropKept();
     ShowEstimate(better);
     history_.Add(std::move(before));
     EnableImprove();
@@ -590,6 +625,7 @@ void EstimateScreen::RedoImprovement() {
 
 void EstimateScreen::Restore(ShownEstimate shown) {
     SetPasting(false);
+    DropKept();
     RollChart roll = ChartOf(shown.Value, OpenedProject());
     estimate_ = std::move(shown.Value);
     ShowDrawing(std::move(shown.Picture), true);

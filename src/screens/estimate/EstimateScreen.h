@@ -95,6 +95,10 @@ class EstimateScreen : public Screen, public EstimateClient {
     void ShowOffer();
     void ImproveLayout();
     void SearchLong();
+    void OfferKept(const ImproveResult& result);
+    void DropKept();
+    void TakeKept();
+    void LeaveKept();
     void TakeImprovement(const Estimate& better);
     void UndoImprovement();
     void RedoImprovement();
@@ -117,7 +121,8 @@ class EstimateScreen : public Screen, public EstimateClient {
         std::string By; ///< see ShorterText
     };
     std::optional<ShorterLayout> shorter_;
-    bool takesShorter_ = false; ///< IMPROVE offered it when it was pressed
+    std::optional<Estimate> kept_; ///< offered by the panel, instead of the one shown
+    bool takesShorter_ = false;    ///< IMPROVE offered it when it was pressed
     QuietSearch quiet_;
     ImproveButtons* improveButtons_ = nullptr;
     ChoicePanel* panel_ = nullptr;

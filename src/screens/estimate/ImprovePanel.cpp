@@ -11,6 +11,7 @@
 #include "screens/Display.h"
 #include "screens/Theme.h"
 
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QProgressBar>
 #include <QPushButton>
@@ -64,7 +65,35 @@ ImprovePanel::ImprovePanel(QWidget* parent, Units units)
     stop_ = NewButton(this, Controls::stopImproving, Words("STOP"));
     connect(stop_, &QPushButton::clicked, this, [this] { Stop(); });
     rows->addWidget(stop_, 0, Qt::AlignRight);
+    take_ = NewButton(this, Controls::takeKept, "TAKE IT");
+    IgnoreSecondClick(*take_); // which was for STOP
+    leave_ = NewButton(this, Controls::leaveKept, "LEAVE IT");
+    auto* answers = new QHBoxLayout;
+    answers->setSpacing(Pixels(Metrics::Spacing));
+    answers->addStretch();
+    answers->addWidget(take_);
+    answers->addWidget(leave_);
+    rows->addLayout(answers);
     hide();
+}
+
+void ImprovePanel::ShowControls(bool ofSearch) {
+    for (QWidget* control : {static_cast<QWidget*>(time_), static_cast<QWidget*>(stop_)}) {
+        control->setVisible(ofSearch);
+    }
+    for (QPushButton* button : {take_, leave_}) {
+        button->setVisible(!ofSearch);
+    }
+}
+
+void ImprovePanel::Offer(const std::string& kept, const std::string& reason) {
+    SetText(*best_, kept);
+    SetText(*least_, "can be laid instead of the layout shown.");
+    SetText(*gap_, reason);
+    ShowControls(false);
+    show();
+    raise();
+    take_->setFocus();
 }
 
 ImprovedEstimate ImprovePanel::Run(const Search& search) {
@@ -78,6 +107,7 @@ ImprovedEstimate ImprovePanel::Run(const Search& search) {
             SetText(*Panel.least_, {});
             SetText(*Panel.gap_, {});
             Panel.time_->setValue(0);
+            Panel.ShowControls(true);
             Panel.show();
             Panel.raise();
             Panel.stop_->setFocus();

@@ -8,6 +8,7 @@
 #include <QFrame>
 
 #include <functional>
+#include <string>
 
 class QLabel;
 class QProgressBar;
@@ -16,7 +17,8 @@ class QPushButton;
 namespace tarn {
 
 /// The panel that shows an improving search: the best length so far, the least possible, how far
-/// they may be apart, and the time that is left. Its button ends the search.
+/// they may be apart, and the time that is left. Its button ends the search. Afterwards it offers
+/// what the search kept beside the estimate, if anything.
 class ImprovePanel : public QFrame, private ImproveObserver {
   public:
     /// How long a search goes on at most, seconds.
@@ -33,9 +35,17 @@ class ImprovePanel : public QFrame, private ImproveObserver {
     void Stop() { stopped_ = true; }
     bool IsRunning() const { return running_; }
 
+    /// Come into view with a layout that can be taken instead of the estimate's: what it is (see
+    /// KeptText), and why it is offered, unless empty. Stays until it is hidden.
+    void Offer(const std::string& kept, const std::string& reason);
+    QPushButton& TakeButton() { return *take_; }
+    QPushButton& LeaveButton() { return *leave_; }
+
   private:
     bool Progress(const ImproveProgress& progress) override;
     void Show(const ImproveProgress& progress);
+    /// Show what belongs to a search, or what belongs to an offer.
+    void ShowControls(bool ofSearch);
 
     Units units_;
     bool running_ = false;
@@ -49,6 +59,8 @@ class ImprovePanel : public QFrame, private ImproveObserver {
     QLabel* gap_ = nullptr;
     QProgressBar* time_ = nullptr;
     QPushButton* stop_ = nullptr;
+    QPushButton* take_ = nullptr;
+    QPushButton* leave_ = nullptr;
 };
 
 } // namespace tarn

@@ -133,6 +133,28 @@ TEST_F(ImprovePanels, ForgetTheStopOfTheSearchBefore) {
     });
 }
 
+TEST_F(ImprovePanels, OfferWhatWasKeptInPlaceOfTheSearch) {
+    Panel.Offer("12'4\" with parts of at least 3 FT", "none as short");
+    EXPECT_TRUE(Panel.isVisible());
+    EXPECT_FALSE(Panel.IsRunning());
+    EXPECT_EQ(Line(Controls::improvedSoFar), "12'4\" with parts of at least 3 FT");
+    EXPECT_EQ(Line(Controls::improveBound), "can be laid instead of the layout shown.");
+    EXPECT_EQ(Line(Controls::improveGap), "none as short");
+    EXPECT_TRUE(Panel.TakeButton().isVisible());
+    EXPECT_TRUE(Panel.TakeButton().hasFocus());
+    EXPECT_TRUE(Panel.LeaveButton().isVisible());
+    EXPECT_FALSE(Find<QPushButton>(Panel, Controls::stopImproving).isVisible());
+    EXPECT_FALSE(Find<QProgressBar>(Panel, Controls::improveTime).isVisible());
+    Panel.Run([&](const ImproveLimits&, ImproveObserver&) {
+        EXPECT_FALSE(Panel.TakeButton().isVisible());
+        EXPECT_FALSE(Panel.LeaveButton().isVisible());
+        EXPECT_TRUE(Find<QPushButton>(Panel, Controls::stopImproving).isVisible());
+        EXPECT_TRUE(Find<QProgressBar>(Panel, Controls::improveTime).isVisible());
+        return ImprovedEstimate{};
+    });
+    EXPECT_TRUE(Panel.isHidden());
+}
+
 TEST_F(ImprovePanels, GoOutOfViewAndHandOnAnError) {
     EXPECT_THROW(Panel.Run([](const ImproveLimits&, ImproveObserver&) -> ImprovedEstimate {
         RaiseInternal();
