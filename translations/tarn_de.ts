@@ -990,6 +990,10 @@ Beim Löschen gehen die Daten des Projekts verloren!</translation>
         <translation>LETZTE &amp;AUSWAHL</translation>
     </message>
     <message>
+        <source>LEAVE IT</source>
+        <translation>LASSEN</translation>
+    </message>
+    <message>
         <source>LEN&amp;GTH:</source>
         <translation>LÄ&amp;NGE:</translation>
     </message>
@@ -1763,6 +1767,10 @@ yd²</translation>
     <message>
         <source>Subscript out of range</source>
         <translation>Index außerhalb des Bereichs</translation>
+    </message>
+    <message>
+        <source>TAKE IT</source>
+        <translation>NEHMEN</translation>
     </message>
     <message>
         <source>TILE-%1</source>
@@ -2767,6 +2775,10 @@ Wollen Sie wirklich löschen?</translation>
     <message>
         <source>best</source>
         <translation>am besten</translation>
+    </message>
+    <message>
+        <source>can be laid instead of the layout shown.</source>
+        <translation>kann statt der gezeigten Anordnung gelegt werden.</translation>
     </message>
     <message>
         <source>cannot be loaded: %1</source>

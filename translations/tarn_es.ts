@@ -990,6 +990,10 @@ Delete operation will make the data of the project lost!</source>
         <translation>ÚLTIM&amp;AS OPCIONES</translation>
     </message>
     <message>
+        <source>LEAVE IT</source>
+        <translation>DEJARLO</translation>
+    </message>
+    <message>
         <source>LEN&amp;GTH:</source>
         <translation>LA&amp;RGO:</translation>
     </message>
@@ -1763,6 +1767,10 @@ yd²</translation>
     <message>
         <source>Subscript out of range</source>
         <translation>Índice fuera de rango</translation>
+    </message>
+    <message>
+        <source>TAKE IT</source>
+        <translation>TOMARLO</translation>
     </message>
     <message>
         <source>TILE-%1</source>
@@ -2767,6 +2775,10 @@ Do you want to continue deleting?</source>
     <message>
         <source>best</source>
         <translation>mejor</translation>
+    </message>
+    <message>
+        <source>can be laid instead of the layout shown.</source>
+        <translation>se puede colocar en lugar de la disposición mostrada.</translation>
     </message>
     <message>
         <source>cannot be loaded: %1</source>

@@ -65,9 +65,9 @@ ImprovePanel::ImprovePanel(QWidget* parent, Units units)
     stop_ = NewButton(this, Controls::stopImproving, Words("STOP"));
     connect(stop_, &QPushButton::clicked, this, [this] { Stop(); });
     rows->addWidget(stop_, 0, Qt::AlignRight);
-    take_ = NewButton(this, Controls::takeKept, "TAKE IT");
+    take_ = NewButton(this, Controls::takeKept, Words("TAKE IT"));
     IgnoreSecondClick(*take_); // which was for STOP
-    leave_ = NewButton(this, Controls::leaveKept, "LEAVE IT");
+    leave_ = NewButton(this, Controls::leaveKept, Words("LEAVE IT"));
     auto* answers = new QHBoxLayout;
     answers->setSpacing(Pixels(Metrics::Spacing));
     answers->addStretch();
@@ -88,7 +88,7 @@ void ImprovePanel::ShowControls(bool ofSearch) {
 
 void ImprovePanel::Offer(const std::string& kept, const std::string& reason) {
     SetText(*best_, kept);
-    SetText(*least_, "can be laid instead of the layout shown.");
+    SetText(*least_, Words("can be laid instead of the layout shown."));
     SetText(*gap_, reason);
     ShowControls(false);
     show();
