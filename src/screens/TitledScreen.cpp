@@ -128,23 +128,12 @@ TitledScreen::Places TitledScreen::PlacesOf(const Panel& panel) const {
     int top = (area.height() - size.height()) / 2;
     top = std::max(std::min(top, area.height() - size.height() - BelowHeight()), titles);
 
-    const Places middle = PlacesAround(QRect(QPoint(left, top), size));
-    if (panel.Size == PanelSize::Natural) {
-        const Places high = PlacesAround(QRect(QPoint(left, titles), size));
-        if (StandsHigh(*panel.Widget, middle, high)) {
-            return high;
-        }
-    }
-    return middle;
-}
-
-TitledScreen::Places TitledScreen::PlacesAround(const QRect& panel) const {
-    Places places{panel, {}};
+    Places places{QRect(QPoint(left, top), size), {}};
     if (HasBelow()) {
         const QSize below = NaturalSize(*below_);
         places.Below =
-            QRect((Body().width() - below.width()) / 2,
-                  panel.bottom() + 1 + Pixels(Metrics::Spacing), below.width(), below.height());
+            QRect((area.width() - below.width()) / 2,
+                  top + size.height() + Pixels(Metrics::Spacing), below.width(), below.height());
     }
     return places;
 }

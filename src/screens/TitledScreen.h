@@ -44,14 +44,6 @@ class TitledScreen : public Screen {
         QRect Below; ///< empty for nothing
     };
     Places PlacesOf(const QWidget& panel) const;
-    /// Whether a panel of its natural size stands as high as the titles let it, for what is to
-    /// stand below it; else in the middle. `middle` and `high` are the places it would have. Also
-    /// called while the screen is being made.
-    virtual bool StandsHigh([[maybe_unused]] const QWidget& panel,
-                            [[maybe_unused]] const Places& middle,
-                            [[maybe_unused]] const Places& high) const {
-        return false;
-    }
     /// Called when panel, titles and what is below have got their places: what stands beside them
     /// can be given its own.
     virtual void OnArranged() {}
@@ -70,8 +62,6 @@ class TitledScreen : public Screen {
     /// The height that the panel leaves to what is below it.
     int BelowHeight() const;
     Places PlacesOf(const Panel& panel) const;
-    /// Where they stand when the panel has that area.
-    Places PlacesAround(const QRect& panel) const;
     const Panel* VisiblePanel() const;
 
     QLabel* productTitle_ = nullptr;

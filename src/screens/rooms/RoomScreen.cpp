@@ -229,17 +229,6 @@ std::optional<RoomListPlace> RoomScreen::ListPlace(const Places& form) const {
                : list_->PlaceBeside(Body().size(), form.Panel, form.Below.bottom() + 1);
 }
 
-bool RoomScreen::StandsHigh(const QWidget& panel, const Places& middle, const Places& high) const {
-    if (list_ == nullptr || &panel != entry_) {
-        return false; // it is not made yet, or not below that
-    }
-    const auto isBelow = [](const std::optional<RoomListPlace>& list, const Places& form) {
-        return list && list->Area.top() > form.Panel.bottom();
-    };
-    const auto list = ListPlace(middle);
-    return (!list || isBelow(list, middle)) && isBelow(ListPlace(high), high);
-}
-
 void RoomScreen::OnArranged() {
     if (list_ == nullptr || IsReportShown()) {
         return; // it is not made yet, or hidden with the form

@@ -37,8 +37,6 @@ class RoomScreen : public TitledScreen {
     std::string_view GuidePage() const override;
     void OnCloseByFrame() override { Leave(); }
     void OnUncover() override;
-    /// Where the list stands below it the form makes room for that.
-    bool StandsHigh(const QWidget& panel, const Places& middle, const Places& high) const override;
     void OnArranged() override;
     QWidget* FirstFocus() override;
 

@@ -351,7 +351,6 @@ TEST_F(RoomTables, StandBelowTheFormWhereTheyDoNot) {
         EXPECT_TRUE(List().isVisible());
         EXPECT_GT(List().y(), save.mapTo(List().parentWidget(), QPoint()).y() + save.height());
         EXPECT_LT(List().geometry().bottom(), List().parentWidget()->height());
-        EXPECT_GE(Table().viewport()->height(), 8 * Table().rowHeight(0)) << "the form makes room";
         EXPECT_FALSE(Switch().isVisible());
         form->close();
     }
@@ -366,9 +365,7 @@ TEST_F(RoomTables, TakeNothingFromTheForm) {
     form->resize(1101, form->height());
     EXPECT_TRUE(QTest::qWaitFor([&] { return List().isVisible(); }));
     EXPECT_FALSE(Switch().isVisible());
-    const QRect above = Find(*form, Controls::roomPanel).geometry();
-    EXPECT_EQ(above, frame.translated(1, above.y() - frame.y())) << "in the middle, and as large";
-    EXPECT_LT(above.y(), frame.y()) << "the list has the height below it";
+    EXPECT_EQ(Find(*form, Controls::roomPanel).geometry(), frame.translated(1, 0));
     form->resize(1101, 500);
     EXPECT_TRUE(QTest::qWaitFor([&] { return !List().isVisible(); })) << "there is no room below";
     EXPECT_TRUE(Switch().isVisible());
