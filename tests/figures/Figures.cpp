@@ -168,8 +168,8 @@ void PrintFigures(const OrderFigures& figures) {
     line << figures.Length << figures.LengthNeeded << figures.LeastLength << figures.AreaBought
          << figures.AreaRooms << figures.AreaRoomsTrimmed << figures.WastePercent
          << figures.SideSeams.Length << figures.CrossJoins.Length;
-    for (const std::string& note : figures.Notes) {
-        line << note;
+    for (const Saying& note : figures.Notes) {
+        line << note.English;
     }
 }
 
@@ -204,7 +204,7 @@ void RunOrder(Words& words) {
     const Order order = MakeOrder(project, carpet, request, limits, nobody);
     Line("order") << (order.Best ? static_cast<std::int64_t>(*order.Best) : -1);
     for (const OrderCandidate& candidate : order.Candidates) {
-        Line(" row") << candidate.RollWidth << candidate.UsableWidth << candidate.Refused;
+        Line(" row") << candidate.RollWidth << candidate.UsableWidth << candidate.Refused.English;
         if (candidate.Figures) {
             PrintFigures(*candidate.Figures);
         }
