@@ -380,9 +380,9 @@ TEST_F(RoomTables, HaveTheShownRoomInSightWheneverTheyAreShown) {
     };
     EXPECT_TRUE(sees(60)) << "the new room";
     form->hide();
-    form->resize(1366, 650);
+    form->resize(1366, 740);
     form->show();
-    EXPECT_TRUE(QTest::qWaitFor([&] { return sees(60); }));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return List().isVisible() && sees(60); }));
     Table().scrollToTop();
     ASSERT_FALSE(sees(60));
     form->setEnabled(false);
