@@ -26,7 +26,7 @@ int FromEnvironment(const char* name, int otherwise) {
 }
 
 #ifdef TARN_SANITIZED
-constexpr int Steps = 250;
+constexpr int Steps = 450;
 #else
 constexpr int Steps = 600;
 #endif
