@@ -75,7 +75,8 @@ set(CPACK_DEBIAN_RUNTIME_PACKAGE_SHLIBDEPS ON)
 # has no other takes letters of one width.
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_DEPENDS
     "libqt6sql6-sqlite, fonts-liberation, fonts-dejavu-core | fonts-noto-core")
-set(CPACK_DEBIAN_RUNTIME_PACKAGE_RECOMMENDS "hicolor-icon-theme, shared-mime-info")
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_RECOMMENDS
+    "hicolor-icon-theme, shared-mime-info, qt6-translations-l10n")
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_SUGGESTS "cups")
 set(CPACK_COMPONENT_RUNTIME_DESCRIPTION
     "estimating tool for floor-covering installers

@@ -504,10 +504,6 @@
         <translation>Ein halber Versatz braucht einen geraden Rapport längs.</translation>
     </message>
     <message>
-        <source>A price must be a number of 0 or more.</source>
-        <translation>Ein Preis muss eine Zahl von 0 an sein.</translation>
-    </message>
-    <message>
         <source>A project&apos;s sheet has no number; its data cannot be deleted.</source>
         <translation>Ein Blatt des Projekts hat keine Nummer; seine Daten können nicht gelöscht werden.</translation>
     </message>
@@ -690,14 +686,6 @@ Beim Löschen gehen die Daten des Projekts verloren!</translation>
         <translation>Zentimeter</translation>
     </message>
     <message>
-        <source>Change room %1</source>
-        <translation>Raum %1 ändern</translation>
-    </message>
-    <message>
-        <source>Change rooms</source>
-        <translation>Räume ändern</translation>
-    </message>
-    <message>
         <source>Check that a database is sound, and all that stands in it</source>
         <translation>Prüfen, ob eine Datenbank und alles darin einwandfrei ist</translation>
     </message>
@@ -772,10 +760,6 @@ Beim Löschen gehen die Daten des Projekts verloren!</translation>
     <message>
         <source>Date</source>
         <translation>Datum</translation>
-    </message>
-    <message>
-        <source>Delete room %1</source>
-        <translation>Raum %1 löschen</translation>
     </message>
     <message>
         <source>Directories that were made for projects which no screen showed</source>
@@ -1299,6 +1283,10 @@ Bei Nein wird nichts angelegt, und das Programm endet.</translation>
         <translation>Optionen</translation>
     </message>
     <message>
+        <source>Or press SAVE AS and choose &quot;%1&quot;.</source>
+        <translation>Oder drücken Sie SPEICHERN ALS und wählen Sie „%1“.</translation>
+    </message>
+    <message>
         <source>Or right-click what is shown and choose &quot;%1&quot;.</source>
         <translation>Oder klicken Sie mit der rechten Maustaste auf das Gezeigte und wählen Sie „%1“.</translation>
     </message>
@@ -1407,10 +1395,6 @@ yd²</translation>
     <message>
         <source>Print the entered-data report of a project</source>
         <translation>Den Bericht der Eingaben eines Projekts ausgeben</translation>
-    </message>
-    <message>
-        <source>Print this help message and exit</source>
-        <translation>Diese Hilfe ausgeben und enden</translation>
     </message>
     <message>
         <source>Project</source>
@@ -1799,10 +1783,6 @@ yd²</translation>
     <message>
         <source>Tables that were missing and are empty now</source>
         <translation>Tabellen, die fehlten und jetzt leer sind</translation>
-    </message>
-    <message>
-        <source>Take back rooms of %1</source>
-        <translation>Räume vom %1 zurückholen</translation>
     </message>
     <message>
         <source>The Project Name: %1 has been used<byte value="xd"/>
@@ -2425,10 +2405,6 @@ Worin sind ihre Maße angegeben?</translation>
     <message>
         <source>There is no data to estimate. Please fill in the room information before estimating.</source>
         <translation>Es gibt nichts zu berechnen. Bitte geben Sie vorher die Räume ein.</translation>
-    </message>
-    <message>
-        <source>There is no display to show the program on.</source>
-        <translation>Es gibt keinen Bildschirm, auf dem das Programm gezeigt werden kann.</translation>
     </message>
     <message>
         <source>There is no folder for it: the environment names no home.</source>
@@ -3685,7 +3661,7 @@ Bitte ändern Sie die Bildschirmauflösung!</translation>
         <source>Data is saved</source>
         <translation>Die Daten sind gespeichert</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <location filename="../src/screens/PrintQueue.cpp"/>
         <source>One more job that waited behind it was not printed either.</source>
         <comment>%n more jobs that waited behind it were not printed either.</comment>
@@ -4299,6 +4275,11 @@ Bei Nein wird nichts angelegt, und das Programm endet.</translation>
     </message>
     <message>
         <location filename="../src/tools/DataOptions.cpp"/>
+        <source>Print this help message and exit</source>
+        <translation>Diese Hilfe ausgeben und enden</translation>
+    </message>
+    <message>
+        <location filename="../src/tools/DataOptions.cpp"/>
         <source>tarn-data COMMAND --help tells the options of a command.
 
 A name has at most %1 characters, a project&apos;s none of %2
@@ -4363,7 +4344,7 @@ Die Räume kommen aus einer Datenbank (--database und --project) oder einer CSV-
     <message>
         <location filename="../src/tools/EstimateOptions.cpp"/>
         <location filename="../src/tools/OrderOptions.cpp"/>
-        <location filename="../src/tools/tarn.cpp"/>
+        <location filename="../src/tools/ProgramOptions.cpp"/>
         <source>Display program version information and exit</source>
         <translation>Die Version des Programms ausgeben und enden</translation>
     </message>
@@ -4425,6 +4406,16 @@ Die Räume kommen aus einer Datenbank (--database und --project) oder einer CSV-
         <translation>Vergleich läuft</translation>
     </message>
     <message>
+        <location filename="../src/tools/ProgramOptions.cpp"/>
+        <source>Directory of the configuration file %1</source>
+        <translation>Verzeichnis der Konfigurationsdatei %1</translation>
+    </message>
+    <message>
+        <location filename="../src/tools/ProgramOptions.cpp"/>
+        <source>Estimate how carpets are cut from the roll.</source>
+        <translation>Berechnet, wie Teppichböden aus der Rolle geschnitten werden.</translation>
+    </message>
+    <message>
         <location filename="../src/tools/ProjectFile.cpp"/>
         <source>Or name the encoding of the file with --encoding, such as windows-1252.</source>
         <translation>Oder nennen Sie mit --encoding die Zeichenkodierung der Datei, etwa windows-1252.</translation>
@@ -4466,13 +4457,8 @@ Die Räume kommen aus einer Datenbank (--database und --project) oder einer CSV-
     </message>
     <message>
         <location filename="../src/tools/tarn.cpp"/>
-        <source>Directory of the configuration file %1</source>
-        <translation>Verzeichnis der Konfigurationsdatei %1</translation>
-    </message>
-    <message>
-        <location filename="../src/tools/tarn.cpp"/>
-        <source>Estimate how carpets are cut from the roll.</source>
-        <translation>Berechnet, wie Teppichböden aus der Rolle geschnitten werden.</translation>
+        <source>There is no display to show the program on.</source>
+        <translation>Es gibt keinen Bildschirm, auf dem das Programm gezeigt werden kann.</translation>
     </message>
 </context>
 </TS>

@@ -504,10 +504,6 @@
         <translation>El medio salto necesita un rapport a lo largo que sea par.</translation>
     </message>
     <message>
-        <source>A price must be a number of 0 or more.</source>
-        <translation>Un precio debe ser un número igual o mayor que 0.</translation>
-    </message>
-    <message>
         <source>A project&apos;s sheet has no number; its data cannot be deleted.</source>
         <translation>Una hoja del proyecto no tiene número; sus datos no se pueden borrar.</translation>
     </message>
@@ -690,14 +686,6 @@ Delete operation will make the data of the project lost!</source>
         <translation>Centímetros</translation>
     </message>
     <message>
-        <source>Change room %1</source>
-        <translation>Cambiar estancia %1</translation>
-    </message>
-    <message>
-        <source>Change rooms</source>
-        <translation>Cambiar estancias</translation>
-    </message>
-    <message>
         <source>Check that a database is sound, and all that stands in it</source>
         <translation>Comprobar que una base de datos, y todo lo que contiene, es correcta</translation>
     </message>
@@ -772,10 +760,6 @@ Delete operation will make the data of the project lost!</source>
     <message>
         <source>Date</source>
         <translation>Fecha</translation>
-    </message>
-    <message>
-        <source>Delete room %1</source>
-        <translation>Borrar estancia %1</translation>
     </message>
     <message>
         <source>Directories that were made for projects which no screen showed</source>
@@ -1299,6 +1283,10 @@ Con No no se crea nada y el programa termina.</translation>
         <translation>Opciones</translation>
     </message>
     <message>
+        <source>Or press SAVE AS and choose &quot;%1&quot;.</source>
+        <translation>O pulse GUARDAR COMO y elija «%1».</translation>
+    </message>
+    <message>
         <source>Or right-click what is shown and choose &quot;%1&quot;.</source>
         <translation>O haga clic con el botón derecho en lo que se muestra y elija «%1».</translation>
     </message>
@@ -1407,10 +1395,6 @@ yd²</translation>
     <message>
         <source>Print the entered-data report of a project</source>
         <translation>Escribir el informe de datos de un proyecto</translation>
-    </message>
-    <message>
-        <source>Print this help message and exit</source>
-        <translation>Mostrar esta ayuda y terminar</translation>
     </message>
     <message>
         <source>Project</source>
@@ -1799,10 +1783,6 @@ yd²</translation>
     <message>
         <source>Tables that were missing and are empty now</source>
         <translation>Tablas que faltaban y ahora están vacías</translation>
-    </message>
-    <message>
-        <source>Take back rooms of %1</source>
-        <translation>Recuperar estancias del %1</translation>
     </message>
     <message>
         <source>The Project Name: %1 has been used<byte value="xd"/>
@@ -2425,10 +2405,6 @@ What are their sizes in?</source>
     <message>
         <source>There is no data to estimate. Please fill in the room information before estimating.</source>
         <translation>No hay nada que calcular. Introduzca antes las estancias.</translation>
-    </message>
-    <message>
-        <source>There is no display to show the program on.</source>
-        <translation>No hay pantalla en la que mostrar el programa.</translation>
     </message>
     <message>
         <source>There is no folder for it: the environment names no home.</source>
@@ -3685,7 +3661,7 @@ Please change the display resolution!</source>
         <source>Data is saved</source>
         <translation>Los datos están guardados</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <location filename="../src/screens/PrintQueue.cpp"/>
         <source>One more job that waited behind it was not printed either.</source>
         <comment>%n more jobs that waited behind it were not printed either.</comment>
@@ -4299,6 +4275,11 @@ Con No no se crea nada y el programa termina.</translation>
     </message>
     <message>
         <location filename="../src/tools/DataOptions.cpp"/>
+        <source>Print this help message and exit</source>
+        <translation>Mostrar esta ayuda y terminar</translation>
+    </message>
+    <message>
+        <location filename="../src/tools/DataOptions.cpp"/>
         <source>tarn-data COMMAND --help tells the options of a command.
 
 A name has at most %1 characters, a project&apos;s none of %2
@@ -4363,7 +4344,7 @@ Las estancias vienen de una base de datos (--database y --project) o de un archi
     <message>
         <location filename="../src/tools/EstimateOptions.cpp"/>
         <location filename="../src/tools/OrderOptions.cpp"/>
-        <location filename="../src/tools/tarn.cpp"/>
+        <location filename="../src/tools/ProgramOptions.cpp"/>
         <source>Display program version information and exit</source>
         <translation>Mostrar la versión del programa y terminar</translation>
     </message>
@@ -4425,6 +4406,16 @@ Las estancias vienen de una base de datos (--database y --project) o de un archi
         <translation>comparando</translation>
     </message>
     <message>
+        <location filename="../src/tools/ProgramOptions.cpp"/>
+        <source>Directory of the configuration file %1</source>
+        <translation>Directorio del archivo de configuración %1</translation>
+    </message>
+    <message>
+        <location filename="../src/tools/ProgramOptions.cpp"/>
+        <source>Estimate how carpets are cut from the roll.</source>
+        <translation>Calcula cómo se cortan las moquetas del rollo.</translation>
+    </message>
+    <message>
         <location filename="../src/tools/ProjectFile.cpp"/>
         <source>Or name the encoding of the file with --encoding, such as windows-1252.</source>
         <translation>O indique la codificación del archivo con --encoding, por ejemplo windows-1252.</translation>
@@ -4466,13 +4457,8 @@ Las estancias vienen de una base de datos (--database y --project) o de un archi
     </message>
     <message>
         <location filename="../src/tools/tarn.cpp"/>
-        <source>Directory of the configuration file %1</source>
-        <translation>Directorio del archivo de configuración %1</translation>
-    </message>
-    <message>
-        <location filename="../src/tools/tarn.cpp"/>
-        <source>Estimate how carpets are cut from the roll.</source>
-        <translation>Calcula cómo se cortan las moquetas del rollo.</translation>
+        <source>There is no display to show the program on.</source>
+        <translation>No hay pantalla en la que mostrar el programa.</translation>
     </message>
 </context>
 </TS>

@@ -1,5 +1,7 @@
 #include "files/ForeignFile.h"
 
+#include "base/Words.h"
+
 #include <algorithm>
 
 namespace tarn {
@@ -17,12 +19,12 @@ std::string_view ArchiveKind(std::string_view bytes) {
         return begin.find(name) != std::string_view::npos;
     };
     if (holds("application/vnd.oasis.opendocument.spreadsheet"sv)) {
-        return "an OpenDocument spreadsheet (ODS)";
+        return Words("an OpenDocument spreadsheet (ODS)");
     }
     if (holds("[Content_Types].xml"sv) || holds("xl/"sv)) {
-        return "an Excel workbook (XLSX)";
+        return Words("an Excel workbook (XLSX)");
     }
-    return "an archive (ZIP), as spreadsheets such as XLSX and ODS are";
+    return Words("an archive (ZIP), as spreadsheets such as XLSX and ODS are");
 }
 
 } // namespace
@@ -32,10 +34,10 @@ std::string_view ForeignKind(std::string_view bytes) {
         return ArchiveKind(bytes);
     }
     if (bytes.starts_with("\xD0\xCF\x11\xE0\xA1\xB1\x1A\xE1"sv)) {
-        return "an older Excel workbook (XLS) or another Office file";
+        return Words("an older Excel workbook (XLS) or another Office file");
     }
     if (bytes.starts_with("%PDF-"sv)) {
-        return "a PDF document";
+        return Words("a PDF document");
     }
     return {};
 }

@@ -1,5 +1,6 @@
 #include "files/OrderTables.h"
 
+#include "base/Words.h"
 #include "files/Spreadsheet.h"
 #include "order/Comparison.h"
 

@@ -2,6 +2,7 @@
 
 #include "base/Lengths.h"
 #include "base/Text.h"
+#include "base/Words.h"
 #include "estimate/CutList.h"
 #include "estimate/FillLabels.h"
 #include "estimate/RollPlaces.h"
@@ -125,14 +126,14 @@ class EstimateDrawer {
     std::string Document() {
         for (std::size_t i = 0; i < estimate_.Cuts.size(); ++i) {
             const Cut& cut = estimate_.Cuts[i];
-            Add({CutLabel(i), SizeOf(estimate_, cut), WrittenRoom(project_, estimate_.CutRooms[i])},
+            Add({CutLabel(i), SizeOf(estimate_, cut),
+                 WrittenRoom(project_, static_cast<std::size_t>(cut.Room))},
                 SizeOnRollOf(estimate_, cut), 0, places_.Cuts[i]);
         }
         for (const Placed& placed : estimate_.Fills.Layout) {
             const Piece& piece = placed.Part;
-            const auto number = static_cast<std::size_t>(piece.Number);
             Add({LabelOf(estimate_, piece), SizeOf(estimate_, piece),
-                 WrittenRoom(project_, estimate_.FillRooms.at(number))},
+                 WrittenRoom(project_, static_cast<std::size_t>(piece.Room))},
                 SizeOnRollOf(estimate_, piece), static_cast<Double>(placed.X),
                 places_.Fills + static_cast<Double>(placed.Y));
         }
@@ -171,7 +172,7 @@ class EstimateDrawer {
 std::string OrderDxf(const OrderDocument& document) {
     const Order& order = document.Orders.front();
     if (!order.Best) {
-        throw OutputFileError("There is no roll to draw: every roll and lay is refused.");
+        throw OutputFileError(Words("There is no roll to draw: every roll and lay is refused."));
     }
     const OrderCandidate& row = order.Candidates.at(*order.Best);
     const Units units = order.Request.In;

@@ -1,6 +1,7 @@
 #include "files/Spreadsheet.h"
 
 #include "base/Text.h"
+#include "base/Words.h"
 #include "files/OutputFile.h"
 
 #include <QFile>

@@ -1,6 +1,7 @@
 #include "files/TextEncoding.h"
 
 #include "base/Text.h"
+#include "base/Words.h"
 
 #include <algorithm>
 #include <array>
@@ -39,8 +40,9 @@ class Conversion {
     explicit Conversion(const std::string& from)
         : handle_(IsPlainName(from) ? ::iconv_open(Utf8Name.data(), from.c_str()) : None()) {
         if (handle_ == None()) {
-            throw UnknownEncoding("The encoding \"" + ShownText(from) +
-                                  "\" is not known; \"iconv -l\" lists those that are.");
+            throw UnknownEncoding(
+                Words("The encoding \"%1\" is not known; \"iconv -l\" lists those that are.",
+                      ShownText(from)));
         }
     }
     ~Conversion() { ::iconv_close(handle_); }

@@ -81,18 +81,17 @@ std::string RuleOfBest(const Order& order) {
         }
     }
     if (unpriced.empty()) {
-        return "Best is the least price; of equal ones, the shortest seams and joins.";
+        return Words("Best is the least price; of equal ones, the shortest seams and joins.");
     }
     if (!isAnyPriced) {
-        return "Best is the least carpet, for no roll has a price; of equal ones, the shortest "
-               "seams "
-               "and joins.";
+        return Words("Best is the least carpet, for no roll has a price; of equal ones, the "
+                     "shortest seams and joins.");
     }
     std::string names;
     for (const std::size_t roll : unpriced) {
         names += (names.empty() ? "" : ", ") + RollName(order.Request.Rolls.at(roll));
     }
-    return "Best is the least carpet, for these rolls have no price: " + names + ".";
+    return Words("Best is the least carpet, for these rolls have no price: %1.", names);
 }
 
 std::string RemarksOf(const OrderCandidate& candidate) {

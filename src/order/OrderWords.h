@@ -12,8 +12,6 @@ namespace tarn {
 
 /// "down" or "cross".
 std::string_view LayName(Lay lay);
-/// A roll by its name, if it has one, and its width as typed: "Shop 12ft".
-std::string RollName(const RollChoice& roll);
 /// A row of the comparison: "Shop 12ft, down".
 std::string CandidateName(const Order& order, const OrderCandidate& candidate);
 

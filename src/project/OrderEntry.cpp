@@ -83,9 +83,9 @@ void TakeRepeat(const std::string& option, std::string_view text, Units units, L
 Double PriceOf(const RollChoice& roll, std::string_view text) {
     const Double price = NumberOf(text);
     if (std::isnan(price) && text.find(',') != std::string_view::npos) {
-        throw Unread{{"price", "The price \"" + ShownText(TrimStr(std::string(text))) +
-                                   "\" of the roll " + RollName(roll) +
-                                   ": a comma is not taken. Write it with a point, as 18.50."}};
+        throw Unread{{"price", Words("The price \"%1\" of the roll %2: a comma is not taken. Write "
+                                     "it with a point, as 18.50.",
+                                     ShownText(TrimStr(std::string(text))), RollName(roll))}};
     }
     return price;
 }

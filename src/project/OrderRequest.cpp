@@ -65,8 +65,10 @@ Fault FaultOfRolls(const OrderRequest& request) {
                                      place};
         }
         if (roll.Price && !IsPrice(*roll.Price)) {
-            return OrderRequestFault{"price", Words("A price must be a number of 0 or more."),
-                                     place};
+            return OrderRequestFault{
+                "price",
+                Words("The price of the roll %1 must be a number of 0 or more.", RollName(roll)),
+                place};
         }
     }
     return std::nullopt;

@@ -120,10 +120,9 @@ Integer ReportedBaseLength(const Room& room, long long item, Units shown) {
     try {
         return ListedBaseLength(room.Width, room.Length, room.Base);
     } catch (const RunTimeError& error) {
-        throw error.WithAdvice("The wall base of room " + TrimStr(item) + " is longer than " +
-                               TrimStr(std::numeric_limits<Integer>::max()) + " " +
-                               std::string(SmallUnitName(shown)) +
-                               ": correct its size or its base.");
+        throw error.WithAdvice(Words(
+            "The wall base of room %1 is longer than %2 %3: correct its size or its base.",
+            TrimStr(item), TrimStr(std::numeric_limits<Integer>::max()), SmallUnitName(shown)));
     }
 }
 

@@ -50,13 +50,13 @@ void TakeBackChange(Rooms& rooms, const RoomChange& change) {
 std::string NameOf(const RoomChange& change) {
     const std::string room = TrimStr(static_cast<long long>(change.Place) + 1);
     if (change.Before.empty() && change.After.size() == 1) {
-        return Words("New room %1", room);
+        return Words("new room %1", room);
     }
     if (change.Before.size() == 1 && change.After.empty()) {
-        return Words("Delete room %1", room);
+        return Words("delete room %1", room);
     }
     const bool isOne = change.Before.size() == 1 && change.After.size() == 1;
-    return isOne ? Words("Change room %1", room) : std::string(Words("Change rooms"));
+    return isOne ? Words("change room %1", room) : std::string(Words("change rooms"));
 }
 
 } // namespace tarn

@@ -46,15 +46,10 @@ struct Handing {
 
 /// What became of the jobs behind one that failed.
 std::string GivenUpText(std::size_t jobs) {
-    switch (jobs) {
-    case 0:
-        return {};
-    case 1:
-        return "One more job that waited behind it was not printed either.";
-    default:
-        return TrimStr(static_cast<long long>(jobs)) +
-               " more jobs that waited behind it were not printed either.";
-    }
+    return jobs == 0 ? std::string()
+                     : CountedWords("One more job that waited behind it was not printed either.",
+                                    "%n more jobs that waited behind it were not printed either.",
+                                    static_cast<long long>(jobs));
 }
 
 /// The way out that needs no printer.

@@ -19,7 +19,7 @@ void SaveAs(const Session& session, const std::string& name, const std::string& 
     } catch (const std::exception& error) {
         throw OutputFileError(Words("The file %1 cannot be written: %2", *path, error.what()));
     }
-    session.Note("Saved: " + path->substr(path->rfind('/') + 1));
+    session.Note(Words("Saved: %1", path->substr(path->rfind('/') + 1)));
 }
 
 } // namespace tarn

@@ -4,6 +4,7 @@
 
 #include "base/Words.h"
 #include "screens/Dialogs.h"
+#include "screens/Session.h"
 
 #include <functional>
 #include <string>
@@ -11,11 +12,11 @@
 namespace tarn {
 
 /// What every screen calls its ways to a file.
-inline constexpr const char* SaveAsPdfCaption = "Save as &PDF";
-inline constexpr const char* SaveAsSvgCaption = "Save as &SVG";
-inline constexpr const char* SaveAsDxfCaption = "Save as &DXF";
-inline constexpr const char* SaveAsXlsxCaption = "Save as spreadsheet (&XLSX)";
-inline constexpr const char* SaveAsCsvCaption = "Save as &CSV";
+inline constexpr auto SaveAsPdfCaption = Words("Save as &PDF");
+inline constexpr auto SaveAsSvgCaption = Words("Save as &SVG");
+inline constexpr auto SaveAsDxfCaption = Words("Save as &DXF");
+inline constexpr auto SaveAsXlsxCaption = Words("Save as spreadsheet (&XLSX)");
+inline constexpr auto SaveAsCsvCaption = Words("Save as &CSV");
 
 /// Ask for a file, beginning with `name`, have `write` write it, and note in the window that it is
 /// saved; nothing when that was cancelled. Raises OutputFileError, which names the file, whatever

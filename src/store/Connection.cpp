@@ -75,7 +75,7 @@ std::string Cause(const QSqlError& error) {
         return Words("the disk reports an error (%1).", text);
     case Corrupt:
     case NotADatabase:
-        return Words("the database file is damaged (%1). Put a backup in its place.", text);
+        return Words("the database file is damaged (%1). %2", text, DamageAdvice);
     default:
         return text + ".";
     }

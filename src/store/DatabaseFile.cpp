@@ -73,7 +73,7 @@ void RequireDatabaseFile(const std::string& path) {
     }
     const QByteArray head = file.read(DatabaseHeadSize);
     if (head.isEmpty()) {
-        Refuse(Words("The database file %1 is empty. Put a backup in its place."), path);
+        throw DatabaseError(Words("The database file %1 is empty. %2", path, RestoreAdvice));
     }
     const DatabaseFormat format = DatabaseFormatOf(head);
     if (format == DatabaseFormat::Jet) {
@@ -84,7 +84,8 @@ void RequireDatabaseFile(const std::string& path) {
     }
     if (format == DatabaseFormat::None) {
         Refuse(Words("The database file %1 is not a database of this program. Correct its path or "
-                     "the data folder in %2, or put a backup in its place."),
+                     "the data folder in %2, or put a backup in its place with \"tarn-data "
+                     "restore\"."),
                path);
     }
 }
@@ -129,8 +130,8 @@ std::optional<std::string> DamageOf(Connection& connection, const std::string& p
 
 void RequireSound(Connection& connection, const std::string& path) {
     if (const auto damage = DamageOf(connection, path)) {
-        throw DatabaseError(Words(
-            "The database file %1 is damaged (%2). Put a backup in its place.", path, *damage));
+        throw DatabaseError(
+            Words("The database file %1 is damaged (%2). %3", path, *damage, DamageAdvice));
     }
 }
 

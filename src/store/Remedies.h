@@ -2,14 +2,16 @@
 
 #pragma once
 
+#include "base/Words.h"
+
 namespace tarn {
 
 /// A file that holds nothing to go on with.
-inline constexpr const char* RestoreAdvice =
-    "Put a backup in its place with \"tarn-data restore\".";
+inline constexpr auto RestoreAdvice =
+    Words("Put a backup in its place with \"tarn-data restore\".");
 /// A file of which a part may still be read.
-inline constexpr const char* DamageAdvice =
-    "Put a backup in its place with \"tarn-data restore\", or save what can still be read of it "
-    "with \"tarn-data repair\".";
+inline constexpr auto DamageAdvice =
+    Words("Put a backup in its place with \"tarn-data restore\", or save what can still be read of "
+          "it with \"tarn-data repair\".");
 
 } // namespace tarn

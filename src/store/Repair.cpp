@@ -144,9 +144,7 @@ class Source {
     void RequireSomething() const {
         if (tablesRead_ == 0) {
             throw DatabaseError(
-                Words("Nothing can be read of the database file %1. Put a backup in its "
-                      "place.",
-                      path_));
+                Words("Nothing can be read of the database file %1. %2", path_, RestoreAdvice));
         }
     }
     /// Tell what another program put into the file: it is not taken over.

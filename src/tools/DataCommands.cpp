@@ -3,6 +3,7 @@
 #include "base/Lengths.h"
 #include "base/RunTimeError.h"
 #include "base/Text.h"
+#include "base/Words.h"
 #include "files/ProjectTables.h"
 #include "files/RoomCsv.h"
 #include "files/ShortDate.h"
@@ -168,8 +169,9 @@ void ReportProject(const ReportRequest& request) {
     ProjectStore store(request.Database, DatabaseAccess::ReadOnly);
     const Project project = LoadProjectNamed(store, request.Project);
     if (project.EnteredIn == Units::Metric && request.In != Units::Metric) {
-        WarnOfMetric(project, "its sizes are listed in feet and inches. Use --metric for "
-                              "centimetres.");
+        WarnOfMetric(Words("Warning: the project %1 was entered in metric; its sizes are listed in "
+                           "feet and inches. Use --metric for centimetres."),
+                     project);
     }
     if (!request.Xlsx.empty()) {
         WriteWholeFile(request.Xlsx, XlsxOf({ReportTable(project, request.In)}), request.Over);

@@ -1,6 +1,5 @@
 #include "tools/DataOptions.h"
 
-#include "base/Version.h"
 #include "base/Words.h"
 #include "store/Configuration.h"
 #include "store/DataFolder.h"
@@ -8,6 +7,7 @@
 #include "tools/CareCommands.h"
 #include "tools/DataCommands.h"
 #include "tools/Files.h"
+#include "tools/ProgramVersion.h"
 #include "tools/SharedOptions.h"
 #include "tools/ToolMain.h"
 
@@ -34,20 +34,7 @@ std::string Footer() {
         std::to_string(MaxNameLength), ForbiddenInProjectName);
 }
 
-/// What the arguments of any command give; each command uses its own part.
-struct Arguments {
-    std::string Folder;
-    std::string ConfigDirectory;
-    std::string Csv; ///< outputs; empty = not wanted
-    std::string Xlsx;
-    std::string Target;
-    Overwrite Over = Overwrite::Files;
-    ImportRequest Project;
-};
-
-using Command = std::function<void()>;
-
-void AddDatabase(CLI::App& command, Arguments& arguments) {
+void AddDatabase(CLI::App& command, DataOptions& arguments) {
     command.add_option("--database", arguments.Project.Database, Words("Database file"))
         ->required()
         ->type_name("FILE");
@@ -66,7 +53,8 @@ void AddMetric(CLI::App& command, DataOptions& arguments) {
         Words("The sizes are centimetres"));
 }
 
-CLI::App& AddCommand(CLI::App& app, const char* name, Phrase text, Command& chosen, Command run) {
+CLI::App& AddCommand(CLI::App& app, const char* name, Phrase text, DataOptions& arguments,
+                     std::function<void()> run) {
     CLI::App* command = app.add_subcommand(name, text);
     command->fallthrough(); // --language may stand behind the command, too
     command->set_help_flag("-h,--help", Words("Print this help message and exit"));
@@ -76,7 +64,7 @@ CLI::App& AddCommand(CLI::App& app, const char* name, Phrase text, Command& chos
 
 void AddFileCommands(CLI::App& app, DataOptions& arguments) {
     auto& create = AddCommand(
-        app, "create", Words("Make a data folder with an empty database"), chosen,
+        app, "create", Words("Make a data folder with an empty database"), arguments,
         [arguments = &arguments] { CreateData(arguments->Folder, arguments->ConfigDirectory); });
     create
         .add_option("FOLDER", arguments.Folder,
@@ -88,7 +76,7 @@ void AddFileCommands(CLI::App& app, DataOptions& arguments) {
                     Words("Directory of the configuration file %1", ConfigurationFileName))
         ->type_name("DIR");
 
-    auto& list = AddCommand(app, "list", Words("List directories, projects and rooms"), chosen,
+    auto& list = AddCommand(app, "list", Words("List directories, projects and rooms"), arguments,
                             [arguments = &arguments] { ListData(arguments->Project.Database); });
     AddDatabase(list, arguments);
 }
@@ -96,8 +84,9 @@ void AddFileCommands(CLI::App& app, DataOptions& arguments) {
 void AddCareCommands(CLI::App& app, DataOptions& arguments) {
     const auto* database = &arguments.Project.Database;
     const auto* target = &arguments.Target;
-    const auto add = [&](const char* name, Phrase text, const Command& run) -> CLI::App& {
-        auto& command = AddCommand(app, name, text, chosen, run);
+    const auto add = [&](const char* name, Phrase text,
+                         const std::function<void()>& run) -> CLI::App& {
+        auto& command = AddCommand(app, name, text, arguments, run);
         AddDatabase(command, arguments);
         return command;
     };
@@ -120,51 +109,54 @@ void AddCareCommands(CLI::App& app, DataOptions& arguments) {
         ->required();
 }
 
-void AddProjectCommands(CLI::App& app, Arguments& arguments, Command& chosen) {
-    auto& report = AddCommand(app, "report", "Print the entered-data report of a project", chosen,
-                              [arguments = &arguments] {
+void AddProjectCommands(CLI::App& app, DataOptions& arguments) {
+    auto& report = AddCommand(app, "report", Words("Print the entered-data report of a project"),
+                              arguments, [arguments = &arguments] {
                                   const ImportRequest& project = arguments->Project;
                                   ReportProject({project.Database, project.Project, project.In,
                                                  arguments->Csv, arguments->Xlsx, arguments->Over});
                               });
     AddProject(report, arguments);
     AddMetric(report, arguments);
-    report.add_option("--csv", arguments.Csv, "Write it as CSV instead")
+    report.add_option("--csv", arguments.Csv, Words("Write it as CSV instead"))
         ->check(NotEmpty)
         ->type_name("FILE|-");
-    report.add_option("--xlsx", arguments.Xlsx, "Write it as a spreadsheet instead")
+    report.add_option("--xlsx", arguments.Xlsx, Words("Write it as a spreadsheet instead"))
         ->check(NotEmpty)
         ->type_name("FILE|-");
     AddForce(report, arguments.Over);
 
     auto& import =
-        AddCommand(app, "import", Words("Make the rooms of a CSV file those of a project"), chosen,
-                   [project = &arguments.Project] { ImportProject(*project); });
+        AddCommand(app, "import", Words("Make the rooms of a CSV file those of a project"),
+                   arguments, [project = &arguments.Project] { ImportProject(*project); });
     AddProject(import, arguments);
     import
-        .add_option("FILE.csv", arguments.Project.Rooms.Path, "The rooms; see tarn-estimate --help")
+        .add_option("FILE.csv", arguments.Project.Rooms.Path,
+                    Words("The rooms; see tarn-estimate --help"))
         ->required();
     AddEncoding(import, arguments.Project.Rooms.Encoding);
     import
         .add_option("--directory", arguments.Project.Directory,
                     Words("Directory of a new project (default: the current month)"))
-        ->type_name("DIR");
+        ->type_name("NAME");
     AddMetric(import, arguments);
     import.add_flag("--replace", arguments.Project.Replace,
                     Words("Replace the rooms that the project has"));
 
-    auto& exporting = AddCommand(
-        app, "export", "Write a project's rooms as CSV", chosen, [arguments = &arguments] {
-            ExportProject({arguments->Project.Database, arguments->Project.Project, arguments->Csv,
-                           arguments->Xlsx, arguments->Over});
-        });
+    auto& exporting =
+        AddCommand(app, "export", Words("Write a project's rooms as CSV"), arguments,
+                   [arguments = &arguments] {
+                       ExportProject({arguments->Project.Database, arguments->Project.Project,
+                                      arguments->Csv, arguments->Xlsx, arguments->Over});
+                   });
     AddProject(exporting, arguments);
-    exporting.add_option("--output", arguments.Csv, "File to write (default: standard output)")
+    exporting
+        .add_option("--output", arguments.Csv, Words("File to write (default: standard output)"))
         ->check(NotEmpty)
         ->type_name("FILE|-");
     exporting
         .add_option("--xlsx", arguments.Xlsx,
-                    "Write them as a spreadsheet, with the totals by covering")
+                    Words("Write them as a spreadsheet, with the totals by covering"))
         ->check(NotEmpty)
         ->type_name("FILE|-");
     AddForce(exporting, arguments.Over);
@@ -172,10 +164,10 @@ void AddProjectCommands(CLI::App& app, Arguments& arguments, Command& chosen) {
 
 } // namespace
 
-std::function<void()> ReadDataCommand(int argc, const char* const* argv, int& status) {
-    SpeakAsAsked(argc, argv);
-    CLI::App app(Description, "tarn-data");
+void DescribeData(CLI::App& app, DataOptions& arguments) {
+    app.name("tarn-data");
     PrepareHelp(app);
+    app.description(Description);
     app.footer(Footer());
     app.set_version_flag("--version", VersionText(app.get_name()),
                          Words("Display program version information and exit"));
@@ -186,12 +178,14 @@ std::function<void()> ReadDataCommand(int argc, const char* const* argv, int& st
 }
 
 std::function<void()> ReadDataCommand(int argc, const char* const* argv, int& status) {
+    SpeakAsAsked(argc, argv);
     CLI::App app;
     const auto arguments = std::make_shared<DataOptions>();
     DescribeData(app, *arguments);
     try {
         app.parse(argc, argv);
-        RequireDifferentOutputs({{"the CSV", arguments->Csv}, {"--xlsx", arguments->Xlsx}});
+        RequireDifferentOutputs(
+            {{std::string(Words("the CSV")), arguments->Csv}, {"--xlsx", arguments->Xlsx}});
     } catch (const CLI::ParseError& error) {
         status = ExplainArguments(app, error);
         return {};

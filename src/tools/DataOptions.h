@@ -19,7 +19,8 @@ namespace tarn {
 struct DataOptions {
     std::string Folder;
     std::string ConfigDirectory;
-    std::string Output = StandardOutput;
+    std::string Csv; ///< outputs; empty = not wanted
+    std::string Xlsx;
     std::string Target;
     Overwrite Over = Overwrite::Files;
     ImportRequest Project;

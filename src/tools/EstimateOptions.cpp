@@ -2,7 +2,6 @@
 
 #include "base/Format.h"
 #include "base/TakeNumber.h"
-#include "base/Version.h"
 #include "base/Words.h"
 #include "estimate/MinCuts.h"
 #include "estimate/RollWidth.h"
@@ -29,32 +28,29 @@ constexpr auto Description = Words(
     "The rooms come from a database (--database and --project) or from a CSV file (--rooms).");
 
 std::string Footer() {
-    return "A CSV file has a header line and the columns width,length,covering,base,room,remark in "
-           "any\n"
-           "order; the first three are required. Sizes are whole inches or text such as 12'6\" "
-           "(whole\n"
-           "centimetres with --metric), or numbers in the unit that a heading such as \"Width "
-           "(ft)\" names;\n"
-           "coverings CARPET-1 or C1, TILE-4 or T4. The base tells how many widths and lengths of "
-           "the\n"
-           "room take wall base: W2L1 is two widths and one length. A size of 0 is read and not "
-           "cut. A\n"
-           "room number has at most " +
-           std::to_string(MaxRoomNumberLength) + " characters, a remark " +
-           std::to_string(MaxRemarkLength) +
-           ", each in one line; of one that begins\n"
-           "with ' the ' is taken off. Commas, semicolons or tabs separate. A file, no pipe or "
-           "device, has at\n"
-           "most " +
-           std::to_string(RoomCapacity) + " rooms and " +
-           std::to_string(MaxRoomCsvBytes / (std::size_t{1024} * 1024)) +
-           " MB.\n\n"
-           "An output file takes the place of the one that is there, once it is whole and stored.\n"
-           "Databases and symbolic links stay as they are without --force.\n\n"
-           "Exit status: 0 done, 1 refused (the reason is on standard error), 2 wrong usage.\n\n"
-           "Example:\n"
-           "  tarn-estimate --rooms house.csv --carpet 1 --roll-width 12ft --max-pieces 2 --svg "
-           "house.svg";
+    return Words(
+        "A CSV file has a header line and the columns width,length,covering,base,room,remark in "
+        "any\n"
+        "order; the first three are required. Sizes are whole inches or text such as 12'6\" "
+        "(whole\n"
+        "centimetres with --metric), or numbers in the unit that a heading such as \"Width "
+        "(ft)\" names;\n"
+        "coverings CARPET-1 or C1, TILE-4 or T4. The base tells how many widths and lengths of "
+        "the\n"
+        "room take wall base: W2L1 is two widths and one length. A size of 0 is read and not "
+        "cut. A\n"
+        "room number has at most %1 characters, a remark %2, each in one line; of one that begins\n"
+        "with ' the ' is taken off. Commas, semicolons or tabs separate. A file, no pipe or "
+        "device, has at\n"
+        "most %3 rooms and %4 MB.\n\n"
+        "An output file takes the place of the one that is there, once it is whole and stored.\n"
+        "Databases and symbolic links stay as they are without --force.\n\n"
+        "Exit status: 0 done, 1 refused (the reason is on standard error), 2 wrong usage.\n\n"
+        "Example:\n"
+        "  tarn-estimate --rooms house.csv --carpet 1 --roll-width 12ft --max-pieces 2 --svg "
+        "house.svg",
+        std::to_string(MaxRoomNumberLength), std::to_string(MaxRemarkLength),
+        std::to_string(RoomCapacity), std::to_string(MaxRoomCsvBytes / (std::size_t{1024} * 1024)));
 }
 
 /// "a, b or c": what `textOf` says of each minimum cut.
@@ -101,7 +97,7 @@ void AddInput(CLI::App& app, EstimateOptions& options) {
                  Words("The sizes are centimetres; lists and totals are metric"));
 }
 
-void AddChoices(CLI::App& app, EstimateOptions& options, std::string& lay) {
+void AddChoices(CLI::App& app, EstimateOptions& options) {
     app.add_option("--carpet", options.Carpet, Words("Number of the carpet, 1 to 8"))
         ->required()
         ->check(CLI::Range(1, 8))
@@ -110,7 +106,9 @@ void AddChoices(CLI::App& app, EstimateOptions& options, std::string& lay) {
                    Words("Width of the roll: 12ft, 13.5ft, 12ft6in, 150in or 366cm"))
         ->required()
         ->type_name("WIDTH");
-    app.add_option("--lay", lay, Words("down: room widths across the roll; cross: room lengths"))
+    app.add_option_function<std::string>(
+           "--lay", [&options](const std::string& lay) { options.CrossLay = lay == "cross"; },
+           Words("down: room widths across the roll; cross: room lengths"))
         ->check(CLI::IsMember({"down", "cross"}))
         ->default_str("down")
         ->type_name("down|cross");
@@ -143,14 +141,16 @@ void AddOutput(CLI::App& app, EstimateOptions& options) {
     app.add_option("--svg", options.Svg, Words("Write the drawing of the layout with the cut list"))
         ->check(NotEmpty)
         ->type_name("FILE|-");
-    app.add_option("--dxf", options.Dxf,
-                   "Write the whole roll, cuts and fills, true to size for a plotter or cutting "
-                   "table, along X, in inches (centimetres with --metric)")
+    app.add_option(
+           "--dxf", options.Dxf,
+           Words("Write the whole roll, cuts and fills, true to size for a plotter or cutting "
+                 "table, along X, in inches (centimetres with --metric)"))
         ->check(NotEmpty)
         ->type_name("FILE|-");
-    app.add_option("--pdf", options.Pdf,
-                   "Write the page that the program prints, for the paper of the default printer "
-                   "(A4 without one)")
+    app.add_option(
+           "--pdf", options.Pdf,
+           Words("Write the page that the program prints, for the paper of the default printer "
+                 "(A4 without one)"))
         ->check(NotEmpty)
         ->type_name("FILE|-");
     AddForce(app, options.Over);
@@ -200,10 +200,10 @@ void CheckTogether(EstimateOptions& options) {
 
 } // namespace
 
-std::optional<EstimateOptions> ReadEstimateOptions(int argc, const char* const* argv, int& status) {
-    SpeakAsAsked(argc, argv);
-    CLI::App app(Description, "tarn-estimate");
+void DescribeEstimate(CLI::App& app, EstimateOptions& options) {
+    app.name("tarn-estimate");
     PrepareHelp(app);
+    app.description(Description);
     app.footer(Footer());
     app.set_version_flag("--version", VersionText(app.get_name()),
                          Words("Display program version information and exit"));
@@ -215,6 +215,7 @@ std::optional<EstimateOptions> ReadEstimateOptions(int argc, const char* const* 
 }
 
 std::optional<EstimateOptions> ReadEstimateOptions(int argc, const char* const* argv, int& status) {
+    SpeakAsAsked(argc, argv);
     CLI::App app;
     EstimateOptions options;
     DescribeEstimate(app, options);

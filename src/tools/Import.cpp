@@ -39,8 +39,8 @@ void RequireReplaceable(const LoadedProject& loaded, const ImportRequest& reques
                             name));
     }
     if (hasRooms && count == 0) {
-        throw Refusal("The file " + request.Rooms.Path + " has no rooms; the project " + name +
-                      " keeps those that it has.");
+        throw Refusal(Words("The file %1 has no rooms; the project %2 keeps those that it has.",
+                            request.Rooms.Path, name));
     }
 }
 

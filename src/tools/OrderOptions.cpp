@@ -1,6 +1,5 @@
 #include "tools/OrderOptions.h"
 
-#include "base/Version.h"
 #include "base/Words.h"
 #include "project/OrderEntry.h"
 #include "tools/Files.h"
@@ -133,12 +132,12 @@ void AddOutput(CLI::App& app, OrderOptions& options) {
         Words("Write the sheet to buy and cut by, of all carpets, as it is printed; A4 unless the "
               "printer has another paper"));
     add("--svg", options.Svg,
-        "Write the pages of one carpet's sheet below each other as a drawing (with --carpet when "
-        "there are several)");
+        Words("Write the pages of one carpet's sheet below each other as a drawing (with --carpet "
+              "when "
+              "there are several)"));
     add("--dxf", options.Dxf,
-        "Write the roll of one carpet's best row true to size for a plotter or cutting table, "
-        "along "
-        "X, in inches (centimetres with --metric)");
+        Words("Write the roll of one carpet's best row true to size for a plotter or cutting "
+              "table, along X, in inches (centimetres with --metric)"));
     AddForce(app, options.Over);
 }
 
@@ -224,10 +223,10 @@ std::vector<Lay> LaysOf(const std::string& word) {
 
 } // namespace
 
-std::optional<OrderOptions> ReadOrderOptions(int argc, const char* const* argv, int& status) {
-    SpeakAsAsked(argc, argv);
-    CLI::App app(Description, "tarn-order");
+void DescribeOrder(CLI::App& app, OrderOptions& options) {
+    app.name("tarn-order");
     PrepareHelp(app);
+    app.description(Description);
     app.footer(Footer);
     app.set_version_flag("--version", VersionText(app.get_name()),
                          Words("Display program version information and exit"));
@@ -240,6 +239,7 @@ std::optional<OrderOptions> ReadOrderOptions(int argc, const char* const* argv, 
 }
 
 std::optional<OrderOptions> ReadOrderOptions(int argc, const char* const* argv, int& status) {
+    SpeakAsAsked(argc, argv);
     CLI::App app;
     OrderOptions options;
     DescribeOrder(app, options);

@@ -208,8 +208,9 @@ void OrderFor(const OrderOptions& options) {
     for (const auto& [option, path] :
          {std::pair("--svg", options.Svg), std::pair("--dxf", options.Dxf)}) {
         if (!path.empty() && requests.size() > 1) {
-            throw Refusal("The drawing of " + std::string(option) +
-                          " shows one carpet, and there are several: choose one with --carpet.");
+            throw Refusal(Words("The drawing of %1 shows one carpet, and there are several: choose "
+                                "one with --carpet.",
+                                option));
         }
     }
     {

@@ -1,6 +1,9 @@
 #include "tools/ProgramOptions.h"
 
+#include "base/Words.h"
+#include "store/Configuration.h"
 #include "tools/ProgramVersion.h"
+#include "tools/SharedOptions.h"
 #include "tools/ToolMain.h"
 
 #include <CLI/CLI.hpp>
@@ -9,29 +12,33 @@ namespace tarn {
 
 namespace {
 
-constexpr const char* Description = "Estimate how carpets are cut from the roll.";
+constexpr auto Description = Words("Estimate how carpets are cut from the roll.");
 
-constexpr const char* Footer =
+constexpr auto Footer = Words(
     "The columns of a CSV file are those that tarn-estimate --help tells.\n\n"
     "Exit status: 0 done, 1 the program could not start (the reason is in a box or on standard\n"
     "error), 2 wrong usage.\n\n"
     "Example:\n"
-    "  tarn house.csv";
+    "  tarn house.csv");
 
 } // namespace
 
 void DescribeProgram(CLI::App& app, ProgramOptions& options) {
     app.name("tarn");
+    PrepareHelp(app);
     app.description(Description);
     app.footer(Footer);
-    app.set_version_flag("--version", VersionText(app.get_name()));
+    app.set_version_flag("--version", VersionText(app.get_name()),
+                         Words("Display program version information and exit"));
     app.add_option_function<std::string>(
            "--config-dir",
            [&options](const std::string& directory) { options.ConfigDirectory = directory; },
-           "Directory of the configuration file TarnWin.INI")
+           Words("Directory of the configuration file %1", ConfigurationFileName))
         ->type_name("DIR");
-    app.add_option("FILE.csv", options.Rooms,
-                   "Rooms that are to become a project, whose name is asked for");
+    auto* rooms =
+        app.add_option("FILE.csv", options.Rooms.Path,
+                       Words("Rooms that are to become a project, whose name is asked for"));
+    AddEncoding(app, options.Rooms.Encoding)->needs(rooms);
 }
 
 std::optional<ProgramOptions> ReadProgramOptions(int argc, const char* const* argv, int& status) {

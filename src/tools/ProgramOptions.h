@@ -2,6 +2,8 @@
 
 #pragma once
 
+#include "tools/SharedOptions.h"
+
 #include <optional>
 #include <string>
 
@@ -15,7 +17,7 @@ namespace tarn {
 struct ProgramOptions {
     /// The only directory in which the configuration file is looked for; also an empty one counts.
     std::optional<std::string> ConfigDirectory;
-    std::string Rooms; ///< a CSV file whose rooms are to become a project; empty = none
+    RoomFile Rooms; ///< a CSV file whose rooms are to become a project; without a path none
 };
 
 /// Tell `app` all that tarn takes; parsing fills in `options`, which must outlive it.

@@ -2,6 +2,7 @@
 
 #include "base/RunTimeError.h"
 #include "base/Text.h"
+#include "base/Words.h"
 #include "files/TextEncoding.h"
 #include "store/Names.h"
 #include "tools/Files.h"
@@ -27,25 +28,28 @@ RoomCsvReading Reading(const RoomFile& file, Units units) {
     }
 }
 
-/// What helps where the file is in another encoding than it was read in, with its line break before
-/// it; empty where it is not.
+/// What helps where the file is in another encoding than it was read in, with its line break
+/// before it; empty where it is not.
 std::string EncodingAdvice(const RoomFile& file, const RoomCsvReading& reading) {
     const bool isOther =
         std::any_of(reading.Errors.begin(), reading.Errors.end(), [](const RoomCsvError& error) {
             return FindTextFault(error.Value) == TextFault::NotUtf8;
         });
     return isOther && file.Encoding.empty()
-               ? "\nOr name the encoding of the file with --encoding, such as windows-1252."
-               : "";
+               ? "\n" + std::string(Words("Or name the encoding of the file with --encoding, such "
+                                          "as windows-1252."))
+               : std::string();
 }
 
 void TellNotes(const RoomFile& file, const RoomCsvReading& reading) {
     for (const RoomCsvError& note : reading.Notes) {
-        std::cerr << "Note: " << ShownText(file.Path + ", " + ErrorText(note)) << '\n';
+        std::cerr << Words("Note: %1", ShownText(file.Path + ", " + ErrorText(note))) << '\n';
     }
     if (reading.MoreNotes > 0) {
-        std::cerr << "Note: " << ShownText(file.Path) << ", and " << reading.MoreNotes
-                  << " more sizes that are rounded\n";
+        std::cerr << CountedWords("Note: %1, and %n more size that is rounded",
+                                  "Note: %1, and %n more sizes that are rounded", reading.MoreNotes,
+                                  ShownText(file.Path))
+                  << '\n';
     }
 }
 
@@ -108,7 +112,8 @@ void WarnOfMetric(Phrase warning, const Project& project) {
 std::vector<Room> ReadRoomFile(const RoomFile& file, Units units) {
     RoomCsvReading reading = Reading(file, units);
     if (!reading.Succeeded()) {
-        std::string text = "The file " + file.Path + " cannot be used; nothing was taken from it:";
+        std::string text =
+            Words("The file %1 cannot be used; nothing was taken from it:", file.Path);
         for (const std::string& line : MistakeLines(reading)) {
             text += "\n  " + line;
         }

@@ -8,21 +8,59 @@
 
 namespace tarn {
 
+void SpeakAsAsked(int argc, const char* const* argv, std::string_view chosen) {
+    constexpr std::string_view Option = "--language";
+    std::string_view code = chosen;
+    for (int i = 1; i < argc; ++i) {
+        const std::string_view argument = argv[i];
+        if (argument == Option && i + 1 < argc) {
+            code = argv[i + 1];
+        } else if (argument.starts_with(Option) &&
+                   argument.substr(Option.size()).starts_with('=')) {
+            code = argument.substr(Option.size() + 1);
+        }
+    }
+    if (IsKnownLanguage(code)) {
+        SpeakLanguage(code);
+    }
+}
+
+void PrepareHelp(CLI::App& app) {
+    auto& formatter = *app.get_formatter();
+    formatter.label("Usage", Words("Usage"));
+    formatter.label("OPTIONS", Words("OPTIONS"));
+    formatter.label("SUBCOMMAND", Words("SUBCOMMAND"));
+    formatter.label("Positionals", Words("Positionals"));
+    formatter.label("REQUIRED", Words("REQUIRED"));
+    formatter.label("Needs", Words("Needs"));
+    formatter.label("Excludes", Words("Excludes"));
+    app.option_defaults()->group(Words("Options"));
+    app.set_help_flag("-h,--help", Words("Print this help message and exit"));
+    app.add_option_function<std::string>(
+           "--language", [](const std::string&) {},
+           Words("Language of what is said to people; what programs read stays as it is"))
+        ->check([](const std::string& code) {
+            return IsKnownLanguage(code) ? std::string() : UnknownLanguageText(code);
+        })
+        ->type_name("en|de|es");
+}
+
 CLI::Option* AddEncoding(CLI::App& app, std::string& encoding) {
     return app
         .add_option("--encoding", encoding,
-                    "Encoding of the CSV file, such as windows-1252; \"iconv -l\" lists them "
-                    "(default: what its byte-order mark says, else UTF-8)")
+                    Words("Encoding of the CSV file, such as windows-1252; \"iconv -l\" lists them "
+                          "(default: what its byte-order mark says, else UTF-8)"))
         ->check(NotEmpty)
         ->type_name("NAME");
 }
 
 void AddRoomsSource(CLI::App& app, std::string& database, std::string& project, RoomFile& rooms) {
-    auto* file =
-        app.add_option("--database", database, "Database file of the project")->type_name("FILE");
-    auto* name = app.add_option("--project", project, "Name of the project")->type_name("NAME");
-    auto* csv =
-        app.add_option("--rooms", rooms.Path, "CSV file with the rooms")->type_name("FILE.csv");
+    auto* file = app.add_option("--database", database, Words("Database file of the project"))
+                     ->type_name("FILE");
+    auto* name =
+        app.add_option("--project", project, Words("Name of the project"))->type_name("NAME");
+    auto* csv = app.add_option("--rooms", rooms.Path, Words("CSV file with the rooms"))
+                    ->type_name("FILE.csv");
     file->needs(name);
     name->needs(file);
     csv->excludes(file)->excludes(name);

@@ -14,6 +14,14 @@ class Option;
 
 namespace tarn {
 
+/// Put the language in force that the arguments ask for with --language, else `chosen` where that
+/// is a language: first of all, since options are described in it. What is no language is refused
+/// when the arguments are parsed (PrepareHelp).
+void SpeakAsAsked(int argc, const char* const* argv, std::string_view chosen = {});
+
+/// Add --language, and have `app` give its help in the language in force: before any option.
+void PrepareHelp(CLI::App& app);
+
 /// A file of rooms, and how it is written.
 struct RoomFile {
     std::string Path;

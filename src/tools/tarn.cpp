@@ -1,4 +1,3 @@
-#include "base/Version.h"
 #include "base/Words.h"
 #include "paper/SystemPrinter.h"
 #include "screens/Display.h"
@@ -9,6 +8,9 @@
 #include "screens/ToolkitWords.h"
 #include "store/Configuration.h"
 #include "tools/ExitStatus.h"
+#include "tools/ProgramOptions.h"
+#include "tools/ProgramVersion.h"
+#include "tools/ProjectFile.h"
 #include "tools/SharedOptions.h"
 #include "tools/StandardStreams.h"
 
@@ -21,29 +23,18 @@
 
 namespace {
 
-tarn::RoomSource RoomsOfFile(const std::string& path) {
-    const std::filesystem::path file(path);
+tarn::RoomSource RoomsOfFile(const tarn::RoomFile& rooms) {
+    const std::filesystem::path file(rooms.Path);
     return {file.filename().string(), file.stem().string(),
-            [path](tarn::Units units) { return tarn::ReadRoomFile(path, units); }};
+            [rooms](tarn::Units units) { return tarn::ReadRoomFile(rooms, units); }};
 }
 
 int Run(int argc, char* argv[]) {
     tarn::SpeakAsAsked(argc, argv, tarn::Preferences(tarn::UserPreferencesFile()).Language());
-    CLI::App options{tarn::Words("Estimate how carpets are cut from the roll."), "tarn"};
-    tarn::PrepareHelp(options);
-    std::string configDirectory;
-    options.set_version_flag("--version", tarn::VersionText("tarn"),
-                             tarn::Words("Display program version information and exit"));
-    const CLI::Option* givenDirectory =
-        options
-            .add_option(
-                "--config-dir", configDirectory,
-                tarn::Words("Directory of the configuration file %1", tarn::ConfigurationFileName))
-            ->type_name("DIR");
-    try {
-        options.parse(argc, argv);
-    } catch (const CLI::ParseError& error) {
-        return tarn::ExplainArguments(options, error);
+    int status = 0;
+    const auto options = tarn::ReadProgramOptions(argc, argv, status);
+    if (!options) {
+        return status;
     }
 
     QApplication application(argc, argv);
@@ -65,7 +56,7 @@ int Run(int argc, char* argv[]) {
     tarn::Program program(boxes, printer);
     boxes.SetParent(&program.Window());
 
-    if (!options->Rooms.empty()) {
+    if (!options->Rooms.Path.empty()) {
         program.OfferRooms(RoomsOfFile(options->Rooms));
     }
     auto directories = tarn::ConfigurationDirectories();

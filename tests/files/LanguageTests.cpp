@@ -145,8 +145,8 @@ TEST_P(Translations, AreSpoken) {
 
 /// All that is written for programs of rooms that give notes, refusals and several kinds of pieces.
 std::string ForPrograms(std::string& forPeople) {
-    Project project = testing::ProjectOf(
-        std::vector<testing::RoomSides>{{145, 200}, {100, 120}, {150, 240}});
+    Project project =
+        testing::ProjectOf(std::vector<testing::RoomSides>{{145, 200}, {100, 120}, {150, 240}});
     project.Name = "HOUSE";
     project.Rooms[0].Remark = "hall";
     OrderRequest request = testing::RequestFor(144);

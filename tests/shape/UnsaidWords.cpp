@@ -30,8 +30,15 @@ constexpr std::array Exceptions{
     Exception{"files/DatabaseFormat.cpp", "(SQLite format|Standard (Jet|ACE)).*"},
     Exception{"files/(ReportSvg|Svg|SvgElements).cpp", "[^]*[<=][^]*"},
     Exception{"screens/(Theme|projects/ProjectPanels).cpp", "[^]*: [^]*;[^]*"},
+    Exception{"files/Dxf.cpp", "Solid line|Lengths are (inches|centimetres)"},
+    // heads of columns, which programs read
+    Exception{"files/(RoomHeadings|ProjectTables).cpp", "[a-z ]+"},
     // fonts
     Exception{"paper/FixedPitchFont.cpp", "[A-Z][A-Za-z ]+"},
+    // what is wrong in a room's file, a part of which programs read
+    Exception{"files/RoomCsv.cpp", "[^]*"},
+    // pages about the programs that are made when they are built, in English, and marks of builds
+    Exception{"tools/(reference/.*|ProgramVersion.cpp)", "[^]*"},
     // names of an order's options
     Exception{"(project|screens/order|tools)/.*",
               "(trim|pattern) (along|across)|shortest part|half drop|pattern drift"},

@@ -42,7 +42,7 @@ void SaveEstimateAsSvg(Session& session, const Drawing& drawing, const std::stri
 }
 
 void SaveEstimateAsDxf(Session& session, const Estimate& estimate) {
-    SaveAs(session.Boxes, session.Project.Now.Name, "dxf", [&](const std::string& path) {
+    SaveAs(session, session.Project.Now.Name, "dxf", [&](const std::string& path) {
         WriteOutputFile(path, EstimateDxf(estimate, session.Project.Now));
     });
 }

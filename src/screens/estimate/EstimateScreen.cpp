@@ -226,9 +226,9 @@ void EstimateScreen::BuildFileMenus() {
             [rollMenu, &roll](QPoint at) { rollMenu->popup(roll.viewport()->mapToGlobal(at)); });
 }
 
-void EstimateScreen::AddToMenu(QMenu& menu, const char* name, const char* caption,
+void EstimateScreen::AddToMenu(QMenu& menu, const char* name, std::string_view caption,
                                std::function<void()> save) {
-    QAction* action = menu.addAction(QString::fromLatin1(caption));
+    QAction* action = menu.addAction(ToQt(caption));
     action->setObjectName(name);
     connect(action, &QAction::triggered, this,
             [this, save = std::move(save)] { Guard(PictureFailure, save); });

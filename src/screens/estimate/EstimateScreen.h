@@ -62,7 +62,8 @@ class EstimateScreen : public Screen, public EstimateClient {
     QHBoxLayout* BuildStatus();
     QVBoxLayout* BuildButtons();
     void BuildFileMenus();
-    void AddToMenu(QMenu& menu, const char* name, const char* caption, std::function<void()> save);
+    void AddToMenu(QMenu& menu, const char* name, std::string_view caption,
+                   std::function<void()> save);
     void Connect();
     void ConnectKeys();
     std::array<QPushButton*, 8> Buttons() const;

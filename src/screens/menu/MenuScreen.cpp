@@ -43,8 +43,8 @@ std::string DraftTime(const QDateTime& written, const QDate& today) {
 /// What a draft has, in a word.
 std::string ContentText(const Draft& draft) {
     if (!draft.Rooms) {
-        return draft.Orders ? Words("the choices of an order")
-                            : Words("a room that was being typed");
+        const bool isOrder = draft.Orders || draft.Typed.IsEmpty();
+        return isOrder ? Words("the choices of an order") : Words("a room that was being typed");
     }
     const std::size_t rooms = draft.Rooms->size();
     return CountedWords("%n room", "%n rooms", static_cast<long long>(rooms));
@@ -237,7 +237,7 @@ void MenuScreen::TakeBack(std::size_t place) {
     const KeptDraft draft = offered_.at(place);
     const std::string time = DraftTime(draft.Record.Written, Shared().Today());
     Shared().History.Do(
-        AnyRoom, [&] { Shared().Drafts.TakeBack(draft); }, Words("Take back rooms of %1", time));
+        AnyRoom, [&] { Shared().Drafts.TakeBack(draft); }, Words("take back rooms of %1", time));
     enterRooms_->setFocus(); // before the button goes
     ShowProject();
 }

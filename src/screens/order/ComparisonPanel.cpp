@@ -128,7 +128,8 @@ ComparisonPanel::ComparisonPanel(QWidget* parent)
     : QWidget(parent) {
     setObjectName(Controls::comparisonPanel);
     taken_ = NewLine(this, Controls::comparisonTaken, TextRole::Heading);
-    table_ = new RowsHighTable(this);
+    rule_ = NewLine(this, Controls::comparisonRule, TextRole::Hint);
+    table_ = new ComparisonTable(this);
     NameControl(*table_, Controls::comparison, ToQt(Words("Comparison of rolls and lays")));
     table_->setTabKeyNavigation(false); // it leads on to the next control
     table_->setEditTriggers(QAbstractItemView::NoEditTriggers);

@@ -28,6 +28,7 @@ namespace {
 
 constexpr double FieldWidth = 1150; ///< twips
 constexpr int LongestText = 20;     ///< characters of a field
+constexpr int RefusalLines = 2;     ///< kept free, so that nothing jumps
 constexpr auto PatternHint = Words(
     "Across is the distance to the next column of the pattern. With a half drop, which sets it "
     "half a repeat further along, that is half the repeat of makers who name the whole design.");

@@ -52,7 +52,7 @@ const std::array<OrderFile, 7>& OrderFiles() {
           [](const Session&, Document document) { return OrderCsv(document); }},
          {Words("Save as &text"), "txt",
           [](const Session&, Document document) { return OrderText(document); }},
-         {"Save as &JSON", "json",
+         {Words("Save as &JSON"), "json",
           [](const Session&, Document document) { return OrderJson(document); }},
          {SaveAsDxfCaption, "dxf",
           [](const Session&, Document document) { return OrderDxf(document); }}}};

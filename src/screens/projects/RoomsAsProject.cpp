@@ -1,6 +1,7 @@
 #include "screens/projects/RoomsAsProject.h"
 
 #include "base/Text.h"
+#include "base/Words.h"
 #include "screens/Guard.h"
 #include "store/Names.h"
 #include "store/ProjectNames.h"
@@ -12,14 +13,14 @@ namespace tarn {
 
 namespace {
 
-const std::vector<std::string>& UnitActions() {
-    static const std::vector<std::string> actions{"Feet and inches", "Centimetres"};
-    return actions;
+std::vector<std::string> UnitActions() {
+    return {Words("Feet and inches"), Words("Centimetres")};
 }
 
 std::optional<Units> AskUnits(const RoomSource& source, Dialogs& boxes) {
-    const auto chosen = boxes.Choose("The rooms of " + source.Name + " become a new project." +
-                                         std::string(CrLf) + "What are their sizes in?",
+    const auto chosen = boxes.Choose(Words("The rooms of %1 become a new project.\r\n"
+                                           "What are their sizes in?",
+                                           source.Name),
                                      UnitActions());
     if (!chosen) {
         return std::nullopt;
@@ -37,11 +38,11 @@ std::string WithLineBreaks(const std::string& text) {
 
 /// The rooms; none after a message.
 std::vector<Room> ReadRooms(const RoomSource& source, Units units, Dialogs& boxes) {
-    const std::string failure = "No project is made of " + source.Name + ".";
+    const std::string failure = Words("No project is made of %1.", source.Name);
     try {
         std::vector<Room> rooms = source.Read(units);
         if (rooms.empty()) {
-            boxes.Message(failure, "There is no room in it.");
+            boxes.Message(failure, Words("There is no room in it."));
         }
         return rooms;
     } catch (const std::runtime_error& error) {
@@ -54,7 +55,7 @@ std::vector<Room> ReadRooms(const RoomSource& source, Units units, Dialogs& boxe
 std::optional<std::string> AskProject(const RoomSource& source, Session& session) {
     std::string typed = FittingNameText(PastedNameText(source.Project).Text, 0);
     for (;;) {
-        const auto answer = session.Boxes.Input("Name of the project:", typed);
+        const auto answer = session.Boxes.Input(Words("Name of the project:"), typed);
         const std::string name = StoredName(answer.value_or(std::string()));
         if (name.empty()) {
             return std::nullopt;
@@ -90,7 +91,7 @@ void MakeProjectOf(const RoomSource& source, Session& session) {
     if (rooms.empty()) {
         return;
     }
-    Guarded(session.Boxes, "The project could not be made.", [&] {
+    Guarded(session.Boxes, Words("The project could not be made."), [&] {
         const auto name = AskProject(source, session);
         if (!name) {
             return;

@@ -119,11 +119,8 @@ class EstimateCharter {
             places_.Fills + static_cast<Double>(placed.Y), placed.Part.Room);
     }
 
-    static std::size_t RoomAt(const std::vector<std::size_t>& rooms, std::size_t number) {
-        return number < rooms.size() ? rooms[number] : 0;
-    }
-
-    void Add(ChartPiece piece, const SizeOnRoll& size, Double x, Double y, std::size_t room) {
+    void Add(ChartPiece piece, const SizeOnRoll& size, Double x, Double y, Integer ofRoom) {
+        const auto room = static_cast<std::size_t>(ofRoom);
         piece.Room = ShortRoomName(project_, room);
         piece.X = InUnit(x);
         piece.Y = InUnit(y);
@@ -154,10 +151,12 @@ class EstimateCharter {
     std::vector<std::size_t> rooms_; ///< of the pieces
 };
 
-/// A piece of an order in one line.
-std::string LineText(const CutLine& line) {
-    std::string text = Words("%1: %2  %3  from %4 to %5, across %6", line.Label, line.Size,
-                             line.Room, line.From, line.To, line.Across);
+/// A piece of an order in one line. Most pieces begin at the edge: that is not said.
+std::string LineText(const CutLine& line, bool isAtEdge) {
+    std::string text = isAtEdge ? Words("%1: %2  %3  %4 to %5", line.Label, line.Size, line.Room,
+                                        line.From, line.To)
+                                : Words("%1: %2  %3  %4 to %5, across %6", line.Label, line.Size,
+                                        line.Room, line.From, line.To, line.Across);
     for (const std::string& more : {line.Which, line.Match}) {
         if (!more.empty()) {
             text += ", " + more;

@@ -45,8 +45,8 @@ RoomListFrame::RoomListFrame(const OpenProject& project)
 void RoomListFrame::MakeMenu() {
     auto* menu = new QMenu(table_);
     menu->setObjectName(Controls::roomListMenu);
-    const auto add = [this, menu](const char* name, const char* caption, auto act) {
-        QAction* action = menu->addAction(QString::fromLatin1(caption));
+    const auto add = [this, menu](const char* name, Phrase caption, auto act) {
+        QAction* action = menu->addAction(ToQt(caption));
         action->setObjectName(name);
         connect(action, &QAction::triggered, this, act);
     };

@@ -40,14 +40,14 @@ const std::array<ReportFile, 4>& ReportFiles() {
     static const std::array<ReportFile, 4> files{
         {{Controls::reportAsXlsx, SaveAsXlsxCaption, "xlsx", WriteXlsx},
          // The letter C copies in that menu.
-         {Controls::reportAsCsv, "Save as CS&V", "csv", WriteCsv},
+         {Controls::reportAsCsv, Words("Save as CS&V"), "csv", WriteCsv},
          {Controls::reportAsPdf, SaveAsPdfCaption, "pdf", WritePdf},
          {Controls::reportAsSvg, SaveAsSvgCaption, "svg", WriteSvg}}};
     return files;
 }
 
 void SaveReportAs(const Session& session, const EnteredDataReport& report, const ReportFile& file) {
-    SaveAs(session.Boxes, session.Project.Now.Name, file.Suffix,
+    SaveAs(session, session.Project.Now.Name, file.Suffix,
            [&](const std::string& path) { file.Write(session, report, path); });
 }
 
@@ -64,11 +64,10 @@ const std::array<RoomListFile, 2>& RoomListFiles() {
 
 void SaveRoomListAs(const Session& session, const RoomListFile& file) {
     // Not the name under which the report is saved.
-    SaveAs(session.Boxes, session.Project.Now.Name + " ROOMS", file.Suffix,
-           [&](const std::string& path) {
-               const WaitCursor waiting;
-               WriteOutputFile(path, file.ContentOf(session));
-           });
+    SaveAs(session, session.Project.Now.Name + " ROOMS", file.Suffix, [&](const std::string& path) {
+        const WaitCursor waiting;
+        WriteOutputFile(path, file.ContentOf(session));
+    });
 }
 
 } // namespace tarn

@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include "base/Words.h"
 #include "project/Report.h"
 #include "screens/Session.h"
 
@@ -13,7 +14,7 @@ namespace tarn {
 /// A kind of file that the report is saved as.
 struct ReportFile {
     const char* Control; ///< see ControlNames.h
-    const char* Caption; ///< with its mnemonic
+    Phrase Caption;      ///< with its mnemonic
     const char* Suffix;
     /// May raise.
     void (*Write)(const Session& session, const EnteredDataReport& report, const std::string& path);
@@ -28,7 +29,7 @@ void SaveReportAs(const Session& session, const EnteredDataReport& report, const
 /// A kind of file that the list of the rooms is saved as.
 struct RoomListFile {
     const char* Control;
-    const char* Caption;
+    Phrase Caption;
     const char* Suffix;
     /// The whole content. May raise.
     std::string (*ContentOf)(const Session& session);

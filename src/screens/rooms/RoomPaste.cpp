@@ -29,13 +29,13 @@ RoomCsvReading ReadClipboardRooms(Units units, std::size_t most) {
     RoomCsvReading reading =
         ReadPastedRooms(FromQt(QGuiApplication::clipboard()->text()), units, most);
     if (reading.Succeeded() && reading.Rooms.empty()) {
-        reading.Errors.push_back({1, {}, {}, "there is no room below the headings"});
+        reading.Errors.push_back({1, {}, {}, Words("there is no room below the headings")});
     }
     return reading;
 }
 
 std::string NameOfPaste(std::size_t rooms) {
-    return "Paste " + TrimStr(static_cast<long long>(rooms)) + (rooms == 1 ? " room" : " rooms");
+    return CountedWords("paste %n room", "paste %n rooms", static_cast<long long>(rooms));
 }
 
 std::string WhyNotPasted(const RoomCsvReading& reading) {
@@ -50,7 +50,7 @@ std::string RoundedText(const RoomCsvReading& reading) {
     }
     const long long more = reading.MoreNotes + static_cast<long long>(reading.Notes.size() - told);
     if (more > 0) {
-        lines.push_back("and " + TrimStr(more) + " more");
+        lines.push_back(Words("and %1 more", TrimStr(more)));
     }
     return Joined(lines);
 }

@@ -2,6 +2,7 @@
 
 #include "base/RunTimeError.h"
 #include "base/Text.h"
+#include "base/Words.h"
 #include "files/QtText.h"
 #include "files/ShortDate.h"
 #include "project/Report.h"
@@ -39,16 +40,16 @@ namespace tarn {
 
 namespace {
 
-constexpr const char* NotStored = "The room could not be stored.";
-constexpr const char* ReportNotSaved = "The report could not be saved.";
-constexpr const char* NotClosed = "The screen could not be closed.";
-constexpr const char* NotDeleted = "The room could not be deleted.";
-constexpr const char* NotReported = "The report could not be made.";
-constexpr const char* NotPrinted = "The report could not be printed.";
-constexpr const char* NotUndone = "The rooms could not be put back.";
-constexpr const char* NotPasted = "The rooms could not be pasted.";
-constexpr const char* ListNotSaved = "The list of the rooms could not be saved.";
-constexpr const char* NotShown = "The rooms could not be shown.";
+constexpr auto NotStored = Words("The room could not be stored.");
+constexpr auto ReportNotSaved = Words("The report could not be saved.");
+constexpr auto NotClosed = Words("The screen could not be closed.");
+constexpr auto NotDeleted = Words("The room could not be deleted.");
+constexpr auto NotReported = Words("The report could not be made.");
+constexpr auto NotPrinted = Words("The report could not be printed.");
+constexpr auto NotUndone = Words("The rooms could not be put back.");
+constexpr auto NotPasted = Words("The rooms could not be pasted.");
+constexpr auto ListNotSaved = Words("The list of the rooms could not be saved.");
+constexpr auto NotShown = Words("The rooms could not be shown.");
 
 /// From which width of the window on the list may stand beside the form, twips.
 constexpr double WideWindow = 16500;
@@ -117,6 +118,7 @@ void RoomScreen::MakeMenu() {
     const QAction* paste = AddItem(undo_->Menu(), Controls::pasteRooms, PasteRoomsCaption);
     connect(paste, &QAction::triggered, this,
             [this] { RunCommand(NotPasted, [this] { PasteRooms(); }); });
+    AddHelpMenu();
 }
 
 void RoomScreen::MakeButtonsBelow() {
@@ -188,7 +190,7 @@ void RoomScreen::ConnectButtons() {
     report_->OnSave = [this](const ReportFile& file) {
         Guard(ReportNotSaved, [&] { SaveReportAs(Shared(), report_->Shown(), file); });
     };
-    OnClick(report_->Close(), "The report could not be closed.", [this] { CloseReport(); });
+    OnClick(report_->Close(), Words("The report could not be closed."), [this] { CloseReport(); });
 }
 
 void RoomScreen::ConnectList() {

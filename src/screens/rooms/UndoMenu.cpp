@@ -3,6 +3,7 @@
 #include "base/Words.h"
 #include "files/QtText.h"
 #include "screens/ControlNames.h"
+#include "screens/Controls.h"
 
 #include <QAction>
 #include <QKeyEvent>
@@ -40,9 +41,9 @@ QAction* AddItem(QMenu& menu, const char* name, const std::function<void()>& act
     return item;
 }
 
-void ShowItem(QAction& item, std::string_view caption, const std::string& name) {
-    const QString what = ToQt(name.empty() ? name : " " + name);
-    item.setText(ToQt(caption) + QString(what).replace(QLatin1Char('&'), QLatin1String("&&")));
+/// `what` has the name as %1; it is `caption` alone that is shown where there is none.
+void ShowItem(QAction& item, Phrase caption, Phrase what, const std::string& name) {
+    item.setText(ToQt(name.empty() ? std::string(caption) : Words(what, Unmarked(name))));
     item.setEnabled(!name.empty());
 }
 
@@ -51,8 +52,7 @@ void ShowItem(QAction& item, std::string_view caption, const std::string& name) 
 UndoMenu::UndoMenu(QMenuBar& menus, QObject* parent, const std::function<void()>& undo,
                    const std::function<void()>& redo)
     : QObject(parent) {
-    // Every letter of its name is taken on this screen.
-    menu_ = menus.addMenu(QStringLiteral("Edit"));
+    menu_ = menus.addMenu(ToQt(Words("&Undo")));
     menu_->setObjectName(Controls::editMenu);
     undo_ = AddItem(*menu_, Controls::undoRooms, undo);
     redo_ = AddItem(*menu_, Controls::redoRooms, redo);
@@ -66,8 +66,8 @@ void UndoMenu::Attend(EntryField& field) {
 }
 
 void UndoMenu::Show(const std::string& undo, const std::string& redo) {
-    ShowItem(*undo_, Words("&Undo"), undo);
-    ShowItem(*redo_, Words("&Redo"), redo);
+    ShowItem(*undo_, Words("&Undo"), Words("&Undo %1"), undo);
+    ShowItem(*redo_, Words("&Redo"), Words("&Redo %1"), redo);
 }
 
 bool UndoMenu::eventFilter(QObject* watched, QEvent* event) {

@@ -58,11 +58,11 @@ TEST_F(PastedRooms, AreOneStepOfUndo) {
     AddRooms(1);
     Open(1366, 768);
     PasteIntoTable(TwoRooms);
-    EXPECT_EQ(FromQt(Item(Controls::undoRooms).text()), "&Undo Paste 2 rooms");
+    EXPECT_EQ(FromQt(Item(Controls::undoRooms).text()), "&Undo paste 2 rooms");
     Press(*form, Qt::Key_Z, Qt::ControlModifier);
     EXPECT_EQ(open.Now.Rooms.size(), 1U);
     EXPECT_FALSE(open.HasUnsavedRooms());
-    EXPECT_EQ(FromQt(Item(Controls::redoRooms).text()), "&Redo Paste 2 rooms");
+    EXPECT_EQ(FromQt(Item(Controls::redoRooms).text()), "&Redo paste 2 rooms");
     Press(*form, Qt::Key_Y, Qt::ControlModifier);
     EXPECT_EQ(open.Now.Rooms.size(), 3U);
 }
@@ -75,7 +75,7 @@ TEST_F(PastedRooms, ArePastedByTheEditMenuFromTheForm) {
     menu.popup(form->mapToGlobal(QPoint(5, 5)));
     QTest::keyClick(&menu, Qt::Key_P);
     EXPECT_EQ(open.Now.Rooms, (std::vector<Room>{{1, 2, 0, 0, "", ""}}));
-    EXPECT_EQ(FromQt(Item(Controls::undoRooms).text()), "&Undo Paste 1 room");
+    EXPECT_EQ(FromQt(Item(Controls::undoRooms).text()), "&Undo paste 1 room");
     EXPECT_EQ(RoomScreenTest::Item(), "1");
 }
 
