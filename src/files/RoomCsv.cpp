@@ -341,8 +341,8 @@ class RoomCsvReader {
     /// What was copied in a spreadsheet.
     RoomCsvReading ReadPasted(std::string_view text) && {
         if (text.size() > MaxRoomCsvBytes) {
-            AddError(1, "the text has more than " + Counted(MaxRoomCsvBytes / (1024U * 1024U)) +
-                            " MB");
+            AddError(1, "the text has more than " +
+                            Counted(MaxRoomCsvBytes / (std::size_t{1024} * 1024)) + " MB");
             return std::move(reading_);
         }
         const std::string_view line =
