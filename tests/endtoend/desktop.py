@@ -38,8 +38,9 @@ class NotFound(AssertionError):
     """The program does not show what a user would look for."""
 
 
-def wait_for(condition, what):
-    """Call `condition` until it answers something true, and answer that."""
+def wait_for(condition, what, found_instead=lambda: ""):
+    """Call `condition` until it answers something true, and answer that. When it never does, the
+    error tells `what` was waited for, and what was found instead."""
     end = time.monotonic() + PATIENCE
     while time.monotonic() < end:
         while GLib.MainContext.default().iteration(False):
@@ -51,7 +52,7 @@ def wait_for(condition, what):
         if found:
             return found
         time.sleep(0.03)
-    raise NotFound("waited in vain for " + what)
+    raise NotFound(f"waited in vain for {what}{found_instead()}")
 
 
 def states(accessible):
@@ -279,11 +280,24 @@ class Program:
         field = self.see("text", name, position)
         self.click_on(field)
         wait_for(lambda: "focused" in states(field), f"the focus on {name!r}")
-        self.key("End")
-        for _ in text_of(field):
-            self.key("BackSpace")
+        # A window manager may hand on the click when keys have already come to a field that had the
+        # focus before.
+        wait_for(lambda: self.emptied(field), f"{name!r} to be empty")
         self.type(text)
-        wait_for(lambda: text_of(field) == text, f"{text!r} in {name!r}")
+        wait_for(
+            lambda: text_of(field) == text,
+            f"{text!r} in {name!r}",
+            lambda: f": it has {text_of(field)!r}, the focus is on {self.focused()!r}",
+        )
+
+    def emptied(self, field):
+        """Whether it is, after another attempt."""
+        left = text_of(field)
+        if left:
+            self.key("End")
+            for _ in left:
+                self.key("BackSpace")
+        return not text_of(field)
 
     def key(self, name):
         pyatspi.Registry.generateKeyboardEvent(KEYS[name], None, pyatspi.KEY_SYM)
