@@ -19,7 +19,7 @@ class FirstTable : public OrderObserver {
     bool Progress(const Order& soFar, bool /*changed*/) override {
         bool all = true;
         for (const OrderCandidate& row : soFar.Candidates) {
-            all = all && (row.Figures || !row.Refused.empty());
+            all = all && (row.Figures || !row.Refused.IsEmpty());
         }
         if (all) {
             Seconds = std::chrono::duration<Double>(Clock::now() - begin_).count();

@@ -26,6 +26,11 @@ constexpr int PartsAcross = 28;
 constexpr double PartWidth = 5; ///< inches
 constexpr double PartLength = 10;
 
+/// Which row of parts along the roll a part is in; how many rows, for the number of parts.
+int Row(int part) {
+    return part / PartsAcross;
+}
+
 /// A benchmark has nobody to tell.
 class NoBoxes : public Dialogs {
   public:
@@ -58,13 +63,13 @@ RollChart ChartOfParts() {
         piece.Room = std::to_string(100 + i % 500);
         piece.Tint = static_cast<std::size_t>(i % 8);
         piece.X = PartWidth * (i % PartsAcross);
-        piece.Y = PartLength * (i / PartsAcross);
+        piece.Y = PartLength * Row(i);
         piece.Width = PartWidth;
         piece.Length = PartLength;
         chart.Pieces.push_back(piece);
         chart.LeftOver.push_back({piece.X, piece.Y + PartLength - 2, PartWidth, 2});
     }
-    chart.Length = PartLength * (Parts / PartsAcross);
+    chart.Length = PartLength * Row(Parts);
     return chart;
 }
 
@@ -73,7 +78,7 @@ Drawing DrawingOfParts() {
     Drawing drawing;
     for (int i = 0; i < Parts; ++i) {
         const double x = 7500 + TwipsPerInch * PartWidth * (i % PartsAcross);
-        const double y = 500 + TwipsPerInch * PartLength * (i / PartsAcross);
+        const double y = 500 + TwipsPerInch * PartLength * Row(i);
         drawing.AddBox(x, y, x + TwipsPerInch * PartWidth, y + TwipsPerInch * PartLength,
                        DrawingColor::Red, "AA: 2'0\" X 2'6\"");
         drawing.PenX = x + 300;

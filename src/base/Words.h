@@ -100,7 +100,7 @@ struct Saying {
         : English(same)
         , Shown(same) {}
 
-    bool empty() const { return English.empty(); }
+    bool IsEmpty() const { return English.empty(); }
     bool operator==(const Saying&) const = default;
     bool operator==(const char* english) const { return English == english; }
 };

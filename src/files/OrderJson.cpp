@@ -62,7 +62,7 @@ QJsonObject CandidateObject(const Order& order, const OrderCandidate& candidate)
     object.insert(QStringLiteral("rollWidth"), candidate.RollWidth);
     object.insert(QStringLiteral("usableWidth"), candidate.UsableWidth);
     object.insert(QStringLiteral("lay"), QString::fromLatin1(LayWord(candidate.Direction)));
-    object.insert(QStringLiteral("refused"), candidate.Refused.empty()
+    object.insert(QStringLiteral("refused"), candidate.Refused.IsEmpty()
                                                  ? QJsonValue()
                                                  : QJsonValue(ToQt(candidate.Refused.English)));
     return object;

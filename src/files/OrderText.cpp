@@ -59,7 +59,7 @@ std::string ComparisonText(const Order& order) {
 std::string RefusalText(const Order& order) {
     std::string text;
     for (const OrderCandidate& candidate : order.Candidates) {
-        if (!candidate.Refused.empty()) {
+        if (!candidate.Refused.IsEmpty()) {
             text += CandidateName(order, candidate) + ": " + candidate.Refused.Shown + '\n';
         }
     }

@@ -54,7 +54,7 @@ class CandidateCheck {
             Require(row_.Pieces.empty(), Words("there are pieces without figures"));
             return;
         }
-        Require(row_.Refused.empty(), Words("a refused row has figures"));
+        Require(row_.Refused.IsEmpty(), Words("a refused row has figures"));
         WantStrips();
         CheckOrderOfPieces();
         for (const OrderPiece& piece : row_.Pieces) {

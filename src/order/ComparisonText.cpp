@@ -29,7 +29,7 @@ std::vector<std::string> ComparisonCells(const Order& order, const OrderCandidat
     std::vector<std::string> cells{RollName(order.Request.Rolls.at(candidate.Roll)),
                                    std::string(LayName(candidate.Direction))};
     if (!candidate.Figures) {
-        cells.emplace_back(candidate.Refused.empty() ? Phrase() : Words("refused"));
+        cells.emplace_back(candidate.Refused.IsEmpty() ? Phrase() : Words("refused"));
         cells.resize(ComparisonHeads(units).size());
         return cells;
     }

@@ -91,7 +91,7 @@ class OrderMaker {
         OrderStrips strips =
             StripsOf(project_, order_.Carpet, order_.Request, candidate.UsableWidth, lay);
         candidate.Refused = strips.Refused;
-        if (strips.Refused.empty() && !strips.Strips.empty()) {
+        if (strips.Refused.IsEmpty() && !strips.Strips.empty()) {
             rows_.push_back(std::make_unique<Row>(
                 Row{order_.Candidates.size(),
                     RowLayout(std::move(strips.Strips), order_.Request, candidate.UsableWidth)}));

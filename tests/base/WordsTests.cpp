@@ -103,8 +103,8 @@ TEST(Said, IsInBoth) {
     const Saying saying = Said([] { return Words("from %1 to %2", Back, Back); });
     EXPECT_EQ(saying.English, "from BACK to BACK");
     EXPECT_EQ(saying.Shown, "bis ZURÜCK ab ZURÜCK");
-    EXPECT_FALSE(saying.empty());
-    EXPECT_TRUE(Saying().empty());
+    EXPECT_FALSE(saying.IsEmpty());
+    EXPECT_TRUE(Saying().IsEmpty());
     EXPECT_EQ(Back, "ZURÜCK"); // no longer in English
 }
 

@@ -146,7 +146,7 @@ void RoomScreen::MakeButtonsBelow() {
 }
 
 void RoomScreen::MakeKeys() {
-    const auto add = [this](QKeySequence key, Phrase failure, void (RoomScreen::*act)()) {
+    const auto add = [this](const QKeySequence& key, Phrase failure, void (RoomScreen::*act)()) {
         auto* shortcut = new QShortcut(key, this);
         shortcut->setAutoRepeat(false);
         connect(shortcut, &QShortcut::activated, this,
@@ -371,7 +371,7 @@ StoreResult RoomScreen::StoreFields() {
 }
 
 StoreResult RoomScreen::StoreShownRoom() {
-    const StoreResult result = StoreFields();
+    StoreResult result = StoreFields();
     if (result.What == StoreResult::Outcome::OneSizeMissing) {
         SayWhyNotStored(result);
     }
@@ -406,7 +406,7 @@ StoreResult RoomScreen::WithRoomStored(const std::function<void()>& action) {
     Project before = Shared().Project.Now;
     RoomDraft untouched = untouched_;
     const int steps = Shared().History.Position();
-    const StoreResult result = StoreShownRoom();
+    StoreResult result = StoreShownRoom();
     if (result.Stops()) {
         return result;
     }
