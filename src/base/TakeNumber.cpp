@@ -1,5 +1,7 @@
 #include "base/TakeNumber.h"
 
+#include "base/Text.h"
+
 #include <algorithm>
 
 namespace tarn {
@@ -7,8 +9,7 @@ namespace tarn {
 namespace {
 
 std::size_t DigitsAt(std::string_view text, std::size_t from) {
-    constexpr std::string_view Digits = "0123456789";
-    return std::min(text.find_first_not_of(Digits, from), text.size()) - from;
+    return std::min(text.find_first_not_of(DecimalDigits, from), text.size()) - from;
 }
 
 std::size_t NumberLength(std::string_view text) {

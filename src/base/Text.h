@@ -13,6 +13,9 @@ inline constexpr std::string_view CrLf = "\r\n";
 /// The application's title: product title of every screen, title of every box.
 inline constexpr std::string_view ApplicationTitle = "SOLVANE 2040";
 
+/// The digits of decimal numbers.
+inline constexpr std::string_view DecimalDigits = "0123456789";
+
 /// The decimal text of a whole number, without blanks.
 std::string TrimStr(long long value);
 /// `text` without the blanks at both ends.

@@ -20,7 +20,7 @@ std::string LengthHead(std::string_view name, Units units) {
     return std::string(name) + (units == Units::Metric ? " (cm)" : " (in)");
 }
 
-TableCell Whole(long long number) {
+TableCell WholeCell(long long number) {
     return static_cast<std::int64_t>(number);
 }
 
@@ -43,7 +43,7 @@ ValueTable TotalTable(const Project& project, Units shown) {
     }
     for (const CoveringTotal& total : TotalsByCovering(project.Rooms, project.Rooms.size(), {})) {
         std::vector<TableCell> row{CoveringCaption(total.Covering),
-                                   Whole(static_cast<long long>(total.Rooms))};
+                                   WholeCell(static_cast<long long>(total.Rooms))};
         for (const AreaColumn& column : AreaColumns(shown)) {
             row.emplace_back(static_cast<double>(total.Area) / column.Unit);
         }
@@ -65,9 +65,9 @@ ValueTable ReportTable(const Project& project, Units shown) {
         ++item;
         const double size = static_cast<double>(room.Width) * room.Length;
         table.Rows.push_back(
-            {Whole(item), Whole(room.Width), Whole(room.Length), size / area.Unit,
+            {WholeCell(item), WholeCell(room.Width), WholeCell(room.Length), size / area.Unit,
              CoveringCaption(room.Covering), BaseText(room.Base),
-             room.Base == 0 ? TableCell() : Whole(ReportedBaseLength(room, item, shown)),
+             room.Base == 0 ? TableCell() : WholeCell(ReportedBaseLength(room, item, shown)),
              room.Number, room.Remark});
     }
     return table;
@@ -81,8 +81,9 @@ std::vector<ValueTable> RoomTables(const Project& project, Units shown) {
                                             : std::string(NameOf(field)));
     }
     for (const Room& room : project.Rooms) {
-        table.Rows.push_back({Whole(room.Width), Whole(room.Length), CoveringCaption(room.Covering),
-                              BaseText(room.Base), room.Number, room.Remark});
+        table.Rows.push_back({WholeCell(room.Width), WholeCell(room.Length),
+                              CoveringCaption(room.Covering), BaseText(room.Base), room.Number,
+                              room.Remark});
     }
     return {std::move(table), TotalTable(project, shown)};
 }

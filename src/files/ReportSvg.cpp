@@ -17,7 +17,7 @@ constexpr Double LineHeight = CourierLineHeight * ReportTypeSize;
 constexpr Double Ascent = CourierAscent * ReportTypeSize;
 constexpr Double Margin = 360;
 
-Double WidthOf(std::string_view line) {
+Double LineWidth(std::string_view line) {
     return static_cast<Double>(Len(line)) * Advance;
 }
 
@@ -27,7 +27,7 @@ std::string TextElement(std::string_view line, Double top) {
     std::string element = "<text xml:space=\"preserve\"" + SvgAttribute("x", SvgNumber(Margin)) +
                           SvgAttribute("y", SvgNumber(top + Ascent));
     if (!line.empty()) {
-        element += SvgAttribute("textLength", SvgNumber(WidthOf(line))) +
+        element += SvgAttribute("textLength", SvgNumber(LineWidth(line))) +
                    " lengthAdjust=\"spacingAndGlyphs\"";
     }
     return element + ">" + SvgEscaped(line) + "</text>\n";
@@ -38,7 +38,7 @@ std::string TextElement(std::string_view line, Double top) {
 std::string ReportSvg(const EnteredDataReport& report) {
     Double width = 0;
     for (const ReportLine& line : report.Lines) {
-        width = std::max(width, WidthOf(line.Text));
+        width = std::max(width, LineWidth(line.Text));
     }
     std::string svg =
         SvgHead(width + 2 * Margin,

@@ -27,10 +27,9 @@ namespace tarn {
 namespace {
 
 constexpr std::string_view SaveAsUtf8 = "; save it as UTF-8 (\"CSV UTF-8\" in a spreadsheet)";
-constexpr std::string_view Digits = "0123456789";
 
 bool IsDigits(std::string_view text) {
-    return !text.empty() && text.find_first_not_of(Digits) == std::string_view::npos;
+    return !text.empty() && text.find_first_not_of(DecimalDigits) == std::string_view::npos;
 }
 
 std::string Counted(std::size_t count) {
@@ -531,7 +530,7 @@ class RoomCsvReader {
 std::string Shown(std::string_view value) {
     constexpr std::size_t Most = 40; // characters, of which those beyond U+FFFF count twice
     constexpr unsigned char FirstOfFourBytes = 0xF0;
-    const std::string line = WellFormedText(OneLine(value));
+    std::string line = WellFormedText(OneLine(value));
     std::size_t count = 0;
     for (std::size_t at = 0; at < line.size(); ++at) {
         if (ContinuesCharacter(line[at])) {

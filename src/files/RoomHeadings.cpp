@@ -11,7 +11,7 @@ namespace tarn {
 
 namespace {
 
-using Words = std::vector<std::string>;
+using HeadingWords = std::vector<std::string>;
 
 /// The usual headings, each by its words in the singular.
 constexpr std::array<std::pair<std::string_view, RoomField>, 19> UsualHeadings{{
@@ -44,9 +44,9 @@ bool IsOfWord(char c) {
            (c >= 'a' && c <= 'z') || c == '#' || c == '\'' || c == '"';
 }
 
-Words WordsOf(std::string_view text) {
+HeadingWords WordsOf(std::string_view text) {
     constexpr std::string_view NoBreakSpace = "\xC2\xA0";
-    Words words;
+    HeadingWords words;
     bool isInWord = false;
     while (!text.empty()) {
         if (text.starts_with(NoBreakSpace)) {
@@ -74,8 +74,8 @@ bool IsSameWord(std::string_view word, std::string_view singular) {
 }
 
 /// How many of the words a heading has when they begin with all of its; else 0.
-std::size_t CountOf(const Words& words, std::string_view heading) {
-    const Words wanted = WordsOf(heading);
+std::size_t CountOf(const HeadingWords& words, std::string_view heading) {
+    const HeadingWords wanted = WordsOf(heading);
     const bool begins =
         words.size() >= wanted.size() && std::equal(wanted.begin(), wanted.end(), words.begin(),
                                                     [](const auto& singular, const auto& word) {
@@ -85,7 +85,7 @@ std::size_t CountOf(const Words& words, std::string_view heading) {
 }
 
 /// The unit that the words from `first` on name: "ft", "in ft", "in".
-std::optional<LengthUnit> UnitOf(const Words& words, std::size_t first) {
+std::optional<LengthUnit> UnitOf(const HeadingWords& words, std::size_t first) {
     if (words.size() == first + 2 && EqualsIgnoringCase(words[first], "in")) {
         ++first;
     }
@@ -95,7 +95,7 @@ std::optional<LengthUnit> UnitOf(const Words& words, std::size_t first) {
 } // namespace
 
 std::optional<RoomHeading> ReadRoomHeading(std::string_view text) {
-    const Words words = WordsOf(text);
+    const HeadingWords words = WordsOf(text);
     for (const auto& [heading, field] : UsualHeadings) {
         const std::size_t count = CountOf(words, heading);
         if (count > 0 && count == words.size()) {

@@ -17,13 +17,13 @@ namespace fs = std::filesystem;
 
 constexpr std::string_view NameEnd = ".part";
 constexpr std::size_t NameDigits = 16;
-constexpr std::string_view Digits = "0123456789abcdef";
+constexpr std::string_view HexadecimalDigits = "0123456789abcdef";
 
 std::string NewName() {
     static std::random_device random;
     std::string name(InMakingStart);
     for (std::size_t i = 0; i < NameDigits; ++i) {
-        name += Digits[random() % Digits.size()];
+        name += HexadecimalDigits[random() % HexadecimalDigits.size()];
     }
     return name.append(NameEnd);
 }
@@ -31,7 +31,7 @@ std::string NewName() {
 bool IsNameOfOne(std::string_view name) {
     return name.size() == InMakingStart.size() + NameDigits + NameEnd.size() &&
            name.starts_with(InMakingStart) && name.ends_with(NameEnd) &&
-           name.substr(InMakingStart.size(), NameDigits).find_first_not_of(Digits) ==
+           name.substr(InMakingStart.size(), NameDigits).find_first_not_of(HexadecimalDigits) ==
                std::string_view::npos;
 }
 

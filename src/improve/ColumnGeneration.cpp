@@ -21,7 +21,7 @@ constexpr std::size_t FewFills = 80;    ///< up to here every fill has a row of 
 constexpr Long LargestWidth = 4000;     ///< widths are rounded down to fit below
 constexpr Long LargestInColumns = 1000; ///< width up to which columns of a pattern are looked at
 constexpr Double PriceScale = 1e6;      ///< prices in whole numbers
-constexpr Double Negligible = 1e-6;
+constexpr Double NegligibleGain = 1e-6;
 constexpr std::size_t ColumnsPerRow = 12; ///< a limit on the cross sections tried
 
 /// Fills that are counted together: those of one width in a large job.
@@ -136,7 +136,7 @@ Long BarRelaxationBound(const ImproveJob& job, Long known, const std::function<b
         if (!simplex.RemoveNegativePrices(rows.size(), goOn)) {
             break;
         }
-        if (simplex.Total() <= known + Negligible) {
+        if (simplex.Total() <= known + NegligibleGain) {
             break; // the least length of cross sections only gets less from here
         }
         const std::vector<Double> prices = simplex.Prices();

@@ -6,7 +6,7 @@ namespace tarn {
 
 namespace {
 
-constexpr Double Negligible = 1e-9;
+constexpr Double Tolerance = 1e-9;
 
 } // namespace
 
@@ -51,7 +51,7 @@ bool CoveringSimplex::RemoveNegativePrices(std::size_t most, const std::function
         for (std::size_t row = 1; row < rows_; ++row) {
             lowest = prices[row] < prices[lowest] ? row : lowest;
         }
-        if (prices[lowest] >= -Negligible) {
+        if (prices[lowest] >= -Tolerance) {
             return true;
         }
         // The surplus of that row enters: what is laid beyond the demand costs nothing.
@@ -77,7 +77,7 @@ bool CoveringSimplex::EnterColumn(const std::vector<Double>& column, Double cost
     }
     std::size_t leaving = rows_;
     for (std::size_t row = 0; row < rows_; ++row) {
-        if (change[row] > Negligible &&
+        if (change[row] > Tolerance &&
             (leaving == rows_ || amount_[row] * change[leaving] < amount_[leaving] * change[row])) {
             leaving = row;
         }

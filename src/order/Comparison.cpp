@@ -20,7 +20,6 @@ constexpr Long NarrowFillCentimetres = 15;
 constexpr std::array<Long, 4> StandardMetricRolls{183, 366, 411, 457};
 
 constexpr Double InchesInSquareYard = 1296;
-constexpr Double CentimetresInSquareMetre = 10000;
 
 /// A sum of money with two places, halves away from zero.
 Double RoundedPrice(Double price) {

@@ -5,7 +5,6 @@ namespace tarn {
 namespace {
 
 constexpr Double InchesInSquareFoot = 144;
-constexpr Double CentimetresInSquareMetre = 10000;
 
 } // namespace
 

@@ -85,6 +85,8 @@ struct Order {
 /// The label of the piece of that number, from 0: A .. Z, AA .. ZZ, AAA ..
 std::string PieceLabel(std::size_t number);
 
+inline constexpr Double CentimetresInSquareMetre = 10000;
+
 /// Square units as square feet, or square metres.
 Double OrderArea(std::int64_t squareUnits, Units units);
 

@@ -11,12 +11,11 @@ namespace tarn {
 namespace {
 
 bool HasBlankBetweenDigits(std::string_view text) {
-    constexpr std::string_view Digits = "0123456789";
-    const std::size_t first = text.find_first_of(Digits);
+    const std::size_t first = text.find_first_of(DecimalDigits);
     if (first == std::string_view::npos) {
         return false;
     }
-    const std::size_t last = text.find_last_of(Digits);
+    const std::size_t last = text.find_last_of(DecimalDigits);
     return text.substr(first, last - first).find_first_of(" \t") != std::string_view::npos;
 }
 

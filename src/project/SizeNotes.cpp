@@ -15,7 +15,6 @@ namespace tarn {
 
 namespace {
 
-constexpr std::string_view Digits = "0123456789";
 constexpr auto SignNotTaken = Words("A sign is not taken");
 
 bool IsSign(char c) {
@@ -37,7 +36,7 @@ std::string Meant(std::string_view typed) {
     const std::size_t point = typed.find_last_of(",.");
     std::string number;
     for (std::size_t i = 0; i < typed.size(); ++i) {
-        if (Digits.find(typed[i]) != std::string_view::npos) {
+        if (DecimalDigits.find(typed[i]) != std::string_view::npos) {
             number += typed[i];
         } else if (i == point && i + 1 < typed.size()) {
             number += number.empty() ? "0." : ".";
@@ -139,7 +138,11 @@ std::string Listed(const std::vector<std::size_t>& numbers) {
     for (std::size_t i = 0; i < shown; ++i) {
         const bool isLast = i > 0 && i + 1 == shown && more == 0;
         const std::string number = TrimStr(static_cast<long long>(numbers[i]));
-        list = isLast ? Words("%1 and %2", list, number) : list + (i == 0 ? "" : ", ") + number;
+        if (isLast) {
+            list = Words("%1 and %2", list, number);
+        } else {
+            list += (i == 0 ? "" : ", ") + number;
+        }
     }
     return more == 0 ? list : Words("%1 and %2 more", list, TrimStr(static_cast<long long>(more)));
 }

@@ -15,7 +15,6 @@ namespace tarn {
 
 namespace {
 
-constexpr std::string_view Digits = "0123456789";
 constexpr std::string_view Blanks = " \t";
 
 /// Most digits on each side of the point: what is computed from them fits a whole number exactly.
@@ -175,7 +174,7 @@ class Reader {
         rest_.remove_prefix(std::min(rest_.find_first_not_of(Blanks), rest_.size()));
     }
     std::string_view TakeDigits() {
-        const std::size_t count = std::min(rest_.find_first_not_of(Digits), rest_.size());
+        const std::size_t count = std::min(rest_.find_first_not_of(DecimalDigits), rest_.size());
         const std::string_view digits = rest_.substr(0, count);
         rest_.remove_prefix(count);
         return digits;

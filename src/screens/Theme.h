@@ -37,6 +37,8 @@ struct Metrics {
     static constexpr double Spacing = 120;      ///< between controls
     static constexpr double Margin = 240;       ///< inside panels
     static constexpr double ButtonWidth = 1800; ///< at least
+    static constexpr double CellPadding = 90;   ///< of tables, on each side
+    static constexpr double RowPadding = 75;    ///< of tables, above and below together
     static constexpr double BaseFont = 11;
     static constexpr double ListingFont = 10; ///< fixed pitch
     static constexpr double HeadingFont = 13;

@@ -19,7 +19,7 @@ namespace {
     throw Refusal(Words("The project %1 cannot be loaded: %2", project, cause));
 }
 
-RoomCsvReading Reading(const RoomFile& file, Units units) {
+RoomCsvReading ReadingOf(const RoomFile& file, Units units) {
     const std::string bytes = ReadWholeFile(file.Path, MaxRoomCsvBytes);
     try {
         return ReadRoomCsv(bytes, units, file.Encoding);
@@ -110,7 +110,7 @@ void WarnOfMetric(Phrase warning, const Project& project) {
 }
 
 std::vector<Room> ReadRoomFile(const RoomFile& file, Units units) {
-    RoomCsvReading reading = Reading(file, units);
+    RoomCsvReading reading = ReadingOf(file, units);
     if (!reading.Succeeded()) {
         std::string text =
             Words("The file %1 cannot be used; nothing was taken from it:", file.Path);

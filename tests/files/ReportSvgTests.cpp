@@ -15,7 +15,7 @@ namespace {
 using ::testing::ElementsAre;
 
 /// What a reader makes of a document.
-struct Document {
+struct ReportDocument {
     struct Line {
         std::string Text;
         double X = 0;
@@ -39,8 +39,8 @@ struct Document {
     }
 };
 
-Document Read(const std::string& svg) {
-    Document document;
+ReportDocument ReadReport(const std::string& svg) {
+    ReportDocument document;
     QXmlStreamReader reader(QByteArray::fromStdString(svg));
     while (!reader.atEnd()) {
         reader.readNext();
@@ -77,8 +77,8 @@ TEST(ReportSvg, HasEachLineOfTheReportAsOneTextWithAllItsBlanks) {
     for (const ReportLine& line : report.Lines) {
         lines.push_back(line.Text);
     }
-    const Document document = Read(ReportSvg(report));
-    for (const Document::Line& line : document.Lines) {
+    const ReportDocument document = ReadReport(ReportSvg(report));
+    for (const ReportDocument::Line& line : document.Lines) {
         EXPECT_TRUE(line.KeepsBlanks);
     }
     EXPECT_EQ(document.Texts(), lines);
@@ -88,7 +88,7 @@ TEST(ReportSvg, HasEachLineOfTheReportAsOneTextWithAllItsBlanks) {
 }
 
 TEST(ReportSvg, GivesEveryLetterTheSameWidthAndEveryLineTheSameHeightOnThePaper) {
-    const Document document = Read(ReportSvg({{{"ab"}, {""}, {"  caf\u00e9"}}}));
+    const ReportDocument document = ReadReport(ReportSvg({{{"ab"}, {""}, {"  caf\u00e9"}}}));
     EXPECT_THAT(document.Texts(), ElementsAre("ab", "", "  caf\u00e9"));
     ASSERT_EQ(document.Lines.size(), 3U);
     const double advance = document.Lines[0].Length / 2;
@@ -97,7 +97,7 @@ TEST(ReportSvg, GivesEveryLetterTheSameWidthAndEveryLineTheSameHeightOnThePaper)
     const double step = document.Lines[1].Y - document.Lines[0].Y;
     EXPECT_GT(step, 240);
     EXPECT_NEAR(document.Lines[2].Y - document.Lines[1].Y, step, 0.01);
-    for (const Document::Line& line : document.Lines) {
+    for (const ReportDocument::Line& line : document.Lines) {
         EXPECT_EQ(line.X, document.Lines[0].X);
         EXPECT_LE(line.X + line.Length, document.Width);
         EXPECT_LE(line.Y, document.Height);
@@ -105,11 +105,11 @@ TEST(ReportSvg, GivesEveryLetterTheSameWidthAndEveryLineTheSameHeightOnThePaper)
 }
 
 TEST(ReportSvg, IsWellFormedWhateverTheTextHolds) {
-    EXPECT_THAT(Read(ReportSvg({{{"A\x01\tZ"}, {"A\xFF\uFFFEZ"}}})).Texts(),
+    EXPECT_THAT(ReadReport(ReportSvg({{{"A\x01\tZ"}, {"A\xFF\uFFFEZ"}}})).Texts(),
                 ElementsAre("A  Z", "A\uFFFD\uFFFDZ"));
-    EXPECT_THAT(Read(ReportSvg({{{"A\u007F\u0080\u0085\u009FZ\u00A0"}}})).Texts(),
+    EXPECT_THAT(ReadReport(ReportSvg({{{"A\u007F\u0080\u0085\u009FZ\u00A0"}}})).Texts(),
                 ElementsAre("A    Z\u00A0"));
-    EXPECT_TRUE(Read(ReportSvg({})).Lines.empty());
+    EXPECT_TRUE(ReadReport(ReportSvg({})).Lines.empty());
 }
 
 } // namespace

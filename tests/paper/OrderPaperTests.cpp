@@ -1,5 +1,6 @@
 // The sheet of an order on paper: what is read from the PDF is cut out of a roll of paper.
 
+#include "QtString.h"
 #include "base/Lengths.h"
 #include "files/OrderDocument.h"
 #include "order/SheetTesting.h"
@@ -21,13 +22,10 @@ using testing::HouseOf;
 using testing::HouseOrder;
 using testing::Pdf;
 using testing::PdfWord;
+using testing::S;
 
-constexpr double A4Width = 595;
-constexpr double A4Height = 842;
-
-QString S(const char* text) {
-    return QString::fromUtf8(text);
-}
+constexpr double UprightA4Width = 595;
+constexpr double UprightA4Height = 842;
 
 OrderDocument DocumentOf(const HouseKind& kind) {
     OrderDocument document{HouseOf(kind), kind.In, {}};
@@ -149,7 +147,7 @@ TEST(OrderPaper, ListsCutsThatGiveEveryPieceOfEveryHouse) {
         SCOPED_TRACE(NameOf(kind));
         const OrderDocument document = DocumentOf(kind);
         const Pdf pdf(OrderPdf(document, "11/22/2026"));
-        EXPECT_EQ(pdf.PageSize(), QSizeF(A4Width, A4Height));
+        EXPECT_EQ(pdf.PageSize(), QSizeF(UprightA4Width, UprightA4Height));
         ExpectCutsEverything(pdf, document.Orders.front());
     }
 }

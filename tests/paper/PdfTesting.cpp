@@ -1,5 +1,7 @@
 #include "paper/PdfTesting.h"
 
+#include "QtString.h"
+
 #include <QFile>
 #include <QProcess>
 #include <QRegularExpression>
@@ -12,9 +14,7 @@ namespace tarn::testing {
 
 namespace {
 
-QString S(const char* text) {
-    return QString::fromUtf8(text);
-}
+using testing::S;
 
 } // namespace
 

@@ -1,5 +1,7 @@
 #include "paper/PrintServer.h"
 
+#include "QtString.h"
+
 #include <QDir>
 #include <QFile>
 #include <QTcpServer>
@@ -18,11 +20,9 @@ namespace tarn::testing {
 
 namespace {
 
-constexpr int PatienceMs = 30000;
+using testing::S;
 
-QString S(const char* text) {
-    return QString::fromUtf8(text);
-}
+constexpr int PatienceMs = 30000;
 
 void Write(const QString& path, const std::string& content, bool program = false) {
     QFile file(path);

@@ -14,7 +14,7 @@
 namespace tarn {
 namespace {
 
-const QDateTime Noon(QDate(2026, 11, 22), QTime(12, 0, 0, 345), Qt::UTC);
+const QDateTime NoonAndMore(QDate(2026, 11, 22), QTime(12, 0, 0, 345), Qt::UTC);
 
 RoomDraft Fields(const std::string& mark) {
     return {{"12" + mark, "6"}, {"", "1/2" + mark}, Byte{3}, "W2", "N" + mark, "remark " + mark};
@@ -29,7 +29,7 @@ OrderRequest Request(Units units, const std::string& roll) {
 }
 
 DraftRecord FullRecord() {
-    DraftRecord record{"/data/Tarn.mdb", "P \"Q\"\n\\", Noon, Noon.addDays(3), {}};
+    DraftRecord record{"/data/Tarn.mdb", "P \"Q\"\n\\", NoonAndMore, NoonAndMore.addDays(3), {}};
     record.Content.Rooms = {
         Room{-32768, 32767, 0, 255, "", ""},
         Room{150, 168, 11, 8, "n\t1", "gr\xC3\xBC\xC3\x9F <b>\xF0\x9F\x8F\xA0"}};
@@ -77,7 +77,7 @@ TEST(DraftText, LeavesOutWhatADraftHasNot) {
     DraftRecord record;
     record.Database = "/data/Tarn.mdb";
     record.Project = "P";
-    record.Written = Noon;
+    record.Written = NoonAndMore;
     record.Content.Typed.New = Fields("");
     record.Content.Typed.New->Covering.reset();
     auto read = ReadDraftText(DraftText(record));

@@ -12,6 +12,8 @@ namespace {
 using testing::ShortWait;
 using testing::TestDatabase;
 
+using Lines = std::vector<std::string>;
+
 class SheetNumbers : public ::testing::Test {
   protected:
     Integer New() { return NewSheetNumber(*connection_); }
@@ -81,7 +83,6 @@ TEST_F(SheetNumbers, OfAProjectIsThatOfItsFirstSheet) {
 }
 
 TEST_F(SheetNumbers, MayBelongToSeveralProjects) {
-    using Lines = std::vector<std::string>;
     file_.AddProject("MARCH", "A", 4, 2);
     file_.AddProject("MARCH", "p", 4, 3);
     EXPECT_EQ(OtherProjectsUnder(*connection_, 4, "P"), Lines{"A"});

@@ -1,3 +1,4 @@
+#include "QtString.h"
 #include "tools/ToolTesting.h"
 
 #include <QDir>
@@ -11,15 +12,12 @@
 namespace tarn {
 namespace {
 
+using testing::S;
 using testing::ToolRun;
 using testing::ToolTest;
 using Args = QStringList;
 
-QString S(const char* text) {
-    return QString::fromUtf8(text);
-}
-
-constexpr const char* Rooms = "width,length,covering\n150,168,C1\n120,96,T2\n";
+constexpr const char* SmithRooms = "width,length,covering\n150,168,C1\n120,96,T2\n";
 
 /// A data folder with the project SMITH.
 class CareTool : public ToolTest {
@@ -46,7 +44,7 @@ class CareTool : public ToolTest {
         return path;
     }
 
-    QString database_ = MakeDatabase(S("SMITH"), Rooms, {S("--directory"), S("MARCH")});
+    QString database_ = MakeDatabase(S("SMITH"), SmithRooms, {S("--directory"), S("MARCH")});
 };
 
 TEST_F(CareTool, CheckNamesWhatIsOutOfOrderAndChangesNothing) {

@@ -1,3 +1,4 @@
+#include "QtString.h"
 #include "tools/ToolTesting.h"
 
 #include <QDir>
@@ -11,13 +12,10 @@
 namespace tarn {
 namespace {
 
+using testing::S;
 using testing::ToolRun;
 using testing::ToolTest;
 using Args = QStringList;
-
-QString S(const char* text) {
-    return QString::fromUtf8(text);
-}
 
 constexpr const char* Rooms = "width,length,covering,base,room,remark\r\n"
                               "150,168,CARPET-1,W2L1,101,bay window\r\n"

@@ -1,3 +1,4 @@
+#include "QtString.h"
 #include "tools/ToolTesting.h"
 
 #include <QDir>
@@ -12,12 +13,9 @@
 namespace tarn {
 namespace {
 
+using testing::S;
 using testing::ToolRun;
 using testing::ToolTest;
-
-QString S(const char* text) {
-    return QString::fromUtf8(text);
-}
 
 class EstimateOutput : public ToolTest {
   protected:

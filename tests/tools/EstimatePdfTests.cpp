@@ -1,3 +1,4 @@
+#include "QtString.h"
 #include "paper/PdfTesting.h"
 #include "paper/PrintServer.h"
 #include "tools/ToolTesting.h"
@@ -8,19 +9,16 @@ namespace {
 using testing::Pdf;
 using testing::PrintServer;
 using testing::QueueSetup;
+using testing::S;
 using testing::ToolRun;
 using testing::ToolTest;
 
-QString S(const char* text) {
-    return QString::fromUtf8(text);
-}
-
-constexpr const char* House = "width,length,covering\n180,144,C1\n108,120,C1\n";
+constexpr const char* TwoRooms = "width,length,covering\n180,144,C1\n108,120,C1\n";
 
 class EstimatePdf : public ToolTest {
   protected:
     QStringList Arguments(const QString& file = S("page.pdf")) const {
-        return {S("--rooms"),      Write(S("rooms.csv"), House),
+        return {S("--rooms"),      Write(S("rooms.csv"), TwoRooms),
                 S("--carpet"),     S("1"),
                 S("--roll-width"), S("12ft"),
                 S("--pdf"),        file};
@@ -51,7 +49,7 @@ TEST_F(EstimatePdf, IsThePrintedPageOnA4WithoutAPrinterAndADisplay) {
 }
 
 TEST_F(EstimatePdf, NamesTheProjectOfADatabase) {
-    const QString database = MakeDatabase(S("MAPLE HOUSE"), House);
+    const QString database = MakeDatabase(S("MAPLE HOUSE"), TwoRooms);
     ExpectDone(Estimate({S("--database"), database, S("--project"), S("maple house"), S("--carpet"),
                          S("1"), S("--roll-width"), S("12ft"), S("--lay"), S("cross"), S("--pdf"),
                          S("page.pdf")}));
@@ -90,7 +88,7 @@ TEST_F(EstimatePdf, NeverReplacesTheRoomsOrADatabase) {
     EXPECT_EQ(Estimate(Arguments(database)).Status, 1);
     EXPECT_EQ(Read(database), before);
     EXPECT_EQ(Estimate(Arguments(S("rooms.csv"))).Status, 1);
-    EXPECT_EQ(Read(S("rooms.csv")), House);
+    EXPECT_EQ(Read(S("rooms.csv")), TwoRooms);
 }
 
 } // namespace

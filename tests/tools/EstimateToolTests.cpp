@@ -1,3 +1,4 @@
+#include "QtString.h"
 #include "tools/ToolTesting.h"
 
 #include <QFile>
@@ -13,13 +14,10 @@
 namespace tarn {
 namespace {
 
+using testing::S;
 using testing::ToolRun;
 using testing::ToolTest;
 using Args = QStringList;
-
-QString S(const char* text) {
-    return QString::fromUtf8(text);
-}
 
 /// Arguments from a text with blanks between them.
 Args Words(const char* text) {

@@ -1,5 +1,6 @@
 // What leaves a database as a room file, and what is shown of it on a terminal.
 
+#include "QtString.h"
 #include "tools/ToolTesting.h"
 
 #include <QSqlDatabase>
@@ -10,12 +11,9 @@
 namespace tarn {
 namespace {
 
+using testing::S;
 using testing::ToolRun;
 using testing::ToolTest;
-
-QString S(const char* text) {
-    return QString::fromUtf8(text);
-}
 
 class Export : public ToolTest {
   protected:

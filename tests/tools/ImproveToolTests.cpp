@@ -9,12 +9,12 @@ namespace {
 using testing::ToolRun;
 using testing::ToolTest;
 
-constexpr const char* Rooms = "width,length,covering\n"
-                              "100,150,C1\n60,170,C1\n84,90,C1\n44,110,C1\n80,60,C1\n";
+constexpr const char* FiveRooms = "width,length,covering\n"
+                                  "100,150,C1\n60,170,C1\n84,90,C1\n44,110,C1\n80,60,C1\n";
 
 class ImproveTool : public ToolTest {
   protected:
-    ToolRun Improve(const char* arguments, const char* rooms = Rooms) const {
+    ToolRun Improve(const char* arguments, const char* rooms = FiveRooms) const {
         Write(QStringLiteral("rooms.csv"), rooms);
         const QString all = QStringLiteral("--rooms rooms.csv --carpet 1 --roll-width 12ft "
                                            "--min-cut 2 --max-pieces 6 ") +

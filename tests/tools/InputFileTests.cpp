@@ -1,5 +1,6 @@
 // The bounds of what the programs read, and the names that they are given.
 
+#include "QtString.h"
 #include "tools/ToolTesting.h"
 
 #include <QRegularExpression>
@@ -11,13 +12,10 @@
 namespace tarn {
 namespace {
 
+using testing::S;
 using testing::ToolRun;
 using testing::ToolTest;
 using Args = QStringList;
-
-QString S(const char* text) {
-    return QString::fromUtf8(text);
-}
 
 class InputFile : public ToolTest {
   protected:

@@ -1,5 +1,6 @@
 // tarn-order: from rooms and options to comparison, list and files, and what it refuses.
 
+#include "QtString.h"
 #include "paper/PdfTesting.h"
 #include "paper/PrintServer.h"
 #include "project/OrderLengths.h"
@@ -14,12 +15,9 @@
 namespace tarn {
 namespace {
 
+using testing::S;
 using testing::ToolRun;
 using testing::ToolTest;
-
-QString S(const char* text) {
-    return QString::fromUtf8(text);
-}
 
 class OrderTool : public ToolTest {
   protected:

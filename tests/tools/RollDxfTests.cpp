@@ -1,16 +1,14 @@
 // The roll as a DXF drawing, read back by a reader that is not ours and compared with the JSON.
 
+#include "QtString.h"
 #include "tools/ToolTesting.h"
 
 namespace tarn {
 namespace {
 
+using testing::S;
 using testing::ToolRun;
 using testing::ToolTest;
-
-QString S(const char* text) {
-    return QString::fromUtf8(text);
-}
 
 class RollDxf : public ToolTest {
   protected:
@@ -24,24 +22,24 @@ class RollDxf : public ToolTest {
     }
 };
 
-constexpr const char* House =
+constexpr const char* OddTexts =
     "width,length,covering,room,remark\n192,240,C1,101,\n60,96,C1,,Küche\n"
     "30,500,C1,,\n500,30,C1,,%%d^J\\U+0041 50%\n";
 
 TEST_F(RollDxf, OfAnOrderHasItsPiecesWhereTheyLie) {
-    Write(S("a.csv"), House);
+    Write(S("a.csv"), OddTexts);
     ExpectAgrees("tarn-order --rooms a.csv --roll 12ft --trim 3 --max-parts 3 --steps 500", "8");
 }
 
 TEST_F(RollDxf, OfAnOrderHasTheSelvagesOfTheRoll) {
-    Write(S("a.csv"), House);
+    Write(S("a.csv"), OddTexts);
     ExpectAgrees("tarn-order --rooms a.csv --metric --roll 400cm --selvage 3cm --lay both "
                  "--steps 500",
                  "5");
 }
 
 TEST_F(RollDxf, OfAnEstimateHasCutsAndFills) {
-    Write(S("a.csv"), House);
+    Write(S("a.csv"), OddTexts);
     ExpectAgrees("tarn-estimate --rooms a.csv --carpet 1 --roll-width 12ft --max-pieces 2", "10");
     ExpectAgrees("tarn-estimate --rooms a.csv --carpet 1 --roll-width 366cm --metric --lay cross",
                  "5");
@@ -68,7 +66,7 @@ TEST_F(RollDxf, IsNotWrittenWhereNoRollIsTaken) {
 }
 
 TEST_F(RollDxf, GoesToAFileOfItsOwn) {
-    Write(S("a.csv"), House);
+    Write(S("a.csv"), OddTexts);
     for (const char* command :
          {"tarn-order --roll 12ft --steps 10", "tarn-estimate --carpet 1 --roll-width 12ft"}) {
         EXPECT_EQ(Shell(command + QByteArray(" --rooms a.csv --dxf - --json -")).Status, 2);

@@ -1,16 +1,14 @@
 // Files of rooms as spreadsheets write them, in every program that reads one.
 
+#include "QtString.h"
 #include "tools/ToolTesting.h"
 
 namespace tarn {
 namespace {
 
+using testing::S;
 using testing::ToolRun;
 using testing::ToolTest;
-
-QString S(const char* text) {
-    return QString::fromUtf8(text);
-}
 
 class RoomFiles : public ToolTest {
   protected:

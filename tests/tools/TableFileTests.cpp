@@ -1,5 +1,6 @@
 // tarn-data: report and rooms as tables for spreadsheets.
 
+#include "QtString.h"
 #include "tools/ToolTesting.h"
 
 #include <QJsonDocument>
@@ -7,12 +8,9 @@
 namespace tarn {
 namespace {
 
+using testing::S;
 using testing::ToolRun;
 using testing::ToolTest;
-
-QString S(const char* text) {
-    return QString::fromUtf8(text);
-}
 
 class TableFiles : public ToolTest {
   protected:

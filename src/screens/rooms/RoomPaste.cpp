@@ -13,7 +13,7 @@ namespace tarn {
 namespace {
 
 /// As many lines as a box holds in a small window.
-constexpr std::size_t MostLines = 5;
+constexpr std::size_t MostLinesTold = 5;
 
 std::string Joined(const std::vector<std::string>& lines) {
     std::string text;
@@ -39,12 +39,12 @@ std::string NameOfPaste(std::size_t rooms) {
 }
 
 std::string WhyNotPasted(const RoomCsvReading& reading) {
-    return Joined(MistakeLines(reading, MostLines));
+    return Joined(MistakeLines(reading, MostLinesTold));
 }
 
 std::string RoundedText(const RoomCsvReading& reading) {
     std::vector<std::string> lines;
-    const std::size_t told = std::min(MostLines, reading.Notes.size());
+    const std::size_t told = std::min(MostLinesTold, reading.Notes.size());
     for (std::size_t i = 0; i < told; ++i) {
         lines.push_back(ErrorText(reading.Notes[i]));
     }

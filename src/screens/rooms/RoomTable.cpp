@@ -27,8 +27,6 @@ constexpr std::array<const char*, RoomColumns> Samples{"501",  "99'11\"", "99'11
 /// The longest remark that is read at one glance.
 constexpr const char* LongRemark = "The second room on the left behind the hall, with a bay window";
 
-constexpr double CellPadding = 90; // twips, on each side
-constexpr double RowPadding = 75;  // twips, above and below together
 constexpr double FrameLine = 45;
 
 } // namespace
@@ -85,7 +83,7 @@ void RoomTable::NoteRooms() {
 }
 
 int RoomTable::WidthOf(const QString& text) const {
-    return fontMetrics().horizontalAdvance(text) + 2 * Pixels(CellPadding);
+    return fontMetrics().horizontalAdvance(text) + 2 * Pixels(Metrics::CellPadding);
 }
 
 void RoomTable::FitColumns() {
@@ -94,13 +92,13 @@ void RoomTable::FitColumns() {
     for (int column = 0; column < RoomColumns; ++column) {
         const QString caption =
             model_->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
-        const int head =
-            horizontalHeader()->fontMetrics().horizontalAdvance(caption) + 2 * Pixels(CellPadding);
+        const int head = horizontalHeader()->fontMetrics().horizontalAdvance(caption) +
+                         2 * Pixels(Metrics::CellPadding);
         const QString sample = QString::fromLatin1(Samples.at(static_cast<std::size_t>(column)));
         setColumnWidth(column, std::max(head, WidthOf(sample)));
     }
     verticalHeader()->setMinimumSectionSize(1);
-    verticalHeader()->setDefaultSectionSize(fontMetrics().height() + Pixels(RowPadding));
+    verticalHeader()->setDefaultSectionSize(fontMetrics().height() + Pixels(Metrics::RowPadding));
     const int remark = static_cast<int>(RoomColumn::Remark);
     setMinimumWidth(LeastWidth());
     horizontalHeader()->setSectionResizeMode(remark, QHeaderView::Stretch);

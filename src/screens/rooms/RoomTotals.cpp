@@ -5,6 +5,7 @@
 #include "screens/ControlNames.h"
 #include "screens/Controls.h"
 #include "screens/Display.h"
+#include "screens/Theme.h"
 
 #include <QAbstractTableModel>
 #include <QHeaderView>
@@ -20,9 +21,7 @@ namespace {
 
 using Texts = std::vector<std::string>;
 
-constexpr int MostLines = 13;      ///< that it asks room for
-constexpr double CellPadding = 90; // twips, on each side
-constexpr double RowPadding = 75;  // above and below together
+constexpr int MostLinesShown = 13; ///< that it asks room for
 constexpr const char* LongFigure = "99,999.99";
 
 } // namespace
@@ -125,11 +124,11 @@ void RoomTotals::Fit() {
                                                            : LongFigure);
         const int wider = std::max(horizontalHeader()->fontMetrics().horizontalAdvance(caption),
                                    fontMetrics().horizontalAdvance(sample));
-        setColumnWidth(column, wider + 2 * Pixels(CellPadding));
+        setColumnWidth(column, wider + 2 * Pixels(Metrics::CellPadding));
         width_ += columnWidth(column);
     }
     verticalHeader()->setMinimumSectionSize(1);
-    verticalHeader()->setDefaultSectionSize(fontMetrics().height() + Pixels(RowPadding));
+    verticalHeader()->setDefaultSectionSize(fontMetrics().height() + Pixels(Metrics::RowPadding));
     horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
     updateGeometry();
 }
@@ -140,7 +139,7 @@ int RoomTotals::HeightOf(int lines) const {
 }
 
 QSize RoomTotals::sizeHint() const {
-    const int lines = std::clamp(model_->rowCount({}), 1, MostLines);
+    const int lines = std::clamp(model_->rowCount({}), 1, MostLinesShown);
     return {minimumSizeHint().width(), HeightOf(lines)};
 }
 

@@ -76,7 +76,7 @@ _tarn_paths() {
 )";
 
 /// The word to complete and the one before it; "--lay=down" is three words to the shell.
-constexpr const char* Words =
+constexpr const char* WordsToComplete =
     R"(    local word=${COMP_WORDS[COMP_CWORD]} before=${COMP_WORDS[COMP_CWORD - 1]}
     COMPREPLY=()
     if [[ $word == = ]]; then
@@ -114,7 +114,7 @@ std::string CompleteCommands(const ProgramTable& program) {
 
 std::string BashCompletion(const ProgramTable& program) {
     const std::string name = FunctionName(program);
-    return std::string(Shared) + name + "() {\n" + Words +
+    return std::string(Shared) + name + "() {\n" + WordsToComplete +
            (program.Commands.empty() ? CompleteRows(program.Rows, "    ")
                                      : CompleteCommands(program)) +
            "}\n\ncomplete -F " + name + " " + program.Name + "\n";

@@ -55,7 +55,7 @@ std::string Head(const std::string& name, int section, const ManFoot& foot) {
 }
 
 /// A sentence as what follows a name and a dash: "Make data: fast." is "make data".
-std::string Phrase(std::string sentence) {
+std::string AsPhrase(std::string sentence) {
     sentence.erase(std::min(sentence.size(), sentence.find(": ")));
     sentence.front() =
         static_cast<char>(std::tolower(static_cast<unsigned char>(sentence.front())));
@@ -313,7 +313,7 @@ std::string ManPage(const ProgramTable& program, const std::vector<ProgramTable>
     const auto add = [&page](const char* heading, const std::string& text) {
         page += text.empty() ? "" : std::string(".SH ") + heading + "\n" + text;
     };
-    add("NAME", ManText(program.Name) + " \\- " + ManText(Phrase(program.Summary)) + "\n");
+    add("NAME", ManText(program.Name) + " \\- " + ManText(AsPhrase(program.Summary)) + "\n");
     add("SYNOPSIS", Synopsis(program));
     std::vector<std::string> description{program.Summary};
     description.insert(description.end(), program.Description.begin(), program.Description.end());
@@ -339,7 +339,7 @@ std::string ManPageOfText(const std::string& name, const std::string& markdown,
         throw std::runtime_error("the text of " + name + " has no heading in its first line");
     }
     return Head(name, 5, foot) + ".SH NAME\n" + ManText(name) + " \\- " +
-           ManText(Phrase(markdown.substr(2, end - 2))) + "\n.SH DESCRIPTION\n" +
+           ManText(AsPhrase(markdown.substr(2, end - 2))) + "\n.SH DESCRIPTION\n" +
            TextToMan().Convert(markdown.substr(end + 1));
 }
 

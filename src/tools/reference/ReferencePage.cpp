@@ -6,7 +6,7 @@ namespace tarn {
 
 namespace {
 
-constexpr const char* Head =
+constexpr const char* PageHead =
     "# The command line\n\n"
     "Every option, argument and exit status of the programs, and the formats of their files. This\n"
     "page, the man pages and the completions of the shells are made from what the programs read\n"
@@ -81,7 +81,7 @@ std::string Lowered(const std::string& markdown) {
 } // namespace
 
 std::string ReferencePage(const std::vector<ProgramTable>& programs, const std::string& formats) {
-    std::string page = Head;
+    std::string page = PageHead;
     for (const ProgramTable& program : programs) {
         page += Section(program);
     }
