@@ -118,7 +118,9 @@ def main():
             print(f"  unfinished: {source!r}")
         failed = failed or bool(missing)
         if arguments.check:
-            failed = failed or not path.exists() or path.read_text(encoding="utf-8") != content
+            if not path.exists() or path.read_text(encoding="utf-8") != content:
+                print(f"  {path.name} does not say where each text stands now: ./dev words")
+                failed = True
         else:
             path.write_text(content, encoding="utf-8")
     return 1 if failed else 0

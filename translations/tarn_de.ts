@@ -243,10 +243,6 @@
         <source>%1: the database leaves it out.</source>
         <translation>%1: Die Datenbank lässt sie aus.</translation>
     </message>
-    <message>
-        <source>%1: type the number alone, such as %2</source>
-        <translation>%1: nur die Zahl eingeben, etwa %2</translation>
-    </message>
     <message numerus="yes">
         <source>%n join fewer</source>
         <comment>%n joins fewer</comment>
@@ -3608,6 +3604,11 @@ Das Programm kann nicht drucken</translation>
         <location filename="../src/project/SizeNotes.cpp"/>
         <source>%1 and %2</source>
         <translation>%1 und %2</translation>
+    </message>
+    <message>
+        <location filename="../src/project/SizeNotes.cpp"/>
+        <source>%1: type the number alone, such as %2</source>
+        <translation>%1: nur die Zahl eingeben, etwa %2</translation>
     </message>
     <message>
         <location filename="../src/project/SizeNotes.cpp"/>

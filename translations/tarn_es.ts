@@ -243,10 +243,6 @@
         <source>%1: the database leaves it out.</source>
         <translation>%1: la base de datos la omite.</translation>
     </message>
-    <message>
-        <source>%1: type the number alone, such as %2</source>
-        <translation>%1: escriba solo el número, por ejemplo %2</translation>
-    </message>
     <message numerus="yes">
         <source>%n join fewer</source>
         <comment>%n joins fewer</comment>
@@ -3608,6 +3604,11 @@ No se puede imprimir en el programa</translation>
         <location filename="../src/project/SizeNotes.cpp"/>
         <source>%1 and %2</source>
         <translation>%1 y %2</translation>
+    </message>
+    <message>
+        <location filename="../src/project/SizeNotes.cpp"/>
+        <source>%1: type the number alone, such as %2</source>
+        <translation>%1: escriba solo el número, por ejemplo %2</translation>
     </message>
     <message>
         <location filename="../src/project/SizeNotes.cpp"/>
