@@ -37,13 +37,18 @@ def text_of(element):
 def messages_of(path):
     """What stands in a .ts file: {(source, comment): (places, is counted, translations)}."""
     found = {}
+    place = None
     for message in ElementTree.parse(path).getroot().iter("message"):
         key = (text_of(message.find("source")), text_of(message.find("comment")))
-        places = [each.get("filename") for each in message.findall("location")]
+        # lupdate names a file once for all texts that follow each other there.
+        places = []
+        for each in message.findall("location"):
+            place = each.get("filename") or place
+            places.append(place)
         translation = message.find("translation")
         forms = [text_of(each) for each in translation.findall("numerusform")]
         known = found.setdefault(key, ([], message.get("numerus") == "yes", []))
-        known[0].extend(place for place in places if place and place not in known[0])
+        known[0].extend(each for each in dict.fromkeys(places) if each and each not in known[0])
         known[2][:] = forms or [text_of(translation)]
     return found
 
