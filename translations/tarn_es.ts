@@ -385,7 +385,7 @@
         <location filename="../src/files/OrderText.cpp"/>
         <location filename="../src/order/SheetList.cpp"/>
         <source>Across</source>
-        <translation>De través</translation>
+        <translation>A lo ancho</translation>
     </message>
     <message>
         <location filename="../src/files/OrderText.cpp"/>
@@ -462,7 +462,7 @@
     <message>
         <location filename="../src/files/RollDxf.cpp"/>
         <source>There is no roll to draw: every roll and lay is refused.</source>
-        <translation>No hay rollo que dibujar: se rechazan todos los rollos y sentidos.</translation>
+        <translation>No hay rollo que dibujar: todos los rollos y colocaciones se rechazan.</translation>
     </message>
     <message>
         <location filename="../src/files/Spreadsheet.cpp"/>
@@ -768,7 +768,7 @@
     <message>
         <location filename="../src/order/OrderStrips.cpp"/>
         <source>%1 is too long: with its trim a strip may be %2 long.</source>
-        <translation>%1 es demasiado larga: con su demasía una tira puede medir %2.</translation>
+        <translation>%1 es demasiado larga: con su demasía una tira puede medir como máximo %2.</translation>
     </message>
     <message>
         <location filename="../src/order/OrderStrips.cpp"/>
@@ -810,7 +810,7 @@
         <location filename="../src/order/SheetFront.cpp"/>
         <location filename="../src/screens/rooms/RoomTableModel.cpp"/>
         <source>none</source>
-        <translation>ninguno</translation>
+        <translation>no hay</translation>
     </message>
     <message>
         <location filename="../src/order/RollPlan.cpp"/>
@@ -1132,12 +1132,12 @@
     <message>
         <location filename="../src/order/SheetList.cpp"/>
         <source>Cut in this order. From and to count along the roll from its start, across from its usable edge; centimetres.</source>
-        <translation>Corte en este orden. De y a se cuentan a lo largo del rollo desde su inicio, de través desde su borde útil; centímetros.</translation>
+        <translation>Corte en este orden. «De» y «A» se cuentan a lo largo del rollo desde su inicio; «A lo ancho», desde su borde útil; centímetros.</translation>
     </message>
     <message>
         <location filename="../src/order/SheetList.cpp"/>
         <source>Cut in this order. From and to count along the roll from its start, across from its usable edge; feet and inches.</source>
-        <translation>Corte en este orden. De y a se cuentan a lo largo del rollo desde su inicio, de través desde su borde útil; pies y pulgadas.</translation>
+        <translation>Corte en este orden. «De» y «A» se cuentan a lo largo del rollo desde su inicio; «A lo ancho», desde su borde útil; pies y pulgadas.</translation>
     </message>
     <message>
         <location filename="../src/order/SheetPage.cpp"/>
@@ -1357,7 +1357,7 @@ No se puede imprimir en el programa</translation>
     <message>
         <location filename="../src/paper/PrinterTrouble.cpp"/>
         <source>is out of ink or toner</source>
-        <translation>no tiene tinta ni tóner</translation>
+        <translation>no tiene tinta o tóner</translation>
     </message>
     <message>
         <location filename="../src/paper/PrinterTrouble.cpp"/>
@@ -1532,7 +1532,7 @@ No se puede imprimir en el programa</translation>
     <message>
         <location filename="../src/project/OrderRequest.cpp"/>
         <source>this one is %1</source>
-        <translation>para esta vale: %1</translation>
+        <translation>esta mide %1</translation>
     </message>
     <message>
         <location filename="../src/project/Report.cpp"/>
@@ -1852,7 +1852,7 @@ Please change the display resolution!</source>
     <message>
         <location filename="../src/screens/GuideWindow.cpp"/>
         <source>&amp;FIND NEXT</source>
-        <translation>&amp;BUSCAR SIGUIENTE</translation>
+        <translation>&amp;BUSCAR</translation>
     </message>
     <message>
         <location filename="../src/screens/GuideWindow.cpp"/>
@@ -1942,7 +1942,7 @@ Please change the display resolution!</source>
     <message>
         <location filename="../src/screens/PrintQueue.h"/>
         <source>Printing ...</source>
-        <translation>Imprimiendo ...</translation>
+        <translation>Imprimiendo...</translation>
     </message>
     <message>
         <location filename="../src/screens/Program.cpp"/>
@@ -2289,7 +2289,7 @@ Sus estancias se pueden guardar como proyecto nuevo.</translation>
     <message>
         <location filename="../src/screens/estimate/ImprovePanel.cpp"/>
         <source>LEAVE IT</source>
-        <translation>DEJARLO</translation>
+        <translation>DEJARLA</translation>
     </message>
     <message>
         <location filename="../src/screens/estimate/ImprovePanel.cpp"/>
@@ -2309,7 +2309,7 @@ Sus estancias se pueden guardar como proyecto nuevo.</translation>
     <message>
         <location filename="../src/screens/estimate/ImprovePanel.cpp"/>
         <source>TAKE IT</source>
-        <translation>TOMARLO</translation>
+        <translation>TOMARLA</translation>
     </message>
     <message>
         <location filename="../src/screens/estimate/ImprovePanel.cpp"/>
@@ -2579,7 +2579,7 @@ Sus estancias se pueden guardar como proyecto nuevo.</translation>
     <message>
         <location filename="../src/screens/order/OrderChoicePanel.cpp"/>
         <source>&amp;PARTS AT MOST</source>
-        <translation>TRAMOS MÁ&amp;XIMO</translation>
+        <translation>TRAMOS (MÁ&amp;X.)</translation>
     </message>
     <message>
         <location filename="../src/screens/order/OrderChoicePanel.cpp"/>
@@ -2589,7 +2589,7 @@ Sus estancias se pueden guardar como proyecto nuevo.</translation>
     <message>
         <location filename="../src/screens/order/OrderChoicePanel.cpp"/>
         <source>Across is the distance to the next column of the pattern. With a half drop, which sets it half a repeat further along, that is half the repeat of makers who name the whole design.</source>
-        <translation>A lo ancho es la distancia a la siguiente columna del dibujo. Con medio salto, que la pone medio rapport más adelante, es la mitad del rapport de los fabricantes que dan el dibujo completo.</translation>
+        <translation>El rapport a lo ancho es la distancia a la siguiente columna del dibujo. Con medio salto, que la pone medio rapport más adelante, es la mitad del rapport de los fabricantes que dan el dibujo completo.</translation>
     </message>
     <message>
         <location filename="../src/screens/order/OrderChoicePanel.cpp"/>
@@ -2962,7 +2962,7 @@ Do you want to continue deleting?</source>
         <source>The rooms of %1 become a new project.<byte value="xd"/>
 What are their sizes in?</source>
         <translation>Las estancias de %1 pasan a ser un proyecto nuevo.<byte value="xd"/>
-¿En qué están sus medidas?</translation>
+¿En qué unidades están sus medidas?</translation>
     </message>
     <message>
         <location filename="../src/screens/projects/RoomsAsProject.cpp"/>
@@ -2982,7 +2982,7 @@ What are their sizes in?</source>
     <message>
         <location filename="../src/screens/roll/RollChart.cpp"/>
         <source>%1: %2  %3  %4 to %5, across %6</source>
-        <translation>%1: %2  %3  %4 a %5, de través %6</translation>
+        <translation>%1: %2  %3  %4 a %5, a lo ancho %6</translation>
     </message>
     <message numerus="yes">
         <location filename="../src/screens/roll/RollChart.cpp"/>
@@ -3608,7 +3608,7 @@ What are their sizes in?</source>
     <message>
         <location filename="../src/store/DatabaseFile.cpp"/>
         <source>a part of it is missing</source>
-        <translation>falta una parte de él</translation>
+        <translation>falta una parte</translation>
     </message>
     <message>
         <location filename="../src/store/DatabaseFile.cpp"/>
@@ -3705,7 +3705,7 @@ With No nothing is made, and the program ends.</source>
 Carpeta de datos: %1<byte value="xd"/>
 Se indica en un archivo nuevo: %2<byte value="xd"/>
 <byte value="xd"/>
-Con No no se crea nada y el programa termina.</translation>
+Con «No» no se crea nada y el programa termina.</translation>
     </message>
     <message>
         <location filename="../src/store/FirstStart.cpp"/>
@@ -3725,7 +3725,7 @@ With No nothing is made, and the program ends.</source>
 Carpeta de datos: %1<byte value="xd"/>
 Se indica en un archivo nuevo: %2<byte value="xd"/>
 <byte value="xd"/>
-Con No no se crea nada y el programa termina.</translation>
+Con «No» no se crea nada y el programa termina.</translation>
     </message>
     <message>
         <location filename="../src/store/Journal.cpp"/>
@@ -4080,7 +4080,7 @@ Con No no se crea nada y el programa termina.</translation>
     <message>
         <location filename="../src/store/RoomRows.cpp"/>
         <source>%1  (at %2, %3 across)</source>
-        <translation>%1  (en %2, %3 de través)</translation>
+        <translation>%1  (en %2, %3 a lo ancho)</translation>
     </message>
     <message>
         <location filename="../src/store/RoomRows.cpp"/>
@@ -4090,12 +4090,12 @@ Con No no se crea nada y el programa termina.</translation>
     <message>
         <location filename="../src/store/RoomRows.cpp"/>
         <source>%1 is not taken: type it like 3.66, 3.66m or 366cm</source>
-        <translation>%1 no se entiende: escriba como 3.66, 3.66m o 366cm</translation>
+        <translation>%1 no se entiende: escríbalo como 3.66, 3.66m o 366cm</translation>
     </message>
     <message>
         <location filename="../src/store/RoomRows.cpp"/>
         <source>%1 is not taken: type it like 6.5, 6 1/2&quot; or 12&apos;6&quot;</source>
-        <translation>%1 no se entiende: escriba como 6.5, 6 1/2&quot; o 12&apos;6&quot;</translation>
+        <translation>%1 no se entiende: escríbalo como 6.5, 6 1/2&quot; o 12&apos;6&quot;</translation>
     </message>
     <message>
         <location filename="../src/store/RoomRows.cpp"/>
@@ -4110,7 +4110,7 @@ Con No no se crea nada y el programa termina.</translation>
     <message>
         <location filename="../src/store/RoomRows.cpp"/>
         <source>Beyond the end of the project, dropped by SAVE</source>
-        <translation>Más allá del final del proyecto, se omite al GUARDAR</translation>
+        <translation>Más allá del final del proyecto, se eliminan al GUARDAR</translation>
     </message>
     <message>
         <location filename="../src/store/RoomRows.cpp"/>
@@ -4125,7 +4125,7 @@ Con No no se crea nada y el programa termina.</translation>
     <message>
         <location filename="../src/store/RoomRows.cpp"/>
         <source>Missing, read as empty</source>
-        <translation>Falta, se lee como vacía</translation>
+        <translation>Faltan, se leen como vacías</translation>
     </message>
     <message>
         <location filename="../src/store/RoomRows.cpp"/>
@@ -4135,17 +4135,17 @@ Con No no se crea nada y el programa termina.</translation>
     <message>
         <location filename="../src/store/RoomRows.cpp"/>
         <source>Only feet and inches are taken here: type it like 12&apos;6&quot;</source>
-        <translation>Aquí solo se admiten pies y pulgadas: escriba como 12&apos;6&quot;</translation>
+        <translation>Aquí solo se admiten pies y pulgadas: escriba, por ejemplo, 12&apos;6&quot;</translation>
     </message>
     <message>
         <location filename="../src/store/RoomRows.cpp"/>
         <source>Only metres and centimetres are taken here: type it like 3.66m</source>
-        <translation>Aquí solo se admiten metros y centímetros: escriba como 3.66m</translation>
+        <translation>Aquí solo se admiten metros y centímetros: escriba, por ejemplo, 3.66m</translation>
     </message>
     <message>
         <location filename="../src/store/RoomRows.cpp"/>
         <source>Outside rooms 1 to %1, left out and dropped by SAVE: ObjNum %2.</source>
-        <translation>Fuera de las estancias 1 a %1, se omite y se elimina al GUARDAR: ObjNum %2.</translation>
+        <translation>Fuera de las estancias 1 a %1, se omiten y se eliminan al GUARDAR: ObjNum %2.</translation>
     </message>
     <message>
         <location filename="../src/store/RoomRows.cpp"/>
@@ -4160,12 +4160,12 @@ Con No no se crea nada y el programa termina.</translation>
     <message>
         <location filename="../src/store/RoomRows.cpp"/>
         <source>Stored more than once, the last row is used</source>
-        <translation>Guardada más de una vez, vale la última fila</translation>
+        <translation>Guardadas más de una vez, vale la última fila</translation>
     </message>
     <message>
         <location filename="../src/store/RoomRows.cpp"/>
         <source>Stored under one number with %1, whose rooms they may be</source>
-        <translation>Guardadas con el mismo número que %1, de donde pueden ser</translation>
+        <translation>Guardadas con el mismo número que %1; pueden ser estancias suyas</translation>
     </message>
     <message>
         <location filename="../src/store/RoomRows.cpp"/>
@@ -4185,7 +4185,7 @@ Con No no se crea nada y el programa termina.</translation>
     <message>
         <location filename="../src/store/RoomRows.cpp"/>
         <source>With an unknown covering, not estimated until one is chosen</source>
-        <translation>Con un material desconocido, no se calcula hasta elegir uno</translation>
+        <translation>Con un material desconocido, sin calcular hasta elegir uno</translation>
     </message>
     <message>
         <location filename="../src/store/RoomRows.cpp"/>
@@ -4503,7 +4503,7 @@ Con No no se crea nada y el programa termina.</translation>
     <message>
         <location filename="../src/tools/DataOptions.cpp"/>
         <source>Make and look after the data of the estimating program.</source>
-        <translation>Crear y cuidar los datos del programa de cálculo.</translation>
+        <translation>Crea y cuida los datos del programa de cálculo.</translation>
     </message>
     <message>
         <location filename="../src/tools/DataOptions.cpp"/>
@@ -4569,7 +4569,7 @@ Example:
         <translation>Un archivo CSV tiene una línea de cabecera y las columnas width,length,covering,base,room,remark en
 cualquier orden; las tres primeras son obligatorias. Las medidas son pulgadas enteras o texto como
 12&apos;6&quot; (centímetros enteros con --metric), o números en la unidad que dice un encabezado como
-«Width (ft)»; los revestimientos CARPET-1 o C1, TILE-4 o T4. La columna base dice cuántos anchos y
+«Width (ft)»; los materiales CARPET-1 o C1, TILE-4 o T4. La columna base dice cuántos anchos y
 largos de la estancia llevan rodapié: W2L1 son dos anchos y un largo. Una medida de 0 se lee y no se
 corta. Un número de estancia tiene como máximo %1 caracteres, una nota %2, cada uno en una línea; si
 empieza por &apos; se quita ese &apos;. Separan comas, puntos y comas o tabuladores. Un archivo, que no sea
@@ -4763,7 +4763,7 @@ Las estancias vienen de una base de datos (--database y --project) o de un archi
     <message>
         <location filename="../src/tools/OrderOptions.cpp"/>
         <source>Cut off along each edge of the roll (default 0, at most 6in or 15cm)</source>
-        <translation>Se corta en cada borde del rollo (normal 0, como máximo 6in o 15cm)</translation>
+        <translation>Se corta en cada borde del rollo (por omisión 0, como máximo 6in o 15cm)</translation>
     </message>
     <message>
         <location filename="../src/tools/OrderOptions.cpp"/>
@@ -4773,7 +4773,7 @@ Las estancias vienen de una base de datos (--database y --project) o de un archi
     <message>
         <location filename="../src/tools/OrderOptions.cpp"/>
         <source>How long to look for shorter layouts, all rows together (default 2); Ctrl+C ends that earlier and keeps the best</source>
-        <translation>Cuánto tiempo se buscan disposiciones más cortas, para todas las filas juntas (normal 2); Ctrl+C lo termina antes y conserva la mejor</translation>
+        <translation>Cuánto tiempo se buscan disposiciones más cortas, para todas las filas juntas (por omisión 2); Ctrl+C lo termina antes y conserva la mejor</translation>
     </message>
     <message>
         <location filename="../src/tools/OrderOptions.cpp"/>
@@ -4820,22 +4820,22 @@ Ejemplo:
     <message>
         <location filename="../src/tools/OrderOptions.cpp"/>
         <source>More than a room&apos;s width, the same bounds</source>
-        <translation>Más que el ancho de una estancia, con los mismos límites</translation>
+        <translation>Lo que se añade al ancho de una estancia, con los mismos límites</translation>
     </message>
     <message>
         <location filename="../src/tools/OrderOptions.cpp"/>
         <source>More than a strip&apos;s length, at its far end (default 0, at most 24in or 60cm)</source>
-        <translation>Más que el largo de una tira, en su extremo (normal 0, como máximo 24in o 60cm)</translation>
+        <translation>Lo que se añade al largo de una tira, en su extremo final (por omisión 0, como máximo 24in o 60cm)</translation>
     </message>
     <message>
         <location filename="../src/tools/OrderOptions.cpp"/>
         <source>Most parts of a strip, 1 to %1 (default 1)</source>
-        <translation>Número máximo de tramos de una tira, de 1 a %1 (normal 1)</translation>
+        <translation>Número máximo de tramos de una tira, de 1 a %1 (por omisión 1)</translation>
     </message>
     <message>
         <location filename="../src/tools/OrderOptions.cpp"/>
         <source>Number of the carpet, 1 to 8 (default: all of the project)</source>
-        <translation>Número de la moqueta, de 1 a 8 (normal: todas las del proyecto)</translation>
+        <translation>Número de la moqueta, de 1 a 8 (por omisión: todas las del proyecto)</translation>
     </message>
     <message>
         <location filename="../src/tools/OrderOptions.cpp"/>
@@ -4845,12 +4845,12 @@ Ejemplo:
     <message>
         <location filename="../src/tools/OrderOptions.cpp"/>
         <source>Percent by which repeats may come out longer (default 1 with a repeat along, else 0; at most 10)</source>
-        <translation>Por ciento en que los rapports pueden salir más largos (normal 1 con un rapport a lo largo, si no 0; 10 como máximo)</translation>
+        <translation>Porcentaje en que los rapports pueden salir más largos (por omisión 1 con un rapport a lo largo; si no, 0; 10 como máximo)</translation>
     </message>
     <message>
         <location filename="../src/tools/OrderOptions.cpp"/>
         <source>Shortest part of a divided strip (default 3ft, 91cm with --metric)</source>
-        <translation>Tramo mínimo de una tira dividida (normal 3ft, 91cm con --metric)</translation>
+        <translation>Tramo mínimo de una tira dividida (por omisión 3ft, 91cm con --metric)</translation>
     </message>
     <message>
         <location filename="../src/tools/OrderOptions.cpp"/>
@@ -4870,7 +4870,7 @@ Ejemplo:
     <message>
         <location filename="../src/tools/OrderOptions.cpp"/>
         <source>The roll is ordered in whole steps (default 3in, 5cm with --metric)</source>
-        <translation>El rollo se pide en pasos enteros (normal 3in, 5cm con --metric)</translation>
+        <translation>El rollo se pide en pasos enteros (por omisión 3in, 5cm con --metric)</translation>
     </message>
     <message>
         <location filename="../src/tools/OrderOptions.cpp"/>
@@ -4922,7 +4922,7 @@ Las estancias vienen de una base de datos (--database y --project) o de un archi
     <message>
         <location filename="../src/tools/OrderOptions.cpp"/>
         <source>down: room widths across the roll (default); cross: room lengths</source>
-        <translation>down: el ancho de las estancias a lo ancho del rollo (normal); cross: el largo</translation>
+        <translation>down: el ancho de las estancias a lo ancho del rollo (por omisión); cross: el largo</translation>
     </message>
     <message>
         <location filename="../src/tools/OrderOptions.cpp"/>
@@ -4993,7 +4993,7 @@ Las estancias vienen de una base de datos (--database y --project) o de un archi
     <message>
         <location filename="../src/tools/ProgramOptions.cpp"/>
         <source>Directory of a new project (default: the current month)</source>
-        <translation>Directorio de un proyecto nuevo (normal: el mes actual)</translation>
+        <translation>Directorio de un proyecto nuevo (por omisión: el mes actual)</translation>
     </message>
     <message>
         <location filename="../src/tools/ProgramOptions.cpp"/>
@@ -5008,7 +5008,7 @@ Las estancias vienen de una base de datos (--database y --project) o de un archi
     <message>
         <location filename="../src/tools/ProgramOptions.cpp"/>
         <source>File to write (default: standard output)</source>
-        <translation>Archivo que se escribe (normal: la salida estándar)</translation>
+        <translation>Archivo que se escribe (por omisión: la salida estándar)</translation>
     </message>
     <message>
         <location filename="../src/tools/ProgramOptions.cpp"/>
@@ -5090,7 +5090,7 @@ Ejemplo:
     <message>
         <location filename="../src/tools/ProgramOptions.cpp"/>
         <source>Write them as a spreadsheet, with the totals by covering</source>
-        <translation>Escribirlas como hoja de cálculo, con los totales por revestimiento</translation>
+        <translation>Escribirlas como hoja de cálculo, con los totales por material</translation>
     </message>
     <message>
         <location filename="../src/tools/ProgramOptions.cpp"/>
