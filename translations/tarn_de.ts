@@ -462,7 +462,7 @@
     <message>
         <location filename="../src/files/RollDxf.cpp"/>
         <source>There is no roll to draw: every roll and lay is refused.</source>
-        <translation>Es gibt keine Rolle zu zeichnen: Jede Rolle und Lage ist abgelehnt.</translation>
+        <translation>Es gibt keine Rolle zu zeichnen: Jede Rolle und Verlegung ist abgelehnt.</translation>
     </message>
     <message>
         <location filename="../src/files/Spreadsheet.cpp"/>
@@ -692,12 +692,12 @@
     <message>
         <location filename="../src/order/ComparisonText.cpp"/>
         <source>Best is the least carpet, for no roll has a price; of equal ones, the shortest seams and joins.</source>
-        <translation>Am besten ist am wenigsten Teppichboden, denn keine Rolle hat einen Preis; bei Gleichstand die kürzesten Nähte.</translation>
+        <translation>Am besten ist der geringste Bedarf an Teppichboden, denn keine Rolle hat einen Preis; bei Gleichstand die kürzesten Nähte.</translation>
     </message>
     <message>
         <location filename="../src/order/ComparisonText.cpp"/>
         <source>Best is the least carpet, for these rolls have no price: %1.</source>
-        <translation>Am besten ist am wenigsten Teppichboden, denn diese Rollen haben keinen Preis: %1.</translation>
+        <translation>Am besten ist der geringste Bedarf an Teppichboden, denn diese Rollen haben keinen Preis: %1.</translation>
     </message>
     <message>
         <location filename="../src/order/ComparisonText.cpp"/>
@@ -768,7 +768,7 @@
     <message>
         <location filename="../src/order/OrderStrips.cpp"/>
         <source>%1 is too long: with its trim a strip may be %2 long.</source>
-        <translation>%1 ist zu lang: Mit Zugabe darf ein Streifen %2 lang sein.</translation>
+        <translation>%1 ist zu lang: Mit Zugabe darf ein Streifen höchstens %2 lang sein.</translation>
     </message>
     <message>
         <location filename="../src/order/OrderStrips.cpp"/>
@@ -810,7 +810,7 @@
         <location filename="../src/order/SheetFront.cpp"/>
         <location filename="../src/screens/rooms/RoomTableModel.cpp"/>
         <source>none</source>
-        <translation>keine</translation>
+        <translation>ohne</translation>
     </message>
     <message>
         <location filename="../src/order/RollPlan.cpp"/>
@@ -861,7 +861,7 @@
     <message>
         <location filename="../src/order/SheetFront.cpp"/>
         <source>%1, least possible %2</source>
-        <translation>%1, mindestens %2</translation>
+        <translation>%1, kürzestmöglich %2</translation>
     </message>
     <message>
         <location filename="../src/order/SheetFront.cpp"/>
@@ -931,12 +931,12 @@
     <message>
         <location filename="../src/order/SheetFront.cpp"/>
         <source>Least possible</source>
-        <translation>Mindestens</translation>
+        <translation>Kürzestmöglich</translation>
     </message>
     <message>
         <location filename="../src/order/SheetFront.cpp"/>
         <source>Least possible cm</source>
-        <translation>Mindestens cm</translation>
+        <translation>Kürzestmöglich cm</translation>
     </message>
     <message>
         <location filename="../src/order/SheetFront.cpp"/>
@@ -1086,12 +1086,12 @@
     <message>
         <location filename="../src/order/SheetFront.cpp"/>
         <source>at most %1, none shorter than %2</source>
-        <translation>höchstens %1, keiner kürzer als %2</translation>
+        <translation>höchstens %1, keines kürzer als %2</translation>
     </message>
     <message>
         <location filename="../src/order/SheetFront.cpp"/>
         <source>at most %1, none shorter than %2, of rooms too</source>
-        <translation>höchstens %1, keiner kürzer als %2, auch bei Räumen</translation>
+        <translation>höchstens %1, keines kürzer als %2, auch bei Räumen</translation>
     </message>
     <message>
         <location filename="../src/order/SheetFront.cpp"/>
@@ -1330,7 +1330,7 @@
         <source>Warning: Your printer is not ready!<byte value="xd"/>
 <byte value="xd"/>
 You couldn&apos;t print in the program</source>
-        <translation>Achtung: Ihr Drucker ist nicht bereit!<byte value="xd"/>
+        <translation>Warnung: Ihr Drucker ist nicht bereit!<byte value="xd"/>
 <byte value="xd"/>
 Das Programm kann nicht drucken</translation>
     </message>
@@ -1412,12 +1412,12 @@ Das Programm kann nicht drucken</translation>
     <message>
         <location filename="../src/project/OrderEntry.cpp"/>
         <source>the price must be a number of 0 or more.</source>
-        <translation>der Preis muss eine Zahl von 0 an sein.</translation>
+        <translation>Der Preis muss eine Zahl von mindestens 0 sein.</translation>
     </message>
     <message>
         <location filename="../src/project/OrderEntry.cpp"/>
         <source>write the length as 12ft6in, 18in, 366cm or 3.66m.</source>
-        <translation>schreiben Sie die Länge wie 12ft6in, 18in, 366cm oder 3.66m.</translation>
+        <translation>Schreiben Sie die Länge wie 12ft6in, 18in, 366cm oder 3.66m.</translation>
     </message>
     <message>
         <location filename="../src/project/OrderRequest.cpp"/>
@@ -1442,7 +1442,7 @@ Das Programm kann nicht drucken</translation>
     <message>
         <location filename="../src/project/OrderRequest.cpp"/>
         <source>A half drop needs an even pattern repeat along.</source>
-        <translation>Ein halber Versatz braucht einen geraden Rapport längs.</translation>
+        <translation>Bei halbem Versatz muss der Rapport längs eine gerade Zahl sein.</translation>
     </message>
     <message>
         <location filename="../src/project/OrderRequest.cpp"/>
@@ -1487,7 +1487,7 @@ Das Programm kann nicht drucken</translation>
     <message>
         <location filename="../src/project/OrderRequest.cpp"/>
         <source>The price of the roll %1 must be a number of 0 or more.</source>
-        <translation>Der Preis der Rolle %1 muss eine Zahl von 0 an sein.</translation>
+        <translation>Der Preis der Rolle %1 muss eine Zahl von mindestens 0 sein.</translation>
     </message>
     <message>
         <location filename="../src/project/OrderRequest.cpp"/>
@@ -1507,7 +1507,7 @@ Das Programm kann nicht drucken</translation>
     <message>
         <location filename="../src/project/OrderRequest.cpp"/>
         <source>The shortest part</source>
-        <translation>Das Mindestteil</translation>
+        <translation>Das kürzeste Teil</translation>
     </message>
     <message>
         <location filename="../src/project/OrderRequest.cpp"/>
@@ -1825,7 +1825,7 @@ Das Programm kann nicht drucken</translation>
         <location filename="../src/screens/GuideWindow.cpp"/>
         <location filename="../src/screens/rooms/ReportFrame.cpp"/>
         <source>&amp;CLOSE</source>
-        <translation>SCHL&amp;IESSEN</translation>
+        <translation>SC&amp;HLIESSEN</translation>
     </message>
     <message>
         <location filename="../src/screens/Display.h"/>
@@ -2304,7 +2304,7 @@ Seine Räume können als neues Projekt gespeichert werden.</translation>
     <message>
         <location filename="../src/screens/estimate/ImprovePanel.cpp"/>
         <source>STOP</source>
-        <translation>BEENDEN</translation>
+        <translation>STOPP</translation>
     </message>
     <message>
         <location filename="../src/screens/estimate/ImprovePanel.cpp"/>
@@ -2624,7 +2624,7 @@ Seine Räume können als neues Projekt gespeichert werden.</translation>
     <message>
         <location filename="../src/screens/order/OrderChoicePanel.cpp"/>
         <source>S&amp;HORTEST PART</source>
-        <translation>MINDE&amp;STTEIL</translation>
+        <translation>KÜRZESTES TE&amp;IL</translation>
     </message>
     <message>
         <location filename="../src/screens/order/OrderChoicePanel.cpp"/>
@@ -2689,7 +2689,7 @@ Seine Räume können als neues Projekt gespeichert werden.</translation>
     <message>
         <location filename="../src/screens/order/OrderScreen.cpp"/>
         <source>Comparing. STOP keeps the best so far.</source>
-        <translation>Vergleich läuft. BEENDEN behält das bisher Beste.</translation>
+        <translation>Vergleich läuft. STOPP behält das bisher Beste.</translation>
     </message>
     <message>
         <location filename="../src/screens/order/OrderScreen.cpp"/>
@@ -2714,12 +2714,12 @@ Seine Räume können als neues Projekt gespeichert werden.</translation>
     <message>
         <location filename="../src/screens/order/OrderScreen.cpp"/>
         <source>S&amp;TOP</source>
-        <translation>BEEN&amp;DEN</translation>
+        <translation>&amp;STOPP</translation>
     </message>
     <message>
         <location filename="../src/screens/order/OrderScreen.cpp"/>
         <source>Stopped: the best so far.</source>
-        <translation>Beendet: das bisher Beste.</translation>
+        <translation>Gestoppt: das bisher Beste.</translation>
     </message>
     <message>
         <location filename="../src/screens/order/OrderScreen.cpp"/>
@@ -2929,7 +2929,7 @@ Beim Löschen gehen die Daten des Projekts verloren!</translation>
         <location filename="../src/screens/projects/ProjectScreen.cpp"/>
         <source>Warning: Delete directory will make data under this directory lost!<byte value="xd"/>
 Do you want to continue deleting?</source>
-        <translation>Achtung: Beim Löschen des Verzeichnisses gehen die Daten darin verloren!<byte value="xd"/>
+        <translation>Warnung: Beim Löschen des Verzeichnisses gehen die Daten darin verloren!<byte value="xd"/>
 Wollen Sie wirklich löschen?</translation>
     </message>
     <message>
@@ -3026,7 +3026,7 @@ Worin sind ihre Maße angegeben?</translation>
     <message>
         <location filename="../src/screens/rooms/RoomEntryFrame.cpp"/>
         <source>&amp;REPORT</source>
-        <translation>BE&amp;RICHT</translation>
+        <translation>BER&amp;ICHT</translation>
     </message>
     <message>
         <location filename="../src/screens/rooms/RoomEntryFrame.cpp"/>
@@ -3281,7 +3281,7 @@ Worin sind ihre Maße angegeben?</translation>
     <message>
         <location filename="../src/screens/rooms/UndoMenu.cpp"/>
         <source>&amp;Undo</source>
-        <translation>Zurückne&amp;hmen</translation>
+        <translation>&amp;Rückgängig</translation>
     </message>
     <message>
         <location filename="../src/screens/rooms/UndoMenu.cpp"/>
@@ -3427,7 +3427,7 @@ Worin sind ihre Maße angegeben?</translation>
     <message>
         <location filename="../src/store/Check.cpp"/>
         <source>Rooms beyond the number that the sheet tells, which nothing shows</source>
-        <translation>Räume über die Zahl des Blatts hinaus, die nichts zeigt</translation>
+        <translation>Räume über die Zahl des Blatts hinaus, die nirgends gezeigt werden</translation>
     </message>
     <message>
         <location filename="../src/store/Check.cpp"/>
@@ -3442,12 +3442,12 @@ Worin sind ihre Maße angegeben?</translation>
     <message>
         <location filename="../src/store/Check.cpp"/>
         <source>Rooms without a sheet, which nothing shows</source>
-        <translation>Räume ohne Blatt, die nichts zeigt</translation>
+        <translation>Räume ohne Blatt, die nirgends gezeigt werden</translation>
     </message>
     <message>
         <location filename="../src/store/Check.cpp"/>
         <source>Rows of %1 without a sheet, which nothing reaches</source>
-        <translation>Zeilen von %1 ohne Blatt, die nichts erreicht</translation>
+        <translation>Zeilen von %1 ohne Blatt, die nicht erreichbar sind</translation>
     </message>
     <message>
         <location filename="../src/store/Check.cpp"/>
@@ -3507,7 +3507,7 @@ Worin sind ihre Maße angegeben?</translation>
     <message>
         <location filename="../src/store/Configuration.cpp"/>
         <source>the folder &quot;%1&quot; cannot be named in it</source>
-        <translation>der Ordner „%1“ kann darin nicht genannt werden</translation>
+        <translation>Der Ordner „%1“ kann darin nicht genannt werden</translation>
     </message>
     <message>
         <location filename="../src/store/Connection.cpp"/>
@@ -3608,7 +3608,7 @@ Worin sind ihre Maße angegeben?</translation>
     <message>
         <location filename="../src/store/DatabaseFile.cpp"/>
         <source>a part of it is missing</source>
-        <translation>ein Stück von ihr fehlt</translation>
+        <translation>ein Teil von ihr fehlt</translation>
     </message>
     <message>
         <location filename="../src/store/DatabaseFile.cpp"/>
@@ -3619,7 +3619,7 @@ Worin sind ihre Maße angegeben?</translation>
     <message>
         <location filename="../src/store/Drafts.cpp"/>
         <source>The folder %1 cannot be written: %2.</source>
-        <translation>Der Ordner %1 kann nicht geschrieben werden: %2.</translation>
+        <translation>In den Ordner %1 kann nicht geschrieben werden: %2.</translation>
     </message>
     <message>
         <location filename="../src/store/Drafts.cpp"/>
@@ -3735,7 +3735,7 @@ Bei Nein wird nichts angelegt, und das Programm endet.</translation>
     <message>
         <location filename="../src/store/Journal.cpp"/>
         <source>The database file %1 is not opened: beside it lies %2, the journal of a change that was cut off, and it belongs to another state of the file, as when a backup was copied over the file. Together they would give wrong rooms; nothing was changed. Put a backup in place with &quot;tarn-data restore BACKUP --database %1&quot;, which sets the journal aside.</source>
-        <translation>Die Datenbankdatei %1 wird nicht geöffnet: Neben ihr liegt %2, das Journal einer abgebrochenen Änderung, und es gehört zu einem anderen Stand der Datei, wie wenn eine Sicherung über die Datei kopiert wurde. Zusammen ergäben sie falsche Räume; nichts wurde geändert. Setzen Sie mit „tarn-data restore BACKUP --database %1“ eine Sicherung ein; das legt das Journal beiseite.</translation>
+        <translation>Die Datenbankdatei %1 wird nicht geöffnet: Neben ihr liegt %2, das Journal einer abgebrochenen Änderung, und es gehört zu einem anderen Stand der Datei, etwa weil eine Sicherung über die Datei kopiert wurde. Zusammen ergäben sie falsche Räume; nichts wurde geändert. Setzen Sie mit „tarn-data restore BACKUP --database %1“ eine Sicherung ein; das legt das Journal beiseite.</translation>
     </message>
     <message>
         <location filename="../src/store/Names.cpp"/>
@@ -4110,7 +4110,7 @@ Bei Nein wird nichts angelegt, und das Programm endet.</translation>
     <message>
         <location filename="../src/store/RoomRows.cpp"/>
         <source>Beyond the end of the project, dropped by SAVE</source>
-        <translation>Hinter dem Ende des Projekts, entfällt beim SPEICHERN</translation>
+        <translation>Hinter dem Ende des Projekts, beim SPEICHERN entfernt</translation>
     </message>
     <message>
         <location filename="../src/store/RoomRows.cpp"/>
@@ -4125,7 +4125,7 @@ Bei Nein wird nichts angelegt, und das Programm endet.</translation>
     <message>
         <location filename="../src/store/RoomRows.cpp"/>
         <source>Missing, read as empty</source>
-        <translation>Fehlt, als leer gelesen</translation>
+        <translation>Fehlend, als leer gelesen</translation>
     </message>
     <message>
         <location filename="../src/store/RoomRows.cpp"/>
@@ -4453,7 +4453,7 @@ Bei Nein wird nichts angelegt, und das Programm endet.</translation>
     <message>
         <location filename="../src/tools/DataCommands.cpp"/>
         <source>The project %1 cannot be exported: no import would take these rooms. Correct them in the program first; nothing was written.</source>
-        <translation>Das Projekt %1 kann nicht ausgegeben werden: Kein Import nähme diese Räume an. Berichtigen Sie sie zuerst im Programm; nichts wurde geschrieben.</translation>
+        <translation>Das Projekt %1 kann nicht exportiert werden: Kein Import nähme diese Räume an. Berichtigen Sie sie zuerst im Programm; nichts wurde geschrieben.</translation>
     </message>
     <message>
         <location filename="../src/tools/DataCommands.cpp"/>
@@ -4568,14 +4568,14 @@ Example:
   tarn-estimate --rooms house.csv --carpet 1 --roll-width 12ft --max-pieces 2 --svg house.svg</source>
         <translation>Eine CSV-Datei hat eine Kopfzeile und die Spalten width,length,covering,base,room,remark in
 beliebiger Reihenfolge; die ersten drei sind erforderlich. Maße sind ganze Zoll oder Text wie 12&apos;6&quot;
-(mit --metric ganze Zentimeter), oder Zahlen in der Einheit, die eine Überschrift wie „Width (ft)“
+(mit --metric ganze Zentimeter) oder Zahlen in der Einheit, die eine Überschrift wie „Width (ft)“
 nennt; Beläge CARPET-1 oder C1, TILE-4 oder T4. Die Spalte base sagt, wie viele Breiten und Längen
 des Raums Sockelleiste bekommen: W2L1 sind zwei Breiten und eine Länge. Ein Maß von 0 wird gelesen
-und nicht zugeschnitten. Eine Raumnummer hat höchstens %1 Zeichen, eine Bemerkung %2, beide in einer
-Zeile; von einer, die mit &apos; beginnt, entfällt das &apos;. Kommas, Semikolons oder Tabulatoren trennen.
-Eine Datei, keine Pipe und kein Gerät, hat höchstens %3 Räume und %4 MB.
+und nicht zugeschnitten. Eine Raumnummer hat höchstens %1 Zeichen, eine Bemerkung %2, jede ohne
+Zeilenumbruch; von einer, die mit &apos; beginnt, entfällt das &apos;. Kommas, Semikolons oder Tabulatoren
+trennen. Eine Datei, keine Pipe und kein Gerät, hat höchstens %3 Räume und %4 MB.
 
-Eine Ausgabedatei tritt an die Stelle der vorhandenen, sobald sie ganz und gespeichert ist.
+Eine Ausgabedatei tritt an die Stelle der vorhandenen, sobald sie vollständig und gespeichert ist.
 Datenbanken und symbolische Verknüpfungen bleiben ohne --force, wie sie sind.
 
 Rückgabewert: 0 getan, 1 abgelehnt (der Grund steht in der Fehlerausgabe), 2 falscher Aufruf.
@@ -4648,7 +4648,7 @@ Die Räume kommen aus einer Datenbank (--database und --project) oder einer CSV-
     <message>
         <location filename="../src/tools/EstimateOptions.cpp"/>
         <source>Write the page that the program prints, for the paper of the default printer (A4 without one)</source>
-        <translation>Die Seite schreiben, die das Programm druckt, für das Papier des Standarddruckers (ohne einen A4)</translation>
+        <translation>Die Seite schreiben, die das Programm druckt, für das Papier des Standarddruckers (A4, wenn es keinen gibt)</translation>
     </message>
     <message>
         <location filename="../src/tools/EstimateOptions.cpp"/>
@@ -4763,7 +4763,7 @@ Die Räume kommen aus einer Datenbank (--database und --project) oder einer CSV-
     <message>
         <location filename="../src/tools/OrderOptions.cpp"/>
         <source>Cut off along each edge of the roll (default 0, at most 6in or 15cm)</source>
-        <translation>An jeder Rollenkante abgeschnitten (üblich 0, höchstens 6in oder 15cm)</translation>
+        <translation>An jeder Rollenkante abgeschnitten (Standard 0, höchstens 6in oder 15cm)</translation>
     </message>
     <message>
         <location filename="../src/tools/OrderOptions.cpp"/>
@@ -4773,7 +4773,7 @@ Die Räume kommen aus einer Datenbank (--database und --project) oder einer CSV-
     <message>
         <location filename="../src/tools/OrderOptions.cpp"/>
         <source>How long to look for shorter layouts, all rows together (default 2); Ctrl+C ends that earlier and keeps the best</source>
-        <translation>Wie lange nach kürzeren Anordnungen gesucht wird, für alle Zeilen zusammen (üblich 2); Strg+C beendet das früher und behält das Beste</translation>
+        <translation>Wie lange nach kürzeren Anordnungen gesucht wird, für alle Zeilen zusammen (Standard 2); Strg+C beendet das früher und behält das Beste</translation>
     </message>
     <message>
         <location filename="../src/tools/OrderOptions.cpp"/>
@@ -4798,8 +4798,8 @@ Example:
   tarn-order --rooms house.csv --roll 12ft=18.50 --roll 15ft=19 --lay both --trim 3in</source>
         <translation>Längen schreibt man 12ft6in, 18in, 366cm oder 3.66m; eine bloße Zahl zählt in den Einheiten des
 Projekts. Alle Längen einer Bestellung sind ganze Zoll, mit --metric ganze Zentimeter:
-Rollenbreiten werden abgerundet; Zugabe, Webkante, kürzestes Teil und Stufe auf. Ein Rapport muss
-ganzzahlig sein.
+Rollenbreiten werden abgerundet; Zugabe, Webkante, kürzestes Teil und Stufe werden aufgerundet.
+Ein Rapport muss ganzzahlig sein.
 
 Der Rapport quer ist der Abstand zur nächsten Musterspalte, die mit --half-drop einen halben
 Rapport weiter steht: die Hälfte des Rapports von Herstellern, die das ganze Muster nennen.
@@ -4825,17 +4825,17 @@ Beispiel:
     <message>
         <location filename="../src/tools/OrderOptions.cpp"/>
         <source>More than a strip&apos;s length, at its far end (default 0, at most 24in or 60cm)</source>
-        <translation>Mehr als die Länge eines Streifens, an seinem Ende (üblich 0, höchstens 24in oder 60cm)</translation>
+        <translation>Mehr als die Länge eines Streifens, an seinem Ende (Standard 0, höchstens 24in oder 60cm)</translation>
     </message>
     <message>
         <location filename="../src/tools/OrderOptions.cpp"/>
         <source>Most parts of a strip, 1 to %1 (default 1)</source>
-        <translation>Höchstzahl der Teile eines Streifens, 1 bis %1 (üblich 1)</translation>
+        <translation>Höchstzahl der Teile eines Streifens, 1 bis %1 (Standard 1)</translation>
     </message>
     <message>
         <location filename="../src/tools/OrderOptions.cpp"/>
         <source>Number of the carpet, 1 to 8 (default: all of the project)</source>
-        <translation>Nummer des Teppichbodens, 1 bis 8 (üblich: alle des Projekts)</translation>
+        <translation>Nummer des Teppichbodens, 1 bis 8 (Standard: alle des Projekts)</translation>
     </message>
     <message>
         <location filename="../src/tools/OrderOptions.cpp"/>
@@ -4845,12 +4845,12 @@ Beispiel:
     <message>
         <location filename="../src/tools/OrderOptions.cpp"/>
         <source>Percent by which repeats may come out longer (default 1 with a repeat along, else 0; at most 10)</source>
-        <translation>Prozent, um die Rapporte länger ausfallen können (üblich 1 bei einem Rapport längs, sonst 0; höchstens 10)</translation>
+        <translation>Prozent, um die Rapporte länger ausfallen können (Standard 1 bei einem Rapport längs, sonst 0; höchstens 10)</translation>
     </message>
     <message>
         <location filename="../src/tools/OrderOptions.cpp"/>
         <source>Shortest part of a divided strip (default 3ft, 91cm with --metric)</source>
-        <translation>Kürzestes Teil eines geteilten Streifens (üblich 3ft, 91cm mit --metric)</translation>
+        <translation>Kürzestes Teil eines geteilten Streifens (Standard 3ft, 91cm mit --metric)</translation>
     </message>
     <message>
         <location filename="../src/tools/OrderOptions.cpp"/>
@@ -4870,7 +4870,7 @@ Beispiel:
     <message>
         <location filename="../src/tools/OrderOptions.cpp"/>
         <source>The roll is ordered in whole steps (default 3in, 5cm with --metric)</source>
-        <translation>Die Rolle wird in ganzen Stufen bestellt (üblich 3in, 5cm mit --metric)</translation>
+        <translation>Die Rolle wird in ganzen Stufen bestellt (Standard 3in, 5cm mit --metric)</translation>
     </message>
     <message>
         <location filename="../src/tools/OrderOptions.cpp"/>
@@ -4922,12 +4922,12 @@ Die Räume kommen aus einer Datenbank (--database und --project) oder einer CSV-
     <message>
         <location filename="../src/tools/OrderOptions.cpp"/>
         <source>down: room widths across the roll (default); cross: room lengths</source>
-        <translation>down: Raumbreiten quer zur Rolle (üblich); cross: Raumlängen</translation>
+        <translation>down: Raumbreiten quer zur Rolle (Standard); cross: Raumlängen</translation>
     </message>
     <message>
         <location filename="../src/tools/OrderOptions.cpp"/>
         <source>write the repeat across and along, as 18x24.</source>
-        <translation>schreiben Sie den Rapport quer und längs, wie 18x24.</translation>
+        <translation>Schreiben Sie den Rapport quer und längs, wie 18x24.</translation>
     </message>
     <message>
         <location filename="../src/tools/OrderOptions.cpp"/>
@@ -4978,7 +4978,7 @@ Die Räume kommen aus einer Datenbank (--database und --project) oder einer CSV-
     <message>
         <location filename="../src/tools/ProgramOptions.cpp"/>
         <source>A file, or a name as &quot;backups&quot; lists it</source>
-        <translation>Eine Datei, oder ein Name aus der Liste von „backups“</translation>
+        <translation>Eine Datei oder ein Name aus der Liste von „backups“</translation>
     </message>
     <message>
         <location filename="../src/tools/ProgramOptions.cpp"/>
@@ -4993,7 +4993,7 @@ Die Räume kommen aus einer Datenbank (--database und --project) oder einer CSV-
     <message>
         <location filename="../src/tools/ProgramOptions.cpp"/>
         <source>Directory of a new project (default: the current month)</source>
-        <translation>Verzeichnis eines neuen Projekts (üblich: der laufende Monat)</translation>
+        <translation>Verzeichnis eines neuen Projekts (Standard: der laufende Monat)</translation>
     </message>
     <message>
         <location filename="../src/tools/ProgramOptions.cpp"/>
@@ -5008,7 +5008,7 @@ Die Räume kommen aus einer Datenbank (--database und --project) oder einer CSV-
     <message>
         <location filename="../src/tools/ProgramOptions.cpp"/>
         <source>File to write (default: standard output)</source>
-        <translation>Zu schreibende Datei (üblich: Standardausgabe)</translation>
+        <translation>Zu schreibende Datei (sonst: Standardausgabe)</translation>
     </message>
     <message>
         <location filename="../src/tools/ProgramOptions.cpp"/>
@@ -5196,7 +5196,7 @@ Beispiel:
     <message>
         <location filename="../src/tools/SharedOptions.cpp"/>
         <source>Encoding of the CSV file, such as windows-1252; &quot;iconv -l&quot; lists them (default: what its byte-order mark says, else UTF-8)</source>
-        <translation>Zeichenkodierung der CSV-Datei, etwa windows-1252; „iconv -l“ nennt sie (Vorgabe: was ihre Bytereihenfolge-Marke sagt, sonst UTF-8)</translation>
+        <translation>Zeichenkodierung der CSV-Datei, etwa windows-1252; „iconv -l“ nennt sie (Standard: was ihre Bytereihenfolge-Marke sagt, sonst UTF-8)</translation>
     </message>
     <message>
         <location filename="../src/tools/SharedOptions.cpp"/>
@@ -5272,7 +5272,7 @@ Beispiel:
     <message>
         <location filename="../src/tools/ToolMain.cpp"/>
         <source>Write over a database too, and where a symbolic link leads</source>
-        <translation>Auch über eine Datenbank schreiben, und dorthin, wohin eine Verknüpfung führt</translation>
+        <translation>Auch über eine Datenbank schreiben und dorthin, wohin eine Verknüpfung führt</translation>
     </message>
     <message>
         <location filename="../src/tools/tarn.cpp"/>
