@@ -707,12 +707,12 @@
     <message>
         <location filename="../src/order/ComparisonText.cpp"/>
         <source>Best: %1, %2 in one length without a join</source>
-        <translation>Am besten: %1, %2 in einer Länge ohne Quernaht</translation>
+        <translation>Am besten: %1, %2 in einer durchgehenden Länge</translation>
     </message>
     <message>
         <location filename="../src/order/ComparisonText.cpp"/>
         <source>Chosen: %1, %2 in one length without a join</source>
-        <translation>Gewählt: %1, %2 in einer Länge ohne Quernaht</translation>
+        <translation>Gewählt: %1, %2 in einer durchgehenden Länge</translation>
     </message>
     <message>
         <location filename="../src/order/ComparisonText.cpp"/>
@@ -846,7 +846,7 @@
     <message>
         <location filename="../src/order/SheetFront.cpp"/>
         <source>%1 in one length without a join</source>
-        <translation>%1 in einer Länge ohne Quernaht</translation>
+        <translation>%1 in einer durchgehenden Länge</translation>
     </message>
     <message>
         <location filename="../src/order/SheetFront.cpp"/>
@@ -1016,12 +1016,12 @@
     <message>
         <location filename="../src/order/SheetFront.cpp"/>
         <source>Seams</source>
-        <translation>Nähte</translation>
+        <translation>Längsnähte</translation>
     </message>
     <message>
         <location filename="../src/order/SheetFront.cpp"/>
         <source>Seams cm</source>
-        <translation>Nähte cm</translation>
+        <translation>Längsnähte cm</translation>
     </message>
     <message>
         <location filename="../src/order/SheetFront.cpp"/>
@@ -1091,7 +1091,7 @@
     <message>
         <location filename="../src/order/SheetFront.cpp"/>
         <source>at most %1, none shorter than %2, of rooms too</source>
-        <translation>höchstens %1, keines kürzer als %2, auch bei Räumen</translation>
+        <translation>höchstens %1, keines kürzer als %2, auch bei Räumen bis Rollenbreite</translation>
     </message>
     <message>
         <location filename="../src/order/SheetFront.cpp"/>
@@ -1532,7 +1532,7 @@ Das Programm kann nicht drucken</translation>
     <message>
         <location filename="../src/project/OrderRequest.cpp"/>
         <source>this one is %1</source>
-        <translation>für diese gilt: %1</translation>
+        <translation>für die vorhandene gilt: %1</translation>
     </message>
     <message>
         <location filename="../src/project/Report.cpp"/>
@@ -2589,7 +2589,7 @@ Seine Räume können als neues Projekt gespeichert werden.</translation>
     <message>
         <location filename="../src/screens/order/OrderChoicePanel.cpp"/>
         <source>Across is the distance to the next column of the pattern. With a half drop, which sets it half a repeat further along, that is half the repeat of makers who name the whole design.</source>
-        <translation>Quer ist der Abstand zur nächsten Musterspalte. Bei halbem Versatz, der sie einen halben Rapport weiter setzt, ist das die Hälfte des Rapports von Herstellern, die das ganze Muster nennen.</translation>
+        <translation>Quer ist der Abstand zur nächsten Musterspalte. Bei halbem Versatz, der sie längs einen halben Rapport weiter setzt, ist das die Hälfte des Rapports von Herstellern, die das ganze Muster nennen.</translation>
     </message>
     <message>
         <location filename="../src/screens/order/OrderChoicePanel.cpp"/>
@@ -3250,7 +3250,7 @@ Worin sind ihre Maße angegeben?</translation>
     <message>
         <location filename="../src/screens/rooms/RoomScreen.cpp"/>
         <source>Then click where the cut list is to stand, or press Enter for the top left of the view.</source>
-        <translation>Klicken Sie dann dorthin, wo die Zuschnittliste stehen soll, oder drücken Sie die Eingabetaste für oben links.</translation>
+        <translation>Klicken Sie dann dorthin, wo die Zuschnittliste stehen soll, oder drücken Sie die Eingabetaste für oben links im sichtbaren Ausschnitt.</translation>
     </message>
     <message>
         <location filename="../src/screens/rooms/RoomScreen.cpp"/>
@@ -3372,7 +3372,7 @@ Worin sind ihre Maße angegeben?</translation>
     <message>
         <location filename="../src/store/Check.cpp"/>
         <source>Carpets with more than one request for an order, of which the last is read</source>
-        <translation>Teppichböden mit mehr als einer Bestellvorgabe, von denen die letzte gelesen wird</translation>
+        <translation>Teppichböden mit mehreren Bestellvorgaben, von denen die letzte gelesen wird</translation>
     </message>
     <message>
         <location filename="../src/store/Check.cpp"/>
@@ -3417,7 +3417,7 @@ Worin sind ihre Maße angegeben?</translation>
     <message>
         <location filename="../src/store/Check.cpp"/>
         <source>Projects with more than one sheet, of which the first alone is used</source>
-        <translation>Projekte mit mehr als einem Blatt, von denen nur das erste gilt</translation>
+        <translation>Projekte mit mehreren Blättern, von denen nur das erste gilt</translation>
     </message>
     <message>
         <location filename="../src/store/Check.cpp"/>
@@ -3432,7 +3432,7 @@ Worin sind ihre Maße angegeben?</translation>
     <message>
         <location filename="../src/store/Check.cpp"/>
         <source>Rooms with more than one row, of which the last is read</source>
-        <translation>Räume mit mehr als einer Zeile, von denen die letzte gelesen wird</translation>
+        <translation>Räume mit mehreren Zeilen, von denen die letzte gelesen wird</translation>
     </message>
     <message>
         <location filename="../src/store/Check.cpp"/>
@@ -3452,7 +3452,7 @@ Worin sind ihre Maße angegeben?</translation>
     <message>
         <location filename="../src/store/Check.cpp"/>
         <source>Sheet numbers of more than one project, whose rooms cannot be told apart</source>
-        <translation>Blattnummern von mehr als einem Projekt, deren Räume nicht zu unterscheiden sind</translation>
+        <translation>Blattnummern mehrerer Projekte, deren Räume nicht zu unterscheiden sind</translation>
     </message>
     <message>
         <location filename="../src/store/Check.cpp"/>
@@ -3502,7 +3502,7 @@ Worin sind ihre Maße angegeben?</translation>
     <message>
         <location filename="../src/store/Configuration.cpp"/>
         <source>it is there already</source>
-        <translation>Sie ist schon da</translation>
+        <translation>Die Datei ist schon da</translation>
     </message>
     <message>
         <location filename="../src/store/Configuration.cpp"/>
@@ -4165,7 +4165,7 @@ Bei Nein wird nichts angelegt, und das Programm endet.</translation>
     <message>
         <location filename="../src/store/RoomRows.cpp"/>
         <source>Stored under one number with %1, whose rooms they may be</source>
-        <translation>Unter einer Nummer gespeichert mit %1; die Räume können dorthin gehören</translation>
+        <translation>Unter einer gemeinsamen Nummer mit %1 gespeichert; die Räume können dorthin gehören</translation>
     </message>
     <message>
         <location filename="../src/store/RoomRows.cpp"/>
@@ -4190,7 +4190,7 @@ Bei Nein wird nichts angelegt, und das Programm endet.</translation>
     <message>
         <location filename="../src/store/RoomRows.cpp"/>
         <source>With an unknown wall base, shown as none</source>
-        <translation>Mit unbekanntem Sockel, als keiner gezeigt</translation>
+        <translation>Mit unbekanntem Sockel, ohne Sockel gezeigt</translation>
     </message>
     <message>
         <location filename="../src/store/RoomRows.cpp"/>
@@ -4205,7 +4205,7 @@ Bei Nein wird nichts angelegt, und das Programm endet.</translation>
     <message>
         <location filename="../src/store/RoomRows.cpp"/>
         <source>Without a wall base, read as none</source>
-        <translation>Ohne Sockel, gelesen als keiner</translation>
+        <translation>Ohne Sockelangabe, als ohne Sockel gelesen</translation>
     </message>
     <message>
         <location filename="../src/store/RoomRows.cpp"/>
@@ -4423,7 +4423,7 @@ Bei Nein wird nichts angelegt, und das Programm endet.</translation>
     <message>
         <location filename="../src/tools/DataCommands.cpp"/>
         <source>Made %1, which names the folder %2.</source>
-        <translation>%1 angelegt, es nennt den Ordner %2.</translation>
+        <translation>%1 angelegt; darin ist der Ordner %2 genannt.</translation>
     </message>
     <message>
         <location filename="../src/tools/DataCommands.cpp"/>
@@ -4738,7 +4738,7 @@ Die Räume kommen aus einer Datenbank (--database und --project) oder einer CSV-
     <message>
         <location filename="../src/tools/ImproveTool.cpp"/>
         <source>Note: beside it there is one of %1.</source>
-        <translation>Hinweis: Daneben gibt es eine von %1.</translation>
+        <translation>Hinweis: Daneben gibt es eine Anordnung von %1.</translation>
     </message>
     <message>
         <location filename="../src/tools/ImproveTool.cpp"/>
@@ -4801,7 +4801,7 @@ Projekts. Alle Längen einer Bestellung sind ganze Zoll, mit --metric ganze Zent
 Rollenbreiten werden abgerundet; Zugabe, Webkante, kürzestes Teil und Stufe werden aufgerundet.
 Ein Rapport muss ganzzahlig sein.
 
-Der Rapport quer ist der Abstand zur nächsten Musterspalte, die mit --half-drop einen halben
+Der Rapport quer ist der Abstand zur nächsten Musterspalte, die mit --half-drop längs einen halben
 Rapport weiter steht: die Hälfte des Rapports von Herstellern, die das ganze Muster nennen.
 
 Angegebene Optionen gehen der mit dem Projekt gespeicherten Vorgabe vor.
@@ -4865,7 +4865,7 @@ Beispiel:
     <message>
         <location filename="../src/tools/OrderOptions.cpp"/>
         <source>The next column of the pattern stands half a repeat further along</source>
-        <translation>Die nächste Musterspalte steht einen halben Rapport weiter</translation>
+        <translation>Die nächste Musterspalte steht längs einen halben Rapport weiter</translation>
     </message>
     <message>
         <location filename="../src/tools/OrderOptions.cpp"/>

@@ -1091,7 +1091,7 @@
     <message>
         <location filename="../src/order/SheetFront.cpp"/>
         <source>at most %1, none shorter than %2, of rooms too</source>
-        <translation>%1 como máximo, ninguno más corto que %2, también en estancias</translation>
+        <translation>%1 como máximo, ninguno más corto que %2, también en estancias que caben en el rollo</translation>
     </message>
     <message>
         <location filename="../src/order/SheetFront.cpp"/>
@@ -1671,7 +1671,7 @@ No se puede imprimir en el programa</translation>
     <message>
         <location filename="../src/project/RoomList.cpp"/>
         <source>ITEM</source>
-        <translation>N.º</translation>
+        <translation>POS.</translation>
     </message>
     <message>
         <location filename="../src/project/RoomList.cpp"/>
@@ -2101,7 +2101,7 @@ Sus estancias se pueden guardar como proyecto nuevo.</translation>
     <message>
         <location filename="../src/screens/estimate/ChoicePanel.cpp"/>
         <source>&amp;OK</source>
-        <translation>O&amp;K</translation>
+        <translation>AC&amp;EPTAR</translation>
     </message>
     <message>
         <location filename="../src/screens/estimate/ChoicePanel.cpp"/>
@@ -3076,7 +3076,7 @@ What are their sizes in?</source>
     <message>
         <location filename="../src/screens/rooms/RoomEntryFrame.cpp"/>
         <source>PROJECT ITEM No.</source>
-        <translation>N.º DE ELEMENTO</translation>
+        <translation>N.º DE POSICIÓN</translation>
     </message>
     <message>
         <location filename="../src/screens/rooms/RoomEntryFrame.cpp"/>
@@ -3427,7 +3427,7 @@ What are their sizes in?</source>
     <message>
         <location filename="../src/store/Check.cpp"/>
         <source>Rooms beyond the number that the sheet tells, which nothing shows</source>
-        <translation>Estancias más allá del número que indica la hoja, que nada muestra</translation>
+        <translation>Estancias más allá del número que indica la hoja y que no se muestran en ninguna parte</translation>
     </message>
     <message>
         <location filename="../src/store/Check.cpp"/>
@@ -3442,7 +3442,7 @@ What are their sizes in?</source>
     <message>
         <location filename="../src/store/Check.cpp"/>
         <source>Rooms without a sheet, which nothing shows</source>
-        <translation>Estancias sin hoja, que nada muestra</translation>
+        <translation>Estancias sin hoja, que no se muestran en ninguna parte</translation>
     </message>
     <message>
         <location filename="../src/store/Check.cpp"/>
@@ -4033,7 +4033,7 @@ Con «No» no se crea nada y el programa termina.</translation>
     <message>
         <location filename="../src/store/RepairedData.cpp"/>
         <source>Rooms that were stored twice alike</source>
-        <translation>Estancias guardadas dos veces iguales</translation>
+        <translation>Estancias guardadas dos veces de forma idéntica</translation>
     </message>
     <message>
         <location filename="../src/store/RepairedData.cpp"/>
@@ -4458,7 +4458,7 @@ Con «No» no se crea nada y el programa termina.</translation>
     <message>
         <location filename="../src/tools/DataCommands.cpp"/>
         <source>There is no backup %1. &quot;tarn-data backups&quot; tells the backups that there are.</source>
-        <translation>No hay copia de seguridad %1. «tarn-data backups» dice cuáles hay.</translation>
+        <translation>No hay ninguna copia de seguridad %1. «tarn-data backups» dice cuáles hay.</translation>
     </message>
     <message>
         <location filename="../src/tools/DataCommands.cpp"/>
@@ -4518,7 +4518,7 @@ Example:
   tarn-data import --database ~/estimates/DATA/Tarn.mdb --project &quot;SMITH&quot; house.csv</source>
         <translation>tarn-data ORDEN --help dice las opciones de una orden.
 
-Un nombre tiene como máximo %1 caracteres, el de un proyecto ninguno de %2
+Un nombre tiene como máximo %1 caracteres; el de un proyecto, ninguno de %2
 
 Estado de salida: 0 hecho, 1 rechazado o fallos encontrados (la causa está en la salida de errores), 2 uso incorrecto.
 
@@ -4571,8 +4571,8 @@ cualquier orden; las tres primeras son obligatorias. Las medidas son pulgadas en
 12&apos;6&quot; (centímetros enteros con --metric), o números en la unidad que dice un encabezado como
 «Width (ft)»; los materiales CARPET-1 o C1, TILE-4 o T4. La columna base dice cuántos anchos y
 largos de la estancia llevan rodapié: W2L1 son dos anchos y un largo. Una medida de 0 se lee y no se
-corta. Un número de estancia tiene como máximo %1 caracteres, una nota %2, cada uno en una línea; si
-empieza por &apos; se quita ese &apos;. Separan comas, puntos y comas o tabuladores. Un archivo, que no sea
+corta. Un número de estancia tiene como máximo %1 caracteres y una nota %2, cada uno en una línea;
+si empieza por &apos; se quita ese &apos;. Separan comas, puntos y comas o tabuladores. Un archivo, que no sea
 tubería ni dispositivo, tiene como máximo %3 estancias y %4 MB.
 
 Un archivo de salida sustituye al que hay cuando está entero y guardado. Las bases de datos y los
@@ -4738,7 +4738,7 @@ Las estancias vienen de una base de datos (--database y --project) o de un archi
     <message>
         <location filename="../src/tools/ImproveTool.cpp"/>
         <source>Note: beside it there is one of %1.</source>
-        <translation>Nota: junto a ella hay una de %1.</translation>
+        <translation>Nota: además hay otra disposición de %1.</translation>
     </message>
     <message>
         <location filename="../src/tools/ImproveTool.cpp"/>
@@ -4778,7 +4778,7 @@ Las estancias vienen de una base de datos (--database y --project) o de un archi
     <message>
         <location filename="../src/tools/OrderOptions.cpp"/>
         <source>How many threads look for it (all cores, at most 8; with --improve-steps one)</source>
-        <translation>Cuántos hilos la buscan (todos los núcleos, 8 como máximo; con --improve-steps uno)</translation>
+        <translation>Cuántos hilos las buscan (todos los núcleos, 8 como máximo; con --improve-steps uno)</translation>
     </message>
     <message>
         <location filename="../src/tools/OrderOptions.cpp"/>
@@ -4796,7 +4796,7 @@ Exit status: 0 done, 1 refused, or no carpet has an order (the reason is on stan
 
 Example:
   tarn-order --rooms house.csv --roll 12ft=18.50 --roll 15ft=19 --lay both --trim 3in</source>
-        <translation>Las medidas se escriben 12ft6in, 18in, 366cm o 3.66m; un número solo está en las unidades del
+        <translation>Las medidas se escriben 12ft6in, 18in, 366cm o 3.66m; un número sin unidad está en las unidades del
 proyecto. Todas las medidas de un pedido son pulgadas enteras, con --metric centímetros enteros: los
 anchos de rollo se redondean hacia abajo; demasía, orillo, tramo mínimo y paso, hacia arriba. Un
 rapport debe ser entero.
@@ -5151,7 +5151,7 @@ Ejemplo:
     <message>
         <location filename="../src/tools/ProjectFile.cpp"/>
         <source>There is no project %1. &quot;tarn-data list&quot; tells the projects that there are.</source>
-        <translation>No hay proyecto %1. «tarn-data list» dice cuáles hay.</translation>
+        <translation>No hay ningún proyecto %1. «tarn-data list» dice cuáles hay.</translation>
     </message>
     <message>
         <location filename="../src/tools/ProjectFile.cpp"/>

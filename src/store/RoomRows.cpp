@@ -58,9 +58,12 @@ std::string RoomList(const Slots& slots) {
         const std::string begin = std::to_string(first + 1);
         const std::string end = std::to_string(last + 1);
         list += list.empty() ? "" : ", ";
-        list += last > first + 1    ? Words("%1 to %2", begin, end)
-                : last == first + 1 ? begin + ", " + end
-                                    : begin;
+        if (last > first + 1) {
+            list += Words("%1 to %2", begin, end);
+        } else {
+            list += begin;
+            list += last == first ? "" : ", " + end;
+        }
     }
     return Words(slots.size() == 1 ? Words("room %1") : Words("rooms %1"), list);
 }

@@ -58,7 +58,11 @@ std::string EachMinCut(const std::function<std::string(MinCut)>& textOf) {
     std::string list = textOf(AllMinCuts.front());
     for (std::size_t i = 1; i < AllMinCuts.size(); ++i) {
         const std::string more = textOf(AllMinCuts.at(i));
-        list = i < AllMinCuts.size() - 1 ? list + ", " + more : Words("%1 or %2", list, more);
+        if (i < AllMinCuts.size() - 1) {
+            list.append(", ").append(more);
+        } else {
+            list = Words("%1 or %2", list, more);
+        }
     }
     return list;
 }

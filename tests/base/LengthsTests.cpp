@@ -9,7 +9,7 @@
 namespace tarn {
 namespace {
 
-constexpr Double Greatest = 2147483647;
+constexpr Double GreatestLong = 2147483647;
 
 TEST(WholeInches, RaisesEveryLengthButOneWithinTheTolerance) {
     for (Long n = 0; n <= 40000; ++n) {
@@ -28,9 +28,9 @@ TEST(WholeInches, CountsExactlyTheToleranceAsMore) {
 }
 
 TEST(WholeInches, OverflowsBeyondALong) {
-    EXPECT_EQ(WholeInches(Greatest), 2147483647);
-    for (const Double inches :
-         {Greatest + 0.5, Greatest + 1, 1e300, -1e300, std::numeric_limits<Double>::quiet_NaN()}) {
+    EXPECT_EQ(WholeInches(GreatestLong), 2147483647);
+    for (const Double inches : {GreatestLong + 0.5, GreatestLong + 1, 1e300, -1e300,
+                                std::numeric_limits<Double>::quiet_NaN()}) {
         EXPECT_EQ(ErrorNumber([=] { return WholeInches(inches); }), OverflowNumber) << inches;
     }
 }
@@ -65,7 +65,7 @@ TEST(WholeCentimetres, GivesBackEveryWholeCentimetreHeldAsHundredthsOfAnInch) {
 }
 
 TEST(WholeCentimetres, OverflowsBeyondALong) {
-    EXPECT_EQ(ErrorNumber([] { return WholeCentimetres(Greatest / 2); }), OverflowNumber);
+    EXPECT_EQ(ErrorNumber([] { return WholeCentimetres(GreatestLong / 2); }), OverflowNumber);
     EXPECT_EQ(ErrorNumber([] { return WholeCentimetres(1e300); }), OverflowNumber);
 }
 
@@ -87,7 +87,7 @@ TEST(RoundedCentimetres, GivesTheRollWidthsTheirNames) {
 }
 
 TEST(RoundedCentimetres, OverflowsBeyondALong) {
-    EXPECT_EQ(ErrorNumber([] { return RoundedCentimetres(Greatest); }), OverflowNumber);
+    EXPECT_EQ(ErrorNumber([] { return RoundedCentimetres(GreatestLong); }), OverflowNumber);
 }
 
 TEST(WholeLengthText, ShowsTheLengthInTheUnitThatItIsIn) {

@@ -133,9 +133,9 @@ TEST(FindTextFault, TellsBytesThatAreNoCharacter) {
             shown += "\uFFFD";
         }
         for (const std::string end : {"", "a", "\u00E9"}) {
-            const std::string text = "\U0001F6C1" + bytes + end;
+            const std::string text = std::string("\U0001F6C1").append(bytes).append(end);
             EXPECT_EQ(FindTextFault(text), TextFault::NotUtf8) << ::testing::PrintToString(text);
-            EXPECT_EQ(ShownText(text), "\U0001F6C1" + shown + end);
+            EXPECT_EQ(ShownText(text), std::string("\U0001F6C1").append(shown).append(end));
         }
     }
 }

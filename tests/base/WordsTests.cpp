@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <string>
 #include <thread>
 #include <vector>
@@ -68,9 +69,9 @@ TEST(Words, StayWhereTheyAreWhileOthersAreSaid) {
         return std::optional(std::string("<") + english + ">");
     });
     const std::string_view first = Back;
-    std::vector<std::thread> threads;
-    for (int thread = 0; thread < 4; ++thread) {
-        threads.emplace_back([] {
+    std::array<std::thread, 4> threads;
+    for (std::thread& thread : threads) {
+        thread = std::thread([] {
             for (int i = 0; i < 500; ++i) {
                 const std::string text = "text " + std::to_string(i);
                 EXPECT_EQ(std::string(Phrase(text.c_str())), "<" + text + ">");

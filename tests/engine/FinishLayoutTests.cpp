@@ -20,6 +20,7 @@ TEST(FinishLayout, RestoresTheOrderOfCreationWithThePlaces) {
         std::mt19937 random(seed);
         std::vector<Placed> layout;
         const int count = 1 + Below(random, 40);
+        layout.reserve(static_cast<std::size_t>(count));
         for (int i = 0; i < count; ++i) {
             layout.push_back(
                 PlacedAt(0, static_cast<Single>(10 * i), {1.0 + i, 10}, static_cast<Integer>(i)));

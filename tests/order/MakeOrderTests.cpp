@@ -227,7 +227,8 @@ TEST(MakeOrder, ByStepsIsTheSameOnAnyNumberOfCores) {
     EXPECT_FALSE(one == MakeOrder(job.Rooms, 0, job.Request, limits, nobody));
 }
 
-/// Looks at what it is told, and calls the search off at a call of that number.
+/// Looks at what it is told, and calls the search off at a call of that number, or when it is first
+/// told of a layout if that is later: on a busy machine none may be there yet.
 class Watcher : public OrderObserver {
   public:
     Watcher(const Project& project, int last)
@@ -235,6 +236,7 @@ class Watcher : public OrderObserver {
         , last_(last) {}
 
     bool Progress(const Order& soFar, bool changed) override {
+        EXPECT_FALSE(hasCalledOff_);
         ++calls_;
         changes_ += changed ? 1 : 0;
         EXPECT_EQ(CheckOrder(project_, soFar), "");
@@ -245,7 +247,8 @@ class Watcher : public OrderObserver {
             ExpectNotWorse(soFar.Candidates[i], lastSeen_.Candidates[i]);
         }
         lastSeen_ = soFar;
-        return calls_ < last_;
+        hasCalledOff_ = calls_ >= last_ && changes_ > 0;
+        return !hasCalledOff_;
     }
 
     int Calls() const { return calls_; }
@@ -265,6 +268,7 @@ class Watcher : public OrderObserver {
     int last_;
     int calls_ = 0;
     int changes_ = 0;
+    bool hasCalledOff_ = false;
     Order lastSeen_;
 };
 
@@ -275,7 +279,7 @@ TEST(MakeOrder, TellsWhatIsFoundAndStopsWhenItIsToldTo) {
     for (const int last : {1, 2, 5}) {
         Watcher watcher(job.Rooms, last);
         const Order order = MakeOrder(job.Rooms, 0, job.Request, limits, watcher);
-        EXPECT_EQ(watcher.Calls(), last);
+        EXPECT_GE(watcher.Calls(), last);
         EXPECT_GE(watcher.Changes(), 1);
         EXPECT_EQ(CheckOrder(job.Rooms, order), "");
         for (std::size_t i = 0; i < order.Candidates.size(); ++i) {

@@ -9,7 +9,7 @@ namespace tarn {
 namespace {
 
 constexpr int Least = std::numeric_limits<Integer>::min();
-constexpr int Most = std::numeric_limits<Integer>::max();
+constexpr int GreatestSize = std::numeric_limits<Integer>::max();
 
 int FlooredQuotient(int value, int units) {
     return value >= 0 ? value / units : -((units - 1 - value) / units);
@@ -26,7 +26,7 @@ INSTANTIATE_TEST_SUITE_P(Units, EverySize, ::testing::Values(Units::Imperial, Un
                          });
 
 TEST_P(EverySize, SplitsIntoAFlooredMajorAndAMinorWithItsSign) {
-    for (int size = Least; size <= Most; ++size) {
+    for (int size = Least; size <= GreatestSize; ++size) {
         const SizeParts parts = SplitSize(static_cast<Integer>(size), In());
         ASSERT_EQ(parts.Major, std::to_string(FlooredQuotient(size, SmallUnits()))) << size;
         ASSERT_EQ(parts.Minor, std::to_string(size % SmallUnits())) << size;
@@ -34,7 +34,7 @@ TEST_P(EverySize, SplitsIntoAFlooredMajorAndAMinorWithItsSign) {
 }
 
 TEST_P(EverySize, FromZeroOnIsJoinedBackAndAccepted) {
-    for (int size = 0; size <= Most; ++size) {
+    for (int size = 0; size <= GreatestSize; ++size) {
         const SizeParts parts = SplitSize(static_cast<Integer>(size), In());
         ASSERT_EQ(ReadSize(parts, In()), size);
     }

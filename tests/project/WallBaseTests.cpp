@@ -13,7 +13,7 @@
 namespace tarn {
 namespace {
 
-constexpr int Most = std::numeric_limits<Integer>::max();
+constexpr int GreatestWidth = std::numeric_limits<Integer>::max();
 
 /// Every text of up to four of the characters that matter, in both letter cases.
 std::vector<std::string> ShortTexts() {
@@ -48,9 +48,9 @@ int PlainCount(const std::string& text, char side) {
 }
 
 TEST(BaseText, GivesTheTextOfEveryCode) {
-    constexpr std::array Texts{"", "W1", "W2", "L1", "W1L1", "W2L1", "L2", "W1L2", "W2L2"};
-    for (std::size_t code = 0; code < Texts.size(); ++code) {
-        EXPECT_EQ(BaseText(static_cast<Byte>(code)), Texts[code]);
+    constexpr std::array Codes{"", "W1", "W2", "L1", "W1L1", "W2L1", "L2", "W1L2", "W2L2"};
+    for (std::size_t code = 0; code < Codes.size(); ++code) {
+        EXPECT_EQ(BaseText(static_cast<Byte>(code)), Codes[code]);
     }
 }
 
@@ -207,7 +207,7 @@ TEST(ListedBaseLength, CountsTheSidesOfEveryCode) {
 TEST(ListedBaseLength, OverflowsWhenTheResultDoesNotFit) {
     EXPECT_EQ(ListedBaseLength(32765, 0, 1), 32766);
     EXPECT_EQ(ErrorNumber([] { ListedBaseLength(32766, 0, 1); }), OverflowNumber);
-    EXPECT_EQ(ErrorNumber([] { ListedBaseLength(Most, 0, 1); }), OverflowNumber);
+    EXPECT_EQ(ErrorNumber([] { ListedBaseLength(GreatestWidth, 0, 1); }), OverflowNumber);
 }
 
 TEST(ListedBaseLength, OverflowsWhenAProductOrTheSumDoesNotFit) {

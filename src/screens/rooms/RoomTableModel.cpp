@@ -56,7 +56,8 @@ void RoomTableModel::NoteRooms() {
         rows_ = rows;
         endRemoveRows();
     }
-    Q_EMIT dataChanged(index(0, 0), index(rows_ - 1, RoomColumns - 1));
+    const QModelIndex last = index(rows_ - 1, RoomColumns - 1);
+    Q_EMIT dataChanged(index(0, 0), last);
 }
 
 int RoomTableModel::rowCount(const QModelIndex& parent) const {

@@ -8,6 +8,7 @@
 #include "screens/Theme.h"
 
 #include <QAbstractTableModel>
+#include <QEvent>
 #include <QHeaderView>
 #include <QScrollBar>
 

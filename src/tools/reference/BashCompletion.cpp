@@ -53,8 +53,10 @@ std::string CompleteRows(const std::vector<OptionRow>& rows, const std::string& 
         if (row.IsArgument) {
             argument = CallFor(row);
         } else if (KindOf(row) != ValueKind::None) {
-            values += indent + row.Name + ")\n" + indent + "    " + CallFor(row) + "\n" + indent +
-                      "    return\n" + indent + "    ;;\n";
+            for (const std::string& line : {row.Name + ")", "    " + CallFor(row),
+                                            std::string("    return"), std::string("    ;;")}) {
+                values.append(indent).append(line).append("\n");
+            }
         }
     }
     return (values.empty() ? "" : indent + "case $before in\n" + values + indent + "esac\n") +

@@ -26,12 +26,8 @@ std::string InOneLine(std::string text) {
     return text;
 }
 
-/// The name of a value alone: CLI11 adds what the checks of the option say of themselves.
-std::string ValueOf(CLI::Option& option) {
-    if (option.get_type_size() == 0) {
-        return {};
-    }
-    std::string name = option.get_type_name();
+/// What CLI11 adds to the name of a value: what the checks of the option say of themselves.
+std::string ChecksOf(CLI::Option& option) {
     std::string checks;
     try {
         for (int i = 0;; ++i) {
@@ -40,6 +36,16 @@ std::string ValueOf(CLI::Option& option) {
         }
     } catch (const CLI::OptionNotFound&) { // behind the last one
     }
+    return checks;
+}
+
+/// The name of a value alone.
+std::string ValueOf(CLI::Option& option) {
+    if (option.get_type_size() == 0) {
+        return {};
+    }
+    const std::string checks = ChecksOf(option);
+    std::string name = option.get_type_name();
     if (!checks.empty() && name.ends_with(checks)) {
         name.erase(name.size() - checks.size());
     }
