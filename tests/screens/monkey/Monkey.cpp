@@ -147,6 +147,13 @@ void ForgetEnd() {
     QCoreApplication::exec();
 }
 
+/// On other screens it is the machine that is slow.
+bool MaySearch(const ScreenWindow& window) {
+    const Screen* front = window.Front();
+    const std::string name = front == nullptr ? "" : FromQt(front->objectName());
+    return name == Controls::estimateScreen || name == Controls::optionsScreen;
+}
+
 bool TakesClicks(const QWidget& widget) {
     return widget.isVisible() && widget.isEnabled() && !widget.size().isEmpty();
 }
@@ -334,6 +341,10 @@ void Monkey::Step() {
         ForgetEnd();
         StartProgram();
     }
+    if (program_->Window().Front() == nullptr) {
+        faults_.emplace_back("no screen stands");
+        return;
+    }
     const std::string front = FromQt(program_->Window().Front()->objectName());
     if (std::find(screensSeen_.begin(), screensSeen_.end(), front) == screensSeen_.end()) {
         screensSeen_.push_back(front);
@@ -367,7 +378,8 @@ void Monkey::Attend() {
     } else if (QWidget* box = QApplication::activeModalWidget()) {
         Answer(*box);
         sinceAction_.start();
-    } else if (sinceAction_.elapsed() > LongestSearch && program_) {
+    } else if (sinceAction_.elapsed() > LongestSearch && program_ &&
+               MaySearch(program_->Window())) {
         Note("give a search up");
         sinceAction_.start();
         program_->Window().close();
