@@ -25,6 +25,7 @@ SUITE = "bookworm"
 MIRROR = "http://deb.debian.org/debian"
 USER = "kim"
 PATIENCE = 300  # seconds
+SETTLING = 0.5  # seconds, for a program to see that it has the focus
 HERE = os.path.dirname(os.path.abspath(__file__))
 
 
@@ -154,12 +155,27 @@ class Display:
         window = wait_for(
             lambda: [each for each in self.windows() if each.id not in known], "a window"
         )[-1]
-        window.set_input_focus(X.RevertToParent, X.CurrentTime)
-        self.x.sync()
         return window
 
-    def wait_gone(self, window):
-        wait_for(lambda: window.id not in [each.id for each in self.windows()], "a window to go")
+    def answer(self, window, *strokes):
+        """Press those keys, one after the other, and wait until the window is gone. There is no
+        window manager: until the program knows of its focus, it hears nothing."""
+        wait_for(lambda: self.try_to_answer(window, strokes), "a window to go")
+
+    def try_to_answer(self, window, strokes):
+        if window.id in [each.id for each in self.windows()]:
+            window.set_input_focus(X.RevertToParent, X.CurrentTime)
+            self.x.sync()
+            time.sleep(SETTLING)
+            for stroke in strokes:
+                self.press(*stroke)
+            end = time.monotonic() + 10 * SETTLING
+            while time.monotonic() < end:
+                if window.id not in [each.id for each in self.windows()]:
+                    return True
+                time.sleep(0.05)
+            return False
+        return True
 
     def press(self, *keys):
         """Press keys together, such as Alt_L and y."""
@@ -207,15 +223,12 @@ def first_start(system, work):
         system.user_command(exec_line(system), [f"DISPLAY={screen.name}"]), start_new_session=True
     )
     try:
-        told = screen.wait_for_window()
-        screen.press("Return")
-        screen.wait_gone(told)
+        screen.answer(screen.wait_for_window(), ["Return"])
         offered = screen.wait_for_window()
         database = system.path(f"home/{USER}/.local/share/tarn/DATA/Tarn.mdb")
         expect(not os.path.exists(database), "nothing is made before it is agreed to")
         screen.picture(os.path.join(work, "first-start.png"))
-        screen.press("Alt_L", "y")
-        screen.wait_gone(offered)
+        screen.answer(offered, ["Alt_L", "y"])
         screen.wait_for_window()
         expect(os.path.exists(database), "the first start made the data folder that it offered")
         expect(os.path.exists(system.path(f"home/{USER}/.config/tarn/TarnWin.INI")),
@@ -280,13 +293,9 @@ def open_with(system):
                             [f"DISPLAY={screen.name}"]), start_new_session=True)
     try:
         first = screen.wait_for_window()
-        units = screen.wait_for_window([first])
-        screen.press("Tab")  # from Cancel to the first of the units
-        screen.press("space")
-        screen.wait_gone(units)
-        name = screen.wait_for_window([first])
-        screen.press("Return")
-        screen.wait_gone(name)
+        # From Cancel to the first of the units.
+        screen.answer(screen.wait_for_window([first]), ["Tab"], ["space"])
+        screen.answer(screen.wait_for_window([first]), ["Return"])
         database = "--database .local/share/tarn/DATA/Tarn.mdb"
         wait_for(lambda: "MY ROOMS (" in system.as_user(f"tarn-data list {database}"),
                  "the project of the file")
