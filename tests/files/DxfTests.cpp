@@ -9,7 +9,6 @@ namespace tarn {
 namespace {
 
 using ::testing::ElementsAre;
-using ::testing::IsEmpty;
 using Pair = std::pair<int, std::string>;
 
 /// The document as its pairs of code and value.
@@ -18,7 +17,7 @@ std::vector<Pair> PairsOf(const std::string& document) {
     std::string_view rest = document;
     const auto takeLine = [&rest] {
         const std::size_t end = rest.find("\r\n");
-        const std::string line(rest.substr(0, end));
+        std::string line(rest.substr(0, end));
         rest.remove_prefix(end + 2);
         return line;
     };

@@ -24,7 +24,7 @@ class FileModes : public ::testing::TestWithParam<mode_t> {
     }
     /// An existing folder with these permissions.
     fs::path Folder(unsigned mode) const {
-        const fs::path folder = Path("there" + std::to_string(mode));
+        fs::path folder = Path("there" + std::to_string(mode));
         fs::create_directory(folder);
         fs::permissions(folder, static_cast<fs::perms>(mode));
         return folder;

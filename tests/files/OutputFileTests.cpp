@@ -24,7 +24,6 @@ namespace fs = std::filesystem;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
-using ::testing::StartsWith;
 
 /// Sizes on both sides of what output buffers hold.
 constexpr std::array Sizes{0, 1, 100, 16383, 16384, 20000, 300000};
