@@ -292,7 +292,7 @@ def open_with(system):
         system.user_command(exec_line(system, f"/home/{USER}/my rooms.csv"),
                             [f"DISPLAY={screen.name}"]), start_new_session=True)
     try:
-        first = screen.wait_for_window()
+        first = wait_for(screen.windows, "a window")[0]  # the box may be before it by now
         # From Cancel to the first of the units.
         screen.answer(screen.wait_for_window([first]), ["Tab"], ["space"])
         screen.answer(screen.wait_for_window([first]), ["Return"])
