@@ -20,7 +20,6 @@ using testing::HouseKind;
 using testing::HouseKinds;
 using testing::HouseOf;
 using testing::HouseOrder;
-using testing::HouseRequest;
 using testing::LetterSheet;
 using testing::MakeOrderOf;
 using testing::PlaceOf;
@@ -150,7 +149,11 @@ void ExpectWhole(const Project& project, const Order& order, const std::vector<D
         const std::string name = !room.Number.empty()   ? room.Number
                                  : !room.Remark.empty() ? room.Remark.substr(0, 31)
                                                         : "room " + std::to_string(piece.Room);
-        EXPECT_THAT(words, HasSubstr(" " + piece.Label + " " + size + " " + name));
+        std::string line;
+        for (const std::string& word : {piece.Label, size, name}) {
+            line.append(" ").append(word);
+        }
+        EXPECT_THAT(words, HasSubstr(line));
     }
 }
 

@@ -101,7 +101,7 @@ TEST(LeftOvers, AndPiecesCoverAnyStretchOnce) {
         const auto take = [&](Long x1, Long y1, Long x2, Long y2) {
             for (Long y = std::max(y1, from); y < std::min(y2, to); ++y) {
                 for (Long x = x1; x < x2; ++x) {
-                    ++taken[static_cast<std::size_t>(y * 40 + x)];
+                    ++taken[static_cast<std::size_t>(y) * 40 + static_cast<std::size_t>(x)];
                 }
             }
         };
