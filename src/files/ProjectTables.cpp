@@ -42,7 +42,7 @@ ValueTable TotalTable(const Project& project, Units shown) {
         table.Heads.push_back(column.Head);
     }
     for (const CoveringTotal& total : TotalsByCovering(project.Rooms, project.Rooms.size(), {})) {
-        std::vector<TableCell> row{CoveringCaption(total.Covering),
+        std::vector<TableCell> row{CoveringName(total.Covering),
                                    WholeCell(static_cast<long long>(total.Rooms))};
         for (const AreaColumn& column : AreaColumns(shown)) {
             row.emplace_back(static_cast<double>(total.Area) / column.Unit);
@@ -66,7 +66,7 @@ ValueTable ReportTable(const Project& project, Units shown) {
         const double size = static_cast<double>(room.Width) * room.Length;
         table.Rows.push_back(
             {WholeCell(item), WholeCell(room.Width), WholeCell(room.Length), size / area.Unit,
-             CoveringCaption(room.Covering), BaseText(room.Base),
+             CoveringName(room.Covering), BaseText(room.Base),
              room.Base == 0 ? TableCell() : WholeCell(ReportedBaseLength(room, item, shown)),
              room.Number, room.Remark});
     }
@@ -82,7 +82,7 @@ std::vector<ValueTable> RoomTables(const Project& project, Units shown) {
     }
     for (const Room& room : project.Rooms) {
         table.Rows.push_back({WholeCell(room.Width), WholeCell(room.Length),
-                              CoveringCaption(room.Covering), BaseText(room.Base), room.Number,
+                              CoveringName(room.Covering), BaseText(room.Base), room.Number,
                               room.Remark});
     }
     return {std::move(table), TotalTable(project, shown)};

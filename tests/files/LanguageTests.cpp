@@ -6,6 +6,7 @@
 #include "files/OrderJson.h"
 #include "files/OrderTables.h"
 #include "files/OrderText.h"
+#include "files/ProjectTables.h"
 #include "files/RoomCsv.h"
 #include "files/SpokenLanguage.h"
 #include "order/OrderTesting.h"
@@ -162,7 +163,8 @@ std::string ForPrograms(std::string& forPeople) {
         forPeople += line + "\n";
     }
     return OrderJson(document) + OrderCsv(document) + EstimateJson(estimate) +
-           WriteRoomCsv(project.Rooms);
+           WriteRoomCsv(project.Rooms) + CsvOf({ReportTable(project, Units::Imperial)}) +
+           CsvOf(RoomTables(project, Units::Metric));
 }
 
 TEST(Languages, NeverChangeWhatProgramsRead) {
