@@ -4,7 +4,900 @@
 <context>
     <name>tarn</name>
     <message>
-        <location filename="../src/base/RunTimeError.cpp"/>
+        <source>   No.      WIDTH   LENGTH      Yrds     /TILE   BASE     LENGTH     No.       REMARK</source>
+        <translation>   Nr.      BREITE  LÄNGE       yd²      BELAG   SOCKEL   LÄNGE      Nr.       BEMERKUNG</translation>
+    </message>
+    <message>
+        <source>   No.      WIDTH   LENGTH     METERS    /TILE   BASE     LENGTH     No.       REMARK</source>
+        <translation>   Nr.      BREITE  LÄNGE       m²       BELAG   SOCKEL   LÄNGE      Nr.       BEMERKUNG</translation>
+    </message>
+    <message>
+        <source> CURRENT SETTING</source>
+        <translation> AKTUELLE AUSWAHL</translation>
+    </message>
+    <message>
+        <source>%1  (at %2, %3 across)</source>
+        <translation>%1  (bei %2, %3 quer)</translation>
+    </message>
+    <message>
+        <source>%1 &quot;%2&quot;</source>
+        <translation>%1 „%2“</translation>
+    </message>
+    <message>
+        <source>%1 % of what is bought</source>
+        <translation>%1 % vom Einkauf</translation>
+    </message>
+    <message>
+        <source>%1 The database is made all the same. Write %2 yourself: the line %3, and in the next one its folder.</source>
+        <translation>%1 Die Datenbank ist trotzdem angelegt. Schreiben Sie %2 selbst: die Zeile %3 und in die nächste ihren Ordner.</translation>
+    </message>
+    <message>
+        <source>%1 The new file may be there all the same.</source>
+        <translation>%1 Die neue Datei kann trotzdem da sein.</translation>
+    </message>
+    <message>
+        <source>%1 Use --roll.</source>
+        <translation>%1 Verwenden Sie --roll.</translation>
+    </message>
+    <message>
+        <source>%1 across, %2 along, half drop; drift %3</source>
+        <translation>%1 quer, %2 längs, halber Versatz; Verzug %3</translation>
+    </message>
+    <message>
+        <source>%1 across, %2 along; drift %3</source>
+        <translation>%1 quer, %2 längs; Verzug %3</translation>
+    </message>
+    <message>
+        <source>%1 along, %2 across; part of the sizes</source>
+        <translation>%1 längs, %2 quer; in den Maßen enthalten</translation>
+    </message>
+    <message>
+        <source>%1 and %2 cannot both go to %3</source>
+        <translation>%1 und %2 können nicht beide nach %3 gehen</translation>
+    </message>
+    <message>
+        <source>%1 and %2 cannot both go to standard output</source>
+        <translation>%1 und %2 können nicht beide zur Standardausgabe gehen</translation>
+    </message>
+    <message>
+        <source>%1 appears twice</source>
+        <translation>%1 kommt zweimal vor</translation>
+    </message>
+    <message>
+        <source>%1 became &quot;%2&quot;</source>
+        <translation>%1 wurde zu „%2“</translation>
+    </message>
+    <message>
+        <source>%1 cannot be changed</source>
+        <translation>%1 kann nicht geändert werden</translation>
+    </message>
+    <message>
+        <source>%1 cannot be deleted from: it is a view and no table.</source>
+        <translation>Aus %1 kann nicht gelöscht werden: Es ist eine Sicht und keine Tabelle.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be given the field %2</source>
+        <translation>%1 kann das Feld %2 nicht bekommen</translation>
+    </message>
+    <message>
+        <source>%1 cannot match: its fill of %2 has no place across the roll&apos;s usable width of %3 by the repeat of %4.</source>
+        <translation>%1 passt nicht im Rapport: Für das Füllstück von %2 gibt es beim Rapport von %4 keinen Platz auf der nutzbaren Breite von %3.</translation>
+    </message>
+    <message>
+        <source>%1 cannot match: the roll&apos;s usable width of %2 is not a whole number of repeats of %3 across.</source>
+        <translation>%1 passt nicht im Rapport: Die nutzbare Rollenbreite von %2 ist kein Vielfaches des Rapports von %3 quer.</translation>
+    </message>
+    <message>
+        <source>%1 excludes %2</source>
+        <translation>%1 geht nicht mit %2</translation>
+    </message>
+    <message>
+        <source>%1 feet</source>
+        <translation>%1 Fuß</translation>
+    </message>
+    <message>
+        <source>%1 has a decimal comma: write %2</source>
+        <translation>%1 hat ein Dezimalkomma: Schreiben Sie %2</translation>
+    </message>
+    <message>
+        <source>%1 has a decimal comma: write %2 below a heading with its unit, such as %3</source>
+        <translation>%1 hat ein Dezimalkomma: Schreiben Sie %2 unter einer Überschrift mit der Einheit, wie %3</translation>
+    </message>
+    <message>
+        <source>%1 has a quote that is never closed</source>
+        <translation>%1 hat ein Anführungszeichen, das nie geschlossen wird</translation>
+    </message>
+    <message>
+        <source>%1 has a unit in which no size is read; give the sizes in ft, in, m or cm</source>
+        <translation>%1 hat eine Einheit, in der kein Maß gelesen wird; geben Sie die Maße in ft, in, m oder cm an</translation>
+    </message>
+    <message>
+        <source>%1 has more than %2 characters</source>
+        <translation>%1 hat mehr als %2 Zeichen</translation>
+    </message>
+    <message>
+        <source>%1 has text behind its closing quote</source>
+        <translation>%1 hat Text hinter dem schließenden Anführungszeichen</translation>
+    </message>
+    <message>
+        <source>%1 holds U+FFFE or U+FFFF, which are no characters; leave them out</source>
+        <translation>%1 enthält U+FFFE oder U+FFFF, die keine Zeichen sind; lassen Sie sie weg</translation>
+    </message>
+    <message>
+        <source>%1 holds a line break or another control character; write it in one line</source>
+        <translation>%1 enthält einen Zeilenumbruch oder ein anderes Steuerzeichen; schreiben Sie es in eine Zeile</translation>
+    </message>
+    <message>
+        <source>%1 in %2</source>
+        <translation>%1 in %2</translation>
+    </message>
+    <message>
+        <source>%1 in %2 %3</source>
+        <translation>%1 in %2 %3</translation>
+    </message>
+    <message>
+        <source>%1 in one length without a join</source>
+        <translation>%1 in einer Länge ohne Quernaht</translation>
+    </message>
+    <message>
+        <source>%1 inch</source>
+        <translation>%1 Zoll</translation>
+    </message>
+    <message>
+        <source>%1 inches or more (%2 with --metric)</source>
+        <translation>%1 Zoll oder mehr (%2 mit --metric)</translation>
+    </message>
+    <message>
+        <source>%1 is a whole length: empty the field beside it</source>
+        <translation>%1 ist eine ganze Länge: Leeren Sie das Feld daneben</translation>
+    </message>
+    <message>
+        <source>%1 is dropped: for %2 type %3</source>
+        <translation>%1 entfällt: für %2 %3 eingeben</translation>
+    </message>
+    <message>
+        <source>%1 is in feet or inches, and the rooms are read in metric; read them without metric</source>
+        <translation>%1 ist in Fuß oder Zoll, und die Räume werden metrisch gelesen; lesen Sie sie nicht metrisch</translation>
+    </message>
+    <message>
+        <source>%1 is in metric, and the rooms are read in feet and inches; read them with metric</source>
+        <translation>%1 ist metrisch, und die Räume werden in Fuß und Zoll gelesen; lesen Sie sie metrisch</translation>
+    </message>
+    <message>
+        <source>%1 is kept as %2</source>
+        <translation>%1 wird als %2 übernommen</translation>
+    </message>
+    <message>
+        <source>%1 is missing</source>
+        <translation>%1 fehlt</translation>
+    </message>
+    <message>
+        <source>%1 is negative</source>
+        <translation>%1 ist negativ</translation>
+    </message>
+    <message>
+        <source>%1 is not a covering: %2 to %3, %4 to %5, or short as %6 or %7</source>
+        <translation>%1 ist kein Belag: %2 bis %3, %4 bis %5, oder kurz wie %6 oder %7</translation>
+    </message>
+    <message>
+        <source>%1 is not a number above 0</source>
+        <translation>%1 ist keine Zahl über 0</translation>
+    </message>
+    <message>
+        <source>%1 is not a size in whole centimetres</source>
+        <translation>%1 ist kein Maß in ganzen Zentimetern</translation>
+    </message>
+    <message>
+        <source>%1 is not a size in whole inches, or in feet and inches such as 12&apos;6&quot;</source>
+        <translation>%1 ist kein Maß in ganzen Zoll oder in Fuß und Zoll wie 12&apos;6&quot;</translation>
+    </message>
+    <message>
+        <source>%1 is not a size such as 12.5 or 12&apos;6&quot;</source>
+        <translation>%1 ist kein Maß wie 12.5 oder 12&apos;6&quot;</translation>
+    </message>
+    <message>
+        <source>%1 is not a size such as 3.45 or 3.45m</source>
+        <translation>%1 ist kein Maß wie 3.45 oder 3.45m</translation>
+    </message>
+    <message>
+        <source>%1 is not a wall base: L or W with 1 or 2, such as %2</source>
+        <translation>%1 ist kein Sockel: L oder W mit 1 oder 2, wie %2</translation>
+    </message>
+    <message>
+        <source>%1 is not taken: type it like 3.66, 3.66m or 366cm</source>
+        <translation>%1 ist nicht lesbar: eingeben wie 3.66, 3.66m oder 366cm</translation>
+    </message>
+    <message>
+        <source>%1 is not taken: type it like 6.5, 6 1/2&quot; or 12&apos;6&quot;</source>
+        <translation>%1 ist nicht lesbar: eingeben wie 6.5, 6 1/2&quot; oder 12&apos;6&quot;</translation>
+    </message>
+    <message>
+        <source>%1 is not valid UTF-8; save it as UTF-8 (&quot;CSV UTF-8&quot; in a spreadsheet)</source>
+        <translation>%1 ist kein gültiges UTF-8; speichern Sie die Datei als UTF-8 („CSV UTF-8“ in einer Tabellenkalkulation)</translation>
+    </message>
+    <message>
+        <source>%1 is refused: %2</source>
+        <translation>%1 ist abgelehnt: %2</translation>
+    </message>
+    <message>
+        <source>%1 is required</source>
+        <translation>%1 ist erforderlich</translation>
+    </message>
+    <message>
+        <source>%1 is too large: a size is at most %2</source>
+        <translation>%1 ist zu groß: Ein Maß ist höchstens %2</translation>
+    </message>
+    <message>
+        <source>%1 is unknown</source>
+        <translation>%1 ist unbekannt</translation>
+    </message>
+    <message>
+        <source>%1 must be whole centimetres: give it, and the rooms, in the units of the pattern.</source>
+        <translation>%1 muss in ganzen Zentimetern angegeben sein: Geben Sie Rapport und Räume in den Einheiten des Musters an.</translation>
+    </message>
+    <message>
+        <source>%1 must be whole inches: give it, and the rooms, in the units of the pattern.</source>
+        <translation>%1 muss in ganzen Zoll angegeben sein: Geben Sie Rapport und Räume in den Einheiten des Musters an.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 and %3</source>
+        <translation>%1 von %2 und %3</translation>
+    </message>
+    <message>
+        <source>%1 on %2</source>
+        <translation>%1 auf %2</translation>
+    </message>
+    <message>
+        <source>%1 on from %2</source>
+        <translation>%1 nach %2</translation>
+    </message>
+    <message>
+        <source>%1 or %2</source>
+        <translation>%1 oder %2</translation>
+    </message>
+    <message>
+        <source>%1 requires %2</source>
+        <translation>%1 braucht %2</translation>
+    </message>
+    <message>
+        <source>%1 sq. ft.</source>
+        <translation>%1 ft²</translation>
+    </message>
+    <message>
+        <source>%1 under the number %2</source>
+        <translation>%1 unter der Nummer %2</translation>
+    </message>
+    <message>
+        <source>%1 with parts of at least %2</source>
+        <translation>%1 mit Teilen von mindestens %2</translation>
+    </message>
+    <message>
+        <source>%1, all %2</source>
+        <translation>%1, alle %2</translation>
+    </message>
+    <message>
+        <source>%1, behind row %2</source>
+        <translation>%1, nach Zeile %2</translation>
+    </message>
+    <message>
+        <source>%1, from the first row on</source>
+        <translation>%1, von der ersten Zeile an</translation>
+    </message>
+    <message>
+        <source>%1, least possible %2</source>
+        <translation>%1, mindestens %2</translation>
+    </message>
+    <message>
+        <source>%1, now %2 in %3</source>
+        <translation>%1, jetzt %2 in %3</translation>
+    </message>
+    <message>
+        <source>%1, row %2 (%3)</source>
+        <translation>%1, Zeile %2 (%3)</translation>
+    </message>
+    <message>
+        <source>%1, row %2 (%3, a second time)</source>
+        <translation>%1, Zeile %2 (%3, ein zweites Mal)</translation>
+    </message>
+    <message>
+        <source>%1, see tarn-data check</source>
+        <translation>%1, siehe tarn-data check</translation>
+    </message>
+    <message>
+        <source>%1, sound</source>
+        <translation>%1, einwandfrei</translation>
+    </message>
+    <message>
+        <source>%1, the least possible</source>
+        <translation>%1, kürzer geht es nicht</translation>
+    </message>
+    <message>
+        <source>%1, without the selvage of %2 on each side</source>
+        <translation>%1, ohne die Webkante von %2 an jeder Seite</translation>
+    </message>
+    <message>
+        <source>%1. The new file may be there all the same</source>
+        <translation>%1. Die neue Datei kann trotzdem da sein</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1: %2  %3  %4 to %5</source>
+        <translation>%1: %2  %3  %4 bis %5</translation>
+    </message>
+    <message>
+        <source>%1: %2  %3  %4 to %5, across %6</source>
+        <translation>%1: %2  %3  %4 bis %5, quer %6</translation>
+    </message>
+    <message>
+        <source>%1: %2 %3 became %4</source>
+        <translation>%1: %2 %3 wurde zu %4</translation>
+    </message>
+    <message>
+        <source>%1: %2 more.</source>
+        <translation>%1: %2 weitere.</translation>
+    </message>
+    <message>
+        <source>%1: %2 not in %3</source>
+        <translation>%1: %2 ist keines von %3</translation>
+    </message>
+    <message>
+        <source>%1: %2 required %3 missing</source>
+        <translation>%1: %3 fehlt (erforderlich: %2)</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: %n room.</source>
+        <comment>%1: %n rooms.</comment>
+        <translation>
+            <numerusform>%1: %n Raum.</numerusform>
+            <numerusform>%1: %n Räume.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1: At Most %2 required but received %3</source>
+        <translation>%1: höchstens %2 möglich, %3 angegeben</translation>
+    </message>
+    <message>
+        <source>%1: Value %2 not in range %3 to %4</source>
+        <translation>%1: Der Wert %2 liegt nicht zwischen %3 und %4</translation>
+    </message>
+    <message>
+        <source>%1: the database keeps a row as it was.</source>
+        <translation>%1: Die Datenbank lässt eine Zeile, wie sie war.</translation>
+    </message>
+    <message>
+        <source>%1: the database leaves it out.</source>
+        <translation>%1: Die Datenbank lässt sie aus.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n join fewer</source>
+        <comment>%n joins fewer</comment>
+        <translation>
+            <numerusform>%n Naht weniger</numerusform>
+            <numerusform>%n Nähte weniger</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n kilobyte</source>
+        <comment>%n kilobytes</comment>
+        <translation>
+            <numerusform>%n Kilobyte</numerusform>
+            <numerusform>%n Kilobyte</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n repeat</source>
+        <comment>%n repeats</comment>
+        <translation>
+            <numerusform>%n Rapport</numerusform>
+            <numerusform>%n Rapporte</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n room</source>
+        <comment>%n rooms</comment>
+        <translation>
+            <numerusform>%n Raum</numerusform>
+            <numerusform>%n Räume</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;ABOUT</source>
+        <translation>ÜBE&amp;R</translation>
+    </message>
+    <message>
+        <source>&amp;About</source>
+        <translation>Ü&amp;ber</translation>
+    </message>
+    <message>
+        <source>&amp;BACK</source>
+        <translation>&amp;ZURÜCK</translation>
+    </message>
+    <message>
+        <source>&amp;BACKWARD</source>
+        <translation>&amp;ZURÜCK</translation>
+    </message>
+    <message>
+        <source>&amp;CANCEL</source>
+        <translation>ABBRE&amp;CHEN</translation>
+    </message>
+    <message>
+        <source>&amp;CARPET</source>
+        <translation>TE&amp;PPICH</translation>
+    </message>
+    <message>
+        <source>&amp;CLOSE</source>
+        <translation>SCHL&amp;IESSEN</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>S&amp;chließen</translation>
+    </message>
+    <message>
+        <source>&amp;Continue</source>
+        <translation>&amp;Weiter</translation>
+    </message>
+    <message>
+        <source>&amp;DELETE </source>
+        <translation>LÖS&amp;CHEN </translation>
+    </message>
+    <message>
+        <source>&amp;DIRECTORIES</source>
+        <translation>&amp;VERZEICHNISSE</translation>
+    </message>
+    <message>
+        <source>&amp;DOWN LAY</source>
+        <translation>LÄNGS VERLEG&amp;T</translation>
+    </message>
+    <message>
+        <source>&amp;ESTIMATE</source>
+        <translation>&amp;BERECHNEN</translation>
+    </message>
+    <message>
+        <source>&amp;EXIT</source>
+        <translation>SCHLI&amp;ESSEN</translation>
+    </message>
+    <message>
+        <source>&amp;FEET</source>
+        <translation>&amp;FUSS</translation>
+    </message>
+    <message>
+        <source>&amp;FIND NEXT</source>
+        <translation>&amp;WEITERSUCHEN</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Datei</translation>
+    </message>
+    <message>
+        <source>&amp;Guide</source>
+        <translation>&amp;Anleitung</translation>
+    </message>
+    <message>
+        <source>&amp;JOIN ROOMS NO WIDER THAN THE ROLL</source>
+        <translation>RÄUME &amp;BIS ROLLENBREITE STÜCKELN</translation>
+    </message>
+    <message>
+        <source>&amp;Language</source>
+        <translation>&amp;Sprache</translation>
+    </message>
+    <message>
+        <source>&amp;MATCH PATTERN</source>
+        <translation>&amp;RAPPORT</translation>
+    </message>
+    <message>
+        <source>&amp;Metric</source>
+        <translation>&amp;Metrisch</translation>
+    </message>
+    <message>
+        <source>&amp;NEW PROJECT</source>
+        <translation>&amp;NEUES PROJEKT</translation>
+    </message>
+    <message>
+        <source>&amp;No</source>
+        <translation>&amp;Nein</translation>
+    </message>
+    <message>
+        <source>&amp;OK</source>
+        <translation>&amp;OK</translation>
+    </message>
+    <message>
+        <source>&amp;PARTS AT MOST</source>
+        <translation>MA&amp;X. TEILE</translation>
+    </message>
+    <message>
+        <source>&amp;PASTE CUTS</source>
+        <translation>LIST&amp;E EINFÜGEN</translation>
+    </message>
+    <message>
+        <source>&amp;PREVIOUS ROOM</source>
+        <translation>&amp;VORIGER RAUM</translation>
+    </message>
+    <message>
+        <source>&amp;PROJECTS</source>
+        <translation>&amp;PROJEKTE</translation>
+    </message>
+    <message>
+        <source>&amp;REDRAW</source>
+        <translation>NEU ZEIC&amp;HNEN</translation>
+    </message>
+    <message>
+        <source>&amp;REPORT</source>
+        <translation>BE&amp;RICHT</translation>
+    </message>
+    <message>
+        <source>&amp;ROLLS</source>
+        <translation>&amp;ROLLEN</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Wiederholen</translation>
+    </message>
+    <message>
+        <source>&amp;Redo %1</source>
+        <translation>&amp;Wiederholen: %1</translation>
+    </message>
+    <message>
+        <source>&amp;SAVE</source>
+        <translation>&amp;SPEICHERN</translation>
+    </message>
+    <message>
+        <source>&amp;SAVE AS</source>
+        <translation>SPEICHERN &amp;ALS</translation>
+    </message>
+    <message>
+        <source>&amp;SELECT PROJECT</source>
+        <translation>PROJEKT &amp;WÄHLEN</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Speichern</translation>
+    </message>
+    <message>
+        <source>&amp;TAKE BACK ORDER OF %1</source>
+        <translation>BESTELLUNG VOM %1 ZU&amp;RÜCKHOLEN</translation>
+    </message>
+    <message>
+        <source>&amp;TAKE BACK ROOMS OF %1</source>
+        <translation>&amp;RÄUME VOM %1 ZURÜCKHOLEN</translation>
+    </message>
+    <message>
+        <source>&amp;Undo %1</source>
+        <translation>&amp;Rückgängig: %1</translation>
+    </message>
+    <message>
+        <source>&amp;WIDTH:</source>
+        <translation>BRE&amp;ITE:</translation>
+    </message>
+    <message>
+        <source>&amp;WORD</source>
+        <translation>W&amp;ORT</translation>
+    </message>
+    <message>
+        <source>&amp;Yes</source>
+        <translation>&amp;Ja</translation>
+    </message>
+    <message>
+        <source>1/2FT</source>
+        <translation>1/2 FUSS</translation>
+    </message>
+    <message>
+        <source>15 cm</source>
+        <translation>15 cm</translation>
+    </message>
+    <message>
+        <source>1FT 6&quot;</source>
+        <translation>1 FUSS 6&quot;</translation>
+    </message>
+    <message>
+        <source>46 cm</source>
+        <translation>46 cm</translation>
+    </message>
+    <message>
+        <source>91 cm</source>
+        <translation>91 cm</translation>
+    </message>
+    <message>
+        <source>A change that a crash cut off is taken back.</source>
+        <translation>Eine Änderung, die ein Absturz abgebrochen hat, wird zurückgenommen.</translation>
+    </message>
+    <message>
+        <source>A change was cut off by a crash: %1 lies beside the file. The next program that opens the file takes that change back.</source>
+        <translation>Ein Absturz hat eine Änderung abgebrochen: %1 liegt neben der Datei. Das nächste Programm, das die Datei öffnet, nimmt diese Änderung zurück.</translation>
+    </message>
+    <message>
+        <source>A comma is not taken: type %1</source>
+        <translation>Ein Komma gilt nicht: %1 eingeben</translation>
+    </message>
+    <message>
+        <source>A file, or a name as &quot;backups&quot; lists it</source>
+        <translation>Eine Datei, oder ein Name aus der Liste von „backups“</translation>
+    </message>
+    <message>
+        <source>A fill narrower than %1: %2.</source>
+        <translation>Ein Füllstück schmaler als %1: %2.</translation>
+    </message>
+    <message>
+        <source>A half drop needs a pattern repeat along.</source>
+        <translation>Ein halber Versatz braucht einen Rapport längs.</translation>
+    </message>
+    <message>
+        <source>A half drop needs an even pattern repeat along.</source>
+        <translation>Ein halber Versatz braucht einen geraden Rapport längs.</translation>
+    </message>
+    <message>
+        <source>A project&apos;s sheet has no number; its data cannot be deleted.</source>
+        <translation>Ein Blatt des Projekts hat keine Nummer; seine Daten können nicht gelöscht werden.</translation>
+    </message>
+    <message>
+        <source>A roll has no width: %1</source>
+        <translation>Eine Rolle hat keine Breite: %1</translation>
+    </message>
+    <message>
+        <source>A roll must be between %1 and %2 wide.</source>
+        <translation>Eine Rolle muss zwischen %1 und %2 breit sein.</translation>
+    </message>
+    <message>
+        <source>A roll to compare, with a name and a price per square yard (square metre with --metric) if wanted; may be given several times</source>
+        <translation>Eine Rolle zum Vergleich, auf Wunsch mit Namen und Preis je Quadratyard (mit --metric je Quadratmeter); mehrmals möglich</translation>
+    </message>
+    <message>
+        <source>A room no wider than the roll may be divided, too</source>
+        <translation>Auch ein Raum, der nicht breiter als die Rolle ist, darf geteilt werden</translation>
+    </message>
+    <message>
+        <source>A strip may have 1 to %1 parts.</source>
+        <translation>Ein Streifen darf 1 bis %1 Teile haben.</translation>
+    </message>
+    <message>
+        <source>ABOUT</source>
+        <translation>ÜBER</translation>
+    </message>
+    <message>
+        <source>ALL</source>
+        <translation>ALLE</translation>
+    </message>
+    <message>
+        <source>Above least %</source>
+        <translation>Über Minimum %</translation>
+    </message>
+    <message>
+        <source>Across</source>
+        <translation>Quer</translation>
+    </message>
+    <message>
+        <source>Are you sure to delete this project?<byte value="xd"/>
+Delete operation will make the data of the project lost!</source>
+        <translation>Soll dieses Projekt wirklich gelöscht werden?<byte value="xd"/>
+Beim Löschen gehen die Daten des Projekts verloren!</translation>
+    </message>
+    <message>
+        <source>Area bought</source>
+        <translation>Gekaufte Fläche</translation>
+    </message>
+    <message>
+        <source>Area of the rooms</source>
+        <translation>Fläche der Räume</translation>
+    </message>
+    <message>
+        <source>At most %1 rolls can be compared.</source>
+        <translation>Höchstens %1 Rollen können verglichen werden.</translation>
+    </message>
+    <message>
+        <source>B&amp;ASE</source>
+        <translation>S&amp;OCKEL</translation>
+    </message>
+    <message>
+        <source>BASE</source>
+        <translation>SOCKEL</translation>
+    </message>
+    <message>
+        <source>Backups</source>
+        <translation>Sicherungen</translation>
+    </message>
+    <message>
+        <source>Backups in %1, the newest first:</source>
+        <translation>Sicherungen in %1, die neueste zuerst:</translation>
+    </message>
+    <message>
+        <source>Best is the least carpet, for no roll has a price; of equal ones, the shortest seams and joins.</source>
+        <translation>Am besten ist am wenigsten Teppichboden, denn keine Rolle hat einen Preis; bei Gleichstand die kürzesten Nähte.</translation>
+    </message>
+    <message>
+        <source>Best is the least carpet, for these rolls have no price: %1.</source>
+        <translation>Am besten ist am wenigsten Teppichboden, denn diese Rollen haben keinen Preis: %1.</translation>
+    </message>
+    <message>
+        <source>Best is the least price; of equal ones, the shortest seams and joins.</source>
+        <translation>Am besten ist der niedrigste Preis; bei Gleichstand die kürzesten Nähte.</translation>
+    </message>
+    <message>
+        <source>Beyond the end of the project, dropped by SAVE</source>
+        <translation>Hinter dem Ende des Projekts, entfällt beim SPEICHERN</translation>
+    </message>
+    <message>
+        <source>Bought sq. ft.</source>
+        <translation>Gekauft ft²</translation>
+    </message>
+    <message>
+        <source>Bought sq. m</source>
+        <translation>Gekauft m²</translation>
+    </message>
+    <message>
+        <source>CARPE&amp;T TYPE</source>
+        <translation>BEL&amp;AG</translation>
+    </message>
+    <message>
+        <source>CARPET - &amp;%1</source>
+        <translation>TEPPICH - &amp;%1</translation>
+    </message>
+    <message>
+        <source>CARPET WIDT&amp;H OTHER</source>
+        <translation>AN&amp;DERE BREITE</translation>
+    </message>
+    <message>
+        <source>CARPET WIDTH 12 FT.</source>
+        <translation>ROLLENBREITE 12 FUSS</translation>
+    </message>
+    <message>
+        <source>CARPET WIDTH 13.5 FT.</source>
+        <translation>ROLLENBREITE 13.5 FUSS</translation>
+    </message>
+    <message>
+        <source>CARPET WIDTH 15 FT.</source>
+        <translation>ROLLENBREITE 15 FUSS</translation>
+    </message>
+    <message>
+        <source>CARPET WIDTH 183 CMS</source>
+        <translation>ROLLENBREITE 183 CM</translation>
+    </message>
+    <message>
+        <source>CARPET WIDTH 366 CMS</source>
+        <translation>ROLLENBREITE 366 CM</translation>
+    </message>
+    <message>
+        <source>CARPET WIDTH 411 CMS</source>
+        <translation>ROLLENBREITE 411 CM</translation>
+    </message>
+    <message>
+        <source>CARPET WIDTH 457 CMS</source>
+        <translation>ROLLENBREITE 457 CM</translation>
+    </message>
+    <message>
+        <source>CHOICES</source>
+        <translation>AUSWAHL</translation>
+    </message>
+    <message>
+        <source>CMS</source>
+        <translation>CM</translation>
+    </message>
+    <message>
+        <source>CO&amp;MPARE</source>
+        <translation>VER&amp;GLEICHEN</translation>
+    </message>
+    <message>
+        <source>COMPARISON</source>
+        <translation>VERGLEICH</translation>
+    </message>
+    <message>
+        <source>CROSS &amp;LAY</source>
+        <translation>&amp;QUER VERLEGT</translation>
+    </message>
+    <message>
+        <source>CROSSLAY</source>
+        <translation>QUER VERLEGT</translation>
+    </message>
+    <message>
+        <source>CSV file with the rooms</source>
+        <translation>CSV-Datei mit den Räumen</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Carpet</source>
+        <translation>Teppichboden</translation>
+    </message>
+    <message>
+        <source>Carpets with more than one request for an order, of which the last is read</source>
+        <translation>Teppichböden mit mehr als einer Bestellvorgabe, von denen die letzte gelesen wird</translation>
+    </message>
+    <message>
+        <source>Centimetres</source>
+        <translation>Zentimeter</translation>
+    </message>
+    <message>
+        <source>Check that a database is sound, and all that stands in it</source>
+        <translation>Prüfen, ob eine Datenbank und alles darin einwandfrei ist</translation>
+    </message>
+    <message>
+        <source>Chosen: %1, %2 in one length without a join</source>
+        <translation>Gewählt: %1, %2 in einer Länge ohne Quernaht</translation>
+    </message>
+    <message>
+        <source>Compared.</source>
+        <translation>Verglichen.</translation>
+    </message>
+    <message>
+        <source>Comparing. STOP keeps the best so far.</source>
+        <translation>Vergleich läuft. BEENDEN behält das bisher Beste.</translation>
+    </message>
+    <message>
+        <source>Configuration file</source>
+        <translation>Konfigurationsdatei</translation>
+    </message>
+    <message>
+        <source>Copy a database, also while the program uses it</source>
+        <translation>Eine Datenbank kopieren, auch während das Programm sie benutzt</translation>
+    </message>
+    <message>
+        <source>Could not convert: %1 = %2</source>
+        <translation>Nicht lesbar: %1 = %2</translation>
+    </message>
+    <message>
+        <source>Cross joins</source>
+        <translation>Quernähte</translation>
+    </message>
+    <message>
+        <source>Cut in this order. From and to count along the roll from its start, across from its usable edge; centimetres.</source>
+        <translation>In dieser Reihenfolge zuschneiden. Von und bis zählen vom Rollenanfang an, quer von der nutzbaren Kante; Zentimeter.</translation>
+    </message>
+    <message>
+        <source>Cut in this order. From and to count along the roll from its start, across from its usable edge; feet and inches.</source>
+        <translation>In dieser Reihenfolge zuschneiden. Von und bis zählen vom Rollenanfang an, quer von der nutzbaren Kante; Fuß und Zoll.</translation>
+    </message>
+    <message>
+        <source>Cut off along each edge of the roll (default 0, at most 6in or 15cm)</source>
+        <translation>An jeder Rollenkante abgeschnitten (üblich 0, höchstens 6in oder 15cm)</translation>
+    </message>
+    <message>
+        <source>D&amp;ONE</source>
+        <translation>&amp;FERTIG</translation>
+    </message>
+    <message>
+        <source>DIRECTORY:%1</source>
+        <translation>VERZEICHNIS: %1</translation>
+    </message>
+    <message>
+        <source>DOWNLAY</source>
+        <translation>LÄNGS VERLEGT</translation>
+    </message>
+    <message>
+        <source>DRAWING</source>
+        <translation>ZEICHNUNG</translation>
+    </message>
+    <message>
+        <source>DRIFT %</source>
+        <translation>VERZUG %</translation>
+    </message>
+    <message>
+        <source>Damaged: %1</source>
+        <translation>Beschädigt: %1</translation>
+    </message>
+    <message>
+        <source>Database file</source>
+        <translation>Datenbankdatei</translation>
+    </message>
+    <message>
+        <source>Database file of the project</source>
+        <translation>Datenbankdatei des Projekts</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Datum</translation>
+    </message>
+    <message>
+        <source>Directories that were made for projects which no screen showed</source>
+        <translation>Verzeichnisse, die für Projekte angelegt wurden, die keine Seite zeigte</translation>
+    </message>
+    <message>
+        <source>Directory of a new project (default: the current month)</source>
+        <translation>Verzeichnis eines neuen Projekts (üblich: der laufende Monat)</translation>
+    </message>
+    <message>
         <source>Division by zero</source>
         <translation>Division durch null</translation>
     </message>
@@ -12,6 +905,2289 @@
         <location filename="../src/base/RunTimeError.cpp"/>
         <source>Internal error</source>
         <translation>Interner Fehler</translation>
+    </message>
+    <message>
+        <source>It differs from %1:</source>
+        <translation>Sie unterscheidet sich von %1:</translation>
+    </message>
+    <message>
+        <source>It holds all that %1 does.</source>
+        <translation>Sie enthält alles, was %1 enthält.</translation>
+    </message>
+    <message>
+        <source>Joins</source>
+        <translation>Quernähte</translation>
+    </message>
+    <message>
+        <source>Joins cm</source>
+        <translation>Quernähte cm</translation>
+    </message>
+    <message>
+        <source>Kept as %1 (typed %2)</source>
+        <translation>Gespeichert als %1 (eingegeben %2)</translation>
+    </message>
+    <message>
+        <source>L&amp;AST CHOICES</source>
+        <translation>LETZTE &amp;AUSWAHL</translation>
+    </message>
+    <message>
+        <source>LEAVE IT</source>
+        <translation>LASSEN</translation>
+    </message>
+    <message>
+        <source>LEN&amp;GTH:</source>
+        <translation>LÄ&amp;NGE:</translation>
+    </message>
+    <message>
+        <source>LENGTH</source>
+        <translation>LÄNGE</translation>
+    </message>
+    <message>
+        <source>Language of what is said to people; what programs read stays as it is</source>
+        <translation>Sprache dessen, was Menschen gesagt wird; was Programme lesen, bleibt gleich</translation>
+    </message>
+    <message>
+        <source>Least possible</source>
+        <translation>Mindestens</translation>
+    </message>
+    <message>
+        <source>Least possible cm</source>
+        <translation>Mindestens cm</translation>
+    </message>
+    <message>
+        <source>Lengths are written 12ft6in, 18in, 366cm or 3.66m; a bare number is in the project&apos;s units.
+All lengths of an order are whole inches, with --metric whole centimetres: roll widths are
+rounded down; trim, selvage, shortest part and step up. A pattern repeat must be whole.
+
+The repeat across is the distance to the next column of the pattern, which with --half-drop
+stands half a repeat further along: half the repeat of makers who name the whole design.
+
+Options that are given win over the request that is saved with the project.
+
+Exit status: 0 done, 1 refused, or no carpet has an order (the reason is on standard error),
+2 wrong usage.
+
+Example:
+  tarn-order --rooms house.csv --roll 12ft=18.50 --roll 15ft=19 --lay both --trim 3in</source>
+        <translation>Längen schreibt man 12ft6in, 18in, 366cm oder 3.66m; eine bloße Zahl zählt in den Einheiten des
+Projekts. Alle Längen einer Bestellung sind ganze Zoll, mit --metric ganze Zentimeter:
+Rollenbreiten werden abgerundet; Zugabe, Webkante, kürzestes Teil und Stufe auf. Ein Rapport muss
+ganzzahlig sein.
+
+Der Rapport quer ist der Abstand zur nächsten Musterspalte, die mit --half-drop einen halben
+Rapport weiter steht: die Hälfte des Rapports von Herstellern, die das ganze Muster nennen.
+
+Angegebene Optionen gehen der mit dem Projekt gespeicherten Vorgabe vor.
+
+Rückgabewert: 0 getan, 1 abgelehnt oder kein Teppichboden hat eine Bestellung (der Grund steht in
+der Fehlerausgabe), 2 falscher Aufruf.
+
+Beispiel:
+  tarn-order --rooms house.csv --roll 12ft=18.50 --roll 15ft=19 --lay both --trim 3in</translation>
+    </message>
+    <message>
+        <source>Less trim than asked for: %1.</source>
+        <translation>Weniger Zugabe als gewünscht: %1.</translation>
+    </message>
+    <message>
+        <source>Let it accept jobs in the system&apos;s printer settings, or choose another default printer there.</source>
+        <translation>Lassen Sie ihn in den Druckereinstellungen des Systems Aufträge annehmen, oder wählen Sie dort einen anderen Standarddrucker.</translation>
+    </message>
+    <message>
+        <source>Letters are not taken</source>
+        <translation>Buchstaben gelten nicht</translation>
+    </message>
+    <message>
+        <source>List directories, projects and rooms</source>
+        <translation>Verzeichnisse, Projekte und Räume auflisten</translation>
+    </message>
+    <message>
+        <source>List the backups that the program made</source>
+        <translation>Die Sicherungen auflisten, die das Programm angelegt hat</translation>
+    </message>
+    <message>
+        <source>Look at the printer in the system&apos;s printer settings, then print again.</source>
+        <translation>Sehen Sie in den Druckereinstellungen des Systems nach dem Drucker und drucken Sie dann noch einmal.</translation>
+    </message>
+    <message>
+        <source>Look whether the page comes out before you print again.</source>
+        <translation>Sehen Sie nach, ob die Seite herauskommt, bevor Sie noch einmal drucken.</translation>
+    </message>
+    <message>
+        <source>Looking for a better layout</source>
+        <translation>Eine bessere Anordnung wird gesucht</translation>
+    </message>
+    <message>
+        <source>M</source>
+        <translation>M</translation>
+    </message>
+    <message>
+        <source>MAXIMUM NUMBER OF PIECES PER FILL</source>
+        <translation>HÖCHSTZAHL DER TEILE JE FÜLLSTÜCK</translation>
+    </message>
+    <message>
+        <source>ME&amp;TER</source>
+        <translation>&amp;METER</translation>
+    </message>
+    <message>
+        <source>MINIMUM CUT LENGTH</source>
+        <translation>KÜRZESTE SCHNITTLÄNGE</translation>
+    </message>
+    <message>
+        <source>Made %1, which names the folder %2.</source>
+        <translation>%1 angelegt, es nennt den Ordner %2.</translation>
+    </message>
+    <message>
+        <source>Make a data folder with an empty database</source>
+        <translation>Einen Datenordner mit leerer Datenbank anlegen</translation>
+    </message>
+    <message>
+        <source>Make a folder for the program&apos;s data?<byte value="xd"/>
+<byte value="xd"/>
+Data folder: %1<byte value="xd"/>
+It is named in a new file: %2<byte value="xd"/>
+<byte value="xd"/>
+With No nothing is made, and the program ends.</source>
+        <translation>Einen Ordner für die Daten des Programms anlegen?<byte value="xd"/>
+<byte value="xd"/>
+Datenordner: %1<byte value="xd"/>
+Er wird in einer neuen Datei genannt: %2<byte value="xd"/>
+<byte value="xd"/>
+Bei Nein wird nichts angelegt, und das Programm endet.</translation>
+    </message>
+    <message>
+        <source>Make the rooms of a CSV file those of a project</source>
+        <translation>Die Räume einer CSV-Datei zu denen eines Projekts machen</translation>
+    </message>
+    <message>
+        <source>Maximum number of parts into which a fill is divided, 1 to %1</source>
+        <translation>Höchstzahl der Teile, in die ein Füllstück geteilt wird, 1 bis %1</translation>
+    </message>
+    <message>
+        <source>Minimum cut: %1. Despite their names these keep the parts of a divided fill at %2 or more (%3 with --metric); --improve keeps them at %4</source>
+        <translation>Kürzeste Schnittlänge: %1. Trotz ihrer Namen halten diese die Teile eines geteilten Füllstücks bei %2 oder mehr (%3 mit --metric); --improve hält sie bei %4</translation>
+    </message>
+    <message>
+        <source>Missing, read as empty</source>
+        <translation>Fehlt, als leer gelesen</translation>
+    </message>
+    <message>
+        <source>More than a room&apos;s width, the same bounds</source>
+        <translation>Mehr als die Breite eines Raums, mit denselben Grenzen</translation>
+    </message>
+    <message>
+        <source>More than a strip&apos;s length, at its far end (default 0, at most 24in or 60cm)</source>
+        <translation>Mehr als die Länge eines Streifens, an seinem Ende (üblich 0, höchstens 24in oder 60cm)</translation>
+    </message>
+    <message>
+        <source>Most parts of a strip, 1 to %1 (default 1)</source>
+        <translation>Höchstzahl der Teile eines Streifens, 1 bis %1 (üblich 1)</translation>
+    </message>
+    <message>
+        <source>NEW DIRECTOR&amp;Y</source>
+        <translation>NEUES VERZEI&amp;CHNIS</translation>
+    </message>
+    <message>
+        <source>NO FILLS TO DISPLAY</source>
+        <translation>KEINE FÜLLSTÜCKE</translation>
+    </message>
+    <message>
+        <source>NOT KEPT: %1</source>
+        <translation>NICHT GESICHERT: %1</translation>
+    </message>
+    <message>
+        <source>NOT SAVED</source>
+        <translation>NICHT GESPEICHERT</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Name of the project:</source>
+        <translation>Name des Projekts:</translation>
+    </message>
+    <message>
+        <source>Needed cm</source>
+        <translation>Benötigt cm</translation>
+    </message>
+    <message>
+        <source>Needs</source>
+        <translation>Braucht</translation>
+    </message>
+    <message>
+        <source>New room</source>
+        <translation>Neuer Raum</translation>
+    </message>
+    <message>
+        <source>New room, half typed</source>
+        <translation>Neuer Raum, halb eingegeben</translation>
+    </message>
+    <message>
+        <source>No Project Selected</source>
+        <translation>Kein Projekt gewählt</translation>
+    </message>
+    <message>
+        <source>No better layout was found: %1.</source>
+        <translation>Keine bessere Anordnung gefunden: %1.</translation>
+    </message>
+    <message>
+        <source>No carpet has an order: every roll and lay is refused.</source>
+        <translation>Kein Teppichboden hat eine Bestellung: Jede Rolle und Verlegung ist abgelehnt.</translation>
+    </message>
+    <message>
+        <source>No layout takes less than: %1</source>
+        <translation>Keine Anordnung braucht weniger als: %1</translation>
+    </message>
+    <message>
+        <source>No order</source>
+        <translation>Keine Bestellung</translation>
+    </message>
+    <message>
+        <source>No part of a fill becomes shorter than %1</source>
+        <translation>Kein Teil eines Füllstücks wird kürzer als %1</translation>
+    </message>
+    <message>
+        <source>No project is made of %1.</source>
+        <translation>Aus %1 wird kein Projekt.</translation>
+    </message>
+    <message>
+        <source>No room has %1.</source>
+        <translation>Kein Raum hat %1.</translation>
+    </message>
+    <message>
+        <source>No room with an area has %1.</source>
+        <translation>Kein Raum mit einer Fläche hat %1.</translation>
+    </message>
+    <message>
+        <source>No sheet number is left: the greatest one, 32767, is in use.</source>
+        <translation>Keine Blattnummer ist mehr frei: Die größte, 32767, ist vergeben.</translation>
+    </message>
+    <message>
+        <source>Note: %1</source>
+        <translation>Hinweis: %1</translation>
+    </message>
+    <message>
+        <source>Note: %1, %2</source>
+        <translation>Hinweis: %1, %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>Note: %1, and %n more size that is rounded</source>
+        <comment>Note: %1, and %n more sizes that are rounded</comment>
+        <translation>
+            <numerusform>Hinweis: %1, und %n weiteres gerundetes Maß</numerusform>
+            <numerusform>Hinweis: %1, und %n weitere gerundete Maße</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Note: %1: the saved request is in other units and is not used.</source>
+        <translation>Hinweis: %1: Die gespeicherte Vorgabe ist in anderen Einheiten und wird nicht verwendet.</translation>
+    </message>
+    <message>
+        <source>Note: beside it there is one of %1.</source>
+        <translation>Hinweis: Daneben gibt es eine von %1.</translation>
+    </message>
+    <message>
+        <source>Nothing can be read of the database file %1. %2</source>
+        <translation>Von der Datenbankdatei %1 ist nichts lesbar. %2</translation>
+    </message>
+    <message>
+        <source>Nothing was made.</source>
+        <translation>Es wurde nichts angelegt.</translation>
+    </message>
+    <message>
+        <source>Number of the carpet, 1 to 8</source>
+        <translation>Nummer des Teppichbodens, 1 bis 8</translation>
+    </message>
+    <message>
+        <source>Number of the carpet, 1 to 8 (default: all of the project)</source>
+        <translation>Nummer des Teppichbodens, 1 bis 8 (üblich: alle des Projekts)</translation>
+    </message>
+    <message>
+        <source>OPERATION MENU</source>
+        <translation>HAUPTMENÜ</translation>
+    </message>
+    <message>
+        <source>OPTIONS</source>
+        <translation>OPTIONEN</translation>
+    </message>
+    <message>
+        <source>ORDER (PROJECT: %1)</source>
+        <translation>BESTELLUNG (PROJEKT: %1)</translation>
+    </message>
+    <message>
+        <source>ORDER FOR PROJECT: %1</source>
+        <translation>BESTELLUNG FÜR PROJEKT: %1</translation>
+    </message>
+    <message>
+        <source>OUT OF DATE: the choices have changed. Press COMPARE.</source>
+        <translation>ÜBERHOLT: Die Auswahl hat sich geändert. VERGLEICHEN drücken.</translation>
+    </message>
+    <message>
+        <source>Only a number is taken</source>
+        <translation>Nur eine Zahl gilt</translation>
+    </message>
+    <message>
+        <source>Only feet and inches are taken here: type it like 12&apos;6&quot;</source>
+        <translation>Hier gelten nur Fuß und Zoll: eingeben wie 12&apos;6&quot;</translation>
+    </message>
+    <message>
+        <source>Only metres and centimetres are taken here: type it like 3.66m</source>
+        <translation>Hier gelten nur Meter und Zentimeter: eingeben wie 3.66m</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>Optionen</translation>
+    </message>
+    <message>
+        <source>Or press SAVE AS and choose &quot;%1&quot;.</source>
+        <translation>Oder drücken Sie SPEICHERN ALS und wählen Sie „%1“.</translation>
+    </message>
+    <message>
+        <source>Or right-click what is shown and choose &quot;%1&quot;.</source>
+        <translation>Oder klicken Sie mit der rechten Maustaste auf das Gezeigte und wählen Sie „%1“.</translation>
+    </message>
+    <message>
+        <source>Or show it again, right-click it and choose &quot;%1&quot;.</source>
+        <translation>Oder zeigen Sie es wieder an, klicken Sie mit der rechten Maustaste darauf und wählen Sie „%1“.</translation>
+    </message>
+    <message>
+        <source>Or show the order again, press SAVE AS and choose &quot;%1&quot;.</source>
+        <translation>Oder zeigen Sie die Bestellung wieder an, drücken Sie SPEICHERN ALS und wählen Sie „%1“.</translation>
+    </message>
+    <message>
+        <source>Order</source>
+        <translation>Bestellen</translation>
+    </message>
+    <message>
+        <source>Order and cutting sheet</source>
+        <translation>Bestell- und Zuschnittblatt</translation>
+    </message>
+    <message>
+        <source>Order cm</source>
+        <translation>Bestellen cm</translation>
+    </message>
+    <message>
+        <source>Outside rooms 1 to %1, left out and dropped by SAVE: ObjNum %2.</source>
+        <translation>Außerhalb der Räume 1 bis %1, ausgelassen und beim SPEICHERN entfernt: ObjNum %2.</translation>
+    </message>
+    <message>
+        <source>Overflow</source>
+        <translation>Überlauf</translation>
+    </message>
+    <message>
+        <source>PATT&amp;ERN ALONG</source>
+        <translation>RAPPORT LÄ&amp;NGS</translation>
+    </message>
+    <message>
+        <source>PATTER&amp;N ACROSS</source>
+        <translation>RAPP&amp;ORT QUER</translation>
+    </message>
+    <message>
+        <source>POSITIVE</source>
+        <translation>POSITIV</translation>
+    </message>
+    <message>
+        <source>PROJ: %1</source>
+        <translation>PROJ: %1</translation>
+    </message>
+    <message>
+        <source>PROJECT</source>
+        <translation>PROJEKT</translation>
+    </message>
+    <message>
+        <source>PROJECT ITEM No.</source>
+        <translation>POSITION IM PROJEKT</translation>
+    </message>
+    <message>
+        <source>PROJECT NAME:   %1</source>
+        <translation>PROJEKTNAME:   %1</translation>
+    </message>
+    <message>
+        <source>PROJECT: %1</source>
+        <translation>PROJEKT: %1</translation>
+    </message>
+    <message>
+        <source>PROJECT:%1</source>
+        <translation>PROJEKT: %1</translation>
+    </message>
+    <message>
+        <source>Parts of a strip</source>
+        <translation>Teile eines Streifens</translation>
+    </message>
+    <message>
+        <source>Pattern repeat</source>
+        <translation>Rapport</translation>
+    </message>
+    <message>
+        <source>Pattern repeat across x along, 0 for none in that direction</source>
+        <translation>Rapport quer x längs, 0 für keinen in dieser Richtung</translation>
+    </message>
+    <message>
+        <source>Pattern repeat across x along, in inches (centimetres with --metric)</source>
+        <translation>Rapport quer x längs, in Zoll (mit --metric in Zentimetern)</translation>
+    </message>
+    <message>
+        <source>Percent by which repeats may come out longer (default 1 with a repeat along, else 0; at most 10)</source>
+        <translation>Prozent, um die Rapporte länger ausfallen können (üblich 1 bei einem Rapport längs, sonst 0; höchstens 10)</translation>
+    </message>
+    <message>
+        <source>Pieces</source>
+        <translation>Stücke</translation>
+    </message>
+    <message>
+        <source>Pile</source>
+        <translation>Flor</translation>
+    </message>
+    <message>
+        <source>Please select a month or a directory.</source>
+        <translation>Bitte wählen Sie einen Monat oder ein Verzeichnis.</translation>
+    </message>
+    <message>
+        <source>Positionals</source>
+        <translation>Argumente</translation>
+    </message>
+    <message>
+        <source>Price per
+sq. yd</source>
+        <translation>Preis je
+yd²</translation>
+    </message>
+    <message>
+        <source>Print the entered-data report of a project</source>
+        <translation>Den Bericht der Eingaben eines Projekts ausgeben</translation>
+    </message>
+    <message>
+        <source>Print this help message and exit</source>
+        <translation>Diese Hilfe ausgeben und enden</translation>
+    </message>
+    <message>
+        <source>Project</source>
+        <translation>Projekt</translation>
+    </message>
+    <message>
+        <source>Projects for which no number was left, without their rooms</source>
+        <translation>Projekte, für die keine Nummer mehr frei war, ohne ihre Räume</translation>
+    </message>
+    <message>
+        <source>Projects that no screen shows, since their directory is neither listed nor a month</source>
+        <translation>Projekte, die keine Seite zeigt, weil ihr Verzeichnis weder aufgeführt noch ein Monat ist</translation>
+    </message>
+    <message>
+        <source>Projects that shared their rooms with others, and have them all now</source>
+        <translation>Projekte, die ihre Räume mit anderen teilten und jetzt alle haben</translation>
+    </message>
+    <message>
+        <source>Projects with more than one row</source>
+        <translation>Projekte mit mehr als einer Zeile</translation>
+    </message>
+    <message>
+        <source>Projects with more than one sheet, of which the first alone is used</source>
+        <translation>Projekte mit mehr als einem Blatt, von denen nur das erste gilt</translation>
+    </message>
+    <message>
+        <source>Put %1 in the place of %2.</source>
+        <translation>%1 an die Stelle von %2 gesetzt.</translation>
+    </message>
+    <message>
+        <source>Put a backup in its place with &quot;tarn-data restore&quot;, or save what can still be read of it with &quot;tarn-data repair&quot;.</source>
+        <translation>Setzen Sie mit „tarn-data restore“ eine Sicherung an ihre Stelle, oder retten Sie mit „tarn-data repair“, was noch lesbar ist.</translation>
+    </message>
+    <message>
+        <source>Put a backup in the place of a database; what was there is kept</source>
+        <translation>Eine Sicherung an die Stelle einer Datenbank setzen; was dort war, wird aufbewahrt</translation>
+    </message>
+    <message>
+        <source>Put that right at the printer, then print again.</source>
+        <translation>Beheben Sie das am Drucker und drucken Sie dann noch einmal.</translation>
+    </message>
+    <message>
+        <source>REMAR&amp;K</source>
+        <translation>BE&amp;MERKUNG</translation>
+    </message>
+    <message>
+        <source>REMARK</source>
+        <translation>BEMERKUNG</translation>
+    </message>
+    <message>
+        <source>REMO&amp;VE ROLL</source>
+        <translation>ROLLE &amp;ENTFERNEN</translation>
+    </message>
+    <message>
+        <source>REQUIRED</source>
+        <translation>ERFORDERLICH</translation>
+    </message>
+    <message>
+        <source>RO&amp;OM No.</source>
+        <translation>RA&amp;UM-NR.</translation>
+    </message>
+    <message>
+        <source>ROLL</source>
+        <translation>ROLLE</translation>
+    </message>
+    <message>
+        <source>ROOM</source>
+        <translation>RAUM</translation>
+    </message>
+    <message>
+        <source>ROOM   &amp;WIDTH</source>
+        <translation>RAUMBREIT&amp;E</translation>
+    </message>
+    <message>
+        <source>ROOM &amp;LENGTH</source>
+        <translation>RAUM&amp;LÄNGE</translation>
+    </message>
+    <message>
+        <source>ROOM SIZE</source>
+        <translation>RAUMMASSE</translation>
+    </message>
+    <message>
+        <source>Really want to delete current data?</source>
+        <translation>Sollen die aktuellen Daten wirklich gelöscht werden?</translation>
+    </message>
+    <message>
+        <source>Replace the rooms that the project has</source>
+        <translation>Die Räume ersetzen, die das Projekt hat</translation>
+    </message>
+    <message>
+        <source>Requests for an order that a later one of the carpet replaced, left out</source>
+        <translation>Bestellvorgaben, die eine spätere desselben Teppichbodens ersetzt hat, ausgelassen</translation>
+    </message>
+    <message>
+        <source>Requests for orders that cannot be read</source>
+        <translation>Bestellvorgaben, die nicht lesbar sind</translation>
+    </message>
+    <message>
+        <source>Requests for orders that cannot be read, left out</source>
+        <translation>Bestellvorgaben, die nicht lesbar sind, ausgelassen</translation>
+    </message>
+    <message numerus="yes">
+        <source>Roll %1 wide, %2 long, %n piece</source>
+        <comment>Roll %1 wide, %2 long, %n pieces</comment>
+        <translation>
+            <numerusform>Rolle %1 breit, %2 lang, %n Stück</numerusform>
+            <numerusform>Rolle %1 breit, %2 lang, %n Stücke</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Room</source>
+        <translation>Raum</translation>
+    </message>
+    <message>
+        <source>Room %1 (%2)</source>
+        <translation>Raum %1 (%2)</translation>
+    </message>
+    <message>
+        <source>Room %1 has no width or no length: it is stored with 0, and nothing is cut for it.</source>
+        <translation>Raum %1 hat keine Breite oder keine Länge: Er wird mit 0 gespeichert, und für ihn wird nichts zugeschnitten.</translation>
+    </message>
+    <message>
+        <source>Room %1 is not stored: it needs a width and a length.</source>
+        <translation>Raum %1 ist nicht gespeichert: Er braucht eine Breite und eine Länge.</translation>
+    </message>
+    <message>
+        <source>Room length:<byte value="xd"/>
+%1</source>
+        <translation>Raumlänge:<byte value="xd"/>
+%1</translation>
+    </message>
+    <message>
+        <source>Room width:<byte value="xd"/>
+%1</source>
+        <translation>Raumbreite:<byte value="xd"/>
+%1</translation>
+    </message>
+    <message>
+        <source>Rooms %1 have no width or no length: they are stored with 0, and nothing is cut for them.</source>
+        <translation>Die Räume %1 haben keine Breite oder keine Länge: Sie werden mit 0 gespeichert, und für sie wird nichts zugeschnitten.</translation>
+    </message>
+    <message>
+        <source>Rooms beyond the number that the sheet tells, which nothing shows</source>
+        <translation>Räume über die Zahl des Blatts hinaus, die nichts zeigt</translation>
+    </message>
+    <message>
+        <source>Rooms sq. ft.</source>
+        <translation>Räume ft²</translation>
+    </message>
+    <message>
+        <source>Rooms sq. m</source>
+        <translation>Räume m²</translation>
+    </message>
+    <message>
+        <source>Rooms that are to become a project, whose name is asked for</source>
+        <translation>Räume, die ein Projekt werden sollen, nach dessen Namen gefragt wird</translation>
+    </message>
+    <message>
+        <source>Rooms that could not be found and are empty now</source>
+        <translation>Räume, die nicht gefunden wurden und jetzt leer sind</translation>
+    </message>
+    <message>
+        <source>Rooms that their project did not show, which are in one of their own now</source>
+        <translation>Räume, die ihr Projekt nicht zeigte und die jetzt in einem eigenen stehen</translation>
+    </message>
+    <message>
+        <source>Rooms that were stored twice alike</source>
+        <translation>Räume, die zweimal gleich gespeichert waren</translation>
+    </message>
+    <message>
+        <source>Rooms with more than one row, of which the last is read</source>
+        <translation>Räume mit mehr als einer Zeile, von denen die letzte gelesen wird</translation>
+    </message>
+    <message>
+        <source>Rooms without a sheet, for which a project was made (in feet and inches: their units are not known)</source>
+        <translation>Räume ohne Blatt, für die ein Projekt angelegt wurde (in Fuß und Zoll: ihre Einheiten sind nicht bekannt)</translation>
+    </message>
+    <message>
+        <source>Rooms without a sheet, which nothing shows</source>
+        <translation>Räume ohne Blatt, die nichts zeigt</translation>
+    </message>
+    <message>
+        <source>Rows of %1 without a sheet, which nothing reaches</source>
+        <translation>Zeilen von %1 ohne Blatt, die nichts erreicht</translation>
+    </message>
+    <message>
+        <source>Rows that cannot be read and are left out</source>
+        <translation>Zeilen, die nicht lesbar sind und ausgelassen werden</translation>
+    </message>
+    <message>
+        <source>Rows that say nothing and were left out</source>
+        <translation>Zeilen, die nichts sagen und ausgelassen wurden</translation>
+    </message>
+    <message>
+        <source>Run with --help for more information.</source>
+        <translation>Mehr dazu sagt --help.</translation>
+    </message>
+    <message>
+        <source>S&amp;HORTEST PART</source>
+        <translation>MINDE&amp;STTEIL</translation>
+    </message>
+    <message>
+        <source>S&amp;HOW FORM</source>
+        <translation>FORMULAR ZEI&amp;GEN</translation>
+    </message>
+    <message>
+        <source>S&amp;HOW LIST</source>
+        <translation>LISTE ZEI&amp;GEN</translation>
+    </message>
+    <message>
+        <source>S&amp;TOP</source>
+        <translation>BEEN&amp;DEN</translation>
+    </message>
+    <message>
+        <source>SECONDS</source>
+        <translation>SEKUNDEN</translation>
+    </message>
+    <message>
+        <source>SELECT</source>
+        <translation>AUSWAHL</translation>
+    </message>
+    <message>
+        <source>SELVA&amp;GE</source>
+        <translation>&amp;WEBKANTE</translation>
+    </message>
+    <message>
+        <source>SQ. FT.</source>
+        <translation>FT²</translation>
+    </message>
+    <message>
+        <source>SQ. M</source>
+        <translation>M²</translation>
+    </message>
+    <message>
+        <source>SQ. YD.</source>
+        <translation>YD²</translation>
+    </message>
+    <message>
+        <source>STEP</source>
+        <translation>STUFE</translation>
+    </message>
+    <message>
+        <source>STOP</source>
+        <translation>BEENDEN</translation>
+    </message>
+    <message>
+        <source>SUBCOMMAND</source>
+        <translation>BEFEHL</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <source>Save as &amp;CSV</source>
+        <translation>Als &amp;CSV speichern</translation>
+    </message>
+    <message>
+        <source>Save as &amp;DXF</source>
+        <translation>Als &amp;DXF speichern</translation>
+    </message>
+    <message>
+        <source>Save as &amp;JSON</source>
+        <translation>Als &amp;JSON speichern</translation>
+    </message>
+    <message>
+        <source>Save as &amp;SVG</source>
+        <translation>Als &amp;SVG speichern</translation>
+    </message>
+    <message>
+        <source>Save as spreadsheet (&amp;XLSX)</source>
+        <translation>Als Tabelle speichern (&amp;XLSX)</translation>
+    </message>
+    <message>
+        <source>Save it as a new project</source>
+        <translation>Als neues Projekt speichern</translation>
+    </message>
+    <message>
+        <source>Saved: %1</source>
+        <translation>Gespeichert: %1</translation>
+    </message>
+    <message>
+        <source>Seams</source>
+        <translation>Nähte</translation>
+    </message>
+    <message>
+        <source>Seams cm</source>
+        <translation>Nähte cm</translation>
+    </message>
+    <message>
+        <source>Search progress</source>
+        <translation>Fortschritt der Suche</translation>
+    </message>
+    <message>
+        <source>Second sheets of a project, which became projects of their own</source>
+        <translation>Zweite Blätter eines Projekts, die eigene Projekte wurden</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>Sheet numbers of more than one project, whose rooms cannot be told apart</source>
+        <translation>Blattnummern von mehr als einem Projekt, deren Räume nicht zu unterscheiden sind</translation>
+    </message>
+    <message>
+        <source>Sheets without a project</source>
+        <translation>Blätter ohne Projekt</translation>
+    </message>
+    <message>
+        <source>Sheets without a project, for which one was made</source>
+        <translation>Blätter ohne Projekt, für die eines angelegt wurde</translation>
+    </message>
+    <message>
+        <source>Sheets without rooms that were left out</source>
+        <translation>Blätter ohne Räume, die ausgelassen wurden</translation>
+    </message>
+    <message>
+        <source>Shortest part of a divided strip (default 3ft, 91cm with --metric)</source>
+        <translation>Kürzestes Teil eines geteilten Streifens (üblich 3ft, 91cm mit --metric)</translation>
+    </message>
+    <message>
+        <source>Side seams</source>
+        <translation>Längsnähte</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Maß</translation>
+    </message>
+    <message>
+        <source>So many layouts for each row instead, so that the result can be repeated</source>
+        <translation>Stattdessen so viele Anordnungen für jede Zeile, damit das Ergebnis wiederholbar ist</translation>
+    </message>
+    <message>
+        <source>Start it again in the system&apos;s printer settings, or choose another default printer there.</source>
+        <translation>Starten Sie ihn in den Druckereinstellungen des Systems wieder, oder wählen Sie dort einen anderen Standarddrucker.</translation>
+    </message>
+    <message>
+        <source>Stopped: the best so far.</source>
+        <translation>Beendet: das bisher Beste.</translation>
+    </message>
+    <message>
+        <source>Stored more than once, the last row is used</source>
+        <translation>Mehrmals gespeichert, die letzte Zeile gilt</translation>
+    </message>
+    <message>
+        <source>Stored under one number with %1, whose rooms they may be</source>
+        <translation>Unter einer Nummer gespeichert mit %1; die Räume können dorthin gehören</translation>
+    </message>
+    <message>
+        <source>Stored with more than one sheet, the first, number %1, is used; not reached: %2.</source>
+        <translation>Mit mehr als einem Blatt gespeichert, das erste, Nummer %1, gilt; nicht erreicht: %2.</translation>
+    </message>
+    <message>
+        <source>Strips with trim</source>
+        <translation>Streifen mit Zugabe</translation>
+    </message>
+    <message>
+        <source>Subscript out of range</source>
+        <translation>Index außerhalb des Bereichs</translation>
+    </message>
+    <message>
+        <source>TAKE IT</source>
+        <translation>NEHMEN</translation>
+    </message>
+    <message>
+        <source>TEXT</source>
+        <translation>TEXT</translation>
+    </message>
+    <message>
+        <source>TILE-%1</source>
+        <translation>FLIESE-%1</translation>
+    </message>
+    <message>
+        <source>TILES ONLY</source>
+        <translation>NUR FLIESEN</translation>
+    </message>
+    <message>
+        <source>TRIM &amp;ALONG</source>
+        <translation>ZUGABE &amp;LÄNGS</translation>
+    </message>
+    <message>
+        <source>TRIM ACR&amp;OSS</source>
+        <translation>Z&amp;UGABE QUER</translation>
+    </message>
+    <message>
+        <source>TYPE</source>
+        <translation>BELAG</translation>
+    </message>
+    <message>
+        <source>Tables that cannot be read</source>
+        <translation>Tabellen, die nicht lesbar sind</translation>
+    </message>
+    <message>
+        <source>Tables that were missing and are empty now</source>
+        <translation>Tabellen, die fehlten und jetzt leer sind</translation>
+    </message>
+    <message>
+        <source>The Project Name: %1 has been used<byte value="xd"/>
+Please change to another name!</source>
+        <translation>Der Projektname %1 ist schon vergeben<byte value="xd"/>
+Bitte wählen Sie einen anderen Namen!</translation>
+    </message>
+    <message>
+        <source>The backup %1 cannot be copied</source>
+        <translation>Die Sicherung %1 kann nicht kopiert werden</translation>
+    </message>
+    <message>
+        <source>The backup %1 cannot be made</source>
+        <translation>Die Sicherung %1 kann nicht angelegt werden</translation>
+    </message>
+    <message>
+        <source>The backup %1 is damaged (%2) and is not put in place. Take another one.</source>
+        <translation>Die Sicherung %1 ist beschädigt (%2) und wird nicht eingesetzt. Nehmen Sie eine andere.</translation>
+    </message>
+    <message>
+        <source>The change cannot be stored</source>
+        <translation>Die Änderung kann nicht gespeichert werden</translation>
+    </message>
+    <message>
+        <source>The change cannot be taken back</source>
+        <translation>Die Änderung kann nicht zurückgenommen werden</translation>
+    </message>
+    <message>
+        <source>The choices could not be taken.</source>
+        <translation>Die Auswahl konnte nicht übernommen werden.</translation>
+    </message>
+    <message>
+        <source>The columns of a CSV file are those that tarn-estimate --help tells.
+
+Exit status: 0 done, 1 the program could not start (the reason is in a box or on standard
+error), 2 wrong usage.
+
+Example:
+  tarn house.csv</source>
+        <translation>Die Spalten einer CSV-Datei sind die, die tarn-estimate --help nennt.
+
+Rückgabewert: 0 getan, 1 das Programm konnte nicht starten (der Grund steht in einem Fenster oder in
+der Fehlerausgabe), 2 falscher Aufruf.
+
+Beispiel:
+  tarn house.csv</translation>
+    </message>
+    <message>
+        <source>The configuration file %1 is in force; it names the folder %2.</source>
+        <translation>Die Konfigurationsdatei %1 gilt; sie nennt den Ordner %2.</translation>
+    </message>
+    <message>
+        <source>The database %1 is sound and has every table.</source>
+        <translation>Die Datenbank %1 ist einwandfrei und hat jede Tabelle.</translation>
+    </message>
+    <message>
+        <source>The database file %1 cannot be made</source>
+        <translation>Die Datenbankdatei %1 kann nicht angelegt werden</translation>
+    </message>
+    <message>
+        <source>The database file %1 cannot be read: %2.</source>
+        <translation>Die Datenbankdatei %1 kann nicht gelesen werden: %2.</translation>
+    </message>
+    <message>
+        <source>The database file %1 cannot be replaced: another program is using the database. Close that program and try again.</source>
+        <translation>Die Datenbankdatei %1 kann nicht ersetzt werden: Ein anderes Programm benutzt die Datenbank. Schließen Sie es und versuchen Sie es noch einmal.</translation>
+    </message>
+    <message>
+        <source>The database file %1 is a folder. Correct its path or the data folder in %2.</source>
+        <translation>Die Datenbankdatei %1 ist ein Ordner. Berichtigen Sie ihren Pfad oder den Datenordner in %2.</translation>
+    </message>
+    <message>
+        <source>The database file %1 is a pipe, a device or a socket. Correct its path or the data folder in %2.</source>
+        <translation>Die Datenbankdatei %1 ist eine Pipe, ein Gerät oder ein Socket. Berichtigen Sie ihren Pfad oder den Datenordner in %2.</translation>
+    </message>
+    <message>
+        <source>The database file %1 is damaged (%2). %3</source>
+        <translation>Die Datenbankdatei %1 ist beschädigt (%2). %3</translation>
+    </message>
+    <message>
+        <source>The database file %1 is empty. %2</source>
+        <translation>Die Datenbankdatei %1 ist leer. %2</translation>
+    </message>
+    <message>
+        <source>The database file %1 is in the older Jet format, which cannot be read. Keep it, make a new data folder with &quot;tarn-data create&quot; and enter its projects there.</source>
+        <translation>Die Datenbankdatei %1 hat das ältere Jet-Format, das nicht gelesen werden kann. Behalten Sie sie, legen Sie mit „tarn-data create“ einen neuen Datenordner an und geben Sie ihre Projekte dort ein.</translation>
+    </message>
+    <message>
+        <source>The database file %1 is missing. Correct its path or the data folder in %2, or make a new data folder with &quot;tarn-data create&quot;.</source>
+        <translation>Die Datenbankdatei %1 fehlt. Berichtigen Sie ihren Pfad oder den Datenordner in %2, oder legen Sie mit „tarn-data create“ einen neuen Datenordner an.</translation>
+    </message>
+    <message>
+        <source>The database file %1 is not a database of this program. Correct its path or the data folder in %2, or put a backup in its place with &quot;tarn-data restore&quot;.</source>
+        <translation>Die Datenbankdatei %1 ist keine Datenbank dieses Programms. Berichtigen Sie ihren Pfad oder den Datenordner in %2, oder setzen Sie mit „tarn-data restore“ eine Sicherung an ihre Stelle.</translation>
+    </message>
+    <message>
+        <source>The database file %1 lies in a read-only folder. Allow writing to the folder.</source>
+        <translation>Die Datenbankdatei %1 liegt in einem schreibgeschützten Ordner. Erlauben Sie das Schreiben in den Ordner.</translation>
+    </message>
+    <message>
+        <source>The directory could not be deleted.</source>
+        <translation>Das Verzeichnis konnte nicht gelöscht werden.</translation>
+    </message>
+    <message>
+        <source>The directory could not be made.</source>
+        <translation>Das Verzeichnis konnte nicht angelegt werden.</translation>
+    </message>
+    <message>
+        <source>The directory could not be renamed.</source>
+        <translation>Das Verzeichnis konnte nicht umbenannt werden.</translation>
+    </message>
+    <message>
+        <source>The directory name %1 has more than %2 characters.</source>
+        <translation>Der Verzeichnisname %1 hat mehr als %2 Zeichen.</translation>
+    </message>
+    <message>
+        <source>The directory name holds a line break or another control character.</source>
+        <translation>Der Verzeichnisname enthält einen Zeilenumbruch oder ein anderes Steuerzeichen.</translation>
+    </message>
+    <message>
+        <source>The directory needs a name.</source>
+        <translation>Das Verzeichnis braucht einen Namen.</translation>
+    </message>
+    <message>
+        <source>The drawing of %1 shows one carpet, and there are several: choose one with --carpet.</source>
+        <translation>Die Zeichnung von %1 zeigt einen Teppichboden, und es gibt mehrere: Wählen Sie mit --carpet einen.</translation>
+    </message>
+    <message>
+        <source>The estimate could not be emptied.</source>
+        <translation>Die Berechnung konnte nicht geleert werden.</translation>
+    </message>
+    <message>
+        <source>The estimate could not be made.</source>
+        <translation>Die Berechnung war nicht möglich.</translation>
+    </message>
+    <message>
+        <source>The estimate could not be opened.</source>
+        <translation>Die Berechnung konnte nicht geöffnet werden.</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be made</source>
+        <translation>Die Datei %1 kann nicht angelegt werden</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be made: %2.</source>
+        <translation>Die Datei %1 kann nicht angelegt werden: %2.</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be made: it would not be sound. %2</source>
+        <translation>Die Datei %1 kann nicht angelegt werden: Sie wäre nicht einwandfrei. %2</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be used; nothing was taken from it:</source>
+        <translation>Die Datei %1 ist nicht verwendbar; nichts wurde aus ihr übernommen:</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be written: the rooms are read from it. Name another file.</source>
+        <translation>Die Datei %1 kann nicht geschrieben werden: Aus ihr werden die Räume gelesen. Nennen Sie eine andere Datei.</translation>
+    </message>
+    <message>
+        <source>The file %1 has no rooms; the project %2 keeps those that it has.</source>
+        <translation>Die Datei %1 hat keine Räume; das Projekt %2 behält seine.</translation>
+    </message>
+    <message>
+        <source>The file %1 is a database and stays as it is. Name another file for the output.</source>
+        <translation>Die Datei %1 ist eine Datenbank und bleibt, wie sie ist. Nennen Sie eine andere Datei für die Ausgabe.</translation>
+    </message>
+    <message>
+        <source>The file %1 is a link, which leads to %2, and stays as it is. Name another file for the output.</source>
+        <translation>Die Datei %1 ist eine Verknüpfung nach %2 und bleibt, wie sie ist. Nennen Sie eine andere Datei für die Ausgabe.</translation>
+    </message>
+    <message>
+        <source>The file %1 is no backup of this program&apos;s data: it has no table %2.</source>
+        <translation>Die Datei %1 ist keine Sicherung der Daten dieses Programms: Ihr fehlt die Tabelle %2.</translation>
+    </message>
+    <message>
+        <source>The file %1 is the database itself. Name a backup of it.</source>
+        <translation>Die Datei %1 ist die Datenbank selbst. Nennen Sie eine Sicherung von ihr.</translation>
+    </message>
+    <message>
+        <source>The file cannot be made</source>
+        <translation>Die Datei kann nicht angelegt werden</translation>
+    </message>
+    <message>
+        <source>The file cannot be read</source>
+        <translation>Die Datei kann nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>The folder %1 cannot be stored: %2.</source>
+        <translation>Der Ordner %1 kann nicht auf den Datenträger geschrieben werden: %2.</translation>
+    </message>
+    <message>
+        <source>The following argument was not expected: %1</source>
+        <translation>Dieses Argument ist hier nicht möglich: %1</translation>
+    </message>
+    <message>
+        <source>The following arguments were not expected: %1</source>
+        <translation>Diese Argumente sind hier nicht möglich: %1</translation>
+    </message>
+    <message>
+        <source>The guide does not have this word.</source>
+        <translation>Dieses Wort steht nicht in der Anleitung.</translation>
+    </message>
+    <message>
+        <source>The journal %1 cannot be set aside as %2.</source>
+        <translation>Das Journal %1 kann nicht als %2 beiseitegelegt werden.</translation>
+    </message>
+    <message>
+        <source>The journal beside it is kept as %1.</source>
+        <translation>Das Journal daneben wird als %1 aufbewahrt.</translation>
+    </message>
+    <message>
+        <source>The journal beside the file belongs to another state of it and is not used.</source>
+        <translation>Das Journal neben der Datei gehört zu einem anderen Stand von ihr und wird nicht verwendet.</translation>
+    </message>
+    <message>
+        <source>The language could not be chosen.</source>
+        <translation>Die Sprache konnte nicht gewählt werden.</translation>
+    </message>
+    <message>
+        <source>The lay must be down, cross or both.</source>
+        <translation>Die Verlegung muss längs (down), quer (cross) oder beides (both) sein.</translation>
+    </message>
+    <message>
+        <source>The layout could not be drawn.</source>
+        <translation>Die Anordnung konnte nicht gezeichnet werden.</translation>
+    </message>
+    <message>
+        <source>The layout could not be improved.</source>
+        <translation>Die Anordnung konnte nicht verbessert werden.</translation>
+    </message>
+    <message>
+        <source>The layout could not be shown.</source>
+        <translation>Die Anordnung konnte nicht gezeigt werden.</translation>
+    </message>
+    <message>
+        <source>The length is empty and counts as 0.</source>
+        <translation>Die Länge ist leer und zählt als 0.</translation>
+    </message>
+    <message>
+        <source>The length is empty: a new room needs both its sizes.</source>
+        <translation>Die Länge ist leer: Ein neuer Raum braucht beide Maße.</translation>
+    </message>
+    <message>
+        <source>The length of a room can be %1 %2 at most.</source>
+        <translation>Die Länge eines Raums kann höchstens %1 %2 sein.</translation>
+    </message>
+    <message>
+        <source>The list of the rooms could not be saved.</source>
+        <translation>Die Liste der Räume konnte nicht gespeichert werden.</translation>
+    </message>
+    <message>
+        <source>The list stands on the screen, in the drawing saved as SVG, and in what tarn-estimate --text writes.</source>
+        <translation>Die Liste steht auf dem Bildschirm, in der als SVG gespeicherten Zeichnung und in dem, was tarn-estimate --text schreibt.</translation>
+    </message>
+    <message>
+        <source>The match pattern &quot;%1&quot; is not readable: write it as 18x24, the repeat across and along.</source>
+        <translation>Der Rapport „%1“ ist nicht lesbar: Schreiben Sie ihn wie 18x24, quer und längs.</translation>
+    </message>
+    <message>
+        <source>The match pattern is not correct.</source>
+        <translation>Der Rapport ist nicht richtig.</translation>
+    </message>
+    <message>
+        <source>The name of the directory &quot;%1&quot; %2</source>
+        <translation>Der Name des Verzeichnisses „%1“ %2</translation>
+    </message>
+    <message>
+        <source>The name of the project &quot;%1&quot; %2</source>
+        <translation>Der Name des Projekts „%1“ %2</translation>
+    </message>
+    <message>
+        <source>The next column of the pattern stands half a repeat further along</source>
+        <translation>Die nächste Musterspalte steht einen halben Rapport weiter</translation>
+    </message>
+    <message>
+        <source>The order could not be opened.</source>
+        <translation>Die Bestellung konnte nicht geöffnet werden.</translation>
+    </message>
+    <message>
+        <source>The order could not be put on a further page.</source>
+        <translation>Die Bestellung konnte nicht auf eine weitere Seite gebracht werden.</translation>
+    </message>
+    <message>
+        <source>The order could not be saved.</source>
+        <translation>Die Bestellung konnte nicht gespeichert werden.</translation>
+    </message>
+    <message>
+        <source>The paper is too small for the estimate.</source>
+        <translation>Das Papier ist zu klein für die Berechnung.</translation>
+    </message>
+    <message>
+        <source>The paper is too small for the order.</source>
+        <translation>Das Papier ist zu klein für die Bestellung.</translation>
+    </message>
+    <message>
+        <source>The pattern across</source>
+        <translation>Der Rapport quer</translation>
+    </message>
+    <message>
+        <source>The pattern along</source>
+        <translation>Der Rapport längs</translation>
+    </message>
+    <message>
+        <source>The pattern drift must be 0 to 10 percent.</source>
+        <translation>Der Musterverzug muss 0 bis 10 Prozent sein.</translation>
+    </message>
+    <message>
+        <source>The picture could not be saved.</source>
+        <translation>Das Bild konnte nicht gespeichert werden.</translation>
+    </message>
+    <message>
+        <source>The price &quot;%1&quot; of the roll %2: a comma is not taken. Write it with a point, as 18.50.</source>
+        <translation>Der Preis „%1“ der Rolle %2: Ein Komma gilt nicht. Schreiben Sie ihn mit Punkt, wie 18.50.</translation>
+    </message>
+    <message>
+        <source>The price of the roll %1 must be a number of 0 or more.</source>
+        <translation>Der Preis der Rolle %1 muss eine Zahl von 0 an sein.</translation>
+    </message>
+    <message>
+        <source>The printer %1 %2.</source>
+        <translation>Der Drucker %1 %2.</translation>
+    </message>
+    <message>
+        <source>The printer %1 does not tell whether it took the job. %2</source>
+        <translation>Der Drucker %1 sagt nicht, ob er den Auftrag angenommen hat. %2</translation>
+    </message>
+    <message>
+        <source>The printer %1 is stopped.</source>
+        <translation>Der Drucker %1 ist angehalten.</translation>
+    </message>
+    <message>
+        <source>The printer %1 refused the job: %2.</source>
+        <translation>Der Drucker %1 hat den Auftrag abgelehnt: %2.</translation>
+    </message>
+    <message>
+        <source>The printer %1 takes no jobs.</source>
+        <translation>Der Drucker %1 nimmt keine Aufträge an.</translation>
+    </message>
+    <message>
+        <source>The printing system (%1) cannot be reached.</source>
+        <translation>Das Drucksystem (%1) ist nicht erreichbar.</translation>
+    </message>
+    <message>
+        <source>The printing system does not answer: it hung up.</source>
+        <translation>Das Drucksystem antwortet nicht: Es hat die Verbindung beendet.</translation>
+    </message>
+    <message>
+        <source>The printing system does not answer: it keeps silent.</source>
+        <translation>Das Drucksystem antwortet nicht: Es schweigt.</translation>
+    </message>
+    <message>
+        <source>The printing system does not let this user in.</source>
+        <translation>Das Drucksystem lässt diesen Benutzer nicht zu.</translation>
+    </message>
+    <message>
+        <source>The printing system does not name the default printer: %1.</source>
+        <translation>Das Drucksystem nennt den Standarddrucker nicht: %1.</translation>
+    </message>
+    <message>
+        <source>The printing system refused the request: %1.</source>
+        <translation>Das Drucksystem hat die Anfrage abgelehnt: %1.</translation>
+    </message>
+    <message>
+        <source>The program could not be ended.</source>
+        <translation>Das Programm konnte nicht beendet werden.</translation>
+    </message>
+    <message>
+        <source>The project %1 cannot be exported: no import would take these rooms. Correct them in the program first; nothing was written.</source>
+        <translation>Das Projekt %1 kann nicht ausgegeben werden: Kein Import nähme diese Räume an. Berichtigen Sie sie zuerst im Programm; nichts wurde geschrieben.</translation>
+    </message>
+    <message>
+        <source>The project %1 has no saved rooms.</source>
+        <translation>Das Projekt %1 hat keine gespeicherten Räume.</translation>
+    </message>
+    <message>
+        <source>The project %1 is no longer there: another program has renamed or deleted it.<byte value="xd"/>
+Its rooms can be saved as a new project.</source>
+        <translation>Das Projekt %1 ist nicht mehr da: Ein anderes Programm hat es umbenannt oder gelöscht.<byte value="xd"/>
+Seine Räume können als neues Projekt gespeichert werden.</translation>
+    </message>
+    <message>
+        <source>The project %1 is not stored as it should be:</source>
+        <translation>Das Projekt %1 ist nicht so gespeichert, wie es sein sollte:</translation>
+    </message>
+    <message>
+        <source>The project could not be deleted.</source>
+        <translation>Das Projekt konnte nicht gelöscht werden.</translation>
+    </message>
+    <message>
+        <source>The project could not be made.</source>
+        <translation>Das Projekt konnte nicht angelegt werden.</translation>
+    </message>
+    <message>
+        <source>The project could not be renamed.</source>
+        <translation>Das Projekt konnte nicht umbenannt werden.</translation>
+    </message>
+    <message>
+        <source>The project could not be saved.</source>
+        <translation>Das Projekt konnte nicht gespeichert werden.</translation>
+    </message>
+    <message>
+        <source>The project could not be selected.</source>
+        <translation>Das Projekt konnte nicht gewählt werden.</translation>
+    </message>
+    <message>
+        <source>The project is full: it can hold 501 rooms.</source>
+        <translation>Das Projekt ist voll: Es fasst 501 Räume.</translation>
+    </message>
+    <message>
+        <source>The project name holds a line break or another control character.</source>
+        <translation>Der Projektname enthält einen Zeilenumbruch oder ein anderes Steuerzeichen.</translation>
+    </message>
+    <message>
+        <source>The project needs a name.</source>
+        <translation>Das Projekt braucht einen Namen.</translation>
+    </message>
+    <message>
+        <source>The project&apos;s sheet holds a wrong value in its field %1.</source>
+        <translation>Das Blatt des Projekts hat einen falschen Wert im Feld %1.</translation>
+    </message>
+    <message>
+        <source>The projects could not be shown.</source>
+        <translation>Die Projekte konnten nicht gezeigt werden.</translation>
+    </message>
+    <message>
+        <source>The report could not be closed.</source>
+        <translation>Der Bericht konnte nicht geschlossen werden.</translation>
+    </message>
+    <message>
+        <source>The report could not be made.</source>
+        <translation>Der Bericht konnte nicht erstellt werden.</translation>
+    </message>
+    <message>
+        <source>The report could not be printed.</source>
+        <translation>Der Bericht konnte nicht gedruckt werden.</translation>
+    </message>
+    <message>
+        <source>The report could not be put on a further page.</source>
+        <translation>Der Bericht konnte nicht auf eine weitere Seite gebracht werden.</translation>
+    </message>
+    <message>
+        <source>The report could not be put on paper.</source>
+        <translation>Der Bericht konnte nicht zu Papier gebracht werden.</translation>
+    </message>
+    <message>
+        <source>The report could not be saved.</source>
+        <translation>Der Bericht konnte nicht gespeichert werden.</translation>
+    </message>
+    <message>
+        <source>The request that is kept for this carpet is in metric and is not used. What you change takes its place.</source>
+        <translation>Die gespeicherte Vorgabe für diesen Teppichboden ist metrisch und wird nicht verwendet. Was Sie ändern, tritt an ihre Stelle.</translation>
+    </message>
+    <message>
+        <source>The roll could not be shown.</source>
+        <translation>Die Rolle konnte nicht gezeigt werden.</translation>
+    </message>
+    <message>
+        <source>The roll is ordered in whole steps (default 3in, 5cm with --metric)</source>
+        <translation>Die Rolle wird in ganzen Stufen bestellt (üblich 3in, 5cm mit --metric)</translation>
+    </message>
+    <message>
+        <source>The roll of %1 counts as %2, a centimetre short of the standard one.</source>
+        <translation>Die Rolle von %1 zählt als %2, einen Zentimeter weniger als die übliche.</translation>
+    </message>
+    <message>
+        <source>The roll width &quot;%1&quot; is not readable: write it as 12ft, 13.5ft, 12ft6in, 150in or 366cm.</source>
+        <translation>Die Rollenbreite „%1“ ist nicht lesbar: Schreiben Sie sie wie 12ft, 13.5ft, 12ft6in, 150in oder 366cm.</translation>
+    </message>
+    <message>
+        <source>The roll width &quot;%1&quot; must be more than 0.</source>
+        <translation>Die Rollenbreite „%1“ muss größer als 0 sein.</translation>
+    </message>
+    <message>
+        <source>The room could not be deleted.</source>
+        <translation>Der Raum konnte nicht gelöscht werden.</translation>
+    </message>
+    <message>
+        <source>The rooms are pasted. Some sizes are rounded:</source>
+        <translation>Die Räume sind eingefügt. Einige Maße sind gerundet:</translation>
+    </message>
+    <message>
+        <source>The rooms could not be opened.</source>
+        <translation>Die Räume konnten nicht geöffnet werden.</translation>
+    </message>
+    <message>
+        <source>The rooms could not be pasted.</source>
+        <translation>Die Räume konnten nicht eingefügt werden.</translation>
+    </message>
+    <message>
+        <source>The rooms could not be pasted: nothing was changed.</source>
+        <translation>Die Räume konnten nicht eingefügt werden: Nichts wurde geändert.</translation>
+    </message>
+    <message>
+        <source>The rooms could not be put back.</source>
+        <translation>Die Räume konnten nicht zurückgesetzt werden.</translation>
+    </message>
+    <message>
+        <source>The rooms could not be shown.</source>
+        <translation>Die Räume konnten nicht gezeigt werden.</translation>
+    </message>
+    <message>
+        <source>The rooms could not be taken back.</source>
+        <translation>Die Räume konnten nicht zurückgeholt werden.</translation>
+    </message>
+    <message>
+        <source>The rooms of %1 become a new project.<byte value="xd"/>
+What are their sizes in?</source>
+        <translation>Die Räume aus %1 werden ein neues Projekt.<byte value="xd"/>
+Worin sind ihre Maße angegeben?</translation>
+    </message>
+    <message>
+        <source>The rooms; see tarn-estimate --help</source>
+        <translation>Die Räume; siehe tarn-estimate --help</translation>
+    </message>
+    <message>
+        <source>The same for so many steps at most, so that the result can be repeated</source>
+        <translation>Dasselbe mit höchstens so vielen Schritten, damit das Ergebnis wiederholbar ist</translation>
+    </message>
+    <message>
+        <source>The screen could not be shown.</source>
+        <translation>Die Seite konnte nicht gezeigt werden.</translation>
+    </message>
+    <message>
+        <source>The search may take 0 to 3600 seconds.</source>
+        <translation>Die Suche darf 0 bis 3600 Sekunden dauern.</translation>
+    </message>
+    <message>
+        <source>The selvage</source>
+        <translation>Die Webkante</translation>
+    </message>
+    <message>
+        <source>The sheet of the project %1 has the number %2; %3</source>
+        <translation>Das Blatt des Projekts %1 hat die Nummer %2; %3</translation>
+    </message>
+    <message>
+        <source>The shortest part</source>
+        <translation>Das Mindestteil</translation>
+    </message>
+    <message>
+        <source>The size of a room: %1</source>
+        <translation>Die Größe eines Raums: %1</translation>
+    </message>
+    <message>
+        <source>The sizes are centimetres; lists and totals are metric</source>
+        <translation>Die Maße sind Zentimeter; Listen und Summen sind metrisch</translation>
+    </message>
+    <message>
+        <source>The sizes are inches, also of a project that was entered in metric</source>
+        <translation>Die Maße sind Zoll, auch bei einem metrisch eingegebenen Projekt</translation>
+    </message>
+    <message>
+        <source>The spreadsheet cannot be made: no sheet %1.</source>
+        <translation>Die Tabelle kann nicht erstellt werden: kein Blatt %1.</translation>
+    </message>
+    <message>
+        <source>The step</source>
+        <translation>Die Stufe</translation>
+    </message>
+    <message>
+        <source>The table %1 cannot be checked</source>
+        <translation>Die Tabelle %1 kann nicht geprüft werden</translation>
+    </message>
+    <message>
+        <source>The table %1 has no field %2.</source>
+        <translation>Die Tabelle %1 hat kein Feld %2.</translation>
+    </message>
+    <message>
+        <source>The table %1 is missing.</source>
+        <translation>Die Tabelle %1 fehlt.</translation>
+    </message>
+    <message>
+        <source>The tables cannot be listed</source>
+        <translation>Die Tabellen können nicht aufgelistet werden</translation>
+    </message>
+    <message>
+        <source>The text could not be shown.</source>
+        <translation>Der Text konnte nicht gezeigt werden.</translation>
+    </message>
+    <message>
+        <source>The trim across</source>
+        <translation>Die Zugabe quer</translation>
+    </message>
+    <message>
+        <source>The trim along</source>
+        <translation>Die Zugabe längs</translation>
+    </message>
+    <message>
+        <source>The wall base of room %1 is longer than %2 %3: correct its size or its base.</source>
+        <translation>Die Sockelleiste von Raum %1 ist länger als %2 %3: Berichtigen Sie seine Maße oder seinen Sockel.</translation>
+    </message>
+    <message>
+        <source>The whole roll with its list, or the drawing: key D</source>
+        <translation>Die ganze Rolle mit ihrer Liste oder die Zeichnung: Taste D</translation>
+    </message>
+    <message>
+        <source>The width is empty and counts as 0.</source>
+        <translation>Die Breite ist leer und zählt als 0.</translation>
+    </message>
+    <message>
+        <source>The width is empty: a new room needs both its sizes.</source>
+        <translation>Die Breite ist leer: Ein neuer Raum braucht beide Maße.</translation>
+    </message>
+    <message>
+        <source>Then click where the cut list is to stand, or press Enter for the top left of the view.</source>
+        <translation>Klicken Sie dann dorthin, wo die Zuschnittliste stehen soll, oder drücken Sie die Eingabetaste für oben links.</translation>
+    </message>
+    <message>
+        <source>Then look for a better layout, for so many seconds at most or until it is the least possible, with the parts of a divided fill at %1 by --min-cut; Ctrl+C ends that earlier and keeps the best</source>
+        <translation>Dann eine bessere Anordnung suchen, höchstens so viele Sekunden oder bis es kürzer nicht geht, mit den Teilen eines geteilten Füllstücks bei %1 je nach --min-cut; Strg+C beendet das früher und behält das Beste</translation>
+    </message>
+    <message>
+        <source>There are more than %1 strips: choose a wider roll or order the rooms in two projects.</source>
+        <translation>Es sind mehr als %1 Streifen: Wählen Sie eine breitere Rolle oder bestellen Sie die Räume in zwei Projekten.</translation>
+    </message>
+    <message>
+        <source>There is no backup %1. &quot;tarn-data backups&quot; tells the backups that there are.</source>
+        <translation>Es gibt keine Sicherung %1. „tarn-data backups“ nennt die vorhandenen.</translation>
+    </message>
+    <message>
+        <source>There is no backup in %1</source>
+        <translation>In %1 gibt es keine Sicherung</translation>
+    </message>
+    <message>
+        <source>There is no backup of the data as it was before this change.</source>
+        <translation>Es gibt keine Sicherung der Daten vor dieser Änderung.</translation>
+    </message>
+    <message>
+        <source>There is no data to estimate. Please fill in the room information before estimating.</source>
+        <translation>Es gibt nichts zu berechnen. Bitte geben Sie vorher die Räume ein.</translation>
+    </message>
+    <message>
+        <source>There is no folder for it: the environment names no home.</source>
+        <translation>Dafür gibt es keinen Ordner: Die Umgebung nennt kein Benutzerverzeichnis.</translation>
+    </message>
+    <message>
+        <source>There is no home directory for the configuration file; name a directory with --config-dir.</source>
+        <translation>Es gibt kein Benutzerverzeichnis für die Konfigurationsdatei; nennen Sie mit --config-dir ein Verzeichnis.</translation>
+    </message>
+    <message>
+        <source>There is no printer %1.</source>
+        <translation>Es gibt keinen Drucker %1.</translation>
+    </message>
+    <message>
+        <source>There is no project %1. &quot;tarn-data list&quot; tells the projects that there are.</source>
+        <translation>Es gibt kein Projekt %1. „tarn-data list“ nennt die vorhandenen.</translation>
+    </message>
+    <message>
+        <source>There is no roll to order from: name its width.</source>
+        <translation>Es gibt keine Rolle, von der bestellt wird: Nennen Sie ihre Breite.</translation>
+    </message>
+    <message>
+        <source>There is no room in it.</source>
+        <translation>Darin ist kein Raum.</translation>
+    </message>
+    <message>
+        <source>There is one project with the same name, change to other one!</source>
+        <translation>Es gibt schon ein Projekt dieses Namens, bitte wählen Sie einen anderen!</translation>
+    </message>
+    <message>
+        <source>This is not in the guide, and the program opens nothing else: %1</source>
+        <translation>Das steht nicht in der Anleitung, und anderes öffnet das Programm nicht: %1</translation>
+    </message>
+    <message>
+        <source>Tile-%1: %2 SQ. FT.  Tile Base: %3 FEET</source>
+        <translation>Fliese-%1: %2 ft²  Sockelleiste: %3 FUSS</translation>
+    </message>
+    <message>
+        <source>Tile-%1: %2 SQ. Meters.  Tile Base: %3 CM</source>
+        <translation>Fliese-%1: %2 m²  Sockelleiste: %3 CM</translation>
+    </message>
+    <message>
+        <source>Time used</source>
+        <translation>Verbrauchte Zeit</translation>
+    </message>
+    <message>
+        <source>To</source>
+        <translation>Bis</translation>
+    </message>
+    <message>
+        <source>To be ordered</source>
+        <translation>Zu bestellen</translation>
+    </message>
+    <message>
+        <source>Total BASE: %1 CM</source>
+        <translation>Sockelleiste gesamt: %1 CM</translation>
+    </message>
+    <message>
+        <source>Total BASE: %1 FEET</source>
+        <translation>Sockelleiste gesamt: %1 FUSS</translation>
+    </message>
+    <message>
+        <source>Total Cuts:%1   Total Cut-Len:%2</source>
+        <translation>Bahnen: %1   Länge der Bahnen: %2</translation>
+    </message>
+    <message>
+        <source>Total Fills:%1   Total Fill-Len:%2</source>
+        <translation>Füllstücke: %1   Länge der Füllstücke: %2</translation>
+    </message>
+    <message>
+        <source>Total Length:%1</source>
+        <translation>Gesamtlänge: %1</translation>
+    </message>
+    <message>
+        <source>Total Match Pattern Length: %1</source>
+        <translation>Gesamtlänge mit Rapport: %1</translation>
+    </message>
+    <message>
+        <source>Total Match Pattern Size: %1 SQ. FT.   %2 SQ. Yards</source>
+        <translation>Gesamtfläche mit Rapport: %1 ft²   %2 yd²</translation>
+    </message>
+    <message>
+        <source>Total Match Pattern Size: %1 SQ. Meters   </source>
+        <translation>Gesamtfläche mit Rapport: %1 m²   </translation>
+    </message>
+    <message>
+        <source>Total SQ. FT.:%1</source>
+        <translation>Gesamt ft²: %1</translation>
+    </message>
+    <message>
+        <source>Total SQ. Meters:%1</source>
+        <translation>Gesamt m²: %1</translation>
+    </message>
+    <message>
+        <source>Total SQ. Yards:%1</source>
+        <translation>Gesamt yd²: %1</translation>
+    </message>
+    <message>
+        <source>Triggers of another program, which may change or refuse what is stored</source>
+        <translation>Trigger eines anderen Programms, die Gespeichertes ändern oder ablehnen können</translation>
+    </message>
+    <message>
+        <source>Trim</source>
+        <translation>Zugabe</translation>
+    </message>
+    <message>
+        <source>Trimmed sq. ft.</source>
+        <translation>Mit Zugabe ft²</translation>
+    </message>
+    <message>
+        <source>Trimmed sq. m</source>
+        <translation>Mit Zugabe m²</translation>
+    </message>
+    <message>
+        <source>Usable width</source>
+        <translation>Nutzbare Breite</translation>
+    </message>
+    <message>
+        <source>WIDTH</source>
+        <translation>BREITE</translation>
+    </message>
+    <message>
+        <source>Wall base</source>
+        <translation>Sockelleiste</translation>
+    </message>
+    <message>
+        <source>Warning: %1</source>
+        <translation>Warnung: %1</translation>
+    </message>
+    <message>
+        <source>Warning: Delete directory will make data under this directory lost!<byte value="xd"/>
+Do you want to continue deleting?</source>
+        <translation>Achtung: Beim Löschen des Verzeichnisses gehen die Daten darin verloren!<byte value="xd"/>
+Wollen Sie wirklich löschen?</translation>
+    </message>
+    <message>
+        <source>Warning: the project %1 was entered in metric; its sizes are listed in feet and inches. Use --metric for centimetres.</source>
+        <translation>Warnung: Das Projekt %1 wurde metrisch eingegeben; seine Maße werden in Fuß und Zoll aufgelistet. Verwenden Sie --metric für Zentimeter.</translation>
+    </message>
+    <message>
+        <source>Warning: the project %1 was entered in metric; its sizes are written in centimetres. Use --metric to read them.</source>
+        <translation>Warnung: Das Projekt %1 wurde metrisch eingegeben; seine Maße werden in Zentimetern geschrieben. Verwenden Sie --metric, um sie zu lesen.</translation>
+    </message>
+    <message>
+        <source>Warning: the rooms of %1 have no area; there is nothing to cut.</source>
+        <translation>Warnung: Die Räume mit %1 haben keine Fläche; es gibt nichts zuzuschneiden.</translation>
+    </message>
+    <message>
+        <source>Waste</source>
+        <translation>Verschnitt</translation>
+    </message>
+    <message>
+        <source>Waste %</source>
+        <translation>Verschnitt %</translation>
+    </message>
+    <message>
+        <source>What another program put there, left out</source>
+        <translation>Was ein anderes Programm dort ablegte, ausgelassen</translation>
+    </message>
+    <message>
+        <source>What else the project needs</source>
+        <translation>Was das Projekt sonst braucht</translation>
+    </message>
+    <message>
+        <source>What to buy</source>
+        <translation>Einkauf</translation>
+    </message>
+    <message>
+        <source>What was there is kept as %1.</source>
+        <translation>Was dort war, wird als %1 aufbewahrt.</translation>
+    </message>
+    <message>
+        <source>Which</source>
+        <translation>Welches</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>Breite</translation>
+    </message>
+    <message>
+        <source>Width and length are empty and count as 0.</source>
+        <translation>Breite und Länge sind leer und zählen als 0.</translation>
+    </message>
+    <message>
+        <source>Width of the roll: 12ft, 13.5ft, 12ft6in, 150in or 366cm</source>
+        <translation>Breite der Rolle: 12ft, 13.5ft, 12ft6in, 150in oder 366cm</translation>
+    </message>
+    <message>
+        <source>With an unknown covering, not estimated until one is chosen</source>
+        <translation>Mit unbekanntem Belag, nicht berechnet, bis einer gewählt wird</translation>
+    </message>
+    <message>
+        <source>With an unknown wall base, shown as none</source>
+        <translation>Mit unbekanntem Sockel, als keiner gezeigt</translation>
+    </message>
+    <message>
+        <source>Without a covering, read as %1</source>
+        <translation>Ohne Belag, gelesen als %1</translation>
+    </message>
+    <message>
+        <source>Without a room number, read as</source>
+        <translation>Ohne Raumnummer, gelesen als</translation>
+    </message>
+    <message>
+        <source>Without a wall base, read as none</source>
+        <translation>Ohne Sockel, gelesen als keiner</translation>
+    </message>
+    <message>
+        <source>Without a width or a length, read as 0</source>
+        <translation>Ohne Breite oder Länge, gelesen als 0</translation>
+    </message>
+    <message>
+        <source>Write a clean copy of all that can be read</source>
+        <translation>Eine saubere Kopie von allem Lesbaren schreiben</translation>
+    </message>
+    <message>
+        <source>Write a project&apos;s rooms as CSV</source>
+        <translation>Die Räume eines Projekts als CSV schreiben</translation>
+    </message>
+    <message>
+        <source>Write comparison and list as text (on standard output when no other output is asked for)</source>
+        <translation>Vergleich und Liste als Text schreiben (in die Standardausgabe, wenn keine andere Ausgabe verlangt ist)</translation>
+    </message>
+    <message>
+        <source>Write comparison and pieces as CSV</source>
+        <translation>Vergleich und Stücke als CSV schreiben</translation>
+    </message>
+    <message>
+        <source>Write comparison and pieces as a spreadsheet</source>
+        <translation>Vergleich und Stücke als Tabelle (XLSX) schreiben</translation>
+    </message>
+    <message>
+        <source>Write cuts, pieces and totals as JSON</source>
+        <translation>Bahnen, Stücke und Summen als JSON schreiben</translation>
+    </message>
+    <message>
+        <source>Write it as CSV instead</source>
+        <translation>Ihn stattdessen als CSV schreiben</translation>
+    </message>
+    <message>
+        <source>Write it as a spreadsheet instead</source>
+        <translation>Ihn stattdessen als Tabelle (XLSX) schreiben</translation>
+    </message>
+    <message>
+        <source>Write over a database too, and where a symbolic link leads</source>
+        <translation>Auch über eine Datenbank schreiben, und dorthin, wohin eine Verknüpfung führt</translation>
+    </message>
+    <message>
+        <source>Write requests, comparison and pieces as JSON</source>
+        <translation>Vorgaben, Vergleich und Stücke als JSON schreiben</translation>
+    </message>
+    <message>
+        <source>Write the cut list to FILE, or to standard output for - (done when no other output is asked for)</source>
+        <translation>Die Zuschnittliste nach FILE schreiben, bei - in die Standardausgabe (so, wenn keine andere Ausgabe verlangt ist)</translation>
+    </message>
+    <message>
+        <source>Write the drawing of the layout with the cut list</source>
+        <translation>Die Zeichnung der Anordnung mit der Zuschnittliste schreiben</translation>
+    </message>
+    <message>
+        <source>Write the page that the program prints, for the paper of the default printer (A4 without one)</source>
+        <translation>Die Seite schreiben, die das Programm druckt, für das Papier des Standarddruckers (ohne einen A4)</translation>
+    </message>
+    <message>
+        <source>Write the pages of one carpet&apos;s sheet below each other as a drawing (with --carpet when there are several)</source>
+        <translation>Die Seiten des Blatts eines Teppichbodens untereinander als Zeichnung schreiben (mit --carpet, wenn es mehrere gibt)</translation>
+    </message>
+    <message>
+        <source>Write the roll of one carpet&apos;s best row true to size for a plotter or cutting table, along X, in inches (centimetres with --metric)</source>
+        <translation>Die Rolle der besten Zeile eines Teppichbodens maßstäblich für einen Plotter oder Schneidetisch schreiben, entlang X, in Zoll (mit --metric in Zentimetern)</translation>
+    </message>
+    <message>
+        <source>Write the sheet to buy and cut by, of all carpets, as it is printed; A4 unless the printer has another paper</source>
+        <translation>Das Bestell- und Zuschnittblatt aller Teppichböden schreiben, wie es gedruckt wird; A4, wenn der Drucker kein anderes Papier hat</translation>
+    </message>
+    <message>
+        <source>Write the whole roll, cuts and fills, true to size for a plotter or cutting table, along X, in inches (centimetres with --metric)</source>
+        <translation>Die ganze Rolle, Bahnen und Füllstücke, maßstäblich für einen Plotter oder Schneidetisch schreiben, entlang X, in Zoll (mit --metric in Zentimetern)</translation>
+    </message>
+    <message>
+        <source>Write them as a spreadsheet, with the totals by covering</source>
+        <translation>Sie als Tabelle (XLSX) schreiben, mit den Summen je Belag</translation>
+    </message>
+    <message>
+        <source>You should enter L or W with 1 or 2 to be calculated</source>
+        <translation>Geben Sie L oder W mit 1 oder 2 ein, um zu rechnen</translation>
+    </message>
+    <message>
+        <source>Zoom: + and −, or Ctrl and wheel.  0: actual size.  Double click: everything.</source>
+        <translation>Zoom: + und −, oder Strg und Mausrad.  0: wahre Größe.  Doppelklick: alles.</translation>
+    </message>
+    <message>
+        <source>a PDF document</source>
+        <translation>ein PDF-Dokument</translation>
+    </message>
+    <message>
+        <source>a column has no name</source>
+        <translation>eine Spalte hat keinen Namen</translation>
+    </message>
+    <message>
+        <source>a part of it is missing</source>
+        <translation>ein Stück von ihr fehlt</translation>
+    </message>
+    <message>
+        <source>a refused row has figures</source>
+        <translation>eine abgelehnte Zeile hat Werte</translation>
+    </message>
+    <message>
+        <source>a room that was being typed</source>
+        <translation>ein Raum, der gerade eingegeben wurde</translation>
+    </message>
+    <message>
+        <source>an Excel workbook (XLSX)</source>
+        <translation>eine Excel-Arbeitsmappe (XLSX)</translation>
+    </message>
+    <message>
+        <source>an archive (ZIP), as spreadsheets such as XLSX and ODS are</source>
+        <translation>ein Archiv (ZIP), wie es Tabellen im Format XLSX oder ODS sind</translation>
+    </message>
+    <message>
+        <source>an older Excel workbook (XLS) or another Office file</source>
+        <translation>eine ältere Excel-Arbeitsmappe (XLS) oder eine andere Office-Datei</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>und %1 weitere</translation>
+    </message>
+    <message numerus="yes">
+        <source>and %n more mistake</source>
+        <comment>and %n more mistakes</comment>
+        <translation>
+            <numerusform>und %n weiterer Fehler</numerusform>
+            <numerusform>und %n weitere Fehler</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>another program is using the database. Close that program and try again.</source>
+        <translation>Ein anderes Programm benutzt die Datenbank. Schließen Sie es und versuchen Sie es noch einmal.</translation>
+    </message>
+    <message>
+        <source>at most %1 above the least possible</source>
+        <translation>höchstens %1 länger als kürzestmöglich</translation>
+    </message>
+    <message>
+        <source>at most %1, none shorter than %2</source>
+        <translation>höchstens %1, keiner kürzer als %2</translation>
+    </message>
+    <message>
+        <source>at most %1, none shorter than %2, of rooms too</source>
+        <translation>höchstens %1, keiner kürzer als %2, auch bei Räumen</translation>
+    </message>
+    <message>
+        <source>beside %1</source>
+        <translation>neben %1</translation>
+    </message>
+    <message>
+        <source>best</source>
+        <translation>am besten</translation>
+    </message>
+    <message>
+        <source>can be laid instead of the layout shown.</source>
+        <translation>kann statt der gezeigten Anordnung gelegt werden.</translation>
+    </message>
+    <message>
+        <source>cannot be loaded: %1</source>
+        <translation>kann nicht geladen werden: %1</translation>
+    </message>
+    <message>
+        <source>cannot be read</source>
+        <translation>nicht lesbar</translation>
+    </message>
+    <message>
+        <source>change room %1</source>
+        <translation>Raum %1 ändern</translation>
+    </message>
+    <message>
+        <source>change rooms</source>
+        <translation>Räume ändern</translation>
+    </message>
+    <message>
+        <source>chosen</source>
+        <translation>gewählt</translation>
+    </message>
+    <message>
+        <source>column %1: the byte %2 is none of %3</source>
+        <translation>Zeichen %1: Das Byte %2 gibt es in %3 nicht</translation>
+    </message>
+    <message>
+        <source>cross: room lengths across the roll</source>
+        <translation>quer: Raumlängen quer zur Rolle</translation>
+    </message>
+    <message>
+        <source>delete room %1</source>
+        <translation>Raum %1 löschen</translation>
+    </message>
+    <message>
+        <source>down</source>
+        <translation>längs</translation>
+    </message>
+    <message>
+        <source>down: room widths across the roll</source>
+        <translation>längs: Raumbreiten quer zur Rolle</translation>
+    </message>
+    <message>
+        <source>down: room widths across the roll (default); cross: room lengths</source>
+        <translation>down: Raumbreiten quer zur Rolle (üblich); cross: Raumlängen</translation>
+    </message>
+    <message>
+        <source>down: room widths across the roll; cross: room lengths</source>
+        <translation>down: Raumbreiten quer zur Rolle; cross: Raumlängen</translation>
+    </message>
+    <message>
+        <source>drop %1 of %2</source>
+        <translation>Bahn %1 von %2</translation>
+    </message>
+    <message>
+        <source>either --database and --project, or --rooms is required</source>
+        <translation>entweder --database und --project oder --rooms ist erforderlich</translation>
+    </message>
+    <message>
+        <source>field</source>
+        <translation>ein Feld</translation>
+    </message>
+    <message>
+        <source>field &quot;%1&quot;</source>
+        <translation>Feld „%1“</translation>
+    </message>
+    <message>
+        <source>field %1 of %2</source>
+        <translation>Feld %1 von %2</translation>
+    </message>
+    <message>
+        <source>fills less than 0.1% shorter</source>
+        <translation>Füllstücke weniger als 0.1% kürzer</translation>
+    </message>
+    <message>
+        <source>has a paper jam</source>
+        <translation>hat einen Papierstau</translation>
+    </message>
+    <message>
+        <source>has an open cover</source>
+        <translation>hat eine offene Abdeckung</translation>
+    </message>
+    <message>
+        <source>has an open door</source>
+        <translation>hat eine offene Klappe</translation>
+    </message>
+    <message>
+        <source>has more than %1 characters</source>
+        <translation>hat mehr als %1 Zeichen</translation>
+    </message>
+    <message>
+        <source>holds U+FFFE or U+FFFF, which are no characters.</source>
+        <translation>enthält U+FFFE oder U+FFFF, die keine Zeichen sind.</translation>
+    </message>
+    <message>
+        <source>holds a character that no name may</source>
+        <translation>enthält ein Zeichen, das in keinem Namen stehen darf</translation>
+    </message>
+    <message>
+        <source>holds a line break or another control character.</source>
+        <translation>enthält einen Zeilenumbruch oder ein anderes Steuerzeichen.</translation>
+    </message>
+    <message>
+        <source>holds what no text may: a control character, U+FFFE, U+FFFF, or bytes that are not UTF-8</source>
+        <translation>enthält, was in keinem Text stehen darf: ein Steuerzeichen, U+FFFE, U+FFFF oder Bytes, die kein UTF-8 sind</translation>
+    </message>
+    <message>
+        <source>inches</source>
+        <translation>Zoll</translation>
+    </message>
+    <message>
+        <source>is no number above 0</source>
+        <translation>ist keine Zahl über 0</translation>
+    </message>
+    <message>
+        <source>is no text</source>
+        <translation>ist kein Text</translation>
+    </message>
+    <message>
+        <source>is no whole number from %1 to %2</source>
+        <translation>ist keine ganze Zahl von %1 bis %2</translation>
+    </message>
+    <message>
+        <source>is not UTF-8: the terminal that it was typed in writes another code.</source>
+        <translation>ist kein UTF-8: Das Terminal, in dem er eingegeben wurde, verwendet eine andere Kodierung.</translation>
+    </message>
+    <message>
+        <source>is not as names are stored: in upper case, without blanks at its ends</source>
+        <translation>ist nicht so, wie Namen gespeichert werden: in Großbuchstaben, ohne Leerzeichen an den Enden</translation>
+    </message>
+    <message>
+        <source>is out of ink or toner</source>
+        <translation>hat keine Tinte oder keinen Toner mehr</translation>
+    </message>
+    <message>
+        <source>is out of paper</source>
+        <translation>hat kein Papier mehr</translation>
+    </message>
+    <message>
+        <source>is out of toner</source>
+        <translation>hat keinen Toner mehr</translation>
+    </message>
+    <message>
+        <source>it cannot be moved into its folder, or another program made it meanwhile</source>
+        <translation>Sie kann nicht in ihren Ordner verschoben werden, oder ein anderes Programm hat sie inzwischen angelegt</translation>
+    </message>
+    <message>
+        <source>it is a device. Save what comes from it in a file and name that</source>
+        <translation>Sie ist ein Gerät. Speichern Sie in einer Datei, was daraus kommt, und nennen Sie diese</translation>
+    </message>
+    <message>
+        <source>it is a folder</source>
+        <translation>Sie ist ein Ordner</translation>
+    </message>
+    <message>
+        <source>it is a pipe. Save what comes from it in a file and name that</source>
+        <translation>Sie ist eine Pipe. Speichern Sie in einer Datei, was daraus kommt, und nennen Sie diese</translation>
+    </message>
+    <message>
+        <source>it is read-only</source>
+        <translation>Sie ist schreibgeschützt</translation>
+    </message>
+    <message>
+        <source>it is there already</source>
+        <translation>Sie ist schon da</translation>
+    </message>
+    <message>
+        <source>it is there already and stays as it is</source>
+        <translation>Sie ist schon da und bleibt, wie sie ist</translation>
+    </message>
+    <message>
+        <source>it must be a whole one.</source>
+        <translation>sie muss ganzzahlig sein.</translation>
+    </message>
+    <message>
+        <source>its folder cannot be made</source>
+        <translation>Ihr Ordner kann nicht angelegt werden</translation>
+    </message>
+    <message>
+        <source>its folder takes no files</source>
+        <translation>Ihr Ordner nimmt keine Dateien auf</translation>
+    </message>
+    <message>
+        <source>larger free end</source>
+        <translation>größeres freies Ende</translation>
+    </message>
+    <message>
+        <source>line %1: %2</source>
+        <translation>Zeile %1: %2</translation>
+    </message>
+    <message>
+        <source>not every strip is laid</source>
+        <translation>nicht jeder Streifen ist verlegt</translation>
+    </message>
+    <message>
+        <source>nothing reads from it</source>
+        <translation>Niemand liest daraus</translation>
+    </message>
+    <message>
+        <source>number %1 of %2</source>
+        <translation>Nummer %1 von %2</translation>
+    </message>
+    <message>
+        <source>number %1 of no name</source>
+        <translation>Nummer %1 ohne Namen</translation>
+    </message>
+    <message>
+        <source>one without a number</source>
+        <translation>eines ohne Nummer</translation>
+    </message>
+    <message>
+        <source>part %1 of %2</source>
+        <translation>Teil %1 von %2</translation>
+    </message>
+    <message>
+        <source>piece %1 belongs to no room</source>
+        <translation>Stück %1 gehört zu keinem Raum</translation>
+    </message>
+    <message>
+        <source>piece %1 does not begin where its strip does</source>
+        <translation>Stück %1 beginnt nicht dort, wo sein Streifen beginnt</translation>
+    </message>
+    <message>
+        <source>piece %1 does not know its strips</source>
+        <translation>Stück %1 kennt seine Streifen nicht</translation>
+    </message>
+    <message>
+        <source>piece %1 has no length</source>
+        <translation>Stück %1 hat keine Länge</translation>
+    </message>
+    <message>
+        <source>piece %1 is not as wide as its strip</source>
+        <translation>Stück %1 ist nicht so breit wie sein Streifen</translation>
+    </message>
+    <message>
+        <source>piece %1 is not on the roll</source>
+        <translation>Stück %1 liegt nicht auf der Rolle</translation>
+    </message>
+    <message>
+        <source>pieces %1 and %2 do not match across the roll</source>
+        <translation>die Stücke %1 und %2 passen quer zur Rolle nicht im Rapport</translation>
+    </message>
+    <message>
+        <source>pieces %1 and %2 do not match along the roll</source>
+        <translation>die Stücke %1 und %2 passen längs der Rolle nicht im Rapport</translation>
+    </message>
+    <message>
+        <source>pieces %1 and %2 overlap</source>
+        <translation>die Stücke %1 und %2 überlappen sich</translation>
+    </message>
+    <message>
+        <source>refused</source>
+        <translation>abgelehnt</translation>
+    </message>
+    <message>
+        <source>room %1 (%2)</source>
+        <translation>Raum %1 (%2)</translation>
+    </message>
+    <message>
+        <source>room %1: %2</source>
+        <translation>Raum %1: %2</translation>
+    </message>
+    <message>
+        <source>row %1</source>
+        <translation>Zeile %1</translation>
+    </message>
+    <message>
+        <source>something that is no file stands in its place</source>
+        <translation>An ihrer Stelle steht etwas, das keine Datei ist</translation>
+    </message>
+    <message>
+        <source>take back rooms of %1</source>
+        <translation>Räume vom %1 zurückholen</translation>
+    </message>
+    <message>
+        <source>the CSV</source>
+        <translation>die CSV-Datei</translation>
+    </message>
+    <message>
+        <source>the area bought is wrong</source>
+        <translation>die gekaufte Fläche ist falsch</translation>
+    </message>
+    <message>
+        <source>the area of the rooms is wrong</source>
+        <translation>die Fläche der Räume ist falsch</translation>
+    </message>
+    <message>
+        <source>the database file is damaged (%1). %2</source>
+        <translation>Die Datenbankdatei ist beschädigt (%1). %2</translation>
+    </message>
+    <message>
+        <source>the database is read-only. Allow writing to the file and to its folder.</source>
+        <translation>Die Datenbank ist schreibgeschützt. Erlauben Sie das Schreiben in die Datei und in ihren Ordner.</translation>
+    </message>
+    <message>
+        <source>the disk does not confirm that it keeps the change, which may be there all the same. Look whether it is.</source>
+        <translation>Der Datenträger bestätigt nicht, dass er die Änderung behält; sie kann trotzdem da sein. Sehen Sie nach.</translation>
+    </message>
+    <message>
+        <source>the disk is full. Free some space and try again.</source>
+        <translation>Der Datenträger ist voll. Schaffen Sie Platz und versuchen Sie es noch einmal.</translation>
+    </message>
+    <message>
+        <source>the disk reports an error (%1).</source>
+        <translation>Der Datenträger meldet einen Fehler (%1).</translation>
+    </message>
+    <message>
+        <source>the file is empty</source>
+        <translation>die Datei ist leer</translation>
+    </message>
+    <message>
+        <source>the folder &quot;%1&quot; cannot be named in it</source>
+        <translation>der Ordner „%1“ kann darin nicht genannt werden</translation>
+    </message>
+    <message>
+        <source>the greatest is %1.</source>
+        <translation>die größte ist %1.</translation>
+    </message>
+    <message>
+        <source>the labels are not in a row</source>
+        <translation>die Buchstaben sind nicht fortlaufend</translation>
+    </message>
+    <message>
+        <source>the least length is above the length needed</source>
+        <translation>die kürzestmögliche Länge ist größer als die benötigte</translation>
+    </message>
+    <message>
+        <source>the least possible</source>
+        <translation>kürzer geht es nicht</translation>
+    </message>
+    <message>
+        <source>the length needed is not the end of the last piece</source>
+        <translation>die benötigte Länge ist nicht das Ende des letzten Stücks</translation>
+    </message>
+    <message>
+        <source>the length to be ordered is wrong</source>
+        <translation>die zu bestellende Länge ist falsch</translation>
+    </message>
+    <message>
+        <source>the line has %1 columns; a room has %2</source>
+        <translation>die Zeile hat %1 Spalten; ein Raum hat %2</translation>
+    </message>
+    <message>
+        <source>the line has %1 fields and the header %2</source>
+        <translation>Felder in der Zeile: %1, in der Kopfzeile: %2</translation>
+    </message>
+    <message>
+        <source>the pieces are not in cutting order</source>
+        <translation>die Stücke stehen nicht in der Reihenfolge des Zuschnitts</translation>
+    </message>
+    <message>
+        <source>the price is missing or made up</source>
+        <translation>der Preis fehlt oder ist erfunden</translation>
+    </message>
+    <message>
+        <source>the price is wrong</source>
+        <translation>der Preis ist falsch</translation>
+    </message>
+    <message>
+        <source>the price must be a number of 0 or more.</source>
+        <translation>der Preis muss eine Zahl von 0 an sein.</translation>
+    </message>
+    <message>
+        <source>the project %1</source>
+        <translation>dem Projekt %1</translation>
+    </message>
+    <message>
+        <source>the projects %1</source>
+        <translation>den Projekten %1</translation>
+    </message>
+    <message>
+        <source>the roll&apos;s width is not its whole units</source>
+        <translation>die Rollenbreite ist nicht in ganzen Einheiten</translation>
+    </message>
+    <message>
+        <source>the rows are not in their order</source>
+        <translation>die Zeilen stehen nicht in ihrer Reihenfolge</translation>
+    </message>
+    <message>
+        <source>the same way on all pieces: see the arrows</source>
+        <translation>auf allen Stücken in derselben Richtung: siehe Pfeile</translation>
+    </message>
+    <message>
+        <source>the seams or joins are not counted right</source>
+        <translation>die Nähte sind nicht richtig gezählt</translation>
+    </message>
+    <message>
+        <source>the strip of piece %1 does not have its parts numbered</source>
+        <translation>die Teile des Streifens von Stück %1 sind nicht nummeriert</translation>
+    </message>
+    <message>
+        <source>the strip of piece %1 has a part that is too short</source>
+        <translation>der Streifen von Stück %1 hat ein zu kurzes Teil</translation>
+    </message>
+    <message>
+        <source>the strip of piece %1 has parts that do not follow each other</source>
+        <translation>die Teile des Streifens von Stück %1 folgen nicht aufeinander</translation>
+    </message>
+    <message>
+        <source>the strip of piece %1 has too many parts</source>
+        <translation>der Streifen von Stück %1 hat zu viele Teile</translation>
+    </message>
+    <message>
+        <source>the strip of piece %1 is not laid whole</source>
+        <translation>der Streifen von Stück %1 ist nicht ganz verlegt</translation>
+    </message>
+    <message>
+        <source>the text has more than %1 MB</source>
+        <translation>der Text hat mehr als %1 MB</translation>
+    </message>
+    <message>
+        <source>the usable width is not what the selvage leaves</source>
+        <translation>die nutzbare Breite ist nicht, was die Webkante übrig lässt</translation>
+    </message>
+    <message>
+        <source>the waste is wrong</source>
+        <translation>der Verschnitt ist falsch</translation>
+    </message>
+    <message numerus="yes">
+        <source>there are no headings, and %n column: without headings they are %1, of which the first %2 are needed</source>
+        <comment>there are no headings, and %n columns: without headings they are %1, of which the first %2 are needed</comment>
+        <translation>
+            <numerusform>es gibt keine Überschriften und nur %n Spalte: Ohne Überschriften sind es %1, von denen die ersten %2 erforderlich sind</numerusform>
+            <numerusform>es gibt keine Überschriften und %n Spalten: Ohne Überschriften sind es %1, von denen die ersten %2 erforderlich sind</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>there is no text to paste</source>
+        <translation>es gibt keinen Text zum Einfügen</translation>
+    </message>
+    <message>
+        <source>there is not a row for each roll and lay</source>
+        <translation>es gibt nicht für jede Rolle und Verlegung eine Zeile</translation>
+    </message>
+    <message>
+        <source>this one is %1</source>
+        <translation>für diese gilt: %1</translation>
+    </message>
+    <message>
+        <source>write the repeat across and along, as 18x24.</source>
+        <translation>schreiben Sie den Rapport quer und längs, wie 18x24.</translation>
     </message>
     <message>
         <location filename="../src/base/RunTimeError.cpp"/>
@@ -463,6 +3639,21 @@
         <location filename="../src/files/RollDxf.cpp"/>
         <source>There is no roll to draw: every roll and lay is refused.</source>
         <translation>Es gibt keine Rolle zu zeichnen: Jede Rolle und Verlegung ist abgelehnt.</translation>
+    </message>
+    <message>
+        <location filename="../src/files/RoomCsv.cpp"/>
+        <source>%1 has a comma: write %2, or %3</source>
+        <translation>%1 hat ein Komma: Schreiben Sie %2 oder %3</translation>
+    </message>
+    <message>
+        <location filename="../src/files/RoomCsv.cpp"/>
+        <source>column &quot;%1&quot;</source>
+        <translation>Spalte „%1“</translation>
+    </message>
+    <message>
+        <location filename="../src/files/RoomCsv.cpp"/>
+        <source>the file is %1; open it in a spreadsheet and save it as CSV</source>
+        <translation>die Datei ist %1; öffnen Sie sie in einer Tabellenkalkulation und speichern Sie sie als CSV</translation>
     </message>
     <message>
         <location filename="../src/files/Spreadsheet.cpp"/>
@@ -4347,14 +7538,9 @@ Bei Nein wird nichts angelegt, und das Programm endet.</translation>
         <translation>Die Datenbankdatei %1 kann nicht durchgesehen werden: Der Ordner für temporäre Dateien nimmt keine auf.</translation>
     </message>
     <message>
-        <location filename="../src/tools/CareCommands.cpp"/>
-        <source>%1, see tarn-data check</source>
-        <translation>%1, siehe tarn-data check</translation>
-    </message>
-    <message>
-        <location filename="../src/tools/CareCommands.cpp"/>
-        <source>%1, sound</source>
-        <translation>%1, einwandfrei</translation>
+        <location filename="../src/tools/ArgumentErrors.cpp"/>
+        <source>A subcommand is required</source>
+        <translation>Ein Befehl ist erforderlich</translation>
     </message>
     <message numerus="yes">
         <location filename="../src/tools/CareCommands.cpp"/>
@@ -4504,6 +7690,11 @@ Bei Nein wird nichts angelegt, und das Programm endet.</translation>
         <location filename="../src/tools/DataOptions.cpp"/>
         <source>Make and look after the data of the estimating program.</source>
         <translation>Die Daten des Kalkulationsprogramms anlegen und pflegen.</translation>
+    </message>
+    <message>
+        <location filename="../src/tools/DataOptions.cpp"/>
+        <source>Subcommands</source>
+        <translation>Befehle</translation>
     </message>
     <message>
         <location filename="../src/tools/DataOptions.cpp"/>

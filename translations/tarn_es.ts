@@ -4,7 +4,900 @@
 <context>
     <name>tarn</name>
     <message>
-        <location filename="../src/base/RunTimeError.cpp"/>
+        <source>   No.      WIDTH   LENGTH      Yrds     /TILE   BASE     LENGTH     No.       REMARK</source>
+        <translation>   N.º      ANCHO   LARGO       yd²      TIPO    RODAPIÉ  LARGO      N.º       NOTA</translation>
+    </message>
+    <message>
+        <source>   No.      WIDTH   LENGTH     METERS    /TILE   BASE     LENGTH     No.       REMARK</source>
+        <translation>   N.º      ANCHO   LARGO       m²       TIPO    RODAPIÉ  LARGO      N.º       NOTA</translation>
+    </message>
+    <message>
+        <source> CURRENT SETTING</source>
+        <translation> SELECCIÓN ACTUAL</translation>
+    </message>
+    <message>
+        <source>%1  (at %2, %3 across)</source>
+        <translation>%1  (en %2, %3 de través)</translation>
+    </message>
+    <message>
+        <source>%1 &quot;%2&quot;</source>
+        <translation>%1 «%2»</translation>
+    </message>
+    <message>
+        <source>%1 % of what is bought</source>
+        <translation>%1 % de lo comprado</translation>
+    </message>
+    <message>
+        <source>%1 The database is made all the same. Write %2 yourself: the line %3, and in the next one its folder.</source>
+        <translation>%1 La base de datos está creada de todos modos. Escriba %2 usted mismo: la línea %3 y, en la siguiente, su carpeta.</translation>
+    </message>
+    <message>
+        <source>%1 The new file may be there all the same.</source>
+        <translation>%1 El archivo nuevo puede estar ahí de todos modos.</translation>
+    </message>
+    <message>
+        <source>%1 Use --roll.</source>
+        <translation>%1 Use --roll.</translation>
+    </message>
+    <message>
+        <source>%1 across, %2 along, half drop; drift %3</source>
+        <translation>%1 a lo ancho, %2 a lo largo, medio salto; deriva %3</translation>
+    </message>
+    <message>
+        <source>%1 across, %2 along; drift %3</source>
+        <translation>%1 a lo ancho, %2 a lo largo; deriva %3</translation>
+    </message>
+    <message>
+        <source>%1 along, %2 across; part of the sizes</source>
+        <translation>%1 a lo largo, %2 a lo ancho; incluida en las medidas</translation>
+    </message>
+    <message>
+        <source>%1 and %2 cannot both go to %3</source>
+        <translation>%1 y %2 no pueden ir los dos a %3</translation>
+    </message>
+    <message>
+        <source>%1 and %2 cannot both go to standard output</source>
+        <translation>%1 y %2 no pueden ir los dos a la salida estándar</translation>
+    </message>
+    <message>
+        <source>%1 appears twice</source>
+        <translation>%1 aparece dos veces</translation>
+    </message>
+    <message>
+        <source>%1 became &quot;%2&quot;</source>
+        <translation>%1 pasó a ser «%2»</translation>
+    </message>
+    <message>
+        <source>%1 cannot be changed</source>
+        <translation>%1 no se puede modificar</translation>
+    </message>
+    <message>
+        <source>%1 cannot be deleted from: it is a view and no table.</source>
+        <translation>No se puede borrar de %1: es una vista y no una tabla.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be given the field %2</source>
+        <translation>A %1 no se le puede añadir el campo %2</translation>
+    </message>
+    <message>
+        <source>%1 cannot match: its fill of %2 has no place across the roll&apos;s usable width of %3 by the repeat of %4.</source>
+        <translation>%1 no puede casar: su relleno de %2 no tiene sitio en el ancho útil de %3 con el rapport de %4.</translation>
+    </message>
+    <message>
+        <source>%1 cannot match: the roll&apos;s usable width of %2 is not a whole number of repeats of %3 across.</source>
+        <translation>%1 no puede casar: el ancho útil del rollo de %2 no es un número entero de rapports de %3 a lo ancho.</translation>
+    </message>
+    <message>
+        <source>%1 excludes %2</source>
+        <translation>%1 excluye %2</translation>
+    </message>
+    <message>
+        <source>%1 feet</source>
+        <translation>%1 pies</translation>
+    </message>
+    <message>
+        <source>%1 has a decimal comma: write %2</source>
+        <translation>%1 tiene una coma decimal: escriba %2</translation>
+    </message>
+    <message>
+        <source>%1 has a decimal comma: write %2 below a heading with its unit, such as %3</source>
+        <translation>%1 tiene una coma decimal: escriba %2 bajo un encabezado con su unidad, como %3</translation>
+    </message>
+    <message>
+        <source>%1 has a quote that is never closed</source>
+        <translation>%1 tiene unas comillas que nunca se cierran</translation>
+    </message>
+    <message>
+        <source>%1 has a unit in which no size is read; give the sizes in ft, in, m or cm</source>
+        <translation>%1 tiene una unidad en la que no se leen medidas; dé las medidas en ft, in, m o cm</translation>
+    </message>
+    <message>
+        <source>%1 has more than %2 characters</source>
+        <translation>%1 tiene más de %2 caracteres</translation>
+    </message>
+    <message>
+        <source>%1 has text behind its closing quote</source>
+        <translation>%1 tiene texto tras las comillas de cierre</translation>
+    </message>
+    <message>
+        <source>%1 holds U+FFFE or U+FFFF, which are no characters; leave them out</source>
+        <translation>%1 contiene U+FFFE o U+FFFF, que no son caracteres; quítelos</translation>
+    </message>
+    <message>
+        <source>%1 holds a line break or another control character; write it in one line</source>
+        <translation>%1 contiene un salto de línea u otro carácter de control; escríbalo en una sola línea</translation>
+    </message>
+    <message>
+        <source>%1 in %2</source>
+        <translation>%1 en %2</translation>
+    </message>
+    <message>
+        <source>%1 in %2 %3</source>
+        <translation>%1 en %2 %3</translation>
+    </message>
+    <message>
+        <source>%1 in one length without a join</source>
+        <translation>%1 en una sola pieza sin empalme</translation>
+    </message>
+    <message>
+        <source>%1 inch</source>
+        <translation>%1 pulgada</translation>
+    </message>
+    <message>
+        <source>%1 inches or more (%2 with --metric)</source>
+        <translation>%1 pulgadas o más (%2 con --metric)</translation>
+    </message>
+    <message>
+        <source>%1 is a whole length: empty the field beside it</source>
+        <translation>%1 es una medida completa: vacíe el campo de al lado</translation>
+    </message>
+    <message>
+        <source>%1 is dropped: for %2 type %3</source>
+        <translation>%1 se omite: para %2 escriba %3</translation>
+    </message>
+    <message>
+        <source>%1 is in feet or inches, and the rooms are read in metric; read them without metric</source>
+        <translation>%1 está en pies o pulgadas y las estancias se leen en métrico; léalas sin métrico</translation>
+    </message>
+    <message>
+        <source>%1 is in metric, and the rooms are read in feet and inches; read them with metric</source>
+        <translation>%1 está en métrico y las estancias se leen en pies y pulgadas; léalas en métrico</translation>
+    </message>
+    <message>
+        <source>%1 is kept as %2</source>
+        <translation>%1 se guarda como %2</translation>
+    </message>
+    <message>
+        <source>%1 is missing</source>
+        <translation>falta %1</translation>
+    </message>
+    <message>
+        <source>%1 is negative</source>
+        <translation>%1 es una medida negativa</translation>
+    </message>
+    <message>
+        <source>%1 is not a covering: %2 to %3, %4 to %5, or short as %6 or %7</source>
+        <translation>%1 no es un revestimiento: de %2 a %3, de %4 a %5, o abreviado como %6 o %7</translation>
+    </message>
+    <message>
+        <source>%1 is not a number above 0</source>
+        <translation>%1 no es un número mayor que 0</translation>
+    </message>
+    <message>
+        <source>%1 is not a size in whole centimetres</source>
+        <translation>%1 no es una medida en centímetros enteros</translation>
+    </message>
+    <message>
+        <source>%1 is not a size in whole inches, or in feet and inches such as 12&apos;6&quot;</source>
+        <translation>%1 no es una medida en pulgadas enteras, ni en pies y pulgadas como 12&apos;6&quot;</translation>
+    </message>
+    <message>
+        <source>%1 is not a size such as 12.5 or 12&apos;6&quot;</source>
+        <translation>%1 no es una medida como 12.5 o 12&apos;6&quot;</translation>
+    </message>
+    <message>
+        <source>%1 is not a size such as 3.45 or 3.45m</source>
+        <translation>%1 no es una medida como 3.45 o 3.45m</translation>
+    </message>
+    <message>
+        <source>%1 is not a wall base: L or W with 1 or 2, such as %2</source>
+        <translation>%1 no es un rodapié: L o W con 1 o 2, como %2</translation>
+    </message>
+    <message>
+        <source>%1 is not taken: type it like 3.66, 3.66m or 366cm</source>
+        <translation>%1 no se entiende: escriba como 3.66, 3.66m o 366cm</translation>
+    </message>
+    <message>
+        <source>%1 is not taken: type it like 6.5, 6 1/2&quot; or 12&apos;6&quot;</source>
+        <translation>%1 no se entiende: escriba como 6.5, 6 1/2&quot; o 12&apos;6&quot;</translation>
+    </message>
+    <message>
+        <source>%1 is not valid UTF-8; save it as UTF-8 (&quot;CSV UTF-8&quot; in a spreadsheet)</source>
+        <translation>%1 no es UTF-8 válido; guarde el archivo como UTF-8 («CSV UTF-8» en una hoja de cálculo)</translation>
+    </message>
+    <message>
+        <source>%1 is refused: %2</source>
+        <translation>%1 se rechaza: %2</translation>
+    </message>
+    <message>
+        <source>%1 is required</source>
+        <translation>%1 es obligatorio</translation>
+    </message>
+    <message>
+        <source>%1 is too large: a size is at most %2</source>
+        <translation>%1 es demasiado grande: una medida es %2 como máximo</translation>
+    </message>
+    <message>
+        <source>%1 is unknown</source>
+        <translation>no se conoce %1</translation>
+    </message>
+    <message>
+        <source>%1 must be whole centimetres: give it, and the rooms, in the units of the pattern.</source>
+        <translation>%1 debe darse en centímetros enteros: indique el rapport y las estancias en las unidades del dibujo.</translation>
+    </message>
+    <message>
+        <source>%1 must be whole inches: give it, and the rooms, in the units of the pattern.</source>
+        <translation>%1 debe darse en pulgadas enteras: indique el rapport y las estancias en las unidades del dibujo.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 and %3</source>
+        <translation>%1 de %2 y %3</translation>
+    </message>
+    <message>
+        <source>%1 on %2</source>
+        <translation>%1 en %2</translation>
+    </message>
+    <message>
+        <source>%1 on from %2</source>
+        <translation>%1 después de %2</translation>
+    </message>
+    <message>
+        <source>%1 or %2</source>
+        <translation>%1 o %2</translation>
+    </message>
+    <message>
+        <source>%1 requires %2</source>
+        <translation>%1 necesita %2</translation>
+    </message>
+    <message>
+        <source>%1 sq. ft.</source>
+        <translation>%1 ft²</translation>
+    </message>
+    <message>
+        <source>%1 under the number %2</source>
+        <translation>%1 con el número %2</translation>
+    </message>
+    <message>
+        <source>%1 with parts of at least %2</source>
+        <translation>%1 con tramos de al menos %2</translation>
+    </message>
+    <message>
+        <source>%1, all %2</source>
+        <translation>%1, las %2</translation>
+    </message>
+    <message>
+        <source>%1, behind row %2</source>
+        <translation>%1, tras la fila %2</translation>
+    </message>
+    <message>
+        <source>%1, from the first row on</source>
+        <translation>%1, desde la primera fila</translation>
+    </message>
+    <message>
+        <source>%1, least possible %2</source>
+        <translation>%1, mínimo posible %2</translation>
+    </message>
+    <message>
+        <source>%1, now %2 in %3</source>
+        <translation>%1, ahora %2 en %3</translation>
+    </message>
+    <message>
+        <source>%1, row %2 (%3)</source>
+        <translation>%1, fila %2 (%3)</translation>
+    </message>
+    <message>
+        <source>%1, row %2 (%3, a second time)</source>
+        <translation>%1, fila %2 (%3, por segunda vez)</translation>
+    </message>
+    <message>
+        <source>%1, see tarn-data check</source>
+        <translation>%1, vea tarn-data check</translation>
+    </message>
+    <message>
+        <source>%1, sound</source>
+        <translation>%1, correcta</translation>
+    </message>
+    <message>
+        <source>%1, the least possible</source>
+        <translation>%1, el mínimo posible</translation>
+    </message>
+    <message>
+        <source>%1, without the selvage of %2 on each side</source>
+        <translation>%1, sin el orillo de %2 a cada lado</translation>
+    </message>
+    <message>
+        <source>%1. The new file may be there all the same</source>
+        <translation>%1. El archivo nuevo puede estar ahí de todos modos</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1: %2  %3  %4 to %5</source>
+        <translation>%1: %2  %3  %4 a %5</translation>
+    </message>
+    <message>
+        <source>%1: %2  %3  %4 to %5, across %6</source>
+        <translation>%1: %2  %3  %4 a %5, de través %6</translation>
+    </message>
+    <message>
+        <source>%1: %2 %3 became %4</source>
+        <translation>%1: %2 %3 pasó a ser %4</translation>
+    </message>
+    <message>
+        <source>%1: %2 more.</source>
+        <translation>%1: %2 más.</translation>
+    </message>
+    <message>
+        <source>%1: %2 not in %3</source>
+        <translation>%1: %2 no es ninguno de %3</translation>
+    </message>
+    <message>
+        <source>%1: %2 required %3 missing</source>
+        <translation>%1: falta %3 (necesarios: %2)</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: %n room.</source>
+        <comment>%1: %n rooms.</comment>
+        <translation>
+            <numerusform>%1: %n estancia.</numerusform>
+            <numerusform>%1: %n estancias.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1: At Most %2 required but received %3</source>
+        <translation>%1: se admite %2 como máximo y hay %3</translation>
+    </message>
+    <message>
+        <source>%1: Value %2 not in range %3 to %4</source>
+        <translation>%1: el valor %2 no está entre %3 y %4</translation>
+    </message>
+    <message>
+        <source>%1: the database keeps a row as it was.</source>
+        <translation>%1: la base de datos deja una fila como estaba.</translation>
+    </message>
+    <message>
+        <source>%1: the database leaves it out.</source>
+        <translation>%1: la base de datos la omite.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n join fewer</source>
+        <comment>%n joins fewer</comment>
+        <translation>
+            <numerusform>%n empalme menos</numerusform>
+            <numerusform>%n empalmes menos</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n kilobyte</source>
+        <comment>%n kilobytes</comment>
+        <translation>
+            <numerusform>%n kilobyte</numerusform>
+            <numerusform>%n kilobytes</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n repeat</source>
+        <comment>%n repeats</comment>
+        <translation>
+            <numerusform>%n rapport</numerusform>
+            <numerusform>%n rapports</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n room</source>
+        <comment>%n rooms</comment>
+        <translation>
+            <numerusform>%n estancia</numerusform>
+            <numerusform>%n estancias</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;ABOUT</source>
+        <translation>&amp;ACERCA DE</translation>
+    </message>
+    <message>
+        <source>&amp;About</source>
+        <translation>&amp;Acerca de</translation>
+    </message>
+    <message>
+        <source>&amp;BACK</source>
+        <translation>&amp;VOLVER</translation>
+    </message>
+    <message>
+        <source>&amp;BACKWARD</source>
+        <translation>&amp;ATRÁS</translation>
+    </message>
+    <message>
+        <source>&amp;CANCEL</source>
+        <translation>&amp;CANCELAR</translation>
+    </message>
+    <message>
+        <source>&amp;CARPET</source>
+        <translation>&amp;MOQUETA</translation>
+    </message>
+    <message>
+        <source>&amp;CLOSE</source>
+        <translation>&amp;CERRAR</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Cerrar</translation>
+    </message>
+    <message>
+        <source>&amp;Continue</source>
+        <translation>&amp;Continuar</translation>
+    </message>
+    <message>
+        <source>&amp;DELETE </source>
+        <translation>&amp;BORRAR </translation>
+    </message>
+    <message>
+        <source>&amp;DIRECTORIES</source>
+        <translation>&amp;DIRECTORIOS</translation>
+    </message>
+    <message>
+        <source>&amp;DOWN LAY</source>
+        <translation>A LO &amp;LARGO</translation>
+    </message>
+    <message>
+        <source>&amp;ESTIMATE</source>
+        <translation>CALC&amp;ULAR</translation>
+    </message>
+    <message>
+        <source>&amp;EXIT</source>
+        <translation>C&amp;ERRAR</translation>
+    </message>
+    <message>
+        <source>&amp;FEET</source>
+        <translation>P&amp;IES</translation>
+    </message>
+    <message>
+        <source>&amp;FIND NEXT</source>
+        <translation>&amp;BUSCAR SIGUIENTE</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Archivo</translation>
+    </message>
+    <message>
+        <source>&amp;Guide</source>
+        <translation>&amp;Guía</translation>
+    </message>
+    <message>
+        <source>&amp;JOIN ROOMS NO WIDER THAN THE ROLL</source>
+        <translation>PARTIR ESTA&amp;NCIAS QUE CABEN EN EL ROLLO</translation>
+    </message>
+    <message>
+        <source>&amp;Language</source>
+        <translation>&amp;Idioma</translation>
+    </message>
+    <message>
+        <source>&amp;MATCH PATTERN</source>
+        <translation>CASAR DIBU&amp;JO</translation>
+    </message>
+    <message>
+        <source>&amp;Metric</source>
+        <translation>&amp;Métrico</translation>
+    </message>
+    <message>
+        <source>&amp;NEW PROJECT</source>
+        <translation>&amp;NUEVO PROYECTO</translation>
+    </message>
+    <message>
+        <source>&amp;No</source>
+        <translation>&amp;No</translation>
+    </message>
+    <message>
+        <source>&amp;OK</source>
+        <translation>O&amp;K</translation>
+    </message>
+    <message>
+        <source>&amp;PARTS AT MOST</source>
+        <translation>TRAMOS MÁ&amp;XIMO</translation>
+    </message>
+    <message>
+        <source>&amp;PASTE CUTS</source>
+        <translation>PEGAR LIS&amp;TA</translation>
+    </message>
+    <message>
+        <source>&amp;PREVIOUS ROOM</source>
+        <translation>A&amp;NTERIOR</translation>
+    </message>
+    <message>
+        <source>&amp;PROJECTS</source>
+        <translation>&amp;PROYECTOS</translation>
+    </message>
+    <message>
+        <source>&amp;REDRAW</source>
+        <translation>REDI&amp;BUJAR</translation>
+    </message>
+    <message>
+        <source>&amp;REPORT</source>
+        <translation>&amp;INFORME</translation>
+    </message>
+    <message>
+        <source>&amp;ROLLS</source>
+        <translation>&amp;ROLLOS</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Rehacer</translation>
+    </message>
+    <message>
+        <source>&amp;Redo %1</source>
+        <translation>&amp;Rehacer: %1</translation>
+    </message>
+    <message>
+        <source>&amp;SAVE</source>
+        <translation>&amp;GUARDAR</translation>
+    </message>
+    <message>
+        <source>&amp;SAVE AS</source>
+        <translation>&amp;GUARDAR COMO</translation>
+    </message>
+    <message>
+        <source>&amp;SELECT PROJECT</source>
+        <translation>ELE&amp;GIR PROYECTO</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Guardar</translation>
+    </message>
+    <message>
+        <source>&amp;TAKE BACK ORDER OF %1</source>
+        <translation>&amp;RECUPERAR PEDIDO DEL %1</translation>
+    </message>
+    <message>
+        <source>&amp;TAKE BACK ROOMS OF %1</source>
+        <translation>&amp;RECUPERAR ESTANCIAS DEL %1</translation>
+    </message>
+    <message>
+        <source>&amp;Undo %1</source>
+        <translation>&amp;Deshacer: %1</translation>
+    </message>
+    <message>
+        <source>&amp;WIDTH:</source>
+        <translation>A&amp;NCHO:</translation>
+    </message>
+    <message>
+        <source>&amp;WORD</source>
+        <translation>&amp;PALABRA</translation>
+    </message>
+    <message>
+        <source>&amp;Yes</source>
+        <translation>&amp;Sí</translation>
+    </message>
+    <message>
+        <source>1/2FT</source>
+        <translation>1/2 PIE</translation>
+    </message>
+    <message>
+        <source>15 cm</source>
+        <translation>15 cm</translation>
+    </message>
+    <message>
+        <source>1FT 6&quot;</source>
+        <translation>1 PIE 6&quot;</translation>
+    </message>
+    <message>
+        <source>46 cm</source>
+        <translation>46 cm</translation>
+    </message>
+    <message>
+        <source>91 cm</source>
+        <translation>91 cm</translation>
+    </message>
+    <message>
+        <source>A change that a crash cut off is taken back.</source>
+        <translation>Se deshace un cambio que quedó interrumpido por un fallo.</translation>
+    </message>
+    <message>
+        <source>A change was cut off by a crash: %1 lies beside the file. The next program that opens the file takes that change back.</source>
+        <translation>Un fallo interrumpió un cambio: %1 está junto al archivo. El próximo programa que abra el archivo deshará ese cambio.</translation>
+    </message>
+    <message>
+        <source>A comma is not taken: type %1</source>
+        <translation>No se admite la coma: escriba %1</translation>
+    </message>
+    <message>
+        <source>A file, or a name as &quot;backups&quot; lists it</source>
+        <translation>Un archivo, o un nombre tal como lo enumera «backups»</translation>
+    </message>
+    <message>
+        <source>A fill narrower than %1: %2.</source>
+        <translation>Un relleno más estrecho que %1: %2.</translation>
+    </message>
+    <message>
+        <source>A half drop needs a pattern repeat along.</source>
+        <translation>El medio salto necesita un rapport a lo largo.</translation>
+    </message>
+    <message>
+        <source>A half drop needs an even pattern repeat along.</source>
+        <translation>El medio salto necesita un rapport a lo largo que sea par.</translation>
+    </message>
+    <message>
+        <source>A project&apos;s sheet has no number; its data cannot be deleted.</source>
+        <translation>Una hoja del proyecto no tiene número; sus datos no se pueden borrar.</translation>
+    </message>
+    <message>
+        <source>A roll has no width: %1</source>
+        <translation>Un rollo no tiene ancho: %1</translation>
+    </message>
+    <message>
+        <source>A roll must be between %1 and %2 wide.</source>
+        <translation>Un rollo debe tener entre %1 y %2 de ancho.</translation>
+    </message>
+    <message>
+        <source>A roll to compare, with a name and a price per square yard (square metre with --metric) if wanted; may be given several times</source>
+        <translation>Un rollo que comparar, con nombre y precio por yarda cuadrada (metro cuadrado con --metric) si se desea; se puede dar varias veces</translation>
+    </message>
+    <message>
+        <source>A room no wider than the roll may be divided, too</source>
+        <translation>También se puede partir una estancia que no sea más ancha que el rollo</translation>
+    </message>
+    <message>
+        <source>A strip may have 1 to %1 parts.</source>
+        <translation>Una tira puede tener de 1 a %1 tramos.</translation>
+    </message>
+    <message>
+        <source>ABOUT</source>
+        <translation>ACERCA DE</translation>
+    </message>
+    <message>
+        <source>ALL</source>
+        <translation>TODO</translation>
+    </message>
+    <message>
+        <source>Above least %</source>
+        <translation>Sobre mínimo %</translation>
+    </message>
+    <message>
+        <source>Across</source>
+        <translation>De través</translation>
+    </message>
+    <message>
+        <source>Are you sure to delete this project?<byte value="xd"/>
+Delete operation will make the data of the project lost!</source>
+        <translation>¿Seguro que quiere borrar este proyecto?<byte value="xd"/>
+¡Al borrarlo se perderán los datos del proyecto!</translation>
+    </message>
+    <message>
+        <source>Area bought</source>
+        <translation>Superficie comprada</translation>
+    </message>
+    <message>
+        <source>Area of the rooms</source>
+        <translation>Superficie de las estancias</translation>
+    </message>
+    <message>
+        <source>At most %1 rolls can be compared.</source>
+        <translation>Se pueden comparar %1 rollos como máximo.</translation>
+    </message>
+    <message>
+        <source>B&amp;ASE</source>
+        <translation>R&amp;ODAPIÉ</translation>
+    </message>
+    <message>
+        <source>BASE</source>
+        <translation>RODAPIÉ</translation>
+    </message>
+    <message>
+        <source>Backups</source>
+        <translation>Copias de seguridad</translation>
+    </message>
+    <message>
+        <source>Backups in %1, the newest first:</source>
+        <translation>Copias de seguridad en %1, la más reciente primero:</translation>
+    </message>
+    <message>
+        <source>Best is the least carpet, for no roll has a price; of equal ones, the shortest seams and joins.</source>
+        <translation>Lo mejor es la menor cantidad de moqueta, pues ningún rollo tiene precio; a igualdad, las juntas y empalmes más cortos.</translation>
+    </message>
+    <message>
+        <source>Best is the least carpet, for these rolls have no price: %1.</source>
+        <translation>Lo mejor es la menor cantidad de moqueta, pues estos rollos no tienen precio: %1.</translation>
+    </message>
+    <message>
+        <source>Best is the least price; of equal ones, the shortest seams and joins.</source>
+        <translation>Lo mejor es el menor precio; a igualdad, las juntas y empalmes más cortos.</translation>
+    </message>
+    <message>
+        <source>Beyond the end of the project, dropped by SAVE</source>
+        <translation>Más allá del final del proyecto, se omite al GUARDAR</translation>
+    </message>
+    <message>
+        <source>Bought sq. ft.</source>
+        <translation>Comprado ft²</translation>
+    </message>
+    <message>
+        <source>Bought sq. m</source>
+        <translation>Comprado m²</translation>
+    </message>
+    <message>
+        <source>CARPE&amp;T TYPE</source>
+        <translation>&amp;MATERIAL</translation>
+    </message>
+    <message>
+        <source>CARPET - &amp;%1</source>
+        <translation>MOQUETA - &amp;%1</translation>
+    </message>
+    <message>
+        <source>CARPET WIDT&amp;H OTHER</source>
+        <translation>&amp;OTRO ANCHO</translation>
+    </message>
+    <message>
+        <source>CARPET WIDTH 12 FT.</source>
+        <translation>ANCHO DE ROLLO 12 PIES</translation>
+    </message>
+    <message>
+        <source>CARPET WIDTH 13.5 FT.</source>
+        <translation>ANCHO DE ROLLO 13.5 PIES</translation>
+    </message>
+    <message>
+        <source>CARPET WIDTH 15 FT.</source>
+        <translation>ANCHO DE ROLLO 15 PIES</translation>
+    </message>
+    <message>
+        <source>CARPET WIDTH 183 CMS</source>
+        <translation>ANCHO DE ROLLO 183 CM</translation>
+    </message>
+    <message>
+        <source>CARPET WIDTH 366 CMS</source>
+        <translation>ANCHO DE ROLLO 366 CM</translation>
+    </message>
+    <message>
+        <source>CARPET WIDTH 411 CMS</source>
+        <translation>ANCHO DE ROLLO 411 CM</translation>
+    </message>
+    <message>
+        <source>CARPET WIDTH 457 CMS</source>
+        <translation>ANCHO DE ROLLO 457 CM</translation>
+    </message>
+    <message>
+        <source>CHOICES</source>
+        <translation>OPCIONES</translation>
+    </message>
+    <message>
+        <source>CMS</source>
+        <translation>CM</translation>
+    </message>
+    <message>
+        <source>CO&amp;MPARE</source>
+        <translation>&amp;COMPARAR</translation>
+    </message>
+    <message>
+        <source>COMPARISON</source>
+        <translation>COMPARACIÓN</translation>
+    </message>
+    <message>
+        <source>CROSS &amp;LAY</source>
+        <translation>DE TRAVÉ&amp;S</translation>
+    </message>
+    <message>
+        <source>CROSSLAY</source>
+        <translation>DE TRAVÉS</translation>
+    </message>
+    <message>
+        <source>CSV file with the rooms</source>
+        <translation>Archivo CSV con las estancias</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Carpet</source>
+        <translation>Moqueta</translation>
+    </message>
+    <message>
+        <source>Carpets with more than one request for an order, of which the last is read</source>
+        <translation>Moquetas con más de una petición de pedido, de las que se lee la última</translation>
+    </message>
+    <message>
+        <source>Centimetres</source>
+        <translation>Centímetros</translation>
+    </message>
+    <message>
+        <source>Check that a database is sound, and all that stands in it</source>
+        <translation>Comprobar que una base de datos, y todo lo que contiene, es correcta</translation>
+    </message>
+    <message>
+        <source>Chosen: %1, %2 in one length without a join</source>
+        <translation>Elegido: %1, %2 en una sola pieza sin empalme</translation>
+    </message>
+    <message>
+        <source>Compared.</source>
+        <translation>Comparado.</translation>
+    </message>
+    <message>
+        <source>Comparing. STOP keeps the best so far.</source>
+        <translation>Comparando. PARAR conserva lo mejor hasta ahora.</translation>
+    </message>
+    <message>
+        <source>Configuration file</source>
+        <translation>Archivo de configuración</translation>
+    </message>
+    <message>
+        <source>Copy a database, also while the program uses it</source>
+        <translation>Copiar una base de datos, también mientras el programa la usa</translation>
+    </message>
+    <message>
+        <source>Could not convert: %1 = %2</source>
+        <translation>No se entiende: %1 = %2</translation>
+    </message>
+    <message>
+        <source>Cross joins</source>
+        <translation>Empalmes transversales</translation>
+    </message>
+    <message>
+        <source>Cut in this order. From and to count along the roll from its start, across from its usable edge; centimetres.</source>
+        <translation>Corte en este orden. De y a se cuentan a lo largo del rollo desde su inicio, de través desde su borde útil; centímetros.</translation>
+    </message>
+    <message>
+        <source>Cut in this order. From and to count along the roll from its start, across from its usable edge; feet and inches.</source>
+        <translation>Corte en este orden. De y a se cuentan a lo largo del rollo desde su inicio, de través desde su borde útil; pies y pulgadas.</translation>
+    </message>
+    <message>
+        <source>Cut off along each edge of the roll (default 0, at most 6in or 15cm)</source>
+        <translation>Se corta en cada borde del rollo (normal 0, como máximo 6in o 15cm)</translation>
+    </message>
+    <message>
+        <source>D&amp;ONE</source>
+        <translation>&amp;LISTO</translation>
+    </message>
+    <message>
+        <source>DIRECTORY:%1</source>
+        <translation>DIRECTORIO: %1</translation>
+    </message>
+    <message>
+        <source>DOWNLAY</source>
+        <translation>A LO LARGO</translation>
+    </message>
+    <message>
+        <source>DRAWING</source>
+        <translation>DIBUJO</translation>
+    </message>
+    <message>
+        <source>DRIFT %</source>
+        <translation>DERIVA %</translation>
+    </message>
+    <message>
+        <source>Damaged: %1</source>
+        <translation>Dañado: %1</translation>
+    </message>
+    <message>
+        <source>Database file</source>
+        <translation>Archivo de la base de datos</translation>
+    </message>
+    <message>
+        <source>Database file of the project</source>
+        <translation>Archivo de la base de datos del proyecto</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Fecha</translation>
+    </message>
+    <message>
+        <source>Directories that were made for projects which no screen showed</source>
+        <translation>Directorios creados para proyectos que ninguna pantalla mostraba</translation>
+    </message>
+    <message>
+        <source>Directory of a new project (default: the current month)</source>
+        <translation>Directorio de un proyecto nuevo (normal: el mes actual)</translation>
+    </message>
+    <message>
         <source>Division by zero</source>
         <translation>División por cero</translation>
     </message>
@@ -12,6 +905,2289 @@
         <location filename="../src/base/RunTimeError.cpp"/>
         <source>Internal error</source>
         <translation>Error interno</translation>
+    </message>
+    <message>
+        <source>It differs from %1:</source>
+        <translation>Se diferencia de %1:</translation>
+    </message>
+    <message>
+        <source>It holds all that %1 does.</source>
+        <translation>Contiene todo lo que contiene %1.</translation>
+    </message>
+    <message>
+        <source>Joins</source>
+        <translation>Empalmes</translation>
+    </message>
+    <message>
+        <source>Joins cm</source>
+        <translation>Empalmes cm</translation>
+    </message>
+    <message>
+        <source>Kept as %1 (typed %2)</source>
+        <translation>Se guarda como %1 (escrito %2)</translation>
+    </message>
+    <message>
+        <source>L&amp;AST CHOICES</source>
+        <translation>ÚLTIM&amp;AS OPCIONES</translation>
+    </message>
+    <message>
+        <source>LEAVE IT</source>
+        <translation>DEJARLO</translation>
+    </message>
+    <message>
+        <source>LEN&amp;GTH:</source>
+        <translation>LA&amp;RGO:</translation>
+    </message>
+    <message>
+        <source>LENGTH</source>
+        <translation>LARGO</translation>
+    </message>
+    <message>
+        <source>Language of what is said to people; what programs read stays as it is</source>
+        <translation>Idioma de lo que se dice a las personas; lo que leen los programas no cambia</translation>
+    </message>
+    <message>
+        <source>Least possible</source>
+        <translation>Mínimo posible</translation>
+    </message>
+    <message>
+        <source>Least possible cm</source>
+        <translation>Mínimo posible cm</translation>
+    </message>
+    <message>
+        <source>Lengths are written 12ft6in, 18in, 366cm or 3.66m; a bare number is in the project&apos;s units.
+All lengths of an order are whole inches, with --metric whole centimetres: roll widths are
+rounded down; trim, selvage, shortest part and step up. A pattern repeat must be whole.
+
+The repeat across is the distance to the next column of the pattern, which with --half-drop
+stands half a repeat further along: half the repeat of makers who name the whole design.
+
+Options that are given win over the request that is saved with the project.
+
+Exit status: 0 done, 1 refused, or no carpet has an order (the reason is on standard error),
+2 wrong usage.
+
+Example:
+  tarn-order --rooms house.csv --roll 12ft=18.50 --roll 15ft=19 --lay both --trim 3in</source>
+        <translation>Las medidas se escriben 12ft6in, 18in, 366cm o 3.66m; un número solo está en las unidades del
+proyecto. Todas las medidas de un pedido son pulgadas enteras, con --metric centímetros enteros: los
+anchos de rollo se redondean hacia abajo; demasía, orillo, tramo mínimo y paso, hacia arriba. Un
+rapport debe ser entero.
+
+El rapport a lo ancho es la distancia a la siguiente columna del dibujo, que con --half-drop está
+medio rapport más adelante: la mitad del rapport de los fabricantes que dan el dibujo completo.
+
+Las opciones que se dan prevalecen sobre la petición guardada con el proyecto.
+
+Estado de salida: 0 hecho, 1 rechazado o ninguna moqueta tiene pedido (la causa está en la salida
+de errores), 2 uso incorrecto.
+
+Ejemplo:
+  tarn-order --rooms house.csv --roll 12ft=18.50 --roll 15ft=19 --lay both --trim 3in</translation>
+    </message>
+    <message>
+        <source>Less trim than asked for: %1.</source>
+        <translation>Menos demasía de la pedida: %1.</translation>
+    </message>
+    <message>
+        <source>Let it accept jobs in the system&apos;s printer settings, or choose another default printer there.</source>
+        <translation>Haga que acepte trabajos en los ajustes de impresoras del sistema, o elija allí otra impresora predeterminada.</translation>
+    </message>
+    <message>
+        <source>Letters are not taken</source>
+        <translation>No se admiten letras</translation>
+    </message>
+    <message>
+        <source>List directories, projects and rooms</source>
+        <translation>Enumerar directorios, proyectos y estancias</translation>
+    </message>
+    <message>
+        <source>List the backups that the program made</source>
+        <translation>Enumerar las copias de seguridad que hizo el programa</translation>
+    </message>
+    <message>
+        <source>Look at the printer in the system&apos;s printer settings, then print again.</source>
+        <translation>Mire la impresora en los ajustes de impresoras del sistema y vuelva a imprimir.</translation>
+    </message>
+    <message>
+        <source>Look whether the page comes out before you print again.</source>
+        <translation>Compruebe si sale la página antes de volver a imprimir.</translation>
+    </message>
+    <message>
+        <source>Looking for a better layout</source>
+        <translation>Buscando una disposición mejor</translation>
+    </message>
+    <message>
+        <source>M</source>
+        <translation>M</translation>
+    </message>
+    <message>
+        <source>MAXIMUM NUMBER OF PIECES PER FILL</source>
+        <translation>MÁXIMO DE TRAMOS POR RELLENO</translation>
+    </message>
+    <message>
+        <source>ME&amp;TER</source>
+        <translation>M&amp;ETRO</translation>
+    </message>
+    <message>
+        <source>MINIMUM CUT LENGTH</source>
+        <translation>LARGO MÍNIMO DE CORTE</translation>
+    </message>
+    <message>
+        <source>Made %1, which names the folder %2.</source>
+        <translation>Se creó %1, que indica la carpeta %2.</translation>
+    </message>
+    <message>
+        <source>Make a data folder with an empty database</source>
+        <translation>Crear una carpeta de datos con una base de datos vacía</translation>
+    </message>
+    <message>
+        <source>Make a folder for the program&apos;s data?<byte value="xd"/>
+<byte value="xd"/>
+Data folder: %1<byte value="xd"/>
+It is named in a new file: %2<byte value="xd"/>
+<byte value="xd"/>
+With No nothing is made, and the program ends.</source>
+        <translation>¿Crear una carpeta para los datos del programa?<byte value="xd"/>
+<byte value="xd"/>
+Carpeta de datos: %1<byte value="xd"/>
+Se indica en un archivo nuevo: %2<byte value="xd"/>
+<byte value="xd"/>
+Con No no se crea nada y el programa termina.</translation>
+    </message>
+    <message>
+        <source>Make the rooms of a CSV file those of a project</source>
+        <translation>Hacer de las estancias de un archivo CSV las de un proyecto</translation>
+    </message>
+    <message>
+        <source>Maximum number of parts into which a fill is divided, 1 to %1</source>
+        <translation>Número máximo de tramos en que se divide un relleno, de 1 a %1</translation>
+    </message>
+    <message>
+        <source>Minimum cut: %1. Despite their names these keep the parts of a divided fill at %2 or more (%3 with --metric); --improve keeps them at %4</source>
+        <translation>Corte mínimo: %1. Pese a sus nombres, mantienen los tramos de un relleno dividido en %2 o más (%3 con --metric); --improve los mantiene en %4</translation>
+    </message>
+    <message>
+        <source>Missing, read as empty</source>
+        <translation>Falta, se lee como vacía</translation>
+    </message>
+    <message>
+        <source>More than a room&apos;s width, the same bounds</source>
+        <translation>Más que el ancho de una estancia, con los mismos límites</translation>
+    </message>
+    <message>
+        <source>More than a strip&apos;s length, at its far end (default 0, at most 24in or 60cm)</source>
+        <translation>Más que el largo de una tira, en su extremo (normal 0, como máximo 24in o 60cm)</translation>
+    </message>
+    <message>
+        <source>Most parts of a strip, 1 to %1 (default 1)</source>
+        <translation>Número máximo de tramos de una tira, de 1 a %1 (normal 1)</translation>
+    </message>
+    <message>
+        <source>NEW DIRECTOR&amp;Y</source>
+        <translation>NUEVO DIRE&amp;CTORIO</translation>
+    </message>
+    <message>
+        <source>NO FILLS TO DISPLAY</source>
+        <translation>NO HAY RELLENOS</translation>
+    </message>
+    <message>
+        <source>NOT KEPT: %1</source>
+        <translation>SIN CONSERVAR: %1</translation>
+    </message>
+    <message>
+        <source>NOT SAVED</source>
+        <translation>SIN GUARDAR</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nombre</translation>
+    </message>
+    <message>
+        <source>Name of the project:</source>
+        <translation>Nombre del proyecto:</translation>
+    </message>
+    <message>
+        <source>Needed cm</source>
+        <translation>Necesario cm</translation>
+    </message>
+    <message>
+        <source>Needs</source>
+        <translation>Necesita</translation>
+    </message>
+    <message>
+        <source>New room</source>
+        <translation>Estancia nueva</translation>
+    </message>
+    <message>
+        <source>New room, half typed</source>
+        <translation>Estancia nueva, a medio escribir</translation>
+    </message>
+    <message>
+        <source>No Project Selected</source>
+        <translation>Ningún proyecto elegido</translation>
+    </message>
+    <message>
+        <source>No better layout was found: %1.</source>
+        <translation>No se encontró una disposición mejor: %1.</translation>
+    </message>
+    <message>
+        <source>No carpet has an order: every roll and lay is refused.</source>
+        <translation>Ninguna moqueta tiene pedido: todos los rollos y colocaciones se rechazan.</translation>
+    </message>
+    <message>
+        <source>No layout takes less than: %1</source>
+        <translation>Ninguna disposición necesita menos de: %1</translation>
+    </message>
+    <message>
+        <source>No order</source>
+        <translation>Sin pedido</translation>
+    </message>
+    <message>
+        <source>No part of a fill becomes shorter than %1</source>
+        <translation>Ningún tramo de un relleno queda más corto que %1</translation>
+    </message>
+    <message>
+        <source>No project is made of %1.</source>
+        <translation>De %1 no se hace ningún proyecto.</translation>
+    </message>
+    <message>
+        <source>No room has %1.</source>
+        <translation>Ninguna estancia tiene %1.</translation>
+    </message>
+    <message>
+        <source>No room with an area has %1.</source>
+        <translation>Ninguna estancia con superficie tiene %1.</translation>
+    </message>
+    <message>
+        <source>No sheet number is left: the greatest one, 32767, is in use.</source>
+        <translation>No queda ningún número de hoja: el mayor, 32767, está en uso.</translation>
+    </message>
+    <message>
+        <source>Note: %1</source>
+        <translation>Nota: %1</translation>
+    </message>
+    <message>
+        <source>Note: %1, %2</source>
+        <translation>Nota: %1, %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>Note: %1, and %n more size that is rounded</source>
+        <comment>Note: %1, and %n more sizes that are rounded</comment>
+        <translation>
+            <numerusform>Nota: %1, y %n medida redondeada más</numerusform>
+            <numerusform>Nota: %1, y %n medidas redondeadas más</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Note: %1: the saved request is in other units and is not used.</source>
+        <translation>Nota: %1: la petición guardada está en otras unidades y no se usa.</translation>
+    </message>
+    <message>
+        <source>Note: beside it there is one of %1.</source>
+        <translation>Nota: junto a ella hay una de %1.</translation>
+    </message>
+    <message>
+        <source>Nothing can be read of the database file %1. %2</source>
+        <translation>No se puede leer nada de la base de datos %1. %2</translation>
+    </message>
+    <message>
+        <source>Nothing was made.</source>
+        <translation>No se creó nada.</translation>
+    </message>
+    <message>
+        <source>Number of the carpet, 1 to 8</source>
+        <translation>Número de la moqueta, de 1 a 8</translation>
+    </message>
+    <message>
+        <source>Number of the carpet, 1 to 8 (default: all of the project)</source>
+        <translation>Número de la moqueta, de 1 a 8 (normal: todas las del proyecto)</translation>
+    </message>
+    <message>
+        <source>OPERATION MENU</source>
+        <translation>MENÚ PRINCIPAL</translation>
+    </message>
+    <message>
+        <source>OPTIONS</source>
+        <translation>OPCIONES</translation>
+    </message>
+    <message>
+        <source>ORDER (PROJECT: %1)</source>
+        <translation>PEDIDO (PROYECTO: %1)</translation>
+    </message>
+    <message>
+        <source>ORDER FOR PROJECT: %1</source>
+        <translation>PEDIDO DEL PROYECTO: %1</translation>
+    </message>
+    <message>
+        <source>OUT OF DATE: the choices have changed. Press COMPARE.</source>
+        <translation>DESFASADO: las opciones han cambiado. Pulse COMPARAR.</translation>
+    </message>
+    <message>
+        <source>Only a number is taken</source>
+        <translation>Solo se admite un número</translation>
+    </message>
+    <message>
+        <source>Only feet and inches are taken here: type it like 12&apos;6&quot;</source>
+        <translation>Aquí solo se admiten pies y pulgadas: escriba como 12&apos;6&quot;</translation>
+    </message>
+    <message>
+        <source>Only metres and centimetres are taken here: type it like 3.66m</source>
+        <translation>Aquí solo se admiten metros y centímetros: escriba como 3.66m</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>Opciones</translation>
+    </message>
+    <message>
+        <source>Or press SAVE AS and choose &quot;%1&quot;.</source>
+        <translation>O pulse GUARDAR COMO y elija «%1».</translation>
+    </message>
+    <message>
+        <source>Or right-click what is shown and choose &quot;%1&quot;.</source>
+        <translation>O haga clic con el botón derecho en lo que se muestra y elija «%1».</translation>
+    </message>
+    <message>
+        <source>Or show it again, right-click it and choose &quot;%1&quot;.</source>
+        <translation>O vuelva a mostrarlo, haga clic en ello con el botón derecho y elija «%1».</translation>
+    </message>
+    <message>
+        <source>Or show the order again, press SAVE AS and choose &quot;%1&quot;.</source>
+        <translation>O vuelva a mostrar el pedido, pulse GUARDAR COMO y elija «%1».</translation>
+    </message>
+    <message>
+        <source>Order</source>
+        <translation>Pedir</translation>
+    </message>
+    <message>
+        <source>Order and cutting sheet</source>
+        <translation>Hoja de pedido y corte</translation>
+    </message>
+    <message>
+        <source>Order cm</source>
+        <translation>Pedir cm</translation>
+    </message>
+    <message>
+        <source>Outside rooms 1 to %1, left out and dropped by SAVE: ObjNum %2.</source>
+        <translation>Fuera de las estancias 1 a %1, se omite y se elimina al GUARDAR: ObjNum %2.</translation>
+    </message>
+    <message>
+        <source>Overflow</source>
+        <translation>Desbordamiento</translation>
+    </message>
+    <message>
+        <source>PATT&amp;ERN ALONG</source>
+        <translation>DIBU&amp;JO LARGO</translation>
+    </message>
+    <message>
+        <source>PATTER&amp;N ACROSS</source>
+        <translation>DI&amp;BUJO ANCHO</translation>
+    </message>
+    <message>
+        <source>POSITIVE</source>
+        <translation>POSITIVO</translation>
+    </message>
+    <message>
+        <source>PROJ: %1</source>
+        <translation>PROY: %1</translation>
+    </message>
+    <message>
+        <source>PROJECT</source>
+        <translation>PROYECTO</translation>
+    </message>
+    <message>
+        <source>PROJECT ITEM No.</source>
+        <translation>N.º DE ELEMENTO</translation>
+    </message>
+    <message>
+        <source>PROJECT NAME:   %1</source>
+        <translation>PROYECTO:   %1</translation>
+    </message>
+    <message>
+        <source>PROJECT: %1</source>
+        <translation>PROYECTO: %1</translation>
+    </message>
+    <message>
+        <source>PROJECT:%1</source>
+        <translation>PROYECTO: %1</translation>
+    </message>
+    <message>
+        <source>Parts of a strip</source>
+        <translation>Tramos de una tira</translation>
+    </message>
+    <message>
+        <source>Pattern repeat</source>
+        <translation>Rapport</translation>
+    </message>
+    <message>
+        <source>Pattern repeat across x along, 0 for none in that direction</source>
+        <translation>Rapport a lo ancho x a lo largo, 0 si no hay en ese sentido</translation>
+    </message>
+    <message>
+        <source>Pattern repeat across x along, in inches (centimetres with --metric)</source>
+        <translation>Rapport a lo ancho x a lo largo, en pulgadas (centímetros con --metric)</translation>
+    </message>
+    <message>
+        <source>Percent by which repeats may come out longer (default 1 with a repeat along, else 0; at most 10)</source>
+        <translation>Por ciento en que los rapports pueden salir más largos (normal 1 con un rapport a lo largo, si no 0; 10 como máximo)</translation>
+    </message>
+    <message>
+        <source>Pieces</source>
+        <translation>Piezas</translation>
+    </message>
+    <message>
+        <source>Pile</source>
+        <translation>Pelo</translation>
+    </message>
+    <message>
+        <source>Please select a month or a directory.</source>
+        <translation>Elija un mes o un directorio.</translation>
+    </message>
+    <message>
+        <source>Positionals</source>
+        <translation>Argumentos</translation>
+    </message>
+    <message>
+        <source>Price per
+sq. yd</source>
+        <translation>Precio por
+yd²</translation>
+    </message>
+    <message>
+        <source>Print the entered-data report of a project</source>
+        <translation>Escribir el informe de datos de un proyecto</translation>
+    </message>
+    <message>
+        <source>Print this help message and exit</source>
+        <translation>Mostrar esta ayuda y terminar</translation>
+    </message>
+    <message>
+        <source>Project</source>
+        <translation>Proyecto</translation>
+    </message>
+    <message>
+        <source>Projects for which no number was left, without their rooms</source>
+        <translation>Proyectos para los que no quedaba número, sin sus estancias</translation>
+    </message>
+    <message>
+        <source>Projects that no screen shows, since their directory is neither listed nor a month</source>
+        <translation>Proyectos que ninguna pantalla muestra, porque su directorio no está en la lista ni es un mes</translation>
+    </message>
+    <message>
+        <source>Projects that shared their rooms with others, and have them all now</source>
+        <translation>Proyectos que compartían sus estancias con otros y ahora las tienen todas</translation>
+    </message>
+    <message>
+        <source>Projects with more than one row</source>
+        <translation>Proyectos con más de una fila</translation>
+    </message>
+    <message>
+        <source>Projects with more than one sheet, of which the first alone is used</source>
+        <translation>Proyectos con más de una hoja, de las que solo vale la primera</translation>
+    </message>
+    <message>
+        <source>Put %1 in the place of %2.</source>
+        <translation>Se puso %1 en lugar de %2.</translation>
+    </message>
+    <message>
+        <source>Put a backup in its place with &quot;tarn-data restore&quot;, or save what can still be read of it with &quot;tarn-data repair&quot;.</source>
+        <translation>Ponga una copia de seguridad en su lugar con «tarn-data restore», o salve con «tarn-data repair» lo que aún se pueda leer.</translation>
+    </message>
+    <message>
+        <source>Put a backup in the place of a database; what was there is kept</source>
+        <translation>Poner una copia de seguridad en lugar de una base de datos; lo que había se conserva</translation>
+    </message>
+    <message>
+        <source>Put that right at the printer, then print again.</source>
+        <translation>Arréglelo en la impresora y vuelva a imprimir.</translation>
+    </message>
+    <message>
+        <source>REMAR&amp;K</source>
+        <translation>NO&amp;TA</translation>
+    </message>
+    <message>
+        <source>REMARK</source>
+        <translation>NOTA</translation>
+    </message>
+    <message>
+        <source>REMO&amp;VE ROLL</source>
+        <translation>&amp;QUITAR ROLLO</translation>
+    </message>
+    <message>
+        <source>REQUIRED</source>
+        <translation>OBLIGATORIO</translation>
+    </message>
+    <message>
+        <source>RO&amp;OM No.</source>
+        <translation>N.º &amp;ESTANCIA</translation>
+    </message>
+    <message>
+        <source>ROLL</source>
+        <translation>ROLLO</translation>
+    </message>
+    <message>
+        <source>ROOM</source>
+        <translation>ESTANCIA</translation>
+    </message>
+    <message>
+        <source>ROOM   &amp;WIDTH</source>
+        <translation>ANC&amp;HO</translation>
+    </message>
+    <message>
+        <source>ROOM &amp;LENGTH</source>
+        <translation>&amp;LARGO</translation>
+    </message>
+    <message>
+        <source>ROOM SIZE</source>
+        <translation>MEDIDAS</translation>
+    </message>
+    <message>
+        <source>Really want to delete current data?</source>
+        <translation>¿Seguro que quiere borrar los datos actuales?</translation>
+    </message>
+    <message>
+        <source>Replace the rooms that the project has</source>
+        <translation>Sustituir las estancias que tiene el proyecto</translation>
+    </message>
+    <message>
+        <source>Requests for an order that a later one of the carpet replaced, left out</source>
+        <translation>Peticiones de pedido sustituidas por otra posterior de la misma moqueta, omitidas</translation>
+    </message>
+    <message>
+        <source>Requests for orders that cannot be read</source>
+        <translation>Peticiones de pedido que no se pueden leer</translation>
+    </message>
+    <message>
+        <source>Requests for orders that cannot be read, left out</source>
+        <translation>Peticiones de pedido que no se pueden leer, omitidas</translation>
+    </message>
+    <message numerus="yes">
+        <source>Roll %1 wide, %2 long, %n piece</source>
+        <comment>Roll %1 wide, %2 long, %n pieces</comment>
+        <translation>
+            <numerusform>Rollo de %1 de ancho, %2 de largo, %n pieza</numerusform>
+            <numerusform>Rollo de %1 de ancho, %2 de largo, %n piezas</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Room</source>
+        <translation>Estancia</translation>
+    </message>
+    <message>
+        <source>Room %1 (%2)</source>
+        <translation>La estancia %1 (%2)</translation>
+    </message>
+    <message>
+        <source>Room %1 has no width or no length: it is stored with 0, and nothing is cut for it.</source>
+        <translation>La estancia %1 no tiene ancho o no tiene largo: se guarda con 0 y no se corta nada para ella.</translation>
+    </message>
+    <message>
+        <source>Room %1 is not stored: it needs a width and a length.</source>
+        <translation>La estancia %1 no está guardada: necesita un ancho y un largo.</translation>
+    </message>
+    <message>
+        <source>Room length:<byte value="xd"/>
+%1</source>
+        <translation>Largo de la estancia:<byte value="xd"/>
+%1</translation>
+    </message>
+    <message>
+        <source>Room width:<byte value="xd"/>
+%1</source>
+        <translation>Ancho de la estancia:<byte value="xd"/>
+%1</translation>
+    </message>
+    <message>
+        <source>Rooms %1 have no width or no length: they are stored with 0, and nothing is cut for them.</source>
+        <translation>Las estancias %1 no tienen ancho o no tienen largo: se guardan con 0 y no se corta nada para ellas.</translation>
+    </message>
+    <message>
+        <source>Rooms beyond the number that the sheet tells, which nothing shows</source>
+        <translation>Estancias más allá del número que indica la hoja, que nada muestra</translation>
+    </message>
+    <message>
+        <source>Rooms sq. ft.</source>
+        <translation>Estancias ft²</translation>
+    </message>
+    <message>
+        <source>Rooms sq. m</source>
+        <translation>Estancias m²</translation>
+    </message>
+    <message>
+        <source>Rooms that are to become a project, whose name is asked for</source>
+        <translation>Estancias que deben pasar a ser un proyecto, cuyo nombre se pregunta</translation>
+    </message>
+    <message>
+        <source>Rooms that could not be found and are empty now</source>
+        <translation>Estancias que no se encontraron y ahora están vacías</translation>
+    </message>
+    <message>
+        <source>Rooms that their project did not show, which are in one of their own now</source>
+        <translation>Estancias que su proyecto no mostraba y que ahora están en uno propio</translation>
+    </message>
+    <message>
+        <source>Rooms that were stored twice alike</source>
+        <translation>Estancias guardadas dos veces iguales</translation>
+    </message>
+    <message>
+        <source>Rooms with more than one row, of which the last is read</source>
+        <translation>Estancias con más de una fila, de las que se lee la última</translation>
+    </message>
+    <message>
+        <source>Rooms without a sheet, for which a project was made (in feet and inches: their units are not known)</source>
+        <translation>Estancias sin hoja, para las que se creó un proyecto (en pies y pulgadas: sus unidades no se conocen)</translation>
+    </message>
+    <message>
+        <source>Rooms without a sheet, which nothing shows</source>
+        <translation>Estancias sin hoja, que nada muestra</translation>
+    </message>
+    <message>
+        <source>Rows of %1 without a sheet, which nothing reaches</source>
+        <translation>Filas de %1 sin hoja, a las que nada llega</translation>
+    </message>
+    <message>
+        <source>Rows that cannot be read and are left out</source>
+        <translation>Filas que no se pueden leer y se omiten</translation>
+    </message>
+    <message>
+        <source>Rows that say nothing and were left out</source>
+        <translation>Filas que no dicen nada y se omitieron</translation>
+    </message>
+    <message>
+        <source>Run with --help for more information.</source>
+        <translation>--help da más información.</translation>
+    </message>
+    <message>
+        <source>S&amp;HORTEST PART</source>
+        <translation>&amp;TRAMO MÍNIMO</translation>
+    </message>
+    <message>
+        <source>S&amp;HOW FORM</source>
+        <translation>VE&amp;R FICHA</translation>
+    </message>
+    <message>
+        <source>S&amp;HOW LIST</source>
+        <translation>VE&amp;R LISTA</translation>
+    </message>
+    <message>
+        <source>S&amp;TOP</source>
+        <translation>PAR&amp;AR</translation>
+    </message>
+    <message>
+        <source>SECONDS</source>
+        <translation>SEGUNDOS</translation>
+    </message>
+    <message>
+        <source>SELECT</source>
+        <translation>ELIJA</translation>
+    </message>
+    <message>
+        <source>SELVA&amp;GE</source>
+        <translation>&amp;ORILLO</translation>
+    </message>
+    <message>
+        <source>SQ. FT.</source>
+        <translation>FT²</translation>
+    </message>
+    <message>
+        <source>SQ. M</source>
+        <translation>M²</translation>
+    </message>
+    <message>
+        <source>SQ. YD.</source>
+        <translation>YD²</translation>
+    </message>
+    <message>
+        <source>STEP</source>
+        <translation>PASO</translation>
+    </message>
+    <message>
+        <source>STOP</source>
+        <translation>PARAR</translation>
+    </message>
+    <message>
+        <source>SUBCOMMAND</source>
+        <translation>ORDEN</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Guardar</translation>
+    </message>
+    <message>
+        <source>Save as &amp;CSV</source>
+        <translation>Guardar como &amp;CSV</translation>
+    </message>
+    <message>
+        <source>Save as &amp;DXF</source>
+        <translation>Guardar como &amp;DXF</translation>
+    </message>
+    <message>
+        <source>Save as &amp;JSON</source>
+        <translation>Guardar como &amp;JSON</translation>
+    </message>
+    <message>
+        <source>Save as &amp;SVG</source>
+        <translation>Guardar como &amp;SVG</translation>
+    </message>
+    <message>
+        <source>Save as spreadsheet (&amp;XLSX)</source>
+        <translation>Guardar como hoja de cálculo (&amp;XLSX)</translation>
+    </message>
+    <message>
+        <source>Save it as a new project</source>
+        <translation>Guardarlo como proyecto nuevo</translation>
+    </message>
+    <message>
+        <source>Saved: %1</source>
+        <translation>Guardado: %1</translation>
+    </message>
+    <message>
+        <source>Seams</source>
+        <translation>Juntas</translation>
+    </message>
+    <message>
+        <source>Seams cm</source>
+        <translation>Juntas cm</translation>
+    </message>
+    <message>
+        <source>Search progress</source>
+        <translation>Avance de la búsqueda</translation>
+    </message>
+    <message>
+        <source>Second sheets of a project, which became projects of their own</source>
+        <translation>Segundas hojas de un proyecto, que pasaron a ser proyectos propios</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Ajustes</translation>
+    </message>
+    <message>
+        <source>Sheet numbers of more than one project, whose rooms cannot be told apart</source>
+        <translation>Números de hoja de más de un proyecto, cuyas estancias no se pueden distinguir</translation>
+    </message>
+    <message>
+        <source>Sheets without a project</source>
+        <translation>Hojas sin proyecto</translation>
+    </message>
+    <message>
+        <source>Sheets without a project, for which one was made</source>
+        <translation>Hojas sin proyecto, para las que se creó uno</translation>
+    </message>
+    <message>
+        <source>Sheets without rooms that were left out</source>
+        <translation>Hojas sin estancias que se omitieron</translation>
+    </message>
+    <message>
+        <source>Shortest part of a divided strip (default 3ft, 91cm with --metric)</source>
+        <translation>Tramo mínimo de una tira dividida (normal 3ft, 91cm con --metric)</translation>
+    </message>
+    <message>
+        <source>Side seams</source>
+        <translation>Juntas laterales</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Medida</translation>
+    </message>
+    <message>
+        <source>So many layouts for each row instead, so that the result can be repeated</source>
+        <translation>En su lugar, tantas disposiciones por fila, para que el resultado se pueda repetir</translation>
+    </message>
+    <message>
+        <source>Start it again in the system&apos;s printer settings, or choose another default printer there.</source>
+        <translation>Vuelva a ponerla en marcha en los ajustes de impresoras del sistema, o elija allí otra impresora predeterminada.</translation>
+    </message>
+    <message>
+        <source>Stopped: the best so far.</source>
+        <translation>Parado: lo mejor hasta ahora.</translation>
+    </message>
+    <message>
+        <source>Stored more than once, the last row is used</source>
+        <translation>Guardada más de una vez, vale la última fila</translation>
+    </message>
+    <message>
+        <source>Stored under one number with %1, whose rooms they may be</source>
+        <translation>Guardadas con el mismo número que %1, de donde pueden ser</translation>
+    </message>
+    <message>
+        <source>Stored with more than one sheet, the first, number %1, is used; not reached: %2.</source>
+        <translation>Guardado con más de una hoja, vale la primera, número %1; no se llega a: %2.</translation>
+    </message>
+    <message>
+        <source>Strips with trim</source>
+        <translation>Tiras con demasía</translation>
+    </message>
+    <message>
+        <source>Subscript out of range</source>
+        <translation>Índice fuera de rango</translation>
+    </message>
+    <message>
+        <source>TAKE IT</source>
+        <translation>TOMARLO</translation>
+    </message>
+    <message>
+        <source>TEXT</source>
+        <translation>TEXTO</translation>
+    </message>
+    <message>
+        <source>TILE-%1</source>
+        <translation>LOSETA-%1</translation>
+    </message>
+    <message>
+        <source>TILES ONLY</source>
+        <translation>SOLO LOSETAS</translation>
+    </message>
+    <message>
+        <source>TRIM &amp;ALONG</source>
+        <translation>&amp;DEMASÍA LARGO</translation>
+    </message>
+    <message>
+        <source>TRIM ACR&amp;OSS</source>
+        <translation>DEMASÍA ANC&amp;HO</translation>
+    </message>
+    <message>
+        <source>TYPE</source>
+        <translation>TIPO</translation>
+    </message>
+    <message>
+        <source>Tables that cannot be read</source>
+        <translation>Tablas que no se pueden leer</translation>
+    </message>
+    <message>
+        <source>Tables that were missing and are empty now</source>
+        <translation>Tablas que faltaban y ahora están vacías</translation>
+    </message>
+    <message>
+        <source>The Project Name: %1 has been used<byte value="xd"/>
+Please change to another name!</source>
+        <translation>El nombre de proyecto %1 ya está en uso<byte value="xd"/>
+¡Elija otro nombre!</translation>
+    </message>
+    <message>
+        <source>The backup %1 cannot be copied</source>
+        <translation>La copia de seguridad %1 no se puede copiar</translation>
+    </message>
+    <message>
+        <source>The backup %1 cannot be made</source>
+        <translation>La copia de seguridad %1 no se puede crear</translation>
+    </message>
+    <message>
+        <source>The backup %1 is damaged (%2) and is not put in place. Take another one.</source>
+        <translation>La copia de seguridad %1 está dañada (%2) y no se pone en su lugar. Tome otra.</translation>
+    </message>
+    <message>
+        <source>The change cannot be stored</source>
+        <translation>El cambio no se puede guardar</translation>
+    </message>
+    <message>
+        <source>The change cannot be taken back</source>
+        <translation>El cambio no se puede deshacer</translation>
+    </message>
+    <message>
+        <source>The choices could not be taken.</source>
+        <translation>No se pudieron aplicar las opciones.</translation>
+    </message>
+    <message>
+        <source>The columns of a CSV file are those that tarn-estimate --help tells.
+
+Exit status: 0 done, 1 the program could not start (the reason is in a box or on standard
+error), 2 wrong usage.
+
+Example:
+  tarn house.csv</source>
+        <translation>Las columnas de un archivo CSV son las que dice tarn-estimate --help.
+
+Estado de salida: 0 hecho, 1 el programa no pudo iniciarse (la causa está en un cuadro o en la salida
+de errores), 2 uso incorrecto.
+
+Ejemplo:
+  tarn house.csv</translation>
+    </message>
+    <message>
+        <source>The configuration file %1 is in force; it names the folder %2.</source>
+        <translation>El archivo de configuración %1 está en vigor; indica la carpeta %2.</translation>
+    </message>
+    <message>
+        <source>The database %1 is sound and has every table.</source>
+        <translation>La base de datos %1 es correcta y tiene todas las tablas.</translation>
+    </message>
+    <message>
+        <source>The database file %1 cannot be made</source>
+        <translation>La base de datos %1 no se puede crear</translation>
+    </message>
+    <message>
+        <source>The database file %1 cannot be read: %2.</source>
+        <translation>La base de datos %1 no se puede leer: %2.</translation>
+    </message>
+    <message>
+        <source>The database file %1 cannot be replaced: another program is using the database. Close that program and try again.</source>
+        <translation>La base de datos %1 no se puede sustituir: otro programa la está usando. Ciérrelo e inténtelo de nuevo.</translation>
+    </message>
+    <message>
+        <source>The database file %1 is a folder. Correct its path or the data folder in %2.</source>
+        <translation>La base de datos %1 es una carpeta. Corrija su ruta o la carpeta de datos en %2.</translation>
+    </message>
+    <message>
+        <source>The database file %1 is a pipe, a device or a socket. Correct its path or the data folder in %2.</source>
+        <translation>La base de datos %1 es una tubería, un dispositivo o un socket. Corrija su ruta o la carpeta de datos en %2.</translation>
+    </message>
+    <message>
+        <source>The database file %1 is damaged (%2). %3</source>
+        <translation>La base de datos %1 está dañada (%2). %3</translation>
+    </message>
+    <message>
+        <source>The database file %1 is empty. %2</source>
+        <translation>La base de datos %1 está vacía. %2</translation>
+    </message>
+    <message>
+        <source>The database file %1 is in the older Jet format, which cannot be read. Keep it, make a new data folder with &quot;tarn-data create&quot; and enter its projects there.</source>
+        <translation>La base de datos %1 está en el formato Jet antiguo, que no se puede leer. Consérvela, cree una carpeta de datos nueva con «tarn-data create» e introduzca allí sus proyectos.</translation>
+    </message>
+    <message>
+        <source>The database file %1 is missing. Correct its path or the data folder in %2, or make a new data folder with &quot;tarn-data create&quot;.</source>
+        <translation>Falta la base de datos %1. Corrija su ruta o la carpeta de datos en %2, o cree una carpeta de datos nueva con «tarn-data create».</translation>
+    </message>
+    <message>
+        <source>The database file %1 is not a database of this program. Correct its path or the data folder in %2, or put a backup in its place with &quot;tarn-data restore&quot;.</source>
+        <translation>El archivo %1 no es una base de datos de este programa. Corrija su ruta o la carpeta de datos en %2, o ponga una copia de seguridad en su lugar con «tarn-data restore».</translation>
+    </message>
+    <message>
+        <source>The database file %1 lies in a read-only folder. Allow writing to the folder.</source>
+        <translation>La base de datos %1 está en una carpeta de solo lectura. Permita escribir en la carpeta.</translation>
+    </message>
+    <message>
+        <source>The directory could not be deleted.</source>
+        <translation>No se pudo borrar el directorio.</translation>
+    </message>
+    <message>
+        <source>The directory could not be made.</source>
+        <translation>No se pudo crear el directorio.</translation>
+    </message>
+    <message>
+        <source>The directory could not be renamed.</source>
+        <translation>No se pudo cambiar el nombre del directorio.</translation>
+    </message>
+    <message>
+        <source>The directory name %1 has more than %2 characters.</source>
+        <translation>El nombre de directorio %1 tiene más de %2 caracteres.</translation>
+    </message>
+    <message>
+        <source>The directory name holds a line break or another control character.</source>
+        <translation>El nombre de directorio contiene un salto de línea u otro carácter de control.</translation>
+    </message>
+    <message>
+        <source>The directory needs a name.</source>
+        <translation>El directorio necesita un nombre.</translation>
+    </message>
+    <message>
+        <source>The drawing of %1 shows one carpet, and there are several: choose one with --carpet.</source>
+        <translation>El dibujo de %1 muestra una moqueta, y hay varias: elija una con --carpet.</translation>
+    </message>
+    <message>
+        <source>The estimate could not be emptied.</source>
+        <translation>No se pudo vaciar el cálculo.</translation>
+    </message>
+    <message>
+        <source>The estimate could not be made.</source>
+        <translation>No se pudo hacer el cálculo.</translation>
+    </message>
+    <message>
+        <source>The estimate could not be opened.</source>
+        <translation>No se pudo abrir el cálculo.</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be made</source>
+        <translation>El archivo %1 no se puede crear</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be made: %2.</source>
+        <translation>El archivo %1 no se puede crear: %2.</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be made: it would not be sound. %2</source>
+        <translation>El archivo %1 no se puede crear: no quedaría correcto. %2</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be used; nothing was taken from it:</source>
+        <translation>El archivo %1 no se puede usar; no se tomó nada de él:</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be written: the rooms are read from it. Name another file.</source>
+        <translation>El archivo %1 no se puede escribir: de él se leen las estancias. Indique otro archivo.</translation>
+    </message>
+    <message>
+        <source>The file %1 has no rooms; the project %2 keeps those that it has.</source>
+        <translation>El archivo %1 no tiene estancias; el proyecto %2 conserva las suyas.</translation>
+    </message>
+    <message>
+        <source>The file %1 is a database and stays as it is. Name another file for the output.</source>
+        <translation>El archivo %1 es una base de datos y se queda como está. Indique otro archivo para la salida.</translation>
+    </message>
+    <message>
+        <source>The file %1 is a link, which leads to %2, and stays as it is. Name another file for the output.</source>
+        <translation>El archivo %1 es un enlace a %2 y se queda como está. Indique otro archivo para la salida.</translation>
+    </message>
+    <message>
+        <source>The file %1 is no backup of this program&apos;s data: it has no table %2.</source>
+        <translation>El archivo %1 no es una copia de seguridad de los datos de este programa: le falta la tabla %2.</translation>
+    </message>
+    <message>
+        <source>The file %1 is the database itself. Name a backup of it.</source>
+        <translation>El archivo %1 es la propia base de datos. Indique una copia de seguridad de ella.</translation>
+    </message>
+    <message>
+        <source>The file cannot be made</source>
+        <translation>El archivo no se puede crear</translation>
+    </message>
+    <message>
+        <source>The file cannot be read</source>
+        <translation>El archivo no se puede leer</translation>
+    </message>
+    <message>
+        <source>The folder %1 cannot be stored: %2.</source>
+        <translation>La carpeta %1 no se puede grabar en el disco: %2.</translation>
+    </message>
+    <message>
+        <source>The following argument was not expected: %1</source>
+        <translation>Este argumento no se esperaba: %1</translation>
+    </message>
+    <message>
+        <source>The following arguments were not expected: %1</source>
+        <translation>Estos argumentos no se esperaban: %1</translation>
+    </message>
+    <message>
+        <source>The guide does not have this word.</source>
+        <translation>Esta palabra no está en la guía.</translation>
+    </message>
+    <message>
+        <source>The journal %1 cannot be set aside as %2.</source>
+        <translation>El diario %1 no se puede apartar como %2.</translation>
+    </message>
+    <message>
+        <source>The journal beside it is kept as %1.</source>
+        <translation>El diario que había junto a ella se conserva como %1.</translation>
+    </message>
+    <message>
+        <source>The journal beside the file belongs to another state of it and is not used.</source>
+        <translation>El diario que hay junto al archivo es de otro estado de este y no se usa.</translation>
+    </message>
+    <message>
+        <source>The language could not be chosen.</source>
+        <translation>No se pudo elegir el idioma.</translation>
+    </message>
+    <message>
+        <source>The lay must be down, cross or both.</source>
+        <translation>La colocación debe ser a lo largo (down), de través (cross) o ambas (both).</translation>
+    </message>
+    <message>
+        <source>The layout could not be drawn.</source>
+        <translation>No se pudo dibujar la disposición.</translation>
+    </message>
+    <message>
+        <source>The layout could not be improved.</source>
+        <translation>No se pudo mejorar la disposición.</translation>
+    </message>
+    <message>
+        <source>The layout could not be shown.</source>
+        <translation>No se pudo mostrar la disposición.</translation>
+    </message>
+    <message>
+        <source>The length is empty and counts as 0.</source>
+        <translation>El largo está vacío y cuenta como 0.</translation>
+    </message>
+    <message>
+        <source>The length is empty: a new room needs both its sizes.</source>
+        <translation>El largo está vacío: una estancia nueva necesita las dos medidas.</translation>
+    </message>
+    <message>
+        <source>The length of a room can be %1 %2 at most.</source>
+        <translation>El largo de una estancia puede ser de %1 %2 como máximo.</translation>
+    </message>
+    <message>
+        <source>The list of the rooms could not be saved.</source>
+        <translation>No se pudo guardar la lista de estancias.</translation>
+    </message>
+    <message>
+        <source>The list stands on the screen, in the drawing saved as SVG, and in what tarn-estimate --text writes.</source>
+        <translation>La lista está en la pantalla, en el dibujo guardado como SVG y en lo que escribe tarn-estimate --text.</translation>
+    </message>
+    <message>
+        <source>The match pattern &quot;%1&quot; is not readable: write it as 18x24, the repeat across and along.</source>
+        <translation>El rapport «%1» no se entiende: escríbalo como 18x24, a lo ancho y a lo largo.</translation>
+    </message>
+    <message>
+        <source>The match pattern is not correct.</source>
+        <translation>El rapport no es correcto.</translation>
+    </message>
+    <message>
+        <source>The name of the directory &quot;%1&quot; %2</source>
+        <translation>El nombre del directorio «%1» %2</translation>
+    </message>
+    <message>
+        <source>The name of the project &quot;%1&quot; %2</source>
+        <translation>El nombre del proyecto «%1» %2</translation>
+    </message>
+    <message>
+        <source>The next column of the pattern stands half a repeat further along</source>
+        <translation>La siguiente columna del dibujo está medio rapport más adelante</translation>
+    </message>
+    <message>
+        <source>The order could not be opened.</source>
+        <translation>No se pudo abrir el pedido.</translation>
+    </message>
+    <message>
+        <source>The order could not be put on a further page.</source>
+        <translation>El pedido no se pudo pasar a otra página.</translation>
+    </message>
+    <message>
+        <source>The order could not be saved.</source>
+        <translation>No se pudo guardar el pedido.</translation>
+    </message>
+    <message>
+        <source>The paper is too small for the estimate.</source>
+        <translation>El papel es demasiado pequeño para el cálculo.</translation>
+    </message>
+    <message>
+        <source>The paper is too small for the order.</source>
+        <translation>El papel es demasiado pequeño para el pedido.</translation>
+    </message>
+    <message>
+        <source>The pattern across</source>
+        <translation>El dibujo a lo ancho</translation>
+    </message>
+    <message>
+        <source>The pattern along</source>
+        <translation>El dibujo a lo largo</translation>
+    </message>
+    <message>
+        <source>The pattern drift must be 0 to 10 percent.</source>
+        <translation>La deriva del dibujo debe ser de 0 a 10 por ciento.</translation>
+    </message>
+    <message>
+        <source>The picture could not be saved.</source>
+        <translation>No se pudo guardar la imagen.</translation>
+    </message>
+    <message>
+        <source>The price &quot;%1&quot; of the roll %2: a comma is not taken. Write it with a point, as 18.50.</source>
+        <translation>El precio «%1» del rollo %2: no se admite la coma. Escríbalo con punto, como 18.50.</translation>
+    </message>
+    <message>
+        <source>The price of the roll %1 must be a number of 0 or more.</source>
+        <translation>El precio del rollo %1 debe ser un número igual o mayor que 0.</translation>
+    </message>
+    <message>
+        <source>The printer %1 %2.</source>
+        <translation>La impresora %1 %2.</translation>
+    </message>
+    <message>
+        <source>The printer %1 does not tell whether it took the job. %2</source>
+        <translation>La impresora %1 no dice si aceptó el trabajo. %2</translation>
+    </message>
+    <message>
+        <source>The printer %1 is stopped.</source>
+        <translation>La impresora %1 está detenida.</translation>
+    </message>
+    <message>
+        <source>The printer %1 refused the job: %2.</source>
+        <translation>La impresora %1 rechazó el trabajo: %2.</translation>
+    </message>
+    <message>
+        <source>The printer %1 takes no jobs.</source>
+        <translation>La impresora %1 no acepta trabajos.</translation>
+    </message>
+    <message>
+        <source>The printing system (%1) cannot be reached.</source>
+        <translation>No se puede acceder al sistema de impresión (%1).</translation>
+    </message>
+    <message>
+        <source>The printing system does not answer: it hung up.</source>
+        <translation>El sistema de impresión no responde: cortó la conexión.</translation>
+    </message>
+    <message>
+        <source>The printing system does not answer: it keeps silent.</source>
+        <translation>El sistema de impresión no responde: guarda silencio.</translation>
+    </message>
+    <message>
+        <source>The printing system does not let this user in.</source>
+        <translation>El sistema de impresión no admite a este usuario.</translation>
+    </message>
+    <message>
+        <source>The printing system does not name the default printer: %1.</source>
+        <translation>El sistema de impresión no indica la impresora predeterminada: %1.</translation>
+    </message>
+    <message>
+        <source>The printing system refused the request: %1.</source>
+        <translation>El sistema de impresión rechazó la petición: %1.</translation>
+    </message>
+    <message>
+        <source>The program could not be ended.</source>
+        <translation>No se pudo cerrar el programa.</translation>
+    </message>
+    <message>
+        <source>The project %1 cannot be exported: no import would take these rooms. Correct them in the program first; nothing was written.</source>
+        <translation>El proyecto %1 no se puede exportar: ninguna importación admitiría estas estancias. Corríjalas antes en el programa; no se escribió nada.</translation>
+    </message>
+    <message>
+        <source>The project %1 has no saved rooms.</source>
+        <translation>El proyecto %1 no tiene estancias guardadas.</translation>
+    </message>
+    <message>
+        <source>The project %1 is no longer there: another program has renamed or deleted it.<byte value="xd"/>
+Its rooms can be saved as a new project.</source>
+        <translation>El proyecto %1 ya no está: otro programa le cambió el nombre o lo borró.<byte value="xd"/>
+Sus estancias se pueden guardar como proyecto nuevo.</translation>
+    </message>
+    <message>
+        <source>The project %1 is not stored as it should be:</source>
+        <translation>El proyecto %1 no está guardado como debería:</translation>
+    </message>
+    <message>
+        <source>The project could not be deleted.</source>
+        <translation>No se pudo borrar el proyecto.</translation>
+    </message>
+    <message>
+        <source>The project could not be made.</source>
+        <translation>No se pudo crear el proyecto.</translation>
+    </message>
+    <message>
+        <source>The project could not be renamed.</source>
+        <translation>No se pudo cambiar el nombre del proyecto.</translation>
+    </message>
+    <message>
+        <source>The project could not be saved.</source>
+        <translation>No se pudo guardar el proyecto.</translation>
+    </message>
+    <message>
+        <source>The project could not be selected.</source>
+        <translation>No se pudo elegir el proyecto.</translation>
+    </message>
+    <message>
+        <source>The project is full: it can hold 501 rooms.</source>
+        <translation>El proyecto está lleno: caben 501 estancias.</translation>
+    </message>
+    <message>
+        <source>The project name holds a line break or another control character.</source>
+        <translation>El nombre de proyecto contiene un salto de línea u otro carácter de control.</translation>
+    </message>
+    <message>
+        <source>The project needs a name.</source>
+        <translation>El proyecto necesita un nombre.</translation>
+    </message>
+    <message>
+        <source>The project&apos;s sheet holds a wrong value in its field %1.</source>
+        <translation>La hoja del proyecto tiene un valor erróneo en su campo %1.</translation>
+    </message>
+    <message>
+        <source>The projects could not be shown.</source>
+        <translation>No se pudieron mostrar los proyectos.</translation>
+    </message>
+    <message>
+        <source>The report could not be closed.</source>
+        <translation>No se pudo cerrar el informe.</translation>
+    </message>
+    <message>
+        <source>The report could not be made.</source>
+        <translation>No se pudo hacer el informe.</translation>
+    </message>
+    <message>
+        <source>The report could not be printed.</source>
+        <translation>No se pudo imprimir el informe.</translation>
+    </message>
+    <message>
+        <source>The report could not be put on a further page.</source>
+        <translation>El informe no se pudo pasar a otra página.</translation>
+    </message>
+    <message>
+        <source>The report could not be put on paper.</source>
+        <translation>El informe no se pudo pasar al papel.</translation>
+    </message>
+    <message>
+        <source>The report could not be saved.</source>
+        <translation>No se pudo guardar el informe.</translation>
+    </message>
+    <message>
+        <source>The request that is kept for this carpet is in metric and is not used. What you change takes its place.</source>
+        <translation>La petición guardada para esta moqueta es métrica y no se usa. Lo que usted cambie ocupará su lugar.</translation>
+    </message>
+    <message>
+        <source>The roll could not be shown.</source>
+        <translation>No se pudo mostrar el rollo.</translation>
+    </message>
+    <message>
+        <source>The roll is ordered in whole steps (default 3in, 5cm with --metric)</source>
+        <translation>El rollo se pide en pasos enteros (normal 3in, 5cm con --metric)</translation>
+    </message>
+    <message>
+        <source>The roll of %1 counts as %2, a centimetre short of the standard one.</source>
+        <translation>El rollo de %1 cuenta como %2, un centímetro menos que el habitual.</translation>
+    </message>
+    <message>
+        <source>The roll width &quot;%1&quot; is not readable: write it as 12ft, 13.5ft, 12ft6in, 150in or 366cm.</source>
+        <translation>El ancho de rollo «%1» no se entiende: escríbalo como 12ft, 13.5ft, 12ft6in, 150in o 366cm.</translation>
+    </message>
+    <message>
+        <source>The roll width &quot;%1&quot; must be more than 0.</source>
+        <translation>El ancho de rollo «%1» debe ser mayor que 0.</translation>
+    </message>
+    <message>
+        <source>The room could not be deleted.</source>
+        <translation>No se pudo borrar la estancia.</translation>
+    </message>
+    <message>
+        <source>The rooms are pasted. Some sizes are rounded:</source>
+        <translation>Las estancias están pegadas. Algunas medidas están redondeadas:</translation>
+    </message>
+    <message>
+        <source>The rooms could not be opened.</source>
+        <translation>No se pudieron abrir las estancias.</translation>
+    </message>
+    <message>
+        <source>The rooms could not be pasted.</source>
+        <translation>No se pudieron pegar las estancias.</translation>
+    </message>
+    <message>
+        <source>The rooms could not be pasted: nothing was changed.</source>
+        <translation>No se pudieron pegar las estancias: no se cambió nada.</translation>
+    </message>
+    <message>
+        <source>The rooms could not be put back.</source>
+        <translation>No se pudieron restablecer las estancias.</translation>
+    </message>
+    <message>
+        <source>The rooms could not be shown.</source>
+        <translation>No se pudieron mostrar las estancias.</translation>
+    </message>
+    <message>
+        <source>The rooms could not be taken back.</source>
+        <translation>No se pudieron recuperar las estancias.</translation>
+    </message>
+    <message>
+        <source>The rooms of %1 become a new project.<byte value="xd"/>
+What are their sizes in?</source>
+        <translation>Las estancias de %1 pasan a ser un proyecto nuevo.<byte value="xd"/>
+¿En qué están sus medidas?</translation>
+    </message>
+    <message>
+        <source>The rooms; see tarn-estimate --help</source>
+        <translation>Las estancias; vea tarn-estimate --help</translation>
+    </message>
+    <message>
+        <source>The same for so many steps at most, so that the result can be repeated</source>
+        <translation>Lo mismo con tantos pasos como máximo, para que el resultado se pueda repetir</translation>
+    </message>
+    <message>
+        <source>The screen could not be shown.</source>
+        <translation>No se pudo mostrar la pantalla.</translation>
+    </message>
+    <message>
+        <source>The search may take 0 to 3600 seconds.</source>
+        <translation>La búsqueda puede durar de 0 a 3600 segundos.</translation>
+    </message>
+    <message>
+        <source>The selvage</source>
+        <translation>El orillo</translation>
+    </message>
+    <message>
+        <source>The sheet of the project %1 has the number %2; %3</source>
+        <translation>La hoja del proyecto %1 tiene el número %2; %3</translation>
+    </message>
+    <message>
+        <source>The shortest part</source>
+        <translation>El tramo mínimo</translation>
+    </message>
+    <message>
+        <source>The size of a room: %1</source>
+        <translation>La medida de una estancia: %1</translation>
+    </message>
+    <message>
+        <source>The sizes are centimetres; lists and totals are metric</source>
+        <translation>Las medidas son centímetros; listas y totales son métricos</translation>
+    </message>
+    <message>
+        <source>The sizes are inches, also of a project that was entered in metric</source>
+        <translation>Las medidas son pulgadas, también en un proyecto introducido en métrico</translation>
+    </message>
+    <message>
+        <source>The spreadsheet cannot be made: no sheet %1.</source>
+        <translation>No se puede hacer la hoja de cálculo: no hay hoja %1.</translation>
+    </message>
+    <message>
+        <source>The step</source>
+        <translation>El paso</translation>
+    </message>
+    <message>
+        <source>The table %1 cannot be checked</source>
+        <translation>No se puede comprobar la tabla %1</translation>
+    </message>
+    <message>
+        <source>The table %1 has no field %2.</source>
+        <translation>La tabla %1 no tiene el campo %2.</translation>
+    </message>
+    <message>
+        <source>The table %1 is missing.</source>
+        <translation>Falta la tabla %1.</translation>
+    </message>
+    <message>
+        <source>The tables cannot be listed</source>
+        <translation>No se pueden enumerar las tablas</translation>
+    </message>
+    <message>
+        <source>The text could not be shown.</source>
+        <translation>No se pudo mostrar el texto.</translation>
+    </message>
+    <message>
+        <source>The trim across</source>
+        <translation>La demasía a lo ancho</translation>
+    </message>
+    <message>
+        <source>The trim along</source>
+        <translation>La demasía a lo largo</translation>
+    </message>
+    <message>
+        <source>The wall base of room %1 is longer than %2 %3: correct its size or its base.</source>
+        <translation>El rodapié de la estancia %1 mide más de %2 %3: corrija sus medidas o su rodapié.</translation>
+    </message>
+    <message>
+        <source>The whole roll with its list, or the drawing: key D</source>
+        <translation>El rollo entero con su lista, o el dibujo: tecla D</translation>
+    </message>
+    <message>
+        <source>The width is empty and counts as 0.</source>
+        <translation>El ancho está vacío y cuenta como 0.</translation>
+    </message>
+    <message>
+        <source>The width is empty: a new room needs both its sizes.</source>
+        <translation>El ancho está vacío: una estancia nueva necesita las dos medidas.</translation>
+    </message>
+    <message>
+        <source>Then click where the cut list is to stand, or press Enter for the top left of the view.</source>
+        <translation>Haga clic después donde deba ir la lista de corte, o pulse Intro para la parte superior izquierda de la vista.</translation>
+    </message>
+    <message>
+        <source>Then look for a better layout, for so many seconds at most or until it is the least possible, with the parts of a divided fill at %1 by --min-cut; Ctrl+C ends that earlier and keeps the best</source>
+        <translation>Buscar después una disposición mejor, durante tantos segundos como máximo o hasta el mínimo posible, con los tramos de un relleno dividido en %1 según --min-cut; Ctrl+C lo termina antes y conserva la mejor</translation>
+    </message>
+    <message>
+        <source>There are more than %1 strips: choose a wider roll or order the rooms in two projects.</source>
+        <translation>Hay más de %1 tiras: elija un rollo más ancho o pida las estancias en dos proyectos.</translation>
+    </message>
+    <message>
+        <source>There is no backup %1. &quot;tarn-data backups&quot; tells the backups that there are.</source>
+        <translation>No hay copia de seguridad %1. «tarn-data backups» dice cuáles hay.</translation>
+    </message>
+    <message>
+        <source>There is no backup in %1</source>
+        <translation>No hay copias de seguridad en %1</translation>
+    </message>
+    <message>
+        <source>There is no backup of the data as it was before this change.</source>
+        <translation>No hay copia de seguridad de los datos anteriores a este cambio.</translation>
+    </message>
+    <message>
+        <source>There is no data to estimate. Please fill in the room information before estimating.</source>
+        <translation>No hay nada que calcular. Introduzca antes las estancias.</translation>
+    </message>
+    <message>
+        <source>There is no folder for it: the environment names no home.</source>
+        <translation>No hay carpeta para ello: el entorno no indica ninguna carpeta personal.</translation>
+    </message>
+    <message>
+        <source>There is no home directory for the configuration file; name a directory with --config-dir.</source>
+        <translation>No hay carpeta personal para el archivo de configuración; indique un directorio con --config-dir.</translation>
+    </message>
+    <message>
+        <source>There is no printer %1.</source>
+        <translation>No hay ninguna impresora %1.</translation>
+    </message>
+    <message>
+        <source>There is no project %1. &quot;tarn-data list&quot; tells the projects that there are.</source>
+        <translation>No hay proyecto %1. «tarn-data list» dice cuáles hay.</translation>
+    </message>
+    <message>
+        <source>There is no roll to order from: name its width.</source>
+        <translation>No hay rollo del que pedir: indique su ancho.</translation>
+    </message>
+    <message>
+        <source>There is no room in it.</source>
+        <translation>No contiene ninguna estancia.</translation>
+    </message>
+    <message>
+        <source>There is one project with the same name, change to other one!</source>
+        <translation>Ya hay un proyecto con ese nombre, ¡elija otro!</translation>
+    </message>
+    <message>
+        <source>This is not in the guide, and the program opens nothing else: %1</source>
+        <translation>Esto no está en la guía, y el programa no abre nada más: %1</translation>
+    </message>
+    <message>
+        <source>Tile-%1: %2 SQ. FT.  Tile Base: %3 FEET</source>
+        <translation>Loseta-%1: %2 ft²  Rodapié: %3 PIES</translation>
+    </message>
+    <message>
+        <source>Tile-%1: %2 SQ. Meters.  Tile Base: %3 CM</source>
+        <translation>Loseta-%1: %2 m²  Rodapié: %3 CM</translation>
+    </message>
+    <message>
+        <source>Time used</source>
+        <translation>Tiempo empleado</translation>
+    </message>
+    <message>
+        <source>To</source>
+        <translation>A</translation>
+    </message>
+    <message>
+        <source>To be ordered</source>
+        <translation>A pedir</translation>
+    </message>
+    <message>
+        <source>Total BASE: %1 CM</source>
+        <translation>Rodapié total: %1 CM</translation>
+    </message>
+    <message>
+        <source>Total BASE: %1 FEET</source>
+        <translation>Rodapié total: %1 PIES</translation>
+    </message>
+    <message>
+        <source>Total Cuts:%1   Total Cut-Len:%2</source>
+        <translation>Cortes: %1   Largo de cortes: %2</translation>
+    </message>
+    <message>
+        <source>Total Fills:%1   Total Fill-Len:%2</source>
+        <translation>Rellenos: %1   Largo de rellenos: %2</translation>
+    </message>
+    <message>
+        <source>Total Length:%1</source>
+        <translation>Largo total: %1</translation>
+    </message>
+    <message>
+        <source>Total Match Pattern Length: %1</source>
+        <translation>Largo total con rapport: %1</translation>
+    </message>
+    <message>
+        <source>Total Match Pattern Size: %1 SQ. FT.   %2 SQ. Yards</source>
+        <translation>Superficie total con rapport: %1 ft²   %2 yd²</translation>
+    </message>
+    <message>
+        <source>Total Match Pattern Size: %1 SQ. Meters   </source>
+        <translation>Superficie total con rapport: %1 m²   </translation>
+    </message>
+    <message>
+        <source>Total SQ. FT.:%1</source>
+        <translation>Total ft²: %1</translation>
+    </message>
+    <message>
+        <source>Total SQ. Meters:%1</source>
+        <translation>Total m²: %1</translation>
+    </message>
+    <message>
+        <source>Total SQ. Yards:%1</source>
+        <translation>Total yd²: %1</translation>
+    </message>
+    <message>
+        <source>Triggers of another program, which may change or refuse what is stored</source>
+        <translation>Disparadores de otro programa, que pueden cambiar o rechazar lo que se guarda</translation>
+    </message>
+    <message>
+        <source>Trim</source>
+        <translation>Demasía</translation>
+    </message>
+    <message>
+        <source>Trimmed sq. ft.</source>
+        <translation>Con demasía ft²</translation>
+    </message>
+    <message>
+        <source>Trimmed sq. m</source>
+        <translation>Con demasía m²</translation>
+    </message>
+    <message>
+        <source>Usable width</source>
+        <translation>Ancho útil</translation>
+    </message>
+    <message>
+        <source>WIDTH</source>
+        <translation>ANCHO</translation>
+    </message>
+    <message>
+        <source>Wall base</source>
+        <translation>Rodapié</translation>
+    </message>
+    <message>
+        <source>Warning: %1</source>
+        <translation>Aviso: %1</translation>
+    </message>
+    <message>
+        <source>Warning: Delete directory will make data under this directory lost!<byte value="xd"/>
+Do you want to continue deleting?</source>
+        <translation>Atención: ¡al borrar el directorio se perderán los datos que contiene!<byte value="xd"/>
+¿Quiere borrarlo de todos modos?</translation>
+    </message>
+    <message>
+        <source>Warning: the project %1 was entered in metric; its sizes are listed in feet and inches. Use --metric for centimetres.</source>
+        <translation>Aviso: el proyecto %1 se introdujo en métrico; sus medidas se enumeran en pies y pulgadas. Use --metric para centímetros.</translation>
+    </message>
+    <message>
+        <source>Warning: the project %1 was entered in metric; its sizes are written in centimetres. Use --metric to read them.</source>
+        <translation>Aviso: el proyecto %1 se introdujo en métrico; sus medidas se escriben en centímetros. Use --metric para leerlas.</translation>
+    </message>
+    <message>
+        <source>Warning: the rooms of %1 have no area; there is nothing to cut.</source>
+        <translation>Aviso: las estancias de %1 no tienen superficie; no hay nada que cortar.</translation>
+    </message>
+    <message>
+        <source>Waste</source>
+        <translation>Desperdicio</translation>
+    </message>
+    <message>
+        <source>Waste %</source>
+        <translation>Desperdicio %</translation>
+    </message>
+    <message>
+        <source>What another program put there, left out</source>
+        <translation>Lo que otro programa puso ahí, omitido</translation>
+    </message>
+    <message>
+        <source>What else the project needs</source>
+        <translation>Qué más necesita el proyecto</translation>
+    </message>
+    <message>
+        <source>What to buy</source>
+        <translation>Qué comprar</translation>
+    </message>
+    <message>
+        <source>What was there is kept as %1.</source>
+        <translation>Lo que había se conserva como %1.</translation>
+    </message>
+    <message>
+        <source>Which</source>
+        <translation>Cuál</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>Ancho</translation>
+    </message>
+    <message>
+        <source>Width and length are empty and count as 0.</source>
+        <translation>El ancho y el largo están vacíos y cuentan como 0.</translation>
+    </message>
+    <message>
+        <source>Width of the roll: 12ft, 13.5ft, 12ft6in, 150in or 366cm</source>
+        <translation>Ancho del rollo: 12ft, 13.5ft, 12ft6in, 150in o 366cm</translation>
+    </message>
+    <message>
+        <source>With an unknown covering, not estimated until one is chosen</source>
+        <translation>Con un material desconocido, no se calcula hasta elegir uno</translation>
+    </message>
+    <message>
+        <source>With an unknown wall base, shown as none</source>
+        <translation>Con un rodapié desconocido, se muestra como ninguno</translation>
+    </message>
+    <message>
+        <source>Without a covering, read as %1</source>
+        <translation>Sin material, se lee como %1</translation>
+    </message>
+    <message>
+        <source>Without a room number, read as</source>
+        <translation>Sin número de estancia, se lee como</translation>
+    </message>
+    <message>
+        <source>Without a wall base, read as none</source>
+        <translation>Sin rodapié, se lee como ninguno</translation>
+    </message>
+    <message>
+        <source>Without a width or a length, read as 0</source>
+        <translation>Sin ancho o sin largo, se lee como 0</translation>
+    </message>
+    <message>
+        <source>Write a clean copy of all that can be read</source>
+        <translation>Escribir una copia limpia de todo lo que se puede leer</translation>
+    </message>
+    <message>
+        <source>Write a project&apos;s rooms as CSV</source>
+        <translation>Escribir las estancias de un proyecto como CSV</translation>
+    </message>
+    <message>
+        <source>Write comparison and list as text (on standard output when no other output is asked for)</source>
+        <translation>Escribir la comparación y la lista como texto (en la salida estándar si no se pide otra salida)</translation>
+    </message>
+    <message>
+        <source>Write comparison and pieces as CSV</source>
+        <translation>Escribir la comparación y las piezas como CSV</translation>
+    </message>
+    <message>
+        <source>Write comparison and pieces as a spreadsheet</source>
+        <translation>Escribir la comparación y las piezas como hoja de cálculo</translation>
+    </message>
+    <message>
+        <source>Write cuts, pieces and totals as JSON</source>
+        <translation>Escribir cortes, piezas y totales como JSON</translation>
+    </message>
+    <message>
+        <source>Write it as CSV instead</source>
+        <translation>Escribirlo como CSV en su lugar</translation>
+    </message>
+    <message>
+        <source>Write it as a spreadsheet instead</source>
+        <translation>Escribirlo como hoja de cálculo en su lugar</translation>
+    </message>
+    <message>
+        <source>Write over a database too, and where a symbolic link leads</source>
+        <translation>Escribir también sobre una base de datos, y adonde lleve un enlace simbólico</translation>
+    </message>
+    <message>
+        <source>Write requests, comparison and pieces as JSON</source>
+        <translation>Escribir peticiones, comparación y piezas como JSON</translation>
+    </message>
+    <message>
+        <source>Write the cut list to FILE, or to standard output for - (done when no other output is asked for)</source>
+        <translation>Escribir la lista de corte en FILE, o en la salida estándar con - (así se hace si no se pide otra salida)</translation>
+    </message>
+    <message>
+        <source>Write the drawing of the layout with the cut list</source>
+        <translation>Escribir el dibujo de la disposición con la lista de corte</translation>
+    </message>
+    <message>
+        <source>Write the page that the program prints, for the paper of the default printer (A4 without one)</source>
+        <translation>Escribir la página que imprime el programa, para el papel de la impresora predeterminada (A4 si no hay)</translation>
+    </message>
+    <message>
+        <source>Write the pages of one carpet&apos;s sheet below each other as a drawing (with --carpet when there are several)</source>
+        <translation>Escribir las páginas de la hoja de una moqueta una bajo otra como dibujo (con --carpet si hay varias)</translation>
+    </message>
+    <message>
+        <source>Write the roll of one carpet&apos;s best row true to size for a plotter or cutting table, along X, in inches (centimetres with --metric)</source>
+        <translation>Escribir el rollo de la mejor fila de una moqueta a tamaño real para un plóter o una mesa de corte, a lo largo de X, en pulgadas (centímetros con --metric)</translation>
+    </message>
+    <message>
+        <source>Write the sheet to buy and cut by, of all carpets, as it is printed; A4 unless the printer has another paper</source>
+        <translation>Escribir la hoja de pedido y corte de todas las moquetas, tal como se imprime; A4 si la impresora no tiene otro papel</translation>
+    </message>
+    <message>
+        <source>Write the whole roll, cuts and fills, true to size for a plotter or cutting table, along X, in inches (centimetres with --metric)</source>
+        <translation>Escribir todo el rollo, cortes y rellenos, a tamaño real para un plóter o una mesa de corte, a lo largo de X, en pulgadas (centímetros con --metric)</translation>
+    </message>
+    <message>
+        <source>Write them as a spreadsheet, with the totals by covering</source>
+        <translation>Escribirlas como hoja de cálculo, con los totales por revestimiento</translation>
+    </message>
+    <message>
+        <source>You should enter L or W with 1 or 2 to be calculated</source>
+        <translation>Escriba L o W con 1 o 2 para que se calcule</translation>
+    </message>
+    <message>
+        <source>Zoom: + and −, or Ctrl and wheel.  0: actual size.  Double click: everything.</source>
+        <translation>Zoom: + y −, o Ctrl y rueda.  0: tamaño real.  Doble clic: todo.</translation>
+    </message>
+    <message>
+        <source>a PDF document</source>
+        <translation>un documento PDF</translation>
+    </message>
+    <message>
+        <source>a column has no name</source>
+        <translation>una columna no tiene nombre</translation>
+    </message>
+    <message>
+        <source>a part of it is missing</source>
+        <translation>falta una parte de él</translation>
+    </message>
+    <message>
+        <source>a refused row has figures</source>
+        <translation>una fila rechazada tiene cifras</translation>
+    </message>
+    <message>
+        <source>a room that was being typed</source>
+        <translation>una estancia que se estaba escribiendo</translation>
+    </message>
+    <message>
+        <source>an Excel workbook (XLSX)</source>
+        <translation>un libro de Excel (XLSX)</translation>
+    </message>
+    <message>
+        <source>an archive (ZIP), as spreadsheets such as XLSX and ODS are</source>
+        <translation>un archivo comprimido (ZIP), como lo son las hojas de cálculo XLSX y ODS</translation>
+    </message>
+    <message>
+        <source>an older Excel workbook (XLS) or another Office file</source>
+        <translation>un libro de Excel antiguo (XLS) u otro archivo de Office</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>y %1 más</translation>
+    </message>
+    <message numerus="yes">
+        <source>and %n more mistake</source>
+        <comment>and %n more mistakes</comment>
+        <translation>
+            <numerusform>y %n error más</numerusform>
+            <numerusform>y %n errores más</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>another program is using the database. Close that program and try again.</source>
+        <translation>otro programa está usando la base de datos. Ciérrelo e inténtelo de nuevo.</translation>
+    </message>
+    <message>
+        <source>at most %1 above the least possible</source>
+        <translation>como máximo %1 por encima del mínimo posible</translation>
+    </message>
+    <message>
+        <source>at most %1, none shorter than %2</source>
+        <translation>%1 como máximo, ninguno más corto que %2</translation>
+    </message>
+    <message>
+        <source>at most %1, none shorter than %2, of rooms too</source>
+        <translation>%1 como máximo, ninguno más corto que %2, también en estancias</translation>
+    </message>
+    <message>
+        <source>beside %1</source>
+        <translation>junto a %1</translation>
+    </message>
+    <message>
+        <source>best</source>
+        <translation>mejor</translation>
+    </message>
+    <message>
+        <source>can be laid instead of the layout shown.</source>
+        <translation>se puede colocar en lugar de la disposición mostrada.</translation>
+    </message>
+    <message>
+        <source>cannot be loaded: %1</source>
+        <translation>no se puede cargar: %1</translation>
+    </message>
+    <message>
+        <source>cannot be read</source>
+        <translation>no se puede leer</translation>
+    </message>
+    <message>
+        <source>change room %1</source>
+        <translation>cambiar estancia %1</translation>
+    </message>
+    <message>
+        <source>change rooms</source>
+        <translation>cambiar estancias</translation>
+    </message>
+    <message>
+        <source>chosen</source>
+        <translation>elegido</translation>
+    </message>
+    <message>
+        <source>column %1: the byte %2 is none of %3</source>
+        <translation>carácter %1: el byte %2 no existe en %3</translation>
+    </message>
+    <message>
+        <source>cross: room lengths across the roll</source>
+        <translation>de través: el largo de las estancias a lo ancho del rollo</translation>
+    </message>
+    <message>
+        <source>delete room %1</source>
+        <translation>borrar estancia %1</translation>
+    </message>
+    <message>
+        <source>down</source>
+        <translation>a lo largo</translation>
+    </message>
+    <message>
+        <source>down: room widths across the roll</source>
+        <translation>a lo largo: el ancho de las estancias a lo ancho del rollo</translation>
+    </message>
+    <message>
+        <source>down: room widths across the roll (default); cross: room lengths</source>
+        <translation>down: el ancho de las estancias a lo ancho del rollo (normal); cross: el largo</translation>
+    </message>
+    <message>
+        <source>down: room widths across the roll; cross: room lengths</source>
+        <translation>down: el ancho de las estancias a lo ancho del rollo; cross: el largo</translation>
+    </message>
+    <message>
+        <source>drop %1 of %2</source>
+        <translation>paño %1 de %2</translation>
+    </message>
+    <message>
+        <source>either --database and --project, or --rooms is required</source>
+        <translation>se necesitan --database y --project, o bien --rooms</translation>
+    </message>
+    <message>
+        <source>field</source>
+        <translation>un campo</translation>
+    </message>
+    <message>
+        <source>field &quot;%1&quot;</source>
+        <translation>el campo «%1»</translation>
+    </message>
+    <message>
+        <source>field %1 of %2</source>
+        <translation>campo %1 de %2</translation>
+    </message>
+    <message>
+        <source>fills less than 0.1% shorter</source>
+        <translation>rellenos menos de un 0.1% más cortos</translation>
+    </message>
+    <message>
+        <source>has a paper jam</source>
+        <translation>tiene un atasco de papel</translation>
+    </message>
+    <message>
+        <source>has an open cover</source>
+        <translation>tiene una cubierta abierta</translation>
+    </message>
+    <message>
+        <source>has an open door</source>
+        <translation>tiene una puerta abierta</translation>
+    </message>
+    <message>
+        <source>has more than %1 characters</source>
+        <translation>tiene más de %1 caracteres</translation>
+    </message>
+    <message>
+        <source>holds U+FFFE or U+FFFF, which are no characters.</source>
+        <translation>contiene U+FFFE o U+FFFF, que no son caracteres.</translation>
+    </message>
+    <message>
+        <source>holds a character that no name may</source>
+        <translation>contiene un carácter que ningún nombre puede tener</translation>
+    </message>
+    <message>
+        <source>holds a line break or another control character.</source>
+        <translation>contiene un salto de línea u otro carácter de control.</translation>
+    </message>
+    <message>
+        <source>holds what no text may: a control character, U+FFFE, U+FFFF, or bytes that are not UTF-8</source>
+        <translation>contiene lo que ningún texto puede tener: un carácter de control, U+FFFE, U+FFFF o bytes que no son UTF-8</translation>
+    </message>
+    <message>
+        <source>inches</source>
+        <translation>pulgadas</translation>
+    </message>
+    <message>
+        <source>is no number above 0</source>
+        <translation>no es un número mayor que 0</translation>
+    </message>
+    <message>
+        <source>is no text</source>
+        <translation>no es un texto</translation>
+    </message>
+    <message>
+        <source>is no whole number from %1 to %2</source>
+        <translation>no es un número entero de %1 a %2</translation>
+    </message>
+    <message>
+        <source>is not UTF-8: the terminal that it was typed in writes another code.</source>
+        <translation>no es UTF-8: el terminal en que se escribió usa otra codificación.</translation>
+    </message>
+    <message>
+        <source>is not as names are stored: in upper case, without blanks at its ends</source>
+        <translation>no está como se guardan los nombres: en mayúsculas, sin espacios en los extremos</translation>
+    </message>
+    <message>
+        <source>is out of ink or toner</source>
+        <translation>no tiene tinta ni tóner</translation>
+    </message>
+    <message>
+        <source>is out of paper</source>
+        <translation>no tiene papel</translation>
+    </message>
+    <message>
+        <source>is out of toner</source>
+        <translation>no tiene tóner</translation>
+    </message>
+    <message>
+        <source>it cannot be moved into its folder, or another program made it meanwhile</source>
+        <translation>no se puede mover a su carpeta, u otro programa lo creó entretanto</translation>
+    </message>
+    <message>
+        <source>it is a device. Save what comes from it in a file and name that</source>
+        <translation>es un dispositivo. Guarde en un archivo lo que sale de él e indique ese archivo</translation>
+    </message>
+    <message>
+        <source>it is a folder</source>
+        <translation>es una carpeta</translation>
+    </message>
+    <message>
+        <source>it is a pipe. Save what comes from it in a file and name that</source>
+        <translation>es una tubería. Guarde en un archivo lo que sale de ella e indique ese archivo</translation>
+    </message>
+    <message>
+        <source>it is read-only</source>
+        <translation>es de solo lectura</translation>
+    </message>
+    <message>
+        <source>it is there already</source>
+        <translation>ya existe</translation>
+    </message>
+    <message>
+        <source>it is there already and stays as it is</source>
+        <translation>ya existe y se queda como está</translation>
+    </message>
+    <message>
+        <source>it must be a whole one.</source>
+        <translation>debe ser entero.</translation>
+    </message>
+    <message>
+        <source>its folder cannot be made</source>
+        <translation>no se puede crear su carpeta</translation>
+    </message>
+    <message>
+        <source>its folder takes no files</source>
+        <translation>su carpeta no admite archivos</translation>
+    </message>
+    <message>
+        <source>larger free end</source>
+        <translation>extremo libre mayor</translation>
+    </message>
+    <message>
+        <source>line %1: %2</source>
+        <translation>línea %1: %2</translation>
+    </message>
+    <message>
+        <source>not every strip is laid</source>
+        <translation>no todas las tiras están colocadas</translation>
+    </message>
+    <message>
+        <source>nothing reads from it</source>
+        <translation>nadie lee de él</translation>
+    </message>
+    <message>
+        <source>number %1 of %2</source>
+        <translation>número %1 de %2</translation>
+    </message>
+    <message>
+        <source>number %1 of no name</source>
+        <translation>número %1 sin nombre</translation>
+    </message>
+    <message>
+        <source>one without a number</source>
+        <translation>una sin número</translation>
+    </message>
+    <message>
+        <source>part %1 of %2</source>
+        <translation>tramo %1 de %2</translation>
+    </message>
+    <message>
+        <source>piece %1 belongs to no room</source>
+        <translation>la pieza %1 no pertenece a ninguna estancia</translation>
+    </message>
+    <message>
+        <source>piece %1 does not begin where its strip does</source>
+        <translation>la pieza %1 no empieza donde empieza su tira</translation>
+    </message>
+    <message>
+        <source>piece %1 does not know its strips</source>
+        <translation>la pieza %1 no conoce sus tiras</translation>
+    </message>
+    <message>
+        <source>piece %1 has no length</source>
+        <translation>la pieza %1 no tiene largo</translation>
+    </message>
+    <message>
+        <source>piece %1 is not as wide as its strip</source>
+        <translation>la pieza %1 no es tan ancha como su tira</translation>
+    </message>
+    <message>
+        <source>piece %1 is not on the roll</source>
+        <translation>la pieza %1 no está en el rollo</translation>
+    </message>
+    <message>
+        <source>pieces %1 and %2 do not match across the roll</source>
+        <translation>las piezas %1 y %2 no casan a lo ancho del rollo</translation>
+    </message>
+    <message>
+        <source>pieces %1 and %2 do not match along the roll</source>
+        <translation>las piezas %1 y %2 no casan a lo largo del rollo</translation>
+    </message>
+    <message>
+        <source>pieces %1 and %2 overlap</source>
+        <translation>las piezas %1 y %2 se solapan</translation>
+    </message>
+    <message>
+        <source>refused</source>
+        <translation>rechazado</translation>
+    </message>
+    <message>
+        <source>room %1 (%2)</source>
+        <translation>estancia %1 (%2)</translation>
+    </message>
+    <message>
+        <source>room %1: %2</source>
+        <translation>estancia %1: %2</translation>
+    </message>
+    <message>
+        <source>row %1</source>
+        <translation>fila %1</translation>
+    </message>
+    <message>
+        <source>something that is no file stands in its place</source>
+        <translation>en su lugar hay algo que no es un archivo</translation>
+    </message>
+    <message>
+        <source>take back rooms of %1</source>
+        <translation>recuperar estancias del %1</translation>
+    </message>
+    <message>
+        <source>the CSV</source>
+        <translation>el CSV</translation>
+    </message>
+    <message>
+        <source>the area bought is wrong</source>
+        <translation>la superficie comprada es errónea</translation>
+    </message>
+    <message>
+        <source>the area of the rooms is wrong</source>
+        <translation>la superficie de las estancias es errónea</translation>
+    </message>
+    <message>
+        <source>the database file is damaged (%1). %2</source>
+        <translation>la base de datos está dañada (%1). %2</translation>
+    </message>
+    <message>
+        <source>the database is read-only. Allow writing to the file and to its folder.</source>
+        <translation>la base de datos es de solo lectura. Permita escribir en el archivo y en su carpeta.</translation>
+    </message>
+    <message>
+        <source>the disk does not confirm that it keeps the change, which may be there all the same. Look whether it is.</source>
+        <translation>el disco no confirma que conserva el cambio, que puede estar ahí de todos modos. Compruébelo.</translation>
+    </message>
+    <message>
+        <source>the disk is full. Free some space and try again.</source>
+        <translation>el disco está lleno. Libere espacio e inténtelo de nuevo.</translation>
+    </message>
+    <message>
+        <source>the disk reports an error (%1).</source>
+        <translation>el disco comunica un error (%1).</translation>
+    </message>
+    <message>
+        <source>the file is empty</source>
+        <translation>el archivo está vacío</translation>
+    </message>
+    <message>
+        <source>the folder &quot;%1&quot; cannot be named in it</source>
+        <translation>la carpeta «%1» no se puede indicar en él</translation>
+    </message>
+    <message>
+        <source>the greatest is %1.</source>
+        <translation>el mayor es %1.</translation>
+    </message>
+    <message>
+        <source>the labels are not in a row</source>
+        <translation>las letras no van seguidas</translation>
+    </message>
+    <message>
+        <source>the least length is above the length needed</source>
+        <translation>el largo mínimo es mayor que el necesario</translation>
+    </message>
+    <message>
+        <source>the least possible</source>
+        <translation>el mínimo posible</translation>
+    </message>
+    <message>
+        <source>the length needed is not the end of the last piece</source>
+        <translation>el largo necesario no es el final de la última pieza</translation>
+    </message>
+    <message>
+        <source>the length to be ordered is wrong</source>
+        <translation>el largo que se pide es erróneo</translation>
+    </message>
+    <message>
+        <source>the line has %1 columns; a room has %2</source>
+        <translation>la línea tiene %1 columnas; una estancia tiene %2</translation>
+    </message>
+    <message>
+        <source>the line has %1 fields and the header %2</source>
+        <translation>campos en la línea: %1; en el encabezado: %2</translation>
+    </message>
+    <message>
+        <source>the pieces are not in cutting order</source>
+        <translation>las piezas no están en orden de corte</translation>
+    </message>
+    <message>
+        <source>the price is missing or made up</source>
+        <translation>el precio falta o es inventado</translation>
+    </message>
+    <message>
+        <source>the price is wrong</source>
+        <translation>el precio es erróneo</translation>
+    </message>
+    <message>
+        <source>the price must be a number of 0 or more.</source>
+        <translation>el precio debe ser un número igual o mayor que 0.</translation>
+    </message>
+    <message>
+        <source>the project %1</source>
+        <translation>el proyecto %1</translation>
+    </message>
+    <message>
+        <source>the projects %1</source>
+        <translation>los proyectos %1</translation>
+    </message>
+    <message>
+        <source>the roll&apos;s width is not its whole units</source>
+        <translation>el ancho del rollo no está en unidades enteras</translation>
+    </message>
+    <message>
+        <source>the rows are not in their order</source>
+        <translation>las filas no están en su orden</translation>
+    </message>
+    <message>
+        <source>the same way on all pieces: see the arrows</source>
+        <translation>en el mismo sentido en todas las piezas: vea las flechas</translation>
+    </message>
+    <message>
+        <source>the seams or joins are not counted right</source>
+        <translation>las juntas o empalmes no están bien contados</translation>
+    </message>
+    <message>
+        <source>the strip of piece %1 does not have its parts numbered</source>
+        <translation>los tramos de la tira de la pieza %1 no están numerados</translation>
+    </message>
+    <message>
+        <source>the strip of piece %1 has a part that is too short</source>
+        <translation>la tira de la pieza %1 tiene un tramo demasiado corto</translation>
+    </message>
+    <message>
+        <source>the strip of piece %1 has parts that do not follow each other</source>
+        <translation>los tramos de la tira de la pieza %1 no van seguidos</translation>
+    </message>
+    <message>
+        <source>the strip of piece %1 has too many parts</source>
+        <translation>la tira de la pieza %1 tiene demasiados tramos</translation>
+    </message>
+    <message>
+        <source>the strip of piece %1 is not laid whole</source>
+        <translation>la tira de la pieza %1 no está colocada entera</translation>
+    </message>
+    <message>
+        <source>the text has more than %1 MB</source>
+        <translation>el texto tiene más de %1 MB</translation>
+    </message>
+    <message>
+        <source>the usable width is not what the selvage leaves</source>
+        <translation>el ancho útil no es lo que deja el orillo</translation>
+    </message>
+    <message>
+        <source>the waste is wrong</source>
+        <translation>el desperdicio es erróneo</translation>
+    </message>
+    <message numerus="yes">
+        <source>there are no headings, and %n column: without headings they are %1, of which the first %2 are needed</source>
+        <comment>there are no headings, and %n columns: without headings they are %1, of which the first %2 are needed</comment>
+        <translation>
+            <numerusform>no hay encabezados y solo hay %n columna: sin encabezados son %1, de las que hacen falta las %2 primeras</numerusform>
+            <numerusform>no hay encabezados y hay %n columnas: sin encabezados son %1, de las que hacen falta las %2 primeras</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>there is no text to paste</source>
+        <translation>no hay ningún texto que pegar</translation>
+    </message>
+    <message>
+        <source>there is not a row for each roll and lay</source>
+        <translation>no hay una fila para cada rollo y colocación</translation>
+    </message>
+    <message>
+        <source>this one is %1</source>
+        <translation>para esta vale: %1</translation>
+    </message>
+    <message>
+        <source>write the repeat across and along, as 18x24.</source>
+        <translation>escriba el rapport a lo ancho y a lo largo, como 18x24.</translation>
     </message>
     <message>
         <location filename="../src/base/RunTimeError.cpp"/>
@@ -463,6 +3639,21 @@
         <location filename="../src/files/RollDxf.cpp"/>
         <source>There is no roll to draw: every roll and lay is refused.</source>
         <translation>No hay rollo que dibujar: todos los rollos y colocaciones se rechazan.</translation>
+    </message>
+    <message>
+        <location filename="../src/files/RoomCsv.cpp"/>
+        <source>%1 has a comma: write %2, or %3</source>
+        <translation>%1 tiene una coma: escriba %2 o %3</translation>
+    </message>
+    <message>
+        <location filename="../src/files/RoomCsv.cpp"/>
+        <source>column &quot;%1&quot;</source>
+        <translation>la columna «%1»</translation>
+    </message>
+    <message>
+        <location filename="../src/files/RoomCsv.cpp"/>
+        <source>the file is %1; open it in a spreadsheet and save it as CSV</source>
+        <translation>el archivo es %1; ábralo en una hoja de cálculo y guárdelo como CSV</translation>
     </message>
     <message>
         <location filename="../src/files/Spreadsheet.cpp"/>
@@ -4347,14 +7538,9 @@ Con «No» no se crea nada y el programa termina.</translation>
         <translation>La base de datos %1 no se puede revisar: la carpeta de archivos temporales no admite ninguno.</translation>
     </message>
     <message>
-        <location filename="../src/tools/CareCommands.cpp"/>
-        <source>%1, see tarn-data check</source>
-        <translation>%1, vea tarn-data check</translation>
-    </message>
-    <message>
-        <location filename="../src/tools/CareCommands.cpp"/>
-        <source>%1, sound</source>
-        <translation>%1, correcta</translation>
+        <location filename="../src/tools/ArgumentErrors.cpp"/>
+        <source>A subcommand is required</source>
+        <translation>Hace falta una orden</translation>
     </message>
     <message numerus="yes">
         <location filename="../src/tools/CareCommands.cpp"/>
@@ -4497,13 +7683,8 @@ Con «No» no se crea nada y el programa termina.</translation>
     </message>
     <message>
         <location filename="../src/tools/DataOptions.cpp"/>
-        <source>Database file</source>
-        <translation>Archivo de la base de datos</translation>
-    </message>
-    <message>
-        <location filename="../src/tools/DataOptions.cpp"/>
-        <source>Make and look after the data of the estimating program.</source>
-        <translation>Crea y cuida los datos del programa de cálculo.</translation>
+        <source>Subcommands</source>
+        <translation>Órdenes</translation>
     </message>
     <message>
         <location filename="../src/tools/DataOptions.cpp"/>

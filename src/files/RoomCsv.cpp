@@ -5,6 +5,7 @@
 #include "base/Numbers.h"
 #include "base/TakeNumber.h"
 #include "base/Text.h"
+#include "base/Words.h"
 #include "files/CsvText.h"
 #include "files/ForeignFile.h"
 #include "files/RoomHeadings.h"
@@ -18,6 +19,7 @@
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <functional>
 #include <limits>
 #include <optional>
 #include <utility>
@@ -25,8 +27,6 @@
 namespace tarn {
 
 namespace {
-
-constexpr std::string_view SaveAsUtf8 = "; save it as UTF-8 (\"CSV UTF-8\" in a spreadsheet)";
 
 bool IsDigits(std::string_view text) {
     return !text.empty() && text.find_first_not_of(DecimalDigits) == std::string_view::npos;
@@ -36,10 +36,56 @@ std::string Counted(std::size_t count) {
     return TrimStr(static_cast<long long>(count));
 }
 
+/// A value for one line of text: control characters as blanks, invalid bytes as replacement
+/// characters, and not too long.
+std::string Shown(std::string_view value) {
+    constexpr std::size_t Most = 40; // characters, of which those beyond U+FFFF count twice
+    constexpr unsigned char FirstOfFourBytes = 0xF0;
+    std::string line = WellFormedText(OneLine(value));
+    std::size_t count = 0;
+    for (std::size_t at = 0; at < line.size(); ++at) {
+        if (ContinuesCharacter(line[at])) {
+            continue;
+        }
+        count += static_cast<unsigned char>(line[at]) >= FirstOfFourBytes ? 2 : 1;
+        if (count > Most) {
+            return line.substr(0, at) + "...";
+        }
+    }
+    return line;
+}
+
+/// A cell of the table.
+struct Cell {
+    std::string_view Field; ///< of a room; empty for a heading, and below none that is known
+    std::string_view Value;
+    bool IsHeading = false;
+};
+
+/// A cell as its mistakes name it.
+std::string CellText(const Cell& cell) {
+    const std::string value = Shown(cell.Value);
+    if (cell.IsHeading) {
+        return Words("column \"%1\"", value);
+    }
+    if (cell.Field.empty()) {
+        return cell.Value.empty() ? std::string(Words("field")) : Words("field \"%1\"", value);
+    }
+    return cell.Value.empty() ? std::string(cell.Field) : Words("%1 \"%2\"", cell.Field, value);
+}
+
 // Each of the following sets one field of a room and answers what is wrong with the text, or
 // nothing.
 
-using Problem = std::string;
+/// What is wrong with a cell, or else to be said of it: the sentence for the cell's text; none when
+/// nothing is.
+using Problem = std::function<std::string(const std::string& cell)>;
+
+/// The problem of a sentence with the cell as %1 and `more` as %2, %3, ..
+template <typename... More>
+Problem Says(Phrase sentence, More... more) {
+    return [=](const std::string& cell) { return Words(sentence, cell, more...); };
+}
 
 /// What a size column holds.
 struct SizeColumn {
@@ -62,13 +108,13 @@ Problem CommaProblem(std::string_view text, const SizeColumn& column) {
     const std::string point = whole + "." + places;
     constexpr std::size_t Thousand = 3;
     if (places.size() == Thousand) { // 1,200 may be one as well as the other
-        return "has a comma: write " + point + ", or " + whole + places;
+        return Says(Words("%1 has a comma: write %2, or %3"), point, whole + places);
     }
     if (column.Unit) {
-        return "has a decimal comma: write " + point;
+        return Says(Words("%1 has a decimal comma: write %2"), point);
     }
-    return "has a decimal comma: write " + point + " below a heading with its unit, such as " +
-           (column.In == Units::Metric ? "width (m)" : "width (ft)");
+    return Says(Words("%1 has a decimal comma: write %2 below a heading with its unit, such as %3"),
+                point, std::string(column.In == Units::Metric ? "width (m)" : "width (ft)"));
 }
 
 /// The size of a whole number, or of feet and inches. A size too large for a room is one more than
@@ -115,13 +161,14 @@ std::optional<Double> SizeInUnit(std::string_view text, const SizeColumn& column
                                            : std::nullopt;
 }
 
-std::string_view NoSize(const SizeColumn& column) {
+Phrase NoSize(const SizeColumn& column) {
     if (column.In == Units::Metric) {
-        return column.Unit ? "is not a size such as 3.45 or 3.45m"
-                           : "is not a size in whole centimetres";
+        return column.Unit ? Words("%1 is not a size such as 3.45 or 3.45m")
+                           : Words("%1 is not a size in whole centimetres");
     }
-    return column.Unit ? "is not a size such as 12.5 or 12'6\""
-                       : "is not a size in whole inches, or in feet and inches such as 12'6\"";
+    return column.Unit
+               ? Words("%1 is not a size such as 12.5 or 12'6\"")
+               : Words("%1 is not a size in whole inches, or in feet and inches such as 12'6\"");
 }
 
 Problem TakeSize(std::string_view field, const SizeColumn& column, Integer& size, Problem& note) {
@@ -129,13 +176,13 @@ Problem TakeSize(std::string_view field, const SizeColumn& column, Integer& size
     const std::string trimmed = TrimStr(field);
     std::string_view text = trimmed;
     if (text.empty()) {
-        return "is missing";
+        return Says(Words("%1 is missing"));
     }
     const bool negative = text.front() == '-';
     if (negative) {
         text.remove_prefix(1);
     }
-    if (Problem problem = CommaProblem(text, column); !problem.empty()) {
+    if (Problem problem = CommaProblem(text, column)) {
         return problem;
     }
     std::optional<Double> value;
@@ -145,33 +192,35 @@ Problem TakeSize(std::string_view field, const SizeColumn& column, Integer& size
         value = static_cast<Double>(*plain);
     }
     if (!value) {
-        return std::string(NoSize(column));
+        return Says(NoSize(column));
     }
     if (negative) {
-        return "is negative";
+        return Says(Words("%1 is negative"));
     }
     if (*value > Most) {
-        return "is too large: a size is at most " + TrimStr(Most);
+        return Says(Words("%1 is too large: a size is at most %2"), TrimStr(Most));
     }
     size = CInt(*value);
     constexpr Double Noise = 0.001; // of what a spreadsheet computes
     if (std::abs(*value - static_cast<Double>(size)) > Noise) {
-        note = "is kept as " + WholeLengthText(size, column.In) +
-               (column.In == Units::Metric ? " cm" : "");
+        note = Says(Words("%1 is kept as %2"),
+                    WholeLengthText(size, column.In) + (column.In == Units::Metric ? " cm" : ""));
     }
     return {};
 }
 
 Problem TakeCovering(std::string_view field, Byte& covering) {
     if (TrimStr(field).empty()) {
-        return "is missing";
+        return Says(Words("%1 is missing"));
     }
     const auto code = ReadCovering(field);
     if (!code) {
-        return "is not a covering: " + CoveringCaption(0) + " to " +
-               CoveringCaption(FirstTileCode - 1) + ", " + CoveringCaption(FirstTileCode) + " to " +
-               CoveringCaption(LastTileCode) + ", or short as " + CoveringReportText(0) + " or " +
-               CoveringReportText(FirstTileCode);
+        return [](const std::string& cell) {
+            return Words("%1 is not a covering: %2 to %3, %4 to %5, or short as %6 or %7", cell,
+                         CoveringName(0), CoveringName(FirstTileCode - 1),
+                         CoveringName(FirstTileCode), CoveringName(LastTileCode),
+                         CoveringReportText(0), CoveringReportText(FirstTileCode));
+        };
     }
     covering = *code;
     return {};
@@ -179,18 +228,18 @@ Problem TakeCovering(std::string_view field, Byte& covering) {
 
 Problem CheckLength(std::string_view text, long long most) {
     if (Len(text) > most) {
-        return "has more than " + TrimStr(most) + " characters";
+        return Says(Words("%1 has more than %2 characters"), TrimStr(most));
     }
     return {};
 }
 
 Problem TakeBase(std::string_view field, Byte& base) {
     const std::string text = TrimStr(field);
-    if (Problem problem = CheckLength(text, MaxBaseTextLength); !problem.empty()) {
+    if (Problem problem = CheckLength(text, MaxBaseTextLength)) {
         return problem;
     }
     if (!IsBaseText(text)) {
-        return "is not a wall base: L or W with 1 or 2, such as " + BaseText(5);
+        return Says(Words("%1 is not a wall base: L or W with 1 or 2, such as %2"), BaseText(5));
     }
     base = BaseCode(text);
     return {};
@@ -199,11 +248,13 @@ Problem TakeBase(std::string_view field, Byte& base) {
 Problem CheckCharacters(std::string_view text) {
     switch (FindTextFault(text)) {
     case TextFault::NotUtf8:
-        return "is not valid UTF-8" + std::string(SaveAsUtf8);
+        return Says(
+            Words("%1 is not valid UTF-8; save it as UTF-8 (\"CSV UTF-8\" in a spreadsheet)"));
     case TextFault::ControlCharacter:
-        return "holds a line break or another control character; write it in one line";
+        return Says(
+            Words("%1 holds a line break or another control character; write it in one line"));
     case TextFault::NoCharacter:
-        return "holds U+FFFE or U+FFFF, which are no characters; leave them out";
+        return Says(Words("%1 holds U+FFFE or U+FFFF, which are no characters; leave them out"));
     case TextFault::None:
         break;
     }
@@ -216,7 +267,7 @@ Problem TakeText(std::string_view field, long long most, std::string& text) {
     }
     text = field;
     Problem problem = CheckCharacters(field);
-    return problem.empty() ? CheckLength(field, most) : problem;
+    return problem ? problem : CheckLength(field, most);
 }
 
 /// `note` is set when something of the field was not kept.
@@ -248,11 +299,14 @@ Problem UnitProblem(const RoomHeading& heading, Units units) {
         return {};
     }
     if (!heading.Unit->In) {
-        return "has a unit in which no size is read; give the sizes in ft, in, m or cm";
+        return Says(
+            Words("%1 has a unit in which no size is read; give the sizes in ft, in, m or cm"));
     }
-    return units == Units::Metric
-               ? "is in feet or inches, and the rooms are read in metric; read them without metric"
-               : "is in metric, and the rooms are read in feet and inches; read them with metric";
+    return Says(units == Units::Metric
+                    ? Words("%1 is in feet or inches, and the rooms are read in metric; read them "
+                            "without metric")
+                    : Words("%1 is in metric, and the rooms are read in feet and inches; read them "
+                            "with metric"));
 }
 
 /// Whether a record is the headings of a table: the sizes have theirs in every one.
@@ -308,14 +362,14 @@ class RoomCsvReader {
     /// A file: what it is and how it is written is found out.
     RoomCsvReading ReadFile(std::string_view bytes, const std::string& encoding) && {
         if (const std::string_view kind = ForeignKind(bytes); !kind.empty()) {
-            AddError(1, "the file is " + std::string(kind) +
-                            "; open it in a spreadsheet and save it as CSV");
+            AddError(1, Words("the file is %1; open it in a spreadsheet and save it as CSV", kind));
             return std::move(reading_);
         }
         const DecodedText decoded = DecodeText(bytes, encoding);
         for (const MisfitBytes& misfit : decoded.Misfits) {
-            AddError(misfit.Line, "column " + TrimStr(misfit.Column) + ": the byte " +
-                                      misfit.Bytes + " is none of " + ShownText(decoded.Encoding));
+            AddError(misfit.Line,
+                     Words("column %1: the byte %2 is none of %3", TrimStr(misfit.Column),
+                           misfit.Bytes, ShownText(decoded.Encoding)));
         }
         reading_.MoreErrors += decoded.MoreMisfits;
         if (!reading_.Succeeded()) {
@@ -329,7 +383,7 @@ class RoomCsvReader {
         }
         const auto first = records.Next();
         if (!first) {
-            AddError(1, "the file is empty");
+            AddError(1, Words("the file is empty"));
             return std::move(reading_);
         }
         ReadHeader(*first);
@@ -340,8 +394,8 @@ class RoomCsvReader {
     /// What was copied in a spreadsheet.
     RoomCsvReading ReadPasted(std::string_view text) && {
         if (text.size() > MaxRoomCsvBytes) {
-            AddError(1, "the text has more than " +
-                            Counted(MaxRoomCsvBytes / (std::size_t{1024} * 1024)) + " MB");
+            AddError(1, Words("the text has more than %1 MB",
+                              Counted(MaxRoomCsvBytes / (std::size_t{1024} * 1024))));
             return std::move(reading_);
         }
         const std::string_view line =
@@ -350,7 +404,7 @@ class RoomCsvReader {
         CsvReader records(text, isOfCells ? '\t' : SeparatorOf(text));
         const auto first = records.Next();
         if (!first) {
-            AddError(1, "there is no text to paste");
+            AddError(1, Words("there is no text to paste"));
             return std::move(reading_);
         }
         if (HasHeadings(*first)) {
@@ -390,7 +444,7 @@ class RoomCsvReader {
             return;
         }
         if (++count_ == most_ + 1) {
-            AddError(record.Line, std::string(ProjectFullText));
+            AddError(record.Line, ProjectFullText);
         }
         ReadRoom(record);
     }
@@ -399,9 +453,13 @@ class RoomCsvReader {
     bool TakeUsualColumns(const CsvRecord& record) {
         columnCount_ = record.FieldCount;
         if (columnCount_ < NeededRoomFields || columnCount_ > RoomFieldNames.size()) {
-            AddError(record.Line, "there are no headings, and " + Counted(columnCount_) +
-                                      (columnCount_ == 1 ? " column" : " columns") +
-                                      ": without headings they are " + UsualColumns());
+            AddError(record.Line,
+                     CountedWords("there are no headings, and %n column: without headings they "
+                                  "are %1, of which the first %2 are needed",
+                                  "there are no headings, and %n columns: without headings they "
+                                  "are %1, of which the first %2 are needed",
+                                  static_cast<long long>(columnCount_), UsualColumns(),
+                                  Counted(NeededRoomFields)));
             return false;
         }
         for (std::size_t i = 0; i < columnCount_; ++i) {
@@ -415,26 +473,31 @@ class RoomCsvReader {
         for (const std::string_view name : RoomFieldNames) {
             text.append(text.empty() ? "" : ", ").append(name);
         }
-        return text + ", of which the first " + Counted(NeededRoomFields) + " are needed";
+        return text;
     }
 
     void AddError(long long line, std::string problem) {
-        AddError(line, {}, {}, std::move(problem));
-    }
-    void AddError(long long line, std::string_view field, std::string value, std::string problem) {
         if (reading_.Errors.size() < MaxRoomCsvErrors) {
-            reading_.Errors.push_back(
-                {line, std::string(field), std::move(value), std::move(problem)});
+            reading_.Errors.push_back({line, {}, {}, std::move(problem)});
         } else {
             ++reading_.MoreErrors;
         }
     }
+    void AddError(long long line, const Cell& cell, const Problem& problem) {
+        Keep(reading_.Errors, reading_.MoreErrors, line, cell, problem);
+    }
+    void AddNote(long long line, const Cell& cell, const Problem& problem) {
+        Keep(reading_.Notes, reading_.MoreNotes, line, cell, problem);
+    }
 
-    void AddNote(long long line, std::string_view field, std::string value, std::string text) {
-        if (reading_.Notes.size() < MaxRoomCsvErrors) {
-            reading_.Notes.push_back({line, std::string(field), std::move(value), std::move(text)});
+    /// The text is made for those alone that are told: there may be millions.
+    static void Keep(std::vector<RoomCsvError>& told, long long& more, long long line,
+                     const Cell& cell, const Problem& problem) {
+        if (told.size() < MaxRoomCsvErrors) {
+            told.push_back(
+                {line, std::string(cell.Field), std::string(cell.Value), problem(CellText(cell))});
         } else {
-            ++reading_.MoreNotes;
+            ++more;
         }
     }
 
@@ -445,15 +508,16 @@ class RoomCsvReader {
         }
         const std::size_t faulty = record.FaultyField;
         const bool known = faulty < columns_.size() && columns_[faulty].has_value();
-        AddError(record.Line, known ? NameOf(columns_[faulty]->Field) : "field",
-                 faulty < record.Fields.size() ? record.Fields[faulty] : std::string(),
-                 record.Fault == CsvFault::UnclosedQuote ? "has a quote that is never closed"
-                                                         : "has text behind its closing quote");
+        AddError(record.Line,
+                 Cell{known ? NameOf(columns_[faulty]->Field) : std::string_view(),
+                      faulty < record.Fields.size() ? record.Fields[faulty] : std::string_view()},
+                 Says(record.Fault == CsvFault::UnclosedQuote
+                          ? Words("%1 has a quote that is never closed")
+                          : Words("%1 has text behind its closing quote")));
         return true;
     }
 
     void ReadHeader(const CsvRecord& header) {
-        constexpr std::string_view HeaderField = "column";
         columnCount_ = header.FieldCount;
         if (ReportFault(header)) {
             columns_.resize(header.Fields.size());
@@ -461,24 +525,26 @@ class RoomCsvReader {
         }
         for (const std::string& field : header.Fields) {
             const auto column = ReadRoomHeading(field);
+            const Cell heading{{}, field, true};
             if (TrimStr(field).empty()) {
-                AddError(header.Line, "a column has no name");
+                AddError(header.Line, Words("a column has no name"));
             } else if (!column) {
-                AddError(header.Line, HeaderField, field, "is unknown");
+                AddError(header.Line, heading, Says(Words("%1 is unknown")));
             } else if (Has(column->Field)) {
-                AddError(header.Line, HeaderField, field, "appears twice");
-            } else if (Problem problem = UnitProblem(*column, units_); !problem.empty()) {
-                AddError(header.Line, HeaderField, field, std::move(problem));
+                AddError(header.Line, heading, Says(Words("%1 appears twice")));
+            } else if (const Problem problem = UnitProblem(*column, units_)) {
+                AddError(header.Line, heading, problem);
             }
             columns_.push_back(column);
         }
         if (columnCount_ > MostCsvFields) {
-            AddError(header.Line, "the line has " + Counted(columnCount_) +
-                                      " columns; a room has " + Counted(RoomFieldNames.size()));
+            AddError(header.Line, Words("the line has %1 columns; a room has %2",
+                                        Counted(columnCount_), Counted(RoomFieldNames.size())));
         }
         for (std::size_t i = 0; i < NeededRoomFields; ++i) {
             if (!Has(static_cast<RoomField>(i))) {
-                AddError(header.Line, HeaderField, std::string(RoomFieldNames[i]), "is missing");
+                AddError(header.Line, Cell{{}, RoomFieldNames.at(i), true},
+                         Says(Words("%1 is missing")));
             }
         }
     }
@@ -494,20 +560,19 @@ class RoomCsvReader {
             return;
         }
         if (record.FieldCount != columnCount_) {
-            AddError(record.Line, "the line has " + Counted(record.FieldCount) +
-                                      " fields and the header " + Counted(columnCount_));
+            AddError(record.Line, Words("the line has %1 fields and the header %2",
+                                        Counted(record.FieldCount), Counted(columnCount_)));
             return;
         }
         Room room;
         for (std::size_t i = 0; i < columns_.size(); ++i) {
             if (const auto column = columns_[i]) {
                 Problem note;
-                Problem problem = TakeField(*column, record.Fields[i], units_, room, note);
-                if (!problem.empty()) {
-                    AddError(record.Line, NameOf(column->Field), record.Fields[i],
-                             std::move(problem));
-                } else if (!note.empty()) {
-                    AddNote(record.Line, NameOf(column->Field), record.Fields[i], std::move(note));
+                const Cell cell{NameOf(column->Field), record.Fields[i]};
+                if (const Problem problem = TakeField(*column, cell.Value, units_, room, note)) {
+                    AddError(record.Line, cell, problem);
+                } else if (note) {
+                    AddNote(record.Line, cell, note);
                 }
             }
         }
@@ -525,43 +590,14 @@ class RoomCsvReader {
     RoomCsvReading reading_;
 };
 
-/// A value for one line of text: control characters as blanks, invalid bytes as replacement
-/// characters, and not too long.
-std::string Shown(std::string_view value) {
-    constexpr std::size_t Most = 40; // characters, of which those beyond U+FFFF count twice
-    constexpr unsigned char FirstOfFourBytes = 0xF0;
-    std::string line = WellFormedText(OneLine(value));
-    std::size_t count = 0;
-    for (std::size_t at = 0; at < line.size(); ++at) {
-        if (ContinuesCharacter(line[at])) {
-            continue;
-        }
-        count += static_cast<unsigned char>(line[at]) >= FirstOfFourBytes ? 2 : 1;
-        if (count > Most) {
-            return line.substr(0, at) + "...";
-        }
-    }
-    return line;
-}
-
 } // namespace
 
-std::string MistakeText(const RoomCsvError& error) {
-    if (error.Field.empty()) {
-        return error.Problem;
-    }
-    if (error.Value.empty()) {
-        return error.Field + " " + error.Problem;
-    }
-    return error.Field + " \"" + Shown(error.Value) + "\" " + error.Problem;
-}
-
 std::string ErrorText(const RoomCsvError& error) {
-    return "line " + TrimStr(error.Line) + ": " + MistakeText(error);
+    return Words("line %1: %2", TrimStr(error.Line), error.Problem);
 }
 
 std::string MoreMistakesText(long long count) {
-    return "and " + TrimStr(count) + (count == 1 ? " more mistake" : " more mistakes");
+    return CountedWords("and %n more mistake", "and %n more mistakes", count);
 }
 
 std::vector<std::string> MistakeLines(const RoomCsvReading& reading, std::size_t most) {

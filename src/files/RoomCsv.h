@@ -16,16 +16,14 @@ namespace tarn {
 /// One mistake in a room file.
 struct RoomCsvError {
     long long Line = 1;  ///< the physical line on which the record begins, from 1
-    std::string Field;   ///< the column's name; empty when the mistake is not in one field
-    std::string Value;   ///< the field as it stands; empty without a Field
-    std::string Problem; ///< what is wrong, worded to follow field and value
+    std::string Field;   ///< the field of a room; empty when the mistake is not in one
+    std::string Value;   ///< the field or heading as it stands; empty without one
+    std::string Problem; ///< a sentence for the user, which names field and value: width "-5" is
+                         ///< negative. A long value is shortened in it, an empty one left out
 
     bool operator==(const RoomCsvError&) const = default;
 };
 
-/// The mistake without its place: width "-5" is negative. A long value is shortened, an empty one
-/// left out.
-std::string MistakeText(const RoomCsvError& error);
 /// The mistake as one line for the user: line 7: width "-5" is negative.
 std::string ErrorText(const RoomCsvError& error);
 

@@ -127,7 +127,7 @@ void RequireReadable(const Project& project, const std::string& file) {
                              project.Name);
     for (const RoomCsvError& mistake : reading.Errors) {
         // Line 1 is the header, and each room has one line.
-        text += "\n  " + Words("room %1: %2", TrimStr(mistake.Line - 1), MistakeText(mistake));
+        text += "\n  " + Words("room %1: %2", TrimStr(mistake.Line - 1), mistake.Problem);
     }
     if (reading.MoreErrors > 0) {
         text += "\n  " + MoreMistakesText(reading.MoreErrors);

@@ -56,6 +56,7 @@ void AddMetric(CLI::App& command, DataOptions& arguments) {
 CLI::App& AddCommand(CLI::App& app, const char* name, Phrase text, DataOptions& arguments,
                      std::function<void()> run) {
     CLI::App* command = app.add_subcommand(name, text);
+    command->group(Words("Subcommands"));
     command->fallthrough(); // --language may stand behind the command, too
     command->set_help_flag("-h,--help", Words("Print this help message and exit"));
     command->callback([chosen = &arguments.Chosen, run = std::move(run)] { *chosen = run; });

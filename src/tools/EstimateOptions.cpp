@@ -167,13 +167,13 @@ void AddImprovement(CLI::App& app, EstimateOptions& options) {
                              "it is the least possible, with the parts of a divided fill at %1 by "
                              "--min-cut; Ctrl+C ends that earlier and keeps the best",
                              LengthsOfCaptions()))
-            ->check(CLI::PositiveNumber)
+            ->check(AboveZero())
             ->type_name("SECONDS");
     auto* steps =
         app.add_option("--improve-steps", options.ImproveSteps,
                        Words("The same for so many steps at most, so that the result can be "
                              "repeated"))
-            ->check(CLI::PositiveNumber)
+            ->check(AboveZero())
             ->type_name("N");
     app.add_option("--seed", options.Seed, Words("Another seed makes the search take another way"))
         ->capture_default_str()

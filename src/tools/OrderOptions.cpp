@@ -111,7 +111,7 @@ void AddSearch(CLI::App& app, OrderOptions& options) {
     app.add_option(
            "--steps", options.Steps,
            Words("So many layouts for each row instead, so that the result can be repeated"))
-        ->check(CLI::PositiveNumber)
+        ->check(AboveZero())
         ->type_name("N");
     app.add_option("--seed", options.Seed, Words("Another seed makes the search take another way"))
         ->capture_default_str()

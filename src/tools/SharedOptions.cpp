@@ -2,6 +2,7 @@
 
 #include "base/Words.h"
 #include "files/Language.h"
+#include "tools/ArgumentErrors.h"
 #include "tools/Files.h"
 
 #include <CLI/CLI.hpp>
@@ -34,7 +35,10 @@ void PrepareHelp(CLI::App& app) {
     formatter.label("REQUIRED", Words("REQUIRED"));
     formatter.label("Needs", Words("Needs"));
     formatter.label("Excludes", Words("Excludes"));
+    formatter.label("TEXT", Words("TEXT"));
     app.option_defaults()->group(Words("Options"));
+    app.failure_message(
+        [](const CLI::App*, const CLI::Error& error) { return ArgumentErrorText(error); });
     app.set_help_flag("-h,--help", Words("Print this help message and exit"));
     app.add_option_function<std::string>(
            "--language", [](const std::string&) {},
@@ -76,6 +80,14 @@ void RequireRoomsSource(const std::string& database, const std::string& rooms) {
 
 std::string NotEmpty(const std::string& value) {
     return value.empty() ? Words("the value is empty") : Phrase();
+}
+
+CLI::Validator AboveZero() {
+    CLI::Validator check = CLI::PositiveNumber;
+    return check.description(Words("POSITIVE")).operation([](const std::string& value) {
+        const bool isAbove = CLI::PositiveNumber(value).empty();
+        return isAbove ? std::string() : Words("%1 is not a number above 0", value);
+    });
 }
 
 void RequireDifferentOutputs(const std::vector<std::pair<std::string, std::string>>& outputs) {

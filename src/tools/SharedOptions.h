@@ -10,6 +10,7 @@
 namespace CLI {
 class App;
 class Option;
+class Validator;
 } // namespace CLI
 
 namespace tarn {
@@ -19,7 +20,8 @@ namespace tarn {
 /// when the arguments are parsed (PrepareHelp).
 void SpeakAsAsked(int argc, const char* const* argv, std::string_view chosen = {});
 
-/// Add --language, and have `app` give its help in the language in force: before any option.
+/// Add --language, and have `app` give its help and its refusals in the language in force: before
+/// any option.
 void PrepareHelp(CLI::App& app);
 
 /// A file of rooms, and how it is written.
@@ -40,6 +42,9 @@ void RequireRoomsSource(const std::string& database, const std::string& rooms);
 
 /// Refuses an option that is given without its value ("--match=").
 std::string NotEmpty(const std::string& value);
+
+/// Refuses what is no number above 0.
+CLI::Validator AboveZero();
 
 /// Raise CLI::ValidationError when two of the outputs (option and path, empty for none) would
 /// overwrite or mix with each other.

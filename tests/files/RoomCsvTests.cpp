@@ -1,5 +1,6 @@
 #include "base/Text.h"
 #include "files/RoomCsv.h"
+#include "files/SpokenLanguage.h"
 #include "files/TextEncoding.h"
 #include "project/RoomTesting.h"
 
@@ -149,7 +150,7 @@ TEST(ReadRoomCsv, RefusesAHeaderOfManyColumns) {
         header += ",width";
     }
     const RoomCsvReading reading = ReadRoomCsv(header + "\n1,2\n", Units::Imperial);
-    EXPECT_EQ(reading.Errors.front().Problem, "appears twice");
+    EXPECT_EQ(reading.Errors.front().Problem, "column \"width\" appears twice");
     EXPECT_EQ(reading.MoreErrors, 64 - 6 - 20 + 1 + 1)
         << "every other column that is kept, their number, and the last line";
 }
@@ -579,7 +580,11 @@ TEST(ReadRoomCsv, ReportsEveryBadLineOfAFileAndTakesNoRoom) {
 
 TEST(RoomCsvError, HoldsLineFieldValueAndProblem) {
     const auto errors = ReadRoomCsv("width,length,covering\n1,-7,C1\n", Units::Imperial).Errors;
-    EXPECT_EQ(errors, (std::vector<RoomCsvError>{{2, "length", "-7", "is negative"}}));
+    EXPECT_EQ(errors,
+              (std::vector<RoomCsvError>{{2, "length", "-7", "length \"-7\" is negative"}}));
+    const auto heading = ReadRoomCsv("width,length,covering,colour\n", Units::Imperial).Errors;
+    EXPECT_EQ(heading,
+              (std::vector<RoomCsvError>{{1, "", "colour", "column \"colour\" is unknown"}}));
 }
 
 TEST(ErrorText, ShortensALongValueBetweenCharactersAndKeepsOneLine) {
@@ -590,10 +595,120 @@ TEST(ErrorText, ShortensALongValueBetweenCharactersAndKeepsOneLine) {
         value += bath;
         shown += i < 19 ? bath : "";
     }
-    EXPECT_EQ(ErrorText({3, "remark", value, "is wrong"}),
-              "line 3: remark \"" + shown + "...\" is wrong");
-    EXPECT_EQ(ErrorText({3, "remark", "a\r\nb\tc", "is wrong"}),
-              "line 3: remark \"a  b c\" is wrong");
+    EXPECT_EQ(ErrorsOf("width,length,covering\n1,2," + value + "\n"),
+              (Lines{Line("line 2: covering \"" + shown + "...\"", NoCovering)}));
+    EXPECT_EQ(ErrorsOf("width,length,covering\n1,2,\"a\r\nb\tc\"\n"),
+              (Lines{Line("line 2: covering \"a  b c\"", NoCovering)}));
+    EXPECT_EQ(ErrorsOf("width,length," + value + "\n").front(),
+              "line 1: column \"" + shown + "...\" is unknown");
+}
+
+// --- languages ---
+
+/// What is read, and in which units and encoding.
+struct Input {
+    std::string Text;
+    Units In = Units::Imperial;
+    const char* Encoding = "";
+};
+
+/// Files that are wrong in every way there is.
+std::vector<Input> WrongFiles() {
+    const std::string header = "width,length,covering,base,room,remark\n";
+    std::string many = "width,length,covering\n";
+    for (std::size_t line = 0; line <= MaxRoomCsvErrors; ++line) {
+        many += "-1,2,C1\n";
+    }
+    std::string full = "width,length,covering\n";
+    for (std::size_t room = 0; room <= RoomCapacity; ++room) {
+        full += "1,2,C1\n";
+    }
+    return {
+        {header + "-1,,VINYL,X,123456789,\"a\nb\"\n40000,x,,123456789,,\xEF\xBF\xBE\n"
+                  "\"1,5\",\"1,200\",C1,,,\xFF\n1,2\n\"a\"b,1,C1,,,\n1,2,C1,,,\"a\n"},
+        {"width (m),colour,,Width,length (mm)\n"},
+        {"width (ft),length,covering\n1,2,C1\n", Units::Metric},
+        {"width (m),length,covering\nx,1.5,C1\n\"3,45\",\"3,45\",C1\n", Units::Metric},
+        {"width (ft),length,covering\nx,1,C1\n"},
+        {many},
+        {full},
+        {""},
+        {"\"width,length"},
+        {"\"\"x"},
+        {"width,length,covering" + std::string(70, ',')},
+        {"width\n\xFF", Units::Imperial, "utf-8"},
+        {"PK\x03\x04 xl/"},
+        {"PK\x03\x04 application/vnd.oasis.opendocument.spreadsheet"},
+        {"PK\x03\x04 photo.jpg"},
+        {"\xD0\xCF\x11\xE0\xA1\xB1\x1A\xE1"},
+        {"%PDF-1.7"},
+    };
+}
+
+/// All that is said of the wrong files and pastes, and of sizes that are rounded.
+Lines AllThatIsSaid() {
+    Lines all;
+    const auto add = [&all](const RoomCsvReading& reading) {
+        for (const std::string& line : MistakeLines(reading)) {
+            all.push_back(line);
+        }
+        for (const RoomCsvError& note : reading.Notes) {
+            all.push_back(ErrorText(note));
+        }
+    };
+    for (const Input& input : WrongFiles()) {
+        add(ReadRoomCsv(input.Text, input.In, input.Encoding));
+    }
+    add(ReadRoomCsv("width (ft),length,covering\n12.33,1,C1\n", Units::Imperial));
+    add(ReadRoomCsv("width (m),length,covering\n3.456,1,C1\n", Units::Metric));
+    add(ReadPastedRooms("", Units::Imperial));
+    add(ReadPastedRooms("1", Units::Imperial));
+    add(ReadPastedRooms("1\t2", Units::Imperial));
+    add(ReadPastedRooms(std::string(MaxRoomCsvBytes + 1, 'x'), Units::Imperial));
+    return all;
+}
+
+/// Whether every pair of brackets of a text closes, and the last one behind all else.
+bool IsInBrackets(std::string_view text) {
+    long depth = 0;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        depth += text[i] == '[' ? 1 : text[i] == ']' ? -1 : 0;
+        if (depth <= 0 && i + 1 < text.size()) {
+            return false;
+        }
+    }
+    return depth == 0 && !text.empty();
+}
+
+TEST(RoomCsvTexts, AreAllSaidInTheLanguageInForce) {
+    const Lines english = AllThatIsSaid();
+    EXPECT_GT(english.size(), 70U);
+    const testing::SpokenLanguage spoken("pseudo");
+    const Lines translated = AllThatIsSaid();
+    ASSERT_EQ(translated.size(), english.size());
+    for (std::size_t i = 0; i < english.size(); ++i) {
+        const std::string& text = translated[i];
+        EXPECT_TRUE(IsInBrackets(text)) << text;
+        if (english[i].starts_with("line ")) { // and so is what is said of it
+            const std::size_t sentence = text.find(": ") + 2;
+            const std::size_t end = text.find_last_of(']', text.size() - 2) + 1;
+            EXPECT_TRUE(IsInBrackets(text.substr(sentence, end - sentence))) << text;
+        }
+    }
+}
+
+TEST(RoomCsvTexts, NameWhatIsReadInEveryLanguage) {
+    for (const char* language : {"de", "es"}) {
+        const testing::SpokenLanguage spoken(language);
+        const std::string covering = ErrorsOfRoom("1,2,VINYL,,,").front();
+        EXPECT_THAT(covering, ::testing::HasSubstr("CARPET-1"));
+        EXPECT_THAT(covering, ::testing::HasSubstr("TILE-4"));
+        EXPECT_THAT(
+            ErrorsOf("width;length;covering\n12,5;96;C1\n").front(),
+            ::testing::AllOf(::testing::HasSubstr("12.5"), ::testing::HasSubstr("width (ft)")));
+        EXPECT_EQ(RoomsOf("Width (ft);Length (ft);covering\n12.5;12'6\";carpet-2\n"),
+                  (Rooms{{150, 150, 1, 0, "", ""}}));
+    }
 }
 
 TEST(WriteRoomCsv, WritesAHeaderAndOneLineForEachRoom) {

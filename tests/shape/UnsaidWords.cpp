@@ -35,8 +35,6 @@ constexpr std::array Exceptions{
     Exception{"files/(RoomHeadings|ProjectTables).cpp", "[a-z ]+"},
     // fonts
     Exception{"paper/FixedPitchFont.cpp", "[A-Z][A-Za-z ]+"},
-    // what is wrong in a room's file, a part of which programs read
-    Exception{"files/RoomCsv.cpp", "[^]*"},
     // pages about the programs that are made when they are built, in English, and marks of builds
     Exception{"tools/(reference/.*|ProgramVersion.cpp)", "[^]*"},
     // names of an order's options
