@@ -34,9 +34,7 @@ void CheckRequest(const EstimateOptions& options) {
     Require(options.Carpet >= 1 && options.Carpet <= 8, "the carpet is one of eight");
     Require(options.MaxPieces >= 1 && options.MaxPieces <= MostPiecesPerFill,
             "a fill has one to six pieces");
-    Require(!options.Text.empty() || !options.Json.empty() || !options.Svg.empty() ||
-                !options.Pdf.empty(),
-            "something is put out");
+    Require(IsAnyAskedFor(OutputsOf(options)), "something is put out");
     try {
         Require(IsUsableRollWidth(RequestOf(options).RollWidth), "the width can be estimated");
         RepeatOf(options);

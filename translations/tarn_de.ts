@@ -7783,6 +7783,11 @@ Die Räume kommen aus einer Datenbank (--database und --project) oder einer CSV-
     </message>
     <message>
         <location filename="../src/tools/EstimateOptions.cpp"/>
+        <source>How many threads look for it (all cores, at most 8; with --improve-steps one)</source>
+        <translation>Wie viele Threads danach suchen (alle Kerne, höchstens 8; mit --improve-steps einer)</translation>
+    </message>
+    <message>
+        <location filename="../src/tools/EstimateOptions.cpp"/>
         <source>Maximum number of parts into which a fill is divided, 1 to %1</source>
         <translation>Höchstzahl der Teile, in die ein Füllstück geteilt wird, 1 bis %1</translation>
     </message>
@@ -7800,6 +7805,11 @@ Die Räume kommen aus einer Datenbank (--database und --project) oder einer CSV-
         <location filename="../src/tools/EstimateOptions.cpp"/>
         <source>Pattern repeat across x along, in inches (centimetres with --metric)</source>
         <translation>Rapport quer x längs, in Zoll (mit --metric in Zentimetern)</translation>
+    </message>
+    <message>
+        <location filename="../src/tools/EstimateOptions.cpp"/>
+        <source>The match pattern &quot;%1&quot; is not readable: write it as 18x24, the repeat across and along.</source>
+        <translation>Der Rapport „%1“ ist nicht lesbar: Schreiben Sie ihn wie 18x24, quer und längs.</translation>
     </message>
     <message>
         <location filename="../src/tools/EstimateOptions.cpp"/>
@@ -7850,12 +7860,6 @@ Die Räume kommen aus einer Datenbank (--database und --project) oder einer CSV-
         <location filename="../src/tools/EstimateOptions.cpp"/>
         <source>down: room widths across the roll; cross: room lengths</source>
         <translation>down: Raumbreiten quer zur Rolle; cross: Raumlängen</translation>
-    </message>
-    <message>
-        <location filename="../src/tools/EstimateOptions.cpp"/>
-        <location filename="../src/tools/OrderOptions.cpp"/>
-        <source>Another seed makes the search take another way</source>
-        <translation>Ein anderer Startwert lässt die Suche einen anderen Weg nehmen</translation>
     </message>
     <message>
         <location filename="../src/tools/EstimateTool.cpp"/>
@@ -7968,11 +7972,6 @@ Die Räume kommen aus einer Datenbank (--database und --project) oder einer CSV-
     </message>
     <message>
         <location filename="../src/tools/OrderOptions.cpp"/>
-        <source>How many threads look for it (all cores, at most 8; with --improve-steps one)</source>
-        <translation>Wie viele Threads danach suchen (alle Kerne, höchstens 8; mit --improve-steps einer)</translation>
-    </message>
-    <message>
-        <location filename="../src/tools/OrderOptions.cpp"/>
         <source>Lengths are written 12ft6in, 18in, 366cm or 3.66m; a bare number is in the project&apos;s units.
 All lengths of an order are whole inches, with --metric whole centimetres: roll widths are
 rounded down; trim, selvage, shortest part and step up. A pattern repeat must be whole.
@@ -8047,11 +8046,6 @@ Beispiel:
         <location filename="../src/tools/OrderOptions.cpp"/>
         <source>So many layouts for each row instead, so that the result can be repeated</source>
         <translation>Stattdessen so viele Anordnungen für jede Zeile, damit das Ergebnis wiederholbar ist</translation>
-    </message>
-    <message>
-        <location filename="../src/tools/OrderOptions.cpp"/>
-        <source>The match pattern &quot;%1&quot; is not readable: write it as 18x24, the repeat across and along.</source>
-        <translation>Der Rapport „%1“ ist nicht lesbar: Schreiben Sie ihn wie 18x24, quer und längs.</translation>
     </message>
     <message>
         <location filename="../src/tools/OrderOptions.cpp"/>
@@ -8289,13 +8283,6 @@ Beispiel:
         <translation>die CSV-Datei</translation>
     </message>
     <message>
-        <location filename="../src/tools/ProgramOptions.cpp"/>
-        <location filename="../src/tools/EstimateOptions.cpp"/>
-        <location filename="../src/tools/OrderOptions.cpp"/>
-        <source>Display program version information and exit</source>
-        <translation>Die Version des Programms ausgeben und enden</translation>
-    </message>
-    <message>
         <location filename="../src/tools/ProjectFile.cpp"/>
         <source>Note: %1</source>
         <translation>Hinweis: %1</translation>
@@ -8376,6 +8363,11 @@ Beispiel:
     </message>
     <message>
         <location filename="../src/tools/SharedOptions.cpp"/>
+        <source>Another seed makes the search take another way</source>
+        <translation>Ein anderer Startwert lässt die Suche einen anderen Weg nehmen</translation>
+    </message>
+    <message>
+        <location filename="../src/tools/SharedOptions.cpp"/>
         <source>CSV file with the rooms</source>
         <translation>CSV-Datei mit den Räumen</translation>
     </message>
@@ -8383,6 +8375,11 @@ Beispiel:
         <location filename="../src/tools/SharedOptions.cpp"/>
         <source>Database file of the project</source>
         <translation>Datenbankdatei des Projekts</translation>
+    </message>
+    <message>
+        <location filename="../src/tools/SharedOptions.cpp"/>
+        <source>Display program version information and exit</source>
+        <translation>Die Version des Programms ausgeben und enden</translation>
     </message>
     <message>
         <location filename="../src/tools/SharedOptions.cpp"/>
@@ -8436,6 +8433,11 @@ Beispiel:
     </message>
     <message>
         <location filename="../src/tools/SharedOptions.cpp"/>
+        <source>Write over a database too, and where a symbolic link leads</source>
+        <translation>Auch über eine Datenbank schreiben und dorthin, wohin eine Verknüpfung führt</translation>
+    </message>
+    <message>
+        <location filename="../src/tools/SharedOptions.cpp"/>
         <source>either --database and --project, or --rooms is required</source>
         <translation>entweder --database und --project oder --rooms ist erforderlich</translation>
     </message>
@@ -8459,11 +8461,6 @@ Beispiel:
         <location filename="../src/tools/ToolMain.cpp"/>
         <source>What was asked for is done, but standard output cannot be written.</source>
         <translation>Das Verlangte ist getan, aber die Standardausgabe kann nicht geschrieben werden.</translation>
-    </message>
-    <message>
-        <location filename="../src/tools/ToolMain.cpp"/>
-        <source>Write over a database too, and where a symbolic link leads</source>
-        <translation>Auch über eine Datenbank schreiben und dorthin, wohin eine Verknüpfung führt</translation>
     </message>
     <message>
         <location filename="../src/tools/tarn.cpp"/>

@@ -7773,6 +7773,11 @@ Las estancias vienen de una base de datos (--database y --project) o de un archi
     </message>
     <message>
         <location filename="../src/tools/EstimateOptions.cpp"/>
+        <source>How many threads look for it (all cores, at most 8; with --improve-steps one)</source>
+        <translation>Cuántos hilos las buscan (todos los núcleos, 8 como máximo; con --improve-steps uno)</translation>
+    </message>
+    <message>
+        <location filename="../src/tools/EstimateOptions.cpp"/>
         <source>Maximum number of parts into which a fill is divided, 1 to %1</source>
         <translation>Número máximo de tramos en que se divide un relleno, de 1 a %1</translation>
     </message>
@@ -7790,6 +7795,11 @@ Las estancias vienen de una base de datos (--database y --project) o de un archi
         <location filename="../src/tools/EstimateOptions.cpp"/>
         <source>Pattern repeat across x along, in inches (centimetres with --metric)</source>
         <translation>Rapport a lo ancho x a lo largo, en pulgadas (centímetros con --metric)</translation>
+    </message>
+    <message>
+        <location filename="../src/tools/EstimateOptions.cpp"/>
+        <source>The match pattern &quot;%1&quot; is not readable: write it as 18x24, the repeat across and along.</source>
+        <translation>El rapport «%1» no se entiende: escríbalo como 18x24, a lo ancho y a lo largo.</translation>
     </message>
     <message>
         <location filename="../src/tools/EstimateOptions.cpp"/>
@@ -7840,12 +7850,6 @@ Las estancias vienen de una base de datos (--database y --project) o de un archi
         <location filename="../src/tools/EstimateOptions.cpp"/>
         <source>down: room widths across the roll; cross: room lengths</source>
         <translation>down: el ancho de las estancias a lo ancho del rollo; cross: el largo</translation>
-    </message>
-    <message>
-        <location filename="../src/tools/EstimateOptions.cpp"/>
-        <location filename="../src/tools/OrderOptions.cpp"/>
-        <source>Another seed makes the search take another way</source>
-        <translation>Otra semilla hace que la búsqueda tome otro camino</translation>
     </message>
     <message>
         <location filename="../src/tools/EstimateTool.cpp"/>
@@ -7958,11 +7962,6 @@ Las estancias vienen de una base de datos (--database y --project) o de un archi
     </message>
     <message>
         <location filename="../src/tools/OrderOptions.cpp"/>
-        <source>How many threads look for it (all cores, at most 8; with --improve-steps one)</source>
-        <translation>Cuántos hilos las buscan (todos los núcleos, 8 como máximo; con --improve-steps uno)</translation>
-    </message>
-    <message>
-        <location filename="../src/tools/OrderOptions.cpp"/>
         <source>Lengths are written 12ft6in, 18in, 366cm or 3.66m; a bare number is in the project&apos;s units.
 All lengths of an order are whole inches, with --metric whole centimetres: roll widths are
 rounded down; trim, selvage, shortest part and step up. A pattern repeat must be whole.
@@ -8037,11 +8036,6 @@ Ejemplo:
         <location filename="../src/tools/OrderOptions.cpp"/>
         <source>So many layouts for each row instead, so that the result can be repeated</source>
         <translation>En su lugar, tantas disposiciones por fila, para que el resultado se pueda repetir</translation>
-    </message>
-    <message>
-        <location filename="../src/tools/OrderOptions.cpp"/>
-        <source>The match pattern &quot;%1&quot; is not readable: write it as 18x24, the repeat across and along.</source>
-        <translation>El rapport «%1» no se entiende: escríbalo como 18x24, a lo ancho y a lo largo.</translation>
     </message>
     <message>
         <location filename="../src/tools/OrderOptions.cpp"/>
@@ -8279,13 +8273,6 @@ Ejemplo:
         <translation>el CSV</translation>
     </message>
     <message>
-        <location filename="../src/tools/ProgramOptions.cpp"/>
-        <location filename="../src/tools/EstimateOptions.cpp"/>
-        <location filename="../src/tools/OrderOptions.cpp"/>
-        <source>Display program version information and exit</source>
-        <translation>Mostrar la versión del programa y terminar</translation>
-    </message>
-    <message>
         <location filename="../src/tools/ProjectFile.cpp"/>
         <source>Note: %1</source>
         <translation>Nota: %1</translation>
@@ -8366,6 +8353,11 @@ Ejemplo:
     </message>
     <message>
         <location filename="../src/tools/SharedOptions.cpp"/>
+        <source>Another seed makes the search take another way</source>
+        <translation>Otra semilla hace que la búsqueda tome otro camino</translation>
+    </message>
+    <message>
+        <location filename="../src/tools/SharedOptions.cpp"/>
         <source>CSV file with the rooms</source>
         <translation>Archivo CSV con las estancias</translation>
     </message>
@@ -8373,6 +8365,11 @@ Ejemplo:
         <location filename="../src/tools/SharedOptions.cpp"/>
         <source>Database file of the project</source>
         <translation>Archivo de la base de datos del proyecto</translation>
+    </message>
+    <message>
+        <location filename="../src/tools/SharedOptions.cpp"/>
+        <source>Display program version information and exit</source>
+        <translation>Mostrar la versión del programa y terminar</translation>
     </message>
     <message>
         <location filename="../src/tools/SharedOptions.cpp"/>
@@ -8426,6 +8423,11 @@ Ejemplo:
     </message>
     <message>
         <location filename="../src/tools/SharedOptions.cpp"/>
+        <source>Write over a database too, and where a symbolic link leads</source>
+        <translation>Escribir también sobre una base de datos, y adonde lleve un enlace simbólico</translation>
+    </message>
+    <message>
+        <location filename="../src/tools/SharedOptions.cpp"/>
         <source>either --database and --project, or --rooms is required</source>
         <translation>se necesitan --database y --project, o bien --rooms</translation>
     </message>
@@ -8449,11 +8451,6 @@ Ejemplo:
         <location filename="../src/tools/ToolMain.cpp"/>
         <source>What was asked for is done, but standard output cannot be written.</source>
         <translation>Lo pedido está hecho, pero la salida estándar no se puede escribir.</translation>
-    </message>
-    <message>
-        <location filename="../src/tools/ToolMain.cpp"/>
-        <source>Write over a database too, and where a symbolic link leads</source>
-        <translation>Escribir también sobre una base de datos, y adonde lleve un enlace simbólico</translation>
     </message>
     <message>
         <location filename="../src/tools/tarn.cpp"/>

@@ -109,8 +109,8 @@ std::string WrittenRoom(const Project& project, std::size_t place) {
 /// What the roll is: project, carpet, roll and length.
 std::string Title(const std::string& project, Byte carpet, const std::string& roll,
                   const std::string& length) {
-    return OneLine(ShownText(project.empty() ? "" : project + ", ") + CoveringCaption(carpet) +
-                   ", " + ShownText(roll) + ", " + length);
+    return OneLine(ShownText(CoveringTitle(project, carpet)) + ", " + ShownText(roll) + ", " +
+                   length);
 }
 
 /// Draws the roll of an estimate; everything is inches until it is drawn.

@@ -19,6 +19,10 @@ std::string CoveringName(Byte code) {
     return CoveringCaption(code);
 }
 
+std::string CoveringTitle(const std::string& project, Byte code) {
+    return (project.empty() ? "" : project + ", ") + CoveringCaption(code);
+}
+
 std::string CoveringReportText(Byte code) {
     const std::string kind = IsCarpet(code) ? "C" : "T";
     return kind + TrimStr(CoveringNumber(code));

@@ -31,6 +31,8 @@ Integer CoveringNumber(Byte code);
 std::string CoveringCaption(Byte code);
 /// The same in files and their names: in English whatever the language.
 std::string CoveringName(Byte code);
+/// The caption behind the name of the project and a comma; alone where that is empty.
+std::string CoveringTitle(const std::string& project, Byte code);
 
 /// The short form: C1 .. C8, T1 .. T4.
 std::string CoveringReportText(Byte code);

@@ -7,7 +7,6 @@
 #include "tools/CareCommands.h"
 #include "tools/DataCommands.h"
 #include "tools/Files.h"
-#include "tools/ProgramVersion.h"
 #include "tools/SharedOptions.h"
 #include "tools/ToolMain.h"
 
@@ -119,12 +118,8 @@ void AddProjectCommands(CLI::App& app, DataOptions& arguments) {
                               });
     AddProject(report, arguments);
     AddMetric(report, arguments);
-    report.add_option("--csv", arguments.Csv, Words("Write it as CSV instead"))
-        ->check(NotEmpty)
-        ->type_name("FILE|-");
-    report.add_option("--xlsx", arguments.Xlsx, Words("Write it as a spreadsheet instead"))
-        ->check(NotEmpty)
-        ->type_name("FILE|-");
+    AddOutputFile(report, "--csv", arguments.Csv, Words("Write it as CSV instead"));
+    AddOutputFile(report, "--xlsx", arguments.Xlsx, Words("Write it as a spreadsheet instead"));
     AddForce(report, arguments.Over);
 
     auto& import =
@@ -151,27 +146,17 @@ void AddProjectCommands(CLI::App& app, DataOptions& arguments) {
                                       arguments->Csv, arguments->Xlsx, arguments->Over});
                    });
     AddProject(exporting, arguments);
-    exporting
-        .add_option("--output", arguments.Csv, Words("File to write (default: standard output)"))
-        ->check(NotEmpty)
-        ->type_name("FILE|-");
-    exporting
-        .add_option("--xlsx", arguments.Xlsx,
-                    Words("Write them as a spreadsheet, with the totals by covering"))
-        ->check(NotEmpty)
-        ->type_name("FILE|-");
+    AddOutputFile(exporting, "--output", arguments.Csv,
+                  Words("File to write (default: standard output)"));
+    AddOutputFile(exporting, "--xlsx", arguments.Xlsx,
+                  Words("Write them as a spreadsheet, with the totals by covering"));
     AddForce(exporting, arguments.Over);
 }
 
 } // namespace
 
 void DescribeData(CLI::App& app, DataOptions& arguments) {
-    app.name("tarn-data");
-    PrepareHelp(app);
-    app.description(Description);
-    app.footer(Footer());
-    app.set_version_flag("--version", VersionText(app.get_name()),
-                         Words("Display program version information and exit"));
+    BeginOptions(app, "tarn-data", Description, Footer());
     app.require_subcommand(1);
     AddFileCommands(app, arguments);
     AddCareCommands(app, arguments);
@@ -183,12 +168,10 @@ std::function<void()> ReadDataCommand(int argc, const char* const* argv, int& st
     CLI::App app;
     const auto arguments = std::make_shared<DataOptions>();
     DescribeData(app, *arguments);
-    try {
-        app.parse(argc, argv);
-        RequireDifferentOutputs(
-            {{std::string(Words("the CSV")), arguments->Csv}, {"--xlsx", arguments->Xlsx}});
-    } catch (const CLI::ParseError& error) {
-        status = ExplainArguments(app, error);
+    const auto check = [arguments] {
+        RequireDifferentOutputs({{Words("the CSV"), arguments->Csv}, {"--xlsx", arguments->Xlsx}});
+    };
+    if (!ParseArguments(app, argc, argv, check, status)) {
         return {};
     }
     return [arguments] { arguments->Chosen(); };

@@ -9,7 +9,6 @@
 #include "improve/ImproveThreads.h"
 #include "project/Project.h"
 #include "tools/Files.h"
-#include "tools/ProgramVersion.h"
 #include "tools/Refusal.h"
 #include "tools/SharedOptions.h"
 #include "tools/ToolMain.h"
@@ -96,7 +95,7 @@ std::string MinCutDescription() {
 }
 
 void AddInput(CLI::App& app, EstimateOptions& options) {
-    AddRoomsSource(app, options.Database, options.Project, options.Rooms);
+    AddRoomsSource(app, options.From);
     app.add_flag("--metric", options.Metric,
                  Words("The sizes are centimetres; lists and totals are metric"));
 }
@@ -133,30 +132,21 @@ void AddChoices(CLI::App& app, EstimateOptions& options) {
 }
 
 void AddOutput(CLI::App& app, EstimateOptions& options) {
-    app.add_option(
-           "--text", options.Text,
-           Words("Write the cut list to FILE, or to standard output for - (done when no other "
-                 "output is asked for)"))
-        ->check(NotEmpty)
-        ->type_name("FILE|-");
-    app.add_option("--json", options.Json, Words("Write cuts, pieces and totals as JSON"))
-        ->check(NotEmpty)
-        ->type_name("FILE|-");
-    app.add_option("--svg", options.Svg, Words("Write the drawing of the layout with the cut list"))
-        ->check(NotEmpty)
-        ->type_name("FILE|-");
-    app.add_option(
-           "--dxf", options.Dxf,
-           Words("Write the whole roll, cuts and fills, true to size for a plotter or cutting "
-                 "table, along X, in inches (centimetres with --metric)"))
-        ->check(NotEmpty)
-        ->type_name("FILE|-");
-    app.add_option(
-           "--pdf", options.Pdf,
-           Words("Write the page that the program prints, for the paper of the default printer "
-                 "(A4 without one)"))
-        ->check(NotEmpty)
-        ->type_name("FILE|-");
+    AddOutputFile(
+        app, "--text", options.Text,
+        Words("Write the cut list to FILE, or to standard output for - (done when no other "
+              "output is asked for)"));
+    AddOutputFile(app, "--json", options.Json, Words("Write cuts, pieces and totals as JSON"));
+    AddOutputFile(app, "--svg", options.Svg,
+                  Words("Write the drawing of the layout with the cut list"));
+    AddOutputFile(
+        app, "--dxf", options.Dxf,
+        Words("Write the whole roll, cuts and fills, true to size for a plotter or cutting "
+              "table, along X, in inches (centimetres with --metric)"));
+    AddOutputFile(
+        app, "--pdf", options.Pdf,
+        Words("Write the page that the program prints, for the paper of the default printer "
+              "(A4 without one)"));
     AddForce(app, options.Over);
 }
 
@@ -175,9 +165,7 @@ void AddImprovement(CLI::App& app, EstimateOptions& options) {
                              "repeated"))
             ->check(AboveZero())
             ->type_name("N");
-    app.add_option("--seed", options.Seed, Words("Another seed makes the search take another way"))
-        ->capture_default_str()
-        ->type_name("N");
+    AddSeed(app, options.Seed);
     app.add_option(
            "--threads", options.Threads,
            Words("How many threads look for it (all cores, at most 8; with --improve-steps one)"))
@@ -190,14 +178,10 @@ void AddImprovement(CLI::App& app, EstimateOptions& options) {
 
 /// What the single options cannot tell. Raises CLI::ValidationError.
 void CheckTogether(EstimateOptions& options) {
-    RequireRoomsSource(options.Database, options.Rooms.Path);
-    RequireDifferentOutputs({{"--text", options.Text},
-                             {"--json", options.Json},
-                             {"--svg", options.Svg},
-                             {"--dxf", options.Dxf},
-                             {"--pdf", options.Pdf}});
-    if (options.Text.empty() && options.Json.empty() && options.Svg.empty() &&
-        options.Dxf.empty() && options.Pdf.empty()) {
+    RequireRoomsSource(options.From);
+    const Outputs outputs = OutputsOf(options);
+    RequireDifferentOutputs(outputs);
+    if (!IsAnyAskedFor(outputs)) {
         options.Text = StandardOutput;
     }
 }
@@ -205,12 +189,7 @@ void CheckTogether(EstimateOptions& options) {
 } // namespace
 
 void DescribeEstimate(CLI::App& app, EstimateOptions& options) {
-    app.name("tarn-estimate");
-    PrepareHelp(app);
-    app.description(Description);
-    app.footer(Footer());
-    app.set_version_flag("--version", VersionText(app.get_name()),
-                         Words("Display program version information and exit"));
+    BeginOptions(app, "tarn-estimate", Description, Footer());
     app.get_formatter()->column_width(28);
     AddInput(app, options);
     AddChoices(app, options);
@@ -223,14 +202,19 @@ std::optional<EstimateOptions> ReadEstimateOptions(int argc, const char* const* 
     CLI::App app;
     EstimateOptions options;
     DescribeEstimate(app, options);
-    try {
-        app.parse(argc, argv);
-        CheckTogether(options);
-    } catch (const CLI::ParseError& error) {
-        status = ExplainArguments(app, error);
+    if (!ParseArguments(
+            app, argc, argv, [&options] { CheckTogether(options); }, status)) {
         return std::nullopt;
     }
     return options;
+}
+
+Outputs OutputsOf(const EstimateOptions& options) {
+    return {{"--text", options.Text},
+            {"--json", options.Json},
+            {"--svg", options.Svg},
+            {"--dxf", options.Dxf},
+            {"--pdf", options.Pdf}};
 }
 
 EstimateRequest RequestOf(const EstimateOptions& options) {

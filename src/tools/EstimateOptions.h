@@ -6,6 +6,7 @@
 #include "files/OutputFile.h"
 #include "tools/SharedOptions.h"
 
+#include <cstdint>
 #include <optional>
 #include <string>
 
@@ -17,9 +18,7 @@ namespace tarn {
 
 /// What tarn-estimate is asked to do.
 struct EstimateOptions {
-    std::string Database; ///< with Project, or else Rooms
-    std::string Project;
-    RoomFile Rooms; ///< a CSV file
+    RoomsSource From;
     bool Metric = false;
     int Carpet = 0; ///< 1..8
     std::string RollWidth;
@@ -37,7 +36,7 @@ struct EstimateOptions {
     bool Improve = false;       ///< improve the layout
     double ImproveSeconds = 0;  ///< 0 = no limit
     long long ImproveSteps = 0; ///< 0 = no limit
-    unsigned long long Seed = 1;
+    std::uint64_t Seed = 1;
     std::size_t Threads = 0; ///< 0 = see ThreadsFor
 };
 
@@ -47,6 +46,9 @@ void DescribeEstimate(CLI::App& app, EstimateOptions& options);
 /// Read the arguments of tarn-estimate. When they ask for help or the version, or cannot be
 /// understood, prints that and gives nothing; `status` is then the exit status.
 std::optional<EstimateOptions> ReadEstimateOptions(int argc, const char* const* argv, int& status);
+
+/// All that can be written.
+Outputs OutputsOf(const EstimateOptions& options);
 
 /// The request that the options make, without its pattern repeat. Raises Refusal for a roll width
 /// that cannot be read.

@@ -20,6 +20,7 @@
 #include "tools/ProjectFile.h"
 #include "tools/Refusal.h"
 
+#include <functional>
 #include <iostream>
 
 namespace tarn {
@@ -29,14 +30,14 @@ namespace {
 /// The project with the rooms that are to be estimated. Its name is empty when they come from a
 /// file of rooms alone.
 Project LoadRooms(const EstimateOptions& options) {
-    if (!options.Rooms.Path.empty()) {
+    if (!options.From.Rooms.Path.empty()) {
         Project project;
         project.Rooms =
-            ReadRoomFile(options.Rooms, options.Metric ? Units::Metric : Units::Imperial);
+            ReadRoomFile(options.From.Rooms, options.Metric ? Units::Metric : Units::Imperial);
         return project;
     }
-    ProjectStore store(options.Database, DatabaseAccess::ReadOnly);
-    Project project = LoadProjectNamed(store, options.Project);
+    ProjectStore store(options.From.Database, DatabaseAccess::ReadOnly);
+    Project project = LoadProjectNamed(store, options.From.Project);
     if (project.EnteredIn == Units::Metric && !options.Metric) {
         WarnOfMetric(Words("Warning: the project %1 was entered in metric; it is estimated in feet "
                            "and inches. Use --metric for centimetres."),
@@ -61,10 +62,8 @@ Drawing DrawingOf(const Estimate& estimate, PieceSizes sizes) {
 }
 
 std::string SvgOf(const Estimate& estimate) {
-    const std::string carpet = CoveringCaption(estimate.Request.Carpet);
     return SvgDocument(DrawingOf(estimate, PieceSizes::Shown),
-                       estimate.ProjectName.empty() ? carpet
-                                                    : estimate.ProjectName + ", " + carpet);
+                       CoveringTitle(estimate.ProjectName, estimate.Request.Carpet));
 }
 
 std::string PdfOf(const Estimate& estimate) {
@@ -75,31 +74,19 @@ std::string PdfOf(const Estimate& estimate) {
         MakeEstimatePage(estimate.ProjectName, estimate, drawing, sheet, ShortDateOfToday()));
 }
 
-void RequireOutputsBesideInput(const EstimateOptions& options) {
-    const std::string& input = options.Rooms.Path.empty() ? options.Database : options.Rooms.Path;
-    for (const std::string& output :
-         {options.Svg, options.Dxf, options.Pdf, options.Json, options.Text}) {
-        RequireOtherFile(output, input);
-    }
-}
-
 void WriteOutputs(const EstimateOptions& options, const Project& project,
                   const Estimate& estimate) {
-    if (!options.Svg.empty()) {
-        WriteWholeFile(options.Svg, SvgOf(estimate), options.Over);
-    }
-    if (!options.Dxf.empty()) {
-        WriteWholeFile(options.Dxf, EstimateDxf(estimate, project), options.Over);
-    }
-    if (!options.Pdf.empty()) {
-        WriteWholeFile(options.Pdf, PdfOf(estimate), options.Over);
-    }
-    if (!options.Json.empty()) {
-        WriteWholeFile(options.Json, EstimateJson(estimate), options.Over);
-    }
-    if (!options.Text.empty()) {
-        WriteWholeFile(options.Text, CutListText(estimate), options.Over);
-    }
+    const auto write = [&](const std::string& path,
+                           const std::function<std::string(const Estimate&)>& contentOf) {
+        if (!path.empty()) {
+            WriteWholeFile(path, contentOf(estimate), options.Over);
+        }
+    };
+    write(options.Svg, SvgOf);
+    write(options.Dxf, [&project](const Estimate& of) { return EstimateDxf(of, project); });
+    write(options.Pdf, PdfOf);
+    write(options.Json, EstimateJson);
+    write(options.Text, CutListText);
 }
 
 } // namespace
@@ -107,7 +94,7 @@ void WriteOutputs(const EstimateOptions& options, const Project& project,
 void EstimateFor(const EstimateOptions& options) {
     EstimateRequest request = RequestOf(options);
     const std::optional<RepeatTexts> repeat = RepeatOf(options);
-    RequireOutputsBesideInput(options);
+    RequireOutputsBeside(options.From.Path(), OutputsOf(options));
     const Project project = LoadRooms(options);
     if (!HasRooms(project, request.Carpet)) {
         throw Refusal(Words("No room has %1.", CoveringCaption(request.Carpet)));

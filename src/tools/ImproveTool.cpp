@@ -4,42 +4,30 @@
 #include "base/Words.h"
 #include "estimate/ImproveEstimate.h"
 #include "tools/InterruptStops.h"
+#include "tools/TerminalLine.h"
 
 #include <chrono>
-#include <cstdio>
 #include <iostream>
 #include <string>
-#include <unistd.h>
 #include <utility>
 
 namespace tarn {
 
 namespace {
 
-/// Writes how far the search is into one line of a terminal.
+/// Shows in one line of a terminal how far the search is.
 class ProgressLine : public ImproveObserver {
   public:
     explicit ProgressLine(Units units)
         : units_(units) {}
-    ~ProgressLine() override {
-        if (written_) {
-            std::cerr << '\n';
-        }
-    }
-    ProgressLine(const ProgressLine&) = delete;
-    ProgressLine& operator=(const ProgressLine&) = delete;
 
     bool Progress(const ImproveProgress& progress) override {
         constexpr std::chrono::milliseconds Pause(200);
         const auto now = Clock::now();
-        if (isTerminal_ && progress.Bound > 0 && (!written_ || now - last_ >= Pause)) {
-            constexpr const char* StartOfLine = "\r\033[K";
-            std::cerr << StartOfLine
-                      << Words("Fills: %1, %2", LengthText(progress.Best, units_),
-                               GapText(progress))
-                      << std::flush;
+        if (line_.IsThere() && progress.Bound > 0 && (!line_.IsWritten() || now - last_ >= Pause)) {
+            line_.Write(
+                Words("Fills: %1, %2", LengthText(progress.Best, units_), GapText(progress)));
             last_ = now;
-            written_ = true;
         }
         return !WasInterrupted();
     }
@@ -48,8 +36,7 @@ class ProgressLine : public ImproveObserver {
     using Clock = std::chrono::steady_clock;
 
     Units units_;
-    bool isTerminal_ = isatty(STDERR_FILENO) == 1;
-    bool written_ = false;
+    TerminalLine line_{TerminalLine::End::Kept};
     Clock::time_point last_;
 };
 

@@ -3,7 +3,6 @@
 #include "base/Words.h"
 #include "project/OrderEntry.h"
 #include "tools/Files.h"
-#include "tools/ProgramVersion.h"
 #include "tools/Refusal.h"
 #include "tools/SharedOptions.h"
 #include "tools/ToolMain.h"
@@ -33,7 +32,7 @@ constexpr auto Footer = Words(
     "  tarn-order --rooms house.csv --roll 12ft=18.50 --roll 15ft=19 --lay both --trim 3in");
 
 void AddInput(CLI::App& app, OrderOptions& options) {
-    AddRoomsSource(app, options.Database, options.Project, options.Rooms);
+    AddRoomsSource(app, options.From);
     auto* metric = app.add_flag("--metric", options.Metric, Words("The sizes are centimetres"));
     app.add_flag("--feet", options.Feet,
                  Words("The sizes are inches, also of a project that was entered in metric"))
@@ -113,29 +112,30 @@ void AddSearch(CLI::App& app, OrderOptions& options) {
            Words("So many layouts for each row instead, so that the result can be repeated"))
         ->check(AboveZero())
         ->type_name("N");
-    app.add_option("--seed", options.Seed, Words("Another seed makes the search take another way"))
-        ->capture_default_str()
-        ->type_name("N");
+    AddSeed(app, options.Seed);
 }
 
 void AddOutput(CLI::App& app, OrderOptions& options) {
-    const auto add = [&app](const char* name, std::string& path, Phrase what) {
-        app.add_option(name, path, what)->check(NotEmpty)->type_name("FILE|-");
-    };
-    add("--text", options.Text,
+    AddOutputFile(
+        app, "--text", options.Text,
         Words("Write comparison and list as text (on standard output when no other output is asked "
               "for)"));
-    add("--json", options.Json, Words("Write requests, comparison and pieces as JSON"));
-    add("--csv", options.Csv, Words("Write comparison and pieces as CSV"));
-    add("--xlsx", options.Xlsx, Words("Write comparison and pieces as a spreadsheet"));
-    add("--pdf", options.Pdf,
+    AddOutputFile(app, "--json", options.Json,
+                  Words("Write requests, comparison and pieces as JSON"));
+    AddOutputFile(app, "--csv", options.Csv, Words("Write comparison and pieces as CSV"));
+    AddOutputFile(app, "--xlsx", options.Xlsx,
+                  Words("Write comparison and pieces as a spreadsheet"));
+    AddOutputFile(
+        app, "--pdf", options.Pdf,
         Words("Write the sheet to buy and cut by, of all carpets, as it is printed; A4 unless the "
               "printer has another paper"));
-    add("--svg", options.Svg,
+    AddOutputFile(
+        app, "--svg", options.Svg,
         Words("Write the pages of one carpet's sheet below each other as a drawing (with --carpet "
               "when "
               "there are several)"));
-    add("--dxf", options.Dxf,
+    AddOutputFile(
+        app, "--dxf", options.Dxf,
         Words("Write the roll of one carpet's best row true to size for a plotter or cutting "
               "table, along X, in inches (centimetres with --metric)"));
     AddForce(app, options.Over);
@@ -143,16 +143,10 @@ void AddOutput(CLI::App& app, OrderOptions& options) {
 
 /// What the single options cannot tell. Raises CLI::ValidationError.
 void CheckTogether(OrderOptions& options) {
-    RequireRoomsSource(options.Database, options.Rooms.Path);
-    RequireDifferentOutputs({{"--text", options.Text},
-                             {"--json", options.Json},
-                             {"--csv", options.Csv},
-                             {"--xlsx", options.Xlsx},
-                             {"--pdf", options.Pdf},
-                             {"--svg", options.Svg},
-                             {"--dxf", options.Dxf}});
-    if (options.Text.empty() && options.Json.empty() && options.Csv.empty() &&
-        options.Xlsx.empty() && options.Pdf.empty() && options.Svg.empty() && options.Dxf.empty()) {
+    RequireRoomsSource(options.From);
+    const Outputs outputs = OutputsOf(options);
+    RequireDifferentOutputs(outputs);
+    if (!IsAnyAskedFor(outputs)) {
         options.Text = StandardOutput;
     }
 }
@@ -224,12 +218,7 @@ std::vector<Lay> LaysOf(const std::string& word) {
 } // namespace
 
 void DescribeOrder(CLI::App& app, OrderOptions& options) {
-    app.name("tarn-order");
-    PrepareHelp(app);
-    app.description(Description);
-    app.footer(Footer);
-    app.set_version_flag("--version", VersionText(app.get_name()),
-                         Words("Display program version information and exit"));
+    BeginOptions(app, "tarn-order", Description, Footer);
     app.get_formatter()->column_width(28);
     AddInput(app, options);
     AddRolls(app, options);
@@ -243,14 +232,17 @@ std::optional<OrderOptions> ReadOrderOptions(int argc, const char* const* argv, 
     CLI::App app;
     OrderOptions options;
     DescribeOrder(app, options);
-    try {
-        app.parse(argc, argv);
-        CheckTogether(options);
-    } catch (const CLI::ParseError& error) {
-        status = ExplainArguments(app, error);
+    if (!ParseArguments(
+            app, argc, argv, [&options] { CheckTogether(options); }, status)) {
         return std::nullopt;
     }
     return options;
+}
+
+Outputs OutputsOf(const OrderOptions& options) {
+    return {{"--text", options.Text}, {"--json", options.Json}, {"--csv", options.Csv},
+            {"--xlsx", options.Xlsx}, {"--pdf", options.Pdf},   {"--svg", options.Svg},
+            {"--dxf", options.Dxf}};
 }
 
 OrderRequest RequestOf(const OrderOptions& options, Units units,

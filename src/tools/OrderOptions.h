@@ -20,9 +20,7 @@ namespace tarn {
 /// What tarn-order is asked to do. Options that were not given are empty, so that those of the
 /// saved request count.
 struct OrderOptions {
-    std::string Database; ///< with Project, or else Rooms
-    std::string Project;
-    RoomFile Rooms; ///< a CSV file
+    RoomsSource From;
     bool Metric = false;
     bool Feet = false;
     std::optional<int> Carpet; ///< 1..8; all of the project without it
@@ -60,6 +58,9 @@ void DescribeOrder(CLI::App& app, OrderOptions& options);
 /// Read the arguments of tarn-order. When they ask for help or the version, or cannot be
 /// understood, prints that and gives nothing; `status` is then the exit status.
 std::optional<OrderOptions> ReadOrderOptions(int argc, const char* const* argv, int& status);
+
+/// All that can be written.
+Outputs OutputsOf(const OrderOptions& options);
 
 /// The request that the options make, in the given units: what was not given is as in `saved`, or
 /// else as usual. Raises Refusal, which names the option and the reason, for one that cannot be

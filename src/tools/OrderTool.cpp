@@ -22,13 +22,13 @@
 #include "tools/ProjectFile.h"
 #include "tools/Refusal.h"
 #include "tools/StandardStreams.h"
+#include "tools/TerminalLine.h"
 
 #include <algorithm>
-#include <chrono>
+#include <functional>
 #include <iostream>
 #include <map>
 #include <optional>
-#include <unistd.h>
 #include <utility>
 
 namespace tarn {
@@ -38,13 +38,13 @@ namespace {
 /// The project, and in which units it is ordered.
 OrderDocument ReadProject(const OrderOptions& options) {
     const Units asked = options.Metric ? Units::Metric : Units::Imperial;
-    if (!options.Rooms.Path.empty()) {
+    if (!options.From.Rooms.Path.empty()) {
         OrderDocument document{{}, asked, {}};
-        document.Of.Rooms = ReadRoomFile(options.Rooms, asked);
+        document.Of.Rooms = ReadRoomFile(options.From.Rooms, asked);
         return document;
     }
-    ProjectStore store(options.Database, DatabaseAccess::ReadOnly);
-    OrderDocument document{LoadProjectNamed(store, options.Project), asked, {}};
+    ProjectStore store(options.From.Database, DatabaseAccess::ReadOnly);
+    OrderDocument document{LoadProjectNamed(store, options.From.Project), asked, {}};
     const Units entered = document.Of.EnteredIn;
     if (entered != asked && !options.Metric && !options.Feet) {
         throw Refusal(Words("The project %1 was entered in metric. Use --metric, or --feet to take "
@@ -88,30 +88,17 @@ std::map<Byte, OrderRequest> RequestsOf(const OrderOptions& options,
     return requests;
 }
 
-/// Writes how far the search is into one line of a terminal.
+/// Shows in one line of a terminal how far the search is.
 class ProgressLine : public OrderObserver {
   public:
-    ProgressLine() = default;
-    ~ProgressLine() override {
-        if (written_) {
-            std::cerr << StartOfLine << std::flush;
-        }
-    }
-    ProgressLine(const ProgressLine&) = delete;
-    ProgressLine& operator=(const ProgressLine&) = delete;
-
     bool Progress(const Order& soFar, bool changed) override {
-        if (isTerminal_ && (changed || !written_)) {
-            std::cerr << StartOfLine << CoveringCaption(soFar.Carpet) << ": " << BestText(soFar)
-                      << std::flush;
-            written_ = true;
+        if (line_.IsThere() && (changed || !line_.IsWritten())) {
+            line_.Write(CoveringCaption(soFar.Carpet) + ": " + BestText(soFar));
         }
         return !WasInterrupted();
     }
 
   private:
-    static constexpr const char* StartOfLine = "\r\033[K";
-
     static std::string BestText(const Order& order) {
         if (!order.Best) {
             return Words("comparing");
@@ -121,8 +108,7 @@ class ProgressLine : public OrderObserver {
                OrderLengthText(static_cast<Long>(best.Figures->Length), order.Request.In);
     }
 
-    bool isTerminal_ = isatty(STDERR_FILENO) == 1;
-    bool written_ = false;
+    TerminalLine line_{TerminalLine::End::Erased};
 };
 
 OrderLimits LimitsOf(const OrderOptions& options, const OrderRequest& request) {
@@ -154,14 +140,6 @@ void TellNotes(const OrderDocument& document) {
     }
 }
 
-void RequireOutputsBesideInput(const OrderOptions& options) {
-    const std::string& input = options.Rooms.Path.empty() ? options.Database : options.Rooms.Path;
-    for (const std::string& output : {options.Text, options.Json, options.Csv, options.Xlsx,
-                                      options.Pdf, options.Svg, options.Dxf}) {
-        RequireOtherFile(output, input);
-    }
-}
-
 std::string PdfOf(const OrderDocument& document) {
     SystemPrinter printer;
     return OrderPdf(document, ShortDateOfToday(), PaperOf(ReadPrinterPage(printer)));
@@ -170,39 +148,32 @@ std::string PdfOf(const OrderDocument& document) {
 /// The sheet of the one carpet.
 std::string SvgOf(const OrderDocument& document) {
     const Order& order = document.Orders.front();
-    const std::string carpet = CoveringCaption(order.Carpet);
     return SvgDocument(OrderPicture(document.Of, order, {}, ShortDateOfToday()),
-                       document.Of.Name.empty() ? carpet : document.Of.Name + ", " + carpet);
+                       CoveringTitle(document.Of.Name, order.Carpet));
 }
 
 void WriteOutputs(const OrderOptions& options, const OrderDocument& document) {
-    if (!options.Svg.empty()) {
-        WriteWholeFile(options.Svg, SvgOf(document), options.Over);
+    const auto write = [&](const std::string& path,
+                           const std::function<std::string(const OrderDocument&)>& contentOf) {
+        if (!path.empty()) {
+            WriteWholeFile(path, contentOf(document), options.Over);
+        }
+    };
+    write(options.Svg, SvgOf);
+    if (document.Orders.front().Best) { // else there is no roll
+        write(options.Dxf, OrderDxf);
     }
-    if (!options.Dxf.empty() && document.Orders.front().Best) { // else there is no roll
-        WriteWholeFile(options.Dxf, OrderDxf(document), options.Over);
-    }
-    if (!options.Pdf.empty()) {
-        WriteWholeFile(options.Pdf, PdfOf(document), options.Over);
-    }
-    if (!options.Xlsx.empty()) {
-        WriteWholeFile(options.Xlsx, OrderXlsx(document), options.Over);
-    }
-    if (!options.Json.empty()) {
-        WriteWholeFile(options.Json, OrderJson(document), options.Over);
-    }
-    if (!options.Csv.empty()) {
-        WriteWholeFile(options.Csv, OrderCsv(document), options.Over);
-    }
-    if (!options.Text.empty()) {
-        WriteWholeFile(options.Text, OrderText(document), options.Over);
-    }
+    write(options.Pdf, PdfOf);
+    write(options.Xlsx, OrderXlsx);
+    write(options.Json, OrderJson);
+    write(options.Csv, OrderCsv);
+    write(options.Text, OrderText);
 }
 
 } // namespace
 
 void OrderFor(const OrderOptions& options) {
-    RequireOutputsBesideInput(options);
+    RequireOutputsBeside(options.From.Path(), OutputsOf(options));
     OrderDocument document = ReadProject(options);
     const std::map<Byte, OrderRequest> requests = RequestsOf(options, document);
     for (const auto& [option, path] :

@@ -2,7 +2,6 @@
 
 #include "base/Words.h"
 #include "store/Configuration.h"
-#include "tools/ProgramVersion.h"
 #include "tools/SharedOptions.h"
 #include "tools/ToolMain.h"
 
@@ -24,12 +23,7 @@ constexpr auto Footer = Words(
 } // namespace
 
 void DescribeProgram(CLI::App& app, ProgramOptions& options) {
-    app.name("tarn");
-    PrepareHelp(app);
-    app.description(Description);
-    app.footer(Footer);
-    app.set_version_flag("--version", VersionText(app.get_name()),
-                         Words("Display program version information and exit"));
+    BeginOptions(app, "tarn", Description, Footer);
     app.add_option_function<std::string>(
            "--config-dir",
            [&options](const std::string& directory) { options.ConfigDirectory = directory; },
@@ -45,10 +39,8 @@ std::optional<ProgramOptions> ReadProgramOptions(int argc, const char* const* ar
     CLI::App app;
     ProgramOptions options;
     DescribeProgram(app, options);
-    try {
-        app.parse(argc, argv);
-    } catch (const CLI::ParseError& error) {
-        status = ExplainArguments(app, error);
+    if (!ParseArguments(
+            app, argc, argv, [] {}, status)) {
         return std::nullopt;
     }
     return options;

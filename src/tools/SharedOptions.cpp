@@ -4,10 +4,30 @@
 #include "files/Language.h"
 #include "tools/ArgumentErrors.h"
 #include "tools/Files.h"
+#include "tools/ProgramVersion.h"
 
 #include <CLI/CLI.hpp>
 
+#include <algorithm>
+
 namespace tarn {
+
+namespace {
+
+/// Have `app` give its help in the language in force.
+void TranslateHelp(CLI::App& app) {
+    auto& formatter = *app.get_formatter();
+    formatter.label("Usage", Words("Usage"));
+    formatter.label("OPTIONS", Words("OPTIONS"));
+    formatter.label("SUBCOMMAND", Words("SUBCOMMAND"));
+    formatter.label("Positionals", Words("Positionals"));
+    formatter.label("REQUIRED", Words("REQUIRED"));
+    formatter.label("Needs", Words("Needs"));
+    formatter.label("Excludes", Words("Excludes"));
+    app.option_defaults()->group(Words("Options"));
+}
+
+} // namespace
 
 void SpeakAsAsked(int argc, const char* const* argv, std::string_view chosen) {
     constexpr std::string_view Option = "--language";
@@ -26,19 +46,12 @@ void SpeakAsAsked(int argc, const char* const* argv, std::string_view chosen) {
     }
 }
 
-void PrepareHelp(CLI::App& app) {
-    auto& formatter = *app.get_formatter();
-    formatter.label("Usage", Words("Usage"));
-    formatter.label("OPTIONS", Words("OPTIONS"));
-    formatter.label("SUBCOMMAND", Words("SUBCOMMAND"));
-    formatter.label("Positionals", Words("Positionals"));
-    formatter.label("REQUIRED", Words("REQUIRED"));
-    formatter.label("Needs", Words("Needs"));
-    formatter.label("Excludes", Words("Excludes"));
-    formatter.label("TEXT", Words("TEXT"));
-    app.option_defaults()->group(Words("Options"));
-    app.failure_message(
-        [](const CLI::App*, const CLI::Error& error) { return ArgumentErrorText(error); });
+void BeginOptions(CLI::App& app, const std::string& program, const std::string& description,
+                  const std::string& footer) {
+    app.name(program);
+    app.description(description);
+    app.footer(footer);
+    TranslateHelp(app);
     app.set_help_flag("-h,--help", Words("Print this help message and exit"));
     app.add_option_function<std::string>(
            "--language", [](const std::string&) {},
@@ -47,6 +60,8 @@ void PrepareHelp(CLI::App& app) {
             return IsKnownLanguage(code) ? std::string() : UnknownLanguageText(code);
         })
         ->type_name("en|de|es");
+    app.set_version_flag("--version", VersionText(program),
+                         Words("Display program version information and exit"));
 }
 
 CLI::Option* AddEncoding(CLI::App& app, std::string& encoding) {
@@ -58,21 +73,22 @@ CLI::Option* AddEncoding(CLI::App& app, std::string& encoding) {
         ->type_name("NAME");
 }
 
-void AddRoomsSource(CLI::App& app, std::string& database, std::string& project, RoomFile& rooms) {
-    auto* file = app.add_option("--database", database, Words("Database file of the project"))
-                     ->type_name("FILE");
-    auto* name =
-        app.add_option("--project", project, Words("Name of the project"))->type_name("NAME");
-    auto* csv = app.add_option("--rooms", rooms.Path, Words("CSV file with the rooms"))
+void AddRoomsSource(CLI::App& app, RoomsSource& source) {
+    auto* file =
+        app.add_option("--database", source.Database, Words("Database file of the project"))
+            ->type_name("FILE");
+    auto* name = app.add_option("--project", source.Project, Words("Name of the project"))
+                     ->type_name("NAME");
+    auto* csv = app.add_option("--rooms", source.Rooms.Path, Words("CSV file with the rooms"))
                     ->type_name("FILE.csv");
     file->needs(name);
     name->needs(file);
     csv->excludes(file)->excludes(name);
-    AddEncoding(app, rooms.Encoding)->needs(csv);
+    AddEncoding(app, source.Rooms.Encoding)->needs(csv);
 }
 
-void RequireRoomsSource(const std::string& database, const std::string& rooms) {
-    if (database.empty() && rooms.empty()) {
+void RequireRoomsSource(const RoomsSource& source) {
+    if (source.Path().empty()) {
         throw CLI::ValidationError(
             Words("either --database and --project, or --rooms is required"));
     }
@@ -82,26 +98,46 @@ std::string NotEmpty(const std::string& value) {
     return value.empty() ? Words("the value is empty") : Phrase();
 }
 
-CLI::Validator AboveZero() {
-    CLI::Validator check = CLI::PositiveNumber;
-    return check.description(Words("POSITIVE")).operation([](const std::string& value) {
-        const bool isAbove = CLI::PositiveNumber(value).empty();
-        return isAbove ? std::string() : Words("%1 is not a number above 0", value);
-    });
+void AddSeed(CLI::App& app, std::uint64_t& seed) {
+    app.add_option("--seed", seed, Words("Another seed makes the search take another way"))
+        ->capture_default_str()
+        ->type_name("N");
 }
 
-void RequireDifferentOutputs(const std::vector<std::pair<std::string, std::string>>& outputs) {
+void AddOutputFile(CLI::App& app, const std::string& option, std::string& path,
+                   const std::string& what) {
+    app.add_option(option, path, what)->check(NotEmpty)->type_name("FILE|-");
+}
+
+void AddForce(CLI::App& command, Overwrite& over) {
+    command.add_flag_callback(
+        "--force", [&over] { over = Overwrite::Anything; },
+        Words("Write over a database too, and where a symbolic link leads"));
+}
+
+bool IsAnyAskedFor(const Outputs& outputs) {
+    return std::any_of(outputs.begin(), outputs.end(),
+                       [](const Output& output) { return !output.Path.empty(); });
+}
+
+void RequireDifferentOutputs(const Outputs& outputs) {
     for (auto output = outputs.begin(); output != outputs.end(); ++output) {
         for (auto other = output + 1; other != outputs.end(); ++other) {
-            const std::string& path = output->second;
-            if (!path.empty() && !other->second.empty() && IsSameFile(path, other->second)) {
+            const std::string& path = output->Path;
+            if (!path.empty() && !other->Path.empty() && IsSameFile(path, other->Path)) {
                 throw CLI::ValidationError(
                     path == StandardOutput ? Words("%1 and %2 cannot both go to standard output",
-                                                   output->first, other->first)
-                                           : Words("%1 and %2 cannot both go to %3", output->first,
-                                                   other->first, path));
+                                                   output->Option, other->Option)
+                                           : Words("%1 and %2 cannot both go to %3", output->Option,
+                                                   other->Option, path));
             }
         }
+    }
+}
+
+void RequireOutputsBeside(const std::string& input, const Outputs& outputs) {
+    for (const Output& output : outputs) {
+        RequireOtherFile(output.Path, input);
     }
 }
 

@@ -17,6 +17,18 @@ void Tell(std::string_view program, std::string_view text) {
     std::cerr << program << ": " << ShownLines(text) << '\n';
 }
 
+/// Tell why the arguments give nothing to run; the exit status.
+int ExplainArguments(const CLI::App& options, const CLI::ParseError& error) {
+    if (options.exit(error) != 0) {
+        return WrongUsage;
+    }
+    if (IsStandardOutputWritten()) {
+        return Done;
+    }
+    Tell(options.get_name(), StandardOutputRefusal);
+    return Refused;
+}
+
 } // namespace
 
 int RunTool(std::string_view program, const std::function<void()>& body) {
@@ -34,21 +46,16 @@ int RunTool(std::string_view program, const std::function<void()>& body) {
     return Refused;
 }
 
-void AddForce(CLI::App& command, Overwrite& over) {
-    command.add_flag_callback(
-        "--force", [&over] { over = Overwrite::Anything; },
-        Words("Write over a database too, and where a symbolic link leads"));
-}
-
-int ExplainArguments(const CLI::App& options, const CLI::ParseError& error) {
-    if (options.exit(error) != 0) {
-        return WrongUsage;
+bool ParseArguments(CLI::App& app, int argc, const char* const* argv,
+                    const std::function<void()>& check, int& status) {
+    try {
+        app.parse(argc, argv);
+        check();
+        return true;
+    } catch (const CLI::ParseError& error) {
+        status = ExplainArguments(app, error);
+        return false;
     }
-    if (IsStandardOutputWritten()) {
-        return Done;
-    }
-    Tell(options.get_name(), StandardOutputRefusal);
-    return Refused;
 }
 
 } // namespace tarn

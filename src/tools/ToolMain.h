@@ -1,13 +1,10 @@
 #pragma once
 
-#include "files/OutputFile.h"
-
 #include <functional>
 #include <string_view>
 
 namespace CLI {
 class App;
-class ParseError;
 } // namespace CLI
 
 namespace tarn {
@@ -17,11 +14,10 @@ namespace tarn {
 /// written. Returns the exit status.
 int RunTool(std::string_view program, const std::function<void()>& body);
 
-/// Add the option --force to a program or command: it allows Overwrite::Anything.
-void AddForce(CLI::App& command, Overwrite& over);
-
-/// Tell why the arguments give nothing to run: they ask for help or the version, or cannot be
-/// understood. Returns the exit status.
-int ExplainArguments(const CLI::App& options, const CLI::ParseError& error);
+/// Parse the arguments, and then `check` what the single options cannot tell; both may raise
+/// CLI::ParseError. When they ask for help or the version, or cannot be understood, prints that and
+/// answers false; `status` is then the exit status.
+bool ParseArguments(CLI::App& app, int argc, const char* const* argv,
+                    const std::function<void()>& check, int& status);
 
 } // namespace tarn

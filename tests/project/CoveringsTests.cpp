@@ -39,6 +39,11 @@ TEST(Coverings, BeyondTheLastTileAreStillToldApart) {
     EXPECT_EQ(CoveringReportText(255), "T248");
 }
 
+TEST(Coverings, StandBehindTheNameOfTheProjectInATitle) {
+    EXPECT_EQ(CoveringTitle("SMITH", 2), "SMITH, CARPET-3");
+    EXPECT_EQ(CoveringTitle("", 11), "TILE-4");
+}
+
 TEST(ReadCovering, ReadsEveryCaptionAndReportText) {
     for (std::size_t code = 0; code < Captions.size(); ++code) {
         EXPECT_EQ(ReadCovering(Captions[code]), code);
