@@ -11,15 +11,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-using testing::DatabaseErrorOf;
-using testing::RawDatabase;
-using testing::ReadFile;
-using testing::ShortWait;
-using testing::TestDatabase;
-using testing::TestFolder;
-using testing::WriteFile;
-
-using Lines = std::vector<std::string>;
+using namespace tarn::testing;
 
 TEST(BackUpDatabaseFile, CopiesEveryRow) {
     const TestDatabase file;
@@ -95,7 +87,7 @@ TEST(BackUpDatabaseFile, NeedsTheNameOfAFile) {
         EXPECT_EQ(DatabaseErrorOf([&] { BackUpDatabaseFile(source.Path(), target); }),
                   "The file " + target + " cannot be made: it has no name.");
     }
-    EXPECT_EQ(folder.Content(), std::vector<std::string>{});
+    EXPECT_EQ(folder.Content(), Lines{});
 }
 
 TEST(BackUpDatabaseFile, LeavesNothingBehindWhileTheSourceIsLocked) {

@@ -14,12 +14,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-using testing::RawDatabase;
-using testing::ReadFile;
-using testing::TestFolder;
-using testing::WriteFile;
-
-using Lines = std::vector<std::string>;
+using namespace tarn::testing;
 
 QDateTime At(int year, int month, int day, int hour = 12, int minute = 0, int second = 0) {
     return {QDate(year, month, day), QTime(hour, minute, second)};

@@ -5,10 +5,7 @@
 namespace tarn {
 namespace {
 
-using testing::ShortWait;
-using testing::TestDatabase;
-
-using Lines = std::vector<std::string>;
+using namespace tarn::testing;
 using Outcome = SaveResult::Outcome;
 
 /// P, with three rooms under number 5, was loaded; one of its rooms is changed since.

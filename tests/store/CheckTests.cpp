@@ -16,30 +16,17 @@ namespace {
 
 namespace fs = std::filesystem;
 
-using testing::OtherProgram;
-using testing::RawDatabase;
-using testing::ReadFile;
-using testing::ShortWait;
-using testing::TestDatabase;
-using testing::TestFolder;
-using testing::WriteFile;
-
-using Lines = std::vector<std::string>;
+using namespace tarn::testing;
 
 /// A way in which another program can leave a database out of order.
 struct Disorder {
     const char* Name;
-    std::vector<std::string> Statements;
+    Lines Statements;
     Lines Findings;
 };
 
-/// A database with the directory HOUSES, in it SMITH (sheet 1, three rooms), JONES (sheet 2, one
-/// room), and in a month NEW, which was never saved.
 void Fill(const TestDatabase& file) {
-    file.AddDirectory("HOUSES");
-    file.AddProject("HOUSES", "SMITH", 1, 3);
-    file.AddProject("HOUSES", "JONES", 2, 1);
-    file.Run("INSERT INTO ProjTab VALUES ('MARCH', 'NEW', 0)");
+    file.AddHouses();
     file.Run("INSERT INTO FillCut VALUES (1)");
 }
 
@@ -293,13 +280,13 @@ TEST_F(ACrashedFile, IsCheckedAsTheNextProgramFindsItAndLeftAsItIs) {
 
 TEST_F(ACrashedFile, ThatCannotBeCopiedForTheCheckIsToldWithTheCause) {
     const auto check = [this] { return CheckDatabaseFile(Path()); };
-    const Lines calls = testing::CallsOf(check);
+    const Lines calls = CallsOf(check);
     int writes = 0;
     for (std::size_t place = 0; place < calls.size(); ++place) {
         if (calls.at(place) == "write") {
             ++writes;
             Lines findings;
-            testing::WithFailingCall(place, ENOSPC, [&] { findings = check(); });
+            WithFailingCall(place, ENOSPC, [&] { findings = check(); });
             ASSERT_EQ(findings.size(), 1U);
             EXPECT_NE(findings.front().find("cannot be looked over"), std::string::npos)
                 << findings.front();

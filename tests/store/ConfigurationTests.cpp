@@ -12,9 +12,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-using testing::ReadFile;
-using testing::TestFolder;
-using testing::WriteFile;
+using namespace tarn::testing;
 using Finding = Configuration::Finding;
 
 class ConfigurationFile : public ::testing::Test {
@@ -168,7 +166,7 @@ TEST_F(ConfigurationFile, IsWrittenSoThatItReadsBack) {
         fs::remove(File());
         WriteConfiguration(folder_.Path(), folder);
         EXPECT_EQ(ReadConfiguration({folder_.Path()}).DataPath, folder);
-        EXPECT_EQ(folder_.Content(), std::vector<std::string>{"TarnWin.INI"});
+        EXPECT_EQ(folder_.Content(), Lines{"TarnWin.INI"});
     }
     EXPECT_EQ(ReadFile(File()), "[TarnWin Directory]\n/a/[TarnWin Directory]\n");
 }
@@ -199,7 +197,7 @@ TEST_F(ConfigurationFile, IsNotWrittenForAFolderThatItCannotName) {
                 << error.what();
         }
     }
-    EXPECT_EQ(folder_.Content(), std::vector<std::string>{});
+    EXPECT_EQ(folder_.Content(), Lines{});
 }
 
 TEST_F(ConfigurationFile, ThatCannotBeWrittenIsReportedAndLeavesNothing) {
@@ -214,7 +212,7 @@ TEST_F(ConfigurationFile, ThatCannotBeWrittenIsReportedAndLeavesNothing) {
 TEST_F(ConfigurationFile, IsWrittenOverWhatARunThatWasEndedLeft) {
     WriteFile(folder_.Path("TarnWin.INI.new"), "[TarnWin Dir");
     WriteConfiguration(folder_.Path(), "/data");
-    EXPECT_EQ(folder_.Content(), std::vector<std::string>{"TarnWin.INI"});
+    EXPECT_EQ(folder_.Content(), Lines{"TarnWin.INI"});
     EXPECT_EQ(ReadConfiguration({folder_.Path()}).DataPath, "/data");
 }
 

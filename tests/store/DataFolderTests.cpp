@@ -12,12 +12,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-using testing::DatabaseErrorOf;
-using testing::RawDatabase;
-using testing::TestFolder;
-using testing::WriteFile;
-
-using Lines = std::vector<std::string>;
+using namespace tarn::testing;
 
 /// A configuration directory and a data folder with a database.
 class Start : public ::testing::Test {
@@ -108,7 +103,7 @@ TEST_F(Start, ABadDatabaseIsKeptAsItIsAndEveryUseNamesTheCause) {
     ProjectStore store = Open();
     EXPECT_NE(ReasonOf(store).find("is not a database"), std::string::npos);
     EXPECT_EQ(DatabaseErrorOf([&] { store.HasDirectory("X"); }), ReasonOf(store));
-    EXPECT_EQ(testing::ReadFile(Database()), "something else");
+    EXPECT_EQ(ReadFile(Database()), "something else");
 }
 
 TEST_F(Start, AMissingTableFailsWhereItIsNeededAlone) {

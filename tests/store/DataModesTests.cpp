@@ -12,11 +12,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-using testing::ModeOf;
-using testing::RawDatabase;
-using testing::TestFolder;
-using testing::Umask;
-using testing::WriteFile;
+using namespace tarn::testing;
 
 /// What is kept may be read by its owner alone, whatever the umask of the process that makes it.
 class DataModes : public ::testing::TestWithParam<mode_t> {
@@ -35,7 +31,7 @@ class DataModes : public ::testing::TestWithParam<mode_t> {
     Umask umask_ = Umask(GetParam());
 };
 
-INSTANTIATE_TEST_SUITE_P(Umasks, DataModes, ::testing::ValuesIn(testing::Umasks),
+INSTANTIATE_TEST_SUITE_P(Umasks, DataModes, ::testing::ValuesIn(Umasks),
                          [](const auto& each) { return "Umask" + std::to_string(each.param); });
 
 TEST_P(DataModes, OfADatabaseAndItsFoldersAreTheOwnersAlone) {

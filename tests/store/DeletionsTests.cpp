@@ -13,12 +13,7 @@
 namespace tarn {
 namespace {
 
-using testing::DatabaseErrorOf;
-using testing::RawDatabase;
-using testing::ShortWait;
-using testing::TestDatabase;
-
-using Lines = std::vector<std::string>;
+using namespace tarn::testing;
 
 class Deletions : public ::testing::Test {
   protected:

@@ -18,12 +18,7 @@
 namespace tarn {
 namespace {
 
-using testing::BeforeCall;
-using testing::CallsOf;
-using testing::EnvironmentSetting;
-using testing::ReadFile;
-using testing::TestFolder;
-using testing::WriteFile;
+using namespace tarn::testing;
 
 const QDateTime Noon(QDate(2026, 11, 22), QTime(12, 0), Qt::UTC);
 

@@ -14,11 +14,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-using testing::EnvironmentSetting;
-using testing::ModeOf;
-using testing::RawDatabase;
-using testing::TestFolder;
-using testing::WriteFile;
+using namespace tarn::testing;
 
 /// A user whose home is empty.
 class FirstStarts : public ::testing::Test {
@@ -85,7 +81,7 @@ TEST_F(FirstStarts, OfferNoPlaceThatIsNotTheUsers) {
 }
 
 TEST_F(FirstStarts, MakeADatabaseAndTheFileThatNamesIt) {
-    const testing::Umask open(0);
+    const Umask open(0);
     MakeFirstStart(Offered());
     const auto folder = FindDataFolder(Directories());
     ASSERT_TRUE(folder);
@@ -107,8 +103,7 @@ TEST_F(FirstStarts, UseTheDataThatIsThere) {
     EXPECT_TRUE(again.HasData);
     EXPECT_EQ(QuestionAbout(again).find("Use the data that is in this folder already?"), 0U);
     MakeFirstStart(again);
-    EXPECT_EQ(OpenStore(*FindDataFolder(Directories())).Directories(),
-              std::vector<std::string>{"KEPT"});
+    EXPECT_EQ(OpenStore(*FindDataFolder(Directories())).Directories(), Lines{"KEPT"});
 }
 
 TEST_F(FirstStarts, MakeNothingWhereTheDataFolderCannotBeMade) {
@@ -130,8 +125,7 @@ TEST_F(FirstStarts, LeaveADatabaseThatCameMeanwhile) {
     fs::remove_all(Path("config"));
     RawDatabase(Database()).Run("INSERT INTO DirTab VALUES ('KEPT')");
     ExpectNothingMade(start, Database().string());
-    EXPECT_EQ(RawDatabase(Database()).Rows("SELECT Directory FROM DirTab"),
-              std::vector<std::string>{"KEPT"});
+    EXPECT_EQ(RawDatabase(Database()).Rows("SELECT Directory FROM DirTab"), Lines{"KEPT"});
 }
 
 TEST_F(FirstStarts, LeaveTheDataThatIsThereWhenTheConfigurationCannotBeWritten) {

@@ -21,16 +21,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-using testing::DatabaseErrorOf;
-using testing::OtherProgram;
-using testing::RawDatabase;
-using testing::ReadFile;
-using testing::ShortWait;
-using testing::TestDatabase;
-using testing::TestFolder;
-using testing::WriteFile;
-
-using Lines = std::vector<std::string>;
+using namespace tarn::testing;
 
 constexpr std::size_t PageSize = 4096;
 
@@ -195,7 +186,7 @@ TEST(ABackupCopiedOverTheFile, IsNeverMixedWithTheJournalOfACrash) {
     const TestDatabase file;
     FillWithRooms(file);
     const TestFolder copies;
-    std::vector<std::string> backups;
+    Lines backups;
     int refused = 0;
     for (std::size_t i = 0; i < Changes.size(); ++i) {
         SCOPED_TRACE(Changes.at(i));

@@ -9,11 +9,7 @@
 namespace tarn {
 namespace {
 
-using testing::RawDatabase;
-using testing::ShortWait;
-using testing::TestDatabase;
-
-using Lines = std::vector<std::string>;
+using namespace tarn::testing;
 
 class LoadingAProject : public ::testing::Test {
   protected:
@@ -203,8 +199,8 @@ TEST_F(LoadingAProject, FailsForASheetNumberThatIsNoWholeOne) {
 TEST_F(LoadingAProject, FailsForANameWithADoubleQuote) {
     file_.AddProject("MARCH", "A\"B", 5);
     const std::string text = "The name A\"B cannot be used: a double quote stands inside it.";
-    EXPECT_EQ(testing::DatabaseErrorOf([&] { store_.Load("A\"B"); }), text);
-    EXPECT_EQ(testing::DatabaseErrorOf([&] { store_.SheetOf("A\"B"); }), text);
+    EXPECT_EQ(DatabaseErrorOf([&] { store_.Load("A\"B"); }), text);
+    EXPECT_EQ(DatabaseErrorOf([&] { store_.SheetOf("A\"B"); }), text);
 }
 
 struct BadSheet {

@@ -5,11 +5,7 @@
 namespace tarn {
 namespace {
 
-using testing::Literal;
-using testing::ShortWait;
-using testing::TestDatabase;
-
-using Lines = std::vector<std::string>;
+using namespace tarn::testing;
 
 /// Texts that no program should store, as the database engine is given them, and as they are shown.
 struct OddText {
@@ -192,9 +188,9 @@ TEST_F(OddTextsInADatabase, DoNotHideAProjectWhoseNameIsInOrder) {
 TEST_F(OddTextsInADatabase, OfSixteenBitsAreShownToo) {
     // A database of another program may hold its texts in another encoding.
     const std::string path = file_.Folder().Path("utf16.mdb");
-    testing::WriteFile(path, "");
+    WriteFile(path, "");
     {
-        testing::RawDatabase raw(path);
+        RawDatabase raw(path);
         raw.Run("PRAGMA encoding = 'UTF-16le'");
         raw.Run("CREATE TABLE DirTab (Directory TEXT COLLATE NOCASE)");
         raw.Run("CREATE TABLE ProjTab (Dir TEXT COLLATE NOCASE, ProjName TEXT COLLATE NOCASE)");
@@ -203,7 +199,7 @@ TEST_F(OddTextsInADatabase, OfSixteenBitsAreShownToo) {
     ProjectStore store(path, DatabaseAccess::ReadWrite);
     EXPECT_EQ(store.Directories(), Lines{"A\uFFFDB"});
     store.RenameDirectory("A\uFFFDB", "C");
-    EXPECT_EQ(testing::RawDatabase(path).Rows("SELECT Directory FROM DirTab"), Lines{"C"});
+    EXPECT_EQ(RawDatabase(path).Rows("SELECT Directory FROM DirTab"), Lines{"C"});
 }
 
 } // namespace

@@ -10,13 +10,7 @@
 namespace tarn {
 namespace {
 
-using testing::DatabaseErrorOf;
-using testing::RawDatabase;
-using testing::ShortWait;
-using testing::TestDatabase;
-using testing::TestFolder;
-
-using Lines = std::vector<std::string>;
+using namespace tarn::testing;
 
 TEST(OpeningADatabase, OpensAPathWithAnyCharacter) {
     const TestFolder folder;
@@ -112,7 +106,7 @@ class CutOffDatabase : public ::testing::Test {
         writer.Run("BEGIN");
         writer.Run("UPDATE DirTab SET Directory = 'NEW'");
         for (const char* name : {"Tarn.mdb", "Tarn.mdb-journal"}) {
-            testing::WriteFile(copy_.Path(name), testing::ReadFile(file.Folder().Path(name)));
+            WriteFile(copy_.Path(name), ReadFile(file.Folder().Path(name)));
         }
         writer.Run("ROLLBACK");
     }

@@ -7,10 +7,7 @@
 namespace tarn {
 namespace {
 
-using testing::DatabaseErrorOf;
-using testing::TestDatabase;
-
-using Lines = std::vector<std::string>;
+using namespace tarn::testing;
 
 class OrderRequests : public ::testing::Test {
   protected:

@@ -8,8 +8,7 @@
 namespace tarn {
 namespace {
 
-using testing::ShortWait;
-using testing::TestDatabase;
+using namespace tarn::testing;
 
 void ExpectText(const NameText& text, const std::string& expected, bool leftOut) {
     EXPECT_EQ(text.Text, expected);

@@ -6,12 +6,7 @@
 namespace tarn {
 namespace {
 
-using testing::DatabaseErrorOf;
-using testing::RawDatabase;
-using testing::ShortWait;
-using testing::TestDatabase;
-
-using Lines = std::vector<std::string>;
+using namespace tarn::testing;
 using Pairs = std::vector<std::pair<std::string, std::string>>;
 
 class Projects : public ::testing::Test {

@@ -11,12 +11,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-using testing::DatabaseErrorOf;
-using testing::RawDatabase;
-using testing::ReadFile;
-using testing::ShortWait;
-using testing::TestDatabase;
-using testing::WriteFile;
+using namespace tarn::testing;
 
 constexpr auto EveryWrite =
     fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write;
@@ -159,9 +154,9 @@ TEST(OpeningADatabase, RefusesAReadOnlyFileForWritingAndOpensItForReading) {
 
     file.AddDirectory("MARCH");
     ProjectStore store(file.Path(), DatabaseAccess::ReadOnly);
-    EXPECT_EQ(store.Directories(), std::vector<std::string>{"MARCH"});
+    EXPECT_EQ(store.Directories(), Lines{"MARCH"});
     EXPECT_THROW(store.DeleteDirectory("MARCH"), DatabaseError);
-    EXPECT_EQ(store.Directories(), std::vector<std::string>{"MARCH"});
+    EXPECT_EQ(store.Directories(), Lines{"MARCH"});
 }
 
 TEST(OpeningADatabase, RefusesAReadOnlyFolderForWritingAndOpensItForReading) {
@@ -176,7 +171,7 @@ TEST(OpeningADatabase, RefusesAReadOnlyFolderForWritingAndOpensItForReading) {
 
 TEST(OpeningADatabase, LooksAtTheFolderThatALinkLeadsTo) {
     const TestDatabase file;
-    const testing::TestFolder links;
+    const TestFolder links;
     fs::create_symlink(file.Path(), links.Path("Tarn.mdb"));
     EXPECT_NO_THROW(ProjectStore(links.Path("Tarn.mdb"), DatabaseAccess::ReadWrite));
     ForbidWriting(file.Folder().Path());

@@ -13,27 +13,13 @@ namespace {
 
 namespace fs = std::filesystem;
 
-using testing::DatabaseErrorOf;
-using testing::OtherProgram;
-using testing::RawDatabase;
-using testing::ReadFile;
-using testing::ShortWait;
-using testing::TestDatabase;
-using testing::TestFolder;
-using testing::WriteFile;
+using namespace tarn::testing;
 
-using Lines = std::vector<std::string>;
-
-/// A database with the directory HOUSES, in it SMITH (sheet 1, three rooms) and JONES (sheet 2, one
-/// room), and in a month NEW, which was never saved.
 class ARepair : public ::testing::Test {
   protected:
     ARepair() {
-        file_.AddDirectory("HOUSES");
-        file_.AddProject("HOUSES", "SMITH", 1, 3);
-        file_.AddProject("HOUSES", "JONES", 2, 1);
+        file_.AddHouses();
         file_.Run("UPDATE InputData SET RoomW = 300 WHERE TabIndex = 2");
-        file_.Run("INSERT INTO ProjTab VALUES ('MARCH', 'NEW', 0)");
         file_.Run("INSERT INTO FillCut VALUES (1), (2)");
     }
 
@@ -56,7 +42,7 @@ class ARepair : public ::testing::Test {
     /// The widths of the rooms of a project by their places.
     Lines Widths(const std::string& project) const {
         return Rows("SELECT RoomW FROM InputData JOIN MainTab USING (TabIndex) WHERE ProjName = " +
-                    testing::Literal(project) + " ORDER BY InputData.ObjNum");
+                    Literal(project) + " ORDER BY InputData.ObjNum");
     }
 
     TestDatabase file_;

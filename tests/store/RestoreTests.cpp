@@ -20,15 +20,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-using testing::DatabaseErrorOf;
-using testing::OtherProgram;
-using testing::RawDatabase;
-using testing::ReadFile;
-using testing::ShortWait;
-using testing::TestFolder;
-using testing::WriteFile;
-
-using Lines = std::vector<std::string>;
+using namespace tarn::testing;
 
 const QDateTime Now(QDate(2026, 11, 22), QTime(14, 5, 33));
 
@@ -212,7 +204,7 @@ TEST_F(ARestoring, SaysThatTheDiskIsFullWhereWhatWasThereCannotBeKept) {
     const std::string kept =
         folder_.Path("data/DATA/Tarn before restoring 2026-11-22 14-05-33.mdb");
     const auto restore = [&] { RestoreBackup(elsewhere, Database(), Now, ShortWait); };
-    const Lines calls = testing::CallsOf(restore);
+    const Lines calls = CallsOf(restore);
     int writes = 0;
     for (std::size_t place = 0; place < calls.size(); ++place) {
         if (calls.at(place) != "write") {
@@ -223,7 +215,7 @@ TEST_F(ARestoring, SaysThatTheDiskIsFullWhereWhatWasThereCannotBeKept) {
         fs::remove(kept);
         WriteFile(Database(), before);
         std::string text;
-        testing::WithFailingCall(place, ENOSPC, [&] { text = DatabaseErrorOf(restore); });
+        WithFailingCall(place, ENOSPC, [&] { text = DatabaseErrorOf(restore); });
         EXPECT_EQ(text, "The file " + Database() + " cannot be kept as " + kept +
                             ": the disk is full. Free some space and try again.");
         EXPECT_EQ(ReadFile(Database()), before);
@@ -239,7 +231,7 @@ TEST_F(ARestoring, LeavesTheOldFileOrTheNewOneWhenItIsKilledAnywhere) {
     WriteFile(Database(), ReadFile(backup_));
     RawDatabase(backup_).Run("UPDATE DirTab SET Directory = 'RESTORED'");
     const std::string old = ReadFile(Database());
-    const std::size_t calls = testing::CallsOf([this] { Restore(); }).size();
+    const std::size_t calls = CallsOf([this] { Restore(); }).size();
     ASSERT_GT(calls, 20U);
     int untouched = 0;
     for (std::size_t place = 0; place < calls; ++place) {
@@ -251,7 +243,7 @@ TEST_F(ARestoring, LeavesTheOldFileOrTheNewOneWhenItIsKilledAnywhere) {
         const pid_t child = fork();
         ASSERT_GE(child, 0);
         if (child == 0) {
-            testing::BeforeCall(
+            BeforeCall(
                 place, [] { kill(getpid(), SIGKILL); }, [this] { Restore(); });
             _exit(0);
         }

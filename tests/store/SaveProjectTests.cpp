@@ -9,12 +9,7 @@
 namespace tarn {
 namespace {
 
-using testing::DatabaseErrorOf;
-using testing::RawDatabase;
-using testing::ShortWait;
-using testing::TestDatabase;
-
-using Lines = std::vector<std::string>;
+using namespace tarn::testing;
 
 class SavingAProject : public ::testing::Test {
   protected:
@@ -39,7 +34,7 @@ class SavingAProject : public ::testing::Test {
     }
     /// Add a project that was never saved, and make it the one that is.
     void SaveAsNew(const std::string& name) {
-        file_.Run("INSERT INTO ProjTab VALUES ('MARCH', " + testing::Literal(name) + ", 0)");
+        file_.Run("INSERT INTO ProjTab VALUES ('MARCH', " + Literal(name) + ", 0)");
         project_.Name = name;
     }
     Lines Sheets() const {

@@ -9,10 +9,7 @@
 namespace tarn {
 namespace {
 
-using testing::ShortWait;
-using testing::TestDatabase;
-
-using Lines = std::vector<std::string>;
+using namespace tarn::testing;
 
 class SheetNumbers : public ::testing::Test {
   protected:
@@ -63,7 +60,7 @@ TEST_F(SheetNumbers, Past32767Overflow) {
 TEST_F(SheetNumbers, ThatAreTextsAreNone) {
     file_.AddProject("MARCH", "A", 1);
     file_.Run("UPDATE MainTab SET TabIndex = 'many'");
-    EXPECT_EQ(testing::DatabaseErrorOf([&] { New(); }),
+    EXPECT_EQ(DatabaseErrorOf([&] { New(); }),
               "The field Max(TabIndex) should hold a number and holds \"many\".");
 }
 

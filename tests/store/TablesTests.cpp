@@ -8,11 +8,7 @@
 namespace tarn {
 namespace {
 
-using testing::DatabaseErrorOf;
-using testing::ShortWait;
-using testing::TestDatabase;
-
-using Lines = std::vector<std::string>;
+using namespace tarn::testing;
 
 /// A table T with the fields A, of any kind, and B, of texts.
 class Tables : public ::testing::Test {

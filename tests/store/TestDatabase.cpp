@@ -55,9 +55,9 @@ void RawDatabase::Run(const std::string& statement) {
     Execute(name_, statement);
 }
 
-std::vector<std::string> RawDatabase::Rows(const std::string& query) {
+Lines RawDatabase::Rows(const std::string& query) {
     QSqlQuery result = Execute(name_, query);
-    std::vector<std::string> rows;
+    Lines rows;
     while (result.next()) {
         std::string row;
         for (int column = 0; column < result.record().count(); ++column) {
@@ -80,8 +80,8 @@ std::string TestFolder::Path(const std::string& name) const {
     return folder_.filePath(QString::fromStdString(name)).toStdString();
 }
 
-std::vector<std::string> TestFolder::Content() const {
-    std::vector<std::string> names;
+Lines TestFolder::Content() const {
+    Lines names;
     const auto all = QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden | QDir::System;
     for (const QString& name : QDir(folder_.path()).entryList(all, QDir::Name)) {
         names.push_back(name.toStdString());
@@ -130,6 +130,13 @@ void TestDatabase::AddProject(const std::string& directory, const std::string& p
                 std::to_string(100 + room) + ", " + std::to_string(200 + room) +
                 ", '', '', 0, 0, " + number + ")");
     }
+}
+
+void TestDatabase::AddHouses() const {
+    AddDirectory("HOUSES");
+    AddProject("HOUSES", "SMITH", 1, 3);
+    AddProject("HOUSES", "JONES", 2, 1);
+    Run("INSERT INTO ProjTab VALUES ('MARCH', 'NEW', 0)");
 }
 
 std::string Literal(const std::string& text) {

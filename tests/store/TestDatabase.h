@@ -9,6 +9,9 @@
 
 namespace tarn::testing {
 
+/// The rows of a table, or other texts line by line.
+using Lines = std::vector<std::string>;
+
 /// Short enough for a test that waits for a lock in vain, in milliseconds.
 inline constexpr int ShortWait = 20;
 
@@ -24,7 +27,7 @@ class RawDatabase {
 
     void Run(const std::string& statement);
     /// Every row as its values joined by "|", a null as "NULL".
-    std::vector<std::string> Rows(const std::string& query);
+    Lines Rows(const std::string& query);
 
   private:
     std::string name_;
@@ -37,7 +40,7 @@ class TestFolder {
     /// The path of `name` in the folder.
     std::string Path(const std::string& name = {}) const;
     /// Every file and folder in it, by name, also hidden ones.
-    std::vector<std::string> Content() const;
+    Lines Content() const;
 
   private:
     QTemporaryDir folder_;
@@ -60,15 +63,16 @@ class TestDatabase {
 
     /// As RawDatabase, on a connection of its own each time.
     void Run(const std::string& statement) const { RawDatabase(Path()).Run(statement); }
-    std::vector<std::string> Rows(const std::string& query) const {
-        return RawDatabase(Path()).Rows(query);
-    }
+    Lines Rows(const std::string& query) const { return RawDatabase(Path()).Rows(query); }
 
     /// Add a directory, and a project with a sheet of `rooms` rooms (width 100 + number, length 200
     /// + number, covering and base 0) to the file.
     void AddDirectory(const std::string& name) const;
     void AddProject(const std::string& directory, const std::string& project, int tabIndex,
                     int rooms = 0) const;
+    /// Add the directory HOUSES, in it SMITH (sheet 1, three rooms) and JONES (sheet 2, one room),
+    /// and in a month NEW, which was never saved.
+    void AddHouses() const;
 
   private:
     TestFolder folder_;
