@@ -4,6 +4,7 @@
 #include "screens/GuideWindow.h"
 #include "screens/ScreenTesting.h"
 
+#include <QPushButton>
 #include <QTextBrowser>
 
 #include <gmock/gmock.h>

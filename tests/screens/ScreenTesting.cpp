@@ -60,7 +60,7 @@ std::optional<std::string> FakeBoxes::Input(const std::string& prompt, const std
         ADD_FAILURE() << "asked without an answer: " << prompt;
         return std::nullopt;
     }
-    const auto answer = Inputs.front();
+    auto answer = Inputs.front();
     Inputs.pop_front();
     return answer;
 }
@@ -72,7 +72,7 @@ std::optional<std::string> FakeBoxes::SaveFileName(const std::string& suggestedN
         ADD_FAILURE() << "asked without an answer: " << suggestedName;
         return std::nullopt;
     }
-    const auto answer = Files.front();
+    auto answer = Files.front();
     Files.pop_front();
     return answer;
 }

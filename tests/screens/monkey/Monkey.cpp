@@ -468,11 +468,10 @@ std::vector<std::string> Monkey::DatabaseFaults() const {
         ProjectStore store(database_, DatabaseAccess::ReadOnly);
         for (const auto& [directory, name] : store.AllProjects()) {
             const LoadedProject loaded = store.Load(name);
-            for (const std::string& line : loaded.Findings) {
-                faults.push_back(name + ": " + line);
-            }
-            for (const std::string& fault : RoomFaults(loaded.Value)) {
-                faults.push_back(name + ": " + fault);
+            std::vector<std::string> found = RoomFaults(loaded.Value);
+            found.insert(found.end(), loaded.Findings.begin(), loaded.Findings.end());
+            for (const std::string& fault : found) {
+                faults.emplace_back(name).append(": ").append(fault);
             }
         }
     } catch (const std::exception& error) {

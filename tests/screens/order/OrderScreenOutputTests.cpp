@@ -13,9 +13,7 @@ namespace tarn {
 namespace {
 
 using namespace tarn::testing;
-using ::testing::ElementsAre;
 using ::testing::HasSubstr;
-using ::testing::IsEmpty;
 using ::testing::StartsWith;
 
 struct OrderScreenOutput : OrderScreenTest {

@@ -101,6 +101,7 @@ struct OrderScreenTest : ScreenTest {
     /// A column of the comparison, from above.
     std::vector<std::string> Column(int column) {
         std::vector<std::string> texts;
+        texts.reserve(static_cast<std::size_t>(Table().rowCount()));
         for (int row = 0; row < Table().rowCount(); ++row) {
             texts.push_back(Cell(Table(), row, column));
         }

@@ -22,6 +22,7 @@ struct OrderScreens : OrderScreenTest {
     std::vector<std::string> Carpets() {
         const auto& box = Control<QComboBox>(Controls::orderCarpet);
         std::vector<std::string> carpets;
+        carpets.reserve(static_cast<std::size_t>(box.count()));
         for (int i = 0; i < box.count(); ++i) {
             carpets.push_back(FromQt(box.itemText(i)));
         }
