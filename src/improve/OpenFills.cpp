@@ -65,18 +65,29 @@ Long OpenFills::Narrowest() {
     return widths_[narrowest_];
 }
 
-OpenFills::Next OpenFills::NextOf(std::size_t fill, const PartTurns& turns) const {
-    const PartTurn& turn = turns.NextOf(fill);
-    const Long rest = turns.StateOf(fill).Rest;
-    Next next{job_->Fills[fill].Width, turn.Place, rest, rest, 0, PartCut::Rest};
-    if (turns.HasMore(fill)) {
+OpenFills::Next OpenFills::NextOf(const PartTurn& turn, Long rest, bool hasMore) const {
+    Next next{job_->Fills[turn.Fill].Width, turn.Place, rest, rest, 0, PartCut::Rest};
+    if (hasMore) {
         next.MostCut = rest - job_->MinPart;
         next.Rule = turn.Rule;
-        if (turn.Rule == PartCut::OfLength && turns.MayCut(fill, turn.Length)) {
+        if (turn.Rule == PartCut::OfLength && turn.Length >= job_->MinPart &&
+            turn.Length <= next.MostCut) {
             next.Length = turn.Length;
         }
     }
     return next;
+}
+
+OpenFills::Choice OpenFills::FitOf(const PartTurn& turn, Long rest, bool hasMore, Long gapWidth,
+                                   const Walls& walls, Long room) const {
+    const Next next = NextOf(turn, rest, hasMore);
+    if (next.Width > gapWidth) {
+        return {};
+    }
+    const Long length = LengthOf(next, CutsOf(walls, room));
+    return length > room ? Choice{}
+                         : Choice{turn.Fill, ClassOf(next.Width == gapWidth, length, walls),
+                                  next.Place, length};
 }
 
 Long OpenFills::CutAt(Long length) const {

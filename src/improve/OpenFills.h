@@ -35,10 +35,19 @@ class OpenFills {
         bool BetterThan(const Choice& other) const {
             return Fit != other.Fit ? Fit < other.Fit : Place < other.Place;
         }
+        /// Whether it is the same part, or neither is one.
+        bool IsSameAs(const Choice& other) const {
+            return Fit == other.Fit &&
+                   (Fit == FitClass::None || (Fill == other.Fill && Length == other.Length));
+        }
     };
     /// The part that is laid in a gap with `room` up to the roof: of the best class with a part in
     /// it the earliest. Parts of no special length are at most `widest` wide and `longest` long.
     Choice Choose(Long gapWidth, const Walls& walls, Long room, Long widest, Long longest) const;
+    /// How a turn's part would fit the gap, if it is next of its fill and so much of that is left:
+    /// at best, without the limits of parts of no special length.
+    Choice FitOf(const PartTurn& turn, Long rest, bool hasMore, Long gapWidth, const Walls& walls,
+                 Long room) const;
     /// The earliest part that fits the gap at all, with the class it is of.
     Choice First(Long gapWidth, const Walls& walls, Long room) const;
 
@@ -68,7 +77,10 @@ class OpenFills {
     Long CutAt(Long length) const;
     /// How long a fill's next part is. Above the room when it does not fit.
     static Long LengthOf(const Next& next, const Cuts& cuts);
-    Next NextOf(std::size_t fill, const PartTurns& turns) const;
+    Next NextOf(std::size_t fill, const PartTurns& turns) const {
+        return NextOf(turns.NextOf(fill), turns.StateOf(fill).Rest, turns.HasMore(fill));
+    }
+    Next NextOf(const PartTurn& turn, Long rest, bool hasMore) const;
     /// The number of fills up to `width` wide.
     std::size_t CountUpTo(Long width) const;
     /// Call `look` for the open fills among those number `begin` .. `end` - 1 by width.

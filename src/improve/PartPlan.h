@@ -25,9 +25,12 @@ class PartPlan : public SkylinePlan {
   private:
     bool LayOut(const Limits& limits) override;
     OpenFills::Choice Choose(const Gap& gap, const Walls& walls, Long room);
+    /// What of a placing differs after turns were changed; see FillGapsAgain.
+    class Moves;
 
     PartTurns turns_;
     OpenFills open_;
+    PlacingSteps<OpenFills::Choice> steps_;
 };
 
 } // namespace tarn

@@ -46,6 +46,16 @@ class PartTurns {
     /// Take the last change back.
     void Undo();
 
+    /// The turns that the last change changed, and what they were before.
+    std::size_t Changes() const { return changes_; }
+    std::size_t Changed(std::size_t i) const { return changed_.at(i); }
+    const PartTurn& Before(std::size_t i) const { return before_.at(i); }
+    const PartTurn& TurnAt(std::size_t turn) const { return turns_[turn]; }
+    std::size_t FirstOf(std::size_t fill) const { return firstTurn_[fill]; }
+    bool IsLastOf(std::size_t fill, std::size_t turn) const {
+        return turn + 1 == firstTurn_[fill + 1];
+    }
+
     /// A fill while it is laid.
     struct State {
         std::size_t Turn; ///< number of its next turn

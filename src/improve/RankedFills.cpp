@@ -53,6 +53,10 @@ RankedFills::Measure RankedFills::Measured(const std::vector<Long>& values) {
 
 void RankedFills::Rank(const std::vector<std::size_t>& order) {
     order_ = order;
+    rankOf_.resize(order.size());
+    for (std::size_t rank = 0; rank < order.size(); ++rank) {
+        rankOf_[order[rank]] = rank;
+    }
     Fill(widths_);
     Fill(lengths_);
     TakeNone();
@@ -91,6 +95,7 @@ void RankedFills::Exchange(std::size_t a, std::size_t b) {
     Toggle(widths_, a, b);
     Toggle(lengths_, a, b);
     std::swap(order_[a], order_[b]);
+    std::swap(rankOf_[order_[a]], rankOf_[order_[b]]);
 }
 
 void RankedFills::TakeNone() {

@@ -24,6 +24,7 @@ class RankedFills {
     /// Exchange the fills of two ranks.
     void Exchange(std::size_t a, std::size_t b);
     std::size_t FillAt(std::size_t rank) const { return order_[rank]; }
+    std::size_t RankOf(std::size_t fill) const { return rankOf_[fill]; }
 
     /// All fills remain.
     void TakeNone();
@@ -43,6 +44,8 @@ class RankedFills {
     struct Choice {
         std::size_t Rank = NoRank;
         FitClass Fit = FitClass::None;
+
+        bool IsSameAs(const Choice& other) const { return Rank == other.Rank && Fit == other.Fit; }
     };
     /// The fill that is laid in a gap with `room` up to the roof: of the first class with a fill in
     /// it the earliest one. Fills of no special length are at most `widest` wide and `longest`
@@ -104,6 +107,7 @@ class RankedFills {
     const ImproveJob* job_;
     std::size_t words_;
     std::vector<std::size_t> order_;
+    std::vector<std::size_t> rankOf_; ///< by fill
     Measure widths_;
     Measure lengths_;
     Sets remaining_;

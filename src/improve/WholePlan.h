@@ -21,11 +21,14 @@ class WholePlan : public SkylinePlan {
   private:
     bool LayOut(const Limits& limits) override;
     RankedFills::Choice Choose(const Gap& gap, const Walls& walls, Long room);
+    /// What of a placing differs after fills were exchanged; see FillGapsAgain.
+    class Moves;
     bool AreUnequal(std::size_t rankA, std::size_t rankB) const;
 
     bool allEqual_;
     std::vector<std::vector<std::size_t>> orders_;
     RankedFills fills_;
+    PlacingSteps<RankedFills::Choice> steps_;
     std::size_t swappedA_ = 0;
     std::size_t swappedB_ = 0;
 };

@@ -102,6 +102,66 @@ TEST_P(EveryPlan, UndoneAndCopiedPlansGiveTheSame) {
     });
 }
 
+/// A changed plan that has forgotten how it was laid out before.
+std::unique_ptr<Plan> ChangedAndForgetful(const Plan& plan, RandomSteps steps) {
+    std::unique_ptr<Plan> other = plan.Copy();
+    other->Change(steps, true);
+    other->Change(steps, true);
+    other->Undo();
+    return other;
+}
+
+void ExpectSameLayout(const Plan& plan, const Plan& other) {
+    const std::vector<ImprovePart> parts = plan.Layout();
+    const std::vector<ImprovePart> others = other.Layout();
+    ASSERT_EQ(parts.size(), others.size());
+    for (std::size_t i = 0; i < parts.size(); ++i) {
+        EXPECT_EQ(parts[i].Fill, others[i].Fill);
+        EXPECT_EQ(parts[i].X, others[i].X);
+        EXPECT_EQ(parts[i].Y, others[i].Y);
+        EXPECT_EQ(parts[i].Length, others[i].Length);
+    }
+}
+
+// Steps that a change leaves as they were are not laid out again; nothing may depend on that.
+TEST_P(EveryPlan, LaysAChangedPlanOutAsIfItWereNew) {
+    for (unsigned seed = 1; seed <= 60; ++seed) {
+        SCOPED_TRACE(seed);
+        std::mt19937 random(seed);
+        const ImproveJob job = testing::RandomFills(random, 20, 12, GetParam() ? 4 : 1);
+        SCOPED_TRACE(testing::Describe(job));
+        const std::unique_ptr<Plan> plan = PlanOf(job, GetParam());
+        RandomSteps steps(seed);
+        plan->Begin(seed % plan->Orders(), PlacingRule::Number(seed % PlacingRule::Count));
+        const Long roof = static_cast<Long>(TotalArea(job) / job.Width + 1 + steps.Below(8));
+        const bool length = seed % 3 == 0;
+        const auto score = [&](Plan& one, Area64 limit) {
+            return length ? one.Length(std::min(limit, LongestRoll)) : one.Unpacked(roof, limit);
+        };
+        Area64 before = score(*plan, NoLimit);
+        for (int step = 0; step < 150; ++step) {
+            const bool limited = steps.Below(3) == 0;
+            const std::unique_ptr<Plan> fresh = ChangedAndForgetful(*plan, steps);
+            plan->Change(steps, true);
+            const Area64 changed = score(*plan, limited ? before : NoLimit);
+            ASSERT_EQ(changed, score(*fresh, limited ? before : NoLimit));
+            const bool whole = !limited || changed <= before;
+            if (whole) {
+                ExpectSameLayout(*plan, *fresh);
+            }
+            // What is changed next may depend on what was laid.
+            const std::unique_ptr<Plan> next = ChangedAndForgetful(*plan, steps);
+            const std::unique_ptr<Plan> freshNext = ChangedAndForgetful(*fresh, steps);
+            ASSERT_EQ(score(*next, NoLimit), score(*freshNext, NoLimit));
+            if (!whole || steps.Below(3) == 0) {
+                plan->Undo();
+            } else {
+                before = changed;
+            }
+        }
+    }
+}
+
 TEST(WholePlan, ChangesNothingWhereAllFillsAreEqual) {
     const ImproveJob job{12, 1, 1, 100, {{5, 7, 1}, {5, 7, 1}, {5, 7, 1}}};
     WholePlan plan(job);
