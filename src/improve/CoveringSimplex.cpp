@@ -8,6 +8,17 @@ namespace {
 
 constexpr Double Tolerance = 1e-9;
 
+/// Where the numbers are that are not 0: few, mostly.
+std::vector<std::size_t> NotZero(const Double* numbers, std::size_t count) {
+    std::vector<std::size_t> places;
+    for (std::size_t i = 0; i < count; ++i) {
+        if (numbers[i] != 0) {
+            places.push_back(i);
+        }
+    }
+    return places;
+}
+
 } // namespace
 
 CoveringSimplex::CoveringSimplex(const std::vector<Double>& demand,
@@ -70,8 +81,9 @@ bool CoveringSimplex::Enter(const std::vector<Double>& column) {
 
 bool CoveringSimplex::EnterColumn(const std::vector<Double>& column, Double cost) {
     std::vector<Double> change(rows_);
+    const std::vector<std::size_t> held = NotZero(column.data(), rows_);
     for (std::size_t row = 0; row < rows_; ++row) {
-        for (std::size_t k = 0; k < rows_; ++k) {
+        for (const std::size_t k : held) {
             change[row] += Inverse(row, k) * column[k];
         }
     }
@@ -90,11 +102,12 @@ bool CoveringSimplex::EnterColumn(const std::vector<Double>& column, Double cost
         Inverse(leaving, k) /= pivot;
     }
     amount_[leaving] /= pivot;
+    const std::vector<std::size_t> pivots = NotZero(&Inverse(leaving, 0), rows_);
     for (std::size_t row = 0; row < rows_; ++row) {
         if (row == leaving || change[row] == 0) {
             continue;
         }
-        for (std::size_t k = 0; k < rows_; ++k) {
+        for (const std::size_t k : pivots) {
             Inverse(row, k) -= change[row] * Inverse(leaving, k);
         }
         amount_[row] = std::max(0.0, amount_[row] - change[row] * amount_[leaving]);

@@ -24,15 +24,17 @@ bool ImproveRun::Spend() {
     if (limits_.Steps > 0 && steps_ >= limits_.Steps) {
         stopped_ = true;
     }
-    LookAtTime();
-    const bool due = steps_ % AskEvery == 0 || Passed() - told_ >= AskAfter;
+    const Double passed = LookAtTime();
+    const bool due = steps_ % AskEvery == 0 || passed - told_ >= AskAfter;
     return due ? Ask() : !stopped_;
 }
 
-void ImproveRun::LookAtTime() {
-    if (limits_.Seconds > 0 && Passed() >= limits_.Seconds) {
+Double ImproveRun::LookAtTime() {
+    const Double passed = Passed();
+    if (limits_.Seconds > 0 && passed >= limits_.Seconds) {
         stopped_ = true;
     }
+    return passed;
 }
 
 bool ImproveRun::Ask() {

@@ -67,7 +67,8 @@ class ImproveRun {
   private:
     using Clock = std::chrono::steady_clock;
 
-    void LookAtTime();
+    /// Stop when the time is over. Returns the seconds that passed.
+    Double LookAtTime();
     void Tell();
 
     const ImproveJob& job_;
