@@ -7,15 +7,12 @@
 #include "screens/ControlNames.h"
 #include "screens/Controls.h"
 #include "screens/Display.h"
-#include "screens/Guard.h"
 #include "screens/PictureAccess.h"
 
 #include <QContextMenuEvent>
-#include <QHelpEvent>
 #include <QPainter>
 #include <QScrollBar>
 #include <QToolTip>
-#include <QWheelEvent>
 
 #include <algorithm>
 #include <cmath>
@@ -29,11 +26,7 @@ constexpr double ReadableZoom = 0.75; ///< 9 point type is then as large as 7 po
 constexpr double LargestFit = 2;      ///< a small drawing on a large display grows no further
 constexpr double LeastOwnZoom = 0.1;  ///< less only to fit a drawing
 constexpr double GreatestZoom = 8;
-constexpr double ZoomStep = 1.25;       ///< for a key or one notch of the wheel
-constexpr double WheelNotch = 120;      ///< in the units of a wheel event
-constexpr double MostPixels = 1e9;      ///< scroll bars count in int
 constexpr double RoundingError = 1e-3;  ///< pixels
-constexpr double ScrollStep = 600;      ///< twips
 constexpr std::size_t ManySteps = 1000; ///< more of them are not painted anew for each movement
 constexpr double KeyPressInset = 100;   ///< twips from the visible top left
 
@@ -51,24 +44,11 @@ QString WrittenIn(const Drawing& drawing) {
 } // namespace
 
 PictureBox::PictureBox(QWidget* parent, Dialogs& boxes)
-    : QAbstractScrollArea(parent)
-    , boxes_(boxes)
-    , moving_(
-          *viewport(),
-          [this](QPainter& painter, const PictureAt& at, const QRect& part) {
-              PaintPart(painter, at, part);
-          },
-          [this] { return DrawnTwips(); }) {
+    : ZoomableView(parent, boxes, Words("The layout could not be shown.")) {
     TellAsPicture(*this); // before it is named, which is told already
     NameControl(*this, Controls::layoutPicture, ToQt(Words("Layout drawing")));
     setToolTip(ZoomHint());
-    setFocusPolicy(Qt::StrongFocus);
-    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     KeepRoom(*this);
-    // It paints its own paper, so that scrolling moves what is there and paints only the rest.
-    viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
-    // So that a drag whose release went elsewhere ends with the next move.
-    viewport()->setMouseTracking(true);
     hide();
 }
 
@@ -87,12 +67,11 @@ void PictureBox::ShowFromStart(Drawing drawing) {
     fitted_ = true;
     FitFirst();
     ShowDrawing();
-    horizontalScrollBar()->setValue(0);
-    verticalScrollBar()->setValue(0);
+    ScrollTo({0, 0});
 }
 
 void PictureBox::ShowDrawing() {
-    moving_.Forget();
+    Picture().Forget();
     setVisible(drawing_.Visible);
     setAccessibleDescription(WrittenIn(drawing_));
     Arrange();
@@ -105,29 +84,23 @@ void PictureBox::SetWaiting(bool waiting) {
 }
 
 QPointF PictureBox::ToTwips(QPointF position) const {
-    const QPointF scrolled(horizontalScrollBar()->value(), verticalScrollBar()->value());
-    return (position + scrolled) / PixelsPerTwip();
+    return (position + Scrolled()) / PixelsPerTwip();
 }
 
 QPointF PictureBox::ToViewport(QPointF twips) const {
-    const QPointF scrolled(horizontalScrollBar()->value(), verticalScrollBar()->value());
-    return twips * PixelsPerTwip() - scrolled;
-}
-
-bool PictureBox::Guard(const std::function<void()>& body) const {
-    return Guarded(boxes_, Words("The layout could not be shown."), body);
+    return twips * PixelsPerTwip() - Scrolled();
 }
 
 double PictureBox::PixelsPerTwip() const {
-    return zoom_ * PixelsExact(1);
+    return Zoom() * PixelsExact(1);
 }
 
-QSizeF PictureBox::DrawnTwips() const {
+QSizeF PictureBox::Extent() const {
     return {drawing_.FarthestX() + DrawingMargin, drawing_.FarthestY() + DrawingMargin};
 }
 
 QSize PictureBox::DrawnPixels() const {
-    const QSizeF size = DrawnTwips() * PixelsPerTwip();
+    const QSizeF size = Extent() * PixelsPerTwip();
     const auto pixels = [](double length) {
         return static_cast<int>(std::ceil(std::min(length, MostPixels) - RoundingError));
     };
@@ -135,7 +108,7 @@ QSize PictureBox::DrawnPixels() const {
 }
 
 double PictureBox::FittingZoom() const {
-    const QSizeF drawn = DrawnTwips() * PixelsExact(1);
+    const QSizeF drawn = Extent() * PixelsExact(1);
     const QSizeF room = maximumViewportSize();
     const double fitting = std::min(room.width() / drawn.width(), room.height() / drawn.height());
     return std::min(fitting, LargestFit);
@@ -148,7 +121,7 @@ double PictureBox::FirstZoom() const {
     }
     const int bar = verticalScrollBar()->sizeHint().width();
     const double across =
-        (maximumViewportSize().width() - bar) / (DrawnTwips().width() * PixelsExact(1));
+        (maximumViewportSize().width() - bar) / (Extent().width() * PixelsExact(1));
     return across >= ReadableZoom ? std::min(across, 1.0) : 1;
 }
 
@@ -158,29 +131,15 @@ double PictureBox::LeastZoom() const {
 
 void PictureBox::FitFirst() {
     fittedTo_ = maximumViewportSize();
-    Fit(FirstZoom());
+    SetZoom(FirstZoom());
 }
 
-void PictureBox::Fit(double zoom) {
-    zoom_ = zoom;
-    Arrange();
-    viewport()->update();
-}
-
-void PictureBox::ZoomAbout(QPointF position, double zoom) {
-    const QSizeF drawn = DrawnTwips() * PixelsExact(1);
+void PictureBox::ChangeZoom(double zoom) {
+    const QSizeF drawn = Extent() * PixelsExact(1);
     const double most =
         std::min(GreatestZoom, MostPixels / std::max(drawn.width(), drawn.height()));
-    const QPointF kept = ToTwips(position);
     fitted_ = false;
-    Fit(std::clamp(zoom, LeastZoom(), std::max(most, LeastZoom())));
-    const QPointF scrolled = kept * PixelsPerTwip() - position;
-    horizontalScrollBar()->setValue(static_cast<int>(std::lround(scrolled.x())));
-    verticalScrollBar()->setValue(static_cast<int>(std::lround(scrolled.y())));
-}
-
-void PictureBox::ZoomAboutMiddle(double zoom) {
-    ZoomAbout(QRectF(viewport()->rect()).center(), zoom);
+    SetZoom(std::clamp(zoom, LeastZoom(), std::max(most, LeastZoom())));
 }
 
 /// What the scroll bars that such a drawing needs leave of the box. The viewport itself follows
@@ -199,12 +158,7 @@ QSize PictureBox::RoomFor(QSize drawn) const {
 void PictureBox::Arrange() {
     const QSize drawn = DrawnPixels();
     const QSize room = RoomFor(drawn);
-    horizontalScrollBar()->setRange(0, std::max(0, drawn.width() - room.width()));
-    verticalScrollBar()->setRange(0, std::max(0, drawn.height() - room.height()));
-    horizontalScrollBar()->setPageStep(room.width());
-    verticalScrollBar()->setPageStep(room.height());
-    horizontalScrollBar()->setSingleStep(Pixels(ScrollStep));
-    verticalScrollBar()->setSingleStep(Pixels(ScrollStep));
+    SetScrolling(drawn - room, room);
     UpdatePointer();
 }
 
@@ -223,15 +177,6 @@ void PictureBox::FollowSize() {
         FitFirst();
     }
     Arrange();
-}
-
-bool PictureBox::viewportEvent(QEvent* event) {
-    if (event->type() == QEvent::ToolTip) {
-        const auto* help = static_cast<QHelpEvent*>(event);
-        Guard([&] { ShowTip(help->pos(), help->globalPos()); });
-        return true;
-    }
-    return QAbstractScrollArea::viewportEvent(event);
 }
 
 /// A piece's tip goes when the pointer leaves the piece.
@@ -256,8 +201,7 @@ bool PictureBox::HasManySteps() const {
 }
 
 PictureAt PictureBox::Place() const {
-    return {PixelsPerTwip(),
-            -QPointF(horizontalScrollBar()->value(), verticalScrollBar()->value())};
+    return {PixelsPerTwip(), -QPointF(Scrolled())};
 }
 
 /// The paper alone where the part is empty.
@@ -274,7 +218,7 @@ void PictureBox::PaintPart(QPainter& painter, const PictureAt& at, const QRect& 
 void PictureBox::paintEvent(QPaintEvent* event) {
     QPainter painter(viewport());
     if (HasManySteps()) {
-        moving_.Paint(painter, Place());
+        Picture().Paint(painter, Place());
     } else {
         PaintPart(painter, Place(), event->rect());
     }
@@ -288,41 +232,12 @@ void PictureBox::scrollContentsBy(int dx, int dy) {
     }
 }
 
-void PictureBox::wheelEvent(QWheelEvent* event) {
-    Guard([&] {
-        if (!event->modifiers().testFlag(Qt::ControlModifier)) {
-            QAbstractScrollArea::wheelEvent(event);
-            return;
-        }
-        event->accept();
-        const double notches = event->angleDelta().y() / WheelNotch;
-        ZoomAbout(event->position(), zoom_ * std::pow(ZoomStep, notches));
-    });
-}
-
 bool PictureBox::PressWaitedFor(int key) {
     if (!waiting_ || (key != Qt::Key_Return && key != Qt::Key_Enter && key != Qt::Key_Space)) {
         return false;
     }
     const QPointF corner = ToTwips({0, 0});
     return MouseDown(corner.x() + KeyPressInset, corner.y() + KeyPressInset);
-}
-
-bool PictureBox::PressZoomKey(int key) {
-    switch (key) {
-    case Qt::Key_Plus:
-    case Qt::Key_Equal: // + without Shift on many keyboards
-        ZoomAboutMiddle(zoom_ * ZoomStep);
-        return true;
-    case Qt::Key_Minus:
-        ZoomAboutMiddle(zoom_ / ZoomStep);
-        return true;
-    case Qt::Key_0:
-        ZoomAboutMiddle(1);
-        return true;
-    default:
-        return false;
-    }
 }
 
 bool PictureBox::PressScrollKey(int key) {
@@ -350,36 +265,11 @@ void PictureBox::mousePressEvent(QMouseEvent* event) {
     Guard([&] {
         const QPointF twips = ToTwips(event->position());
         taken_ = MouseDown(twips.x(), twips.y());
-        const bool drags = event->button() == Qt::LeftButton || event->button() == Qt::MiddleButton;
-        if (!taken_ && drags) {
-            dragging_ = true;
-            dragFrom_ = event->pos();
-            dragScrolled_ = QPoint(horizontalScrollBar()->value(), verticalScrollBar()->value());
+        if (!taken_) {
+            BeginDrag(*event);
         }
         UpdatePointer();
     });
-}
-
-void PictureBox::mouseMoveEvent(QMouseEvent* event) {
-    Guard([&] {
-        DropDragUnlessHeld(event->buttons());
-        if (dragging_) {
-            const QPoint scrolled = dragScrolled_ + dragFrom_ - event->pos();
-            horizontalScrollBar()->setValue(scrolled.x());
-            verticalScrollBar()->setValue(scrolled.y());
-        }
-    });
-}
-
-void PictureBox::mouseReleaseEvent(QMouseEvent* event) {
-    Guard([&] { DropDragUnlessHeld(event->buttons()); });
-}
-
-void PictureBox::DropDragUnlessHeld(Qt::MouseButtons held) {
-    if (dragging_ && held == Qt::NoButton) {
-        dragging_ = false;
-        UpdatePointer();
-    }
 }
 
 /// A double click whose first press was taken is no double click on the paper.
@@ -390,7 +280,7 @@ void PictureBox::mouseDoubleClickEvent(QMouseEvent* event) {
     }
     Guard([this] {
         fitted_ = false;
-        Fit(FittingZoom());
+        SetZoom(FittingZoom());
     });
 }
 
@@ -404,7 +294,7 @@ void PictureBox::UpdatePointer() {
     const bool scrolls = horizontalScrollBar()->maximum() > 0 || verticalScrollBar()->maximum() > 0;
     if (waiting_) {
         viewport()->setCursor(Qt::CrossCursor);
-    } else if (dragging_) {
+    } else if (IsDragging()) {
         viewport()->setCursor(Qt::ClosedHandCursor);
     } else if (scrolls) {
         viewport()->setCursor(Qt::OpenHandCursor);

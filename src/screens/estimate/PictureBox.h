@@ -1,23 +1,19 @@
 #pragma once
 
 #include "drawing/Drawing.h"
-#include "screens/Dialogs.h"
-#include "screens/MovingPicture.h"
-
-#include <QAbstractScrollArea>
+#include "screens/ZoomableView.h"
 
 #include <functional>
 
 namespace tarn {
 
-/// Shows a drawing on white paper, scrolls in both directions over everything drawn, and zooms. It
-/// is hidden while the drawing is not visible. Its top left is (0, 0) of the drawing, which goes on
-/// beyond what is drawn.
+/// Shows a drawing on white paper, over all of which it scrolls. It is hidden while the drawing is
+/// not visible. Its top left is (0, 0) of the drawing, which goes on beyond what is drawn. A zoom
+/// of 1 is actual size. A drawing of few steps is painted exactly also while it moves.
 ///
-/// The wheel scrolls, with Ctrl it zooms about the pointer; + and - zoom, 0 shows the actual size,
-/// a double click fits the whole drawing; arrows, Page Up, Page Down, Home and End scroll; dragging
-/// moves the paper. While a press is waited for, Enter and Space press near the visible top left.
-class PictureBox : public QAbstractScrollArea {
+/// A double click fits the whole drawing; arrows, Page Up, Page Down, Home and End scroll. While a
+/// press is waited for, Enter and Space press near the visible top left.
+class PictureBox : public ZoomableView {
   public:
     PictureBox(QWidget* parent, Dialogs& boxes);
 
@@ -38,10 +34,6 @@ class PictureBox : public QAbstractScrollArea {
     /// Called where a context menu is asked for, in global pixels; not by a press that was taken.
     std::function<void(QPoint global)> ContextMenu = [](QPoint) {};
 
-    /// Whether a drawing of many steps moves, and is not painted exactly until it rests.
-    bool IsMoving() const { return moving_.IsMoving(); }
-    /// 1 is actual size.
-    double Zoom() const { return zoom_; }
     /// Between positions on the viewport, pixels, and those in the drawing, twips.
     QPointF ToTwips(QPointF position) const;
     QPointF ToViewport(QPointF twips) const;
@@ -51,24 +43,24 @@ class PictureBox : public QAbstractScrollArea {
 
   protected:
     bool event(QEvent* event) override;
-    bool viewportEvent(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void scrollContentsBy(int dx, int dy) override;
-    void wheelEvent(QWheelEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
-    void mouseMoveEvent(QMouseEvent* event) override;
-    void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
 
   private:
-    bool Guard(const std::function<void()>& body) const;
+    PictureAt Place() const override;
+    QSizeF Extent() const override;
+    void PaintPart(QPainter& painter, const PictureAt& at, const QRect& part) const override;
+    void ChangeZoom(double zoom) override;
+    void Arrange() override;
+    void ShowTip(QPoint position, QPoint global) override;
+    void UpdatePointer() override;
+
     bool HasManySteps() const;
-    PictureAt Place() const;
-    void PaintPart(QPainter& painter, const PictureAt& at, const QRect& part) const;
     double PixelsPerTwip() const;
-    QSizeF DrawnTwips() const;
     QSize DrawnPixels() const;
     QSize RoomFor(QSize drawn) const;
     double FittingZoom() const;
@@ -76,29 +68,15 @@ class PictureBox : public QAbstractScrollArea {
     double LeastZoom() const;
     void FitFirst();
     void FollowSize();
-    void Fit(double zoom);
-    void ZoomAbout(QPointF position, double zoom);
-    void ZoomAboutMiddle(double zoom);
     void ShowDrawing();
-    void Arrange();
     bool PressWaitedFor(int key);
-    bool PressZoomKey(int key);
     bool PressScrollKey(int key);
-    void ShowTip(QPoint position, QPoint global);
-    void DropDragUnlessHeld(Qt::MouseButtons held);
-    void UpdatePointer();
 
-    Dialogs& boxes_;
     Drawing drawing_;
-    MovingPicture moving_;
-    double zoom_ = 1;
     bool fitted_ = true;   ///< the zoom follows the box
     QSize fittedTo_;       ///< the room that it was fitted into last
     bool waiting_ = false; ///< for a press that is taken
     bool taken_ = false;   ///< the last press was
-    bool dragging_ = false;
-    QPoint dragFrom_;     ///< where the press was, pixels
-    QPoint dragScrolled_; ///< how far it was scrolled then
 };
 
 } // namespace tarn

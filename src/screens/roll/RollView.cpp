@@ -5,15 +5,12 @@
 #include "screens/ControlNames.h"
 #include "screens/Controls.h"
 #include "screens/Display.h"
-#include "screens/Guard.h"
 #include "screens/roll/RollAccess.h"
 
 #include <QAccessible>
-#include <QHelpEvent>
 #include <QPainter>
 #include <QScrollBar>
 #include <QToolTip>
-#include <QWheelEvent>
 
 #include <algorithm>
 #include <cmath>
@@ -25,32 +22,17 @@ namespace {
 
 constexpr double ViewMargin = 120; ///< twips around the roll
 constexpr double GreatestZoom = 60;
-constexpr double ZoomStep = 1.25;
-constexpr double WheelNotch = 120;  ///< in the units of a wheel event
-constexpr double MostPixels = 1e9;  ///< scroll bars count in int
-constexpr double ScrollStep = 600;  ///< twips
 constexpr double LeastWidth = 3600; ///< twips
 constexpr double LeastHeight = 2400;
 
 } // namespace
 
 RollView::RollView(QWidget* parent, Dialogs& boxes)
-    : QAbstractScrollArea(parent)
-    , boxes_(boxes)
-    , picture_(
-          *viewport(),
-          [this](QPainter& painter, const PictureAt& at, const QRect& part) {
-              painter_->Paint(painter, spread_, at, part);
-          },
-          [this] { return QSizeF(spread_.Width(), spread_.Height()); }) {
+    : ZoomableView(parent, boxes, Words("The roll could not be shown.")) {
     painter_.emplace(chart_, font());
     InstallRollAccess();
     NameControl(*this, Controls::rollView, ToQt(Words("Whole roll")));
-    setFocusPolicy(Qt::StrongFocus);
-    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     setMinimumSize(Pixels(LeastWidth), Pixels(LeastHeight));
-    viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
-    viewport()->setMouseTracking(true);
 }
 
 RollView::~RollView() = default;
@@ -59,71 +41,66 @@ void RollView::Show(RollChart chart) {
     chart_ = std::move(chart);
     current_.reset();
     pointed_.reset();
-    zoom_ = 1;
     ForgetPieces(*this);
     setAccessibleDescription(ToQt(chart_.Description));
+    SetZoom(1);
     Spread();
-    horizontalScrollBar()->setValue(0);
-    verticalScrollBar()->setValue(0);
+    ScrollTo({0, 0});
 }
 
 QSize RollView::sizeHint() const {
     return {Pixels(2 * LeastWidth), Pixels(2 * LeastHeight)};
 }
 
-bool RollView::Guard(const std::function<void()>& body) const {
-    return Guarded(boxes_, Words("The roll could not be shown."), body);
-}
-
 /// Lay the roll out anew for the size of the view.
 void RollView::Spread() {
-    const double margins = 2 * PixelsExact(ViewMargin);
+    const double margins = 2 * Margin();
     const QSizeF room = QSizeF(maximumViewportSize()) - QSizeF(margins, margins);
     spread_ = painter_->SpreadOn(room.expandedTo(QSizeF(1, 1)));
     Arrange();
-    picture_.Forget();
+    Picture().Forget();
     viewport()->update();
 }
 
 void RollView::Arrange() {
-    const QSizeF size =
-        spread_.Rows.empty() ? QSizeF() : QSizeF(spread_.Width(), spread_.Height()) * zoom_;
-    const double margins = zoom_ > 1 ? 2 * PixelsExact(ViewMargin) : 0;
     const QSize room = maximumViewportSize();
-    const auto range = [&](double length, int most) {
-        const double over = length + margins - most;
-        return static_cast<int>(std::ceil(std::clamp(over, 0.0, MostPixels)));
-    };
-    const bool larger = zoom_ > 1;
-    horizontalScrollBar()->setRange(0, larger ? range(size.width(), room.width()) : 0);
-    verticalScrollBar()->setRange(0, larger ? range(size.height(), room.height()) : 0);
-    horizontalScrollBar()->setPageStep(room.width());
-    verticalScrollBar()->setPageStep(room.height());
-    horizontalScrollBar()->setSingleStep(Pixels(ScrollStep));
-    verticalScrollBar()->setSingleStep(Pixels(ScrollStep));
+    QSize beyond(0, 0);
+    if (Zoom() > 1) {
+        const QSizeF size = spread_.Rows.empty() ? QSizeF() : Extent() * Zoom();
+        const auto range = [this](double length, int most) {
+            const double over = length + 2 * Margin() - most;
+            return static_cast<int>(std::ceil(std::clamp(over, 0.0, MostPixels)));
+        };
+        beyond = {range(size.width(), room.width()), range(size.height(), room.height())};
+    }
+    SetScrolling(beyond, room);
 }
 
 /// What is smaller than the view stands in its middle.
 PictureAt RollView::Place() const {
-    const QSizeF size = QSizeF(spread_.Width(), spread_.Height()) * zoom_;
-    const double margin = PixelsExact(ViewMargin);
-    const auto origin = [&](double length, int room, int scrolled) {
-        return std::round(std::max(margin, (room - length) / 2)) - scrolled;
+    const QSizeF size = Extent() * Zoom();
+    const auto origin = [this](double length, int room, int scrolled) {
+        return std::round(std::max(Margin(), (room - length) / 2)) - scrolled;
     };
-    return {zoom_,
-            {origin(size.width(), viewport()->width(), horizontalScrollBar()->value()),
-             origin(size.height(), viewport()->height(), verticalScrollBar()->value())}};
+    return {Zoom(),
+            {origin(size.width(), viewport()->width(), Scrolled().x()),
+             origin(size.height(), viewport()->height(), Scrolled().y())}};
 }
 
-void RollView::ZoomAbout(QPointF position, double zoom) {
-    const PictureAt before = Place();
-    const QPointF kept = (position - before.Origin) / before.Zoom;
-    zoom_ = std::clamp(zoom, 1.0, GreatestZoom);
-    Arrange();
-    const QPointF scrolled = kept * zoom_ + QPointF(1, 1) * PixelsExact(ViewMargin) - position;
-    horizontalScrollBar()->setValue(static_cast<int>(std::lround(scrolled.x())));
-    verticalScrollBar()->setValue(static_cast<int>(std::lround(scrolled.y())));
-    viewport()->update();
+QSizeF RollView::Extent() const {
+    return {spread_.Width(), spread_.Height()};
+}
+
+double RollView::Margin() const {
+    return PixelsExact(ViewMargin);
+}
+
+void RollView::PaintPart(QPainter& painter, const PictureAt& at, const QRect& part) const {
+    painter_->Paint(painter, spread_, at, part);
+}
+
+void RollView::ChangeZoom(double zoom) {
+    SetZoom(std::clamp(zoom, 1.0, GreatestZoom));
 }
 
 std::optional<std::size_t> RollView::PieceAt(QPointF position) const {
@@ -185,6 +162,10 @@ void RollView::Point(std::optional<std::size_t> piece) {
     }
 }
 
+void RollView::PointAt(QPointF position) {
+    Point(PieceAt(position));
+}
+
 void RollView::BringIntoView(std::size_t piece) {
     const QRect box = BoxOf(piece);
     const auto bring = [](QScrollBar& bar, int from, int to, int room) {
@@ -226,15 +207,10 @@ bool RollView::event(QEvent* event) {
 }
 
 bool RollView::viewportEvent(QEvent* event) {
-    if (event->type() == QEvent::ToolTip) {
-        const auto* help = static_cast<QHelpEvent*>(event);
-        Guard([&] { ShowTip(help->pos(), help->globalPos()); });
-        return true;
-    }
     if (event->type() == QEvent::Leave) {
         Guard([this] { Point(std::nullopt); });
     }
-    return QAbstractScrollArea::viewportEvent(event);
+    return ZoomableView::viewportEvent(event);
 }
 
 void RollView::ShowTip(QPoint position, QPoint global) {
@@ -250,7 +226,7 @@ void RollView::ShowTip(QPoint position, QPoint global) {
 void RollView::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(viewport());
     const PictureAt at = spread_.Rows.empty() ? PictureAt{} : Place();
-    picture_.Paint(painter, at);
+    Picture().Paint(painter, at);
     for (const auto& piece : {current_, pointed_}) {
         if (piece) {
             painter_->PaintMark(painter, spread_, at, *piece);
@@ -260,36 +236,6 @@ void RollView::paintEvent(QPaintEvent* /*event*/) {
 
 void RollView::scrollContentsBy(int /*dx*/, int /*dy*/) {
     viewport()->update();
-}
-
-void RollView::wheelEvent(QWheelEvent* event) {
-    Guard([&] {
-        if (!event->modifiers().testFlag(Qt::ControlModifier)) {
-            QAbstractScrollArea::wheelEvent(event);
-            return;
-        }
-        event->accept();
-        const double notches = event->angleDelta().y() / WheelNotch;
-        ZoomAbout(event->position(), zoom_ * std::pow(ZoomStep, notches));
-    });
-}
-
-bool RollView::PressZoomKey(int key) {
-    const QPointF middle = QRectF(viewport()->rect()).center();
-    switch (key) {
-    case Qt::Key_Plus:
-    case Qt::Key_Equal: // + without Shift on many keyboards
-        ZoomAbout(middle, zoom_ * ZoomStep);
-        return true;
-    case Qt::Key_Minus:
-        ZoomAbout(middle, zoom_ / ZoomStep);
-        return true;
-    case Qt::Key_0:
-        ZoomAbout(middle, 1);
-        return true;
-    default:
-        return false;
-    }
 }
 
 /// In the order of the list.
@@ -330,34 +276,12 @@ void RollView::keyPressEvent(QKeyEvent* event) {
 
 void RollView::mousePressEvent(QMouseEvent* event) {
     Guard([&] {
-        if (event->button() != Qt::LeftButton && event->button() != Qt::MiddleButton) {
-            return;
-        }
         if (event->button() == Qt::LeftButton) {
             Mark(PieceAt(event->position())); // and the paper stays under the pointer
             OnCurrent(current_);
         }
-        dragging_ = true;
-        dragFrom_ = event->pos();
-        dragScrolled_ = QPoint(horizontalScrollBar()->value(), verticalScrollBar()->value());
+        BeginDrag(*event);
     });
-}
-
-void RollView::mouseMoveEvent(QMouseEvent* event) {
-    Guard([&] {
-        dragging_ = dragging_ && event->buttons() != Qt::NoButton;
-        if (dragging_) {
-            const QPoint scrolled = dragScrolled_ + dragFrom_ - event->pos();
-            horizontalScrollBar()->setValue(scrolled.x());
-            verticalScrollBar()->setValue(scrolled.y());
-        } else {
-            Point(PieceAt(event->position()));
-        }
-    });
-}
-
-void RollView::mouseReleaseEvent(QMouseEvent* event) {
-    dragging_ = dragging_ && event->buttons() != Qt::NoButton;
 }
 
 void RollView::mouseDoubleClickEvent(QMouseEvent* event) {

@@ -1,23 +1,19 @@
 #pragma once
 
-#include "screens/Dialogs.h"
-#include "screens/MovingPicture.h"
+#include "screens/ZoomableView.h"
 #include "screens/roll/RollChart.h"
 #include "screens/roll/RollPainter.h"
 #include "screens/roll/RollSpread.h"
-
-#include <QAbstractScrollArea>
 
 #include <functional>
 #include <optional>
 
 namespace tarn {
 
-/// Shows a whole roll as large as it fits; its pieces can be pointed at and walked through by the
-/// arrow keys, and it zooms: + and -, or Ctrl and the wheel; 0 or a double click shows all again.
-/// Dragging and the wheel move what is larger than the view. On the accessibility bus each piece is
-/// a child.
-class RollView : public QAbstractScrollArea {
+/// Shows a whole roll as large as it fits, which is a zoom of 1; a double click shows all again.
+/// Its pieces can be pointed at and walked through by the arrow keys. On the accessibility bus each
+/// piece is a child.
+class RollView : public ZoomableView {
   public:
     RollView(QWidget* parent, Dialogs& boxes);
     ~RollView() override;
@@ -39,10 +35,6 @@ class RollView : public QAbstractScrollArea {
     std::function<void(std::optional<std::size_t>)> OnCurrent = [](auto) {};
     std::function<void(std::optional<std::size_t>)> OnPointed = [](auto) {};
 
-    /// 1 shows all of the roll.
-    double Zoom() const { return zoom_; }
-    /// Whether the picture moves, and is not painted exactly.
-    bool IsMoving() const { return picture_.IsMoving(); }
     /// The piece at a place of the viewport, pixels.
     std::optional<std::size_t> PieceAt(QPointF position) const;
     /// Where a piece is on the viewport, pixels: as much of it as its largest box has.
@@ -55,39 +47,33 @@ class RollView : public QAbstractScrollArea {
     bool viewportEvent(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void scrollContentsBy(int dx, int dy) override;
-    void wheelEvent(QWheelEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
-    void mouseMoveEvent(QMouseEvent* event) override;
-    void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
 
   private:
-    bool Guard(const std::function<void()>& body) const;
+    PictureAt Place() const override;
+    QSizeF Extent() const override;
+    void PaintPart(QPainter& painter, const PictureAt& at, const QRect& part) const override;
+    double Margin() const override;
+    void ChangeZoom(double zoom) override;
+    void Arrange() override;
+    void ShowTip(QPoint position, QPoint global) override;
+    void PointAt(QPointF position) override;
+
     void Spread();
-    void Arrange();
-    PictureAt Place() const;
-    void ZoomAbout(QPointF position, double zoom);
     void Mark(std::optional<std::size_t> piece);
     void Point(std::optional<std::size_t> piece);
-    bool PressZoomKey(int key);
     bool PressWalkKey(int key);
     void BringIntoView(std::size_t piece);
-    void ShowTip(QPoint position, QPoint global);
     void TellFocus();
 
-    Dialogs& boxes_;
     RollChart chart_;
     std::optional<RollPainter> painter_;
     RollSpread spread_;
-    MovingPicture picture_;
-    double zoom_ = 1;
     std::optional<std::size_t> current_;
     std::optional<std::size_t> pointed_;
-    bool dragging_ = false;
-    QPoint dragFrom_;
-    QPoint dragScrolled_;
 };
 
 } // namespace tarn
