@@ -5292,7 +5292,7 @@ Sus estancias se pueden guardar como proyecto nuevo.</translation>
     <message>
         <location filename="../src/screens/estimate/ChoicePanel.cpp"/>
         <source>&amp;OK</source>
-        <translation>AC&amp;EPTAR</translation>
+        <translation>O&amp;K</translation>
     </message>
     <message>
         <location filename="../src/screens/estimate/ChoicePanel.cpp"/>
