@@ -210,7 +210,6 @@ inline bool SkylinePlan::Repeat(const Limits& limits, const PlacingStep<Choice>&
 template <class Choice, class HasMore, class Choose, class Put, class Moves>
 bool SkylinePlan::FillGapsAgain(const Limits& limits, PlacingSteps<Choice>& steps, HasMore hasMore,
                                 Choose choose, Put put, Moves moves) {
-    const bool again = known_ && changed_ && roofBefore_ == limits.Roof;
     asBefore_ = laidWhole_ = false;
     roof_ = limits.Roof;
     const auto note = [&](const Gap& gap, const Choice& choice) {
@@ -225,7 +224,7 @@ bool SkylinePlan::FillGapsAgain(const Limits& limits, PlacingSteps<Choice>& step
         Clear();
         moves.Begin();
     };
-    if (!again) {
+    if (!known_ || !changed_ || roofBefore_ != limits.Roof) {
         begin();
         steps.Last.clear();
         return fillRest();
@@ -235,12 +234,11 @@ bool SkylinePlan::FillGapsAgain(const Limits& limits, PlacingSteps<Choice>& step
         if (laid == 0) {
             begin();
         }
-        while (laid < end) {
-            if (!Repeat(limits, steps.Before[laid++], put, moves)) {
-                return false;
-            }
+        bool goesOn = true;
+        while (goesOn && laid < end) {
+            goesOn = Repeat(limits, steps.Before[laid++], put, moves);
         }
-        return true;
+        return goesOn;
     };
     const bool departs = !(departures_ == departuresBefore_);
     for (std::size_t i = 0; i < steps.Before.size(); ++i) {
