@@ -123,9 +123,10 @@ INSTANTIATE_TEST_SUITE_P(
                   "ObjNum in MainTab is no whole number from 0 to 501: JONES (502); NEW (nothing).",
                   "TabIndex in MainTab is no whole number from 0 to 32767: NEW (nothing).",
                   "TileLabelNUm in MainTab is no whole number from 0 to 1: NEW (x'41').",
-                  "Rooms without a row, which are read as empty: JONES, room 2; JONES, room 3; "
-                  "JONES, room 4; JONES, room 5; JONES, room 6; JONES, room 7; JONES, room 8; "
-                  "JONES, room 9; JONES, room 10; JONES, room 11; and 491 more."}},
+                  // Not a list with a comma left out.
+                  ("Rooms without a row, which are read as empty: JONES, room 2; JONES, room 3; "
+                   "JONES, room 4; JONES, room 5; JONES, room 6; JONES, room 7; JONES, room 8; "
+                   "JONES, room 9; JONES, room 10; JONES, room 11; and 491 more.")}},
         // --- rooms ---
         Disorder{"RoomsWithoutASheet",
                  {"UPDATE InputData SET TabIndex = 7 WHERE TabIndex = 1",

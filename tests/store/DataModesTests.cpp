@@ -20,7 +20,7 @@ class DataModes : public ::testing::TestWithParam<mode_t> {
     fs::path Path(const std::string& name) const { return folder_.Path(name); }
     /// A folder that a group shares.
     fs::path SharedFolder() const {
-        const fs::path folder = Path("shared");
+        fs::path folder = Path("shared");
         fs::create_directory(folder);
         fs::permissions(folder, static_cast<fs::perms>(02770));
         return folder;

@@ -65,7 +65,7 @@ class Deletions : public ::testing::Test {
         for (const std::string& table :
              raw.Rows("SELECT name FROM sqlite_master WHERE type = 'table' ORDER BY name")) {
             for (const std::string& row : raw.Rows("SELECT rowid, * FROM " + table)) {
-                all.push_back(table + "|" + row);
+                all.emplace_back(table).append("|").append(row);
             }
         }
         return all;
@@ -429,8 +429,10 @@ TEST_F(Deletions, ChangeNothingWhereARowComesBack) {
         const std::string field = table == "ProjTab"  ? "ProjName"
                                   : table == "DirTab" ? "Directory"
                                                       : "TabIndex";
-        file_.Run("CREATE TRIGGER Again AFTER DELETE ON " + table + " BEGIN INSERT INTO " + table +
-                  " (" + field + ") VALUES (OLD." + field + "); END");
+        std::string trigger = "CREATE TRIGGER Again AFTER DELETE ON ";
+        trigger.append(table).append(" BEGIN INSERT INTO ").append(table).append(" (");
+        trigger.append(field).append(") VALUES (OLD.").append(field).append("); END");
+        file_.Run(trigger);
         EXPECT_EQ(DatabaseErrorOf([&] { store_.DeleteDirectory("KEEP"); }),
                   table + " cannot be deleted from: the database keeps a row as it was.");
         EXPECT_EQ(Everything(), before) << table;
@@ -469,12 +471,14 @@ TEST_F(Deletions, TakeNoLongForVeryManyRows) {
 /// What a child process that deletes the directory KEEP comes to, when no file may grow beyond
 /// `limit` bytes: true for done, false for a DatabaseError.
 bool DeletesWithin(const TestDatabase& file, rlim_t limit) {
+    constexpr int NotBounded = 2;
     const pid_t child = fork();
     if (child == 0) {
         ProjectStore store = file.Open();
         const rlimit bounds{limit, limit};
-        signal(SIGXFSZ, SIG_IGN);
-        setrlimit(RLIMIT_FSIZE, &bounds);
+        if (signal(SIGXFSZ, SIG_IGN) == SIG_ERR || setrlimit(RLIMIT_FSIZE, &bounds) != 0) {
+            _exit(NotBounded);
+        }
         try {
             store.DeleteDirectory("KEEP");
             _exit(0);
@@ -485,6 +489,7 @@ bool DeletesWithin(const TestDatabase& file, rlim_t limit) {
     int status = 0;
     EXPECT_EQ(waitpid(child, &status, 0), child);
     EXPECT_TRUE(WIFEXITED(status));
+    EXPECT_NE(WEXITSTATUS(status), NotBounded);
     return WEXITSTATUS(status) == 0;
 }
 

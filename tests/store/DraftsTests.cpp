@@ -35,8 +35,8 @@ struct KeptDrafts : ::testing::Test {
     /// Write a new draft of a project, so many minutes past noon; its file.
     static std::string Keep(Drafts& drafts, const std::string& project, Integer width,
                             int minute = 0) {
-        const std::string file = drafts.NewFile(project);
-        drafts.Write(file, project, RoomsOf(width), Noon.addSecs(60 * minute));
+        std::string file = drafts.NewFile(project);
+        drafts.Write(file, project, RoomsOf(width), Noon.addSecs(60LL * minute));
         return file;
     }
     /// The width of the first room in each of a project's drafts, in their order.

@@ -39,7 +39,7 @@ class CareTool : public ToolTest {
     QByteArray DatabaseBytes() const { return Read(S("data/DATA/Tarn.mdb")); }
     /// A backup where the program makes its own.
     QString BackUp(const char* name) const {
-        const QString path = Path(S("data/BACKUP/") + S(name));
+        QString path = Path(S("data/BACKUP/") + S(name));
         EXPECT_EQ(On("backup", {path}).Status, 0);
         return path;
     }
