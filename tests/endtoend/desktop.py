@@ -290,6 +290,18 @@ class Program:
             lambda: f": it has {text_of(field)!r}, the focus is on {self.focused()!r}",
         )
 
+    def begin_project(self, typed):
+        """Press NEW PROJECT and type a name."""
+        self.press("NEW PROJECT")
+        field = self.see("text", "PROJECT")
+        wait_for(lambda: "focused" in states(field), "the focus on the name")
+        self.type(typed)
+        wait_for(
+            lambda: text_of(field) == typed.upper(),
+            f"{typed.upper()!r} as name",
+            lambda: f": it is {text_of(field)!r}",
+        )
+
     def emptied(self, field):
         """Whether it is, after another attempt."""
         left = text_of(field)

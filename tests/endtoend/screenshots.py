@@ -350,9 +350,7 @@ class Photographer:
         ui.box()
         self.shoot("box-directory")
         ui.answer("Cancel")
-        ui.press("NEW PROJECT")
-        ui.type("OAK")
-        wait_for(lambda: ui.field("PROJECT") == "OAK", "the name")
+        ui.begin_project("OAK")
         self.shoot("projects-new")
         ui.press("EXIT")
 

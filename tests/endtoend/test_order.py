@@ -325,9 +325,7 @@ class OrderingByClicksFromAnEmptyFolder(FromAnEmptyFolder):
         ui.answer("OK")
         wait_for(lambda: ui.items("DIRECTORIES") == ["HOUSES"], "the directory")
         ui.click_on(ui.item("DIRECTORIES", "HOUSES"))
-        ui.press("NEW PROJECT")
-        ui.type("ten")
-        wait_for(lambda: ui.field("PROJECT") == "TEN", "the name")
+        ui.begin_project("ten")
         ui.press("DONE")
         ui.press("ENTER/EDIT DATA")
 

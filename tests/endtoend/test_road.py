@@ -82,9 +82,7 @@ class WholeRoad(Road):
         self.answer_input("kitchens")
         wait_for(lambda: ui.items("DIRECTORIES") == ["KITCHENS"], "the new directory")
         ui.click_on(ui.item("DIRECTORIES", "KITCHENS"))
-        ui.press("NEW PROJECT")
-        ui.type("walk 1")
-        wait_for(lambda: ui.field("PROJECT") == "WALK 1", "the name in upper case")
+        ui.begin_project("walk 1")
         ui.press("DONE")
         ui.see("label", "OPERATION MENU")
         self.assertFalse(ui.is_there("push button", "ESTIMATE"))
@@ -249,8 +247,7 @@ class MetricRoad(Road):
     def test_rooms_in_metres_and_centimetres(self):
         ui = self.ui
         ui.press("SELECT PROJECT")
-        ui.press("NEW PROJECT")
-        ui.type("haus")
+        ui.begin_project("haus")
         ui.press("DONE")
         ui.click("check box", "Metric")
         ui.press("ENTER/EDIT DATA")
@@ -287,8 +284,7 @@ class Improving(Road):
     def test_a_layout_becomes_as_short_as_can_be(self):
         ui = self.ui
         ui.press("SELECT PROJECT")
-        ui.press("NEW PROJECT")
-        ui.type("strips")
+        ui.begin_project("strips")
         ui.press("DONE")
         ui.press("ENTER/EDIT DATA")
         # Three strips that fit beside each other on the 12 ft roll.
@@ -322,8 +318,7 @@ class DatabaseTrouble(Road):
     def type_room(self):
         ui = self.ui
         ui.press("SELECT PROJECT")
-        ui.press("NEW PROJECT")
-        ui.type("trouble")
+        ui.begin_project("trouble")
         ui.press("DONE")
         ui.press("ENTER/EDIT DATA")
         ui.see("push button", "SAVE")
@@ -366,8 +361,7 @@ class Unsaved(Road):
     def type_room(self):
         ui = self.ui
         ui.press("SELECT PROJECT")
-        ui.press("NEW PROJECT")
-        ui.type("power")
+        ui.begin_project("power")
         ui.press("DONE")
         ui.press("ENTER/EDIT DATA")
         ui.see("push button", "SAVE")

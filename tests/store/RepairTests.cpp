@@ -146,15 +146,16 @@ TEST_F(ARepair, TellsEveryValueThatItChanges) {
                 "WHERE ObjNum = 2",
                 "UPDATE MainTab SET DigScale = 'x', ObjNum = NULL, EnteredMetric = 7 "
                 "WHERE TabIndex = 2"});
-    EXPECT_EQ(changes,
-              (Lines{"Values that were changed: JONES: ObjNum nothing became 1.",
-                     "Values that were changed: SMITH, room 2: RoomW -5 became 0.",
-                     "Values that were changed: SMITH, room 2: CTType 12 became 0.",
-                     "Values that were changed: SMITH, room 3: RoomL 12.5 became 12.",
-                     "Values that were changed: SMITH, room 3: RoomRemark \"a\uFFFD\uFFFD\" became "
-                     "\"a\uFFFD\uFFFD\".",
-                     "Values that were changed: JONES: DigScale \"x\" became 0.01.",
-                     "Values that were changed: JONES: EnteredMetric 7 became 0."}));
+    EXPECT_EQ(
+        changes,
+        (Lines{"Values that were changed: JONES: ObjNum nothing became 1.",
+               "Values that were changed: SMITH, room 2: RoomW -5 became 0.",
+               "Values that were changed: SMITH, room 2: CTType 12 became 0.",
+               "Values that were changed: SMITH, room 3: RoomL 12.5 became 12.",
+               ("Values that were changed: SMITH, room 3: RoomRemark \"a\uFFFD\uFFFD\" became "
+                "\"a\uFFFD\uFFFD\"."),
+               "Values that were changed: JONES: DigScale \"x\" became 0.01.",
+               "Values that were changed: JONES: EnteredMetric 7 became 0."}));
     EXPECT_EQ(Rows("SELECT RoomL FROM InputData WHERE TabIndex = 1 ORDER BY ObjNum"),
               (Lines{"200", "201", "12"}));
 }
@@ -198,8 +199,8 @@ TEST_F(ARepair, KeepsTheRequestsOfOrdersWhereThereAreAny) {
 
 TEST_F(ARepair, LeavesOutRequestsOfOrdersThatNoLoadTakes) {
     const std::string request = R"('{"rolls": [{"width": "12ft"}]}')";
-    EXPECT_EQ(Repair({"CREATE TABLE OrderData (TabIndex INTEGER, Carpet INTEGER, Metric INTEGER, "
-                      "Request TEXT COLLATE NOCASE)",
+    EXPECT_EQ(Repair({("CREATE TABLE OrderData (TabIndex INTEGER, Carpet INTEGER, Metric INTEGER, "
+                       "Request TEXT COLLATE NOCASE)"),
                       "CREATE INDEX OrderDataTabIndex ON OrderData (TabIndex)",
                       "UPDATE MainTab SET TabIndex = 40000 WHERE ProjName = 'SMITH'",
                       "UPDATE InputData SET TabIndex = 40000 WHERE TabIndex = 1",

@@ -31,7 +31,7 @@ class InputFile : public ToolTest {
 };
 
 constexpr const char* Header = "width,length,covering\n";
-constexpr qsizetype Megabyte = 1024 * 1024;
+constexpr qsizetype Megabyte = 1024LL * 1024;
 
 TEST_F(InputFile, OfSixteenMegabytesIsReadAndOneByteMoreRefused) {
     QByteArray rooms = Header;
