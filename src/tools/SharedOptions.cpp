@@ -24,7 +24,10 @@ void TranslateHelp(CLI::App& app) {
     formatter.label("REQUIRED", Words("REQUIRED"));
     formatter.label("Needs", Words("Needs"));
     formatter.label("Excludes", Words("Excludes"));
+    formatter.label("TEXT", Words("TEXT"));
     app.option_defaults()->group(Words("Options"));
+    app.failure_message(
+        [](const CLI::App*, const CLI::Error& error) { return ArgumentErrorText(error); });
 }
 
 } // namespace
@@ -96,6 +99,14 @@ void RequireRoomsSource(const RoomsSource& source) {
 
 std::string NotEmpty(const std::string& value) {
     return value.empty() ? Words("the value is empty") : Phrase();
+}
+
+CLI::Validator AboveZero() {
+    CLI::Validator check = CLI::PositiveNumber;
+    return check.description(Words("POSITIVE")).operation([](const std::string& value) {
+        const bool isAbove = CLI::PositiveNumber(value).empty();
+        return isAbove ? std::string() : Words("%1 is not a number above 0", value);
+    });
 }
 
 void AddSeed(CLI::App& app, std::uint64_t& seed) {

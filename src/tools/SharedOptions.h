@@ -20,7 +20,7 @@ namespace tarn {
 
 /// Put the language in force that the arguments ask for with --language, else `chosen` where that
 /// is a language: first of all, since options are described in it. What is no language is refused
-/// when the arguments are parsed (PrepareHelp).
+/// when the arguments are parsed (BeginOptions).
 void SpeakAsAsked(int argc, const char* const* argv, std::string_view chosen = {});
 
 /// Have `app` tell what the program is, in the language in force, and add --help, --language and
@@ -56,6 +56,9 @@ void RequireRoomsSource(const RoomsSource& source);
 
 /// Refuses an option that is given without its value ("--match=").
 std::string NotEmpty(const std::string& value);
+
+/// Refuses what is no number above 0.
+CLI::Validator AboveZero();
 
 /// Add --seed, of the improving search.
 void AddSeed(CLI::App& app, std::uint64_t& seed);

@@ -181,7 +181,7 @@ TEST(PaintEstimate, SaysWhereTheCutListIsWhenNoLetterOfItIsLeft) {
     EXPECT_FALSE(pdf.Text().contains(QStringLiteral("Total Length"))) << "it is lost";
     const auto words = pdf.Words(1);
     const PdfWord& first = WordOf(words, "The");
-    EXPECT_NEAR(first.Box.left(), (500 + 500) / 20, 1);
+    EXPECT_NEAR(first.Box.left(), (500 + 500) / 20.0, 1);
     EXPECT_NEAR(first.Box.height(), 12 * 1.15, 3) << "of the page's own type";
     for (const std::string_view line : {ListNotShownText, ListElsewhereText}) {
         EXPECT_TRUE(pdf.Text().contains(testing::Words(std::string(line)))) << line;

@@ -12,11 +12,7 @@
 
 namespace tarn::testing {
 
-namespace {
-
-using testing::S;
-
-} // namespace
+namespace {} // namespace
 
 Pdf::Pdf(const std::string& content) {
     QFile file(Path());

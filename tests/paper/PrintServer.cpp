@@ -87,9 +87,12 @@ std::string Driver(const QueueSetup& queue) {
                          "*DefaultColorSpace: RGB\n*FileSystem: False\n"
                          "*cupsFilter2: \"application/vnd.cups-pdf application/pdf 0 -\"\n";
     for (const char* list : {"PageSize", "PageRegion"}) {
-        const std::string name = list;
-        driver += "*OpenUI *" + name + ": PickOne\n*Default" + name + ": " + queue.DriverPaper +
-                  "\n*" + name + " A4: \"\"\n*" + name + " Letter: \"\"\n*CloseUI: *" + name + "\n";
+        driver.append("*OpenUI *").append(list).append(": PickOne\n");
+        driver.append("*Default").append(list).append(": ").append(queue.DriverPaper).append("\n");
+        for (const char* paper : {"A4", "Letter"}) {
+            driver.append("*").append(list).append(" ").append(paper).append(": \"\"\n");
+        }
+        driver.append("*CloseUI: *").append(list).append("\n");
     }
     driver += "*DefaultImageableArea: " + queue.DriverPaper + "\n";
     driver += "*ImageableArea A4: " + area(595, 842, queue.ShortEdgeMargin);
@@ -135,7 +138,7 @@ std::string TellsOf(const std::string& queue, const char* attribute) {
     cups_dest_t* found = cupsGetNamedDest(CUPS_HTTP_DEFAULT, queue.c_str(), nullptr);
     const char* text =
         found == nullptr ? nullptr : cupsGetOption(attribute, found->num_options, found->options);
-    const std::string told = text == nullptr ? "" : text;
+    std::string told = text == nullptr ? "" : text;
     cupsFreeDests(found == nullptr ? 0 : 1, found);
     return told;
 }
@@ -276,6 +279,7 @@ std::vector<PrintedJob> PrintServer::Printed(std::size_t count) const {
                                   Read(base + S(".options")), Read(base + S(".copies"))};
     }
     std::vector<PrintedJob> printed;
+    printed.reserve(byNumber.size());
     for (auto& [number, job] : byNumber) {
         printed.push_back(std::move(job));
     }

@@ -24,7 +24,7 @@ Rooms Numbered(std::initializer_list<int> numbers) {
 
 /// What a change from one to the other is, after making it and taking it back.
 RoomChange Between(const Rooms& before, const Rooms& after, std::size_t about = AnyRoom) {
-    const RoomChange change = ChangeBetween(before, after, about);
+    RoomChange change = ChangeBetween(before, after, about);
     Rooms rooms = before;
     MakeChange(rooms, change);
     EXPECT_EQ(rooms, after);

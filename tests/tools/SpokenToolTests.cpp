@@ -60,7 +60,7 @@ const std::array WrongLines{
               "--improve: x is not a number above 0", "--improve: x ist keine Zahl über 0",
               "--improve: x no es un número mayor que 0"},
     WrongLine{"tarn-order --rooms r --step ''", "--step: the value is empty",
-              "--step: der Wert ist leer", "--step: el valor está vacío"},
+              "--step: Der Wert ist leer", "--step: el valor está vacío"},
     WrongLine{"tarn-order", "either --database and --project, or --rooms is required",
               "entweder --database und --project oder --rooms ist erforderlich",
               "se necesitan --database y --project, o bien --rooms"},
@@ -176,7 +176,7 @@ Oder nennen Sie mit --encoding die Zeichenkodierung der Datei, etwa windows-1252
         R"(tarn-data: Die Datei a.csv ist nicht verwendbar; nichts wurde aus ihr übernommen:
   Zeile 1: Spalte „width (m)“ ist metrisch, und die Räume werden in Fuß und Zoll gelesen; lesen Sie sie metrisch
   Zeile 1: Spalte „colour“ ist unbekannt
-  Zeile 1: eine Spalte hat keinen Namen
+  Zeile 1: Eine Spalte hat keinen Namen
   Zeile 1: Spalte „Width“ kommt zweimal vor
   Zeile 1: Spalte „length (mm)“ hat eine Einheit, in der kein Maß gelesen wird; geben Sie die Maße in ft, in, m oder cm an
   Zeile 1: Spalte „covering“ fehlt
@@ -188,7 +188,7 @@ TEST_F(SpokenImport, TellsEachMistakeOfAFileInSpanish) {
                   R"(tarn-data: El archivo a.csv no se puede usar; no se tomó nada de él:
   línea 2: width «-5» es una medida negativa
   línea 2: falta length
-  línea 2: covering «VINYL» no es un revestimiento: de CARPET-1 a CARPET-8, de TILE-1 a TILE-4, o abreviado como C1 o T1
+  línea 2: covering «VINYL» no es un material: de CARPET-1 a CARPET-8, de TILE-1 a TILE-4, o abreviado como C1 o T1
   línea 2: base «X9» no es un rodapié: L o W con 1 o 2, como W2L1
   línea 3: width «40000» es demasiado grande: una medida es 32767 como máximo
   línea 3: length «x» no es una medida en pulgadas enteras, ni en pies y pulgadas como 12'6"
@@ -200,7 +200,7 @@ TEST_F(SpokenImport, TellsEachMistakeOfAFileInSpanish) {
   línea 4: remark «a b» contiene un salto de línea u otro carácter de control; escríbalo en una sola línea
   línea 6: remark «�» contiene U+FFFE o U+FFFF, que no son caracteres; quítelos
   línea 7: remark «K�che» no es UTF-8 válido; guarde el archivo como UTF-8 («CSV UTF-8» en una hoja de cálculo)
-  línea 8: campos en la línea: 2; en el encabezado: 6
+  línea 8: campos en la línea: 2; en la cabecera: 6
   línea 9: remark «ab» tiene texto tras las comillas de cierre
   línea 10: remark «a » tiene unas comillas que nunca se cierran
 O indique la codificación del archivo con --encoding, por ejemplo windows-1252.
@@ -224,9 +224,9 @@ TEST_F(SpokenImport, TellsWhatIsWrongWithAFileAsAWhole) {
         const ToolRun inSpanish = Import("es", file, more);
         EXPECT_TRUE(inSpanish.Error.contains(spanish)) << inSpanish.Error.toStdString();
     };
-    expect("", "Zeile 1: die Datei ist leer\n", "línea 1: el archivo está vacío\n");
+    expect("", "Zeile 1: Die Datei ist leer\n", "línea 1: el archivo está vacío\n");
     expect("PK\x03\x04 xl/",
-           "Zeile 1: die Datei ist eine Excel-Arbeitsmappe (XLSX); öffnen Sie sie in einer "
+           "Zeile 1: Die Datei ist eine Excel-Arbeitsmappe (XLSX); öffnen Sie sie in einer "
            "Tabellenkalkulation und speichern Sie sie als CSV\n",
            "línea 1: el archivo es un libro de Excel (XLSX); ábralo en una hoja de cálculo y "
            "guárdelo como CSV\n");
