@@ -32,12 +32,12 @@ Long LeastByDeciding(const ImproveJob& job) {
     }
 }
 
-/// Up to seven undivided fills, equal ones among them.
-ImproveJob FewFills(std::mt19937& random) {
-    ImproveJob job = testing::RandomFills(random, 7, Between(random, 3, 6), 1, 5);
+/// Up to so many undivided fills, equal ones among them.
+ImproveJob FewFills(std::mt19937& random, int most) {
+    ImproveJob job = testing::RandomFills(random, most, Between(random, 3, 6), 1, 5);
     if (Between(random, 0, 2) == 0) {
         job.Fills.push_back(job.Fills.front());
-        job.Fills.resize(std::min<std::size_t>(job.Fills.size(), 7));
+        job.Fills.resize(std::min(job.Fills.size(), static_cast<std::size_t>(most)));
     }
     return job;
 }
@@ -45,12 +45,14 @@ ImproveJob FewFills(std::mt19937& random) {
 TEST(ExactSearch, DecidesAsTryingEveryPlaceDoes) {
 #ifdef TARN_SANITIZED
     constexpr unsigned Jobs = 20;
+    constexpr int MostFills = 6;
 #else
     constexpr unsigned Jobs = 200;
+    constexpr int MostFills = 7;
 #endif
     for (unsigned seed = 1; seed <= Jobs * testing::JobsFactor(); ++seed) {
         std::mt19937 random(seed);
-        const ImproveJob job = FewFills(random);
+        const ImproveJob job = FewFills(random, MostFills);
         SCOPED_TRACE(std::to_string(seed) + ": " + testing::Describe(job));
         ASSERT_EQ(LeastByDeciding(job), testing::LeastLength::Of(job));
     }

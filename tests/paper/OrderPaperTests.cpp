@@ -98,26 +98,25 @@ class PaperRoll {
     PaperRoll(Long width, Long length)
         : width_(width)
         , length_(length)
-        , isCut_(static_cast<std::size_t>(width) * static_cast<std::size_t>(length)) {}
+        , paper_(static_cast<std::size_t>(width * length), 'p') {}
 
     void Cut(const ReadCut& cut) {
         ASSERT_TRUE(cut.Across >= 0 && cut.Across + cut.Width <= width_ && cut.From >= 0 &&
                     cut.To <= length_ && cut.To - cut.From == cut.Length)
             << cut.Label.toStdString();
         for (Long y = cut.From; y < cut.To; ++y) {
-            for (Long x = cut.Across; x < cut.Across + cut.Width; ++x) {
-                const auto at = static_cast<std::size_t>(y) * static_cast<std::size_t>(width_) +
-                                static_cast<std::size_t>(x);
-                ASSERT_FALSE(isCut_[at]) << cut.Label.toStdString() << " is gone already";
-                isCut_[at] = true;
-            }
+            const auto begin = paper_.begin() + y * width_ + cut.Across;
+            const auto end = begin + cut.Width;
+            ASSERT_EQ(std::find(begin, end, '\0'), end)
+                << cut.Label.toStdString() << " is gone already";
+            std::fill(begin, end, '\0');
         }
     }
 
   private:
     Long width_;
     Long length_;
-    std::vector<bool> isCut_;
+    std::string paper_; ///< a letter for each unit that is there, row by row
 };
 
 /// Cut all that the document lists from a roll of the order's length; each piece of the order is

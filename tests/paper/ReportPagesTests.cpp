@@ -11,7 +11,7 @@ namespace {
 using testing::ReportOf;
 
 constexpr std::size_t Columns = 111;
-constexpr std::size_t Lines = 41;
+constexpr std::size_t LinesAPage = 41;
 
 std::string WithoutBlanksAtTheEnd(std::string line) {
     line.resize(line.find_last_not_of(' ') + 1);
@@ -45,7 +45,7 @@ std::string Ink(const std::string& text) {
 
 TEST(ReportPages, AShortReportIsOnePageBelowAnEmptyLine) {
     const EnteredDataReport report = ReportOf(5);
-    const auto pages = ReportPages(report, Columns, Lines);
+    const auto pages = ReportPages(report, Columns, LinesAPage);
     ASSERT_EQ(pages.size(), 1U);
     std::vector<std::string> expected{""};
     for (const ReportLine& line : report.Lines) {
@@ -55,20 +55,20 @@ TEST(ReportPages, AShortReportIsOnePageBelowAnEmptyLine) {
 }
 
 TEST(ReportPages, NoRoomsMakeOnePageOfHeading) {
-    const auto pages = ReportPages(ReportOf(0), Columns, Lines);
+    const auto pages = ReportPages(ReportOf(0), Columns, LinesAPage);
     ASSERT_EQ(pages.size(), 1U);
     EXPECT_EQ(pages[0].size(), 10U);
 }
 
 TEST(ReportPages, APageThatIsExactlyFullHasNoEmptyOneBehind) {
-    EXPECT_EQ(ReportPages(ReportOf(31), Columns, Lines).size(), 1U);
-    EXPECT_EQ(ReportPages(ReportOf(32), Columns, Lines).size(), 2U);
+    EXPECT_EQ(ReportPages(ReportOf(31), Columns, LinesAPage).size(), 1U);
+    EXPECT_EQ(ReportPages(ReportOf(32), Columns, LinesAPage).size(), 2U);
 }
 
 TEST(ReportPages, FurtherPagesBeginWithTheHeadsOfTheColumnsAndEveryRowIsThereOnce) {
     const EnteredDataReport report = ReportOf(501, Units::Metric);
     const std::vector<std::string> lines = TextsOf(report.Lines);
-    const auto pages = ReportPages(report, Columns, Lines);
+    const auto pages = ReportPages(report, Columns, LinesAPage);
     ASSERT_EQ(pages.size(), 1U + (501 - 31 + 37) / 38);
     std::size_t row = ReportHeadingLines;
     for (std::size_t page = 0; page < pages.size(); ++page) {
@@ -79,7 +79,7 @@ TEST(ReportPages, FurtherPagesBeginWithTheHeadsOfTheColumnsAndEveryRowIsThereOnc
                 EXPECT_EQ(pages[page][head].Text, lines[6 + head]);
             }
         }
-        EXPECT_LE(pages[page].size(), Lines);
+        EXPECT_LE(pages[page].size(), LinesAPage);
         for (std::size_t i = first; i < pages[page].size(); ++i) {
             ASSERT_LT(row, lines.size());
             EXPECT_EQ(pages[page][i].Text, WithoutBlanksAtTheEnd(lines[row++]));
@@ -96,7 +96,7 @@ TEST(ReportPages, ALongRemarkGoesOnBelowItselfBrokenBehindABlank) {
     const EnteredDataReport report = ReportWith("12", remark);
     // With every number of columns, so that a blank falls behind the last one too.
     for (std::size_t columns = 100; columns < 120; ++columns) {
-        const auto pages = ReportPages(report, columns, Lines);
+        const auto pages = ReportPages(report, columns, LinesAPage);
         ASSERT_EQ(pages.size(), 1U);
         const PaperPage& page = pages[0];
         const std::size_t column = page[10].Text.find("word1");
@@ -115,16 +115,16 @@ TEST(ReportPages, ALongRemarkGoesOnBelowItselfBrokenBehindABlank) {
 
 TEST(ReportPages, WordsThatFillTheLineToItsLastColumnStayOnIt) {
     const EnteredDataReport report = ReportWith("12", "first second third");
-    const std::size_t column = ReportPages(report, Columns, Lines)[0][10].Remark;
+    const std::size_t column = ReportPages(report, Columns, LinesAPage)[0][10].Remark;
     const std::size_t columns = column + std::string("first second").size();
-    const PaperPage page = ReportPages(report, columns, Lines)[0];
+    const PaperPage page = ReportPages(report, columns, LinesAPage)[0];
     EXPECT_EQ(page[10].Text.substr(column), "first second");
     EXPECT_EQ(page[11].Text.substr(page[11].Remark), "third");
 }
 
 TEST(ReportPages, ARemarkWithoutABlankIsBrokenWhereTheLineEnds) {
     const std::string remark(255, 'x');
-    const auto pages = ReportPages(ReportWith("12", remark), Columns, Lines);
+    const auto pages = ReportPages(ReportWith("12", remark), Columns, LinesAPage);
     const PaperPage& page = pages[0];
     EXPECT_EQ(page[10].Text.size(), Columns);
     std::string joined;
@@ -165,9 +165,9 @@ TEST(ReportPages, NoInkIsLostWhateverTheNumbersOfColumnsAndLines) {
 TEST(ReportPages, ARowStaysWithItsContinuationOnOnePage) {
     EnteredDataReport report = ReportOf(30); // 40 lines with the empty one: one is left on the page
     report.Lines.push_back(ReportWith("", std::string(60, 'x')).Lines.back());
-    const auto pages = ReportPages(report, Columns, Lines);
+    const auto pages = ReportPages(report, Columns, LinesAPage);
     ASSERT_EQ(pages.size(), 2U);
-    EXPECT_EQ(pages[0].size(), Lines - 1);
+    EXPECT_EQ(pages[0].size(), LinesAPage - 1);
     EXPECT_EQ(pages[1].size(), ReportColumnHeadLines + 2);
 }
 
@@ -182,7 +182,7 @@ TEST(ReportPages, WhateverTheRoomNumberIsTheRemarkGoesOnBelowItself) {
                 Project project;
                 project.Rooms = {{150, 168, 0, base, number, remark}};
                 const PaperPage page =
-                    ReportPages(MakeReport(project, units, ""), Columns, Lines)[0];
+                    ReportPages(MakeReport(project, units, ""), Columns, LinesAPage)[0];
                 const std::size_t column = page[10].Text.find("word10");
                 SCOPED_TRACE(page[10].Text);
                 EXPECT_EQ(page[10].Remark, column);
@@ -199,7 +199,8 @@ TEST(ReportPages, WhateverTheRoomNumberIsTheRemarkGoesOnBelowItself) {
 
 TEST(ReportPages, ARoomNumberIsNotTakenForWords) {
     // The last blank of the line stands inside the room number.
-    const PaperPage page = ReportPages(ReportWith("A B", std::string(60, 'x')), Columns, Lines)[0];
+    const PaperPage page =
+        ReportPages(ReportWith("A B", std::string(60, 'x')), Columns, LinesAPage)[0];
     EXPECT_NE(page[10].Text.find("A B      xxx"), std::string::npos) << page[10].Text;
     EXPECT_EQ(page[10].Text.size(), Columns);
 }
@@ -227,7 +228,7 @@ TEST(ReportPages, AnAccentStaysWithItsLetter) {
         remark.replace(i, 1, "e\u0301");
         i += 2;
     }
-    const auto pages = ReportPages(ReportWith("1", remark), Columns, Lines);
+    const auto pages = ReportPages(ReportWith("1", remark), Columns, LinesAPage);
     for (std::size_t i = 11; i < pages[0].size(); ++i) {
         const std::string& text = pages[0][i].Text;
         EXPECT_NE(text.substr(text.find_first_not_of(' '), 2), "\u0301");
@@ -235,7 +236,7 @@ TEST(ReportPages, AnAccentStaysWithItsLetter) {
 }
 
 TEST(ReportPages, LinesWithoutAHeadingAreStillPaged) {
-    const auto pages = ReportPages({{{"one"}, {"two"}}}, Columns, Lines);
+    const auto pages = ReportPages({{{"one"}, {"two"}}}, Columns, LinesAPage);
     ASSERT_EQ(pages.size(), 1U);
     EXPECT_EQ(TextsOf(pages[0]), (std::vector<std::string>{"", "one", "two"}));
 }

@@ -7,16 +7,16 @@
 namespace tarn {
 namespace {
 
-constexpr std::array Captions{"CARPET-1", "CARPET-2", "CARPET-3", "CARPET-4",
-                              "CARPET-5", "CARPET-6", "CARPET-7", "CARPET-8",
-                              "TILE-1",   "TILE-2",   "TILE-3",   "TILE-4"};
+constexpr std::array CoveringCaptions{"CARPET-1", "CARPET-2", "CARPET-3", "CARPET-4",
+                                      "CARPET-5", "CARPET-6", "CARPET-7", "CARPET-8",
+                                      "TILE-1",   "TILE-2",   "TILE-3",   "TILE-4"};
 constexpr std::array ReportTexts{"C1", "C2", "C3", "C4", "C5", "C6",
                                  "C7", "C8", "T1", "T2", "T3", "T4"};
 
 TEST(Coverings, HaveTheirCaptionsAndReportTextsForEveryCode) {
-    ASSERT_EQ(Captions.size(), static_cast<std::size_t>(LastTileCode) + 1);
-    for (std::size_t code = 0; code < Captions.size(); ++code) {
-        EXPECT_EQ(CoveringCaption(static_cast<Byte>(code)), Captions[code]);
+    ASSERT_EQ(CoveringCaptions.size(), static_cast<std::size_t>(LastTileCode) + 1);
+    for (std::size_t code = 0; code < CoveringCaptions.size(); ++code) {
+        EXPECT_EQ(CoveringCaption(static_cast<Byte>(code)), CoveringCaptions[code]);
         EXPECT_EQ(CoveringReportText(static_cast<Byte>(code)), ReportTexts[code]);
     }
 }
@@ -45,8 +45,8 @@ TEST(Coverings, StandBehindTheNameOfTheProjectInATitle) {
 }
 
 TEST(ReadCovering, ReadsEveryCaptionAndReportText) {
-    for (std::size_t code = 0; code < Captions.size(); ++code) {
-        EXPECT_EQ(ReadCovering(Captions[code]), code);
+    for (std::size_t code = 0; code < CoveringCaptions.size(); ++code) {
+        EXPECT_EQ(ReadCovering(CoveringCaptions[code]), code);
         EXPECT_EQ(ReadCovering(ReportTexts[code]), code);
     }
 }

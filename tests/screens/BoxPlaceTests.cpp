@@ -20,10 +20,10 @@ namespace {
 
 using namespace tarn::testing;
 
-constexpr QRect Screen(0, 0, 800, 600);
+constexpr QRect Display(0, 0, 800, 600);
 
 QRect PlacedAt(const QRect& box, const QRect& field) {
-    return {BoxPlace(box, Screen, field), box.size()};
+    return {BoxPlace(box, Display, field), box.size()};
 }
 
 //    +--------------------+
@@ -53,13 +53,13 @@ TEST(BoxPlace, GoesTheShortestWayBesideTheField) {
 TEST(BoxPlace, CoversNoFieldWhereverItIsAndStaysOnTheScreen) {
     for (const QSize& size : {QSize(300, 150), QSize(420, 240), QSize(700, 250)}) {
         QRect box({}, size);
-        box.moveCenter(Screen.center());
+        box.moveCenter(Display.center());
         for (int x = 0; x + 80 <= 800; x += 16) {
             for (int y = 0; y + 24 <= 600; y += 8) {
                 const QRect field(x, y, 80, 24);
                 const QRect placed = PlacedAt(box, field);
                 ASSERT_FALSE(placed.intersects(field)) << x << " " << y;
-                ASSERT_TRUE(Screen.contains(placed)) << x << " " << y;
+                ASSERT_TRUE(Display.contains(placed)) << x << " " << y;
             }
         }
     }
@@ -67,7 +67,7 @@ TEST(BoxPlace, CoversNoFieldWhereverItIsAndStaysOnTheScreen) {
 
 TEST(BoxPlace, CoversTheLeastWhereThereIsNoRoom) {
     const QRect placed = PlacedAt(QRect(100, 50, 600, 500), QRect(150, 280, 500, 40));
-    EXPECT_TRUE(Screen.contains(placed));
+    EXPECT_TRUE(Display.contains(placed));
     EXPECT_EQ(placed.topLeft(), QPoint(200, 50)) << "50 pixels of the field are seen";
 }
 

@@ -66,11 +66,10 @@ TEST_F(ReplacedFile, IsReadAndChangedByEveryAction) {
                                 "', 0)");
         fs::rename(other_, file_.Path());
     };
-    using Pairs = std::vector<std::pair<std::string, std::string>>;
     replaceBy("A");
     EXPECT_EQ(store_.Directories(), Lines{"A"});
     replaceBy("B");
-    EXPECT_EQ(store_.AllProjects(), (Pairs{{"B", "P OF B"}}));
+    EXPECT_EQ(store_.AllProjects(), (decltype(store_.AllProjects()){{"B", "P OF B"}}));
     replaceBy("C");
     EXPECT_EQ(store_.DirectoryOf("P OF C"), "C");
     replaceBy("D");

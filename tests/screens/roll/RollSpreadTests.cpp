@@ -66,7 +66,7 @@ TEST(RollSpread, RowsFollowEachOtherAndFitTheArea) {
     const auto between = [&](int least, int most) {
         return least + static_cast<int>(random() % static_cast<unsigned>(most - least + 1));
     };
-    for (int i = 0; i < 400; ++i) {
+    for (int i = 0; i < 100; ++i) {
         SCOPED_TRACE(i);
         RollChart chart;
         chart.RollWidth = between(60, 200);

@@ -127,8 +127,8 @@ TEST_F(ReportOfRooms, HasNoButtonWhereTheEntryHasOne) {
     AddRooms(1);
     Open();
     std::vector<QSize> sizes{{960, 524}};
-    for (int width = 800; width <= 1920; width += 80) {
-        for (int height = 584; height <= 1064; height += 20) {
+    for (int width = 800; width <= 1920; width += 160) {
+        for (int height = 584; height <= 1064; height += 48) {
             sizes.emplace_back(width, height);
         }
     }
