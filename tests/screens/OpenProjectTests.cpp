@@ -7,11 +7,7 @@
 namespace tarn {
 namespace {
 
-using testing::RawDatabase;
-using testing::ShortWait;
-using testing::TestDatabase;
-
-using Lines = std::vector<std::string>;
+using namespace tarn::testing;
 
 struct OpenProjects : ::testing::Test {
     OpenProjects() {

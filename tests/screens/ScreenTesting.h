@@ -11,6 +11,7 @@
 #include "screens/Session.h"
 
 #include <QApplication>
+#include <QPushButton>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QWidget>
@@ -203,6 +204,21 @@ struct ScreenTest : ::testing::Test {
                     history,
                     [] { return QDate(2026, 3, 14); },
                     [this](const std::string& note) { notes.push_back(note); }};
+};
+
+/// A session with one screen, once a test has made it.
+template <class Form>
+struct FormTest : ScreenTest {
+    template <class W = QWidget>
+    W& Control(const char* name) const {
+        return Find<W>(*form, name);
+    }
+    QPushButton& Button(const char* name) const { return Control<QPushButton>(name); }
+
+    std::unique_ptr<Form> form;
+
+  protected:
+    void TearDown() override { form.reset(); } // before what a test has given it
 };
 
 } // namespace tarn::testing

@@ -12,7 +12,6 @@
 #include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPushButton>
 #include <QRadioButton>
 
 #include <gtest/gtest.h>
@@ -25,7 +24,7 @@
 namespace tarn::testing {
 
 /// An estimate screen on a project of some rooms.
-struct EstimateScreenTest : ScreenTest {
+struct EstimateScreenTest : FormTest<EstimateScreen> {
     EstimateScreenTest() { open.Now.Name = "MAPLE STREET 9"; }
 
     void Add(const Sized& room) { open.Now.Rooms.push_back(room.AsRoom()); }
@@ -38,12 +37,7 @@ struct EstimateScreenTest : ScreenTest {
         ShowOnDisplay(*form);
     }
 
-    template <class W = QWidget>
-    W& Control(const char* name) {
-        return Find<W>(*form, name);
-    }
     QRadioButton& Option(const char* name) { return Control<QRadioButton>(name); }
-    QPushButton& Button(const char* name) { return Control<QPushButton>(name); }
     QLineEdit& Box(const char* name) { return Control<QLineEdit>(name); }
     QWidget& Panel() { return Control(Controls::choicePanel); }
     PictureBox& Picture() {
@@ -122,7 +116,6 @@ struct EstimateScreenTest : ScreenTest {
                                      ImproveObserver&) {
         return ImprovedEstimate{estimate, {}};
     };
-    std::unique_ptr<EstimateScreen> form;
 };
 
 } // namespace tarn::testing

@@ -41,7 +41,7 @@ struct FakeClient : EstimateClient {
 };
 
 /// The options for the first carpet on the 12 ft roll.
-struct OptionsScreens : ScreenTest {
+struct OptionsScreens : FormTest<OptionsScreen> {
     /// Rooms narrower than the roll: each is one fill.
     void AddFills(int count) {
         for (int i = 0; i < count; ++i) {
@@ -59,13 +59,12 @@ struct OptionsScreens : ScreenTest {
         ShowOnDisplay(*form);
         return *form;
     }
-    QRadioButton& Option(const char* name) const { return Find<QRadioButton>(*form, name); }
-    QPushButton& Continue() const { return Find<QPushButton>(*form, Controls::layOutFills); }
-    QProgressBar& Bar() const { return Find<QProgressBar>(*form, Controls::searchProgress); }
-    QLabel& Percentage() const { return Find<QLabel>(*form, Controls::searchPercentage); }
+    QRadioButton& Option(const char* name) const { return Control<QRadioButton>(name); }
+    QPushButton& Continue() const { return Button(Controls::layOutFills); }
+    QProgressBar& Bar() const { return Control<QProgressBar>(Controls::searchProgress); }
+    QLabel& Percentage() const { return Control<QLabel>(Controls::searchPercentage); }
 
     FakeClient client;
-    std::unique_ptr<OptionsScreen> form;
 };
 
 TEST_F(OptionsScreens, TakesQuickKeys) {
@@ -90,7 +89,7 @@ TEST_F(OptionsScreens, HasItsTitlesAndCaptions) {
         {Controls::piecesHeading, "MAXIMUM NUMBER OF PIECES PER FILL"},
         {Controls::piecesSelect, "SELECT"}};
     for (const auto& [name, text] : labels) {
-        EXPECT_EQ(Find<QLabel>(*form, name).text(), QLatin1String(text)) << name;
+        EXPECT_EQ(Control<QLabel>(name).text(), QLatin1String(text)) << name;
     }
     EXPECT_EQ(CaptionOf(Option(Controls::minCuts[0])), QStringLiteral("3 FT"));
     EXPECT_EQ(CaptionOf(Option(Controls::minCuts[1])), QStringLiteral("1FT 6\""));

@@ -1,17 +1,13 @@
 // What the menu offers to take back, and how it changes the units.
 
-#include "screens/ControlNames.h"
 #include "screens/Controls.h"
 #include "screens/Display.h"
-#include "screens/ScreenTesting.h"
-#include "screens/menu/MenuScreen.h"
-#include "store/TestDatabase.h"
+#include "screens/menu/MenuTesting.h"
 
 #include <QCheckBox>
 #include <QFile>
 #include <QLabel>
 #include <QMenu>
-#include <QPushButton>
 #include <QTimer>
 
 namespace tarn {
@@ -19,19 +15,7 @@ namespace {
 
 using namespace tarn::testing;
 
-using Lines = std::vector<std::string>;
-
-struct MenuDrafts : ScreenTest {
-    MenuDrafts() {
-        file.AddProject("MARCH", "P", 5, 3);
-        store = file.Open(ShortWait);
-        open.Now.Name = "P";
-    }
-    void Load(MenuEntry entry = MenuEntry::ExistingProject) {
-        menu = std::make_unique<MenuScreen>(session, entry);
-        ShowOnDisplay(*menu);
-        QCoreApplication::processEvents(); // the message of the load
-    }
+struct MenuDrafts : MenuTest {
     /// Another run leaves a draft of one room, written so many minutes before 14:05 local time.
     void LeaveDraft(Integer width, int minutesBefore, Units enteredIn = Units::Imperial) {
         Draft draft;
@@ -44,16 +28,8 @@ struct MenuDrafts : ScreenTest {
         other.Write(other.NewFile("P"), "P", draft,
                     written.addSecs(qint64{-60} * minutesBefore).toUTC());
     }
-    QPushButton& Button(const char* name) const { return Find<QPushButton>(*menu, name); }
-    bool Shows(const char* name) const { return Find(*menu, name).isVisible(); }
-    QRect PlaceOf(const char* name) const {
-        const QWidget& widget = Find(*menu, name);
-        return {widget.mapTo(menu.get(), QPoint(0, 0)), widget.size()};
-    }
 
-    TestDatabase file;
     Drafts other = NewRun();
-    std::unique_ptr<MenuScreen> menu;
 };
 
 TEST_F(MenuDrafts, AreNotOfferedWhenThereAreNone) {
@@ -72,7 +48,7 @@ TEST_F(MenuDrafts, ThatCannotBeWrittenSayWhy) {
     Load(MenuEntry::Returning);
     EXPECT_TRUE(Shows(Controls::notSaved));
     EXPECT_TRUE(Shows(Controls::notKept)) << "BACKWARD and the exit would lose the rooms";
-    const auto& label = Find<QLabel>(*menu, Controls::notKept);
+    const auto& label = Control<QLabel>(Controls::notKept);
     EXPECT_TRUE(label.text().startsWith(QStringLiteral("NOT KEPT: ")))
         << label.text().toStdString();
     QFile::remove(state.filePath(QStringLiteral("tarn")));
@@ -106,7 +82,7 @@ TEST_F(MenuDrafts, AreTakenBackByAPress) {
     ASSERT_EQ(open.Now.Rooms.size(), 1U);
     EXPECT_EQ(open.Now.Rooms[0].Width, 7);
     EXPECT_TRUE(Shows(Controls::notSaved));
-    EXPECT_TRUE(Find<QCheckBox>(*menu, Controls::metric).isChecked()) << "with their units";
+    EXPECT_TRUE(Control<QCheckBox>(Controls::metric).isChecked()) << "with their units";
     EXPECT_EQ(open.Shown, Units::Metric);
     EXPECT_FALSE(Shows(Controls::takeBack));
     EXPECT_TRUE(Button(Controls::enterRooms).hasFocus());
@@ -156,14 +132,14 @@ TEST_F(MenuDrafts, OfAnOrderAloneSaySo) {
     LeaveDraft(7, -5);
     open.Now.Orders.clear();
     Load(MenuEntry::ExistingProject);
-    EXPECT_EQ(FromQt(Find<QMenu>(*menu, Controls::earlierRoomsMenu).actions().at(1)->text()),
+    EXPECT_EQ(FromQt(Control<QMenu>(Controls::earlierRoomsMenu).actions().at(1)->text()),
               "13 Mar 14:05, the choices of an order");
 }
 
 TEST_F(MenuDrafts, AreTakenBackByTheirKey) {
     LeaveDraft(7, 0);
     Load();
-    Press(*menu, Qt::Key_T, Qt::AltModifier);
+    Press(*form, Qt::Key_T, Qt::AltModifier);
     EXPECT_TRUE(QTest::qWaitFor([&] { return open.Now.Rooms.size() == 1; }));
 }
 
@@ -175,7 +151,7 @@ TEST_F(MenuDrafts, OfEarlierStandInAMenu) {
     Leave(typed, 20);
     Load();
     EXPECT_TRUE(Shows(Controls::earlierRooms));
-    auto& earlier = Find<QMenu>(*menu, Controls::earlierRoomsMenu);
+    auto& earlier = Control<QMenu>(Controls::earlierRoomsMenu);
     Lines items;
     for (const QAction* item : earlier.actions()) {
         items.push_back(FromQt(item->text()));
@@ -207,11 +183,11 @@ TEST_F(MenuDrafts, AreReachedByTabBeforeTheWayOn) {
     LeaveDraft(8, 10);
     file.Run("UPDATE MainTab SET EnteredMetric = 1");
     Load();
-    Find(*menu, Controls::metric).setFocus();
+    Control(Controls::metric).setFocus();
     for (const char* name : {Controls::enteredInMetric, Controls::takeBack, Controls::earlierRooms,
                              Controls::enterRooms}) {
-        Press(*menu, Qt::Key_Tab);
-        EXPECT_TRUE(Find(*menu, name).hasFocus()) << name;
+        Press(*form, Qt::Key_Tab);
+        EXPECT_TRUE(Control(name).hasFocus()) << name;
     }
 }
 
@@ -224,7 +200,7 @@ TEST_F(MenuDrafts, StandInTheirPanel) {
     for (const char* name : {Controls::takeBack, Controls::earlierRooms}) {
         EXPECT_TRUE(panel.contains(PlaceOf(name))) << name;
         EXPECT_LT(PlaceOf(name).bottom(), PlaceOf(Controls::enterRooms).top()) << name;
-        EXPECT_GE(Find(*menu, name).width(), Find(*menu, name).sizeHint().width()) << name;
+        EXPECT_GE(Control(name).width(), Control(name).sizeHint().width()) << name;
     }
     EXPECT_FALSE(PlaceOf(Controls::takeBack).intersects(PlaceOf(Controls::earlierRooms)));
 }
@@ -286,7 +262,7 @@ TEST_F(MenuDrafts, OfATypedRoomStayWhenTheRoomsAreSavedAndReloaded) {
 TEST_F(MenuDrafts, AreBesideAButtonThatTicksMetric) {
     file.Run("UPDATE MainTab SET EnteredMetric = 1");
     Load();
-    auto& metric = Find<QCheckBox>(*menu, Controls::metric);
+    auto& metric = Control<QCheckBox>(Controls::metric);
     Click(Button(Controls::enteredInMetric));
     EXPECT_TRUE(metric.isChecked());
     EXPECT_EQ(open.Shown, Units::Metric);
@@ -296,13 +272,13 @@ TEST_F(MenuDrafts, AreBesideAButtonThatTicksMetric) {
 
 TEST_F(MenuDrafts, AreBesideAButtonThatUnticksMetric) {
     Load();
-    auto& metric = Find<QCheckBox>(*menu, Controls::metric);
+    auto& metric = Control<QCheckBox>(Controls::metric);
     Click(metric);
     ASSERT_TRUE(Shows(Controls::enteredInMetric));
     EXPECT_EQ(CaptionOf(Button(Controls::enteredInMetric)), QStringLiteral("ENTERED IN FEET"));
     EXPECT_EQ(Button(Controls::enteredInMetric).accessibleName(),
               QStringLiteral("ENTERED IN FEET"));
-    Press(*menu, Qt::Key_N, Qt::AltModifier);
+    Press(*form, Qt::Key_N, Qt::AltModifier);
     EXPECT_TRUE(QTest::qWaitFor([&] { return !metric.isChecked(); }));
     EXPECT_EQ(open.Shown, Units::Imperial);
     EXPECT_FALSE(Shows(Controls::enteredInMetric));

@@ -9,9 +9,7 @@
 namespace tarn {
 namespace {
 
-using testing::DatabaseErrorOf;
-using testing::ShortWait;
-using testing::TestDatabase;
+using namespace tarn::testing;
 
 struct MenuLoads : ::testing::Test {
     MenuLoads() {

@@ -1,69 +1,48 @@
 // The menu of the open project.
 
 #include "screens/ControlChecks.h"
-#include "screens/ControlNames.h"
 #include "screens/Controls.h"
 #include "screens/Display.h"
-#include "screens/ScreenTesting.h"
-#include "screens/menu/MenuScreen.h"
-#include "store/TestDatabase.h"
+#include "screens/menu/MenuTesting.h"
 
 #include <QAction>
 #include <QCheckBox>
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
-#include <QPushButton>
 
 namespace tarn {
 namespace {
 
 using namespace tarn::testing;
 
-using Lines = std::vector<std::string>;
-
-struct MenuScreens : ScreenTest {
-    MenuScreens() {
-        file.AddProject("MARCH", "P", 5, 3);
-        file.AddProject("MARCH", "OTHER", 8, 1);
-        store = file.Open(ShortWait);
-        open.Now.Name = "P";
-    }
-    void Load(MenuEntry entry = MenuEntry::ExistingProject) {
-        menu = std::make_unique<MenuScreen>(session, entry);
-        ShowOnDisplay(*menu);
-        QCoreApplication::processEvents(); // the message of the load
-    }
-    QPushButton& Button(const char* name) const { return Find<QPushButton>(*menu, name); }
-    QCheckBox& Metric() const { return Find<QCheckBox>(*menu, Controls::metric); }
-    bool Shows(const char* name) const { return Find(*menu, name).isVisible(); }
-
-    TestDatabase file;
-    std::unique_ptr<MenuScreen> menu;
+struct MenuScreens : MenuTest {
+    MenuScreens() { file.AddProject("MARCH", "OTHER", 8, 1); }
+    QCheckBox& Metric() const { return Control<QCheckBox>(Controls::metric); }
 };
 
 TEST_F(MenuScreens, CarryTheirCaptions) {
     Load();
-    EXPECT_EQ(Find<QLabel>(*menu, Controls::productTitle).text(), QStringLiteral("SOLVANE 2040"));
-    EXPECT_EQ(Find<QLabel>(*menu, Controls::formTitle).text(), QStringLiteral("*SOLVANE OPTIONS*"));
-    EXPECT_EQ(menu->Caption(), QStringLiteral("SOLVANE OPTIONS"));
-    EXPECT_EQ(Find<QLabel>(*menu, Controls::menuHeading).text(), QStringLiteral("OPERATION MENU"));
+    EXPECT_EQ(Control<QLabel>(Controls::productTitle).text(), QStringLiteral("SOLVANE 2040"));
+    EXPECT_EQ(Control<QLabel>(Controls::formTitle).text(), QStringLiteral("*SOLVANE OPTIONS*"));
+    EXPECT_EQ(form->Caption(), QStringLiteral("SOLVANE OPTIONS"));
+    EXPECT_EQ(Control<QLabel>(Controls::menuHeading).text(), QStringLiteral("OPERATION MENU"));
     EXPECT_EQ(CaptionOf(Metric()), QStringLiteral("Metric"));
     EXPECT_EQ(Metric().accessibleName(), QStringLiteral("Metric"));
     EXPECT_EQ(CaptionOf(Button(Controls::enterRooms)), QStringLiteral("ENTER/EDIT DATA"));
     EXPECT_EQ(CaptionOf(Button(Controls::backToProjects)), QStringLiteral("BACKWARD"));
     EXPECT_EQ(CaptionOf(Button(Controls::estimateFromMenu)), QStringLiteral("ESTIMATE"));
-    EXPECT_EQ(Find<QAction>(*menu, Controls::exitFromMenu).text(), QStringLiteral("E&xit"));
+    EXPECT_EQ(Control<QAction>(Controls::exitFromMenu).text(), QStringLiteral("E&xit"));
 }
 
 TEST_F(MenuScreens, UseEachNameAndMnemonicOnce) {
     Load();
-    ExpectNamesAndMnemonicsOnce(*menu, 7);
+    ExpectNamesAndMnemonicsOnce(*form, 7);
 }
 
 TEST_F(MenuScreens, ChooseTheLanguageOfTheNextStart) {
     Load();
-    const QList<QAction*> languages = Find<QMenu>(*menu, Controls::languageMenu).actions();
+    const QList<QAction*> languages = Control<QMenu>(Controls::languageMenu).actions();
     ASSERT_EQ(languages.size(), 3);
     EXPECT_EQ(languages[0]->text(), QStringLiteral("English"));
     EXPECT_TRUE(languages[0]->isChecked());
@@ -78,22 +57,22 @@ TEST_F(MenuScreens, ChooseTheLanguageOfTheNextStart) {
     EXPECT_EQ(CaptionOf(Button(Controls::backToProjects)), QStringLiteral("BACKWARD"))
         << "in this run all stays as it is";
     Load(MenuEntry::Returning);
-    EXPECT_TRUE(Find<QMenu>(*menu, Controls::languageMenu).actions()[1]->isChecked());
+    EXPECT_TRUE(Control<QMenu>(Controls::languageMenu).actions()[1]->isChecked());
 }
 
 TEST_F(MenuScreens, LeadToTheGuideAndToWhatTheProgramIs) {
     Load();
-    Find<QAction>(*menu, Controls::helpGuide).trigger();
-    Find<QAction>(*menu, Controls::helpAbout).trigger();
+    Control<QAction>(Controls::helpGuide).trigger();
+    Control<QAction>(Controls::helpAbout).trigger();
     EXPECT_EQ(screens.Calls, (std::vector<std::string>{"guide the-menu", "about"}));
 }
 
 TEST_F(MenuScreens, StandInTheMiddleWithTheTitlesAbove) {
     Load();
-    const QRect frame = Find(*menu, Controls::menuPanel).geometry();
+    const QRect frame = Control(Controls::menuPanel).geometry();
     EXPECT_NEAR(frame.center().x(), 400, 1);
-    EXPECT_EQ(frame.top() - Find(*menu, Controls::productTitle).geometry().top(), Pixels(1700));
-    EXPECT_EQ(frame.top() - Find(*menu, Controls::formTitle).geometry().top(), Pixels(800));
+    EXPECT_EQ(frame.top() - Control(Controls::productTitle).geometry().top(), Pixels(1700));
+    EXPECT_EQ(frame.top() - Control(Controls::formTitle).geometry().top(), Pixels(800));
 }
 
 TEST_F(MenuScreens, LoadTheProjectUnticked) {
@@ -126,7 +105,7 @@ TEST_F(MenuScreens, SayFromTheirLoadOnThatAllRoomsAreTiles) {
     file.Run("UPDATE InputData SET CTType = 8");
     Load();
     EXPECT_TRUE(Shows(Controls::tilesOnly));
-    EXPECT_EQ(Find<QLabel>(*menu, Controls::tilesOnly).text(), QStringLiteral("TILES ONLY"));
+    EXPECT_EQ(Control<QLabel>(Controls::tilesOnly).text(), QStringLiteral("TILES ONLY"));
     EXPECT_TRUE(Button(Controls::estimateFromMenu).isEnabled());
     Click(Button(Controls::estimateFromMenu));
     EXPECT_TRUE(screens.Calls.empty()) << "as before";
@@ -141,7 +120,7 @@ TEST_F(MenuScreens, SetTheUnitsByTheCheckBox) {
     EXPECT_EQ(open.Shown, Units::Metric);
     Click(Metric());
     EXPECT_EQ(open.Shown, Units::Imperial);
-    Press(*menu, Qt::Key_M, Qt::AltModifier);
+    Press(*form, Qt::Key_M, Qt::AltModifier);
     EXPECT_TRUE(QTest::qWaitFor([&] { return open.Shown == Units::Metric; }));
     EXPECT_EQ(open.Now.Rooms.at(2).Width, 102) << "nothing else changes";
 }
@@ -167,12 +146,8 @@ TEST_F(MenuScreens, SayItBesideTheCheckBoxAlsoOfChangedRooms) {
     Load(MenuEntry::Returning);
     EXPECT_TRUE(Shows(Controls::notSaved));
     ASSERT_TRUE(Shows(Controls::enteredInMetric));
-    const auto placeOf = [this](const char* name) {
-        const QWidget& widget = Find(*menu, name);
-        return QRect(widget.mapTo(menu.get(), QPoint(0, 0)), widget.size());
-    };
-    const QRect label = placeOf(Controls::enteredInMetric);
-    const QRect box = placeOf(Controls::metric);
+    const QRect label = PlaceOf(Controls::enteredInMetric);
+    const QRect box = PlaceOf(Controls::metric);
     EXPECT_GT(label.left(), box.right());
     EXPECT_LT(label.left() - box.right(), Pixels(600));
     EXPECT_NEAR(label.center().y(), box.center().y(), 3);
@@ -212,9 +187,9 @@ TEST_F(MenuScreens, KeepUnsavedRoomsThatComeBack) {
     store = ProjectStore();
     Load(MenuEntry::Returning);
     EXPECT_TRUE(Shows(Controls::notSaved));
-    EXPECT_EQ(Find<QLabel>(*menu, Controls::notSaved).text(), QStringLiteral("NOT SAVED"));
-    EXPECT_GT(Find(*menu, Controls::notSaved).geometry().top(),
-              Find(*menu, Controls::menuHeading).geometry().top());
+    EXPECT_EQ(Control<QLabel>(Controls::notSaved).text(), QStringLiteral("NOT SAVED"));
+    EXPECT_GT(Control(Controls::notSaved).geometry().top(),
+              Control(Controls::menuHeading).geometry().top());
     EXPECT_EQ(open.Now.Rooms.at(0).Width, 7);
     EXPECT_FALSE(Metric().isChecked());
     EXPECT_FALSE(Button(Controls::estimateFromMenu).isVisible()) << "as the buttons stood";
@@ -302,24 +277,24 @@ TEST_F(MenuScreens, StaySilentlyWithoutACarpet) {
     EXPECT_TRUE(boxes.Messages.empty());
     EXPECT_EQ(open.Shown, Units::Metric) << "the tick stays";
     EXPECT_TRUE(Metric().isChecked());
-    EXPECT_TRUE(menu->isEnabled());
+    EXPECT_TRUE(form->isEnabled());
 }
 
 TEST_F(MenuScreens, EndTheProgramByTheMenuTheKeyAndTheFrame) {
     Load();
     open.Now.Rooms.at(0).Width = 7;
-    auto* bar = menu->findChild<QMenuBar*>();
+    auto* bar = form->findChild<QMenuBar*>();
     ASSERT_NE(bar, nullptr);
     QTest::mouseClick(bar, Qt::LeftButton, {},
-                      bar->actionGeometry(&Find<QAction>(*menu, Controls::exitFromMenu)).center());
+                      bar->actionGeometry(&Control<QAction>(Controls::exitFromMenu)).center());
     EXPECT_EQ(screens.Calls, Lines{"end"});
-    Press(*menu, Qt::Key_X, Qt::AltModifier);
+    Press(*form, Qt::Key_X, Qt::AltModifier);
     EXPECT_TRUE(QTest::qWaitFor([&] { return screens.Calls.size() == 2; }));
-    menu->CloseByFrame();
+    form->CloseByFrame();
     EXPECT_EQ(screens.Calls, (Lines{"end", "end", "end"}));
     EXPECT_TRUE(boxes.Questions.empty());
-    menu->setEnabled(false);
-    menu->CloseByFrame();
+    form->setEnabled(false);
+    form->CloseByFrame();
     EXPECT_EQ(screens.Calls.size(), 3U);
     EXPECT_EQ(file.Rows("SELECT RoomW FROM InputData WHERE TabIndex = 5 ORDER BY ObjNum"),
               (Lines{"100", "101", "102"}))
@@ -355,8 +330,8 @@ TEST_F(MenuScreens, AreReachedByTabInTheirOrder) {
     Load();
     for (const char* name : {Controls::estimateFromMenu, Controls::backToProjects, Controls::metric,
                              Controls::enterRooms}) {
-        Press(*menu, Qt::Key_Tab);
-        EXPECT_TRUE(Find(*menu, name).hasFocus()) << name;
+        Press(*form, Qt::Key_Tab);
+        EXPECT_TRUE(Control(name).hasFocus()) << name;
     }
 }
 

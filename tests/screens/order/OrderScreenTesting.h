@@ -12,7 +12,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
-#include <QPushButton>
 #include <QTabBar>
 #include <QTableWidget>
 
@@ -27,7 +26,7 @@ namespace tarn::testing {
 
 /// An order screen on a project of some rooms. What is asked for takes no time unless a test says
 /// otherwise: each row then has its first layout.
-struct OrderScreenTest : ScreenTest {
+struct OrderScreenTest : FormTest<OrderScreen> {
     OrderScreenTest() { open.Now.Name = open.Saved.Name = "MAPLE STREET 9"; }
 
     void Add(Integer width, Integer length, Byte covering = 0) {
@@ -81,11 +80,6 @@ struct OrderScreenTest : ScreenTest {
         WaitUntil([this] { return Table().rowCount() == 1; });
     }
 
-    template <class W = QWidget>
-    W& Control(const char* name) {
-        return Find<W>(*form, name);
-    }
-    QPushButton& Button(const char* name) { return Control<QPushButton>(name); }
     QLineEdit& Field(const char* name) { return Control<QLineEdit>(name); }
     QTableWidget& Table() { return Control<QTableWidget>(Controls::comparison); }
     QTableWidget& Rolls() { return Control<QTableWidget>(Controls::orderRolls); }
@@ -142,8 +136,6 @@ struct OrderScreenTest : ScreenTest {
         QTest::keyClick(&TypeRoll(row, column, text), Qt::Key_Return);
         QCoreApplication::processEvents(); // the field is left by the event loop
     }
-
-    std::unique_ptr<OrderScreen> form;
 };
 
 inline constexpr const char* OutOfDateText =

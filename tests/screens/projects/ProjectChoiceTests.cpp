@@ -10,12 +10,8 @@
 namespace tarn {
 namespace {
 
-using testing::DatabaseErrorOf;
-using testing::RawDatabase;
-using testing::ShortWait;
-using testing::TestDatabase;
+using namespace tarn::testing;
 
-using Lines = std::vector<std::string>;
 using Outcome = ChoiceResult::Outcome;
 
 struct ProjectChoices : ::testing::Test {

@@ -11,14 +11,11 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QPushButton>
 
 namespace tarn::testing {
 
-using Lines = std::vector<std::string>;
-
 /// The day of the session's Today is in March.
-struct ProjectScreenTest : ScreenTest {
+struct ProjectScreenTest : FormTest<ProjectScreen> {
     ProjectScreenTest() {
         file.AddDirectory("HOUSES");
         file.AddDirectory("SHOPS");
@@ -39,16 +36,15 @@ struct ProjectScreenTest : ScreenTest {
     void Open() {
         Load();
         Click(Button(Controls::selectProject));
-        ASSERT_TRUE(Find(*form, Controls::selectionPanel).isVisible());
+        ASSERT_TRUE(Control(Controls::selectionPanel).isVisible());
     }
 
-    QPushButton& Button(const char* name) const { return Find<QPushButton>(*form, name); }
-    QListWidget& Months() const { return Find<QListWidget>(*form, Controls::months); }
-    QListWidget& Directories() const { return Find<QListWidget>(*form, Controls::directories); }
-    QListWidget& Projects() const { return Find<QListWidget>(*form, Controls::projects); }
-    QLineEdit& Box() const { return Find<QLineEdit>(*form, Controls::projectBox); }
+    QListWidget& Months() const { return Control<QListWidget>(Controls::months); }
+    QListWidget& Directories() const { return Control<QListWidget>(Controls::directories); }
+    QListWidget& Projects() const { return Control<QListWidget>(Controls::projects); }
+    QLineEdit& Box() const { return Control<QLineEdit>(Controls::projectBox); }
     std::string BoxText() const { return FromQt(Box().text()); }
-    std::string Label(const char* name) const { return FromQt(Find<QLabel>(*form, name).text()); }
+    std::string Label(const char* name) const { return FromQt(Control<QLabel>(name).text()); }
 
     static Lines Entries(const QListWidget& list) {
         Lines entries;
@@ -104,7 +100,6 @@ struct ProjectScreenTest : ScreenTest {
     }
 
     TestDatabase file;
-    std::unique_ptr<ProjectScreen> form;
 };
 
 } // namespace tarn::testing

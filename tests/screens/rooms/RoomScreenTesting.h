@@ -11,7 +11,6 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPushButton>
 
 #include <array>
 #include <memory>
@@ -31,7 +30,7 @@ inline constexpr std::array<const char*, 7> TextNames{
 inline constexpr const char* WrongSize = "The Size of room is not correct. Data is not changed";
 
 /// A project of rooms, and the screen on it.
-struct RoomScreenTest : ScreenTest {
+struct RoomScreenTest : FormTest<RoomScreen> {
     RoomScreenTest() { open.Now.Name = "Mill house"; }
 
     /// Room i: 10 ft x 12 ft and i inches more each, covering and base i.
@@ -55,10 +54,10 @@ struct RoomScreenTest : ScreenTest {
     }
 
     QLineEdit& Text(int index) const {
-        return Find<QLineEdit>(*form, TextNames.at(static_cast<std::size_t>(index)));
+        return Control<QLineEdit>(TextNames.at(static_cast<std::size_t>(index)));
     }
-    QComboBox& Covering() const { return Find<QComboBox>(*form, Controls::covering); }
-    std::string Item() const { return FromQt(Find<QLabel>(*form, Controls::itemNumber).text()); }
+    QComboBox& Covering() const { return Control<QComboBox>(Controls::covering); }
+    std::string Item() const { return FromQt(Control<QLabel>(Controls::itemNumber).text()); }
     /// The seven texts.
     Lines Texts() const {
         Lines texts;
@@ -85,9 +84,9 @@ struct RoomScreenTest : ScreenTest {
         Press(*form, Qt::Key_A, Qt::ControlModifier);
         Press(*form, Qt::Key_V, Qt::ControlModifier);
     }
-    void ClickOn(const char* name) const { Click(Find(*form, name)); }
+    void ClickOn(const char* name) const { Click(Control(name)); }
     bool HasFocus(const char* name) const {
-        return QTest::qWaitFor([&] { return Find(*form, name).hasFocus(); }, 1000);
+        return QTest::qWaitFor([&] { return Control(name).hasFocus(); }, 1000);
     }
     /// Choose an item of the File menu with the keyboard.
     void ChooseFileItem(Qt::Key item) const {
@@ -97,8 +96,6 @@ struct RoomScreenTest : ScreenTest {
             QTest::keyClick(menu, item);
         }
     }
-
-    std::unique_ptr<RoomScreen> form;
 };
 
 } // namespace tarn::testing
