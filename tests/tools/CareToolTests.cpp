@@ -4,18 +4,13 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QSqlDatabase>
-#include <QSqlQuery>
 
 #include <sys/stat.h>
 
 namespace tarn {
 namespace {
 
-using testing::S;
-using testing::ToolRun;
-using testing::ToolTest;
-using Args = QStringList;
+using namespace tarn::testing;
 
 constexpr const char* SmithRooms = "width,length,covering\n150,168,C1\n120,96,T2\n";
 
@@ -24,16 +19,6 @@ class CareTool : public ToolTest {
   protected:
     ToolRun On(const char* command, const Args& more = {}) const {
         return Data(Args{S(command), S("--database"), database_} + more);
-    }
-    void Run(const char* statement) const {
-        const QString name = S("independent");
-        {
-            QSqlDatabase connection = QSqlDatabase::addDatabase(S("QSQLITE"), name);
-            connection.setDatabaseName(database_);
-            EXPECT_TRUE(connection.open());
-            EXPECT_TRUE(QSqlQuery(connection).exec(S(statement))) << statement;
-        }
-        QSqlDatabase::removeDatabase(name);
     }
     std::string Listed() const { return On("list").Out.toStdString(); }
     QByteArray DatabaseBytes() const { return Read(S("data/DATA/Tarn.mdb")); }
@@ -48,8 +33,8 @@ class CareTool : public ToolTest {
 };
 
 TEST_F(CareTool, CheckNamesWhatIsOutOfOrderAndChangesNothing) {
-    Run("UPDATE InputData SET RoomW = -5 WHERE ObjNum = 1");
-    Run("DELETE FROM ProjTab");
+    Change(database_, "UPDATE InputData SET RoomW = -5 WHERE ObjNum = 1");
+    Change(database_, "DELETE FROM ProjTab");
     const QByteArray before = DatabaseBytes();
     const ToolRun run = On("check");
     EXPECT_EQ(run.Status, 1);
@@ -78,7 +63,7 @@ TEST_F(CareTool, PipesAndDevicesAreRefusedAtOnce) {
 }
 
 TEST_F(CareTool, RepairWritesACleanCopyAndTellsWhatItChanged) {
-    Run("UPDATE InputData SET RoomW = -5 WHERE ObjNum = 1");
+    Change(database_, "UPDATE InputData SET RoomW = -5 WHERE ObjNum = 1");
     const QByteArray before = DatabaseBytes();
     const QString repaired = Path(S("new/Repaired.mdb"));
     const ToolRun run = On("repair", {S("--to"), repaired});
@@ -122,7 +107,7 @@ TEST_F(CareTool, BackupsAreListedWithTheirProjectsAndWhetherTheyAreSound) {
 TEST_F(CareTool, RestorePutsABackupInPlaceByItsNameAndKeepsWhatWasThere) {
     BackUp("Tarn 2026-11-20 10-00-00.mdb");
     const std::string before = Listed();
-    Run("UPDATE InputData SET RoomW = 99");
+    Change(database_, "UPDATE InputData SET RoomW = 99");
     const std::string changed = Listed();
     ASSERT_NE(before, changed);
     const ToolRun run = On("restore", {S("Tarn 2026-11-20 10-00-00.mdb")});

@@ -15,8 +15,7 @@
 namespace tarn {
 namespace {
 
-using testing::ToolRun;
-using testing::ToolTest;
+using namespace tarn::testing;
 
 QByteArray Document(const char* name) {
     QFile file(QStringLiteral(TARN_SOURCE_DIRECTORY "/") + QString::fromUtf8(name));

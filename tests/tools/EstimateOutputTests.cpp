@@ -13,9 +13,7 @@
 namespace tarn {
 namespace {
 
-using testing::S;
-using testing::ToolRun;
-using testing::ToolTest;
+using namespace tarn::testing;
 
 class EstimateOutput : public ToolTest {
   protected:

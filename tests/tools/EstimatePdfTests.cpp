@@ -6,12 +6,7 @@
 namespace tarn {
 namespace {
 
-using testing::Pdf;
-using testing::PrintServer;
-using testing::QueueSetup;
-using testing::S;
-using testing::ToolRun;
-using testing::ToolTest;
+using namespace tarn::testing;
 
 constexpr const char* TwoRooms = "width,length,covering\n180,144,C1\n108,120,C1\n";
 

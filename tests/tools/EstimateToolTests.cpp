@@ -5,8 +5,6 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QSqlDatabase>
-#include <QSqlQuery>
 #include <QXmlStreamReader>
 
 #include <gmock/gmock.h>
@@ -14,10 +12,7 @@
 namespace tarn {
 namespace {
 
-using testing::S;
-using testing::ToolRun;
-using testing::ToolTest;
-using Args = QStringList;
+using namespace tarn::testing;
 
 /// Arguments from a text with blanks between them.
 Args Words(const char* text) {
@@ -42,24 +37,6 @@ class EstimateTool : public ToolTest {
     Args OfSmith(const QString& database) const {
         return Args{S("--database"), database} +
                Words("--project SMITH --carpet 1 --roll-width 12ft");
-    }
-
-    /// Change a database apart from the programs.
-    void Change(const QString& database, const char* statement) const {
-        const QString name = S("independent");
-        {
-            QSqlDatabase connection = QSqlDatabase::addDatabase(S("QSQLITE"), name);
-            connection.setDatabaseName(database);
-            EXPECT_TRUE(connection.open());
-            EXPECT_TRUE(QSqlQuery(connection).exec(S(statement))) << statement;
-        }
-        QSqlDatabase::removeDatabase(name);
-    }
-
-    void ExpectRefused(const ToolRun& run, const QByteArray& reason) const {
-        EXPECT_EQ(run.Status, 1);
-        EXPECT_TRUE(run.Out.isEmpty()) << run.Out.toStdString();
-        EXPECT_TRUE(run.Error.contains(reason)) << run.Error.toStdString();
     }
 };
 

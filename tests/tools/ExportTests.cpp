@@ -1,19 +1,15 @@
 // What leaves a database as a room file, and what is shown of it on a terminal.
 
 #include "QtString.h"
+#include "store/TestDatabase.h"
 #include "tools/ToolTesting.h"
-
-#include <QSqlDatabase>
-#include <QSqlQuery>
 
 #include <array>
 
 namespace tarn {
 namespace {
 
-using testing::S;
-using testing::ToolRun;
-using testing::ToolTest;
+using namespace tarn::testing;
 
 class Export : public ToolTest {
   protected:
@@ -22,22 +18,6 @@ class Export : public ToolTest {
                                  {S("--directory"), S("TOWN")});
     }
 
-    /// Change the database, apart from the programs.
-    void Change(const char* statement, const QVariantList& values = {}) const {
-        const QString name = S("independent");
-        {
-            QSqlDatabase connection = QSqlDatabase::addDatabase(S("QSQLITE"), name);
-            connection.setDatabaseName(database_);
-            EXPECT_TRUE(connection.open());
-            QSqlQuery query(connection);
-            EXPECT_TRUE(query.prepare(S(statement)));
-            for (const QVariant& value : values) {
-                query.addBindValue(value);
-            }
-            EXPECT_TRUE(query.exec()) << statement;
-        }
-        QSqlDatabase::removeDatabase(name);
-    }
     ToolRun ToFile(const QStringList& more = {}) const {
         return Data(QStringList{S("export"), S("--database"), database_, S("--project"), S("SMITH"),
                                 S("--output"), S("out.csv")} +
@@ -58,13 +38,13 @@ TEST_F(Export, OfRoomsThatNoImportTakesNamesThemAndWritesNothing) {
         EXPECT_TRUE(run.Error.contains(reason)) << run.Error.toStdString();
         EXPECT_FALSE(Exists(S("out.csv")));
     };
-    Change("UPDATE InputData SET RoomW = -5 WHERE ObjNum = 1");
+    Change(database_, "UPDATE InputData SET RoomW = -5 WHERE ObjNum = 1");
     expectRefused("\n  room 2: width \"-5\" is negative\n");
-    Change("UPDATE InputData SET RoomW = 5, CTType = 12 WHERE ObjNum = 1");
+    Change(database_, "UPDATE InputData SET RoomW = 5, CTType = 12 WHERE ObjNum = 1");
     expectRefused("\n  room 2: covering \"TILE-5\" is not a covering");
-    Change("UPDATE InputData SET CTType = 0, RoomNoStr = '123456789' WHERE ObjNum = 1");
+    Change(database_, "UPDATE InputData SET CTType = 0, RoomNoStr = '123456789' WHERE ObjNum = 1");
     expectRefused("\n  room 2: room \"123456789\" has more than 8 characters\n");
-    Change("UPDATE InputData SET RoomNoStr = ''");
+    Change(database_, "UPDATE InputData SET RoomNoStr = ''");
     EXPECT_EQ(ToFile().Status, 0);
 }
 
@@ -81,8 +61,10 @@ TEST_F(Export, IsImportedAgainWhateverTheTexts) {
                   .Status,
               0);
     for (std::size_t i = 0; i < texts.size(); ++i) {
-        Change("UPDATE InputData SET RoomNoStr = ?, RoomRemark = ? WHERE ObjNum = ?",
-               {S(texts.at(i)).left(8), S(texts.at(i)), static_cast<int>(i)});
+        const std::string number = S(texts.at(i)).left(8).toStdString();
+        Change(database_, "UPDATE InputData SET RoomNoStr = " + Literal(number) +
+                              ", RoomRemark = " + Literal(texts.at(i)) +
+                              " WHERE ObjNum = " + std::to_string(i));
     }
     const QByteArray before = Data({S("list"), S("--database"), database_}).Out;
     ASSERT_EQ(ToFile().Status, 0);
@@ -111,11 +93,12 @@ TEST_F(Export, OverADatabaseTakesForceButNeverOverItsOwn) {
 class TerminalControls : public Export {
   protected:
     TerminalControls() {
-        const QString evil = QString(u'\x1B') + S("[2J\r\n\t\u009B31m\u007F");
-        Change("UPDATE InputData SET RoomNoStr = ?, RoomRemark = ?", {evil, evil});
-        Change("UPDATE ProjTab SET Dir = ?", {S("T") + evil});
-        Change("INSERT INTO ProjTab VALUES ('TOWN', ?, 0)", {S("X") + evil});
-        Change("INSERT INTO DirTab VALUES (?)", {S("D") + evil});
+        const std::string evil = "\x1B[2J\r\n\t\u009B31m\u007F";
+        Change(database_, "UPDATE InputData SET RoomNoStr = " + Literal(evil) +
+                              ", RoomRemark = " + Literal(evil));
+        Change(database_, "UPDATE ProjTab SET Dir = " + Literal("T" + evil));
+        Change(database_, "INSERT INTO ProjTab VALUES ('TOWN', " + Literal("X" + evil) + ", 0)");
+        Change(database_, "INSERT INTO DirTab VALUES (" + Literal("D" + evil) + ")");
     }
     static void ExpectHarmless(const QByteArray& printed) {
         for (const QChar c : QString::fromUtf8(printed)) {
@@ -138,9 +121,9 @@ TEST_F(TerminalControls, AreNotPrinted) {
     ExpectHarmless(report.Out);
     ExpectHarmless(
         Data(QStringList(S("export")) + ofSmith).Error); // the texts are too long for an import
-    Change("UPDATE MainTab SET TabIndex = 7");
-    Change("INSERT INTO MainTab (TabIndex, ProjName, ObjNum, DigScale) VALUES (7, ?, 0, 0.01)",
-           {S("Y\x1B[2J")});
+    Change(database_, "UPDATE MainTab SET TabIndex = 7");
+    Change(database_, "INSERT INTO MainTab (TabIndex, ProjName, ObjNum, DigScale) VALUES (7, " +
+                          Literal("Y\x1B[2J") + ", 0, 0.01)");
     ExpectHarmless(
         Data({S("report"), S("--database"), database_, S("--project"), S("SMITH")}).Error);
     ExpectHarmless(

@@ -6,8 +6,7 @@
 namespace tarn {
 namespace {
 
-using testing::ToolRun;
-using testing::ToolTest;
+using namespace tarn::testing;
 
 constexpr const char* FiveRooms = "width,length,covering\n"
                                   "100,150,C1\n60,170,C1\n84,90,C1\n44,110,C1\n80,60,C1\n";

@@ -12,21 +12,13 @@
 namespace tarn {
 namespace {
 
-using testing::S;
-using testing::ToolRun;
-using testing::ToolTest;
-using Args = QStringList;
+using namespace tarn::testing;
 
 class InputFile : public ToolTest {
   protected:
     /// Estimate the rooms of a file.
     ToolRun Rooms(const QString& file) const {
         return Estimate({S("--rooms"), file, S("--carpet"), S("1"), S("--roll-width"), S("12ft")});
-    }
-    static void ExpectRefused(const ToolRun& run, const char* reason) {
-        EXPECT_EQ(run.Status, 1);
-        EXPECT_TRUE(run.Out.isEmpty()) << run.Out.toStdString();
-        EXPECT_TRUE(run.Error.contains(reason)) << run.Error.toStdString();
     }
 };
 

@@ -15,9 +15,7 @@
 namespace tarn {
 namespace {
 
-using testing::S;
-using testing::ToolRun;
-using testing::ToolTest;
+using namespace tarn::testing;
 
 class OrderTool : public ToolTest {
   protected:
@@ -75,7 +73,7 @@ TEST_F(OrderTool, WritesTheSheetOfAllCarpetsAsPdf) {
     Write(S("a.csv"), TwoCarpets);
     const ToolRun run = Order("--rooms a.csv --roll 12ft --trim 3 --steps 100 --pdf -");
     EXPECT_EQ(run.Status, 0) << run.Error.toStdString();
-    const testing::Pdf pdf(run.Out.toStdString());
+    const Pdf pdf(run.Out.toStdString());
     EXPECT_EQ(pdf.PageSize(), QSizeF(595, 842));
     EXPECT_EQ(pdf.Pages(), 6);
     const QString text = pdf.Text();
@@ -88,15 +86,15 @@ TEST_F(OrderTool, WritesTheSheetOfAllCarpetsAsPdf) {
 
 TEST_F(OrderTool, WritesTheSheetOnThePaperOfTheDefaultPrinter) {
     Write(S("a.csv"), TwoCarpets);
-    testing::QueueSetup queue;
+    QueueSetup queue;
     queue.DriverPaper = "Letter";
-    const testing::PrintServer server({queue});
-    const ToolRun run = testing::RunProgram(S("tarn-order"),
-                                            {S("--rooms"), Path(S("a.csv")), S("--roll"), S("12ft"),
-                                             S("--steps"), S("10"), S("--pdf"), Path(S("a.pdf"))},
-                                            Path(S("")), server.Address());
+    const PrintServer server({queue});
+    const ToolRun run = RunProgram(S("tarn-order"),
+                                   {S("--rooms"), Path(S("a.csv")), S("--roll"), S("12ft"),
+                                    S("--steps"), S("10"), S("--pdf"), Path(S("a.pdf"))},
+                                   Path(S("")), server.Address());
     EXPECT_EQ(run.Status, 0) << run.Error.toStdString();
-    EXPECT_EQ(testing::Pdf(Read(S("a.pdf")).toStdString()).PageSize(), QSizeF(612, 792));
+    EXPECT_EQ(Pdf(Read(S("a.pdf")).toStdString()).PageSize(), QSizeF(612, 792));
 }
 
 TEST_F(OrderTool, WritesTheSheetOfOneCarpetAsSvg) {

@@ -6,9 +6,7 @@
 namespace tarn {
 namespace {
 
-using testing::S;
-using testing::ToolRun;
-using testing::ToolTest;
+using namespace tarn::testing;
 
 class RollDxf : public ToolTest {
   protected:

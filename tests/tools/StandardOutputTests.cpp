@@ -8,8 +8,7 @@
 namespace tarn {
 namespace {
 
-using testing::ToolRun;
-using testing::ToolTest;
+using namespace tarn::testing;
 
 class StandardOutput : public ToolTest {
   protected:

@@ -1,14 +1,12 @@
 // The jobs stored below tests/stored are answered as they were when they were stored, byte for
 // byte.
 
+#include "store/TestDatabase.h"
 #include "tools/ToolTesting.h"
 
 #include <QDirIterator>
 #include <QFile>
 #include <QProcess>
-#include <QSqlDatabase>
-#include <QSqlError>
-#include <QSqlQuery>
 
 #include <algorithm>
 #include <map>
@@ -16,8 +14,7 @@
 namespace tarn {
 namespace {
 
-using testing::RunProgram;
-using testing::ToolRun;
+using namespace tarn::testing;
 
 using Files = std::map<QString, QByteArray>; ///< content by name below a folder
 
@@ -41,26 +38,14 @@ Files FilesIn(const QString& folder) {
     return files;
 }
 
-/// Run a statement on a database apart from the programs.
-void Change(const QString& database, const QString& statement) {
-    const QString name = QStringLiteral("change");
-    {
-        QSqlDatabase connection = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), name);
-        connection.setDatabaseName(database);
-        EXPECT_TRUE(connection.open());
-        QSqlQuery query(connection);
-        EXPECT_TRUE(query.exec(statement)) << query.lastError().text().toStdString();
-    }
-    QSqlDatabase::removeDatabase(name);
-}
-
 /// What a line of a job's commands prints, run in the folder `here`.
 QByteArray Answer(const QString& line, const QString& here) {
     const QString change = QStringLiteral("change ");
     if (line.startsWith(change)) {
         const auto fileEnd = line.indexOf(u' ', change.size());
-        Change(QDir(here).filePath(line.mid(change.size(), fileEnd - change.size())),
-               line.mid(fileEnd + 1));
+        const QString file = line.mid(change.size(), fileEnd - change.size());
+        RawDatabase(QDir(here).filePath(file).toStdString())
+            .Run(line.mid(fileEnd + 1).toStdString());
         return {};
     }
     QStringList words = QProcess::splitCommand(line);

@@ -8,9 +8,7 @@
 namespace tarn {
 namespace {
 
-using testing::S;
-using testing::ToolRun;
-using testing::ToolTest;
+using namespace tarn::testing;
 
 class TableFiles : public ToolTest {
   protected:

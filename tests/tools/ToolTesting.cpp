@@ -1,5 +1,7 @@
 #include "tools/ToolTesting.h"
 
+#include "store/TestDatabase.h"
+
 #include <QFile>
 #include <QProcess>
 #include <QProcessEnvironment>
@@ -86,6 +88,22 @@ QString ToolTest::MakeDatabase(const QString& project, const QByteArray& csv,
     const ToolRun run = Data(arguments + options);
     EXPECT_EQ(run.Status, 0) << run.Error.toStdString();
     return database;
+}
+
+void ToolTest::Change(const QString& database, const std::string& statement) const {
+    RawDatabase(database.toStdString()).Run(statement);
+}
+
+std::string ToolTest::Value(const QString& database, const std::string& query) const {
+    const Lines rows = RawDatabase(database.toStdString()).Rows(query);
+    EXPECT_EQ(rows.size(), 1U) << query;
+    return rows.empty() ? std::string() : rows[0];
+}
+
+void ToolTest::ExpectRefused(const ToolRun& run, const QByteArray& reason) {
+    EXPECT_EQ(run.Status, 1);
+    EXPECT_TRUE(run.Out.isEmpty()) << run.Out.toStdString();
+    EXPECT_TRUE(run.Error.contains(reason)) << run.Error.toStdString();
 }
 
 } // namespace tarn::testing

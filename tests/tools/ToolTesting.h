@@ -8,7 +8,11 @@
 
 #include <gtest/gtest.h>
 
+#include <string>
+
 namespace tarn::testing {
+
+using Args = QStringList;
 
 /// What a program did.
 struct ToolRun {
@@ -57,6 +61,13 @@ class ToolTest : public ::testing::Test {
     /// The same with one project.
     QString MakeDatabase(const QString& project, const QByteArray& csv,
                          const QStringList& options = {}) const;
+    /// Run a statement on a database, apart from the programs.
+    void Change(const QString& database, const std::string& statement) const;
+    /// The one value that a query gives, apart from the programs.
+    std::string Value(const QString& database, const std::string& query) const;
+
+    /// See that a program put out nothing and gave the reason.
+    static void ExpectRefused(const ToolRun& run, const QByteArray& reason);
 
   private:
     QTemporaryDir directory_;
