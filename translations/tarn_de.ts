@@ -3462,6 +3462,11 @@ Worin sind ihre Maße angegeben?</translation>
     </message>
     <message>
         <location filename="../src/screens/rooms/RoomScreen.cpp"/>
+        <source>Typed before for a new room, and not stored. DELETE empties the fields.</source>
+        <translation>Früher für einen neuen Raum getippt und nicht gespeichert. LÖSCHEN leert die Felder.</translation>
+    </message>
+    <message>
+        <location filename="../src/screens/rooms/RoomScreen.cpp"/>
         <location filename="../src/screens/order/OrderScreen.cpp"/>
         <source>ROLL</source>
         <translation>ROLLE</translation>

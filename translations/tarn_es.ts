@@ -3462,6 +3462,11 @@ What are their sizes in?</source>
     </message>
     <message>
         <location filename="../src/screens/rooms/RoomScreen.cpp"/>
+        <source>Typed before for a new room, and not stored. DELETE empties the fields.</source>
+        <translation>Escrito antes para una estancia nueva y sin guardar. BORRAR vacía los campos.</translation>
+    </message>
+    <message>
+        <location filename="../src/screens/rooms/RoomScreen.cpp"/>
         <location filename="../src/screens/order/OrderScreen.cpp"/>
         <source>ROLL</source>
         <translation>ROLLO</translation>

@@ -58,6 +58,8 @@ constexpr auto ShowListCaption = Words("S&HOW LIST");
 constexpr auto ShowFormCaption = Words("S&HOW FORM");
 
 constexpr auto DeleteQuestion = Words("Really want to delete current data?");
+constexpr auto TypedBeforeHint =
+    Words("Typed before for a new room, and not stored. DELETE empties the fields.");
 constexpr auto NothingToEstimateMessage =
     Words("There is no data to estimate. Please fill in the room information before estimating.");
 
@@ -269,7 +271,8 @@ std::size_t RoomScreen::FirstRoom(const OpenProject& project) {
 void RoomScreen::ShowRoom(std::size_t room) {
     const OpenProject& project = Shared().Project;
     showing_ = true;
-    if (room == project.Now.Rooms.size()) {
+    isNewShown_ = room == project.Now.Rooms.size();
+    if (isNewShown_) {
         entry_->ShowNewRoom();
         untouched_ = entry_->Draft();
         if (project.Typed.New) {
@@ -461,9 +464,17 @@ void RoomScreen::AskAndDelete() {
         ForgetTyping();
         Project& project = Shared().Project.Now;
         Shared().History.Do(current_, [&] { DeleteRoom(project, current_); });
-        GoTo(current_);
-        KeepTyping();
+        GoToChanged(current_);
         FirstFocus()->setFocus();
+    }
+}
+
+void RoomScreen::GoToChanged(std::size_t room) {
+    const bool wasNew = isNewShown_;
+    GoTo(room);
+    KeepTyping();
+    if (!wasNew && isNewShown_ && Shared().Project.Typed.New) {
+        entry_->SetHint(ToQt(TypedBeforeHint));
     }
 }
 
@@ -548,16 +559,14 @@ void RoomScreen::Undo() {
         return;
     }
     if (history.CanUndo()) {
-        GoTo(history.Undo());
-        KeepTyping();
+        GoToChanged(history.Undo());
     }
 }
 
 void RoomScreen::Redo() {
     RoomHistory& history = Shared().History;
     if (IsReadyForStep() && history.CanRedo()) {
-        GoTo(history.Redo());
-        KeepTyping();
+        GoToChanged(history.Redo());
     }
 }
 

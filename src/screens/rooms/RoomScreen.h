@@ -60,6 +60,9 @@ class RoomScreen : public TitledScreen {
     void ShowRoom(std::size_t room);
     /// ShowRoom, which is then the room on the screen.
     void GoTo(std::size_t room);
+    /// GoTo after a change of the rooms. What comes back into the fields of a new room then is
+    /// explained: nobody asked for it.
+    void GoToChanged(std::size_t room);
     void ConnectTyping();
     /// Take what stands in the fields for the typing of the open project, unless it is what the
     /// room has, and tell the draft.
@@ -143,6 +146,7 @@ class RoomScreen : public TitledScreen {
     QPushButton* showList_ = nullptr; ///< shows the list, or the form again
     std::size_t current_;             ///< the room on the screen
     RoomDraft untouched_;             ///< its fields as they stand when nothing is typed
+    bool isNewShown_ = false;         ///< it is the new one, behind the last
     bool showing_ = false;            ///< the fields are being filled in by the program
 };
 

@@ -166,6 +166,40 @@ TEST_F(RoomNote, TellsAgainOfTypingThatComesBack) {
     EXPECT_EQ(Note(), "Kept as 9'4\" (typed 9'3.6\")");
 }
 
+TEST_F(RoomNote, TellsWhereWhatWasTypedForANewRoomComesFromAfterADeletion) {
+    AddRooms(2);
+    Open();
+    TypeInto(0, "9");
+    ClickOn(Controls::previousRoom);
+    EXPECT_EQ(Item(), "2");
+    boxes.YesNo = {true, true};
+    ClickOn(Controls::deleteRoom);
+    EXPECT_EQ(Item(), "2");
+    EXPECT_EQ(FromQt(Text(0).text()), "9");
+    EXPECT_EQ(Note(), "Typed before for a new room, and not stored. DELETE empties the fields.");
+    ClickOn(Controls::deleteRoom);
+    EXPECT_EQ(FromQt(Text(0).text()), "");
+    EXPECT_EQ(Note(), "");
+}
+
+TEST_F(RoomNote, TellsWhereItComesFromWhenTheLastRoomIsTakenBack) {
+    AddRooms(1);
+    open.Typed.New = RoomDraft{{"9", ""}, {}, Byte{0}, "", "", ""};
+    Open();
+    boxes.YesNo = {true};
+    ClickOn(Controls::previousRoom);
+    ClickOn(Controls::deleteRoom);
+    Press(*form, Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(Item(), "1");
+    EXPECT_EQ(FromQt(Text(0).text()), "10");
+    EXPECT_EQ(Note(), "");
+    Press(*form, Qt::Key_Y, Qt::ControlModifier);
+    EXPECT_EQ(FromQt(Text(0).text()), "9");
+    EXPECT_EQ(Note(), "Typed before for a new room, and not stored. DELETE empties the fields.");
+    TypeInto(2, "8");
+    EXPECT_EQ(Note(), "") << "it is being typed";
+}
+
 TEST_F(RoomNote, SaysNothingOfANewRoomThatIsPassed) {
     Open();
     for (int i = 0; i < 12; ++i) {
