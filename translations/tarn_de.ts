@@ -1985,11 +1985,6 @@ Das Programm kann nicht drucken</translation>
     </message>
     <message>
         <location filename="../src/screens/AboutWindow.cpp"/>
-        <source>%1: %2</source>
-        <translation>%1: %2</translation>
-    </message>
-    <message>
-        <location filename="../src/screens/AboutWindow.cpp"/>
         <source>ABOUT</source>
         <translation>ÜBER</translation>
     </message>
@@ -2029,6 +2024,12 @@ Das Programm kann nicht drucken</translation>
         <location filename="../src/screens/rooms/ReportFrame.cpp"/>
         <source>&amp;CLOSE</source>
         <translation>SC&amp;HLIESSEN</translation>
+    </message>
+    <message>
+        <location filename="../src/screens/AboutWindow.cpp"/>
+        <location filename="../src/screens/order/ComparisonPanel.cpp"/>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <location filename="../src/screens/Display.h"/>

@@ -1985,11 +1985,6 @@ No se puede imprimir en el programa</translation>
     </message>
     <message>
         <location filename="../src/screens/AboutWindow.cpp"/>
-        <source>%1: %2</source>
-        <translation>%1: %2</translation>
-    </message>
-    <message>
-        <location filename="../src/screens/AboutWindow.cpp"/>
         <source>ABOUT</source>
         <translation>ACERCA DE</translation>
     </message>
@@ -2029,6 +2024,12 @@ No se puede imprimir en el programa</translation>
         <location filename="../src/screens/rooms/ReportFrame.cpp"/>
         <source>&amp;CLOSE</source>
         <translation>&amp;CERRAR</translation>
+    </message>
+    <message>
+        <location filename="../src/screens/AboutWindow.cpp"/>
+        <location filename="../src/screens/order/ComparisonPanel.cpp"/>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <location filename="../src/screens/Display.h"/>

@@ -247,6 +247,7 @@ inline constexpr const char* comparisonState = "ComparisonState";
 inline constexpr const char* comparisonTaken = "ComparisonTaken";
 inline constexpr const char* comparisonRule = "ComparisonRule";
 inline constexpr const char* comparison = "Comparison";
+inline constexpr const char* comparisonLeftOut = "ComparisonLeftOut";
 inline constexpr const char* comparisonRemarks = "ComparisonRemarks";
 inline constexpr const char* compare = "Compare";
 inline constexpr const char* stopComparing = "StopComparing";

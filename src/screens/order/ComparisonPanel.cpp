@@ -8,12 +8,10 @@
 #include "screens/ControlNames.h"
 #include "screens/Controls.h"
 #include "screens/Theme.h"
+#include "screens/order/ComparisonTable.h"
 
-#include <QHeaderView>
 #include <QLabel>
-#include <QScrollBar>
 #include <QSignalBlocker>
-#include <QTableWidget>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -26,10 +24,6 @@ namespace tarn {
 
 namespace {
 
-constexpr double RowHeight = 400; ///< twips
-constexpr double WidestColumn = 9000;
-constexpr int LeastRows = 3;   ///< in sight
-constexpr int MostRows = 8;    ///< where there is room
 constexpr int TextColumns = 3; ///< the mark, the roll and the lay; figures follow
 
 /// As much of the remarks as leaves room for the rest: hundreds of rooms may be named.
@@ -37,51 +31,6 @@ QString Shortened(const QString& remarks) {
     constexpr qsizetype Most = 240;
     return remarks.size() <= Most ? remarks : remarks.left(Most) + QChar(0x2026);
 }
-
-} // namespace
-
-/// As high as its rows, where they are not many.
-class ComparisonPanel::ComparisonTable : public QTableWidget {
-  public:
-    using QTableWidget::QTableWidget;
-
-    QSize sizeHint() const override {
-        const int rows = std::clamp(rowCount(), LeastRows, MostRows);
-        return {QTableWidget::sizeHint().width(), HeightFor(rows)};
-    }
-    QSize minimumSizeHint() const override {
-        return {QTableWidget::minimumSizeHint().width(), HeightFor(LeastRows)};
-    }
-    /// Make the columns as wide as what is in them; the last one, the notes, has what is left.
-    /// Those of the row that one is on stand below the table, whole.
-    void FitColumns() {
-        resizeColumnsToContents();
-        FitNotes();
-    }
-
-  protected:
-    void resizeEvent(QResizeEvent* event) override {
-        QTableWidget::resizeEvent(event);
-        FitNotes();
-    }
-
-  private:
-    void FitNotes() {
-        const int notes = columnCount() - 1;
-        if (notes >= 0) {
-            const int others = horizontalHeader()->length() - columnWidth(notes);
-            setColumnWidth(notes, std::max(horizontalHeader()->sectionSizeHint(notes),
-                                           viewport()->width() - others));
-        }
-    }
-    int HeightFor(int rows) const {
-        return 2 * frameWidth() + horizontalHeader()->sizeHint().height() +
-               rows * verticalHeader()->defaultSectionSize() +
-               horizontalScrollBar()->sizeHint().height();
-    }
-};
-
-namespace {
 
 /// A row of the table from one of the comparison: what is decided by comes first, what one looks up
 /// is behind it.
@@ -101,6 +50,9 @@ std::vector<std::string> TableRow(std::string mark, const std::vector<std::strin
     return row;
 }
 
+/// What one decides by: mark, roll, lay, order and price.
+constexpr std::array KeptColumns{0, 1, 2, 3, 8};
+
 std::vector<std::string> Heads(Units units) {
     return TableRow(Words("Take"), ComparisonHeads(units), Words("Above least %"), Words("Notes"));
 }
@@ -112,16 +64,6 @@ QLabel* NewLine(QWidget* parent, const char* name, TextRole role) {
     return label;
 }
 
-/// A head on two lines, so that its column is no wider than need be.
-QString Broken(const std::string& head) {
-    QString text = ToQt(head);
-    const auto blank = text.indexOf(QLatin1Char(' '));
-    if (blank >= 0) {
-        text[blank] = QLatin1Char('\n');
-    }
-    return text;
-}
-
 } // namespace
 
 ComparisonPanel::ComparisonPanel(QWidget* parent)
@@ -131,28 +73,20 @@ ComparisonPanel::ComparisonPanel(QWidget* parent)
     rule_ = NewLine(this, Controls::comparisonRule, TextRole::Hint);
     table_ = new ComparisonTable(this);
     NameControl(*table_, Controls::comparison, ToQt(Words("Comparison of rolls and lays")));
-    table_->setTabKeyNavigation(false); // it leads on to the next control
-    table_->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    table_->setSelectionBehavior(QAbstractItemView::SelectRows);
-    table_->setSelectionMode(QAbstractItemView::SingleSelection);
-    table_->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
-    table_->setWordWrap(false);
-    table_->verticalHeader()->hide();
-    table_->verticalHeader()->setDefaultSectionSize(TextPixels(RowHeight));
-    table_->verticalHeader()->setMinimumSectionSize(TextPixels(RowHeight));
-    table_->horizontalHeader()->setHighlightSections(false);
-    table_->horizontalHeader()->setMaximumSectionSize(TextPixels(WidestColumn));
+    table_->OnLeftOut = [this] { ShowLeftOut(); };
     connect(table_, &QTableWidget::currentCellChanged, this, [this](int row, int, int before, int) {
         if (row >= 0 && row != before) {
             OnRow(static_cast<std::size_t>(row));
         }
     });
+    leftOut_ = NewLine(this, Controls::comparisonLeftOut, TextRole::Label);
     remarks_ = NewLine(this, Controls::comparisonRemarks, TextRole::Label);
     auto* rows = new QVBoxLayout(this);
     SetSpacing(*rows, 0, Metrics::Spacing / 2);
     rows->addWidget(taken_);
     rows->addWidget(rule_);
     rows->addWidget(table_, 1);
+    rows->addWidget(leftOut_);
     rows->addWidget(remarks_);
     Clear();
 }
@@ -173,11 +107,27 @@ void ComparisonPanel::Show(const Order& order, std::optional<std::size_t> taken)
     for (std::size_t row = 0; row < order.Candidates.size(); ++row) {
         SetCells(order, row, taken == row);
     }
-    table_->FitColumns();
+    table_->FitToCells();
     if (taken && static_cast<int>(*taken) != table_->currentRow()) {
         table_->setCurrentCell(static_cast<int>(*taken), std::max(table_->currentColumn(), 0));
     }
+    takenRow_ = taken && order.Candidates[*taken].Figures ? static_cast<int>(*taken) : -1;
     ShowTaken(order, taken);
+    ShowLeftOut();
+}
+
+/// What the table has no room for, of the row that is taken.
+void ComparisonPanel::ShowLeftOut() {
+    std::string figures;
+    for (const int column : table_->LeftOut()) {
+        const QTableWidgetItem* cell = table_->item(takenRow_, column);
+        if (cell != nullptr && !cell->text().isEmpty()) {
+            figures += figures.empty() ? "" : ";  ";
+            figures += Words("%1: %2", table_->Head(column), FromQt(cell->text()));
+        }
+    }
+    SetText(*leftOut_, figures);
+    leftOut_->setVisible(!figures.empty());
 }
 
 void ComparisonPanel::ShowTaken(const Order& order, std::optional<std::size_t> taken) {
@@ -197,18 +147,15 @@ void ComparisonPanel::ShowTaken(const Order& order, std::optional<std::size_t> t
 void ComparisonPanel::Clear() {
     const QSignalBlocker silent(table_);
     table_->setRowCount(0);
+    takenRow_ = -1;
     taken_->hide();
     rule_->hide();
+    leftOut_->hide();
     remarks_->hide();
 }
 
 void ComparisonPanel::SetHeads(Units units) {
-    QStringList heads;
-    for (const std::string& head : Heads(units)) {
-        heads += Broken(head);
-    }
-    table_->setColumnCount(static_cast<int>(heads.size()));
-    table_->setHorizontalHeaderLabels(heads);
+    table_->SetHeads(Heads(units), {KeptColumns.begin(), KeptColumns.end()});
 }
 
 void ComparisonPanel::SetCells(const Order& order, std::size_t row, bool isTaken) {

@@ -13,8 +13,11 @@ class QTableWidgetItem;
 
 namespace tarn {
 
+class ComparisonTable;
+
 /// The comparison of rolls and lays as a table, above it the row that is taken in words, with the
-/// rule by which one is the best, and below it what there is to remark on that row.
+/// rule by which one is the best; below it what the table has no room for, and what there is to
+/// remark on that row.
 class ComparisonPanel : public QWidget {
   public:
     explicit ComparisonPanel(QWidget* parent);
@@ -30,17 +33,18 @@ class ComparisonPanel : public QWidget {
     std::function<void(std::size_t)> OnRow = [](std::size_t) {};
 
   private:
-    class ComparisonTable;
-
     void SetHeads(Units units);
     void SetCells(const Order& order, std::size_t row, bool isTaken);
     void ShowTaken(const Order& order, std::optional<std::size_t> taken);
+    void ShowLeftOut();
     QTableWidgetItem& Cell(int row, int column);
 
     QLabel* taken_ = nullptr;
     QLabel* rule_ = nullptr;
     ComparisonTable* table_ = nullptr;
+    QLabel* leftOut_ = nullptr;
     QLabel* remarks_ = nullptr;
+    int takenRow_ = -1; ///< -1 for none that has figures
 };
 
 } // namespace tarn

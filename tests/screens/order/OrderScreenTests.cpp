@@ -3,6 +3,7 @@
 #include "screens/ControlChecks.h"
 #include "screens/order/OrderScreenTesting.h"
 
+#include <QHeaderView>
 #include <QScrollBar>
 
 #include <gmock/gmock.h>
@@ -212,11 +213,124 @@ TEST_F(OrderScreens, GiveTheNotesNoMoreThanWhatIsLeftOfTheComparison) {
     EXPECT_EQ(Table().horizontalScrollBar()->maximum(), 0);
     EXPECT_GT(Cell(Table(), 0, Table().columnCount() - 1).size(), 900U) << "all of it is there";
     form->resize(1500, 1080);
-    EXPECT_TRUE(QTest::qWaitFor([this] {
-        return Table().columnViewportPosition(Table().columnCount() - 1) +
-                   Table().columnWidth(Table().columnCount() - 1) >=
-               Table().viewport()->width();
-    }));
+    const int last = Table().columnCount() - 1;
+    EXPECT_TRUE(QTest::qWaitFor([&] { return Table().isColumnHidden(last); }))
+        << "those of the row that is taken stand below";
+}
+
+/// A house of several thousand square feet, with the standard rolls in both lays.
+void AddHouse(OrderScreenTest& test, std::optional<Double> price = std::nullopt) {
+    for (const auto& [width, length] :
+         {std::pair{242, 212}, {204, 155}, {48, 186}, {182, 197}, {138, 148}, {306, 171}}) {
+        test.Add(static_cast<Integer>(2 * width), static_cast<Integer>(length));
+    }
+    std::vector<RollChoice> rolls = OfferedRequest(test.open.Shown).Rolls;
+    for (RollChoice& roll : rolls) {
+        roll.Price = price;
+    }
+    test.Keep(0, rolls).Lays = {Lay::Down, Lay::Cross};
+}
+
+/// The heads of the columns that are shown, each on one line; all of each is in sight.
+std::vector<std::string> HeadsInSight(const QTableWidget& table) {
+    EXPECT_EQ(table.horizontalScrollBar()->maximum(), 0);
+    std::vector<std::string> heads;
+    for (int column = 0; column < table.columnCount(); ++column) {
+        if (!table.isColumnHidden(column)) {
+            heads.push_back(FromQt(table.horizontalHeaderItem(column)->text().replace(
+                QLatin1Char('\n'), QLatin1Char(' '))));
+            EXPECT_LE(table.columnViewportPosition(column) + table.columnWidth(column),
+                      table.viewport()->width())
+                << heads.back();
+        }
+    }
+    return heads;
+}
+
+TEST_F(OrderScreens, ShowTheComparisonAsBeforeWhereThereIsRoom) {
+    AddHouse(*this, 12.5);
+    Open(std::nullopt, 1920, 1080);
+    WaitFor("Compared.");
+    EXPECT_THAT(HeadsInSight(Table()),
+                ElementsAre("Take", "Roll", "Lay", "Order", "Bought sq. ft.", "Waste %", "Seams",
+                            "Joins", "Price", "Above least %", "Needed", "Least possible",
+                            "Rooms sq. ft.", "Trimmed sq. ft.", "Notes"));
+    EXPECT_EQ(FromQt(Table().horizontalHeaderItem(4)->text()), "Bought\nsq. ft.");
+    EXPECT_EQ(LabelText(Controls::comparisonLeftOut), "");
+}
+
+TEST_F(OrderScreens, ShowWhatTheComparisonIsDecidedByBesideTheChoices) {
+    AddHouse(*this);
+    OpenCompared();
+    EXPECT_THAT(HeadsInSight(Table()),
+                ElementsAre("Take", "Roll", "Lay", "Order", "Bought sq. ft.", "Waste %", "Seams",
+                            "Joins", "Above least %", "Needed", "Least possible", "Rooms sq. ft."))
+        << "no roll has a price, and the notes stand below";
+    EXPECT_EQ(LabelText(Controls::comparisonLeftOut), "Trimmed sq. ft.: 2,784.11");
+}
+
+/// What one looks up in the row that is taken stands below the table where that has no room for it.
+TEST_F(OrderScreens, NeverScrollTheComparisonSideways) {
+    AddHouse(*this, 123.45);
+    Open(std::nullopt, 800, 600);
+    WaitFor("Compared.");
+    std::size_t least = 99;
+    for (int width = 640; width <= 1920; width += 16) {
+        form->resize(width, 600);
+        QCoreApplication::processEvents();
+        const std::vector<std::string> heads = HeadsInSight(Table());
+        least = std::min(least, heads.size());
+        for (const char* always : {"Take", "Roll", "Lay", "Order", "Price"}) {
+            EXPECT_THAT(heads, Contains(always)) << width;
+        }
+        const std::string below = LabelText(Controls::comparisonLeftOut);
+        const int row = Table().currentRow();
+        for (int column = 0; column + 1 < Table().columnCount(); ++column) {
+            const bool isBelow = below.find(Cell(Table(), row, column)) != std::string::npos;
+            EXPECT_TRUE(isBelow || !Table().isColumnHidden(column)) << width << " " << column;
+        }
+    }
+    EXPECT_LT(least, 14U) << "some did not fit";
+}
+
+TEST_F(OrderScreens, TellWhatTheComparisonHasNoRoomForOfTheRowThatIsTaken) {
+    AddHouse(*this, 123.45);
+    Open(std::nullopt, 640, 600);
+    WaitFor("Compared.");
+    const int last = Table().columnCount() - 2;
+    ASSERT_TRUE(Table().isColumnHidden(last));
+    EXPECT_THAT(LabelText(Controls::comparisonLeftOut),
+                ::testing::EndsWith("Trimmed sq. ft.: " + Cell(Table(), 0, last)));
+    const std::string best = LabelText(Controls::comparisonLeftOut);
+    Focus(Table());
+    Press(*form, Table().currentRow() == 0 ? Qt::Key_Down : Qt::Key_Up);
+    EXPECT_NE(LabelText(Controls::comparisonLeftOut), best);
+}
+
+TEST_F(OrderScreens, MakeNoColumnOfTheComparisonNarrowerThanItsText) {
+    AddHouse(*this, 1234.5);
+    OpenCompared();
+    QFont bold = Table().font();
+    bold.setBold(true);
+    const auto& heads = *Table().horizontalHeader();
+    constexpr int Padding = 2 * 2 + 1; // of a cell in the theme, and the line beside it
+    const int drawnAround =
+        2 * (Table().style()->pixelMetric(QStyle::PM_FocusFrameHMargin) + 1) + Padding;
+    for (int column = 0; column + 1 < Table().columnCount(); ++column) {
+        const QString head = Table().horizontalHeaderItem(column)->text();
+        if (Table().isColumnHidden(column)) {
+            continue;
+        }
+        EXPECT_GE(Table().columnWidth(column),
+                  heads.fontMetrics().size(0, head).width() + drawnAround);
+        for (int row = 0; row < Table().rowCount(); ++row) {
+            const QTableWidgetItem& cell = *Table().item(row, column);
+            const QFontMetrics metrics(cell.font().bold() ? bold : Table().font());
+            EXPECT_GE(Table().visualItemRect(&cell).width(),
+                      metrics.horizontalAdvance(cell.text()) + drawnAround)
+                << row << " " << FromQt(head);
+        }
+    }
 }
 
 TEST_F(OrderScreens, SayInWhichUnitsTheProjectWasEnteredAndShowTheirOwn) {
