@@ -2263,6 +2263,12 @@ Seine Räume können als neues Projekt gespeichert werden.</translation>
         <translation>Die Seite konnte nicht gezeigt werden.</translation>
     </message>
     <message>
+        <location filename="../src/screens/Screen.cpp"/>
+        <location filename="../src/screens/TitledScreen.cpp"/>
+        <source>The screen could not be arranged.</source>
+        <translation>Die Seite konnte nicht angeordnet werden.</translation>
+    </message>
+    <message>
         <location filename="../src/screens/ToolkitWords.cpp"/>
         <source>&amp;No</source>
         <translation>&amp;Nein</translation>
@@ -2949,12 +2955,6 @@ Seine Räume können als neues Projekt gespeichert werden.</translation>
         <location filename="../src/screens/order/OrderScreen.cpp"/>
         <source>The request that is kept for this carpet is in metric and is not used. What you change takes its place.</source>
         <translation>Die gespeicherte Vorgabe für diesen Teppichboden ist metrisch und wird nicht verwendet. Was Sie ändern, tritt an ihre Stelle.</translation>
-    </message>
-    <message>
-        <location filename="../src/screens/order/OrderScreen.cpp"/>
-        <location filename="../src/screens/TitledScreen.cpp"/>
-        <source>The screen could not be arranged.</source>
-        <translation>Die Seite konnte nicht angeordnet werden.</translation>
     </message>
     <message>
         <location filename="../src/screens/order/RollTable.cpp"/>

@@ -2263,6 +2263,12 @@ Sus estancias se pueden guardar como proyecto nuevo.</translation>
         <translation>No se pudo mostrar la pantalla.</translation>
     </message>
     <message>
+        <location filename="../src/screens/Screen.cpp"/>
+        <location filename="../src/screens/TitledScreen.cpp"/>
+        <source>The screen could not be arranged.</source>
+        <translation>No se pudo organizar la pantalla.</translation>
+    </message>
+    <message>
         <location filename="../src/screens/ToolkitWords.cpp"/>
         <source>&amp;No</source>
         <translation>&amp;No</translation>
@@ -2949,12 +2955,6 @@ Sus estancias se pueden guardar como proyecto nuevo.</translation>
         <location filename="../src/screens/order/OrderScreen.cpp"/>
         <source>The request that is kept for this carpet is in metric and is not used. What you change takes its place.</source>
         <translation>La petición guardada para esta moqueta es métrica y no se usa. Lo que usted cambie ocupará su lugar.</translation>
-    </message>
-    <message>
-        <location filename="../src/screens/order/OrderScreen.cpp"/>
-        <location filename="../src/screens/TitledScreen.cpp"/>
-        <source>The screen could not be arranged.</source>
-        <translation>No se pudo organizar la pantalla.</translation>
     </message>
     <message>
         <location filename="../src/screens/order/RollTable.cpp"/>

@@ -15,6 +15,8 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QResizeEvent>
+#include <QScrollBar>
 #include <QShortcut>
 #include <QTimer>
 #include <QVBoxLayout>
@@ -188,6 +190,28 @@ void Screen::keyPressEvent(QKeyEvent* event) {
         return;
     }
     QWidget::keyPressEvent(event);
+}
+
+int Screen::BodyRoom() const {
+    return width() - scroller_->verticalScrollBar()->sizeHint().width();
+}
+
+void Screen::TellBodyRoom() {
+    Guard(Words("The screen could not be arranged."), [this] { OnBodyRoom(); });
+}
+
+void Screen::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    if (event->size().width() != event->oldSize().width()) {
+        TellBodyRoom();
+    }
+}
+
+void Screen::changeEvent(QEvent* event) {
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) {
+        Later([this] { TellBodyRoom(); }); // when all in it have the new type
+    }
 }
 
 void Screen::showEvent(QShowEvent* event) {

@@ -58,6 +58,12 @@ class Screen : public QWidget {
     /// What holds the controls.
     QWidget& Body() const { return *body_; }
     QScrollArea& Scroller() { return *scroller_; }
+    /// How wide the body is where nothing in it is wider, with a bar beside it, pixels. It changes
+    /// with the window alone.
+    int BodyRoom() const;
+    /// Called when BodyRoom has changed, or the size of the text: what is too wide makes do with it
+    /// (see screens/Narrowing.h).
+    virtual void OnBodyRoom() {}
 
     /// See Guarded.
     bool Guard(const std::string& failure, const std::function<void()>& body) const noexcept;
@@ -73,9 +79,12 @@ class Screen : public QWidget {
 
     void keyPressEvent(QKeyEvent* event) override;
     void showEvent(QShowEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
   private:
     void MakeKeys();
+    void TellBodyRoom();
     void ShowGuide() const;
     /// The context menu of what has the focus.
     void OpenContextMenu() const;

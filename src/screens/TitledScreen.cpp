@@ -69,6 +69,10 @@ void TitledScreen::SetTitleWarning(std::string_view words) {
     Arrange();
 }
 
+int TitledScreen::PanelRoom() const {
+    return BodyRoom() - 2 * Pixels(Metrics::Margin);
+}
+
 void TitledScreen::SetBelow(QWidget& widget) {
     below_ = &widget;
     widget.setParent(&Body());

@@ -35,6 +35,8 @@ class TitledScreen : public Screen {
     void AddPanel(QWidget& panel, PanelSize size = PanelSize::Natural);
     /// Show that panel and hide the others.
     void ShowPanel(QWidget& panel);
+    /// How wide a panel may be, pixels; see BodyRoom.
+    int PanelRoom() const;
     /// What stands below the panel, on every panel while it is not hidden.
     void SetBelow(QWidget& widget);
 

@@ -22,9 +22,12 @@
 #include <QMenu>
 #include <QRegularExpression>
 #include <QScrollArea>
+#include <QScrollBar>
 
 #include <array>
+#include <cstdlib>
 #include <set>
+#include <utility>
 #include <vector>
 
 namespace tarn {
@@ -240,6 +243,109 @@ class Spoken : public ::testing::TestWithParam<const char*> {};
 
 INSTANTIATE_TEST_SUITE_P(Languages, Spoken, ::testing::Values("de", "es", "pseudo"),
                          [](const auto& each) { return std::string(each.param); });
+
+/// What the screen itself scrolls: lists, tables and pictures have bars of their own.
+void ExpectNothingBesideTheDisplay(const std::string& state, ScreenWindow& window) {
+    const auto* area = window.Front()->findChild<QScrollArea*>();
+    ASSERT_NE(area, nullptr) << state;
+    if (area->horizontalScrollBar()->maximum() == 0) {
+        return;
+    }
+    std::string beside;
+    for (const QWidget* widget : ShownIn(window)) {
+        if (area->widget()->isAncestorOf(widget) &&
+            widget->mapTo(area->widget(), widget->rect().topRight()).x() >=
+                area->viewport()->width()) {
+            beside += " " + NameOf(*widget);
+        }
+    }
+    ADD_FAILURE() << state << " at " << window.width() << ": "
+                  << area->horizontalScrollBar()->maximum() << " pixels, with" << beside;
+}
+
+TEST_P(Spoken, NeedsNoScrollingSidewaysOnTheSmallestDisplay) {
+    const SpokenLanguage language(GetParam());
+    for (const Units units : {Units::Imperial, Units::Metric}) {
+        VisitEveryScreen(units, [](const std::string& state, ScreenWindow& window) {
+            ResizeTo(window, {800, 600});
+            ExpectNothingBesideTheDisplay(state, window);
+        });
+    }
+}
+
+TEST_P(TextSizes, NeedNoScrollingSidewaysOnTheSmallestDisplay) {
+    const SystemText text(Metrics::BaseFont * GetParam());
+    for (const Units units : {Units::Imperial, Units::Metric}) {
+        VisitEveryScreen(units, [](const std::string& state, ScreenWindow& window) {
+            ResizeTo(window, {800, 600});
+            ExpectNothingBesideTheDisplay(state, window);
+        });
+    }
+}
+
+// --- widths of the window ---
+
+/// How often a widget was laid out or became another size.
+class LayoutCount : public QObject {
+  public:
+    explicit LayoutCount(QWidget& widget) { widget.installEventFilter(this); }
+
+    int Taken() { return std::exchange(count_, 0); }
+    bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+        count_ += event->type() == QEvent::Resize || event->type() == QEvent::LayoutRequest ? 1 : 0;
+        return false;
+    }
+
+  private:
+    int count_ = 0;
+};
+
+void ExpectControlsWithinTheirParents(const std::string& where, const ScreenWindow& window) {
+    for (const QWidget* widget : ShownIn(window)) {
+        const QWidget& above = *widget->parentWidget();
+        if (HasText(*widget) && !ScrollsItsContent(above)) {
+            EXPECT_TRUE(above.rect().contains(WordsOf(*widget)))
+                << where << ": " << NameOf(*widget) << " runs out of " << NameOf(above);
+        }
+    }
+}
+
+/// The window from narrow to wide and back, at a height at which screens scroll up and down at some
+/// widths and at others do not.
+void ExpectRestAtEveryWidth(const std::string& state, ScreenWindow& window) {
+    constexpr int Narrowest = 800;
+    constexpr int Widest = 1920;
+    constexpr int Step = 64;
+    constexpr int MostLayouts = 40; // of a change that comes to rest
+    LayoutCount layouts(*window.Front()->findChild<QScrollArea*>()->widget());
+    for (int way = -Widest; way <= Widest; way += Step) {
+        const int width = std::max(Narrowest, std::abs(way));
+        window.resize(width, 584);
+        for (int i = 0; i < 3; ++i) { // what is laid out may lay out more
+            QCoreApplication::sendPostedEvents();
+            QCoreApplication::processEvents();
+        }
+        const std::string where = state + " at " + std::to_string(width);
+        EXPECT_LE(layouts.Taken(), MostLayouts) << where;
+        EXPECT_TRUE(QTest::qWaitFor([&] { return layouts.Taken() == 0; })) << where;
+        ExpectNothingBesideTheDisplay(state, window);
+        ExpectControlsWithinTheirParents(where, window);
+    }
+}
+
+TEST(EveryScreen, ComesToRestAtEveryWidth) {
+    VisitEveryScreen(Units::Imperial, ExpectRestAtEveryWidth);
+}
+
+TEST(EveryScreen, ComesToRestAtEveryWidthWithLargeText) {
+    const SystemText text(2 * Metrics::BaseFont);
+    VisitEveryScreen(Units::Imperial, ExpectRestAtEveryWidth);
+}
+
+TEST(EveryScreen, ComesToRestAtEveryWidthWithLongTexts) {
+    const SpokenLanguage language("pseudo");
+    VisitEveryScreen(Units::Metric, ExpectRestAtEveryWidth);
+}
 
 /// On the smallest display: the others leave more room.
 TEST_P(Spoken, KeepsTextsWholeMnemonicsApartAndControlsInReach) {

@@ -13,6 +13,7 @@
 #include "screens/Controls.h"
 #include "screens/Display.h"
 #include "screens/ElidedLabel.h"
+#include "screens/Narrowing.h"
 #include "screens/SaveAs.h"
 #include "screens/SaveProject.h"
 #include "screens/Theme.h"
@@ -50,6 +51,7 @@ constexpr auto ImproveFailure = Words("The layout could not be improved.");
 constexpr auto OrderFailure = Words("The order could not be opened.");
 constexpr auto PictureFailure = Words("The picture could not be saved.");
 constexpr auto LeaveFailure = Words("The screen could not be closed.");
+constexpr double LeastProjectName = 1200; ///< beside the hint, twips
 constexpr auto RollCaption = Words("ROLL");
 constexpr auto DrawingCaption = Words("DRAWING");
 constexpr auto PasteHint = Words(
@@ -304,6 +306,11 @@ QWidget* EstimateScreen::FirstFocus() {
     return panel_->isHidden() ? back_ : &panel_->FirstFocus();
 }
 
+/// The project's name beside the hint ends in dots where it must.
+void EstimateScreen::OnBodyRoom() {
+    WrapWithin(*zoomHint_, BodyRoom() - 3 * Pixels(Metrics::Margin) - TextPixels(LeastProjectName));
+}
+
 std::string_view EstimateScreen::GuidePage() const {
     if (!improvePanel_->isHidden()) {
         return GuidePages::improving;
@@ -344,7 +351,8 @@ void EstimateScreen::PlacePanels() {
     }
     const QSize size = panel_->sizeHint();
     const int margins = 2 * Pixels(Metrics::Margin);
-    const QSize least = size + QSize(margins, margins);
+    const int beside = std::clamp(BodyRoom() - size.width(), 0, margins); // where it has room
+    const QSize least = size + QSize(beside, margins);
     Body().setMinimumSize(least.expandedTo(Body().layout()->minimumSize()));
     const QSize left = Body().size() - size;
     panel_->setGeometry(QRect(QPoint(left.width() / 2, left.height() / 2), size));

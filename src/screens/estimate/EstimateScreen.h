@@ -51,6 +51,7 @@ class EstimateScreen : public Screen, public EstimateClient {
     void OnCloseByFrame() override;
     void OnUncover() override;
     QWidget* FirstFocus() override;
+    void OnBodyRoom() override;
     void keyPressEvent(QKeyEvent* event) override;
 
   private:

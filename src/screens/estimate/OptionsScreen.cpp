@@ -7,6 +7,7 @@
 #include "screens/ControlNames.h"
 #include "screens/Controls.h"
 #include "screens/Display.h"
+#include "screens/Narrowing.h"
 #include "screens/Theme.h"
 #include "screens/estimate/SearchProgress.h"
 
@@ -37,8 +38,8 @@ QFrame* NewFrame(QWidget* parent, const char* name) {
 }
 
 /// The caption and "SELECT" above a group of options.
-void AddHeading(QVBoxLayout& layout, QWidget& frame, const char* captionName,
-                std::string_view caption, const char* selectName) {
+QLabel* AddHeading(QVBoxLayout& layout, QWidget& frame, const char* captionName,
+                   std::string_view caption, const char* selectName) {
     QLabel* label = NewLabel(&frame, captionName, caption);
     SetRole(*label, TextRole::Heading);
     layout.addWidget(label);
@@ -46,6 +47,7 @@ void AddHeading(QVBoxLayout& layout, QWidget& frame, const char* captionName,
     SetRole(*select, TextRole::Hint);
     layout.addWidget(select);
     frame.setAccessibleName(ToQt(caption));
+    return label;
 }
 
 /// The position of the chosen option; 0 when none is.
@@ -81,8 +83,8 @@ void OptionsScreen::Choose(const FillChoices& choices) {
 
 void OptionsScreen::BuildMinCuts(QWidget& frame) {
     auto* layout = new QVBoxLayout(&frame);
-    AddHeading(*layout, frame, Controls::minCutHeading, Words("MINIMUM CUT LENGTH"),
-               Controls::minCutSelect);
+    headings_.push_back(AddHeading(*layout, frame, Controls::minCutHeading,
+                                   Words("MINIMUM CUT LENGTH"), Controls::minCutSelect));
     auto* group = new QButtonGroup(&frame);
     KeepTabAtChosen(*group);
     for (std::size_t i = 0; i < minCuts_.size(); ++i) {
@@ -103,8 +105,9 @@ void OptionsScreen::BuildMinCuts(QWidget& frame) {
 
 void OptionsScreen::BuildPieces(QWidget& frame) {
     auto* layout = new QVBoxLayout(&frame);
-    AddHeading(*layout, frame, Controls::piecesHeading, Words("MAXIMUM NUMBER OF PIECES PER FILL"),
-               Controls::piecesSelect);
+    headings_.push_back(AddHeading(*layout, frame, Controls::piecesHeading,
+                                   Words("MAXIMUM NUMBER OF PIECES PER FILL"),
+                                   Controls::piecesSelect));
     auto* group = new QButtonGroup(&frame);
     KeepTabAtChosen(*group);
     auto* grid = new QGridLayout;
@@ -158,18 +161,27 @@ void OptionsScreen::BuildPanel() {
     heading->setAlignment(Qt::AlignHCenter);
     layout->addWidget(heading);
 
-    auto* choices = new QHBoxLayout;
-    choices->setSpacing(2 * Pixels(Metrics::Margin));
+    groups_ = new QHBoxLayout;
+    groups_->setSpacing(2 * Pixels(Metrics::Margin));
     QFrame* minCuts = NewFrame(panel, Controls::minCutGroup);
     BuildMinCuts(*minCuts);
-    choices->addWidget(minCuts);
+    groups_->addWidget(minCuts);
     QFrame* pieces = NewFrame(panel, Controls::piecesGroup);
     BuildPieces(*pieces);
-    choices->addWidget(pieces);
-    layout->addLayout(choices);
+    groups_->addWidget(pieces);
+    layout->addLayout(groups_);
 
     layout->addLayout(BuildProgress(*panel));
     AddPanel(*panel);
+}
+
+void OptionsScreen::OnBodyRoom() {
+    const int inside = PanelRoom() - 2 * Pixels(Metrics::Margin);
+    for (QLabel* heading : headings_) {
+        const QMargins around = heading->parentWidget()->layout()->contentsMargins();
+        WrapWithin(*heading, inside - around.left() - around.right());
+    }
+    SetStacked(*groups_, NaturalWidth(*groups_) > inside);
 }
 
 void OptionsScreen::TakeChoices() {

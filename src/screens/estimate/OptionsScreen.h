@@ -6,7 +6,9 @@
 #include "screens/estimate/EstimateClient.h"
 
 #include <array>
+#include <vector>
 
+class QBoxLayout;
 class QLabel;
 class QLayout;
 class QProgressBar;
@@ -30,6 +32,7 @@ class OptionsScreen : public TitledScreen {
     std::string_view GuidePage() const override { return GuidePages::options; }
     void OnCloseByFrame() override;
     QWidget* FirstFocus() override;
+    void OnBodyRoom() override;
     void keyPressEvent(QKeyEvent* event) override;
 
   private:
@@ -48,6 +51,8 @@ class OptionsScreen : public TitledScreen {
     EstimateClient& client_;
     std::array<QRadioButton*, AllMinCuts.size()> minCuts_{};
     std::array<QRadioButton*, MostPiecesPerFill> pieces_{};
+    QBoxLayout* groups_ = nullptr; ///< of options
+    std::vector<QLabel*> headings_;
     QPushButton* continue_ = nullptr;
     QProgressBar* bar_ = nullptr;
     QLabel* percentage_ = nullptr;

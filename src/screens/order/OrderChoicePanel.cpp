@@ -8,6 +8,7 @@
 #include "screens/ControlNames.h"
 #include "screens/Controls.h"
 #include "screens/Display.h"
+#include "screens/Narrowing.h"
 #include "screens/Theme.h"
 #include "screens/order/RollTable.h"
 
@@ -143,7 +144,7 @@ QBoxLayout* OrderChoicePanel::BuildRolls() {
 }
 
 QBoxLayout* OrderChoicePanel::BuildFields() {
-    auto* grid = new QGridLayout;
+    auto* grid = grid_ = new QGridLayout;
     grid->setHorizontalSpacing(Pixels(Metrics::Margin));
     grid->setVerticalSpacing(Pixels(Metrics::Spacing / 2));
     const auto add = [&](const char* option) {
@@ -152,8 +153,8 @@ QBoxLayout* OrderChoicePanel::BuildFields() {
         box->setObjectName(field.Name);
         box->setMaxLength(LongestText);
         KeepTextWidth(*box, FieldWidth);
-        grid->addLayout(Labelled(NewLabelFor(*box, this, field.CaptionName, field.Caption), box),
-                        field.Row, field.Column);
+        captions_.push_back(NewLabelFor(*box, this, field.CaptionName, field.Caption));
+        grid->addLayout(Labelled(captions_.back(), box), field.Row, field.Column);
         tabOrder_.push_back(box);
     };
     const auto addBox = [&](QCheckBox* box, int row, int columns) {
@@ -164,10 +165,9 @@ QBoxLayout* OrderChoicePanel::BuildFields() {
         add(option);
     }
     OfferParts();
-    grid->addLayout(
-        Labelled(NewLabelFor(*parts_, this, Controls::orderPartingCaption, Words("&PARTS AT MOST")),
-                 parts_),
-        PartsRow, 0);
+    captions_.push_back(
+        NewLabelFor(*parts_, this, Controls::orderPartingCaption, Words("&PARTS AT MOST")));
+    grid->addLayout(Labelled(captions_.back(), parts_), PartsRow, 0);
     tabOrder_.push_back(parts_);
     add("shortest part");
     join_ = NewBox(Controls::orderJoinRooms, Words("&JOIN ROOMS NO WIDER THAN THE ROLL"));
@@ -321,8 +321,32 @@ void OrderChoicePanel::FocusFault(const OrderRequestFault& fault) {
     }
 }
 
-void OrderChoicePanel::SetFieldsBeside(bool beside) {
-    columns_->setDirection(beside ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+void OrderChoicePanel::SetBesideResults(bool beside) {
+    isBesideResults_ = beside;
+    Arrange();
+}
+
+void OrderChoicePanel::SetRoom(int room) {
+    room_ = room;
+    Arrange();
+}
+
+/// Captions are broken only where that is needed with the fields below the rolls, too.
+void OrderChoicePanel::Arrange() {
+    const QMargins around = layout()->contentsMargins();
+    const int inside = room_ - around.left() - around.right() - 2 * frameWidth();
+    WrapCaptions(inside);
+    SetStacked(*columns_, isBesideResults_ || LeastWidth(*columns_) > inside);
+}
+
+/// In each of the two columns of fields.
+void OrderChoicePanel::WrapCaptions(int room) {
+    const int field = TextPixels(FieldWidth) + Pixels(Metrics::Spacing / 2);
+    const int column = (room - grid_->horizontalSpacing()) / 2;
+    for (QLabel* caption : captions_) {
+        WrapWithin(*caption, column - field);
+    }
+    WrapWithin(*join_, room);
 }
 
 } // namespace tarn

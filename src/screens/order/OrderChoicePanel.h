@@ -14,6 +14,7 @@
 class QBoxLayout;
 class QCheckBox;
 class QComboBox;
+class QGridLayout;
 class QLabel;
 class QLineEdit;
 
@@ -43,8 +44,11 @@ class OrderChoicePanel : public QFrame {
     /// Take the focus to the field of a fault.
     void FocusFault(const OrderRequestFault& fault);
 
-    /// Whether the fields stand beside the rolls; else below them.
-    void SetFieldsBeside(bool beside);
+    /// Whether the results stand beside the choices. The fields are below the rolls then, and else
+    /// beside them, where the room takes both.
+    void SetBesideResults(bool beside);
+    /// Make do with a width, pixels.
+    void SetRoom(int room);
     /// The controls in the order of the Tab key.
     const std::vector<QWidget*>& TabOrder() const { return tabOrder_; }
 
@@ -66,10 +70,16 @@ class OrderChoicePanel : public QFrame {
     void OfferParts();
     void Connect();
     void NotePattern();
+    void Arrange();
+    void WrapCaptions(int room);
 
     Units units_;
+    int room_ = QWIDGETSIZE_MAX;
+    bool isBesideResults_ = false;
     bool showing_ = false; ///< what changes is not the user's doing
     QBoxLayout* columns_ = nullptr;
+    QGridLayout* grid_ = nullptr;   ///< of the fields
+    std::vector<QLabel*> captions_; ///< of the fields
     QComboBox* carpet_ = nullptr;
     QLabel* note_ = nullptr;
     RollTable* rolls_ = nullptr;

@@ -7,6 +7,7 @@
 #include "screens/Controls.h"
 #include "screens/Display.h"
 #include "screens/ElidedLabel.h"
+#include "screens/Narrowing.h"
 #include "screens/SaveProject.h"
 #include "screens/Theme.h"
 #include "screens/order/ComparisonPanel.h"
@@ -44,7 +45,8 @@ constexpr auto Stopped = Words("Stopped: the best so far.");
 constexpr auto OutOfDate = Words("OUT OF DATE: the choices have changed. Press COMPARE.");
 constexpr auto AllRefused = Words("Every roll and lay is refused: the notes say why.");
 
-constexpr double WideFrom = 16500; ///< twips: from here on all parts stand side by side
+/// From which width on all parts stand side by side, twips; larger text takes more.
+constexpr double WideFrom = 16500;
 
 std::string OtherUnitsNote(Units shown) {
     return shown == Units::Metric
@@ -83,7 +85,6 @@ void OrderScreen::Build() {
     rows->addLayout(BuildButtons());
     ShowTitle();
     SetTabOrder();
-    Body().installEventFilter(this);
     ShowPart(Comparison);
 }
 
@@ -131,7 +132,7 @@ QBoxLayout* OrderScreen::BuildParts() {
     return columns_;
 }
 
-QBoxLayout* OrderScreen::BuildButtons() {
+QLayout* OrderScreen::BuildButtons() {
     compare_ = NewButton(&Body(), Controls::compare, Words("CO&MPARE"));
     stop_ = NewButton(&Body(), Controls::stopComparing, Words("S&TOP"));
     print_ = NewButton(&Body(), Controls::printOrder, Words("PR&INT"));
@@ -139,15 +140,11 @@ QBoxLayout* OrderScreen::BuildButtons() {
     back_ = NewButton(&Body(), Controls::leaveOrder, Words("&BACK"));
     SetPrimary(*compare_);
     BuildFiles();
-    auto* line = new QHBoxLayout;
-    line->setSpacing(Pixels(Metrics::Spacing));
+    buttons_ = new WrappingRow;
     for (QPushButton* button : {compare_, stop_, print_, saveAs_, back_}) {
-        if (button == back_) {
-            line->addStretch();
-        }
-        line->addWidget(button);
+        buttons_->Add(*button, button == back_);
     }
-    return line;
+    return buttons_;
 }
 
 void OrderScreen::BuildFiles() {
@@ -205,15 +202,15 @@ void OrderScreen::ShowTitle() {
     unitsWarning_->setVisible(!words.empty());
 }
 
-bool OrderScreen::eventFilter(QObject* watched, QEvent* event) {
-    if (watched == &Body() && event->type() == QEvent::Resize) {
-        Guard(Words("The screen could not be arranged."), [this] { Arrange(); });
-    }
-    return Screen::eventFilter(watched, event);
+void OrderScreen::OnBodyRoom() {
+    Arrange();
+    const int room = BodyRoom() - 2 * Pixels(Metrics::Margin);
+    buttons_->SetRoom(room);
+    choices_->SetRoom(room);
 }
 
 void OrderScreen::Arrange() {
-    const bool isWide = Scroller().viewport()->width() >= Pixels(WideFrom);
+    const bool isWide = width() >= TextPixels(WideFrom);
     if (isWide != isWide_) {
         isWide_ = isWide;
         ShowPart(static_cast<Part>(tabs_->currentIndex()));
@@ -223,7 +220,7 @@ void OrderScreen::Arrange() {
 void OrderScreen::ShowPart(Part part) {
     tabs_->setCurrentIndex(part); // which comes back here
     tabs_->setVisible(!isWide_);
-    choices_->SetFieldsBeside(!isWide_);
+    choices_->SetBesideResults(isWide_);
     columns_->setStretchFactor(choices_, isWide_ ? 0 : 1);
     choices_->setVisible(isWide_ || part == Choices);
     results_->setVisible(isWide_ || part != Choices);

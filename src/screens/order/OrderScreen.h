@@ -16,6 +16,7 @@
 
 class QBoxLayout;
 class QLabel;
+class QLayout;
 class QMenu;
 class QPushButton;
 class QTabBar;
@@ -25,6 +26,7 @@ namespace tarn {
 class ComparisonPanel;
 class OrderChoicePanel;
 class RollPanel;
+class WrappingRow;
 struct OrderDocument;
 struct OrderFile;
 
@@ -39,11 +41,10 @@ class OrderScreen : public Screen {
     OrderScreen(Session& session, std::optional<Byte> carpet);
     ~OrderScreen() override;
 
-    bool eventFilter(QObject* watched, QEvent* event) override;
-
   protected:
     std::string_view GuidePage() const override { return GuidePages::order; }
     void OnCloseByFrame() override;
+    void OnBodyRoom() override;
     QWidget* FirstFocus() override;
     void keyPressEvent(QKeyEvent* event) override;
 
@@ -53,7 +54,7 @@ class OrderScreen : public Screen {
     void Build();
     QBoxLayout* BuildTitle();
     QBoxLayout* BuildParts();
-    QBoxLayout* BuildButtons();
+    QLayout* BuildButtons();
     void BuildFiles();
     void Connect();
     void SetTabOrder();
@@ -108,6 +109,7 @@ class OrderScreen : public Screen {
     QLabel* state_ = nullptr;
     QLabel* title_ = nullptr;
     QLabel* unitsWarning_ = nullptr;
+    WrappingRow* buttons_ = nullptr;
     QMenu* files_ = nullptr;
     QPushButton* compare_ = nullptr;
     QPushButton* stop_ = nullptr;

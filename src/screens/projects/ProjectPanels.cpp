@@ -7,6 +7,7 @@
 #include "screens/Controls.h"
 #include "screens/Display.h"
 #include "screens/ElidedLabel.h"
+#include "screens/Narrowing.h"
 #include "screens/Theme.h"
 #include "screens/projects/ChoiceList.h"
 #include "screens/projects/ProjectBox.h"
@@ -16,6 +17,10 @@
 #include <QHBoxLayout>
 #include <QPushButton>
 #include <QVBoxLayout>
+
+#include <algorithm>
+#include <array>
+#include <utility>
 
 namespace tarn {
 
@@ -89,18 +94,18 @@ SelectionPanel::SelectionPanel() {
     setMinimumHeight(Pixels(MostPanelHeight));
     MakeControls();
     LayOut();
+    SetRoom(QWIDGETSIZE_MAX);
 }
 
 void SelectionPanel::MakeControls() {
-    const auto newList = [this](const char* name, double width) {
+    const auto newList = [this](const char* name) {
         auto* list = new ChoiceList(this);
         list->setObjectName(name);
-        list->setMinimumWidth(TextPixels(width));
         return list;
     };
-    Months = newList(Controls::months, MonthsWidth);
-    Directories = newList(Controls::directories, DirectoriesWidth);
-    Projects = newList(Controls::projects, ProjectsWidth);
+    Months = newList(Controls::months);
+    Directories = newList(Controls::directories);
+    Projects = newList(Controls::projects);
     monthsCaption_ = NewLabelFor(*Months, this, Controls::monthsCaption, Words("&MONTHS"));
     directoriesCaption_ =
         NewLabelFor(*Directories, this, Controls::directoriesCaption, Words("&DIRECTORIES"));
@@ -117,13 +122,11 @@ void SelectionPanel::MakeControls() {
 }
 
 void SelectionPanel::LayOut() {
-    auto* buttons = new QHBoxLayout;
-    buttons->setSpacing(Pixels(Metrics::Spacing));
-    buttons->addWidget(NewProject);
-    buttons->addWidget(NewDirectory);
-    buttons->addStretch();
-    buttons->addWidget(Done);
-    buttons->addWidget(Exit);
+    buttons_ = new WrappingRow;
+    buttons_->Add(*NewProject);
+    buttons_->Add(*NewDirectory);
+    buttons_->Add(*Done, true);
+    buttons_->Add(*Exit);
     auto* layout = new QGridLayout(this);
     SetSpacing(*layout, Metrics::Margin);
     layout->addWidget(monthsCaption_, 0, 0);
@@ -133,10 +136,23 @@ void SelectionPanel::LayOut() {
     layout->addWidget(Directories, 1, 1, 2, 1);
     layout->addWidget(Projects, 1, 2);
     layout->addWidget(Name, 2, 2);
-    layout->addLayout(buttons, 3, 0, 1, 3);
+    layout->addLayout(buttons_, 3, 0, 1, 3);
     layout->setRowStretch(1, 1);
 
     SetTabOrders({Months, Directories, Projects, Name, NewProject, NewDirectory, Done, Exit});
+}
+
+/// The lists have what they like, or share what there is alike.
+void SelectionPanel::SetRoom(int room) {
+    const int inside = room - 2 * Pixels(Metrics::Margin) - 2 * frameWidth();
+    buttons_->SetRoom(inside);
+    const int forLists = inside - 2 * Pixels(Metrics::Spacing);
+    const std::array lists{std::pair(Months, MonthsWidth), std::pair(Directories, DirectoriesWidth),
+                           std::pair(Projects, ProjectsWidth)};
+    for (const auto& [list, width] : lists) {
+        const double share = width / (MonthsWidth + DirectoriesWidth + ProjectsWidth);
+        list->setMinimumWidth(std::min(TextPixels(width), static_cast<int>(forLists * share)));
+    }
 }
 
 } // namespace tarn

@@ -13,6 +13,7 @@ namespace tarn {
 
 class ChoiceList;
 class ProjectBox;
+class WrappingRow;
 
 /// The two panels of the project selection, built and laid out; ProjectScreen makes them work. At
 /// the usual type size neither is higher than MostPanelHeight, twips.
@@ -40,6 +41,9 @@ class SelectionPanel : public QFrame {
   public:
     SelectionPanel();
 
+    /// Make do with a width, pixels: narrower lists, buttons on further rows.
+    void SetRoom(int room);
+
     ChoiceList* Months;
     ChoiceList* Directories;
     ChoiceList* Projects;
@@ -53,6 +57,7 @@ class SelectionPanel : public QFrame {
     void MakeControls();
     void LayOut();
 
+    WrappingRow* buttons_;
     QLabel* monthsCaption_;
     QLabel* directoriesCaption_;
     QLabel* projectsCaption_;

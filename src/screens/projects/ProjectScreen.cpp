@@ -100,6 +100,10 @@ void ProjectScreen::keyPressEvent(QKeyEvent* event) {
     TitledScreen::keyPressEvent(event);
 }
 
+void ProjectScreen::OnBodyRoom() {
+    selection_->SetRoom(PanelRoom());
+}
+
 QWidget* ProjectScreen::FirstFocus() {
     return settings_->SelectProject;
 }

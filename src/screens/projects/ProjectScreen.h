@@ -24,6 +24,7 @@ class ProjectScreen : public TitledScreen {
     std::string_view GuidePage() const override { return GuidePages::projects; }
     void OnCloseByFrame() override;
     QWidget* FirstFocus() override;
+    void OnBodyRoom() override;
     /// Escape closes the selection, as its EXIT does.
     void keyPressEvent(QKeyEvent* event) override;
 

@@ -13,6 +13,7 @@
 #include "screens/Controls.h"
 #include "screens/Display.h"
 #include "screens/Guard.h"
+#include "screens/Narrowing.h"
 #include "screens/Theme.h"
 
 #include <QApplication>
@@ -107,10 +108,12 @@ struct SizeRow {
     const char* MinorUnitName;
 };
 
-void AddSizeRow(QWidget* parent, QGridLayout& grid, int at, const SizeRow& row, Units shown) {
+/// Answers the size's caption.
+QLabel* AddSizeRow(QWidget* parent, QGridLayout& grid, int at, const SizeRow& row, Units shown) {
     const std::string_view majorUnit = shown == Units::Metric ? Words("M") : Words("FEET");
     const std::string_view minorUnit = shown == Units::Metric ? Words("CM") : Words("INCHES");
-    grid.addWidget(NewLabelFor(row.Major, parent, row.CaptionName, row.Caption), at, 0);
+    QLabel* caption = NewLabelFor(row.Major, parent, row.CaptionName, row.Caption);
+    grid.addWidget(caption, at, 0);
     grid.addWidget(&row.Major, at, 1);
     grid.addWidget(NewLabel(parent, row.MajorUnitName, majorUnit), at, 2);
     grid.addWidget(&row.Minor, at, 3);
@@ -119,6 +122,7 @@ void AddSizeRow(QWidget* parent, QGridLayout& grid, int at, const SizeRow& row, 
                                        ToQt(majorUnit));
     row.Minor.setAccessibleDescription(WithoutMark(row.Caption) + QLatin1Char(' ') +
                                        ToQt(minorUnit));
+    return caption;
 }
 
 } // namespace
@@ -171,16 +175,16 @@ QGroupBox* RoomEntryFrame::NewSizeGroup(Units shown) {
     SetGroupCaption(*group, Controls::roomSizes, ToQt(Words("ROOM SIZE")));
     auto* grid = new QGridLayout(group);
     SetSpacing(*grid, Metrics::Spacing);
-    AddSizeRow(this, *grid, 0,
-               {Text(WidthMajor), Text(WidthMinor), Words("ROOM   &WIDTH"),
-                Controls::roomWidthCaption, Controls::roomWidthMajorUnit,
-                Controls::roomWidthMinorUnit},
-               shown);
-    AddSizeRow(this, *grid, 1,
-               {Text(LengthMajor), Text(LengthMinor), Words("ROOM &LENGTH"),
-                Controls::roomLengthCaption, Controls::roomLengthMajorUnit,
-                Controls::roomLengthMinorUnit},
-               shown);
+    sizeCaptions_[0] = AddSizeRow(this, *grid, 0,
+                                  {Text(WidthMajor), Text(WidthMinor), Words("ROOM   &WIDTH"),
+                                   Controls::roomWidthCaption, Controls::roomWidthMajorUnit,
+                                   Controls::roomWidthMinorUnit},
+                                  shown);
+    sizeCaptions_[1] = AddSizeRow(this, *grid, 1,
+                                  {Text(LengthMajor), Text(LengthMinor), Words("ROOM &LENGTH"),
+                                   Controls::roomLengthCaption, Controls::roomLengthMajorUnit,
+                                   Controls::roomLengthMinorUnit},
+                                  shown);
     grid->setColumnStretch(4, 1);
     return group;
 }
@@ -252,19 +256,34 @@ void RoomEntryFrame::Arrange(Units shown) {
     sizes->addWidget(NewNote());
     sizes->addStretch();
     sizes->addWidget(NewItemNumberRow(), 0, Qt::AlignHCenter);
-    auto* grid = new QGridLayout(this);
-    SetSpacing(*grid, Metrics::Margin, Metrics::Margin);
-    grid->addLayout(sizes, 0, 0);
-    grid->addWidget(NewItemGroup(), 0, 1);
-    grid->setColumnStretch(1, 1);
-    auto* row = new QHBoxLayout;
-    row->setSpacing(Pixels(Metrics::Spacing));
+    groups_ = new QHBoxLayout;
+    groups_->addLayout(sizes);
+    groups_->addWidget(NewItemGroup(), 1);
+    buttons_ = new WrappingRow;
     for (QPushButton* button : {next_, previous_, delete_, estimate_, report_}) {
         button->ensurePolished();
         button->setMinimumWidth(std::max(Pixels(Metrics::ButtonWidth), button->sizeHint().width()));
-        row->addWidget(button);
+        buttons_->Add(*button);
     }
-    grid->addLayout(row, 1, 0, 1, 2);
+    auto* rows = new QVBoxLayout(this);
+    SetSpacing(*rows, Metrics::Margin, Metrics::Margin);
+    rows->addLayout(groups_);
+    rows->addLayout(buttons_);
+    groups_->setSpacing(Pixels(Metrics::Margin));
+}
+
+void RoomEntryFrame::SetRoom(int room) {
+    const QMargins outside = contentsMargins() + layout()->contentsMargins();
+    const int inside = room - outside.left() - outside.right();
+    buttons_->SetRoom(inside);
+    QWidget& sizes = *sizeCaptions_[0]->parentWidget();
+    const int besideCaptions =
+        sizes.sizeHint().width() -
+        std::max(sizeCaptions_[0]->sizeHint().width(), sizeCaptions_[1]->sizeHint().width());
+    for (QLabel* caption : sizeCaptions_) {
+        WrapWithin(*caption, inside - besideCaptions);
+    }
+    SetStacked(*groups_, NaturalWidth(*groups_) > inside);
 }
 
 void RoomEntryFrame::resizeEvent(QResizeEvent* event) {

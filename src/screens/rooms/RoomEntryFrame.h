@@ -14,12 +14,15 @@
 #include <optional>
 #include <string>
 
+class QBoxLayout;
 class QComboBox;
 class QGridLayout;
 class QLabel;
 class QPushButton;
 
 namespace tarn {
+
+class WrappingRow;
 
 /// The fields of one room and the buttons of the room entry. It shows and gives what stands in the
 /// fields, takes Enter from field to field, empties a size field that holds no size, spreads a
@@ -68,6 +71,10 @@ class RoomEntryFrame : public QGroupBox {
     QSize sizeHint() const override { return QWidget::sizeHint(); }
     // NOLINTNEXTLINE(bugprone-parent-virtual-call): a group box asks for room for its caption
     QSize minimumSizeHint() const override { return QWidget::minimumSizeHint(); }
+
+    /// Make do with a width, pixels: buttons on further rows, the groups of fields below each
+    /// other.
+    void SetRoom(int room);
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -120,6 +127,9 @@ class RoomEntryFrame : public QGroupBox {
     QPushButton* delete_ = nullptr;
     QPushButton* estimate_ = nullptr;
     QPushButton* report_ = nullptr;
+    std::array<QLabel*, 2> sizeCaptions_{};
+    QBoxLayout* groups_ = nullptr;
+    WrappingRow* buttons_ = nullptr;
     QLabel* itemNumber_ = nullptr;
     QLabel* note_ = nullptr; ///< the line below the sizes
     QString warning_;

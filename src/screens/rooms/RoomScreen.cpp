@@ -143,7 +143,9 @@ void RoomScreen::MakeButtonsBelow() {
         button->setMinimumWidth(button == showList_ ? widest : Pixels(Metrics::ButtonWidth));
         row->addWidget(button);
     }
-    row->addSpacing(widest + row->spacing()); // so that BACK and SAVE stand in the middle
+    balance_ = new QSpacerItem(widest + row->spacing(), 0, QSizePolicy::Fixed);
+    row->addItem(balance_);
+    balanced_ = balance_->sizeHint().width();
     SetBelow(*below_);
 }
 
@@ -255,6 +257,13 @@ void RoomScreen::OnArranged() {
             FirstFocus()->setFocus();
         }
     }
+}
+
+void RoomScreen::OnBodyRoom() {
+    entry_->SetRoom(PanelRoom());
+    const int taken = below_->sizeHint().width() - balance_->sizeHint().width();
+    balance_->changeSize(std::clamp(PanelRoom() - taken, 0, balanced_), 0, QSizePolicy::Fixed);
+    below_->layout()->invalidate();
 }
 
 void RoomScreen::RunCommand(const std::string& failure, const std::function<void()>& body) {

@@ -10,6 +10,7 @@
 #include <string>
 
 class QPushButton;
+class QSpacerItem;
 
 namespace tarn {
 
@@ -38,6 +39,7 @@ class RoomScreen : public TitledScreen {
     void OnCloseByFrame() override { Leave(); }
     void OnUncover() override;
     void OnArranged() override;
+    void OnBodyRoom() override;
     QWidget* FirstFocus() override;
 
   private:
@@ -143,6 +145,8 @@ class RoomScreen : public TitledScreen {
     QWidget* below_ = nullptr; ///< holds the buttons that follow
     QPushButton* back_ = nullptr;
     QPushButton* save_ = nullptr;
+    QSpacerItem* balance_ = nullptr;  ///< has BACK and SAVE stand in the middle, where it has room
+    int balanced_ = 0;                ///< its width then
     QPushButton* showList_ = nullptr; ///< shows the list, or the form again
     std::size_t current_;             ///< the room on the screen
     RoomDraft untouched_;             ///< its fields as they stand when nothing is typed
