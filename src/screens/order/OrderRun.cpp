@@ -1,10 +1,12 @@
 #include "screens/order/OrderRun.h"
 
+#include <QCoreApplication>
 #include <QMetaObject>
 
 #include <atomic>
 #include <mutex>
 #include <optional>
+#include <thread>
 #include <utility>
 
 namespace tarn {
@@ -16,19 +18,33 @@ struct Abandoned {};
 
 } // namespace
 
-/// What the two threads share: the order so far, of which the window's thread takes the last one,
-/// however many it missed.
-class OrderRun::Search : public OrderObserver {
+/// The search on its thread, and what it shares with the window's: the order so far, of which that
+/// one takes the last, however many it missed. Abandoned, it ends as soon as it can and destroys
+/// itself then, with the program at the latest.
+class OrderRun::Search : public QObject, public OrderObserver {
   public:
+    explicit Search(Callbacks callbacks)
+        : callbacks_(std::move(callbacks)) {}
+    ~Search() override { thread_.join(); }
+
+    void Begin(Project project, Byte carpet, OrderRequest request, const OrderLimits& limits) {
+        thread_ =
+            std::thread([this, project = std::move(project), carpet, request = std::move(request),
+                         limits] { Run(project, carpet, request, limits); });
+    }
+    void Stop() { stopped_ = true; }
+    void Abandon() {
+        abandoned_ = true;
+        setParent(QCoreApplication::instance());
+        EndAbandoned();
+    }
+
+  private:
     struct News {
         std::optional<Order> SoFar;
         bool HasEnded = false;
         std::exception_ptr Fault;
     };
-
-    /// `wake` is called by the search's thread when there are news and those before were taken.
-    explicit Search(std::function<void()> wake)
-        : wake_(std::move(wake)) {}
 
     /// The thread of the search.
     void Run(const Project& project, Byte carpet, const OrderRequest& request,
@@ -51,14 +67,6 @@ class OrderRun::Search : public OrderObserver {
         }
         return !stopped_;
     }
-    void Stop() { stopped_ = true; }
-    void Abandon() { abandoned_ = true; }
-    News Take() {
-        const std::scoped_lock lock(mutex_);
-        return std::exchange(news_, {});
-    }
-
-  private:
     void Tell(News news) {
         {
             const std::scoped_lock lock(mutex_);
@@ -71,46 +79,53 @@ class OrderRun::Search : public OrderObserver {
                 return;
             }
         }
-        wake_();
+        QMetaObject::invokeMethod(
+            this, [this] { Deliver(); }, Qt::QueuedConnection);
     }
 
-    std::function<void()> wake_;
+    News Take() {
+        const std::scoped_lock lock(mutex_);
+        return std::exchange(news_, {});
+    }
+    /// Each callback may abandon this.
+    void Deliver() {
+        const News news = Take();
+        hasEnded_ = hasEnded_ || news.HasEnded;
+        if (news.SoFar && !abandoned_) {
+            callbacks_.Progress(*news.SoFar);
+        }
+        if (news.HasEnded && !abandoned_) {
+            callbacks_.Ended(news.Fault);
+        }
+        EndAbandoned();
+    }
+    void EndAbandoned() {
+        if (abandoned_ && hasEnded_) {
+            deleteLater(); // nothing but the end of the thread is left to wait for
+        }
+    }
+
+    Callbacks callbacks_;
+    bool hasEnded_ = false; ///< as far as the window's thread knows
     std::atomic<bool> stopped_ = false;
     std::atomic<bool> abandoned_ = false;
     std::mutex mutex_;
     News news_;
+    std::thread thread_;
 };
 
 OrderRun::OrderRun(Project project, Byte carpet, OrderRequest request, const OrderLimits& limits,
                    Callbacks callbacks)
-    : callbacks_(std::move(callbacks))
-    , search_(std::make_unique<Search>([this] {
-        QMetaObject::invokeMethod(
-            this, [this] { Deliver(); }, Qt::QueuedConnection);
-    })) {
-    thread_ = std::thread([search = search_.get(), project = std::move(project), carpet,
-                           request = std::move(request),
-                           limits] { search->Run(project, carpet, request, limits); });
+    : search_(new Search(std::move(callbacks))) {
+    search_->Begin(std::move(project), carpet, std::move(request), limits);
 }
 
 OrderRun::~OrderRun() {
     search_->Abandon();
-    thread_.join();
 }
 
 void OrderRun::Stop() {
     search_->Stop();
-}
-
-void OrderRun::Deliver() {
-    const Search::News news = search_->Take();
-    if (news.SoFar) {
-        callbacks_.Progress(*news.SoFar);
-    }
-    if (news.HasEnded) {
-        const auto ended = callbacks_.Ended; // it may destroy this
-        ended(news.Fault);
-    }
 }
 
 } // namespace tarn

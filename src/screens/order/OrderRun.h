@@ -3,19 +3,14 @@
 #include "order/MakeOrder.h"
 #include "project/Project.h"
 
-#include <QObject>
-
 #include <exception>
 #include <functional>
-#include <memory>
-#include <thread>
 
 namespace tarn {
 
 /// The making of one order on threads of its own, so that the window goes on working. It begins
-/// with the object and ends with it at the latest; what it finds is told by the event loop of the
-/// thread that made the object.
-class OrderRun : public QObject {
+/// with the object; what it finds is told by the event loop of the thread that made the object.
+class OrderRun {
   public:
     struct Callbacks {
         /// Some row has become better. Every row of the order is refused, has its best layout so
@@ -28,8 +23,11 @@ class OrderRun : public QObject {
 
     OrderRun(Project project, Byte carpet, OrderRequest request, const OrderLimits& limits,
              Callbacks callbacks);
-    /// Ends the search, which takes less than a tenth of a second; nothing is told any more.
-    ~OrderRun() override;
+    /// Ends the search without waiting for it: the window does not stand still for that. Nothing is
+    /// told any more. The program's end waits for it.
+    ~OrderRun();
+    OrderRun(const OrderRun&) = delete;
+    OrderRun& operator=(const OrderRun&) = delete;
 
     /// End the search; the best so far is told before the end is.
     void Stop();
@@ -37,11 +35,7 @@ class OrderRun : public QObject {
   private:
     class Search;
 
-    void Deliver();
-
-    Callbacks callbacks_;
-    std::unique_ptr<Search> search_;
-    std::thread thread_;
+    Search* search_; ///< owns itself once this is gone
 };
 
 } // namespace tarn

@@ -4,6 +4,8 @@
 #include "screens/ScreenTesting.h"
 #include "screens/order/OrderRun.h"
 
+#include <QPointer>
+
 #include <gtest/gtest.h>
 
 namespace tarn {
@@ -29,8 +31,13 @@ struct OrderRuns : ::testing::Test {
                                                              [this](const std::exception_ptr& why) {
                                                                  hasEnded = true;
                                                                  fault = why;
-                                                                 run.reset();
+                                                                 DropRun();
                                                              }});
+    }
+    /// The search is the program's own then.
+    void DropRun() {
+        run.reset();
+        search = QCoreApplication::instance()->children().back();
     }
     bool WaitFor(const std::function<bool()>& holds) { return QTest::qWaitFor(holds, 20000); }
 
@@ -40,6 +47,7 @@ struct OrderRuns : ::testing::Test {
     bool hasEnded = false;
     std::exception_ptr fault;
     std::unique_ptr<OrderRun> run;
+    QPointer<QObject> search; ///< of the run that was dropped
 };
 
 TEST_F(OrderRuns, TellTheWholeOrderBeforeTheEnd) {
@@ -70,6 +78,22 @@ TEST_F(OrderRuns, TellNothingOnceTheyAreGone) {
     QCoreApplication::processEvents();
     EXPECT_FALSE(last);
     EXPECT_FALSE(hasEnded);
+}
+
+/// The search itself takes as long as it takes until it notices.
+TEST_F(OrderRuns, DoNotWaitForTheEndOfTheirSearch) {
+    Begin(3600);
+    DropRun();
+    EXPECT_TRUE(search) << "it goes on, for a moment";
+    EXPECT_TRUE(WaitFor([this] { return !search; }));
+    EXPECT_FALSE(last) << "and tells nothing";
+    EXPECT_FALSE(hasEnded);
+}
+
+TEST_F(OrderRuns, LeaveNothingBehindAfterTheirEnd) {
+    Begin(0);
+    EXPECT_TRUE(WaitFor([this] { return hasEnded; }));
+    EXPECT_TRUE(WaitFor([this] { return !search; }));
 }
 
 TEST_F(OrderRuns, HandOnWhatWasRaised) {
