@@ -2,6 +2,7 @@
 
 #include "improve/Bounds.h"
 #include "improve/ColumnGeneration.h"
+#include "improve/CourseSearch.h"
 #include "improve/ExactSearch.h"
 #include "improve/MakePlan.h"
 #include "improve/PatternBounds.h"
@@ -23,6 +24,10 @@ constexpr Double PolishShare = 0.05;
 constexpr Double RelaxationShare = 0.2; ///< of the seconds of a run at most
 constexpr std::size_t MostDecided = 40; ///< fills up to which an exact search is tried
 constexpr Double DecideShare = 4;       ///< of the steps from one start, for an exact search
+constexpr Double RefuteShare = 2;       ///< of the steps from one start, for proofs by courses
+constexpr Double FewRefuteShare = 6;
+constexpr std::size_t FewFills = 6;   ///< of which layouts are found soon, proofs later
+constexpr int StepsPerRelaxation = 8; ///< which takes about so much longer
 constexpr std::size_t StartsPerRoof = 4;
 constexpr std::size_t BestStarts = 12;     ///< that take turns
 constexpr std::int64_t LastPolish = 20000; ///< steps without a gain, when no layout is shorter
@@ -38,6 +43,9 @@ class Improver {
         if (ExactSearch::CanDecide(run.Job()) && run.Job().Fills.size() <= MostDecided) {
             exact_.emplace(run.Job());
         }
+        if (CourseSearch::CanTry(run.Job())) {
+            courses_.emplace(run.Job(), number);
+        }
     }
 
     void Search() {
@@ -50,6 +58,7 @@ class Improver {
         for (int round = static_cast<int>(number_); !run_.IsLeast() && !run_.Stopped(); ++round) {
             LowerRoof();
             DecideRoof(round);
+            RefuteRoof(round);
             if (!run_.Stopped()) {
                 ShortenStarts(round);
             }
@@ -108,6 +117,29 @@ class Improver {
         }
     }
 
+    /// Look for a proof that no layout is shorter where fills may be divided; now and then, for
+    /// what it is worth, that none is as short as the bound.
+    void RefuteRoof(int round) {
+        const bool few = run_.Job().Fills.size() <= FewFills;
+        const std::int64_t steps = Steps(few ? FewRefuteShare : RefuteShare);
+        bool proven = courses_.has_value();
+        while (proven && !run_.IsLeast() && !run_.Stopped()) {
+            constexpr int Turns = 4;
+            const Long roof = round % Turns == 1 ? run_.Bound() : run_.Best().Length - 1;
+            const auto goOn = [&] {
+                bool more = true;
+                for (int step = 0; step < StepsPerRelaxation && more; ++step) {
+                    more = run_.Spend();
+                }
+                return more && IsOpen(run_, roof);
+            };
+            proven = courses_->ProvesLonger(roof, steps / StepsPerRelaxation, goOn);
+            if (proven) {
+                run_.RaiseBound(roof + 1);
+            }
+        }
+    }
+
     bool PackFromAny(Long roof) {
         const bool wasOpen = IsOpen(run_, roof);
         const auto goOn = [&] { return !run_.Stopped() && IsOpen(run_, roof) == wasOpen; };
@@ -150,7 +182,8 @@ class Improver {
     std::size_t next_;   ///< start
     RandomSteps random_;
     std::unique_ptr<Plan> plan_;
-    std::optional<ExactSearch> exact_; ///< for small jobs
+    std::optional<ExactSearch> exact_;    ///< for small jobs
+    std::optional<CourseSearch> courses_; ///< for those with divided fills
     std::vector<PlanStart> starts_;
     std::unique_ptr<Plan> best_; ///< the last that packed all below a roof
     Double effort_ = HasPattern(run_.Job()) ? FirstPatternEffort : FirstEffort;
