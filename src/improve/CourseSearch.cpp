@@ -9,8 +9,8 @@ namespace {
 
 constexpr std::size_t MostFills = 12;
 constexpr std::size_t MostWatched = 3;
-constexpr Long MostStates = 120; ///< of watched fills, as if each had the roll for itself
-constexpr Long LargestWidth = 4000;         ///< widths are rounded down to fit below
+constexpr Long MostStates = 120;    ///< of watched fills, as if each had the roll for itself
+constexpr Long LargestWidth = 4000; ///< widths are rounded down to fit below
 constexpr std::int64_t FirstPatience = 500; ///< relaxations for a state
 constexpr std::int64_t PatienceGrowth = 4;
 constexpr std::size_t AnyNumber = static_cast<std::size_t>(-1);

@@ -63,6 +63,7 @@ class PartPlan::Moves {
         }
         return may;
     }
+    static bool IsTooMuchLeft(const Gap& /*gap*/, const Limits& /*limits*/) { return false; }
     void Begin() {
         plan_.turns_.ResetStates();
         plan_.open_.OpenAll(plan_.turns_);

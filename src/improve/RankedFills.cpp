@@ -26,6 +26,11 @@ RankedFills::RankedFills(const ImproveJob& job)
     for (const std::size_t index : widths_.IndexOf) {
         ++allOfWidth_[index];
     }
+    allAreaOfLength_.assign(lengths_.Values.size(), 0);
+    for (std::size_t fill = 0; fill < job.Fills.size(); ++fill) {
+        areas_.push_back(static_cast<Area64>(job.Fills[fill].Width) * job.Fills[fill].Length);
+        allAreaOfLength_[lengths_.IndexOf[fill]] += areas_.back();
+    }
 }
 
 RankedFills::Measure RankedFills::Measured(const std::vector<Long>& values) {
@@ -105,6 +110,9 @@ void RankedFills::TakeNone() {
     }
     countOfWidth_ = allOfWidth_;
     narrowest_ = 0;
+    areaOfLength_ = allAreaOfLength_;
+    shortEnough_ = areaOfLength_.size();
+    tooLong_ = 0;
 }
 
 RankedFills::Choice RankedFills::Choose(Long gapWidth, const Walls& walls, Long room, Long widest,

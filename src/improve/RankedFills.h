@@ -30,7 +30,9 @@ class RankedFills {
     void TakeNone();
     void Take(std::size_t rank) {
         remaining_[rank / WordBits] &= ~BitOf(rank);
-        --countOfWidth_[widths_.IndexOf[order_[rank]]];
+        const std::size_t fill = order_[rank];
+        --countOfWidth_[widths_.IndexOf[fill]];
+        areaOfLength_[lengths_.IndexOf[fill]] -= areas_[fill];
     }
     /// The least width among the remaining; not to be asked when none remains.
     Long Narrowest() {
@@ -38,6 +40,15 @@ class RankedFills {
             ++narrowest_;
         }
         return widths_.Values[narrowest_];
+    }
+
+    /// The area of the remaining that are longer than `room`. It must not be asked for more room
+    /// than before until all fills remain again, nor may those be taken then.
+    Area64 TooLong(Area64 room) {
+        while (shortEnough_ > 0 && lengths_.Values[shortEnough_ - 1] > room) {
+            tooLong_ += areaOfLength_[--shortEnough_];
+        }
+        return tooLong_;
     }
 
     static constexpr std::size_t NoRank = static_cast<std::size_t>(-1);
@@ -114,6 +125,11 @@ class RankedFills {
     std::vector<Long> countOfWidth_;
     std::vector<Long> allOfWidth_;
     std::size_t narrowest_ = 0;
+    std::vector<Area64> areas_;           ///< by fill
+    std::vector<Area64> areaOfLength_;    ///< of the remaining
+    std::vector<Area64> allAreaOfLength_; ///< of all
+    std::size_t shortEnough_ = 0;         ///< how many lengths were not too long
+    Area64 tooLong_ = 0;                  ///< area of the others
 };
 
 } // namespace tarn

@@ -25,14 +25,20 @@ struct Gap {
 class Skyline {
   public:
     /// An empty roll.
-    void Reset(Long width) { segments_.assign(1, {0, 0, width}); }
+    void Reset(Long width) {
+        segments_.assign(1, {0, 0, width});
+        lowest_ = 0;
+    }
 
     Gap Lowest() const {
         const Segment* const first = segments_.data();
         const std::size_t count = segments_.size();
-        std::size_t low = 0;
-        for (std::size_t i = 1; i < count; ++i) {
-            low = first[i].Y < first[low].Y ? i : low;
+        std::size_t low = lowest_;
+        if (low == NotKnown) {
+            low = 0;
+            for (std::size_t i = 1; i < count; ++i) {
+                low = first[i].Y < first[low].Y ? i : low;
+            }
         }
         const Segment& gap = first[low];
         return {low,
@@ -44,7 +50,7 @@ class Skyline {
     }
 
     /// Put a piece of `width` (at most the gap's) and `length` at the left or the right side of the
-    /// gap. Returns its left edge.
+    /// gap, which is the lowest. Returns its left edge.
     Long Place(const Gap& gap, bool atLeft, Long width, Long length) {
         const std::size_t i = gap.Segment;
         const Long x = atLeft ? gap.X : gap.X + gap.Width - width;
@@ -53,6 +59,7 @@ class Skyline {
             JoinWithNeighbours(i);
             return x;
         }
+        lowest_ = i; // what is left of the gap
         const Segment piece{x, gap.Y + length, width};
         const Segment rest{atLeft ? gap.X + width : gap.X, gap.Y, gap.Width - width};
         // Beside the wall that it is level with the piece joins it; else it is a segment of its
@@ -67,6 +74,7 @@ class Skyline {
         } else {
             segments_[i] = atLeft ? piece : rest;
             segments_.insert(At(i + 1), atLeft ? rest : piece);
+            lowest_ = atLeft ? i + 1 : i;
         }
         return x;
     }
@@ -108,6 +116,7 @@ class Skyline {
     }
 
     void JoinWithNeighbours(std::size_t i) {
+        lowest_ = NotKnown;
         if (i + 1 < segments_.size() && segments_[i + 1].Y == segments_[i].Y) {
             segments_[i].Width += segments_[i + 1].Width;
             segments_.erase(At(i + 1));
@@ -118,7 +127,9 @@ class Skyline {
         }
     }
 
+    static constexpr std::size_t NotKnown = static_cast<std::size_t>(-1);
     std::vector<Segment> segments_;
+    std::size_t lowest_ = NotKnown; ///< segment, the leftmost of equals
 };
 
 } // namespace tarn

@@ -11,12 +11,12 @@ SkylinePlan::SkylinePlan(const ImproveJob& job)
 Area64 SkylinePlan::Unpacked(Long roof, Area64 limit) {
     // What is left free below the roof beyond the slack cannot be packed any more.
     const Area64 slack = static_cast<Area64>(job_->Width) * roof - area_;
-    return LayOut({roof, slack + limit, roof}) ? area_ - LastLaid().Area : limit + 1;
+    return LayOut({roof, slack + limit, roof, limit}) ? area_ - LastLaid().Area : limit + 1;
 }
 
 Area64 SkylinePlan::Length(Area64 limit) {
     const Area64 slack = job_->Width * limit - area_;
-    return LayOut({NoWall, slack, limit}) ? LastLaid().End : limit + 1;
+    return LayOut({NoWall, slack, limit, 0}) ? LastLaid().End : limit + 1;
 }
 
 bool SkylinePlan::ChangeDepartures(RandomSteps& random, std::size_t steps, std::size_t kinds) {

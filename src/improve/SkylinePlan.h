@@ -43,6 +43,7 @@ class SkylinePlan : public Plan {
         Long Roof;       ///< parts end below it
         Area64 Waste;    ///< the most that is left free below them
         Area64 Farthest; ///< no part ends above it
+        Area64 Left;     ///< the most area of fills that is left over
     };
 
     /// `job` has at least one fill and must outlive the plan.
@@ -64,6 +65,8 @@ class SkylinePlan : public Plan {
     ///   Refresh(step)             the choice of a step as the order is now
     ///   MayDiffer(step, roof)     whether what changed may change the step. Asked for the steps in
     ///                             turn. It may be said too often, never too seldom.
+    ///   IsTooMuchLeft(gap, limits)  whether more than may be will be left over, now that `gap` is
+    ///                             the lowest. It may be said too seldom, never too often.
     ///   Begin()                   steps are about to be laid, from an empty roll on
     ///   Skip()                    nothing differs: what laying out would leave is left
     template <class Choice, class HasMore, class Choose, class Put, class Moves>
@@ -125,9 +128,11 @@ class SkylinePlan : public Plan {
     bool IsWithin(const Limits& limits, const Laid& laid) const {
         return laid.End <= limits.Farthest && laid.Waste <= limits.Waste;
     }
-    /// From what is laid on. Each gap and what is chosen for it is told to `note`.
-    template <class HasMore, class Choose, class Put, class Note>
-    bool FillRest(const Limits& limits, HasMore hasMore, Choose choose, Put put, Note note);
+    /// From what is laid on. Each gap and what is chosen for it is told to `note`; what `isLost`
+    /// says of a gap gives it up.
+    template <class HasMore, class Choose, class Put, class Note, class IsLost>
+    bool FillRest(const Limits& limits, HasMore hasMore, Choose choose, Put put, Note note,
+                  IsLost isLost);
     template <class Choice, class Put>
     bool FillGap(const Limits& limits, const Gap& gap, const Walls& walls, const Choice& choice,
                  Put put);
@@ -157,16 +162,21 @@ class SkylinePlan : public Plan {
 template <class HasMore, class Choose, class Put>
 bool SkylinePlan::FillGaps(const Limits& limits, HasMore hasMore, Choose choose, Put put) {
     Clear();
-    return FillRest(limits, hasMore, choose, put, [](const Gap&, const auto&) {});
+    return FillRest(
+        limits, hasMore, choose, put, [](const Gap&, const auto&) {},
+        [](const Gap&) { return false; });
 }
 
-template <class HasMore, class Choose, class Put, class Note>
-bool SkylinePlan::FillRest(const Limits& limits, HasMore hasMore, Choose choose, Put put,
-                           Note note) {
+template <class HasMore, class Choose, class Put, class Note, class IsLost>
+bool SkylinePlan::FillRest(const Limits& limits, HasMore hasMore, Choose choose, Put put, Note note,
+                           IsLost isLost) {
     while (hasMore()) {
         const Gap gap = skyline_.Lowest();
         if (gap.Y >= limits.Roof) {
             break;
+        }
+        if (isLost(gap)) {
+            return false;
         }
         const Long room = limits.Roof - gap.Y;
         const Walls walls(gap, room);
@@ -217,7 +227,8 @@ bool SkylinePlan::FillGapsAgain(const Limits& limits, PlacingSteps<Choice>& step
         steps.Last.push_back({gap, step_, taken ? moves.Which(choice) : 0, choice});
     };
     const auto fillRest = [&] {
-        laidWhole_ = FillRest(limits, hasMore, choose, put, note);
+        const auto isLost = [&](const Gap& gap) { return moves.IsTooMuchLeft(gap, limits); };
+        laidWhole_ = FillRest(limits, hasMore, choose, put, note, isLost);
         return laidWhole_;
     };
     const auto begin = [&] {

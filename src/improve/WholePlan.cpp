@@ -71,6 +71,9 @@ class WholePlan::Moves {
                     step.Taken.Fit ||
                 plan_.DepartsAt(Departure::ByOrder, step.Number));
     }
+    bool IsTooMuchLeft(const Gap& gap, const Limits& limits) const {
+        return plan_.fills_.TooLong(limits.Farthest - gap.Y) > limits.Left;
+    }
     void Begin() { plan_.fills_.TakeNone(); }
     static void Skip() {}
 

@@ -131,6 +131,21 @@ TEST_P(RankedFillsAgainstPlain, AnswersTheSame) {
 
 INSTANTIATE_TEST_SUITE_P(Units, RankedFillsAgainstPlain, ::testing::Values(1, 1000));
 
+TEST(RankedFills, TellsTheAreaOfTheRemainingThatAreTooLong) {
+    const ImproveJob job{12, 1, 1, 100, {{2, 9, 1}, {3, 9, 1}, {5, 7, 1}, {4, 2, 1}}};
+    RankedFills fills(job);
+    fills.Rank({0, 1, 2, 3});
+    EXPECT_EQ(fills.TooLong(9), 0);
+    fills.Take(1);
+    EXPECT_EQ(fills.TooLong(8), 18) << "2 x 9";
+    EXPECT_EQ(fills.TooLong(7), 18);
+    fills.Take(3);
+    EXPECT_EQ(fills.TooLong(0), 53) << "and 5 x 7, but not 4 x 2, which is taken";
+    EXPECT_EQ(fills.TooLong(-3), 53);
+    fills.TakeNone();
+    EXPECT_EQ(fills.TooLong(8), 45) << "both of 9";
+}
+
 TEST(RankedFills, TheNarrowestIsThatOfTheRemaining) {
     const ImproveJob job{12, 1, 1, 100, {{5, 1, 1}, {3, 1, 1}, {3, 2, 1}, {9, 1, 1}}};
     RankedFills fills(job);
