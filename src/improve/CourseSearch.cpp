@@ -9,10 +9,11 @@ namespace {
 
 constexpr std::size_t MostFills = 12;
 constexpr std::size_t MostWatched = 3;
-constexpr Long MostStates = 120;    ///< of watched fills, as if each had the roll for itself
-constexpr Long LargestWidth = 4000; ///< widths are rounded down to fit below
+constexpr Long MostStates = 120;  ///< of watched fills, as if each had the roll for itself
+constexpr Long WidestRoll = 4000; ///< widths are rounded down for a wider one
 constexpr std::int64_t FirstPatience = 500; ///< relaxations for a state
 constexpr std::int64_t PatienceGrowth = 4;
+constexpr std::int64_t MostPatience = 1'000'000;
 constexpr std::size_t AnyNumber = static_cast<std::size_t>(-1);
 
 /// Whether a fill lies alone wherever it lies: nothing fits beside it.
@@ -36,7 +37,7 @@ CourseSearch::CourseSearch(const ImproveJob& job, std::size_t number)
 
 void CourseSearch::LeaveOutAlone(const ImproveJob& job) {
     // Whatever lies alone can be taken out, and what is before and behind it pushed together.
-    const Long coarse = job.Width / LargestWidth + 1;
+    const Long coarse = job.Width / WidestRoll + 1;
     job_.Width = job.Width / coarse;
     job_.MinPart = job.MinPart;
     job_.CutStep = job.CutStep;
@@ -101,7 +102,7 @@ bool CourseSearch::ProvesLonger(Long roof, std::int64_t relaxations,
         trial_.reset();
         if (++next_ == choices_.size()) {
             next_ = 0;
-            patience_ *= PatienceGrowth;
+            patience_ = std::min(MostPatience, patience_ * PatienceGrowth);
         }
     }
 }

@@ -26,8 +26,8 @@ constexpr std::size_t MostDecided = 40; ///< fills up to which an exact search i
 constexpr Double DecideShare = 4;       ///< of the steps from one start, for an exact search
 constexpr Double RefuteShare = 2;       ///< of the steps from one start, for proofs by courses
 constexpr Double FewRefuteShare = 6;
-constexpr std::size_t FewFills = 6;   ///< of which layouts are found soon, proofs later
-constexpr int StepsPerRelaxation = 8; ///< which takes about so much longer
+constexpr std::size_t FillsSoonLaid = 6; ///< of which layouts are found soon, proofs later
+constexpr int StepsPerRelaxation = 8;    ///< which takes about so much longer
 constexpr std::size_t StartsPerRoof = 4;
 constexpr std::size_t BestStarts = 12;     ///< that take turns
 constexpr std::int64_t LastPolish = 20000; ///< steps without a gain, when no layout is shorter
@@ -120,7 +120,7 @@ class Improver {
     /// Look for a proof that no layout is shorter where fills may be divided; now and then, for
     /// what it is worth, that none is as short as the bound.
     void RefuteRoof(int round) {
-        const bool few = run_.Job().Fills.size() <= FewFills;
+        const bool few = run_.Job().Fills.size() <= FillsSoonLaid;
         const std::int64_t steps = Steps(few ? FewRefuteShare : RefuteShare);
         bool proven = courses_.has_value();
         while (proven && !run_.IsLeast() && !run_.Stopped()) {

@@ -7,7 +7,7 @@ namespace tarn {
 
 namespace {
 
-constexpr Long LargestTable = 4096; ///< values up to here are looked up instead of searched
+constexpr Long LargestLookedUp = 4096; ///< values up to here are looked up instead of searched
 
 } // namespace
 
@@ -44,7 +44,7 @@ RankedFills::Measure RankedFills::Measured(const std::vector<Long>& values) {
         measure.IndexOf.push_back(static_cast<std::size_t>(at - measure.Values.begin()));
     }
     const Long largest = measure.Values.empty() ? 0 : measure.Values.back();
-    if (largest <= LargestTable) {
+    if (largest <= LargestLookedUp) {
         std::size_t used = 0;
         for (Long value = 0; value <= largest; ++value) {
             while (used < measure.Values.size() && measure.Values[used] <= value) {

@@ -128,11 +128,15 @@ class SkylinePlan : public Plan {
     bool IsWithin(const Limits& limits, const Laid& laid) const {
         return laid.End <= limits.Farthest && laid.Waste <= limits.Waste;
     }
-    /// From what is laid on. Each gap and what is chosen for it is told to `note`; what `isLost`
-    /// says of a gap gives it up.
-    template <class HasMore, class Choose, class Put, class Note, class IsLost>
+    /// Says nothing of what will be left over.
+    struct NeverTooMuchLeft {
+        static bool IsTooMuchLeft(const Gap& /*gap*/, const Limits& /*limits*/) { return false; }
+    };
+    /// From what is laid on. Each gap and what is chosen for it is told to `note`. Of `moves` it
+    /// asks IsTooMuchLeft alone.
+    template <class HasMore, class Choose, class Put, class Note, class Moves>
     bool FillRest(const Limits& limits, HasMore hasMore, Choose choose, Put put, Note note,
-                  IsLost isLost);
+                  Moves&& moves);
     template <class Choice, class Put>
     bool FillGap(const Limits& limits, const Gap& gap, const Walls& walls, const Choice& choice,
                  Put put);
@@ -163,19 +167,18 @@ template <class HasMore, class Choose, class Put>
 bool SkylinePlan::FillGaps(const Limits& limits, HasMore hasMore, Choose choose, Put put) {
     Clear();
     return FillRest(
-        limits, hasMore, choose, put, [](const Gap&, const auto&) {},
-        [](const Gap&) { return false; });
+        limits, hasMore, choose, put, [](const Gap&, const auto&) {}, NeverTooMuchLeft());
 }
 
-template <class HasMore, class Choose, class Put, class Note, class IsLost>
+template <class HasMore, class Choose, class Put, class Note, class Moves>
 bool SkylinePlan::FillRest(const Limits& limits, HasMore hasMore, Choose choose, Put put, Note note,
-                           IsLost isLost) {
+                           Moves&& moves) {
     while (hasMore()) {
         const Gap gap = skyline_.Lowest();
         if (gap.Y >= limits.Roof) {
             break;
         }
-        if (isLost(gap)) {
+        if (moves.IsTooMuchLeft(gap, limits)) {
             return false;
         }
         const Long room = limits.Roof - gap.Y;
@@ -227,8 +230,7 @@ bool SkylinePlan::FillGapsAgain(const Limits& limits, PlacingSteps<Choice>& step
         steps.Last.push_back({gap, step_, taken ? moves.Which(choice) : 0, choice});
     };
     const auto fillRest = [&] {
-        const auto isLost = [&](const Gap& gap) { return moves.IsTooMuchLeft(gap, limits); };
-        laidWhole_ = FillRest(limits, hasMore, choose, put, note, isLost);
+        laidWhole_ = FillRest(limits, hasMore, choose, put, note, moves);
         return laidWhole_;
     };
     const auto begin = [&] {
