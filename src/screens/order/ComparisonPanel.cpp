@@ -8,7 +8,7 @@
 #include "screens/ControlNames.h"
 #include "screens/Controls.h"
 #include "screens/Theme.h"
-#include "screens/order/ComparisonTable.h"
+#include "screens/order/ComparisonGrid.h"
 
 #include <QLabel>
 #include <QSignalBlocker>
@@ -71,7 +71,7 @@ ComparisonPanel::ComparisonPanel(QWidget* parent)
     setObjectName(Controls::comparisonPanel);
     taken_ = NewLine(this, Controls::comparisonTaken, TextRole::Heading);
     rule_ = NewLine(this, Controls::comparisonRule, TextRole::Hint);
-    table_ = new ComparisonTable(this);
+    table_ = new ComparisonGrid(this);
     NameControl(*table_, Controls::comparison, ToQt(Words("Comparison of rolls and lays")));
     table_->OnLeftOut = [this] { ShowLeftOut(); };
     connect(table_, &QTableWidget::currentCellChanged, this, [this](int row, int, int before, int) {

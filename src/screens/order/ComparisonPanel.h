@@ -13,7 +13,7 @@ class QTableWidgetItem;
 
 namespace tarn {
 
-class ComparisonTable;
+class ComparisonGrid;
 
 /// The comparison of rolls and lays as a table, above it the row that is taken in words, with the
 /// rule by which one is the best; below it what the table has no room for, and what there is to
@@ -41,7 +41,7 @@ class ComparisonPanel : public QWidget {
 
     QLabel* taken_ = nullptr;
     QLabel* rule_ = nullptr;
-    ComparisonTable* table_ = nullptr;
+    ComparisonGrid* table_ = nullptr;
     QLabel* leftOut_ = nullptr;
     QLabel* remarks_ = nullptr;
     int takenRow_ = -1; ///< -1 for none that has figures

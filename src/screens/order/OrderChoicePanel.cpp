@@ -28,7 +28,7 @@ namespace tarn {
 namespace {
 
 constexpr double FieldWidth = 1150; ///< twips
-constexpr int LongestText = 20;     ///< characters of a field
+constexpr int LongestField = 20;    ///< characters of a field
 constexpr int RefusalLines = 2;     ///< kept free, so that nothing jumps
 constexpr auto PatternHint = Words(
     "Across is the distance to the next column of the pattern. With a half drop, which sets it "
@@ -151,7 +151,7 @@ QBoxLayout* OrderChoicePanel::BuildFields() {
         const FieldOf& field = FieldFor(option);
         QLineEdit* box = fields_[option] = new QLineEdit(this);
         box->setObjectName(field.Name);
-        box->setMaxLength(LongestText);
+        box->setMaxLength(LongestField);
         KeepTextWidth(*box, FieldWidth);
         captions_.push_back(NewLabelFor(*box, this, field.CaptionName, field.Caption));
         grid->addLayout(Labelled(captions_.back(), box), field.Row, field.Column);

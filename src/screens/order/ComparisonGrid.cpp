@@ -1,4 +1,4 @@
-#include "screens/order/ComparisonTable.h"
+#include "screens/order/ComparisonGrid.h"
 
 #include "files/QtText.h"
 #include "screens/Display.h"
@@ -16,12 +16,12 @@ namespace tarn {
 
 namespace {
 
-constexpr double RowHeight = 400; ///< twips
+constexpr double ComparedRowHeight = 400; ///< twips
 constexpr double WidestColumn = 9000;
 constexpr double UsualPadding = 120; ///< of a column, on each side
 constexpr double TightPadding = 90;
-constexpr int LeastRows = 3; ///< in sight
-constexpr int MostRows = 8;  ///< where there is room
+constexpr int LeastRowsCompared = 3; ///< in sight
+constexpr int MostRowsCompared = 8;  ///< where there is room
 
 /// A head on two lines, so that its column is no wider than need be.
 QString OnTwoLines(const std::string& head) {
@@ -50,7 +50,7 @@ QString OnALineForEachWord(const std::string& head) {
 
 } // namespace
 
-ComparisonTable::ComparisonTable(QWidget* parent)
+ComparisonGrid::ComparisonGrid(QWidget* parent)
     : QTableWidget(parent) {
     setTabKeyNavigation(false); // it leads on to the next control
     setEditTriggers(QAbstractItemView::NoEditTriggers);
@@ -59,29 +59,28 @@ ComparisonTable::ComparisonTable(QWidget* parent)
     setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
     setWordWrap(false);
     verticalHeader()->hide();
-    verticalHeader()->setDefaultSectionSize(TextPixels(RowHeight));
-    verticalHeader()->setMinimumSectionSize(TextPixels(RowHeight));
+    verticalHeader()->setDefaultSectionSize(TextPixels(ComparedRowHeight));
+    verticalHeader()->setMinimumSectionSize(TextPixels(ComparedRowHeight));
     horizontalHeader()->setHighlightSections(false);
     horizontalHeader()->setMinimumSectionSize(0);
 }
 
-QSize ComparisonTable::sizeHint() const {
-    const int rows = std::clamp(rowCount(), LeastRows, MostRows);
+QSize ComparisonGrid::sizeHint() const {
+    const int rows = std::clamp(rowCount(), LeastRowsCompared, MostRowsCompared);
     return {QTableWidget::sizeHint().width(), HeightFor(rows)};
 }
 
-QSize ComparisonTable::minimumSizeHint() const {
-    return {QTableWidget::minimumSizeHint().width(), HeightFor(LeastRows)};
+QSize ComparisonGrid::minimumSizeHint() const {
+    return {QTableWidget::minimumSizeHint().width(), HeightFor(LeastRowsCompared)};
 }
 
-int ComparisonTable::HeightFor(int rows) const {
+int ComparisonGrid::HeightFor(int rows) const {
     return 2 * frameWidth() + horizontalHeader()->sizeHint().height() +
            rows * verticalHeader()->defaultSectionSize() +
            horizontalScrollBar()->sizeHint().height();
 }
 
-void ComparisonTable::SetHeads(const std::vector<std::string>& heads,
-                               const std::vector<int>& kept) {
+void ComparisonGrid::SetHeads(const std::vector<std::string>& heads, const std::vector<int>& kept) {
     heads_ = heads;
     kept_ = kept;
     needs_.clear();
@@ -89,17 +88,17 @@ void ComparisonTable::SetHeads(const std::vector<std::string>& heads,
     setColumnCount(static_cast<int>(heads.size()));
 }
 
-std::string ComparisonTable::Head(int column) const {
+std::string ComparisonGrid::Head(int column) const {
     return heads_.at(static_cast<std::size_t>(column));
 }
 
-void ComparisonTable::FitToCells() {
+void ComparisonGrid::FitToCells() {
     Measure();
     Fit();
 }
 
 /// 0 where no cell of the column says anything.
-int ComparisonTable::TextWidth(int column) const {
+int ComparisonGrid::TextWidth(int column) const {
     ensurePolished(); // gives it the type that it is measured in
     int width = 0;
     for (int row = 0; row < rowCount(); ++row) {
@@ -112,7 +111,7 @@ int ComparisonTable::TextWidth(int column) const {
     return width;
 }
 
-void ComparisonTable::Measure() {
+void ComparisonGrid::Measure() {
     horizontalHeader()->ensurePolished();
     const QFontMetrics heads = horizontalHeader()->fontMetrics();
     const int most = TextPixels(WidestColumn);
@@ -137,7 +136,7 @@ void ComparisonTable::Measure() {
 
 /// The room is the same with the bar beside the rows and without: what is fitted does not bring it
 /// or take it away.
-void ComparisonTable::Fit() {
+void ComparisonGrid::Fit() {
     if (isFitting_ || needs_.empty()) {
         return;
     }
@@ -149,7 +148,7 @@ void ComparisonTable::Fit() {
     }
 }
 
-void ComparisonTable::Apply(const ColumnFit& fit) {
+void ComparisonGrid::Apply(const ColumnFit& fit) {
     if (fit_.Widths.empty() || fit.IsTight != fit_.IsTight) {
         QStringList heads;
         for (const std::string& head : heads_) {
@@ -166,7 +165,7 @@ void ComparisonTable::Apply(const ColumnFit& fit) {
 }
 
 /// What is left of the room goes to the notes, else to all columns.
-void ComparisonTable::Widen() {
+void ComparisonGrid::Widen() {
     const auto& widths = fit_.Widths;
     const int taken = std::accumulate(widths.begin(), widths.end(), 0);
     const int left = std::max(0, viewport()->width() - taken);
@@ -186,7 +185,7 @@ void ComparisonTable::Widen() {
     }
 }
 
-std::vector<int> ComparisonTable::LeftOut() const {
+std::vector<int> ComparisonGrid::LeftOut() const {
     std::vector<int> columns;
     for (int column = 0; column < columnCount(); ++column) {
         const auto place = static_cast<std::size_t>(column);
@@ -198,12 +197,12 @@ std::vector<int> ComparisonTable::LeftOut() const {
     return columns;
 }
 
-void ComparisonTable::resizeEvent(QResizeEvent* event) {
+void ComparisonGrid::resizeEvent(QResizeEvent* event) {
     QTableWidget::resizeEvent(event);
     Fit();
 }
 
-void ComparisonTable::changeEvent(QEvent* event) {
+void ComparisonGrid::changeEvent(QEvent* event) {
     QTableWidget::changeEvent(event);
     if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) {
         FitToCells();

@@ -13,9 +13,9 @@ namespace tarn {
 /// The table of a comparison, as high as its rows where they are not many. It does not scroll
 /// sideways: where its columns have no room beside each other they get closer, and then those that
 /// are only looked up are left out. The last column, the notes, has what the others leave.
-class ComparisonTable : public QTableWidget {
+class ComparisonGrid : public QTableWidget {
   public:
-    explicit ComparisonTable(QWidget* parent);
+    explicit ComparisonGrid(QWidget* parent);
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
