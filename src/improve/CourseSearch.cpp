@@ -11,8 +11,8 @@ constexpr std::size_t MostFills = 12;
 constexpr std::size_t MostWatched = 3;
 constexpr Long MostStates = 120;  ///< of watched fills, as if each had the roll for itself
 constexpr Long WidestRoll = 4000; ///< widths are rounded down for a wider one
-constexpr std::int64_t FirstPatience = 500; ///< relaxations for a state
-constexpr std::int64_t PatienceGrowth = 4;
+constexpr std::int64_t FirstPatience = 100; ///< relaxations for a state
+constexpr std::int64_t PatienceGrowth = 5;
 constexpr std::int64_t MostPatience = 1'000'000;
 constexpr std::size_t AnyNumber = static_cast<std::size_t>(-1);
 
@@ -29,10 +29,17 @@ bool CourseSearch::CanTry(const ImproveJob& job) {
     return job.Fills.size() <= MostFills && AnyDivisible(job) && !HasPattern(job);
 }
 
-CourseSearch::CourseSearch(const ImproveJob& job, std::size_t number)
-    : patience_(FirstPatience) {
+CourseSearch::CourseSearch(const ImproveJob& job, std::size_t number) {
     LeaveOutAlone(job);
     ChooseFills(number);
+    BeginAgain();
+}
+
+void CourseSearch::BeginAgain() {
+    trial_.reset();
+    next_ = 0;
+    pass_ = 1;
+    patience_ = FirstPatience;
 }
 
 void CourseSearch::LeaveOutAlone(const ImproveJob& job) {
@@ -85,8 +92,8 @@ bool CourseSearch::ProvesLonger(Long roof, std::int64_t relaxations,
         return rest < 0 || (rest == 0 && !choices_.empty());
     }
     if (roof_ != rest) {
-        trial_.reset();
         roof_ = static_cast<Long>(rest);
+        BeginAgain();
     }
     left_ = relaxations;
     goOn_ = &goOn;
@@ -100,8 +107,10 @@ bool CourseSearch::ProvesLonger(Long roof, std::int64_t relaxations,
             return proven;
         }
         trial_.reset();
-        if (++next_ == choices_.size()) {
+        ++next_;
+        if (next_ == choices_.size() || choices_[next_].size() > pass_) {
             next_ = 0;
+            ++pass_;
             patience_ = std::min(MostPatience, patience_ * PatienceGrowth);
         }
     }

@@ -50,6 +50,7 @@ class CourseSearch {
 
     void LeaveOutAlone(const ImproveJob& job);
     void ChooseFills(std::size_t number);
+    void BeginAgain();
     /// Try the states of the watched fills, until none can be ruled out any more. Whether that
     /// proves that there is no layout.
     bool TryStates();
@@ -68,9 +69,10 @@ class CourseSearch {
 
     ImproveJob job_;
     Area64 alone_ = 0; ///< length of fills beside which nothing fits: they are left out
-    std::vector<std::vector<std::size_t>> choices_; ///< of fills to be watched
+    std::vector<std::vector<std::size_t>> choices_; ///< of fills to be watched, the fewest first
     std::size_t next_ = 0;                          ///< choice
-    std::int64_t patience_;                         ///< relaxations for a state
+    std::size_t pass_ = 1;                          ///< over the choices: of so many fills at most
+    std::int64_t patience_ = 0;                     ///< relaxations for a state
 
     std::optional<Trial> trial_;
     Long roof_ = 0;

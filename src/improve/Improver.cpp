@@ -21,13 +21,15 @@ constexpr Double FirstPatternEffort = 500; ///< with a pattern, whose layouts ta
 constexpr Double EffortGrowth = 1.5;       ///< a round
 constexpr Double ShortenShare = 0.05;      ///< of the steps from one start
 constexpr Double PolishShare = 0.05;
-constexpr Double RelaxationShare = 0.2; ///< of the seconds of a run at most
-constexpr std::size_t MostDecided = 40; ///< fills up to which an exact search is tried
-constexpr Double DecideShare = 4;       ///< of the steps from one start, for an exact search
-constexpr Double RefuteShare = 2;       ///< of the steps from one start, for proofs by courses
-constexpr Double FewRefuteShare = 6;
-constexpr std::size_t FillsSoonLaid = 6; ///< of which layouts are found soon, proofs later
-constexpr int StepsPerRelaxation = 8;    ///< which takes about so much longer
+constexpr Double RelaxationShare = 0.2;    ///< of the seconds of a run at most
+constexpr std::size_t MostDecided = 40;    ///< fills up to which an exact search is tried
+constexpr Double DecideShare = 4;          ///< of the steps from one start, for an exact search
+constexpr Double RefuteShare = 1;          ///< of the steps from one start, for proofs by courses
+constexpr Double FewRefuteShare = 3;       ///< where layouts are found soon, proofs later
+constexpr Double FewOthersRefuteShare = 8; ///< of all searches but the first
+constexpr Double MostRefutedGap = 0.01; ///< of the bound: what is farther off is not the least yet
+constexpr std::size_t FillsSoonLaid = 6;
+constexpr int StepsPerRelaxation = 8; ///< which takes about so much longer
 constexpr std::size_t StartsPerRoof = 4;
 constexpr std::size_t BestStarts = 12;     ///< that take turns
 constexpr std::int64_t LastPolish = 20000; ///< steps without a gain, when no layout is shorter
@@ -58,7 +60,7 @@ class Improver {
         for (int round = static_cast<int>(number_); !run_.IsLeast() && !run_.Stopped(); ++round) {
             LowerRoof();
             DecideRoof(round);
-            RefuteRoof(round);
+            RefuteRoof();
             if (!run_.Stopped()) {
                 ShortenStarts(round);
             }
@@ -117,15 +119,15 @@ class Improver {
         }
     }
 
-    /// Look for a proof that no layout is shorter where fills may be divided; now and then, for
-    /// what it is worth, that none is as short as the bound.
-    void RefuteRoof(int round) {
+    /// Look for a proof that no layout is shorter, where fills may be divided.
+    void RefuteRoof() {
         const bool few = run_.Job().Fills.size() <= FillsSoonLaid;
-        const std::int64_t steps = Steps(few ? FewRefuteShare : RefuteShare);
-        bool proven = courses_.has_value();
+        const Double ofFew = number_ == 0 ? FewRefuteShare : FewOthersRefuteShare;
+        const std::int64_t steps = Steps(few ? ofFew : RefuteShare);
+        const Long gap = run_.Best().Length - run_.Bound();
+        bool proven = courses_.has_value() && gap <= MostRefutedGap * run_.Bound();
         while (proven && !run_.IsLeast() && !run_.Stopped()) {
-            constexpr int Turns = 4;
-            const Long roof = round % Turns == 1 ? run_.Bound() : run_.Best().Length - 1;
+            const Long roof = run_.Best().Length - 1;
             const auto goOn = [&] {
                 bool more = true;
                 for (int step = 0; step < StepsPerRelaxation && more; ++step) {
