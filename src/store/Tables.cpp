@@ -173,6 +173,11 @@ std::vector<StoredRow> Table::RowsShowing(std::string_view field, std::string_vi
         for (StoredRow& row : Read(" WHERE " + name + " >= x''", {}, {})) {
             rows.push_back(std::move(row));
         }
+        if (text.empty()) { // which is what nothing reads as
+            for (StoredRow& row : Read(" WHERE " + name + " IS NULL", {}, {})) {
+                rows.push_back(std::move(row));
+            }
+        }
     }
     std::erase_if(rows, [field, text](const StoredRow& row) {
         return !EqualsIgnoringCase(row.TextIn(field), text);

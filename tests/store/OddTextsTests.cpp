@@ -176,6 +176,34 @@ TEST_F(OddTextsInADatabase, OfADirectoryAreDeletedWithAllThatIsInIt) {
     }
 }
 
+// Nothing, nothing that is no text, and no name at all are all shown as nothing.
+TEST_F(OddTextsInADatabase, OfNoLengthAreFoundRenamedAndDeletedAsTheyAreShown) {
+    for (const char* name : {"''", "x''", "NULL"}) {
+        SCOPED_TRACE(name);
+        const auto nameNothing = [&] {
+            file_.AddProject("MARCH", "P", 5, 2);
+            file_.Run(std::string("UPDATE ProjTab SET ProjName = ") + name);
+            file_.Run(std::string("UPDATE MainTab SET ProjName = ") + name);
+        };
+        nameNothing();
+        ASSERT_EQ(store_.Projects("MARCH"), Lines{""});
+        EXPECT_EQ(store_.Load("").Value.Rooms.size(), 2U);
+        store_.DeleteProject("");
+        EXPECT_EQ(Count(), Lines{"0|0|0|0"});
+
+        nameNothing();
+        store_.RenameProject("", "NAMED");
+        EXPECT_EQ(store_.Load("NAMED").Value.Rooms.size(), 2U);
+        store_.DeleteProject("NAMED");
+        EXPECT_EQ(Count(), Lines{"0|0|0|0"});
+
+        nameNothing();
+        file_.Run(std::string("UPDATE ProjTab SET Dir = ") + name);
+        store_.DeleteDirectory("");
+        EXPECT_EQ(Count(), Lines{"0|0|0|0"});
+    }
+}
+
 TEST_F(OddTextsInADatabase, DoNotHideAProjectWhoseNameIsInOrder) {
     file_.AddProject("MARCH", "A\uFFFDB", 5, 2);
     EXPECT_EQ(store_.Load("A\uFFFDB").Value.Rooms.size(), 2U);
