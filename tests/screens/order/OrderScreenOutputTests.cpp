@@ -1,5 +1,6 @@
 // The order on paper and in files.
 
+#include "base/Lengths.h"
 #include "screens/order/OrderScreenTesting.h"
 #include "store/TestDatabase.h"
 
@@ -77,9 +78,9 @@ TEST_F(OrderScreenOutput, EndsTheComparisonThatIsBeingMadeFirst) {
     WaitUntil([this] { return printing.IsPrinting(); });
     EXPECT_EQ(State(), "Stopped: the best so far.");
     AwaitPrinter();
-    EXPECT_EQ(printer.Orders.size(), 1U);
+    ASSERT_EQ(printer.Orders.size(), 1U);
     const OrderFigures& printed = *printer.Orders[0].Orders[0].Candidates[0].Figures;
-    EXPECT_EQ(printed.Length, 1215) << "what stands on the screen";
+    EXPECT_EQ(WholeLengthText(static_cast<Long>(printed.Length), Units::Imperial), Column(3).at(0));
 }
 
 TEST_F(OrderScreenOutput, SavesEveryKindOfFile) {

@@ -43,13 +43,15 @@ struct OrderScreenTest : FormTest<OrderScreen> {
         return open.Saved.Orders[carpet];
     }
     static RollChoice Roll(Double width, const char* typed) { return {width, "", typed, {}}; }
-    /// A job of which the shortest layout is not known to be it: a search of it goes on until it is
-    /// stopped.
+    /// A job of which the shortest layout is not known to be it, since the match of the pattern
+    /// takes more than any bound knows: a search of it goes on until it is stopped.
     void KeepEndless() {
-        for (int room = 0; room < 3; ++room) {
-            Add(192, 240);
+        for (Integer room = 0; room < 12; ++room) {
+            Add(static_cast<Integer>(150 + room * 37 % 101),
+                static_cast<Integer>(180 + room * 53 % 127));
         }
         OrderRequest& request = Keep(0, {Roll(144, "12ft")});
+        request.Pattern = {18, 24, false};
         request.TrimAlong = 3;
         request.TrimAcross = 1;
         request.Seconds = 3600;
