@@ -17,12 +17,20 @@ void CheckNameText(const NameText& text, std::string_view from) {
     Require(text.Text.size() <= 3 * from.size(), "a name does not grow beyond its letters' cases");
 }
 
+/// The text as a screen has it, in which what is no UTF-8 is replaced, without the end of its line.
+std::string WithoutLastBreaks(std::string_view text) {
+    std::u32string characters = ToQt(text).toStdU32String();
+    characters.resize(characters.find_last_not_of(LineBreaks) + 1);
+    return FromQt(QString::fromStdU32String(characters));
+}
+
 void CheckNames(std::string_view text) {
     CheckNameText(TypedNameText(text), text);
     const NameText pasted = PastedNameText(text);
     CheckNameText(pasted, text);
     Require(!HoldsForbiddenCharacter(pasted.Text), "a pasted name may be a project's");
-    Require(pasted.LeftOut || !HoldsForbiddenCharacter(text), "what is left out is told");
+    Require(pasted.LeftOut || pasted.Text == UpperCase(WithoutLastBreaks(text)),
+            "what is left out is told");
 
     const std::string stored = StoredName(text);
     Require(StoredName(stored) == stored, "a stored name is stored as it is");

@@ -19,9 +19,10 @@ struct Exception {
 };
 constexpr std::array Exceptions{
     // the database's language, and what stands in the database whatever the language
-    Exception{"store/.*", "[^a-z]*(SELECT|PRAGMA|VACUUM|BEGIN|SAVEPOINT|RELEASE|ROLLBACK|CREATE|"
-                          "INSERT|DELETE|UPDATE|ALTER|CASE|WHERE|WHEN|AS BLOB|NOT|IS NOT|ORDER|ADD|"
-                          "GLOB|OR|TEXT|LIMIT)\\b[^]*"},
+    Exception{"store/.*",
+              "[^a-z]*(SELECT|PRAGMA|VACUUM|BEGIN|SAVEPOINT|RELEASE|ROLLBACK|CREATE|"
+              "INSERT|DELETE|UPDATE|ALTER|CASE|WHERE|WHEN|AS BLOB|NOT|IS NOT|IS NULL|ORDER|ADD|"
+              "GLOB|OR|TEXT|LIMIT)\\b[^]*"},
     Exception{"store/.*", "[^]* (WHERE rowid|NOT IN|ORDER BY) [^]*"},
     Exception{"store/RepairedData.cpp", "ROOMS (OF SHEET |WITHOUT A SHEET)|WITHOUT A NAME"},
     Exception{"store/Backups.cpp", " before restoring"}, // in the name of a file
