@@ -965,8 +965,8 @@
     </message>
     <message>
         <location filename="../src/order/OrderStrips.cpp"/>
-        <source>%1 cannot match: the roll&apos;s usable width of %2 is not a whole number of repeats of %3 across.</source>
-        <translation>%1 passt nicht im Rapport: Die nutzbare Rollenbreite von %2 ist kein Vielfaches des Rapports von %3 quer.</translation>
+        <source>%1 cannot match: strips as wide as the roll lie beside each other in it, and the roll&apos;s usable width of %2 is not a whole number of repeats of %3 across.</source>
+        <translation>%1 passt nicht im Rapport: Streifen in voller Rollenbreite liegen darin nebeneinander, und die nutzbare Rollenbreite von %2 ist kein Vielfaches des Rapports von %3 quer.</translation>
     </message>
     <message>
         <location filename="../src/order/OrderStrips.cpp"/>
@@ -1611,6 +1611,11 @@ Das Programm kann nicht drucken</translation>
         <location filename="../src/project/OrderEntry.cpp"/>
         <source>The price &quot;%1&quot; of the roll %2: a comma is not taken. Write it with a point, as 18.50.</source>
         <translation>Der Preis „%1“ der Rolle %2: Ein Komma gilt nicht. Schreiben Sie ihn mit Punkt, wie 18.50.</translation>
+    </message>
+    <message>
+        <location filename="../src/project/OrderEntry.cpp"/>
+        <source>a comma is not taken. Write the length as 12ft6in, 9.5in, 366cm or 3.66m.</source>
+        <translation>Ein Komma wird nicht angenommen. Schreiben Sie die Länge wie 12ft6in, 9.5in, 366cm oder 3.66m.</translation>
     </message>
     <message>
         <location filename="../src/project/OrderEntry.cpp"/>

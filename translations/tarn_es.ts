@@ -965,8 +965,8 @@
     </message>
     <message>
         <location filename="../src/order/OrderStrips.cpp"/>
-        <source>%1 cannot match: the roll&apos;s usable width of %2 is not a whole number of repeats of %3 across.</source>
-        <translation>%1 no puede casar: el ancho útil del rollo de %2 no es un número entero de rapports de %3 a lo ancho.</translation>
+        <source>%1 cannot match: strips as wide as the roll lie beside each other in it, and the roll&apos;s usable width of %2 is not a whole number of repeats of %3 across.</source>
+        <translation>%1 no puede casar: contiene tiras de todo el ancho del rollo una junto a otra, y el ancho útil del rollo de %2 no es un número entero de rapports de %3 a lo ancho.</translation>
     </message>
     <message>
         <location filename="../src/order/OrderStrips.cpp"/>
@@ -1611,6 +1611,11 @@ No se puede imprimir en el programa</translation>
         <location filename="../src/project/OrderEntry.cpp"/>
         <source>The price &quot;%1&quot; of the roll %2: a comma is not taken. Write it with a point, as 18.50.</source>
         <translation>El precio «%1» del rollo %2: no se admite la coma. Escríbalo con punto, como 18.50.</translation>
+    </message>
+    <message>
+        <location filename="../src/project/OrderEntry.cpp"/>
+        <source>a comma is not taken. Write the length as 12ft6in, 9.5in, 366cm or 3.66m.</source>
+        <translation>no se admite la coma. Escriba la medida como 12ft6in, 9.5in, 366cm o 3.66m.</translation>
     </message>
     <message>
         <location filename="../src/project/OrderEntry.cpp"/>

@@ -60,9 +60,6 @@ std::vector<Saying> NotesOf(const Project& project, const OrderRequest& request,
                             const OrderCandidate& candidate,
                             const std::vector<OrderStrip>& strips) {
     std::vector<Saying> notes;
-    if (request.TrimAlong == 0 && request.TrimAcross == 0) {
-        notes.push_back(Said([] { return Words("Nothing is allowed for trimming."); }));
-    }
     const std::vector<Long> tight = RoomsWhere(strips, [&](const OrderStrip& strip) {
         return strip.Number == strip.Count - 1 && strip.Width < strip.NetWidth + request.TrimAcross;
     });
@@ -79,6 +76,9 @@ std::vector<Saying> NotesOf(const Project& project, const OrderRequest& request,
             return Words("A fill narrower than %1: %2.", OrderLengthText(narrow, request.In),
                          RoomList(project, slivers));
         }));
+    }
+    if (request.TrimAlong == 0 && request.TrimAcross == 0) {
+        notes.push_back(Said([] { return Words("Nothing is allowed for trimming."); }));
     }
     const RollChoice& roll = request.Rolls.at(candidate.Roll);
     if (IsShortOfStandard(roll, candidate.RollWidth, request.In)) {

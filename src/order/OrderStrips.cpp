@@ -89,8 +89,9 @@ class RoomCutter {
         }
         if (drops > 1 && usable_ % repeat != 0) {
             return Refuse([&] {
-                return Words("%1 cannot match: the roll's usable width of %2 is not a whole number "
-                             "of repeats of %3 across.",
+                return Words("%1 cannot match: strips as wide as the roll lie beside each other in "
+                             "it, and the roll's usable width of %2 is not a whole number of "
+                             "repeats of %3 across.",
                              Name(room), Text(usable_), Text(repeat));
             });
         }

@@ -16,6 +16,8 @@ namespace tarn {
 namespace {
 
 constexpr auto HowLengthsAreWritten = Words("write the length as 12ft6in, 18in, 366cm or 3.66m.");
+constexpr auto NoComma =
+    Words("a comma is not taken. Write the length as 12ft6in, 9.5in, 366cm or 3.66m.");
 
 /// A number that is no number, which FaultOf refuses in its own words.
 constexpr Double NoNumber = std::numeric_limits<Double>::quiet_NaN();
@@ -168,7 +170,10 @@ std::string TypedNumber(Double number) {
 
 Reading<Double> ReadLength(std::string_view text, Units units) {
     const auto length = ReadOrderLength(text, units);
-    return {length, length ? Phrase() : HowLengthsAreWritten};
+    if (length) {
+        return {length, Phrase()};
+    }
+    return {length, text.find(',') == std::string_view::npos ? HowLengthsAreWritten : NoComma};
 }
 
 Reading<Long> ReadRaisedLength(std::string_view text, Units units) {

@@ -96,6 +96,10 @@ TEST(Notes, SayWhatAnInstallerHasToKnow) {
     OrderRequest request = RequestFor(144);
     EXPECT_THAT(NotesFor(ProjectOf({{100, 100}}), request),
                 ElementsAre("Nothing is allowed for trimming."));
+    EXPECT_THAT(
+        NotesFor(ProjectOf({{149, 100}}), request),
+        ElementsAre("A fill narrower than 0'6\": room 1.", "Nothing is allowed for trimming."))
+        << "what holds of this row first";
     request.TrimAcross = 3;
     EXPECT_THAT(
         NotesFor(ProjectOf({{141, 10}, {142, 10}, {150, 10}, {149, 10}, {286, 10}}), request),

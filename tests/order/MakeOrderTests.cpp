@@ -98,9 +98,10 @@ TEST(MakeOrder, RefusesDropsThatCannotMatch) {
     OrderRequest request = RequestFor(150);
     request.Pattern = {18, 0, false};
     Project project = ProjectOf({{100, 100}, {300, 100}});
-    EXPECT_EQ(RefusalOf(project, request),
-              "Room 2 cannot match: the roll's usable width of 12'6\" is not a whole number of "
-              "repeats of 1'6\" across.");
+    EXPECT_EQ(
+        RefusalOf(project, request),
+        "Room 2 cannot match: strips as wide as the roll lie beside each other in it, and the "
+        "roll's usable width of 12'6\" is not a whole number of repeats of 1'6\" across.");
     project.Rooms[1].Remark = "HALL";
     EXPECT_EQ(RefusalOf(project, request).substr(0, 13), "Room 2 (HALL)");
     project.Rooms[1].Number = "12A";

@@ -113,6 +113,11 @@ TEST(TypedOrder, RefusesALengthThatCannotBeReadByItsName) {
         EXPECT_EQ(fault.Reason, "The " + field.Option +
                                     " \"3 yd\": write the length as 12ft6in, 18in, 366cm or "
                                     "3.66m.");
+        const auto comma = FaultAfter([&](TypedOrder& typed) { typed.*field.Text = "9,5"; });
+        EXPECT_EQ(comma.Option, field.Option);
+        EXPECT_EQ(comma.Reason, "The " + field.Option +
+                                    " \"9,5\": a comma is not taken. Write the length as 12ft6in, "
+                                    "9.5in, 366cm or 3.66m.");
     }
 }
 
