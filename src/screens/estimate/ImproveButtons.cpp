@@ -44,7 +44,10 @@ void ImproveButtons::Offer(const std::string& shorter) {
         return;
     }
     auto& rows = static_cast<QGridLayout&>(*layout());
-    rows.setRowMinimumHeight(0, undo_->sizeHint().height()); // of a button of one line
+    const int line = undo_->sizeHint().height(); // of a button of one line
+    rows.setRowMinimumHeight(0, line);
+    // An offer takes the place of both: the buttons below stay where they are.
+    improve_->setMinimumHeight(shorter.empty() ? 0 : 2 * line + rows.verticalSpacing());
     rows.removeWidget(improve_);
     rows.addWidget(improve_, 0, 0, shorter.empty() ? 1 : 2, 1);
     undo_->setVisible(shorter.empty());

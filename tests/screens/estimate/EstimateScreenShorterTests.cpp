@@ -86,6 +86,23 @@ TEST_F(ShorterLayouts, AreOfferedByHowMuchShorterTheyAreAndTakenAtAPress) {
     EXPECT_TRUE(boxes.Messages.empty());
 }
 
+// An offer comes by itself, maybe just when another button is pressed.
+TEST_F(ShorterLayouts, AreOfferedWithoutMovingTheOtherButtons) {
+    OpenThreeStrips();
+    const auto places = [this] {
+        QCoreApplication::sendPostedEvents();
+        QCoreApplication::processEvents();
+        return std::pair(Button(Controls::openOrder).geometry(),
+                         Button(Controls::printEstimate).geometry());
+    };
+    const auto before = places();
+    LetGo();
+    AwaitOffer();
+    EXPECT_EQ(places(), before);
+    Click(Improve());
+    EXPECT_EQ(places(), before);
+}
+
 TEST_F(ShorterLayouts, AreFoundByTheProgramsOwnSearch) {
     for (const Sized& room : {Sized{48, 100}, {48, 100}, {48, 100}}) {
         Add(room);
