@@ -12,6 +12,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstddef>
 
 namespace tarn {
 namespace {
@@ -98,14 +99,15 @@ class PaperRoll {
     PaperRoll(Long width, Long length)
         : width_(width)
         , length_(length)
-        , paper_(static_cast<std::size_t>(width * length), 'p') {}
+        , paper_(static_cast<std::size_t>(width) * static_cast<std::size_t>(length), 'p') {}
 
     void Cut(const ReadCut& cut) {
         ASSERT_TRUE(cut.Across >= 0 && cut.Across + cut.Width <= width_ && cut.From >= 0 &&
                     cut.To <= length_ && cut.To - cut.From == cut.Length)
             << cut.Label.toStdString();
         for (Long y = cut.From; y < cut.To; ++y) {
-            const auto begin = paper_.begin() + y * width_ + cut.Across;
+            const auto begin =
+                paper_.begin() + static_cast<std::ptrdiff_t>(y) * width_ + cut.Across;
             const auto end = begin + cut.Width;
             ASSERT_EQ(std::find(begin, end, '\0'), end)
                 << cut.Label.toStdString() << " is gone already";
