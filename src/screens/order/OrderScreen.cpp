@@ -365,6 +365,7 @@ void OrderScreen::StopComparing() {
 void OrderScreen::DropComparison() {
     run_.reset();
     afterRun_ = nullptr;
+    leavesAfterRun_ = false;
     wasStopped_ = false;
     order_.reset();
     drawn_.reset();
@@ -453,7 +454,7 @@ void OrderScreen::EnableButtons() {
 /// would be another one by then.
 void OrderScreen::WithTaken(std::function<void(const OrderDocument&)> act) {
     choices_->Typed(); // what is being typed in a roll counts
-    if (!HasTaken()) {
+    if (!HasTaken() || leavesAfterRun_) {
         return;
     }
     auto take = [this, act = std::move(act)] {
@@ -495,11 +496,15 @@ void OrderScreen::OnCloseByFrame() {
 void OrderScreen::Leave() {
     choices_->Typed();
     if (run_ && afterRun_) { // what was asked for before is done first
-        afterRun_ = [this, first = std::move(afterRun_)] {
-            first();
-            Leave();
-        };
-        StopComparing();
+        if (!leavesAfterRun_) {
+            leavesAfterRun_ = true;
+            afterRun_ = [this, first = std::move(afterRun_)] {
+                leavesAfterRun_ = false;
+                first();
+                Leave();
+            };
+            StopComparing();
+        }
         return;
     }
     StopComparing();

@@ -98,6 +98,7 @@ class OrderScreen : public Screen {
     std::optional<OrderCandidate> drawn_;  ///< whose roll is shown
     std::optional<std::size_t> chosen_;    ///< the row that was chosen instead of the best
     std::function<void()> afterRun_;       ///< what waits for the end of the search
+    bool leavesAfterRun_ = false;          ///< that is to leave the screen in the end
     bool wasStopped_ = false;              ///< the comparison was ended before its time
     bool isWide_ = false;
     ComparisonPanel* comparison_ = nullptr;

@@ -83,6 +83,20 @@ TEST_F(OrderScreenOutput, EndsTheComparisonThatIsBeingMadeFirst) {
     EXPECT_EQ(WholeLengthText(static_cast<Long>(printed.Length), Units::Imperial), Column(3).at(0));
 }
 
+// A double click on BACK, say: leaving a second time would leave the screen below, too.
+TEST_F(OrderScreenOutput, IsLeftOnceHoweverOftenThatIsAskedForBeforeThePrintedOneIsDone) {
+    OpenEndless();
+    Click(Button(Controls::printOrder));
+    Click(Button(Controls::leaveOrder));
+    Press(*form, Qt::Key_Escape);
+    form->CloseByFrame();
+    EXPECT_THAT(screens.Calls, ::testing::IsEmpty()) << "the order is printed first";
+    WaitUntil([this] { return !screens.Calls.empty(); });
+    AwaitPrinter();
+    EXPECT_EQ(printer.Orders.size(), 1U);
+    EXPECT_THAT(screens.Calls, ::testing::ElementsAre("return"));
+}
+
 TEST_F(OrderScreenOutput, SavesEveryKindOfFile) {
     OpenQuick();
     auto& menu = Control<QMenu>(Controls::orderFiles);
