@@ -130,6 +130,7 @@ struct WrappingRows : ::testing::Test {
     }
     static std::vector<QRect> Places(const QWidget& panel) {
         std::vector<QRect> places;
+        places.reserve(std::size(Captions));
         for (const char* caption : Captions) {
             places.push_back(Find(panel, caption).geometry());
         }
@@ -137,6 +138,7 @@ struct WrappingRows : ::testing::Test {
     }
     std::vector<int> Tops() {
         std::vector<int> tops;
+        tops.reserve(std::size(Captions));
         for (const QRect& place : Places(window)) {
             tops.push_back(place.top());
         }
