@@ -7,7 +7,7 @@ namespace tarn {
 namespace {
 
 constexpr std::int64_t PatiencePerFill = 8; ///< steps without a gain
-constexpr int KickChanges = 3;
+constexpr int KickChanges = 2;
 
 } // namespace
 
