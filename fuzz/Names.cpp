@@ -21,7 +21,7 @@ void CheckNameText(const NameText& text, std::string_view from) {
 std::string WithoutLastBreaks(std::string_view text) {
     std::u32string characters = ToQt(text).toStdU32String();
     characters.resize(characters.find_last_not_of(LineBreaks) + 1);
-    return FromQt(QString::fromStdU32String(characters));
+    return FromQt(FromCharacters(characters));
 }
 
 void CheckNames(std::string_view text) {

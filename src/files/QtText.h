@@ -9,8 +9,14 @@
 
 namespace tarn {
 
+/// U+FEFF is a character like any other here, at a text's beginning, too, where the toolkit takes
+/// it for a mark of the encoding.
 inline QString ToQt(std::string_view text) {
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+    QString converted = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+    if (text.starts_with("\xEF\xBB\xBF")) {
+        converted.prepend(QChar(QChar::ByteOrderMark));
+    }
+    return converted;
 }
 
 inline std::string FromQt(const QString& text) {
@@ -28,6 +34,15 @@ inline std::u32string ToCharacters(const QString& text) {
         i += isPair ? 1 : 0;
     }
     return characters;
+}
+
+/// The text of such characters, none of which is taken for a mark of the encoding either.
+inline QString FromCharacters(std::u32string_view characters) {
+    QString text;
+    for (const char32_t character : characters) {
+        text.append(QChar::fromUcs4(character));
+    }
+    return text;
 }
 
 /// A text whose lines are broken by CrLf, as widgets break them.

@@ -98,7 +98,7 @@ std::optional<std::string> MessageBoxes::Input(const std::string& prompt,
         return std::nullopt;
     }
     const std::u32string line = OneLineText(ToCharacters(box.textValue()));
-    return FromQt(QString::fromStdU32String(line));
+    return FromQt(FromCharacters(line));
 }
 
 std::optional<std::string> MessageBoxes::SaveFileName(const std::string& suggestedName,

@@ -88,7 +88,11 @@ std::string Cause(const QSqlError& error) {
 } // namespace
 
 QVariant TextValue(std::string_view utf8) {
-    return ToQt(utf8);
+    QString text = ToQt(utf8);
+    if (text.startsWith(QChar(QChar::ByteOrderMark))) { // of which SQLite drops the first
+        text.prepend(QChar(QChar::ByteOrderMark));
+    }
+    return text;
 }
 
 Connection::Connection(const std::string& path, Access access, int busyWait)
@@ -116,7 +120,7 @@ Result Connection::Run(std::string_view statement, std::string_view failing,
                        const QVariantList& values) {
     QSqlQuery query(QSqlDatabase::database(name_, false));
     query.setForwardOnly(true);
-    if (!query.prepare(TextValue(statement).toString())) {
+    if (!query.prepare(ToQt(statement))) {
         Raise(failing, query.lastError());
     }
     for (const QVariant& value : values) {

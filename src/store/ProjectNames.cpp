@@ -19,7 +19,7 @@ std::u32string Characters(std::string_view utf8) {
 }
 
 std::string Encoded(const std::u32string& characters) {
-    return FromQt(QString::fromStdU32String(characters));
+    return FromQt(FromCharacters(characters));
 }
 
 /// The characters for which `isForbidden`, which takes each as UTF-8, and those that no text keeps

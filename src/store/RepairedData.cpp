@@ -107,15 +107,14 @@ RawValue MendedValue(const RawValue& value, const Field& field) {
 std::string RepairedData::CleanName(const RawValue& value, bool isProject) {
     std::u32string name = ToQt(TextOf(value)).toStdU32String();
     for (char32_t& c : name) {
-        const std::string encoded = FromQt(QString::fromStdU32String(std::u32string(1, c)));
+        const std::string encoded = FromQt(FromCharacters(std::u32string(1, c)));
         if (HoldsControlCharacter(encoded)) {
             c = U'\uFFFD';
         } else if (isProject && HoldsForbiddenCharacter(encoded)) {
             c = U'-';
         }
     }
-    std::string clean =
-        StoredName(FittingNameText(StoredName(FromQt(QString::fromStdU32String(name))), 0));
+    std::string clean = StoredName(FittingNameText(StoredName(FromQt(FromCharacters(name))), 0));
     const auto* text = std::get_if<std::string>(&value);
     if (text == nullptr || !EqualsIgnoringCase(*text, clean)) {
         changes_.Add(Words("Names that were changed"),

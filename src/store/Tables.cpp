@@ -64,8 +64,7 @@ std::string TextOf(const QVariant& value) {
     }
     const QString text = value.toString();
     // The toolkit writes a question mark for half of a surrogate pair, unless it comes this way.
-    return text.isValidUtf16() ? FromQt(text)
-                               : FromQt(QString::fromStdU32String(text.toStdU32String()));
+    return text.isValidUtf16() ? FromQt(text) : FromQt(FromCharacters(text.toStdU32String()));
 }
 
 [[noreturn]] void RaiseKept(const std::string& failing) {

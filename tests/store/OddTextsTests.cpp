@@ -25,6 +25,8 @@ const std::vector<OddText> OddTexts = {
     {"CAST(x'417FC28542' AS TEXT)", "A\uFFFD\uFFFDB"}, // other controls
     {"x'41FF42'", "A\uFFFDB"},                         // no text at all
     {"x'4142'", "AB"},                                 //
+    {"CAST(x'EFBBBF41' AS TEXT)", "\uFEFFA"},          // what marks an encoding elsewhere
+    {"CAST(x'EFBBBFEFBBBF41' AS TEXT)", "\uFEFF\uFEFFA"},
 };
 
 class OddTextsInADatabase : public ::testing::Test {

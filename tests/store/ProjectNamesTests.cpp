@@ -59,6 +59,11 @@ TEST(PastedNames, LeaveOutWhatNoTextKeeps) {
     ExpectText(TypedNameText("a\uFFFEb\x01"), "AB", true);
 }
 
+TEST(PastedNames, KeepWhatMarksAnEncodingElsewhere) {
+    ExpectText(PastedNameText("\uFEFFhall"), "\uFEFFHALL", false);
+    EXPECT_EQ(FittingNameText("\uFEFFHALL", 0), "\uFEFFHALL");
+}
+
 TEST(FittingNames, EndAt64Characters) {
     const std::string sixty(60, 'A');
     EXPECT_EQ(FittingNameText("BCDE", 60), "BCDE");

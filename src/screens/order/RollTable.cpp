@@ -47,7 +47,7 @@ class CellDelegate : public QStyledItemDelegate {
 
 /// A text as a field of one line keeps it.
 QString Kept(const QString& text) {
-    return QString::fromStdU32String(OneLineText(text.toStdU32String())).left(LongestText);
+    return FromCharacters(OneLineText(text.toStdU32String())).left(LongestText);
 }
 
 } // namespace

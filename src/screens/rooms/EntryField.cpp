@@ -64,13 +64,13 @@ void EntryField::FitLastChange() {
     const TypedText fitted =
         Fitted(ToCharacters(before_),
                {ToCharacters(typed), ToCharacters(typed.left(cursorPosition())).size()}, most_);
-    const QString allowed = QString::fromStdU32String(fitted.Text);
+    const QString allowed = FromCharacters(fitted.Text);
     if (allowed == typed) {
         return;
     }
     ReplaceLastChange(allowed);
     if (text() == allowed) {
-        const auto left = QString::fromStdU32String(fitted.Text.substr(0, fitted.Cursor));
+        const auto left = FromCharacters(fitted.Text.substr(0, fitted.Cursor));
         setCursorPosition(static_cast<int>(left.size()));
     }
 }

@@ -44,6 +44,12 @@ TEST_F(EntryFields, HoldOneLine) {
     EXPECT_TRUE(boxes.Messages.empty());
 }
 
+TEST_F(EntryFields, KeepWhatMarksAnEncodingElsewhere) {
+    Open();
+    Paste(6, "\uFEFFhall");
+    EXPECT_EQ(FromQt(Text(6).text()), "\uFEFFhall");
+}
+
 TEST_F(EntryFields, MakeOneLineOfTheReportEach) {
     Open();
     TypeSizes({"10", "", "12", ""});
