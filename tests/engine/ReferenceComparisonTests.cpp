@@ -1,3 +1,4 @@
+#include "Sanitized.h"
 #include "base/RunTimeError.h"
 #include "engine/Cases.h"
 #include "engine/EngineTesting.h"
@@ -70,11 +71,7 @@ void Compare(const PlainJob& plain) {
 }
 
 /// The plain search is slow under the sanitizers, which look for other faults than the comparison.
-#ifdef TARN_SANITIZED
-constexpr std::uint32_t UsualJobsInBlock = 40;
-#else
-constexpr std::uint32_t UsualJobsInBlock = 500;
-#endif
+constexpr std::uint32_t UsualJobsInBlock = testing::UnlessSanitized(500U, 40U);
 
 /// TARN_JOBS times as many where that is set, such as by ./dev prove.
 std::uint32_t JobsInBlock() {

@@ -1,3 +1,4 @@
+#include "Sanitized.h"
 #include "base/Lengths.h"
 #include "estimate/CutList.h"
 #include "estimate/EstimateTesting.h"
@@ -143,11 +144,7 @@ void ExpectCutListTrue(const Estimate& estimate) {
     }
 }
 
-#ifdef TARN_SANITIZED
-constexpr unsigned RandomEstimates = 1000;
-#else
-constexpr unsigned RandomEstimates = 3000;
-#endif
+constexpr unsigned RandomEstimates = testing::UnlessSanitized(3000U, 500U);
 
 /// Units and lay.
 class Estimating : public ::testing::TestWithParam<std::tuple<Units, Lay>> {};

@@ -1,3 +1,4 @@
+#include "Sanitized.h"
 #include "improve/Bounds.h"
 #include "improve/ColumnGeneration.h"
 #include "improve/CourseSearch.h"
@@ -77,11 +78,7 @@ ImproveJob SmallDivided(std::mt19937& random) {
 }
 
 TEST(CourseSearch, NeverProvesThatTheLeastIsLonger) {
-#ifdef TARN_SANITIZED
-    constexpr unsigned Jobs = 10;
-#else
-    constexpr unsigned Jobs = 100;
-#endif
+    constexpr unsigned Jobs = testing::UnlessSanitized(100U, 10U);
     for (unsigned seed = 1; seed <= Jobs * testing::JobsFactor(); ++seed) {
         std::mt19937 random(seed);
         const ImproveJob job = SmallDivided(random);
@@ -100,11 +97,7 @@ TEST(CourseSearch, NeverProvesThatTheLeastIsLonger) {
 
 // Wider rolls than trying every place can do: beside the search from another side.
 TEST(CourseSearch, NeverProvesThatALayoutOfAnotherSearchIsLonger) {
-#ifdef TARN_SANITIZED
-    constexpr unsigned Jobs = 3;
-#else
-    constexpr unsigned Jobs = 40;
-#endif
+    constexpr unsigned Jobs = testing::UnlessSanitized(40U, 3U);
     for (unsigned seed = 1; seed <= Jobs * testing::JobsFactor(); ++seed) {
         std::mt19937 random(seed);
         ImproveJob job = testing::RandomFills(random, 9, 40, 4, 60);

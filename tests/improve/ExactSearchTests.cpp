@@ -1,3 +1,4 @@
+#include "Sanitized.h"
 #include "engine/EngineTesting.h"
 #include "improve/Bounds.h"
 #include "improve/ExactSearch.h"
@@ -43,13 +44,8 @@ ImproveJob FewFills(std::mt19937& random, int most) {
 }
 
 TEST(ExactSearch, DecidesAsTryingEveryPlaceDoes) {
-#ifdef TARN_SANITIZED
-    constexpr unsigned Jobs = 20;
-    constexpr int MostFills = 6;
-#else
-    constexpr unsigned Jobs = 200;
-    constexpr int MostFills = 7;
-#endif
+    constexpr unsigned Jobs = testing::UnlessSanitized(200U, 20U);
+    constexpr int MostFills = testing::UnlessSanitized(7, 6);
     for (unsigned seed = 1; seed <= Jobs * testing::JobsFactor(); ++seed) {
         std::mt19937 random(seed);
         const ImproveJob job = FewFills(random, MostFills);

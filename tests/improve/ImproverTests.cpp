@@ -1,3 +1,4 @@
+#include "Sanitized.h"
 #include "improve/Bounds.h"
 #include "improve/ImproveTesting.h"
 #include "improve/Improver.h"
@@ -207,15 +208,10 @@ TEST(Improver, NeverLaysMorePartsThanThereIsRoomFor) {
 
 // Where no bound proves that the start is the least, its joins are looked for all the same.
 TEST(Improver, SavesJoinsOfAStartThatIsTheLeastWithoutAProof) {
-#ifdef TARN_SANITIZED
-    constexpr unsigned Jobs = 5; // the first few, since one takes over a second then
-    constexpr double LeastShare = 0.5;
-    constexpr int LeastUnproven = 1;
-#else
-    constexpr unsigned Jobs = 60;
-    constexpr double LeastShare = 0.75;
-    constexpr int LeastUnproven = 6;
-#endif
+    constexpr unsigned Jobs =
+        testing::UnlessSanitized(60U, 5U); // since one takes over a second then
+    constexpr double LeastShare = testing::UnlessSanitized(0.75, 0.5);
+    constexpr int LeastUnproven = testing::UnlessSanitized(6, 1);
     int unproven = 0;
     int saved = 0;
     for (unsigned seed = 1; seed <= Jobs; ++seed) {

@@ -1,3 +1,4 @@
+#include "Sanitized.h"
 #include "improve/Improver.h"
 #include "improve/PatternPlan.h"
 #include "improve/PatternTesting.h"
@@ -76,7 +77,7 @@ TEST(PatternPlan, CountsColumnsByStripsWithoutARepeatAcross) {
 /// Changes plans of random jobs; `look` is called after each change.
 template <typename Look>
 void ForChangedPlans(Look look) {
-    for (unsigned seed = 1; seed <= 40; ++seed) {
+    for (unsigned seed = 1; seed <= testing::UnlessSanitized(40U, 10U); ++seed) {
         SCOPED_TRACE(seed);
         std::mt19937 random(seed);
         const ImproveJob job =
@@ -151,7 +152,7 @@ TEST(PatternPlan, UndoneAndCopiedPlansGiveTheSame) {
 }
 
 TEST(PatternSearch, FindsTheLeastLengthOfSmallJobs) {
-    for (unsigned seed = 1; seed <= 150; ++seed) {
+    for (unsigned seed = 1; seed <= testing::UnlessSanitized(150U, 40U); ++seed) {
         SCOPED_TRACE(seed);
         std::mt19937 random(seed);
         const ImproveJob job = testing::SmallPattern(random);

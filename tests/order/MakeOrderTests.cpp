@@ -1,3 +1,4 @@
+#include "Sanitized.h"
 #include "base/RunTimeError.h"
 #include "improve/Improver.h"
 #include "order/OrderStrips.h"
@@ -34,7 +35,8 @@ TEST(MakeOrder, OfRandomProjectsPassesBothChecks) {
     Long laid = 0;
     Long matched = 0;
     Long divided = 0;
-    for (unsigned seed = 1; seed <= 400; ++seed) {
+    constexpr unsigned Projects = testing::UnlessSanitized(400U, 100U);
+    for (unsigned seed = 1; seed <= Projects; ++seed) {
         SCOPED_TRACE(seed);
         std::mt19937 random(seed);
         const Project project = RandomRooms(random, 12, 60);
@@ -54,9 +56,9 @@ TEST(MakeOrder, OfRandomProjectsPassesBothChecks) {
             }
         }
     }
-    EXPECT_GT(laid, 400);
-    EXPECT_GT(matched, 400);
-    EXPECT_GT(divided, 400);
+    EXPECT_GT(laid, static_cast<Long>(Projects));
+    EXPECT_GT(matched, static_cast<Long>(Projects));
+    EXPECT_GT(divided, static_cast<Long>(Projects));
 }
 
 // Without a pattern, trim or selvage an order is laid out by the improving search itself.
@@ -217,7 +219,7 @@ TEST(MakeOrder, ByStepsIsTheSameOnAnyNumberOfCores) {
     LongJob job;
     job.Rooms.Rooms.resize(12);
     OrderObserver nobody;
-    OrderLimits limits = StepLimits(6000, 5);
+    OrderLimits limits = StepLimits(testing::UnlessSanitized(6000, 1500), 5);
     limits.Threads = 1;
     const Order one = MakeOrder(job.Rooms, 0, job.Request, limits, nobody);
     for (const std::size_t threads : {0U, 2U, 5U, 40U}) {

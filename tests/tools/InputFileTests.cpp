@@ -1,6 +1,7 @@
 // The bounds of what the programs read, and the names that they are given.
 
 #include "QtString.h"
+#include "Sanitized.h"
 #include "tools/ToolTesting.h"
 
 #include <QRegularExpression>
@@ -72,9 +73,9 @@ TEST_F(InputFile, TellsTwentyMistakesAndHowManyMoreThereAre) {
 }
 
 TEST_F(InputFile, TakesMemoryInProportion) {
-#ifdef TARN_SANITIZED
-    GTEST_SKIP() << "the sanitizers take addresses for themselves";
-#endif
+    if (IsSanitized) {
+        GTEST_SKIP() << "the sanitizers take addresses for themselves";
+    }
     const auto expectWithin = [this](const char* what, const QByteArray& rooms,
                                      const char* status) {
         SCOPED_TRACE(what);

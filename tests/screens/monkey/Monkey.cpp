@@ -1,5 +1,6 @@
 #include "screens/monkey/Monkey.h"
 
+#include "Sanitized.h"
 #include "base/Text.h"
 #include "project/Coverings.h"
 #include "screens/ControlNames.h"
@@ -25,11 +26,8 @@ namespace tarn::testing {
 
 namespace {
 
-#ifdef TARN_SANITIZED
-constexpr qint64 LongestSearch = 1500; // milliseconds, before the user gives it up
-#else
-constexpr qint64 LongestSearch = 300;
-#endif
+/// Milliseconds, before the user gives it up.
+constexpr qint64 LongestSearch = UnlessSanitized(300, 1500);
 constexpr std::size_t ActionsKept = 40;
 
 /// Sizes and other texts that fields are meant for.

@@ -1,6 +1,7 @@
 // The whole program under random use. The environment asks for more of it: TARN_MONKEY_FIRST is the
 // first seed, TARN_MONKEY_SEEDS how many there are, TARN_MONKEY_STEPS how long each goes on.
 
+#include "Sanitized.h"
 #include "screens/ControlNames.h"
 #include "screens/monkey/Monkey.h"
 #include "store/Schema.h"
@@ -27,11 +28,7 @@ int FromEnvironment(const char* name, int otherwise) {
     return isNumber ? number : otherwise;
 }
 
-#ifdef TARN_SANITIZED
-constexpr int Steps = 450;
-#else
-constexpr int Steps = 600;
-#endif
+constexpr int Steps = UnlessSanitized(600, 450);
 constexpr int StepsBetweenChecks = 50;
 
 /// A data folder with projects, in a home of its own: nothing of the user is read or written.
