@@ -11,12 +11,9 @@ namespace tarn {
 namespace {
 
 using testing::Between;
+using testing::GoOn;
 
 constexpr std::int64_t Many = 100'000;
-
-bool GoOn() {
-    return true;
-}
 
 bool Proves(const ImproveJob& job, Long roof, std::int64_t relaxations = Many,
             std::size_t number = 0) {
@@ -24,7 +21,7 @@ bool Proves(const ImproveJob& job, Long roof, std::int64_t relaxations = Many,
     return search.ProvesLonger(roof, relaxations, GoOn);
 }
 
-Long BarBound(const ImproveJob& job) {
+Long KnownBound(const ImproveJob& job) {
     return std::max(QuickBound(job), BarRelaxationBound(job, 0, GoOn));
 }
 
@@ -37,7 +34,7 @@ ImproveJob RestTooShort() {
 
 TEST(CourseSearch, ProvesWhatTheBarRelaxationCannot) {
     const ImproveJob job = RestTooShort();
-    EXPECT_EQ(BarBound(job), 353);
+    EXPECT_EQ(KnownBound(job), 353);
     EXPECT_TRUE(Proves(job, 353));
     EXPECT_TRUE(Proves(job, 354));
     EXPECT_TRUE(Proves(job, 354, Many, 1)) << "from the other end";
@@ -49,8 +46,7 @@ TEST(CourseSearch, ProvesNothingOfALengthThatThereIs) {
 
 TEST(CourseSearch, TellsTheLeastOfAJobThatEndsSo) {
     const ImproveJob job = RestTooShort();
-    ImproveRun run(job, {static_cast<Long>(StackedLength(job)), 100, 0}, {0, 3'000'000, 1},
-                   [](Long, Long) { return true; });
+    ImproveRun run(job, {static_cast<Long>(StackedLength(job)), 100, 0}, {0, 3'000'000, 1}, GoOn);
     Improve(run, 1);
     EXPECT_TRUE(run.IsLeast());
     EXPECT_EQ(run.Bound(), 355);
@@ -89,7 +85,7 @@ TEST(CourseSearch, NeverProvesThatTheLeastIsLonger) {
             ASSERT_FALSE(search.ProvesLonger(least, 1500, GoOn));
             ASSERT_FALSE(search.ProvesLonger(least + 1, 500, GoOn));
         }
-        if (BarBound(job) < least) {
+        if (KnownBound(job) < least) {
             EXPECT_TRUE(Proves(job, least - 1)) << least;
         }
     }
@@ -107,7 +103,7 @@ TEST(CourseSearch, NeverProvesThatALayoutOfAnotherSearchIsLonger) {
         }
         SCOPED_TRACE(std::to_string(seed) + ": " + testing::Describe(job));
         ImproveRun run(job, {static_cast<Long>(StackedLength(job)) + 1, 100, 0}, {0, 4000, seed},
-                       [](Long, Long) { return true; });
+                       GoOn);
         Improve(run, seed);
         EXPECT_FALSE(Proves(job, run.Best().Length, 2000, seed % 2));
     }

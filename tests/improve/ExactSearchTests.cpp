@@ -12,12 +12,9 @@ namespace {
 
 using testing::Between;
 using testing::FaultOf;
+using testing::GoOn;
 
 constexpr std::int64_t ManyCases = 50'000'000;
-
-bool GoOn() {
-    return true;
-}
 
 /// The least length by an exact search alone, from the bound upwards; its layouts are looked at.
 Long LeastByDeciding(const ImproveJob& job) {
@@ -64,7 +61,7 @@ TEST(ExactSearch, ProvesNoLeastThatAnotherSearchUndercuts) {
         const Long least = LeastByDeciding(job);
         EXPECT_GE(least, QuickBound(job));
         ImproveRun run(job, {static_cast<Long>(StackedLength(job)) + 1, 100, 0}, {0, 3000, seed},
-                       [](Long, Long) { return true; });
+                       GoOn);
         Improve(run, seed);
         EXPECT_GE(run.Best().Length, least);
         EXPECT_LE(run.Bound(), least);

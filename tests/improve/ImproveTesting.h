@@ -21,6 +21,14 @@ inline unsigned JobsFactor() {
     return static_cast<unsigned>(std::clamp<unsigned long>(factor, 1, 1000));
 }
 
+/// Whatever it is told: an observer that stops nothing.
+inline constexpr auto GoOn = [](auto... /*told*/) { return true; };
+
+/// The merit of a layout that lies behind itself: worse than any.
+inline LayoutMerit Stacked(const ImproveJob& job) {
+    return {static_cast<Long>(StackedLength(job)) + 1, 1000, 0};
+}
+
 /// A whole number `least` .. `most`.
 inline Long Between(std::mt19937& random, Long least, Long most) {
     return least + Below(random, most - least + 1);

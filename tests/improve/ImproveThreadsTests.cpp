@@ -12,16 +12,9 @@ namespace tarn {
 namespace {
 
 using testing::FaultOf;
+using testing::GoOn;
 using testing::RandomFills;
-
-/// The merit of a layout that lies behind itself: worse than any.
-LayoutMerit Stacked(const ImproveJob& job) {
-    return {static_cast<Long>(StackedLength(job)) + 1, 1000, 0};
-}
-
-bool GoOn(Long /*best*/, Long /*bound*/) {
-    return true;
-}
+using testing::Stacked;
 
 ImproveLimits Steps(std::int64_t steps, std::size_t threads, std::uint64_t seed = 1) {
     return {0, steps, seed, threads};

@@ -15,21 +15,14 @@ namespace tarn {
 namespace {
 
 using testing::FaultOf;
+using testing::GoOn;
 using testing::RandomFills;
+using testing::Stacked;
 
 constexpr std::int64_t Steps = 400;
 
-/// The merit of a layout that lies behind itself: worse than any.
-LayoutMerit Stacked(const ImproveJob& job) {
-    return {static_cast<Long>(StackedLength(job)) + 1, 1000, 0};
-}
-
 ImproveLimits Limits(std::int64_t steps, std::uint64_t seed = 1) {
     return {0, steps, seed};
-}
-
-bool GoOn(Long /*best*/, Long /*bound*/) {
-    return true;
 }
 
 /// Whether two runs found the very same layout.

@@ -6,11 +6,9 @@
 namespace tarn {
 namespace {
 
-constexpr Long Far = 100000;
+using testing::GoOn;
 
-bool GoOn() {
-    return true;
-}
+constexpr Long Far = 100000;
 
 /// A room of one or two drops and a fill.
 ImproveJob RandomRoom(std::mt19937& random, Long most) {

@@ -9,14 +9,12 @@ namespace tarn {
 namespace {
 
 using testing::FaultOf;
+using testing::GoOn;
 using testing::PatternFaultOf;
 
-LayoutMerit Stacked(const ImproveJob& job) {
+/// Worse than any layout that drops with a pattern can have.
+LayoutMerit Worst(const ImproveJob& job) {
     return {4 * static_cast<Long>(StackedLength(job)) + 1000, 1000, 0};
-}
-
-bool GoOn(Long /*best*/, Long /*bound*/) {
-    return true;
 }
 
 /// A full-width drop and a fill of a room, and what the fill needs besides.
@@ -158,7 +156,7 @@ TEST(PatternSearch, FindsTheLeastLengthOfSmallJobs) {
         const ImproveJob job = testing::SmallPattern(random);
         SCOPED_TRACE(testing::Describe(job));
         const Long least = testing::LeastPatternLength::Of(job);
-        ImproveRun run(job, Stacked(job), {0, 6000, seed}, GoOn);
+        ImproveRun run(job, Worst(job), {0, 6000, seed}, GoOn);
         Improve(run, seed);
         EXPECT_EQ(FaultOf(job, run.BestParts()), "");
         EXPECT_EQ(PatternFaultOf(job, run.BestParts()), "");
