@@ -45,6 +45,10 @@ TEST(CourseSearch, ProvesNothingOfALengthThatThereIs) {
 }
 
 TEST(CourseSearch, TellsTheLeastOfAJobThatEndsSo) {
+    if (testing::IsSanitized) {
+        GTEST_SKIP()
+            << "takes a quarter of a minute there, and the tests around it run the same code";
+    }
     const ImproveJob job = RestTooShort();
     ImproveRun run(job, {static_cast<Long>(StackedLength(job)), 100, 0}, {0, 3'000'000, 1}, GoOn);
     Improve(run, 1);
