@@ -16,6 +16,7 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPlainTextEdit>
+#include <QPointer>
 #include <QTimer>
 
 #include <algorithm>
@@ -152,6 +153,16 @@ bool MaySearch(const ScreenWindow& window) {
     return name == Controls::estimateScreen || name == Controls::optionsScreen;
 }
 
+/// As QTest::mouseClick does, which releases the button over a widget that is gone, too: pressing a
+/// button with a menu returns when the menu is closed, and its screen may have been left by then.
+void PressAndRelease(QWidget* widget, QPoint place) {
+    const QPointer<QWidget> pressed(widget);
+    QTest::mousePress(widget, Qt::LeftButton, {}, place);
+    if (pressed != nullptr) {
+        QTest::mouseRelease(widget, Qt::LeftButton, {}, place);
+    }
+}
+
 bool TakesClicks(const QWidget& widget) {
     return widget.isVisible() && widget.isEnabled() && !widget.size().isEmpty();
 }
@@ -237,7 +248,7 @@ void Monkey::Click(QWidget* widget, bool twice) {
          (parent != nullptr ? FromQt(parent->objectName()) : "") + " at " +
          std::to_string(place.x()) + ", " + std::to_string(place.y()));
     const QPoint onDisplay = widget->mapToGlobal(place);
-    QTest::mouseClick(widget, Qt::LeftButton, {}, place);
+    PressAndRelease(widget, place);
     // The second click lands on whatever is there by then.
     QWidget* now = twice ? QApplication::widgetAt(onDisplay) : nullptr;
     if (now != nullptr) {
@@ -306,7 +317,7 @@ void Monkey::FillField() {
     QLineEdit* field = OneOf(fields);
     const QString text = OneOf(GoodTexts());
     Note("fill " + FromQt(field->objectName()) + " with " + FromQt(text));
-    QTest::mouseClick(field, Qt::LeftButton);
+    PressAndRelease(field, field->rect().center());
     QTest::keyClick(Focused(), Qt::Key_A, Qt::ControlModifier);
     QTest::keyClicks(Focused(), text);
 }
