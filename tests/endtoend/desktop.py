@@ -4,6 +4,7 @@ mouse and key events. Nothing waits for a fixed time; what does not happen withi
 import os
 import subprocess
 import time
+from itertools import islice
 
 import gi
 from Xlib import X, display, protocol
@@ -67,6 +68,16 @@ def walk(accessible):
             yield from walk(child)
 
 
+def walk_shown(accessible):
+    """What can be seen below it. Every question to the bus takes its time: what does not show is not
+    asked for what it holds."""
+    for index in range(accessible.childCount):
+        child = accessible.getChildAtIndex(index)
+        if child is not None and child.getState().contains(pyatspi.STATE_SHOWING):
+            yield child
+            yield from walk_shown(child)
+
+
 def text_of(accessible):
     text = accessible.queryText()
     return text.getText(0, text.characterCount)
@@ -125,28 +136,25 @@ class Program:
 
     # --- looking ---
 
-    def showing(self, role=None, name=None):
-        """What the user sees of that role and name, in tab order."""
-        return [
+    def showing(self, *roles, name=None):
+        """What the user sees of these roles (of any without) and that name, in tab order."""
+        return (
             each
-            for each in walk(self.application)
-            if (role is None or each.getRoleName() == role)
-            and (name is None or each.name == name)
-            and "showing" in states(each)
-        ]
+            for each in walk_shown(self.application)
+            if (not roles or each.getRoleName() in roles) and (name is None or each.name == name)
+        )
 
     def see(self, role, name, position=0):
-        def look():
-            found = self.showing(role, name)
-            return found[position] if len(found) > position else None
-
-        return wait_for(look, f"{role} {name!r}")
+        return wait_for(
+            lambda: next(islice(self.showing(role, name=name), position, None), None),
+            f"{role} {name!r}",
+        )
 
     def wait_gone(self, role, name):
-        wait_for(lambda: not self.showing(role, name), f"{role} {name!r} to go")
+        wait_for(lambda: not self.is_there(role, name), f"{role} {name!r} to go")
 
-    def is_there(self, role, name):
-        return bool(self.showing(role, name))
+    def is_there(self, role, name=None):
+        return next(self.showing(role, name=name), None) is not None
 
     def is_enabled(self, role, name):
         return "enabled" in states(self.see(role, name))
@@ -166,8 +174,9 @@ class Program:
         return [each.name for each in walk(self.see("list", name)) if each.getRoleName() == "list item"]
 
     def boxes(self):
-        """The message, question and input boxes that stand."""
-        return self.showing("alert") + self.showing("dialog")
+        """The message, question and input boxes that stand; messages, which stand before the others,
+        first."""
+        return sorted(self.showing("alert", "dialog"), key=lambda each: each.getRoleName() != "alert")
 
     def box(self):
         return wait_for(lambda: (self.boxes() or [None])[0], "a message")
@@ -195,8 +204,8 @@ class Program:
 
     def drawn_text(self):
         """The lines written in the drawing, top to bottom; none while there is no drawing."""
-        drawing = self.showing(name="Layout drawing")
-        return drawing[0].description.split("\n") if drawing else []
+        drawing = next(self.showing(name="Layout drawing"), None)
+        return drawing.description.split("\n") if drawing else []
 
     # --- acting ---
 

@@ -191,7 +191,7 @@ class PrintCase(unittest.TestCase):
         self.ui.answer("OK")
 
     def drawing(self):
-        return wait_for(lambda: next(iter(self.ui.showing(name="Layout drawing")), None), "a drawing")
+        return wait_for(lambda: next(self.ui.showing(name="Layout drawing"), None), "a drawing")
 
     def report(self):
         return self.ui.see("text", "ENTERED DATA REPORT")

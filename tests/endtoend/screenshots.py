@@ -97,7 +97,7 @@ class Photographer:
 
     def show_part(self, caption):
         """Show a part of the order's screen, where they stand behind each other."""
-        tabs = self.ui.showing("page tab", caption)
+        tabs = list(self.ui.showing("page tab", name=caption))
         if tabs:
             self.ui.click_on(tabs[0])
 
@@ -205,12 +205,12 @@ class Photographer:
         ui.see("label", "Compared.")
         self.shoot("order-" + unit)
         self.show_part("ROLL")
-        if ui.showing("page tab", "ROLL"):
+        if ui.is_there("page tab", "ROLL"):
             self.shoot("order-roll-" + unit)
         self.mark_a_piece()
         self.shoot("order-marked-" + unit)
         self.show_part("CHOICES")
-        if ui.showing("page tab", "CHOICES"):
+        if ui.is_there("page tab", "CHOICES"):
             self.shoot("order-choices-" + unit)
         # A repeat that drops of the narrowest roll cannot match by.
         ui.fill("PATTERN ACROSS", "300cm" if metric else "10ft")

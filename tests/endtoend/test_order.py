@@ -102,7 +102,7 @@ class OrderingByClicks(PrintCase):
         for button in ("ESTIMATE", "CANCEL", "ORDER"):
             ui.press(button)
         ui.see("label", "Compared.")
-        tabs = ui.showing("page tab", "CHOICES")
+        tabs = list(ui.showing("page tab", name="CHOICES"))
         if tabs:
             ui.click_on(tabs[0])
         ui.fill("TRIM ALONG", "3in")

@@ -66,10 +66,10 @@ class PrintingToFiles(PrintCase):
             wait_for(lambda: self.ui.focused() == "File name:", "the focus on the name")
             self.assertEqual(self.ui.field("File name:"), "MAPLE STREET 9.pdf")
             self.ui.key("Return")
-            wait_for(lambda: self.ui.showing("alert"), "the question")
+            wait_for(lambda: self.ui.is_there("alert"), "the question")
             self.assertIn("MAPLE STREET 9.pdf already exists", self.ui.message())
             self.ui.click_on(self.ui.button_of_box(answer))
-            wait_for(lambda: not self.ui.showing("alert"), "the question to go")
+            wait_for(lambda: not self.ui.is_there("alert"), "the question to go")
             if answer == "No":
                 self.ui.answer("Cancel")
                 self.assertEqual(self.content_of(path), b"another")
