@@ -18,9 +18,9 @@ namespace tarn {
 
 namespace {
 
-constexpr auto Description = Words("Make and look after the data of the estimating program.");
+constexpr auto DataDescription = Words("Make and look after the data of the estimating program.");
 
-std::string Footer() {
+std::string DataFooter() {
     return Words(
         "tarn-data COMMAND --help tells the options of a command.\n\n"
         "A name has at most %1 characters, a project's none of %2\n\n"
@@ -156,7 +156,7 @@ void AddProjectCommands(CLI::App& app, DataOptions& arguments) {
 } // namespace
 
 void DescribeData(CLI::App& app, DataOptions& arguments) {
-    BeginOptions(app, "tarn-data", Description, Footer());
+    BeginOptions(app, "tarn-data", DataDescription, DataFooter());
     app.require_subcommand(1);
     AddFileCommands(app, arguments);
     AddCareCommands(app, arguments);

@@ -22,11 +22,11 @@ namespace tarn {
 
 namespace {
 
-constexpr auto Description = Words(
+constexpr auto EstimateDescription = Words(
     "Estimate one carpet of a project: how its rooms are cut from a roll.\n"
     "The rooms come from a database (--database and --project) or from a CSV file (--rooms).");
 
-std::string Footer() {
+std::string EstimateFooter() {
     return Words(
         "A CSV file has a header line and the columns width,length,covering,base,room,remark in "
         "any\n"
@@ -189,7 +189,7 @@ void CheckTogether(EstimateOptions& options) {
 } // namespace
 
 void DescribeEstimate(CLI::App& app, EstimateOptions& options) {
-    BeginOptions(app, "tarn-estimate", Description, Footer());
+    BeginOptions(app, "tarn-estimate", EstimateDescription, EstimateFooter());
     app.get_formatter()->column_width(28);
     AddInput(app, options);
     AddChoices(app, options);

@@ -15,11 +15,11 @@ namespace tarn {
 
 namespace {
 
-constexpr auto Description = Words(
+constexpr auto OrderDescription = Words(
     "What to buy and how to cut it: compares rolls and lays, and lists the cuts of the best.\n"
     "The rooms come from a database (--database and --project) or from a CSV file (--rooms).");
 
-constexpr auto Footer = Words(
+constexpr auto OrderFooter = Words(
     "Lengths are written 12ft6in, 18in, 366cm or 3.66m; a bare number is in the project's units.\n"
     "All lengths of an order are whole inches, with --metric whole centimetres: roll widths are\n"
     "rounded down; trim, selvage, shortest part and step up. A pattern repeat must be whole.\n\n"
@@ -218,7 +218,7 @@ std::vector<Lay> LaysOf(const std::string& word) {
 } // namespace
 
 void DescribeOrder(CLI::App& app, OrderOptions& options) {
-    BeginOptions(app, "tarn-order", Description, Footer);
+    BeginOptions(app, "tarn-order", OrderDescription, OrderFooter);
     app.get_formatter()->column_width(28);
     AddInput(app, options);
     AddRolls(app, options);

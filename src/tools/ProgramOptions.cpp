@@ -11,9 +11,9 @@ namespace tarn {
 
 namespace {
 
-constexpr auto Description = Words("Estimate how carpets are cut from the roll.");
+constexpr auto ProgramDescription = Words("Estimate how carpets are cut from the roll.");
 
-constexpr auto Footer = Words(
+constexpr auto ProgramFooter = Words(
     "The columns of a CSV file are those that tarn-estimate --help tells.\n\n"
     "Exit status: 0 done, 1 the program could not start (the reason is in a box or on standard\n"
     "error), 2 wrong usage.\n\n"
@@ -23,7 +23,7 @@ constexpr auto Footer = Words(
 } // namespace
 
 void DescribeProgram(CLI::App& app, ProgramOptions& options) {
-    BeginOptions(app, "tarn", Description, Footer);
+    BeginOptions(app, "tarn", ProgramDescription, ProgramFooter);
     app.add_option_function<std::string>(
            "--config-dir",
            [&options](const std::string& directory) { options.ConfigDirectory = directory; },

@@ -38,11 +38,13 @@ void ExpectSame(const ImproveRun& a, const ImproveRun& b) {
     }
 }
 
+constexpr unsigned SmallJobs = testing::UnlessSanitized(40U, 10U);
+
 class ImproverByParts : public ::testing::TestWithParam<Long> {};
 INSTANTIATE_TEST_SUITE_P(Parts, ImproverByParts, ::testing::Values(1, 2, 6));
 
 TEST_P(ImproverByParts, FindsWholeLayoutsNotBelowTheBound) {
-    for (unsigned seed = 1; seed <= 40; ++seed) {
+    for (unsigned seed = 1; seed <= SmallJobs; ++seed) {
         SCOPED_TRACE(seed);
         std::mt19937 random(seed);
         const ImproveJob job = RandomFills(random, 25, 24, GetParam(), 60);
@@ -62,7 +64,7 @@ TEST_P(ImproverByParts, FindsWholeLayoutsNotBelowTheBound) {
 }
 
 TEST_P(ImproverByParts, FindsTheLeastLengthOfSmallJobs) {
-    for (unsigned seed = 1; seed <= 40; ++seed) {
+    for (unsigned seed = 1; seed <= SmallJobs; ++seed) {
         SCOPED_TRACE(seed);
         std::mt19937 random(seed);
         const ImproveJob job = testing::SmallFills(random, GetParam());
@@ -201,7 +203,7 @@ TEST(Improver, NeverLaysMorePartsThanThereIsRoomFor) {
 
 // Where no bound proves that the start is the least, its joins are looked for all the same.
 TEST(Improver, SavesJoinsOfAStartThatIsTheLeastWithoutAProof) {
-    constexpr unsigned Jobs = testing::UnlessSanitized(60U, 5U); // one takes over a second then
+    constexpr unsigned Jobs = testing::UnlessSanitized(60U, 3U); // one takes over a second then
     constexpr double LeastShare = 0.5;                           // four in five of very many
     constexpr int LeastUnproven = testing::UnlessSanitized(6, 1);
     int unproven = 0;

@@ -35,7 +35,7 @@ TEST(MakeOrder, OfRandomProjectsPassesBothChecks) {
     Long laid = 0;
     Long matched = 0;
     Long divided = 0;
-    constexpr unsigned Projects = testing::UnlessSanitized(400U, 100U);
+    constexpr unsigned Projects = testing::UnlessSanitized(400U, 40U);
     for (unsigned seed = 1; seed <= Projects; ++seed) {
         SCOPED_TRACE(seed);
         std::mt19937 random(seed);

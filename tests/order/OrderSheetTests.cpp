@@ -1,5 +1,6 @@
 // The sheet of an order as drawings: whole, readable, and true to the order.
 
+#include "Sanitized.h"
 #include "base/Lengths.h"
 #include "base/Text.h"
 #include "order/CutLines.h"
@@ -197,7 +198,7 @@ TEST(OrderSheet, ListsEveryPieceInCuttingOrderAtTenPoints) {
 /// Rooms an inch or two wide, and rolls much wider than long: no label has a place on its piece.
 TEST(OrderSheet, LosesNoLabelOfPiecesThatAreTooSmall) {
     std::mt19937 random(7);
-    for (int i = 0; i < 60; ++i) {
+    for (int i = 0; i < testing::UnlessSanitized(60, 12); ++i) {
         SCOPED_TRACE(i);
         std::vector<testing::RoomSides> sides;
         const auto least = static_cast<int>(1 + random() % 20);

@@ -12,12 +12,14 @@
 
 namespace tarn::testing {
 
-namespace {} // namespace
-
 Pdf::Pdf(const std::string& content) {
     QFile file(Path());
     EXPECT_TRUE(file.open(QIODevice::WriteOnly));
     EXPECT_EQ(file.write(QByteArray::fromStdString(content)), static_cast<qint64>(content.size()));
+    file.close();
+    // Each page ends with a form feed.
+    pages_ = Run(S("pdftotext"), {S("-layout"), Path(), S("-")}).split(u'\f');
+    pages_.removeLast();
 }
 
 QString Pdf::Run(const QString& program, const QStringList& arguments) const {
@@ -60,11 +62,6 @@ int Pdf::Images() const {
     return static_cast<int>(list.split(u'\n', Qt::SkipEmptyParts).size()) - 2;
 }
 
-QString Pdf::Layout(int page) const {
-    const QString number = QString::number(page);
-    return Run(S("pdftotext"), {S("-layout"), S("-f"), number, S("-l"), number, Path(), S("-")});
-}
-
 QString Pdf::FixedPitchLayout(int page, double advance) const {
     const QString number = QString::number(page);
     return Run(S("pdftotext"), {S("-fixed"), QString::number(advance), S("-f"), number, S("-l"),
@@ -72,7 +69,7 @@ QString Pdf::FixedPitchLayout(int page, double advance) const {
 }
 
 QString Pdf::Text() const {
-    return Run(S("pdftotext"), {S("-layout"), Path(), S("-")}).simplified();
+    return pages_.join(u' ').simplified();
 }
 
 std::vector<PdfWord> Pdf::Words(int page) const {
@@ -98,8 +95,8 @@ QImage Pdf::Image(int page, int dotsPerInch) const {
     const QString name = directory_.filePath(S("page"));
     const QString number = QString::number(page);
     Run(S("pdftoppm"), {S("-r"), QString::number(dotsPerInch), S("-f"), number, S("-l"), number,
-                        S("-singlefile"), S("-png"), Path(), name});
-    QImage image(name + S(".png"));
+                        S("-singlefile"), Path(), name});
+    QImage image(name + S(".ppm"));
     EXPECT_FALSE(image.isNull());
     return image;
 }
@@ -111,10 +108,12 @@ QString Words(const std::string& text) {
 QRect InkIn(const QImage& image, const QRect& wanted) {
     constexpr int White = 250;
     const QRect area = wanted & image.rect();
+    const QImage pixels = image.convertToFormat(QImage::Format_RGB32);
     QRect ink;
     for (int y = area.top(); y <= area.bottom(); ++y) {
+        const auto* line = reinterpret_cast<const QRgb*>(pixels.constScanLine(y));
         for (int x = area.left(); x <= area.right(); ++x) {
-            if (qGray(image.pixel(x, y)) < White) {
+            if (qGray(line[x]) < White) {
                 ink |= QRect(x, y, 1, 1);
             }
         }

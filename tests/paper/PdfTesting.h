@@ -24,7 +24,7 @@ class Pdf {
   public:
     explicit Pdf(const std::string& content);
 
-    int Pages() const { return InfoOf("Pages").toInt(); }
+    int Pages() const { return static_cast<int>(pages_.size()); }
     /// Points, as the page is shown.
     QSizeF PageSize() const;
     QString InfoOf(const char* key) const;
@@ -32,7 +32,7 @@ class Pdf {
     QStringList Fonts() const;
     int Images() const;
     /// The text of one page (from 1), laid out as on the page.
-    QString Layout(int page) const;
+    QString Layout(int page) const { return pages_.at(page - 1); }
     /// The text of one page (from 1) in letters that are all that wide, points: every blank between
     /// its first and its last column is there.
     QString FixedPitchLayout(int page, double advance) const;
@@ -48,6 +48,7 @@ class Pdf {
     QString Path() const { return directory_.filePath(QStringLiteral("document.pdf")); }
 
     QTemporaryDir directory_;
+    QStringList pages_; ///< the text of each
 };
 
 /// The words of a text, parted by one blank each.

@@ -83,7 +83,7 @@ TEST(PaintReport, HasEveryBlankOfTheReportWhereReadersCountColumns) {
 
 TEST(PaintReport, NothingIsNearerToTheEdgeThanTheMargin) {
     Project project;
-    project.Rooms.resize(120, {150, 168, 0, 5, "WWWWWWWW", std::string(255, 'W')});
+    project.Rooms.resize(30, {150, 168, 0, 5, "WWWWWWWW", std::string(255, 'W')});
     const Pdf pdf(ReportPdf(MakeReport(project, Units::Imperial, "11/21/2031")));
     for (int page = 1; page <= pdf.Pages(); ++page) {
         const QImage image = pdf.Image(page, 72);

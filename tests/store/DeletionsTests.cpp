@@ -1,3 +1,4 @@
+#include "Sanitized.h"
 #include "base/RunTimeError.h"
 #include "store/Schema.h"
 #include "store/TestDatabase.h"
@@ -498,7 +499,7 @@ TEST_F(Deletions, ChangeNothingWhereverTheDiskFails) {
         AddFullProject("KEEP", "P" + std::to_string(project), 10 + project);
     }
     const Lines before = Everything();
-    constexpr rlim_t Step = 1400;
+    constexpr rlim_t Step = testing::UnlessSanitized(1400, 5600);
     int failures = 0;
     rlim_t limit = 0;
     while (!DeletesWithin(file_, limit)) {
@@ -506,7 +507,7 @@ TEST_F(Deletions, ChangeNothingWhereverTheDiskFails) {
         ++failures;
         limit += Step;
     }
-    EXPECT_GT(failures, 10);
+    EXPECT_GT(failures, testing::UnlessSanitized(10, 3));
     EXPECT_EQ(Everything(), Lines{});
 }
 

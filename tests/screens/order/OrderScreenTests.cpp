@@ -1,5 +1,6 @@
 // How the order screen begins, compares, is stopped and left.
 
+#include "Sanitized.h"
 #include "screens/ControlChecks.h"
 #include "screens/order/OrderScreenTesting.h"
 
@@ -275,8 +276,9 @@ TEST_F(OrderScreens, NeverScrollTheComparisonSideways) {
     AddHouse(*this, 123.45);
     Open(std::nullopt, 800, 600);
     WaitFor("Compared.");
+    constexpr int Step = UnlessSanitized(16, 128);
     std::size_t least = 99;
-    for (int width = 640; width <= 1920; width += 16) {
+    for (int width = 640; width <= 1920; width += Step) {
         form->resize(width, 600);
         QCoreApplication::processEvents();
         const std::vector<std::string> heads = HeadsInSight(Table());
