@@ -5,6 +5,7 @@
 #include "engine/Search.h"
 
 #include <initializer_list>
+#include <ostream>
 #include <random>
 
 namespace tarn::testing {
@@ -12,6 +13,16 @@ namespace tarn::testing {
 /// A whole number 0 .. `bound` - 1, the same for equal seeds with every standard library.
 inline int Below(std::mt19937& random, int bound) {
     return static_cast<int>(random() % static_cast<unsigned>(bound));
+}
+
+/// A place on the roll, inches.
+struct Point {
+    Single X, Y;
+    bool operator==(const Point&) const = default;
+};
+
+inline void PrintTo(const Point& point, std::ostream* out) {
+    *out << "(" << point.X << ", " << point.Y << ")";
 }
 
 /// Extents of a piece along its X and its Y, inches.

@@ -7,20 +7,12 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
-#include <ostream>
 #include <vector>
 
 namespace tarn {
 namespace {
 
-struct Point {
-    Single X, Y;
-    bool operator==(const Point&) const = default;
-};
-
-void PrintTo(const Point& point, std::ostream* out) {
-    *out << "(" << point.X << ", " << point.Y << ")";
-}
+using testing::Point;
 
 std::vector<Point> Points(const FreeCorners& corners) {
     std::vector<Point> points;

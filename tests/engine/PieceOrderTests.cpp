@@ -11,23 +11,23 @@
 namespace tarn {
 namespace {
 
-using Numbers = std::vector<std::size_t>;
+using Indices = std::vector<std::size_t>;
 
-Numbers OrderOf(const std::vector<PieceSize>& sizes, Integer power) {
+Indices OrderOf(const std::vector<PieceSize>& sizes, Integer power) {
     PieceOrder order;
     return order.LargestFirst(sizes, power);
 }
 
 TEST(PieceOrder, PowerOneOrdersByAreaLargestFirst) {
-    EXPECT_EQ(OrderOf({{5, 5}, {3, 10}}, 1), (Numbers{1, 0}));
+    EXPECT_EQ(OrderOf({{5, 5}, {3, 10}}, 1), (Indices{1, 0}));
 }
 
 TEST(PieceOrder, PowerTwoPutsLengthFirst) {
-    EXPECT_EQ(OrderOf({{12, 10}, {6, 20}}, LongestFirst), (Numbers{1, 0}));
+    EXPECT_EQ(OrderOf({{12, 10}, {6, 20}}, LongestFirst), (Indices{1, 0}));
 }
 
 TEST(PieceOrder, PowerZeroOrdersByWidthAlone) {
-    EXPECT_EQ(OrderOf({{5, 900}, {6, 1}, {7, 2}}, 0), (Numbers{2, 1, 0}));
+    EXPECT_EQ(OrderOf({{5, 900}, {6, 1}, {7, 2}}, 0), (Indices{2, 1, 0}));
 }
 
 TEST(PieceOrder, AKeyThatIsNotFiniteIsAnOverflow) {
@@ -46,7 +46,7 @@ TEST(PieceOrder, SortsRandomPiecesAndKeepsTheOrderOfEqualKeys) {
                              static_cast<Single>(1 + testing::Below(random, 4))});
         }
         const auto power = static_cast<Integer>(testing::Below(random, 3));
-        const Numbers numbers = order.LargestFirst(sizes, power);
+        const Indices numbers = order.LargestFirst(sizes, power);
         ASSERT_EQ(numbers.size(), sizes.size());
         const auto key = [&](std::size_t i) {
             return std::pow(static_cast<double>(sizes[i].Length), power) *

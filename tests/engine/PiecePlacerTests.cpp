@@ -20,19 +20,12 @@ void PrintTo(const Box& box, std::ostream* out) {
 
 namespace {
 
+using testing::Point;
+
 constexpr PieceSize Nothing{0, 0}; ///< no corner is useless for it
 
-struct Point {
-    Single X, Y;
-    bool operator==(const Point&) const = default;
-};
-
-void PrintTo(const Point& point, std::ostream* out) {
-    *out << "(" << point.X << ", " << point.Y << ")";
-}
-
 /// A roll on which pieces of the given sizes were placed.
-PiecePlacer Placed(Single usableWidth, const std::vector<PieceSize>& pieces) {
+PiecePlacer PlacerWith(Single usableWidth, const std::vector<PieceSize>& pieces) {
     PiecePlacer placer;
     placer.Clear(usableWidth);
     for (const PieceSize& piece : pieces) {
@@ -54,7 +47,7 @@ Box Last(const PiecePlacer& placer) {
 }
 
 TEST(Place, TheFirstPieceGoesToTheStartOfTheRoll) {
-    const PiecePlacer placer = Placed(144, {{60, 100}});
+    const PiecePlacer placer = PlacerWith(144, {{60, 100}});
     EXPECT_EQ(Last(placer), (Box{0, 0, 60, 100}));
     EXPECT_EQ(Corners(placer), (std::vector<Point>{{60, 0}, {0, 100}}));
 }
@@ -65,7 +58,7 @@ TEST(Place, TheFirstPieceGoesToTheStartOfTheRoll) {
 //   |      |          +----+ 50
 // 100+------+
 TEST(Place, APieceAloneOnItsRowIsPushedToTheFarEdge) {
-    const PiecePlacer placer = Placed(144, {{60, 100}, {44, 50}});
+    const PiecePlacer placer = PlacerWith(144, {{60, 100}, {44, 50}});
     EXPECT_EQ(Last(placer), (Box{100, 0, 144, 50}));
     EXPECT_EQ(Corners(placer), (std::vector<Point>{{144, 0}, {60, 50}, {0, 100}}));
 }
@@ -75,17 +68,17 @@ TEST(Place, APieceAloneOnItsRowIsPushedToTheFarEdge) {
 //   |  0  |           | 1  | 30
 // 60|     +---+-------+----+    2 takes (40, 30) and is pushed; 3 finds 2 on its row
 TEST(Place, APieceWithAnotherToItsRightStaysAtItsCorner) {
-    const PiecePlacer placer = Placed(144, {{40, 60}, {44, 30}, {50, 20}, {50, 20}});
+    const PiecePlacer placer = PlacerWith(144, {{40, 60}, {44, 30}, {50, 20}, {50, 20}});
     EXPECT_EQ(placer.Boxes()[2], (Box{94, 30, 144, 50}));
     EXPECT_EQ(Last(placer), (Box{94, 50, 144, 70})) << "its corner (40, 50) has a free row";
     // Beside a piece that stands left of the edge there is one to the right.
-    const PiecePlacer beside = Placed(144, {{40, 60}, {104, 20}, {30, 40}, {60, 30}});
+    const PiecePlacer beside = PlacerWith(144, {{40, 60}, {104, 20}, {30, 40}, {60, 30}});
     EXPECT_EQ(beside.Boxes()[2], (Box{114, 20, 144, 60}));
     EXPECT_EQ(Last(beside), (Box{0, 60, 60, 90}));
 }
 
 TEST(Place, APieceThatFillsTheRestExactlyTouchesTheFarEdge) {
-    EXPECT_EQ(Last(Placed(144, {{60, 100}, {84, 100}})), (Box{60, 0, 144, 100}));
+    EXPECT_EQ(Last(PlacerWith(144, {{60, 100}, {84, 100}})), (Box{60, 0, 144, 100}));
 }
 
 // The strip of 12 x 168 has a free row at its corner (72, 120), but the far edge is taken lower
@@ -93,7 +86,7 @@ TEST(Place, APieceThatFillsTheRestExactlyTouchesTheFarEdge) {
 TEST(Place, APushIntoAPieceThatBeginsLowerDownIsNotMade) {
     const std::vector<PieceSize> rooms{{36, 132}, {48, 120}, {72, 60}, {36, 96},
                                        {36, 84},  {24, 120}, {12, 168}};
-    const PiecePlacer placer = Placed(144, rooms);
+    const PiecePlacer placer = PlacerWith(144, rooms);
     const Box strip = Last(placer);
     for (std::size_t i = 0; i + 1 < placer.Boxes().size(); ++i) {
         EXPECT_FALSE(Overlaps(strip, placer.Boxes()[i])) << i;
@@ -101,35 +94,36 @@ TEST(Place, APushIntoAPieceThatBeginsLowerDownIsNotMade) {
 }
 
 TEST(Place, APieceWiderThanTheUsableWidthGoesBehindEverything) {
-    const PiecePlacer placer = Placed(144, {{60, 100}, {145, 10}});
+    const PiecePlacer placer = PlacerWith(144, {{60, 100}, {145, 10}});
     EXPECT_EQ(Last(placer), (Box{0, 100, 145, 110}));
     EXPECT_EQ(Corners(placer), (std::vector<Point>{{60, 0}, {0, 100}, {0, 110}}))
         << "no corner is replaced, the point behind it is appended";
 }
 
 TEST(Place, APieceThatFitsNowhereTakesNoCorner) {
-    const PiecePlacer placer = Placed(142, {{144, 10}, {142, 10}});
+    const PiecePlacer placer = PlacerWith(142, {{144, 10}, {142, 10}});
     EXPECT_EQ(placer.Boxes()[0], (Box{0, 0, 144, 10}));
-    EXPECT_EQ(Corners(Placed(142, {{144, 10}})), (std::vector<Point>{{0, 0}, {0, 10}}))
+    EXPECT_EQ(Corners(PlacerWith(142, {{144, 10}})), (std::vector<Point>{{0, 0}, {0, 10}}))
         << "its corner was not taken";
     EXPECT_EQ(Last(placer), (Box{0, 10, 142, 20}));
 }
 
 TEST(Place, APieceTooWideByLessThanHalfAUnitFits) {
-    EXPECT_EQ(Corners(Placed(144, {{144.004F, 10}})), (std::vector<Point>{{144.004F, 0}, {0, 10}}));
-    EXPECT_EQ(Corners(Placed(144, {{144.01F, 10}})), (std::vector<Point>{{0, 0}, {0, 10}}));
+    EXPECT_EQ(Corners(PlacerWith(144, {{144.004F, 10}})),
+              (std::vector<Point>{{144.004F, 0}, {0, 10}}));
+    EXPECT_EQ(Corners(PlacerWith(144, {{144.01F, 10}})), (std::vector<Point>{{0, 0}, {0, 10}}));
 }
 
 TEST(Place, EqualCornersOfTwoPlacementsAreKeptOnce) {
     // The point below each of the two moves left to (0, 100).
-    EXPECT_EQ(Corners(Placed(144, {{72, 100}, {72, 100}})),
+    EXPECT_EQ(Corners(PlacerWith(144, {{72, 100}, {72, 100}})),
               (std::vector<Point>{{144, 0}, {0, 100}}));
 }
 
 TEST(Place, ThePointBesideMovesUpToThePieceAboveIt) {
     // 0: the left; 1: pushed to the edge, short; 2: at (0, 100), wider than 0: beside it there is
     // room up to the end of 1.
-    const PiecePlacer placer = Placed(144, {{60, 100}, {44, 50}, {110, 30}});
+    const PiecePlacer placer = PlacerWith(144, {{60, 100}, {44, 50}, {110, 30}});
     EXPECT_EQ(Last(placer), (Box{0, 100, 110, 130}));
     EXPECT_EQ(Corners(placer), (std::vector<Point>{{144, 0}, {60, 50}, {110, 50}, {0, 130}}));
 }
@@ -165,7 +159,7 @@ TEST(PlaceAll, EndsAsSoonAsTheBoundIsReached) {
 }
 
 TEST(PlaceAll, BeginsOnAnEmptyRoll) {
-    PiecePlacer placer = Placed(100, {{90, 90}});
+    PiecePlacer placer = PlacerWith(100, {{90, 90}});
     EXPECT_EQ(placer.PlaceAll({{144, 10}}, 144, 1000), 10);
     EXPECT_EQ(placer.Boxes().size(), 1U);
 }

@@ -4,12 +4,9 @@
 
 #include "engine/EngineTesting.h"
 #include "improve/ImproveFills.h"
+#include "improve/ImproveTesting.h"
 
 namespace tarn::testing {
-
-inline ImproveLimits Limits(std::int64_t steps) {
-    return {0, steps, 1};
-}
 
 /// The rules of a divided piece of at least 6 inches.
 inline constexpr ImproveRules SixInches{Units::Imperial, 6};
@@ -17,7 +14,7 @@ inline constexpr ImproveRules SixInches{Units::Imperial, 6};
 inline ImproveResult Improved(const SearchJob& job, const SearchResult& start,
                               const ImproveRules& rules = SixInches, std::int64_t steps = 500) {
     ImproveObserver nobody;
-    return ImproveFills(job, start, rules, Limits(steps), nobody);
+    return ImproveFills(job, start, rules, InSteps(steps), nobody);
 }
 
 /// The layout of one fill of that length, which begins `begin` inches behind the roll's start.

@@ -22,7 +22,7 @@ namespace {
 
 using testing::Divisible;
 using testing::Improved;
-using testing::Limits;
+using testing::InSteps;
 using testing::MakeJob;
 using testing::Searched;
 using testing::SixInches;
@@ -146,7 +146,7 @@ TEST(ImproveFills, KeepsRandomJobsWholeAndNeverMakesThemLonger) {
         const ImproveRules rules = RulesOf(plain);
         const SearchResult start = Searched(job);
         Stopper watcher;
-        const ImproveResult result = ImproveFills(job, start, rules, Limits(250), watcher);
+        const ImproveResult result = ImproveFills(job, start, rules, InSteps(250), watcher);
         const std::vector<Placed>& layout = result.Fills.Layout;
         if (!watcher.Told.empty()) {
             EXPECT_NEAR(watcher.Told.back().Best, Wide(LengthInUse(layout)), 0.005);
@@ -271,7 +271,7 @@ TEST(ImproveFills, AStartBetweenWholeUnitsIsComparedByItsTrueLength) {
     const testing::OneFill fill(133, 0.34F);
     Stopper watcher;
     const ImproveResult result =
-        ImproveFills(fill.Job, fill.Result, {Units::Imperial, 36}, Limits(500), watcher);
+        ImproveFills(fill.Job, fill.Result, {Units::Imperial, 36}, InSteps(500), watcher);
     ASSERT_FALSE(watcher.Told.empty());
     EXPECT_NEAR(watcher.Told.front().Best, 133.34, 0.001);
     EXPECT_TRUE(result.Improved) << "a bound of 133 is not its length";
@@ -303,7 +303,7 @@ TEST(ImproveFills, StoppedAtAnyMomentItKeepsTheBestSoFar) {
         SCOPED_TRACE(stop);
         Stopper stopper;
         stopper.StopAt = stop;
-        const ImproveResult result = ImproveFills(job, start, SixInches, Limits(400), stopper);
+        const ImproveResult result = ImproveFills(job, start, SixInches, InSteps(400), stopper);
         EXPECT_NEAR(Wide(result.Length), stopper.Told.back().Best, 0.001);
         EXPECT_EQ(FaultOf(result.Fills.Layout, job.RollWidth), "");
         EXPECT_LE(LengthInUse(result.Fills.Layout), LengthInUse(start.Layout));
@@ -315,14 +315,14 @@ TEST(ImproveFills, RaisesAnErrorOfTheObserver) {
     const SearchResult start = Searched(job);
     Stopper stopper;
     stopper.RaiseAt = 12;
-    EXPECT_THROW(ImproveFills(job, start, SixInches, Limits(400), stopper), std::runtime_error);
+    EXPECT_THROW(ImproveFills(job, start, SixInches, InSteps(400), stopper), std::runtime_error);
     EXPECT_EQ(stopper.Told.size(), 12U) << "and asks no more";
 }
 
 TEST(ImproveFills, TellsTheBestTheBoundAndWhatMayBeLeft) {
     const SearchJob job = FiveFills();
     Stopper watcher;
-    const ImproveResult result = ImproveFills(job, Searched(job), SixInches, Limits(400), watcher);
+    const ImproveResult result = ImproveFills(job, Searched(job), SixInches, InSteps(400), watcher);
     ASSERT_FALSE(watcher.Told.empty());
     Double best = Wide(result.StartLength);
     for (const ImproveProgress& progress : watcher.Told) {

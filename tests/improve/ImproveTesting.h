@@ -3,10 +3,12 @@
 #include "engine/EngineTesting.h"
 #include "improve/ImproveJob.h"
 #include "improve/ImproveLayout.h"
+#include "improve/ImproveRun.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstdint>
 #include <cstdlib>
 #include <random>
 #include <string>
@@ -23,6 +25,11 @@ inline unsigned JobsFactor() {
 
 /// Whatever it is told: an observer that stops nothing.
 inline constexpr auto GoOn = [](auto... /*told*/) { return true; };
+
+/// Limits in steps alone.
+inline ImproveLimits InSteps(std::int64_t steps, std::uint64_t seed = 1, std::size_t threads = 0) {
+    return {0, steps, seed, threads};
+}
 
 /// The merit of a layout that lies behind itself: worse than any.
 inline LayoutMerit Stacked(const ImproveJob& job) {

@@ -14,12 +14,9 @@ namespace {
 
 using testing::FaultOf;
 using testing::GoOn;
+using testing::InSteps;
 using testing::RandomFills;
 using testing::Stacked;
-
-ImproveLimits Steps(std::int64_t steps, std::size_t threads, std::uint64_t seed = 1) {
-    return {0, steps, seed, threads};
-}
 
 ImproveLimits Seconds(Double seconds, std::size_t threads) {
     return {seconds, 0, 1, threads};
@@ -47,7 +44,7 @@ TEST(ImproveThreads, TheSameSeedStepsAndThreadsGiveTheSameLayout) {
         const ImproveJob job = JobNumber(number);
         SCOPED_TRACE(testing::Describe(job));
         for (const std::size_t threads : {1U, 2U, 3U}) {
-            const ImproveLimits limits = Steps(901, threads, number);
+            const ImproveLimits limits = InSteps(901, number, threads);
             const ImproveOutcome first = ImproveOnThreads(job, Stacked(job), limits, GoOn);
             const ImproveOutcome again = ImproveOnThreads(job, Stacked(job), limits, GoOn);
             ExpectSound(job, first);
@@ -67,8 +64,8 @@ TEST(ImproveThreads, TheSameSeedStepsAndThreadsGiveTheSameLayout) {
 
 TEST(ImproveThreads, OneThreadIsTheSearchItself) {
     const ImproveJob job = JobNumber(4);
-    const ImproveOutcome outcome = ImproveOnThreads(job, Stacked(job), Steps(700, 1, 3), GoOn);
-    ImproveRun run(job, Stacked(job), Steps(700, 1, 3), GoOn);
+    const ImproveOutcome outcome = ImproveOnThreads(job, Stacked(job), InSteps(700, 3, 1), GoOn);
+    ImproveRun run(job, Stacked(job), InSteps(700, 3, 1), GoOn);
     Improve(run, 3);
     EXPECT_EQ(outcome.Best.Length, run.Best().Length);
     EXPECT_EQ(outcome.Best.Parts, run.Best().Parts);
@@ -93,7 +90,7 @@ TEST(ImproveThreads, NoProvenLeastIsUndercutByAnotherSeed) {
         const ImproveOutcome outcome = ImproveOnThreads(job, Stacked(job), Seconds(0.3, 3), GoOn);
         proven += outcome.Bound() == outcome.Best.Length ? 1 : 0;
         for (std::uint64_t seed = 1; seed <= 3; ++seed) {
-            ImproveRun run(job, Stacked(job), Steps(3000, 1, seed), GoOn);
+            ImproveRun run(job, Stacked(job), InSteps(3000, seed, 1), GoOn);
             Improve(run, seed);
             EXPECT_GE(run.Best().Length, outcome.Bound());
             EXPECT_LE(run.Bound(), outcome.Best.Length);
@@ -133,7 +130,7 @@ ImproveJob Endless() {
 
 TEST(ImproveThreads, TheCallerStopsThemAll) {
     const ImproveJob job = Endless();
-    for (const ImproveLimits& limits : {Seconds(0, 3), Steps(50'000'000, 3)}) {
+    for (const ImproveLimits& limits : {Seconds(0, 3), InSteps(50'000'000, 1, 3)}) {
         int asked = 0;
         const ImproveOutcome outcome =
             ImproveOnThreads(job, Stacked(job), limits, [&](Long, Long) { return ++asked < 200; });
@@ -157,12 +154,12 @@ TEST(ImproveThreads, AnErrorOfTheCallerStopsThemAll) {
 
 TEST(ImproveThreads, MoreThreadsThanStepsAreNoTrouble) {
     const ImproveJob job = JobNumber(2);
-    ExpectSound(job, ImproveOnThreads(job, Stacked(job), Steps(2, 5), GoOn));
+    ExpectSound(job, ImproveOnThreads(job, Stacked(job), InSteps(2, 1, 5), GoOn));
 }
 
 TEST(ImproveThreads, StepsTakeOneThreadUnlessMoreAreAskedFor) {
-    EXPECT_EQ(ThreadsFor(Steps(100, 0)), 1U);
-    EXPECT_EQ(ThreadsFor(Steps(100, 4)), 4U);
+    EXPECT_EQ(ThreadsFor(InSteps(100)), 1U);
+    EXPECT_EQ(ThreadsFor(InSteps(100, 1, 4)), 4U);
     EXPECT_EQ(ThreadsFor(Seconds(1, 3)), 3U);
     EXPECT_EQ(ThreadsFor(Seconds(1, 100)), MostThreads);
     EXPECT_GE(ThreadsFor(Seconds(1, 0)), 1U);

@@ -16,14 +16,11 @@ namespace {
 
 using testing::FaultOf;
 using testing::GoOn;
+using testing::InSteps;
 using testing::RandomFills;
 using testing::Stacked;
 
-constexpr std::int64_t Steps = 400;
-
-ImproveLimits Limits(std::int64_t steps, std::uint64_t seed = 1) {
-    return {0, steps, seed};
-}
+constexpr std::int64_t FewSteps = 400;
 
 /// Whether two runs found the very same layout.
 void ExpectSame(const ImproveRun& a, const ImproveRun& b) {
@@ -49,7 +46,7 @@ TEST_P(ImproverByParts, FindsWholeLayoutsNotBelowTheBound) {
         std::mt19937 random(seed);
         const ImproveJob job = RandomFills(random, 25, 24, GetParam(), 60);
         SCOPED_TRACE(testing::Describe(job));
-        ImproveRun run(job, Stacked(job), Limits(Steps), GoOn);
+        ImproveRun run(job, Stacked(job), InSteps(FewSteps), GoOn);
         Improve(run, seed);
         ASSERT_FALSE(run.BestParts().empty());
         EXPECT_EQ(FaultOf(job, run.BestParts()), "");
@@ -59,7 +56,7 @@ TEST_P(ImproverByParts, FindsWholeLayoutsNotBelowTheBound) {
         EXPECT_EQ(merit.FreeEnd, run.Best().FreeEnd);
         EXPECT_GE(run.Bound(), QuickBound(job));
         EXPECT_LE(run.Bound(), merit.Length);
-        EXPECT_LE(run.Steps(), Steps);
+        EXPECT_LE(run.Steps(), FewSteps);
     }
 }
 
@@ -70,7 +67,7 @@ TEST_P(ImproverByParts, FindsTheLeastLengthOfSmallJobs) {
         const ImproveJob job = testing::SmallFills(random, GetParam());
         SCOPED_TRACE(testing::Describe(job));
         const Long least = testing::LeastLength::Of(job);
-        ImproveRun run(job, Stacked(job), Limits(5000), GoOn);
+        ImproveRun run(job, Stacked(job), InSteps(5000), GoOn);
         Improve(run, seed);
         EXPECT_EQ(run.Best().Length, least);
         EXPECT_LE(run.Bound(), least);
@@ -82,7 +79,7 @@ TEST_P(ImproverByParts, SameSeedAndStepsGiveTheSameLayout) {
         SCOPED_TRACE(seed);
         std::mt19937 random(seed);
         const ImproveJob job = RandomFills(random, 25, 24, GetParam(), 60);
-        const ImproveLimits limits = Limits(Steps + seed, seed);
+        const ImproveLimits limits = InSteps(FewSteps + seed, seed);
         ImproveRun first(job, Stacked(job), limits, GoOn);
         Improve(first, seed);
         // The second one is slow, and asked at other times.
@@ -102,7 +99,7 @@ TEST_P(ImproverByParts, StoppedAtAnyMomentItHoldsAWholeLayout) {
     for (int stop = 1; wasStopped; ++stop) {
         int asked = 0;
         Long told = Stacked(job).Length;
-        ImproveRun run(job, Stacked(job), Limits(Steps), [&](Long best, Long bound) {
+        ImproveRun run(job, Stacked(job), InSteps(FewSteps), [&](Long best, Long bound) {
             EXPECT_LE(bound, best);
             EXPECT_LE(best, told);
             told = best;
@@ -123,7 +120,7 @@ TEST(Improver, AnErrorOfTheCallerLeavesTheBestLayoutWhole) {
     std::mt19937 random(7);
     const ImproveJob job = RandomFills(random, 20, 24, 3, 60);
     int asked = 0;
-    ImproveRun run(job, Stacked(job), Limits(Steps), [&](Long, Long) {
+    ImproveRun run(job, Stacked(job), InSteps(FewSteps), [&](Long, Long) {
         if (++asked == 9) {
             throw std::runtime_error("the caller's own");
         }
@@ -176,7 +173,7 @@ TEST(Improver, SavesJoinsOfAStartThatIsTheLeast) {
     const ImproveJob job{
         12, 2, 1, 100, {{6, 20, 4}, {6, 10, 4}, {12, 5, 4}, {4, 30, 4}, {2, 24, 4}}};
     const Long least = QuickBound(job);
-    ImproveRun run(job, {least, 12, 0}, Limits(60000), GoOn);
+    ImproveRun run(job, {least, 12, 0}, InSteps(60000), GoOn);
     Improve(run, 1);
     EXPECT_EQ(run.Best().Length, least);
     EXPECT_LT(run.Best().Parts, 12);
@@ -196,7 +193,7 @@ TEST(Improver, OfEqualJoinsTheLargerFreeEndWins) {
 
 TEST(Improver, NeverLaysMorePartsThanThereIsRoomFor) {
     const ImproveJob job{12, 1, 1, 1, {{4, 30, 3}}};
-    ImproveRun run(job, {31, 1, 0}, Limits(Steps), GoOn);
+    ImproveRun run(job, {31, 1, 0}, InSteps(FewSteps), GoOn);
     Improve(run, 1);
     EXPECT_EQ(run.Best().Length, 30) << "10 would take three parts";
 }
@@ -211,13 +208,13 @@ TEST(Improver, SavesJoinsOfAStartThatIsTheLeastWithoutAProof) {
     for (unsigned seed = 1; seed <= Jobs; ++seed) {
         std::mt19937 random(seed);
         const ImproveJob job = RandomFills(random, 14, 24, 2, 60);
-        ImproveRun first(job, Stacked(job), Limits(60000), GoOn);
+        ImproveRun first(job, Stacked(job), InSteps(60000), GoOn);
         Improve(first, seed);
         if (first.IsLeast()) {
             continue;
         }
         ++unproven;
-        ImproveRun run(job, {first.Best().Length, 1000, 0}, Limits(60000), GoOn);
+        ImproveRun run(job, {first.Best().Length, 1000, 0}, InSteps(60000), GoOn);
         Improve(run, seed);
         if (!run.BestParts().empty()) {
             ++saved;
@@ -234,7 +231,7 @@ TEST(Shorten, OffersWhatIsAsShortAsTheBestInFewerParts) {
     PartPlan plan(job);
     plan.Begin(0, {});
     const auto length = static_cast<Long>(plan.Length(LongestRoll));
-    ImproveRun run(job, {length, 1000, 0}, Limits(Steps), GoOn);
+    ImproveRun run(job, {length, 1000, 0}, InSteps(FewSteps), GoOn);
     RandomSteps steps(1);
     Shorten(run, plan, {0, {}, length}, 50, steps);
     EXPECT_FALSE(run.BestParts().empty());
@@ -256,7 +253,7 @@ TEST(ImproveRun, AsksAfterALongStepToo) {
 TEST(ImproveRun, TellsAGainOfTheLastStep) {
     const ImproveJob job{12, 1, 1, 1, {{4, 30, 1}}};
     Long told = 0;
-    ImproveRun run(job, {31, 1, 0}, Limits(1), [&](Long best, Long) {
+    ImproveRun run(job, {31, 1, 0}, InSteps(1), [&](Long best, Long) {
         told = best;
         return true;
     });
@@ -267,7 +264,7 @@ TEST(ImproveRun, TellsAGainOfTheLastStep) {
 
 TEST(PackBelow, IsNotDoneByALayoutOfTooManyParts) {
     const ImproveJob job{12, 1, 1, 1, {{4, 30, 3}}};
-    ImproveRun run(job, {31, 1, 0}, Limits(Steps), GoOn);
+    ImproveRun run(job, {31, 1, 0}, InSteps(FewSteps), GoOn);
     PartPlan plan(job);
     RandomSteps random(1);
     std::size_t packed = 0;

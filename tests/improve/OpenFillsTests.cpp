@@ -11,9 +11,9 @@ namespace {
 using testing::Between;
 
 /// The same questions, answered from the rules of a turn by looking at every fill.
-class Plain {
+class PlainOpenFills {
   public:
-    Plain(const ImproveJob& job, const PartTurns& turns)
+    PlainOpenFills(const ImproveJob& job, const PartTurns& turns)
         : job_(job)
         , turns_(turns) {}
 
@@ -103,7 +103,7 @@ TEST_P(OpenFillsAgainstPlain, AnswersTheSame) {
         job.Width *= unit;
         PartTurns turns(job);
         OpenFills open(job);
-        const Plain plain(job, turns);
+        const PlainOpenFills plain(job, turns);
         RandomSteps steps(seed);
         turns.Begin(steps.Below(turns.Orders()));
         for (int change = 0; change < 200; ++change) {

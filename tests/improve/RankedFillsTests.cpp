@@ -12,9 +12,9 @@ namespace {
 using testing::Between;
 
 /// The same questions, answered by looking at every rank.
-class Plain {
+class PlainRankedFills {
   public:
-    Plain(const ImproveJob& job, std::vector<std::size_t> order)
+    PlainRankedFills(const ImproveJob& job, std::vector<std::size_t> order)
         : Order(std::move(order))
         , job_(job) {}
 
@@ -96,7 +96,7 @@ TEST_P(RankedFillsAgainstPlain, AnswersTheSame) {
         std::iota(order.begin(), order.end(), std::size_t{0});
         RankedFills fills(job);
         fills.Rank(order);
-        Plain plain(job, order);
+        PlainRankedFills plain(job, order);
         const auto count = static_cast<Long>(order.size());
         for (int step = 0; step < 100; ++step) {
             const auto a = static_cast<std::size_t>(Between(random, 0, count - 1));
