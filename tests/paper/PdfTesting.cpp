@@ -73,22 +73,29 @@ QString Pdf::Text() const {
 }
 
 std::vector<PdfWord> Pdf::Words(int page) const {
-    const QString number = QString::number(page);
-    const QString boxes =
-        Run(S("pdftotext"), {S("-bbox"), S("-f"), number, S("-l"), number, Path(), S("-")});
-    static const QRegularExpression Word(
-        S(R"re(<word xMin="(.*?)" yMin="(.*?)" xMax="(.*?)" yMax="(.*?)">(.*?)</word>)re"));
-    std::vector<PdfWord> words;
-    for (auto match = Word.globalMatch(boxes); match.hasNext();) {
+    if (words_.empty()) {
+        ReadWords();
+    }
+    return words_.at(static_cast<std::size_t>(page) - 1);
+}
+
+void Pdf::ReadWords() const {
+    static const QRegularExpression PageOrWord(
+        S(R"re(<page |<word xMin="(.*?)" yMin="(.*?)" xMax="(.*?)" yMax="(.*?)">(.*?)</word>)re"));
+    const QString boxes = Run(S("pdftotext"), {S("-bbox"), Path(), S("-")});
+    for (auto match = PageOrWord.globalMatch(boxes); match.hasNext();) {
         const auto word = match.next();
+        if (!word.hasCaptured(1)) {
+            words_.emplace_back();
+            continue;
+        }
         const auto number4 = [&word](int i) { return word.captured(i).toDouble(); };
         QString text = word.captured(5);
         text.replace(S("&quot;"), S("\"")).replace(S("&apos;"), S("'"));
         text.replace(S("&lt;"), S("<")).replace(S("&gt;"), S(">")).replace(S("&amp;"), S("&"));
-        words.push_back(
+        words_.back().push_back(
             {text, QRectF(QPointF(number4(1), number4(2)), QPointF(number4(3), number4(4)))});
     }
-    return words;
 }
 
 QImage Pdf::Image(int page, int dotsPerInch) const {

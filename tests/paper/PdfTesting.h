@@ -44,11 +44,13 @@ class Pdf {
     QImage Image(int page, int dotsPerInch) const;
 
   private:
+    void ReadWords() const;
     QString Run(const QString& program, const QStringList& arguments) const;
     QString Path() const { return directory_.filePath(QStringLiteral("document.pdf")); }
 
     QTemporaryDir directory_;
-    QStringList pages_; ///< the text of each
+    QStringList pages_;                               ///< the text of each
+    mutable std::vector<std::vector<PdfWord>> words_; ///< of each, when they were asked for
 };
 
 /// The words of a text, parted by one blank each.
