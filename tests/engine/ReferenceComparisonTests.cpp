@@ -71,7 +71,7 @@ void Compare(const PlainJob& plain) {
 }
 
 /// The plain search is slow under the sanitizers, which look for other faults than the comparison.
-constexpr std::uint32_t UsualJobsInBlock = testing::UnlessSanitized(500U, 40U);
+constexpr std::uint32_t UsualJobsInBlock = testing::UnlessSanitized(400U, 40U);
 
 /// TARN_JOBS times as many where that is set, such as by ./dev prove.
 std::uint32_t JobsInBlock() {

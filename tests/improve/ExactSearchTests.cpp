@@ -41,7 +41,7 @@ ImproveJob FewFills(std::mt19937& random, int most) {
 }
 
 TEST(ExactSearch, DecidesAsTryingEveryPlaceDoes) {
-    constexpr unsigned Jobs = testing::UnlessSanitized(200U, 20U);
+    constexpr unsigned Jobs = testing::UnlessSanitized(50U, 20U);
     constexpr int MostFills = testing::UnlessSanitized(7, 6);
     for (unsigned seed = 1; seed <= Jobs * testing::JobsFactor(); ++seed) {
         std::mt19937 random(seed);

@@ -200,9 +200,9 @@ TEST(Improver, NeverLaysMorePartsThanThereIsRoomFor) {
 
 // Where no bound proves that the start is the least, its joins are looked for all the same.
 TEST(Improver, SavesJoinsOfAStartThatIsTheLeastWithoutAProof) {
-    constexpr unsigned Jobs = testing::UnlessSanitized(60U, 3U); // one takes over a second then
+    constexpr unsigned Jobs = testing::UnlessSanitized(40U, 3U); // one takes over a second then
     constexpr double LeastShare = 0.5;                           // four in five of very many
-    constexpr int LeastUnproven = testing::UnlessSanitized(6, 1);
+    constexpr int LeastUnproven = testing::UnlessSanitized(4, 1);
     int unproven = 0;
     int saved = 0;
     for (unsigned seed = 1; seed <= Jobs; ++seed) {

@@ -71,8 +71,11 @@ std::vector<PdfWord> LineAt(const std::vector<PdfWord>& words, double y) {
 std::vector<ReadCut> CutsOn(const Pdf& pdf, int page, Units units) {
     const auto words = pdf.Words(page);
     const auto head = std::find_if(words.begin(), words.end(), [&](const PdfWord& word) {
+        if (word.Text != S("Cut")) {
+            return false;
+        }
         const auto line = LineAt(words, word.Box.top());
-        return word.Text == S("Cut") && line.size() > 4 && line[1].Text == S("From");
+        return line.size() > 4 && line[1].Text == S("From");
     });
     std::vector<ReadCut> cuts;
     if (head == words.end()) {
@@ -105,13 +108,15 @@ class PaperRoll {
         ASSERT_TRUE(cut.Across >= 0 && cut.Across + cut.Width <= width_ && cut.From >= 0 &&
                     cut.To <= length_ && cut.To - cut.From == cut.Length)
             << cut.Label.toStdString();
+        const auto width = static_cast<std::size_t>(cut.Width);
         for (Long y = cut.From; y < cut.To; ++y) {
-            const auto begin =
-                paper_.begin() + static_cast<std::ptrdiff_t>(y) * width_ + cut.Across;
-            const auto end = begin + cut.Width;
-            ASSERT_EQ(std::find(begin, end, '\0'), end)
+            const std::size_t begin =
+                static_cast<std::size_t>(y) * static_cast<std::size_t>(width_) +
+                static_cast<std::size_t>(cut.Across);
+            ASSERT_EQ(std::string_view(paper_).substr(begin, width).find('\0'),
+                      std::string_view::npos)
                 << cut.Label.toStdString() << " is gone already";
-            std::fill(begin, end, '\0');
+            paper_.replace(begin, width, width, '\0');
         }
     }
 

@@ -16,10 +16,6 @@ Pdf::Pdf(const std::string& content) {
     QFile file(Path());
     EXPECT_TRUE(file.open(QIODevice::WriteOnly));
     EXPECT_EQ(file.write(QByteArray::fromStdString(content)), static_cast<qint64>(content.size()));
-    file.close();
-    // Each page ends with a form feed.
-    pages_ = Run(S("pdftotext"), {S("-layout"), Path(), S("-")}).split(u'\f');
-    pages_.removeLast();
 }
 
 QString Pdf::Run(const QString& program, const QStringList& arguments) const {
@@ -43,6 +39,13 @@ QString Pdf::InfoOf(const char* key) const {
     return {};
 }
 
+int Pdf::Pages() const {
+    if (count_ == 0) {
+        count_ = InfoOf("Pages").toInt();
+    }
+    return count_;
+}
+
 QSizeF Pdf::PageSize() const {
     const QStringList words = InfoOf("Page size").split(u' ');
     if (words.size() < 3) {
@@ -62,6 +65,15 @@ int Pdf::Images() const {
     return static_cast<int>(list.split(u'\n', Qt::SkipEmptyParts).size()) - 2;
 }
 
+const QStringList& Pdf::Layouts() const {
+    if (layouts_.isEmpty()) {
+        // Each page ends with a form feed.
+        layouts_ = Run(S("pdftotext"), {S("-layout"), Path(), S("-")}).split(u'\f');
+        layouts_.removeLast();
+    }
+    return layouts_;
+}
+
 QString Pdf::FixedPitchLayout(int page, double advance) const {
     const QString number = QString::number(page);
     return Run(S("pdftotext"), {S("-fixed"), QString::number(advance), S("-f"), number, S("-l"),
@@ -69,7 +81,7 @@ QString Pdf::FixedPitchLayout(int page, double advance) const {
 }
 
 QString Pdf::Text() const {
-    return pages_.join(u' ').simplified();
+    return Layouts().join(u' ').simplified();
 }
 
 std::vector<PdfWord> Pdf::Words(int page) const {

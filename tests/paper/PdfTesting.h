@@ -24,7 +24,7 @@ class Pdf {
   public:
     explicit Pdf(const std::string& content);
 
-    int Pages() const { return static_cast<int>(pages_.size()); }
+    int Pages() const;
     /// Points, as the page is shown.
     QSizeF PageSize() const;
     QString InfoOf(const char* key) const;
@@ -32,7 +32,7 @@ class Pdf {
     QStringList Fonts() const;
     int Images() const;
     /// The text of one page (from 1), laid out as on the page.
-    QString Layout(int page) const { return pages_.at(page - 1); }
+    QString Layout(int page) const { return Layouts().at(page - 1); }
     /// The text of one page (from 1) in letters that are all that wide, points: every blank between
     /// its first and its last column is there.
     QString FixedPitchLayout(int page, double advance) const;
@@ -44,13 +44,16 @@ class Pdf {
     QImage Image(int page, int dotsPerInch) const;
 
   private:
+    const QStringList& Layouts() const;
     void ReadWords() const;
     QString Run(const QString& program, const QStringList& arguments) const;
     QString Path() const { return directory_.filePath(QStringLiteral("document.pdf")); }
 
     QTemporaryDir directory_;
-    QStringList pages_;                               ///< the text of each
-    mutable std::vector<std::vector<PdfWord>> words_; ///< of each, when they were asked for
+    // What was asked for, kept: it takes a process each time.
+    mutable int count_ = 0;
+    mutable QStringList layouts_;                     ///< of each page
+    mutable std::vector<std::vector<PdfWord>> words_; ///< of each page
 };
 
 /// The words of a text, parted by one blank each.

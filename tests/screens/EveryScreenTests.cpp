@@ -321,7 +321,7 @@ void ExpectControlsWithinTheirParents(const std::string& where, const ScreenWind
 void ExpectRestAtEveryWidth(const std::string& state, ScreenWindow& window) {
     constexpr int Narrowest = 800;
     constexpr int Widest = 1920;
-    constexpr int Step = UnlessSanitized(64, 560);
+    constexpr int Step = UnlessSanitized(112, 560);
     constexpr int MostLayouts = 40; // of a change that comes to rest
     LayoutCount layouts(*window.Front()->findChild<QScrollArea*>()->widget());
     for (int way = -Widest; way <= Widest; way += Step) {
