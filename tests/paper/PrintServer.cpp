@@ -4,6 +4,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QLocalSocket>
 #include <QTcpServer>
 #include <QTcpSocket>
 #include <QTest>
@@ -127,10 +128,13 @@ int FreePort() {
     return server.serverPort();
 }
 
-bool Answers(int port) {
+/// Whether a server answers at both: it opens one after the other.
+bool Answers(int port, const QString& path) {
     QTcpSocket socket;
     socket.connectToHost(QHostAddress(QHostAddress::LocalHost), static_cast<quint16>(port));
-    return socket.waitForConnected(PatienceMs);
+    QLocalSocket local;
+    local.connectToServer(path);
+    return socket.waitForConnected(PatienceMs) && local.waitForConnected(PatienceMs);
 }
 
 /// What libcups has of a queue; empty when nothing.
@@ -259,7 +263,7 @@ bool PrintServer::Start() {
     }
     const int port = address_.section(u':', 1).toInt();
     return QTest::qWaitFor(
-               [&] { return process_.state() == QProcess::NotRunning || Answers(port); },
+               [&] { return process_.state() == QProcess::NotRunning || Answers(port, Socket()); },
                PatienceMs) &&
            process_.state() == QProcess::Running;
 }
